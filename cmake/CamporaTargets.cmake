@@ -22,8 +22,7 @@ function(campora_library name)
     set(sources "${PROJECT_BINARY_DIR}/generated/empty.cpp")
     file(CONFIGURE OUTPUT "${sources}" CONTENT "// Stands in for a library without sources.\n")
   endif()
-  # The headers are named as sources as well: AUTOMOC does not look into file sets.
-  add_library(${name} STATIC ${sources} ${headers})
+  add_library(${name} STATIC ${sources})
   target_sources(${name} PUBLIC FILE_SET HEADERS
     BASE_DIRS "${PROJECT_SOURCE_DIR}/src" FILES ${headers})
   target_include_directories(${name} PUBLIC
