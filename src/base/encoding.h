@@ -1,0 +1,29 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace campora {
+
+[[nodiscard]] bool isUtf8(std::string_view bytes);
+
+/// Windows-1252 to UTF-8; the five bytes that the code page leaves open become U+FFFD.
+[[nodiscard]] std::string fromWindows1252(std::string_view bytes);
+
+/// UTF-8 to Windows-1252; a character that the code page lacks becomes "?", and so does each byte
+/// that is not UTF-8.
+[[nodiscard]] std::string toWindows1252(std::string_view text);
+
+/// Text of a file of unknown origin: UTF-8 when it is valid UTF-8 (a leading byte-order mark is
+/// dropped), Windows-1252 otherwise.
+[[nodiscard]] std::string decodeText(std::string_view bytes);
+
+/// As `decodeText` for a part of a file whose encoding is already known (`utf8`: see `isUtf8` of
+/// the whole file). A part that was cut inside a character is read as Windows-1252 all the same.
+[[nodiscard]] std::string decodeText(std::string_view bytes, bool utf8);
+
+}  // namespace campora
