@@ -1,0 +1,20 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "base/texts.h"
+#include "colour/color_scale.h"
+#include "model/map_style.h"
+#include "platform/main_window_controls.h"
+#include "platform/user_locale.h"
+
+namespace campora {
+
+/// The rows of the legend for the current style: the classes with their bounds (dates for a date
+/// scale, one value for a single-value class) while a scale is shown, the two alarm colours in the
+/// alarm map, the error sample in the error map, and the plain colours of the map.
+[[nodiscard]] LegendContent legendContent(const MapStyle& style, const Texts& texts,
+                                          const UserLocale& locale);
+
+}  // namespace campora

@@ -1,0 +1,42 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "colour/color_scale.h"
+#include "model/bounding_box.h"
+#include "model/file_properties.h"
+#include "model/gph.h"
+
+namespace campora {
+
+/// An entry of the file list: it owns its layers, its summary and its scale.
+class File {
+public:
+    virtual ~File() = default;
+
+    [[nodiscard]] virtual std::string File_name() const = 0;
+    /// The path for comparing and showing.
+    [[nodiscard]] virtual std::string File_path() const = 0;
+    /// The path as it was opened, for reading or deleting the file.
+    [[nodiscard]] virtual std::string File_diskPath() const = 0;
+    [[nodiscard]] virtual bool File_visible() const = 0;
+    /// Key of the image in the list ("rptfile", "nbrfile"...); an empty one is shown as "copy".
+    [[nodiscard]] virtual std::string File_icon() const = 0;
+    /// The file's own scale, or null.
+    [[nodiscard]] virtual ColorScale* File_escalaColores() = 0;
+    [[nodiscard]] virtual FileProperties& File_resumen() = 0;
+    [[nodiscard]] virtual const BoundingBox& File_bound() const = 0;
+    /// The layers, first drawn first; they live as long as the file.
+    [[nodiscard]] virtual std::vector<Gph*> File_gphList() const = 0;
+    /// Identity of the work; an empty one is never a duplicate.
+    [[nodiscard]] virtual std::string File_id() const = 0;
+    /// Of two files with one identity the one with the higher priority stays.
+    [[nodiscard]] virtual std::int32_t File_priority() const = 0;
+};
+
+}  // namespace campora

@@ -1,0 +1,70 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+#include "base/color.h"
+#include "colour/color_scale.h"
+
+namespace campora {
+
+/// The user's colours of the map.
+struct MapColors {
+    Color draw{0xFF8080};
+    Color noDraw{0x40FF00};
+    Color back{0xFFFFFF};
+    Color fore{0x000000};
+    Color alarm{0x0000FF};
+    Color noAlarm{0x00FF00};
+    Color shape{0x00FF00};
+    Color lote{0x00FFFF};
+
+    bool operator==(const MapColors&) const = default;
+};
+
+enum class ColorMode { Dose, Alarm, Date, Error };
+enum class GraduatedBy { Hectare, Minute };
+enum class WorkKind : unsigned char { Seeder = 0, Sprayer = 1, OlderForm = 2 };
+
+/// Everything that decides how layers look. Menus and options change it, records and layers read
+/// it.
+struct MapStyle {
+    MapColors colors;
+    /// Also draw and export steps without flow.
+    bool drawAll = true;
+    /// Steps without flow as a dotted centreline.
+    bool drawDotted = false;
+    /// Outlines in the canvas's own pen colour instead of the fill colour.
+    bool drawBorders = true;
+
+    ColorMode mode = ColorMode::Dose;
+    bool graduated = true;
+    GraduatedBy by = GraduatedBy::Hectare;
+    /// Channel that colours records with several; -1 is the total.
+    int selectedChannel = -1;
+    /// Percentage from which a record counts as in error.
+    float errorLimit = 10;
+    Color errorSample{0xFF00FF};
+    /// Selected alarms, a bit each: seeders and older reports, sprayers.
+    std::array<std::uint32_t, 2> alarmSelection{0xFFFFFFFFU, 0xFFFFFFFFU};
+    /// The scale in the legend; not owned; may be null when no scale is shown.
+    const ColorScale* scale = nullptr;
+
+    /// Whether the legend shows a scale beside the map, whose colours records then take.
+    [[nodiscard]] bool scaleShown() const {
+        return scale != nullptr && (graduated || mode != ColorMode::Dose);
+    }
+    /// The selection for machines of that kind, a bit an alarm.
+    [[nodiscard]] std::uint32_t checkedAlarms(WorkKind kind) const {
+        return alarmSelection[kind == WorkKind::Sprayer ? 1 : 0];
+    }
+    [[nodiscard]] bool isAlarmChecked(WorkKind kind, int bit) const {
+        return bit >= 0 && bit < 32 &&
+               ((checkedAlarms(kind) >> static_cast<unsigned>(bit)) & 1U) != 0;
+    }
+};
+
+}  // namespace campora

@@ -1,0 +1,20 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <span>
+
+#include "base/lon_lat.h"
+
+namespace campora {
+
+/// Area of a closed ring in square metres, never negative. `ring`: degrees, first point not
+/// repeated, either direction; fewer than three points give 0. Shoelace sum in single precision
+/// with each vertex's own cosine.
+[[nodiscard]] float polygonArea(std::span<const LonLat> ring);
+
+/// Even-odd test with a ray towards increasing x; horizontal edges do not count. `ring` as above.
+[[nodiscard]] bool pointInRing(std::span<const LonLat> ring, LonLat point);
+
+}  // namespace campora

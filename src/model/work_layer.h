@@ -1,0 +1,21 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "model/gph.h"
+
+namespace campora {
+
+/// A layer of recorded work, as far as a file group deals with it.
+class WorkLayer : public Gph {
+public:
+    /// Hectares worked with an error above `limit` percent in the channel that `style` selects.
+    [[nodiscard]] virtual float getHectareasError(const MapStyle& style, float limit) const = 0;
+    /// Sets every alarm word to 0.
+    virtual void clearAlarmas() = 0;
+    /// Gives every record this swath width in metres.
+    virtual void trocha(float metres) = 0;
+};
+
+}  // namespace campora

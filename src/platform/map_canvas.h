@@ -1,0 +1,81 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+#include "base/color.h"
+
+namespace campora {
+
+/// A position on the map canvas in canvas units (1/1440 inch; 15 are one logical pixel); y grows
+/// downwards from the top edge.
+struct CanvasPoint {
+    std::int32_t x = 0;
+    std::int32_t y = 0;
+
+    bool operator==(const CanvasPoint&) const = default;
+};
+
+struct CanvasSize {
+    std::int32_t width = 0;
+    std::int32_t height = 0;
+
+    bool operator==(const CanvasSize&) const = default;
+};
+
+enum class FillStyle { Solid, Transparent };
+enum class PenStyle { Solid, Dotted };
+enum class RectangleStyle { Outlined, Filled };
+enum class TextAnchor { TopLeft, TopCentre };
+enum class PointerShape { Arrow, Busy, Move, Crosshair, ZoomSelect };
+/// Pictures that the canvas can paint, besides what layers draw.
+enum class MapPicture { ArrowUp, ArrowDown, ArrowRight, ArrowLeft };
+
+/// The one surface on which layers and the view draw. What is drawn stays until `clear`.
+class MapCanvas {
+public:
+    virtual ~MapCanvas() = default;
+
+    [[nodiscard]] virtual CanvasSize size() const = 0;
+
+    /// Fills the canvas with the background colour.
+    virtual void clear() = 0;
+    virtual void setBackgroundColor(Color color) = 0;
+    [[nodiscard]] virtual Color backgroundColor() const = 0;
+
+    /// Colour of polygon outlines, points and text.
+    virtual void setPenColor(Color color) = 0;
+    [[nodiscard]] virtual Color penColor() const = 0;
+    /// Width of lines and outlines in pixels, 1 or more.
+    virtual void setPenWidth(int pixels) = 0;
+    virtual void setPenStyle(PenStyle style) = 0;
+    [[nodiscard]] virtual PenStyle penStyle() const = 0;
+
+    virtual void setFillColor(Color color) = 0;
+    virtual void setFillStyle(FillStyle style) = 0;
+
+    virtual void line(CanvasPoint from, CanvasPoint to, Color color) = 0;
+    virtual void rectangle(CanvasPoint corner, CanvasPoint opposite, Color color,
+                           RectangleStyle style) = 0;
+    virtual void point(CanvasPoint at, Color color) = 0;
+    /// A closed ring (the first point is not repeated), outlined with the pen and filled with the
+    /// fill colour and style by the even-odd rule. Neighbours that share corners leave no seam.
+    virtual void polygon(std::span<const CanvasPoint> ring) = 0;
+
+    /// Text in the pen colour; `at` is its top left corner or the middle of its top edge.
+    virtual void text(CanvasPoint at, std::string_view text, TextAnchor anchor, bool bold) = 0;
+    [[nodiscard]] virtual CanvasSize textSize(std::string_view text, bool bold) const = 0;
+
+    /// The picture stretched into the rectangle.
+    virtual void paintPicture(MapPicture picture, CanvasPoint topLeft, CanvasSize size) = 0;
+
+    /// Makes what was drawn visible.
+    virtual void refresh() = 0;
+    virtual void setPointer(PointerShape shape) = 0;
+};
+
+}  // namespace campora

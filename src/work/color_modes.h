@@ -1,0 +1,21 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <span>
+
+#include "colour/color_scale.h"
+#include "model/file.h"
+#include "model/map_style.h"
+#include "work/value_ranges.h"
+
+namespace campora {
+
+/// Sets a scale up for the colouring mode in `style`: classes of dose or flow from the least to the
+/// greatest loaded value, a class a day in the date map, a class a specified dose in the error map.
+/// Without loaded values the scale keeps its classes.
+void setUpColorScale(ColorScale& scale, const MapStyle& style, const ValueRanges& ranges,
+                     std::span<File* const> files);
+
+}  // namespace campora

@@ -1,0 +1,91 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cstdint>
+#include <variant>
+#include <vector>
+
+#include "model/exportable.h"
+#include "model/work_layer.h"
+#include "work/track_data_nbr.h"
+#include "work/track_data_rpt.h"
+
+namespace campora {
+
+/// One continuous pass of a machine: positions with a record each. A step is the piece from point i
+/// to point i + 1 and takes its flow, swath width and colour from the record of point i.
+/// All records of a track are of one kind.
+class GphTrack final : public WorkLayer,
+                       public ExportablePolygon,
+                       public ExportableData,
+                       public ExportablePoint {
+public:
+    using RptRecords = std::vector<TrackDataRPT>;
+    using NbrRecords = std::vector<TrackDataNBR>;
+
+    /// The two sides of the swath at a point, degrees.
+    struct Corners {
+        LonLat left;
+        LonLat right;
+    };
+
+    /// Appends a point with its record. A point at exactly the last position only replaces the last
+    /// record. A record of another kind than the first throws `std::invalid_argument`.
+    void addPoint(double x, double y, const TrackDataRPT& record);
+    void addPoint(double x, double y, const TrackDataNBR& record);
+    /// Makes room for this many points in all.
+    void reserve(std::size_t points);
+    /// Gives back the room that was reserved and not used.
+    void shrinkToFit();
+
+    [[nodiscard]] bool empty() const { return points_.empty(); }
+    [[nodiscard]] const std::vector<LonLat>& points() const { return points_; }
+    /// The record of a point; throws `std::out_of_range` for a bad index.
+    [[nodiscard]] const TrackData& pointInfo(std::int32_t index) const;
+    /// The records as they are stored, for code that needs their own kind.
+    [[nodiscard]] const std::variant<RptRecords, NbrRecords>& records() const { return records_; }
+
+    /// The swath's corners at point i for a swath of `width` metres, mitred at interior points; a
+    /// mitre longer than 1.5 swath widths gives way to the arriving step's own perpendicular.
+    [[nodiscard]] Corners swathCorners(std::int32_t i, float width) const;
+
+    void trocha(float metres) override;
+    [[nodiscard]] float getHectareasError(const MapStyle& style, float limit) const override;
+    void clearAlarmas() override;
+
+    [[nodiscard]] std::string_view Gph_kind() const override { return "GphTrack"; }
+    [[nodiscard]] std::int32_t Gph_count() const override;
+    [[nodiscard]] const BoundingBox& Gph_bound() const override { return bound_; }
+    [[nodiscard]] bool Gph_animable() const override { return true; }
+    void Gph_plot(MapContext& context) const override;
+    bool Gph_plotN(MapContext& context, std::int32_t n) const override;
+    /// Seconds to the next record of a report; 1 where that is 0 or the records carry no time.
+    [[nodiscard]] float Gph_delayN(std::int32_t n) const override;
+    [[nodiscard]] std::int32_t Gph_mouseOver(const ViewTransform& view, const MapStyle& style,
+                                             LonLat position, std::int32_t start) const override;
+    [[nodiscard]] std::string Gph_getInfo(const InfoContext& context,
+                                          std::int32_t n) const override;
+
+    [[nodiscard]] std::int32_t ExportablePolygon_polygonCount() const override;
+    [[nodiscard]] std::int32_t ExportablePolygon_polygonNCount(const MapStyle& style,
+                                                               std::int32_t polygon) const override;
+    [[nodiscard]] LonLat ExportablePolygon_polygonNpoint(std::int32_t polygon,
+                                                         std::int32_t point) const override;
+    [[nodiscard]] std::int32_t ExportableData_getDataCount() const override;
+    [[nodiscard]] int ExportableData_getColumnCount() const override;
+    [[nodiscard]] std::string ExportableData_getColumnNname(int column) const override;
+    [[nodiscard]] ColumnType ExportableData_getColumnNtype(int column) const override;
+    [[nodiscard]] CellValue ExportableData_getCell(std::int32_t row, int column,
+                                                   const CellOptions& options) const override;
+    [[nodiscard]] std::int32_t ExportablePoint_pointCount() const override;
+    [[nodiscard]] LonLat ExportablePoint_pointN(std::int32_t point) const override;
+
+private:
+    std::vector<LonLat> points_;
+    std::variant<RptRecords, NbrRecords> records_;
+    BoundingBox bound_;
+};
+
+}  // namespace campora

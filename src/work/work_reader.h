@@ -1,0 +1,53 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string_view>
+
+#include "base/texts.h"
+#include "model/file_gph_group.h"
+#include "platform/dialogs.h"
+#include "platform/user_locale.h"
+#include "work/registrations.h"
+#include "work/value_ranges.h"
+
+namespace campora {
+
+/// What the readers of work files need from outside.
+struct WorkReaderContext {
+    Dialogs& dialogs;
+    const UserLocale& locale;
+    const Texts& texts;
+    const Registrations& registrations;
+    /// The ranges of what is loaded already; all unset when no file is.
+    const ValueRanges& ranges;
+};
+
+/// What a reader made of one file. Nothing of it counts until the file has been added to the list.
+struct LoadedWork {
+    std::unique_ptr<FileGphGroup> group;
+    /// The given ranges, widened by this file's records.
+    ValueRanges ranges;
+    /// Kind of machine, from reports alone.
+    std::optional<WorkKind> kind;
+    /// Whether a point without flow was seen, from track files alone.
+    std::optional<bool> hasFlowStops;
+};
+
+/// Each reader opens one file, reports what is wrong with it through the dialogs and answers none
+/// then; a swath width or a number of columns that the file lacks is asked for.
+
+/// Logger track file with the summary beside it.
+[[nodiscard]] std::optional<LoadedWork> loadTrackFile(std::string_view path,
+                                                      const WorkReaderContext& context);
+/// Binary report: current form, older forms with eight and with four fields.
+[[nodiscard]] std::optional<LoadedWork> loadRptFile(std::string_view path,
+                                                    const WorkReaderContext& context);
+/// Tab-separated text table of a report, with 4 or 8 columns.
+[[nodiscard]] std::optional<LoadedWork> loadRptTextTable(std::string_view path,
+                                                         const WorkReaderContext& context);
+
+}  // namespace campora
