@@ -1,0 +1,171 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "paint/pixel_grid.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace campora {
+
+namespace {
+
+constexpr int kDotPeriod = 3;  // one dot, two gaps, in pen widths
+
+/// First row (or column) whose centre is not before `position`, within 0 to `limit`.
+int firstCentreFrom(double position, int limit) {
+    const double first = std::ceil(position - 0.5);
+    if (!(first > 0))
+        return 0;
+    return first < limit ? static_cast<int>(first) : limit;
+}
+
+/// The part of the segment inside the grid widened by `margin`; false when there is none
+/// (Liang and Barsky, "A New Concept and Method for Line Clipping", 1984).
+bool clip(const PixelGrid& grid, double margin, PixelPoint& from, PixelPoint& to) {
+    const double dx = to.x - from.x;
+    const double dy = to.y - from.y;
+    double enter = 0;
+    double leave = 1;
+    const std::array<std::array<double, 2>, 4> sides{{{-dx, from.x + margin},
+                                                      {dx, grid.width + margin - from.x},
+                                                      {-dy, from.y + margin},
+                                                      {dy, grid.height + margin - from.y}}};
+    for (const auto& [towards, distance] : sides) {
+        if (towards == 0) {
+            if (distance < 0)
+                return false;
+            continue;
+        }
+        const double at = distance / towards;
+        if (towards < 0) {
+            enter = std::max(enter, at);
+        } else {
+            leave = std::min(leave, at);
+        }
+    }
+    if (!(enter <= leave))
+        return false;
+    const PixelPoint start = from;
+    if (enter > 0)
+        from = {start.x + enter * dx, start.y + enter * dy};
+    if (leave < 1)
+        to = {start.x + leave * dx, start.y + leave * dy};
+    return true;
+}
+
+void dot(const PixelGrid& grid, int x, int y, const LineDrawer::Pen& pen) {
+    const int left = std::max(x - (pen.width - 1) / 2, 0);
+    const int right = std::min(x + pen.width / 2 + 1, grid.width);
+    const int top = std::max(y - (pen.width - 1) / 2, 0);
+    const int bottom = std::min(y + pen.width / 2 + 1, grid.height);
+    for (int row = top; row < bottom; ++row) {
+        std::uint32_t* const pixels = grid.pixels + row * grid.stride;
+        for (int column = left; column < right; ++column)
+            pixels[column] = pen.color;
+    }
+}
+
+}  // namespace
+
+void RingFiller::fill(const PixelGrid& grid, std::span<const PixelPoint> ring,
+                      std::uint32_t color) {
+    collectEdges(grid, ring);
+    if (edges_.empty())
+        return;
+    collectCrossings();
+    std::size_t begin = 0;
+    for (int row = top_; row < bottom_; ++row) {
+        const std::size_t end = rowEnds_[static_cast<std::size_t>(row - top_)];
+        double* const first = crossings_.data() + begin;
+        double* const last = crossings_.data() + end;
+        if (last - first == 2) {
+            if (first[0] > first[1])
+                std::swap(first[0], first[1]);
+        } else {
+            std::sort(first, last);
+        }
+        std::uint32_t* const pixels = grid.pixels + row * grid.stride;
+        for (double* span = first; span + 1 < last; span += 2) {
+            const int left = firstCentreFrom(span[0], grid.width);
+            const int right = firstCentreFrom(span[1], grid.width);
+            std::fill(pixels + left, pixels + right, color);
+        }
+        begin = end;
+    }
+}
+
+void RingFiller::collectEdges(const PixelGrid& grid, std::span<const PixelPoint> ring) {
+    edges_.clear();
+    if (ring.size() < 3)
+        return;
+    top_ = grid.height;
+    bottom_ = 0;
+    const PixelPoint* previous = &ring.back();
+    for (const PixelPoint& point : ring) {
+        // From top to bottom whichever way the ring runs: a neighbour that shares the edge computes
+        // the very same crossings.
+        const bool down = previous->y <= point.y;
+        const PixelPoint& upper = down ? *previous : point;
+        const PixelPoint& lower = down ? point : *previous;
+        previous = &point;
+        const int firstRow = firstCentreFrom(upper.y, grid.height);
+        const int endRow = firstCentreFrom(lower.y, grid.height);
+        if (firstRow >= endRow)
+            continue;
+        const double slope = (lower.x - upper.x) / (lower.y - upper.y);
+        edges_.push_back({firstRow, endRow, upper.x + (firstRow + 0.5 - upper.y) * slope, slope});
+        top_ = std::min(top_, firstRow);
+        bottom_ = std::max(bottom_, endRow);
+    }
+}
+
+void RingFiller::collectCrossings() {
+    const auto rows = static_cast<std::size_t>(bottom_ - top_);
+    rowEnds_.assign(rows, 0);
+    for (const Edge& edge : edges_) {
+        for (int row = edge.firstRow; row < edge.endRow; ++row) {
+            ++rowEnds_[static_cast<std::size_t>(row - top_)];
+        }
+    }
+    std::size_t total = 0;
+    for (std::size_t& end : rowEnds_) {  // now where each row begins
+        const std::size_t count = end;
+        end = total;
+        total += count;
+    }
+    crossings_.resize(total);
+    for (const Edge& edge : edges_) {
+        for (int row = edge.firstRow; row < edge.endRow; ++row) {
+            crossings_[rowEnds_[static_cast<std::size_t>(row - top_)]++] =
+                edge.x + (row - edge.firstRow) * edge.slope;
+        }
+    }
+}
+
+void LineDrawer::line(const PixelGrid& grid, PixelPoint from, PixelPoint to, const Pen& pen) {
+    if (!pen.dotted || from != end_)
+        phase_ = 0;
+    end_ = to;
+    if (!clip(grid, pen.width, from, to))
+        return;
+    const double dx = std::floor(to.x) - std::floor(from.x);
+    const double dy = std::floor(to.y) - std::floor(from.y);
+    const int steps = static_cast<int>(std::max(std::abs(dx), std::abs(dy)));
+    const double stepX = steps > 0 ? dx / steps : 0;
+    const double stepY = steps > 0 ? dy / steps : 0;
+    double x = std::floor(from.x) + 0.5;
+    double y = std::floor(from.y) + 0.5;
+    for (int i = 0; i <= steps; ++i) {
+        if (!pen.dotted || (phase_ / pen.width) % kDotPeriod == 0) {
+            dot(grid, static_cast<int>(std::floor(x)), static_cast<int>(std::floor(y)), pen);
+        }
+        if (i < steps)
+            ++phase_;
+        x += stepX;
+        y += stepY;
+    }
+}
+
+}  // namespace campora

@@ -1,0 +1,74 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+namespace campora {
+
+/// A picture's pixels as 0xFFRRGGBB, row by row from the top; the memory belongs to someone else.
+struct PixelGrid {
+    std::uint32_t* pixels = nullptr;
+    int width = 0;
+    int height = 0;
+    /// Pixels from one row to the next.
+    std::ptrdiff_t stride = 0;
+};
+
+/// A position in pixels; pixel (i, j) covers i to i + 1 and j to j + 1.
+struct PixelPoint {
+    double x = 0;
+    double y = 0;
+
+    bool operator==(const PixelPoint&) const = default;
+};
+
+/// Fills rings by the even-odd rule: a pixel belongs to the ring that holds its centre, so that
+/// rings that share an edge leave no seam and cover no pixel twice. Keeps its buffers between
+/// rings, because a map is a hundred thousand small rings.
+class RingFiller {
+public:
+    /// `ring`: closed, first point not repeated, of any size and anywhere.
+    void fill(const PixelGrid& grid, std::span<const PixelPoint> ring, std::uint32_t color);
+
+private:
+    struct Edge {
+        int firstRow;
+        int endRow;
+        double x;      // at the centre of the first row
+        double slope;  // x per row
+    };
+
+    void collectEdges(const PixelGrid& grid, std::span<const PixelPoint> ring);
+    void collectCrossings();
+
+    std::vector<Edge> edges_;
+    int top_ = 0;
+    int bottom_ = 0;
+    // Crossings of row top_ + i stand at rowEnds_[i - 1] to rowEnds_[i].
+    std::vector<std::size_t> rowEnds_;
+    std::vector<double> crossings_;
+};
+
+/// Draws straight lines of square dots, solid or dotted. The rhythm of a dotted line goes on where
+/// the next line starts at the end of the last one, so that a track of short steps stays dotted.
+class LineDrawer {
+public:
+    struct Pen {
+        std::uint32_t color = 0;
+        int width = 1;
+        bool dotted = false;
+    };
+
+    void line(const PixelGrid& grid, PixelPoint from, PixelPoint to, const Pen& pen);
+
+private:
+    PixelPoint end_;
+    int phase_ = 0;
+};
+
+}  // namespace campora

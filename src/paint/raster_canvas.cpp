@@ -1,0 +1,188 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "paint/raster_canvas.h"
+
+#include <QFont>
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QPolygonF>
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace campora {
+
+namespace {
+
+constexpr int kTextPixels = 12;
+
+std::uint32_t pixel(Color color) {
+    return qRgb(color.red(), color.green(), color.blue());
+}
+
+QFont mapFont(bool bold) {
+    QFont font;
+    font.setPixelSize(kTextPixels);
+    font.setBold(bold);
+    return font;
+}
+
+QString qtText(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+}  // namespace
+
+RasterCanvas::RasterCanvas(CanvasSize size, double pixelRatio) {
+    resize(size, pixelRatio);
+}
+
+void RasterCanvas::resize(CanvasSize size, double pixelRatio) {
+    size_ = size;
+    pixelRatio_ = pixelRatio;
+    pixelsPerUnit_ = pixelRatio / kUnitsPerPixel;
+    const int width = std::max(1, static_cast<int>(std::lround(size.width * pixelsPerUnit_)));
+    const int height = std::max(1, static_cast<int>(std::lround(size.height * pixelsPerUnit_)));
+    if (image_.width() != width || image_.height() != height) {
+        image_ = QImage(width, height, QImage::Format_RGB32);
+    }
+    image_.setDevicePixelRatio(pixelRatio);
+    clear();
+}
+
+void RasterCanvas::clear() {
+    image_.fill(pixel(background_));
+}
+
+PixelGrid RasterCanvas::grid() {
+    // Asked anew each time: a copy of the picture that someone keeps must not change with it.
+    auto* const pixels = reinterpret_cast<std::uint32_t*>(image_.bits());
+    return {pixels, image_.width(), image_.height(),
+            image_.bytesPerLine() / static_cast<std::ptrdiff_t>(sizeof(std::uint32_t))};
+}
+
+PixelPoint RasterCanvas::toPixels(CanvasPoint point) const {
+    return {point.x * pixelsPerUnit_, point.y * pixelsPerUnit_};
+}
+
+LineDrawer::Pen RasterCanvas::pen(Color color) const {
+    const int width = std::max(1, static_cast<int>(std::lround(penWidth_ * pixelRatio_)));
+    return {pixel(color), width, penStyle_ == PenStyle::Dotted};
+}
+
+void RasterCanvas::setRing(std::span<const CanvasPoint> ring) {
+    ring_.clear();
+    for (const CanvasPoint& point : ring)
+        ring_.push_back(toPixels(point));
+}
+
+void RasterCanvas::outlineRing(Color color) {
+    const PixelGrid pixels = grid();
+    const LineDrawer::Pen outline = pen(color);
+    const PixelPoint* previous = &ring_.back();
+    for (const PixelPoint& point : ring_) {
+        lines_.line(pixels, *previous, point, outline);
+        previous = &point;
+    }
+}
+
+void RasterCanvas::line(CanvasPoint from, CanvasPoint to, Color color) {
+    lines_.line(grid(), toPixels(from), toPixels(to), pen(color));
+}
+
+void RasterCanvas::rectangle(CanvasPoint corner, CanvasPoint opposite, Color color,
+                             RectangleStyle style) {
+    const std::array<CanvasPoint, 4> ring{
+        corner, {opposite.x, corner.y}, opposite, {corner.x, opposite.y}};
+    setRing(ring);
+    if (style == RectangleStyle::Filled)
+        filler_.fill(grid(), ring_, pixel(color));
+    outlineRing(color);
+}
+
+void RasterCanvas::point(CanvasPoint at, Color color) {
+    lines_.line(grid(), toPixels(at), toPixels(at), pen(color));
+}
+
+void RasterCanvas::polygon(std::span<const CanvasPoint> ring) {
+    if (ring.empty())
+        return;
+    setRing(ring);
+    if (fillStyle_ == FillStyle::Solid)
+        filler_.fill(grid(), ring_, pixel(fillColor_));
+    outlineRing(penColor_);
+}
+
+void RasterCanvas::text(CanvasPoint at, std::string_view text, TextAnchor anchor, bool bold) {
+    QPainter painter(&image_);
+    painter.setFont(mapFont(bold));
+    painter.setPen(QColor::fromRgb(pixel(penColor_)));
+    const QFontMetricsF metrics(painter.font());
+    const QString shown = qtText(text);
+    double x = static_cast<double>(at.x) / kUnitsPerPixel;
+    if (anchor == TextAnchor::TopCentre)
+        x -= metrics.horizontalAdvance(shown) / 2;
+    const double baseline = static_cast<double>(at.y) / kUnitsPerPixel + metrics.ascent();
+    painter.drawText(QPointF(x, baseline), shown);
+}
+
+CanvasSize RasterCanvas::textSize(std::string_view text, bool bold) const {
+    const QFontMetricsF metrics(mapFont(bold));
+    const QSizeF size = metrics.size(0, qtText(text));
+    return {static_cast<std::int32_t>(std::ceil(size.width() * kUnitsPerPixel)),
+            static_cast<std::int32_t>(std::ceil(size.height() * kUnitsPerPixel))};
+}
+
+void RasterCanvas::paintPicture(MapPicture picture, CanvasPoint topLeft, CanvasSize size) {
+    QPainter painter(&image_);
+    constexpr double units = kUnitsPerPixel;
+    drawMapPicture(
+        painter,
+        QRectF(topLeft.x / units, topLeft.y / units, size.width / units, size.height / units),
+        picture);
+}
+
+void RasterCanvas::refresh() {
+    if (onRefresh)
+        onRefresh();
+}
+
+void RasterCanvas::setPointer(PointerShape shape) {
+    if (onPointer)
+        onPointer(shape);
+}
+
+void drawMapPicture(QPainter& painter, const QRectF& rectangle, MapPicture picture) {
+    // One arrow head pointing up in a square of side 1 about the origin, turned as needed.
+    const QPolygonF head({{0, -0.42}, {0.46, 0.36}, {0, 0.16}, {-0.46, 0.36}});
+    double turn = 0;
+    switch (picture) {
+    case MapPicture::ArrowUp:
+        turn = 0;
+        break;
+    case MapPicture::ArrowRight:
+        turn = 90;
+        break;
+    case MapPicture::ArrowDown:
+        turn = 180;
+        break;
+    case MapPicture::ArrowLeft:
+        turn = 270;
+        break;
+    }
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(rectangle.center());
+    painter.scale(rectangle.width(), rectangle.height());
+    painter.rotate(turn);
+    QPen edge(QColor(255, 255, 255));
+    edge.setWidthF(1.5);
+    edge.setCosmetic(true);
+    painter.setPen(edge);
+    painter.setBrush(QColor(46, 92, 58));
+    painter.drawPolygon(head);
+    painter.restore();
+}
+
+}  // namespace campora

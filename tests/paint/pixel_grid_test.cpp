@@ -1,0 +1,158 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "paint/pixel_grid.h"
+
+#include <random>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace campora {
+namespace {
+
+constexpr std::uint32_t kPaper = 0;
+
+/// A small picture that prints as text: "." where nothing was drawn, else the colour's digit.
+struct Picture {
+    Picture(int width, int height)
+        : pixels(static_cast<std::size_t>(width * height), kPaper),
+          grid{pixels.data(), width, height, width} {}
+
+    [[nodiscard]] std::string text() const {
+        std::string result;
+        for (int row = 0; row < grid.height; ++row) {
+            for (int column = 0; column < grid.width; ++column) {
+                const std::uint32_t color = at(column, row);
+                result += color == kPaper ? '.' : static_cast<char>('0' + color);
+            }
+            result += '\n';
+        }
+        return result;
+    }
+    [[nodiscard]] std::uint32_t at(int column, int row) const {
+        return pixels[static_cast<std::size_t>(row * grid.width + column)];
+    }
+
+    std::vector<std::uint32_t> pixels;
+    PixelGrid grid;
+};
+
+TEST(RingFiller, FillsThePixelsWhoseCentresLieInside) {
+    struct Row {
+        const char* name;
+        std::vector<PixelPoint> ring;
+        const char* picture;
+    };
+    const Row rows[] = {
+        {"square on pixel edges",
+         {{1, 1}, {4, 1}, {4, 3}, {1, 3}},
+         "......\n.111..\n.111..\n......\n"},
+        {"the same the other way round",
+         {{1, 3}, {4, 3}, {4, 1}, {1, 1}},
+         "......\n.111..\n.111..\n......\n"},
+        {"too thin for a centre",
+         {{1, 1.6}, {5, 1.6}, {5, 2.4}, {1, 2.4}},
+         "......\n......\n......\n......\n"},
+        {"triangle", {{0, 0}, {6, 4}, {0, 4}}, "1.....\n11....\n1111..\n11111.\n"},
+        {"two points are no area", {{0, 0}, {6, 4}}, "......\n......\n......\n......\n"},
+        {"hole by a second turn: even-odd",
+         {{0, 0}, {6, 0}, {6, 4}, {0, 4}, {0, 0}, {2, 1}, {4, 1}, {4, 3}, {2, 3}, {2, 1}},
+         "111111\n11..11\n11..11\n111111\n"},
+        {"far outside on all sides",
+         {{-1e9, -1e9}, {1e9, -1e9}, {1e9, 1e9}, {-1e9, 1e9}},
+         "111111\n111111\n111111\n111111\n"},
+        {"beside the picture",
+         {{7, 0}, {9, 0}, {9, 4}, {7, 4}},
+         "......\n......\n......\n......\n"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        Picture picture(6, 4);
+        RingFiller().fill(picture.grid, row.ring, 1);
+        EXPECT_EQ(picture.text(), row.picture);
+    }
+}
+
+TEST(RingFiller, NeighboursThatShareCornersLeaveNoSeamAndNoOverlap) {
+    // A crooked mesh over the whole picture: every pixel must be covered exactly once.
+    constexpr int kCells = 9;
+    constexpr int kSide = 60;
+    std::mt19937 random(7);
+    std::uniform_real_distribution<double> shift(-2.9, 2.9);
+    std::vector<PixelPoint> knots;
+    for (int row = 0; row <= kCells; ++row) {
+        for (int column = 0; column <= kCells; ++column) {
+            const double step = static_cast<double>(kSide) / kCells;
+            const bool onEdgeX = column == 0 || column == kCells;
+            const bool onEdgeY = row == 0 || row == kCells;
+            knots.push_back({column * step + (onEdgeX ? 0 : shift(random)),
+                             row * step + (onEdgeY ? 0 : shift(random))});
+        }
+    }
+    Picture covered(kSide, kSide);
+    RingFiller filler;
+    const auto knot = [&](int row, int column) {
+        return knots[static_cast<std::size_t>(row * (kCells + 1) + column)];
+    };
+    for (int row = 0; row < kCells; ++row) {
+        for (int column = 0; column < kCells; ++column) {
+            Picture one(kSide, kSide);
+            const std::vector<PixelPoint> ring{knot(row, column), knot(row, column + 1),
+                                               knot(row + 1, column + 1), knot(row + 1, column)};
+            filler.fill(one.grid, ring, 1);
+            for (std::size_t i = 0; i < one.pixels.size(); ++i)
+                covered.pixels[i] += one.pixels[i];
+        }
+    }
+    EXPECT_EQ(covered.pixels, std::vector<std::uint32_t>(covered.pixels.size(), 1));
+}
+
+TEST(LineDrawer, DrawsLinesOfAnyDirectionWidthAndStyle) {
+    struct Line {
+        PixelPoint from;
+        PixelPoint to;
+    };
+    struct Row {
+        const char* name;
+        std::vector<Line> lines;
+        LineDrawer::Pen pen;
+        const char* picture;
+    };
+    const Row rows[] = {
+        {"a point", {{{2.5, 1.5}, {2.5, 1.5}}}, {1, 1, false}, ".......\n..1....\n.......\n"},
+        {"both ends belong to it",
+         {{{1, 1}, {5, 1}}},
+         {1, 1, false},
+         ".......\n.11111.\n.......\n"},
+        {"leftwards", {{{5, 1}, {1, 1}}}, {1, 1, false}, ".......\n.11111.\n.......\n"},
+        {"slanting", {{{0, 0}, {6, 2}}}, {1, 1, false}, "11.....\n..111..\n.....11\n"},
+        {"two pixels wide", {{{1, 0}, {3, 0}}}, {1, 2, false}, ".1111..\n.1111..\n.......\n"},
+        {"dotted", {{{0, 1}, {6, 1}}}, {1, 1, true}, ".......\n1..1..1\n.......\n"},
+        {"dots go on over short steps",
+         {{{0, 1}, {2, 1}}, {{2, 1}, {4, 1}}, {{4, 1}, {6, 1}}},
+         {1, 1, true},
+         ".......\n1..1..1\n.......\n"},
+        {"dots start anew elsewhere",
+         {{{0, 0}, {2, 0}}, {{1, 2}, {5, 2}}},
+         {1, 1, true},
+         "1......\n.......\n.1..1..\n"},
+        {"clipped at both ends",
+         {{{-1e8, 1}, {1e8, 1}}},
+         {1, 1, false},
+         ".......\n1111111\n.......\n"},
+        {"wholly outside", {{{-5, -5}, {9, -4}}}, {1, 1, false}, ".......\n.......\n.......\n"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        Picture picture(7, 3);
+        LineDrawer drawer;
+        for (const Line& line : row.lines)
+            drawer.line(picture.grid, line.from, line.to, row.pen);
+        EXPECT_EQ(picture.text(), row.picture);
+    }
+}
+
+}  // namespace
+}  // namespace campora
