@@ -108,13 +108,15 @@ public:
     [[nodiscard]] Subscription onClassValueChanged(ValueListener listener);
 
 private:
-    void freshClasses(int n);
+    void boundsChanged();
     void colorAgain();
     void raiseChanged();
 
     std::vector<Clase> classes_;
     double valueMin_ = 0;
     double valueMax_ = 100;
+    /// Upper bounds never fall from one class to the next: lookups may search by halves.
+    bool ascending_ = true;
     std::shared_ptr<Listeners> listeners_;
 };
 
