@@ -1,0 +1,70 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "model/file_gph_group.h"
+
+#include <string_view>
+#include <utility>
+
+#include "base/numbers.h"
+#include "base/text.h"
+#include "model/geodesy.h"
+
+namespace campora {
+
+namespace {
+
+/// Summaries are data: the name of an entry is the same in every language.
+constexpr std::string_view kErrorHectares = "Hectareas Error";
+
+}  // namespace
+
+void FileGphGroup::addGph(std::unique_ptr<Gph> gph) {
+    bound_.addGph(*gph);
+    layers_.push_back(std::move(gph));
+}
+
+void FileGphGroup::recalcBound() {
+    bound_.clear();
+    for (const auto& layer : layers_) {
+        bound_.addGph(*layer);
+    }
+}
+
+void FileGphGroup::calcErrorArea(const MapStyle& style, const UserLocale& locale) {
+    if (style.mode != ColorMode::Error) {
+        summary_.setProperty(kErrorHectares, "", "");
+        return;
+    }
+    double hectares = 0;
+    for (const auto& layer : layers_) {
+        if (const auto* work = dynamic_cast<const WorkLayer*>(layer.get())) {
+            hectares += work->getHectareasError(style, style.errorLimit);
+        }
+    }
+    summary_.setProperty(kErrorHectares,
+                         numberText(roundSignificant(hectares), locale.decimalSymbol()), "Has");
+}
+
+void FileGphGroup::clearAlarmas() {
+    for (const auto& layer : layers_) {
+        if (auto* work = dynamic_cast<WorkLayer*>(layer.get())) {
+            work->clearAlarmas();
+        }
+    }
+}
+
+std::string FileGphGroup::File_path() const {
+    return lowerCase(path);
+}
+
+std::vector<Gph*> FileGphGroup::File_gphList() const {
+    std::vector<Gph*> layers;
+    layers.reserve(layers_.size());
+    for (const auto& layer : layers_) {
+        layers.push_back(layer.get());
+    }
+    return layers;
+}
+
+}  // namespace campora

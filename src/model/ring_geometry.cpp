@@ -1,0 +1,61 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "model/ring_geometry.h"
+
+#include <cmath>
+#include <cstddef>
+
+#include "model/geodesy.h"
+
+namespace campora {
+
+namespace {
+
+struct Metres {
+    double x = 0;
+    double y = 0;
+};
+
+Metres localMetres(LonLat position) {
+    return {position.x * METERS_PER_DEGREE * std::cos(position.y * kPi / 180),
+            position.y * METERS_PER_DEGREE};
+}
+
+}  // namespace
+
+float polygonArea(std::span<const LonLat> ring) {
+    if (ring.size() < 3) {
+        return 0;
+    }
+    // Single precision: the order of the edges decides the last digits.
+    float twiceArea = 0;
+    const Metres first = localMetres(ring.front());
+    Metres from = first;
+    for (std::size_t i = 0; i < ring.size(); ++i) {
+        const Metres to = i + 1 < ring.size() ? localMetres(ring[i + 1]) : first;
+        twiceArea = static_cast<float>(twiceArea + (to.y * from.x - to.x * from.y));
+        from = to;
+    }
+    return std::abs(twiceArea / 2);
+}
+
+bool pointInRing(std::span<const LonLat> ring, LonLat point) {
+    bool inside = false;
+    for (std::size_t i = 0; i < ring.size(); ++i) {
+        const LonLat& a = ring[i];
+        const LonLat& b = ring[i + 1 < ring.size() ? i + 1 : 0];
+        // An edge holds its lower end but not its upper one, so that a ray through a corner crosses
+        // one of the two edges there; level edges hold nothing.
+        if ((a.y > point.y) == (b.y > point.y)) {
+            continue;
+        }
+        const double crossingX = a.x + (point.y - a.y) / (b.y - a.y) * (b.x - a.x);
+        if (crossingX > point.x) {
+            inside = !inside;
+        }
+    }
+    return inside;
+}
+
+}  // namespace campora
