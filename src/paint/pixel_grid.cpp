@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdlib>
 
 namespace campora {
 
@@ -13,12 +14,22 @@ namespace {
 
 constexpr int kDotPeriod = 3;  // one dot, two gaps, in pen widths
 
+/// Whole part towards minus infinity; `value` must fit. (std::floor is a call on plain x86-64, and
+/// the drawing of a small ring consists of little else.)
+int floorInt(double value) {
+    const int whole = static_cast<int>(value);
+    return whole - (value < whole ? 1 : 0);
+}
+
 /// First row (or column) whose centre is not before `position`, within 0 to `limit`.
 int firstCentreFrom(double position, int limit) {
-    const double first = std::ceil(position - 0.5);
-    if (!(first > 0))
+    if (!(position > 0.5))
         return 0;
-    return first < limit ? static_cast<int>(first) : limit;
+    if (position > limit)
+        return limit;
+    const double first = position - 0.5;
+    const int whole = static_cast<int>(first);
+    return whole + (whole < first ? 1 : 0);
 }
 
 /// The part of the segment inside the grid widened by `margin`; false when there is none
@@ -64,6 +75,35 @@ void dot(const PixelGrid& grid, int x, int y, const LineDrawer::Pen& pen) {
         std::uint32_t* const pixels = grid.pixels + row * grid.stride;
         for (int column = left; column < right; ++column)
             pixels[column] = pen.color;
+    }
+}
+
+bool holds(const PixelGrid& grid, const PixelPoint& point) {
+    return point.x >= 0 && point.x < grid.width && point.y >= 0 && point.y < grid.height;
+}
+
+/// A solid line one pixel wide between two pixels of the grid (Bresenham, "Algorithm for computer
+/// control of a digital plotter", 1965).
+void thinLine(const PixelGrid& grid, int x, int y, int endX, int endY, std::uint32_t color) {
+    const int dx = std::abs(endX - x);
+    const int dy = std::abs(endY - y);
+    const std::ptrdiff_t alongX = endX < x ? -1 : 1;
+    const std::ptrdiff_t alongY = endY < y ? -grid.stride : grid.stride;
+    const std::ptrdiff_t along = dx >= dy ? alongX : alongY;
+    const std::ptrdiff_t across = dx >= dy ? alongY : alongX;
+    const int longer = std::max(dx, dy);
+    const int shorter = std::min(dx, dy);
+    std::uint32_t* pixel = grid.pixels + y * grid.stride + x;
+    *pixel = color;
+    int error = longer / 2;
+    for (int i = 0; i < longer; ++i) {
+        error -= shorter;
+        if (error < 0) {
+            error += longer;
+            pixel += across;
+        }
+        pixel += along;
+        *pixel = color;
     }
 }
 
@@ -148,23 +188,32 @@ void LineDrawer::line(const PixelGrid& grid, PixelPoint from, PixelPoint to, con
     if (!pen.dotted || from != end_)
         phase_ = 0;
     end_ = to;
-    if (!clip(grid, pen.width, from, to))
+    const bool inside = holds(grid, from) && holds(grid, to);
+    if (inside && pen.width == 1 && !pen.dotted) {
+        thinLine(grid, floorInt(from.x), floorInt(from.y), floorInt(to.x), floorInt(to.y),
+                 pen.color);
         return;
-    const double dx = std::floor(to.x) - std::floor(from.x);
-    const double dy = std::floor(to.y) - std::floor(from.y);
+    }
+    if (!inside && !clip(grid, pen.width, from, to))
+        return;
+    dottedOrThick(grid, from, to, pen);
+}
+
+void LineDrawer::dottedOrThick(const PixelGrid& grid, PixelPoint from, PixelPoint to,
+                               const Pen& pen) {
+    double x = floorInt(from.x) + 0.5;
+    double y = floorInt(from.y) + 0.5;
+    const double dx = floorInt(to.x) + 0.5 - x;
+    const double dy = floorInt(to.y) + 0.5 - y;
     const int steps = static_cast<int>(std::max(std::abs(dx), std::abs(dy)));
-    const double stepX = steps > 0 ? dx / steps : 0;
-    const double stepY = steps > 0 ? dy / steps : 0;
-    double x = std::floor(from.x) + 0.5;
-    double y = std::floor(from.y) + 0.5;
     for (int i = 0; i <= steps; ++i) {
-        if (!pen.dotted || (phase_ / pen.width) % kDotPeriod == 0) {
-            dot(grid, static_cast<int>(std::floor(x)), static_cast<int>(std::floor(y)), pen);
-        }
-        if (i < steps)
-            ++phase_;
-        x += stepX;
-        y += stepY;
+        if (!pen.dotted || (phase_ / pen.width) % kDotPeriod == 0)
+            dot(grid, floorInt(x), floorInt(y), pen);
+        if (i == steps)
+            break;
+        ++phase_;
+        x += dx / steps;
+        y += dy / steps;
     }
 }
 

@@ -67,6 +67,8 @@ public:
     void line(const PixelGrid& grid, PixelPoint from, PixelPoint to, const Pen& pen);
 
 private:
+    void dottedOrThick(const PixelGrid& grid, PixelPoint from, PixelPoint to, const Pen& pen);
+
     PixelPoint end_;
     int phase_ = 0;
 };
