@@ -1,0 +1,105 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "base/byte_reader.h"
+
+#include <functional>
+#include <limits>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "base/failure.h"
+
+namespace campora {
+namespace {
+
+std::vector<std::byte> bytesOf(std::initializer_list<int> values) {
+    std::vector<std::byte> bytes;
+    for (const int value : values) {
+        bytes.push_back(static_cast<std::byte>(value));
+    }
+    return bytes;
+}
+
+TEST(ByteReader, NumbersOfBothByteOrders) {
+    const auto bytes = bytesOf({0xFE,                                              // u8
+                                0x34, 0xF2,                                        // u16le
+                                0x78, 0x56, 0x34, 0xF2,                            // u32le
+                                0xFE, 0xFF, 0xFF, 0xFF,                            // i32le
+                                0xFF, 0xFF, 0xFE, 0x01,                            // i32be
+                                0x00, 0x00, 0x48, 0xC1,                            // f32le
+                                0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x04, 0xC0});  // f64le
+    ByteReader reader(bytes);
+    EXPECT_EQ(reader.u8(), 0xFEU);
+    EXPECT_EQ(reader.u16le(), 0xF234U);
+    EXPECT_EQ(reader.u32le(), 0xF2345678U);
+    EXPECT_EQ(reader.i32le(), -2);
+    EXPECT_EQ(reader.i32be(), -511);
+    EXPECT_EQ(reader.f32le(), -12.5F);
+    EXPECT_EQ(reader.f64le(), -2.5);
+    EXPECT_EQ(reader.remaining(), 0U);
+}
+
+TEST(ByteReader, MovesAndTakes) {
+    const auto bytes = bytesOf({1, 2, 3, 4, 5});
+    ByteReader reader(bytes, 1);
+    reader.skip(1);
+    const auto taken = reader.take(2);
+    ASSERT_EQ(taken.size(), 2U);
+    EXPECT_EQ(taken[0], std::byte{3});
+    EXPECT_EQ(reader.offset(), 4U);
+    reader.seek(0);
+    EXPECT_EQ(reader.u8(), 1U);
+    reader.seek(5);
+    EXPECT_EQ(reader.remaining(), 0U);
+    EXPECT_TRUE(reader.take(0).empty());
+}
+
+/// Offset that the failure of `read` names.
+std::string cutAt(const std::function<void()>& read) {
+    try {
+        read();
+    } catch (const FormatError& error) {
+        EXPECT_EQ(error.failure().text, TextId::FileCutShort);
+        EXPECT_EQ(error.failure().arguments.size(), 1U);
+        return error.failure().arguments.front();
+    }
+    return "not thrown";
+}
+
+TEST(ByteReader, ReadingPastTheEndIsRefusedAndMovesNothing) {
+    struct Row {
+        const char* name;
+        std::size_t offset;  // of five bytes
+        std::function<void(ByteReader&)> read;
+        const char* cutAt;
+    };
+    constexpr std::size_t kHuge = std::numeric_limits<std::size_t>::max();
+    const Row rows[] = {
+        {"u8", 5, [](ByteReader& r) { (void)r.u8(); }, "5"},
+        {"u16le", 4, [](ByteReader& r) { (void)r.u16le(); }, "4"},
+        {"u32le", 2, [](ByteReader& r) { (void)r.u32le(); }, "2"},
+        {"i32le", 2, [](ByteReader& r) { (void)r.i32le(); }, "2"},
+        {"i32be", 3, [](ByteReader& r) { (void)r.i32be(); }, "3"},
+        {"f32le", 2, [](ByteReader& r) { (void)r.f32le(); }, "2"},
+        {"f64le", 0, [](ByteReader& r) { (void)r.f64le(); }, "0"},
+        {"take", 1, [](ByteReader& r) { (void)r.take(5); }, "1"},
+        {"take of a lying count", 1, [](ByteReader& r) { (void)r.take(kHuge); }, "1"},
+        {"skip", 1, [](ByteReader& r) { r.skip(5); }, "5"},
+        {"skip that would wrap", 2, [](ByteReader& r) { r.skip(kHuge); }, "5"},
+        {"seek", 2, [](ByteReader& r) { r.seek(6); }, "5"},
+    };
+    const auto bytes = bytesOf({1, 2, 3, 4, 5});
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        ByteReader reader(bytes, row.offset);
+        EXPECT_EQ(cutAt([&] { row.read(reader); }), row.cutAt);
+        EXPECT_EQ(reader.offset(), row.offset);
+    }
+    EXPECT_EQ(cutAt([&] { (void)ByteReader(bytes, 6); }), "5");
+    EXPECT_EQ(cutAt([] { (void)ByteReader({}).u8(); }), "0");
+}
+
+}  // namespace
+}  // namespace campora

@@ -1,0 +1,142 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "base/dates.h"
+
+#include <limits>
+#include <ostream>
+
+#include <gtest/gtest.h>
+
+namespace campora {
+
+void PrintTo(const Date& date, std::ostream* out) {
+    *out << date.year << '-' << date.month << '-' << date.day;
+}
+
+namespace {
+
+TEST(DayNumber, KnownDays) {
+    struct Row {
+        Date date;
+        std::int32_t day;
+    };
+    const Row rows[] = {
+        {{1899, 12, 30}, 0},    {{1899, 12, 29}, -1},      {{1900, 1, 1}, 2},
+        {{1900, 2, 28}, 60},    {{1900, 3, 1}, 61},        {{1970, 1, 1}, 25569},
+        {{2000, 2, 29}, 36585}, {{2000, 3, 1}, 36586},     {{2023, 12, 31}, 45291},
+        {{2024, 2, 29}, 45351}, {{9999, 12, 31}, 2958465}, {{1, 1, 1}, -693593},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(dayNumber(row.date), row.day);
+        EXPECT_EQ(dateOfDayNumber(row.day), row.date);
+    }
+}
+
+bool isLeap(int year) {
+    return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;
+}
+
+TEST(DayNumber, CountsEveryDayOfSixCenturies) {
+    const int lengths[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+    std::int32_t day = dayNumber({1580, 1, 1});
+    for (int year = 1580; year < 2180; ++year) {
+        for (int month = 1; month <= 12; ++month) {
+            const int length = lengths[month - 1] + (month == 2 && isLeap(year) ? 1 : 0);
+            for (int ofMonth = 1; ofMonth <= length; ++ofMonth, ++day) {
+                const Date date{year, month, ofMonth};
+                ASSERT_EQ(dayNumber(date), day) << testing::PrintToString(date);
+                ASSERT_EQ(dateOfDayNumber(day), date) << day;
+            }
+        }
+    }
+}
+
+TEST(DayNumber, LimitsHold) {
+    constexpr int kMost = std::numeric_limits<int>::max();
+    constexpr int kLeast = std::numeric_limits<int>::min();
+    EXPECT_EQ(dayNumber({kMost, kMost, kMost}), kMost);
+    EXPECT_EQ(dayNumber({kLeast, kLeast, kLeast}), kLeast);
+    EXPECT_EQ(dayNumber(dateOfDayNumber(kMost)), kMost);
+    EXPECT_EQ(dayNumber(dateOfDayNumber(kLeast)), kLeast);
+}
+
+TEST(Dates, DaysAndMonthsThatDoNotExistRollOver) {
+    struct Row {
+        Date date;
+        Date rolled;
+    };
+    const Row rows[] = {
+        {{2024, 5, 17}, {2024, 5, 17}}, {{2024, 3, 0}, {2024, 2, 29}},
+        {{2023, 3, 0}, {2023, 2, 28}},  {{2023, 2, 29}, {2023, 3, 1}},
+        {{2023, 2, 31}, {2023, 3, 3}},  {{2023, 4, 31}, {2023, 5, 1}},
+        {{2024, 1, 0}, {2023, 12, 31}}, {{2024, 0, 10}, {2023, 12, 10}},
+        {{2024, 0, 0}, {2023, 11, 30}}, {{1980, 0, 0}, {1979, 11, 30}},
+        {{2023, 13, 1}, {2024, 1, 1}},  {{2023, 15, 31}, {2024, 3, 31}},
+        {{2024, -11, 1}, {2023, 1, 1}}, {{2024, -12, 1}, {2022, 12, 1}},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(normalized(row.date), row.rolled) << testing::PrintToString(row.date);
+    }
+}
+
+TEST(FatDateTime, FieldsOfTheWord) {
+    struct Row {
+        std::uint32_t word;
+        DateTime value;
+    };
+    const Row rows[] = {
+        {0x00210000U, {{1980, 1, 1}, {0, 0, 0}}},
+        // 44 << 9 | 5 << 5 | 17 above 13 << 11 | 45 << 5 | 29
+        {0x58B16DBDU, {{2024, 5, 17}, {13, 45, 58}}},
+        {0xFF9FBF7DU, {{2107, 12, 31}, {23, 59, 58}}},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(decodeFatDateTime(row.word), row.value) << std::hex << row.word;
+        EXPECT_EQ(encodeFatDateTime(row.value), row.word) << std::hex << row.word;
+    }
+    EXPECT_EQ(decodeFatDateTime(0), (DateTime{{1980, 0, 0}, {0, 0, 0}}));
+    EXPECT_EQ(decodeFatDateTime(0xFFFFFFFFU), (DateTime{{2107, 15, 31}, {31, 63, 62}}));
+    EXPECT_EQ(encodeFatDateTime({{2024, 5, 17}, {13, 45, 59}}), 0x58B16DBDU) << "odd second";
+}
+
+TEST(Dates, TextOfATime) {
+    EXPECT_EQ(timeText({7, 5, 9}), "07:05:09");
+    EXPECT_EQ(timeText({23, 59, 58}), "23:59:58");
+}
+
+TEST(Dates, TextOfADateInTheFormOfTheUser) {
+    struct Row {
+        Date date;
+        const char* form;
+        const char* text;
+    };
+    const Row rows[] = {
+        {{2024, 5, 7}, "dd/mm/yyyy", "07/05/2024"},
+        {{2024, 5, 7}, "dd/MM/yyyy", "07/05/2024"},
+        {{2024, 5, 7}, "d/m/yy", "7/5/24"},
+        {{2009, 12, 31}, "m-d-yy", "12-31-09"},
+        {{2009, 12, 31}, "d.M.y", "31.12.9"},
+        {{2024, 5, 7}, "yyyy-mm-dd", "2024-05-07"},
+        {{812, 5, 7}, "yyyy", "0812"},
+        {{2024, 3, 0}, "dd/mm/yyyy", "29/02/2024"},
+        {{2024, 5, 7}, "yyyy\u5e74m\u6708d\u65e5", "2024\u5e745\u67087\u65e5"},
+        {{2024, 5, 7}, "", ""},
+        {{2024, 5, 7}, "// D", "// D"},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(dateText(row.date, row.form), row.text) << row.form;
+    }
+}
+
+TEST(Times, TheShorterWayAcrossMidnight) {
+    EXPECT_EQ(minutesBetween({8, 30, 59}, {9, 15, 0}), 45) << "seconds do not count";
+    EXPECT_EQ(minutesBetween({23, 50, 0}, {0, 10, 0}), 20);
+    EXPECT_EQ(minutesBetween({8, 0, 10}, {8, 0, 5}), 0);
+    EXPECT_EQ(secondsBetween({8, 0, 5}, {8, 1, 0}), 55);
+    EXPECT_EQ(secondsBetween({23, 59, 59}, {0, 0, 1}), 2);
+    EXPECT_EQ(secondsBetween({8, 0, 10}, {8, 0, 5}), 86395);
+}
+
+}  // namespace
+}  // namespace campora

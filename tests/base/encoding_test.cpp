@@ -1,0 +1,136 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "base/encoding.h"
+
+#include <random>
+
+#include <gtest/gtest.h>
+
+namespace campora {
+namespace {
+
+TEST(Utf8, OnlyWellFormedBytesAreValid) {
+    struct Row {
+        const char* name;
+        std::string_view bytes;
+        bool valid;
+    };
+    const Row rows[] = {
+        {"empty", "", true},
+        {"ascii", "lote 3", true},
+        {"nul", std::string_view("a\0b", 3), true},
+        {"first and last of two bytes", "\xC2\x80\xDF\xBF", true},
+        {"first and last of three bytes", "\xE0\xA0\x80\xEF\xBF\xBF", true},
+        {"around the surrogates", "\xED\x9F\xBF\xEE\x80\x80", true},
+        {"first and last of four bytes", "\xF0\x90\x80\x80\xF4\x8F\xBF\xBF", true},
+        {"byte-order mark",
+         "\xEF\xBB\xBF"
+         "a",
+         true},
+        {"lone continuation", "\x80", false},
+        {"overlong of two bytes", "\xC1\xBF", false},
+        {"overlong of three bytes", "\xE0\x9F\xBF", false},
+        {"overlong of four bytes", "\xF0\x8F\xBF\xBF", false},
+        {"first surrogate", "\xED\xA0\x80", false},
+        {"last surrogate", "\xED\xBF\xBF", false},
+        {"beyond the last plane", "\xF4\x90\x80\x80", false},
+        {"five bytes", "\xF8\x88\x80\x80\x80", false},
+        {"0xFF", "\xFF", false},
+        {"cut after one of two", "a\xC3", false},
+        {"cut after two of three", "\xE2\x82", false},
+        {"cut after three of four", "\xF0\x90\x80", false},
+        {"ascii inside a character",
+         "\xE2\x82"
+         "a",
+         false},
+        {"Windows-1252 accents", "a\xF1o", false},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(isUtf8(row.bytes), row.valid);
+        // The fast way over ASCII must neither skip nor stop at any place within its stride.
+        for (std::size_t before = 0; before < 17; ++before) {
+            const std::string padded = std::string(before, 'x') + std::string(row.bytes);
+            EXPECT_EQ(isUtf8(padded + std::string(16, 'y')), row.valid) << before;
+            EXPECT_EQ(isUtf8(padded), row.valid) << before;
+        }
+    }
+}
+
+/// Bytes 0x80 to 0x9F and their characters; the replacement character where there is none.
+constexpr std::string_view kHighCharacters = "€�‚ƒ„…†‡ˆ‰Š‹Œ�Ž��‘’“”•–—˜™š›œ�žŸ";
+
+TEST(Windows1252, SpecialCharactersOfTheCodePage) {
+    std::string bytes;
+    for (int byte = 0x80; byte <= 0x9F; ++byte) {
+        bytes.push_back(static_cast<char>(byte));
+    }
+    EXPECT_EQ(fromWindows1252(bytes), kHighCharacters);
+    EXPECT_EQ(fromWindows1252("A\xF1o \xA0\xFF"), "Año \u00a0ÿ");
+}
+
+TEST(Windows1252, EveryByteThatMeansSomethingComesBack) {
+    for (int byte = 0; byte < 256; ++byte) {
+        const std::string one(1, static_cast<char>(byte));
+        const std::string text = fromWindows1252(one);
+        EXPECT_TRUE(isUtf8(text)) << byte;
+        EXPECT_EQ(toWindows1252(text), text == "\uFFFD" ? "?" : one) << byte;
+    }
+}
+
+TEST(Windows1252, WhatItLacksBecomesQuestionMarks) {
+    struct Row {
+        std::string_view text;
+        std::string_view bytes;
+    };
+    const Row rows[] = {
+        {"Señal € 5", "Se\xF1"
+                      "al \x80 5"},
+        {"a\u0100b\u8fb2c\U0001F33E", "a?b?c?"},
+        {"\u0081\u009f", "??"},
+        {"\uFFFD", "?"},
+        {"a\xF1o", "a?o"},
+        {"\xE2\x82", "??"},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(toWindows1252(row.text), row.bytes);
+    }
+    EXPECT_EQ(toWindows1252(std::string_view("\0", 1)), std::string(1, '\0'));
+}
+
+TEST(DecodeText, ChoosesByTheBytes) {
+    EXPECT_EQ(decodeText(""), "");
+    EXPECT_EQ(decodeText("A\xC3\xB1o"), "Año");
+    EXPECT_EQ(decodeText("A\xF1o"), "Año");
+    EXPECT_EQ(decodeText("\xEF\xBB\xBF"
+                         "A\xC3\xB1o"),
+              "Año");
+    EXPECT_EQ(decodeText("\xEF\xBB\xBF"), "");
+    EXPECT_EQ(decodeText("\xEF\xBB\xBF"
+                         "A\xF1o"),
+              "ï»¿Año")
+        << "not UTF-8, so no mark either";
+}
+
+TEST(DecodeText, APartFollowsItsFile) {
+    EXPECT_EQ(decodeText("\xC3\xB1", false), "Ã±") << "the file is Windows-1252";
+    EXPECT_EQ(decodeText("\xC3\xB1", true), "ñ");
+    EXPECT_TRUE(isUtf8(decodeText("A\xC3", true))) << "cut inside a character";
+}
+
+TEST(DecodeText, AlwaysGivesUtf8) {
+    std::mt19937 random(7);
+    for (int i = 0; i < 2000; ++i) {
+        std::string bytes(random() % 40, '\0');
+        for (char& c : bytes) {
+            c = static_cast<char>(random() % 4 == 0 ? random() : 'a');
+        }
+        ASSERT_TRUE(isUtf8(decodeText(bytes)));
+        ASSERT_TRUE(isUtf8(decodeText(bytes, true)));
+        ASSERT_TRUE(isUtf8(decodeText(bytes, false)));
+    }
+}
+
+}  // namespace
+}  // namespace campora

@@ -1,0 +1,267 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "base/files.h"
+
+#include <filesystem>
+#include <random>
+
+#ifndef _WIN32
+#include <csignal>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+#include <gtest/gtest.h>
+
+#include "base/paths.h"
+#include "support/temp_folder.h"
+
+namespace campora {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::span<const std::byte> bytesOf(std::string_view text) {
+    return std::as_bytes(std::span(text.data(), text.size()));
+}
+
+std::string contentOf(const std::string& path) {
+    const auto file = readFile(path);
+    return file ? std::string(file->text()) : "unreadable";
+}
+
+std::size_t entriesOf(const TempFolder& folder) {
+    const fs::directory_iterator entries(nativePath(folder.path()));
+    return static_cast<std::size_t>(std::distance(begin(entries), end(entries)));
+}
+
+/// The failure is `what`, names `path` and has `reason` as its cause.
+void expectFailure(const Failure& failure, TextId what, const std::string& path, TextId reason) {
+    EXPECT_EQ(failure.text, what);
+    EXPECT_EQ(failure.arguments, std::vector{path});
+    ASSERT_EQ(failure.cause.size(), 1U);
+    EXPECT_EQ(failure.cause.front().text, reason);
+}
+
+void expectUnreadable(const std::string& path, TextId reason) {
+    SCOPED_TRACE(path);
+    const auto file = readFile(path);
+    ASSERT_FALSE(file);
+    expectFailure(file.failure(), TextId::FileCannotBeRead, path, reason);
+    EXPECT_FALSE(canOpen(path));
+}
+
+std::string noise(std::size_t size) {
+    std::mt19937 random(11);
+    std::string bytes(size, '\0');
+    for (char& c : bytes) {
+        c = static_cast<char>(random());
+    }
+    return bytes;
+}
+
+TEST(ReadFile, GivesTheBytesAsTheyAre) {
+    const TempFolder folder;
+    for (const std::string& content :
+         {std::string(), std::string("\r\n\x1A\0\xFF", 5), noise(200001)}) {
+        const std::string path = folder.write("d\u00eda 1/\u00d1and\u00fa & \u8fb2.rpt", content);
+        const auto file = readFile(path);
+        ASSERT_TRUE(file);
+        EXPECT_EQ(file->text(), content);
+        EXPECT_EQ(file->size(), content.size());
+        ASSERT_EQ(file->bytes().size(), content.size());
+        EXPECT_TRUE(std::ranges::equal(file->bytes(), bytesOf(content)));
+        EXPECT_TRUE(canOpen(path));
+    }
+}
+
+TEST(ReadFile, SaysWhyThereIsNoFile) {
+    const TempFolder folder;
+    const std::string file = folder.write("a.rpt", "x");
+    expectUnreadable("", TextId::FileNotFound);
+    expectUnreadable(folder.file("b.rpt"), TextId::FileNotFound);
+    expectUnreadable(folder.file("none/a.rpt"), TextId::FileNotFound);
+    expectUnreadable(file + "/a.rpt", TextId::FileNotFound);
+    expectUnreadable(file + std::string(1, '\0'), TextId::FileNotFound);
+    expectUnreadable(folder.path(), TextId::FileIsFolder);
+    expectUnreadable(folder.path() + "/", TextId::FileIsFolder);
+}
+
+TEST(ReadFile, TellsTheSystemsOwnReasonWhereItHasNoText) {
+    const TempFolder folder;
+    const std::string path = folder.file(std::string(5000, 'a'));
+    const auto file = readFile(path);
+    ASSERT_FALSE(file);
+    EXPECT_EQ(file.failure().text, TextId::FileCannotBeRead);
+    if (file.failure().cause.empty()) {
+        ASSERT_EQ(file.failure().arguments.size(), 2U);
+        EXPECT_FALSE(file.failure().arguments[1].empty());
+    }
+}
+
+TEST(ReadFile, RefusesAFileBeyondTheLimitWithoutTakingMemory) {
+    const TempFolder folder;
+    const std::string path = folder.write("huge.rpt", "");
+    std::error_code error;
+    fs::resize_file(nativePath(path), std::uintmax_t{1} << 40U, error);
+    if (error) {
+        GTEST_SKIP() << "this disk knows no files with holes";
+    }
+    const auto file = readFile(path);
+    ASSERT_FALSE(file);
+    expectFailure(file.failure(), TextId::FileCannotBeRead, path, TextId::FileTooLarge);
+}
+
+TEST(WriteFile, MakesAndReplaces) {
+    const TempFolder folder;
+    const std::string path = folder.file("Dosis \u00e1 & '\u8fb2'.shp");
+    for (const std::string& content : {noise(300000), std::string("short"), std::string()}) {
+        const auto failure = writeFile(path, bytesOf(content));
+        ASSERT_FALSE(failure.has_value());
+        EXPECT_EQ(contentOf(path), content);
+        EXPECT_EQ(entriesOf(folder), 1U) << "the file and nothing beside it";
+    }
+}
+
+TEST(WriteFile, ALeftOverDraftIsNoObstacle) {
+    const TempFolder folder;
+    const std::string left = folder.write(".campora-0.tmp", "left over");
+    EXPECT_FALSE(writeFile(folder.file("a.lot"), bytesOf("new")).has_value());
+    EXPECT_EQ(contentOf(folder.file("a.lot")), "new");
+    EXPECT_EQ(contentOf(left), "left over");
+}
+
+TEST(WriteFile, ALongNameFits) {
+    const TempFolder folder;
+    const std::string path = folder.file(std::string(200, 'n') + ".dbf");
+    EXPECT_FALSE(writeFile(path, bytesOf("x")).has_value());
+    EXPECT_EQ(contentOf(path), "x");
+}
+
+TEST(WriteFile, SaysWhyItCannot) {
+    const TempFolder folder;
+    const std::string file = folder.write("a.rpt", "x");
+    struct Row {
+        std::string path;
+        TextId reason;
+    };
+    const Row rows[] = {
+        {folder.path(), TextId::FileIsFolder},
+        {folder.file("none/a.rpt"), TextId::FolderNotFound},
+        {"", TextId::FileNotFound},
+        {folder.file("b") + std::string(1, '\0'), TextId::FileNotFound},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.path);
+        const auto failure = writeFile(row.path, bytesOf("y"));
+        ASSERT_TRUE(failure.has_value());
+        expectFailure(*failure, TextId::FileCannotBeWritten, row.path, row.reason);
+    }
+    EXPECT_EQ(entriesOf(folder), 1U);
+    EXPECT_EQ(contentOf(file), "x");
+}
+
+TEST(DeleteFile, DeletesFilesOnly) {
+    const TempFolder folder;
+    const std::string file = folder.write("D\u00eda.rpt", "x");
+    EXPECT_FALSE(deleteFile(file).has_value());
+    EXPECT_FALSE(fs::exists(nativePath(file)));
+    EXPECT_FALSE(deleteFile(file).has_value()) << "it is gone already";
+    const auto failure = deleteFile(folder.path());
+    ASSERT_TRUE(failure.has_value());
+    expectFailure(*failure, TextId::FileCannotBeDeleted, folder.path(), TextId::FileIsFolder);
+    EXPECT_TRUE(fs::exists(nativePath(folder.path())));
+}
+
+#ifndef _WIN32
+
+TEST(Files, ADeviceOrPipeIsRefusedWithoutWaiting) {
+    const TempFolder folder;
+    const std::string pipe = folder.file("pipe.rpt");
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    for (const std::string& path : {pipe, std::string("/dev/null")}) {
+        expectUnreadable(path, TextId::FileIsSpecial);
+        const auto writing = writeFile(path, bytesOf("x"));
+        ASSERT_TRUE(writing.has_value());
+        expectFailure(*writing, TextId::FileCannotBeWritten, path, TextId::FileIsSpecial);
+    }
+    const auto deleting = deleteFile(pipe);
+    ASSERT_TRUE(deleting.has_value());
+    expectFailure(*deleting, TextId::FileCannotBeDeleted, pipe, TextId::FileIsSpecial);
+}
+
+TEST(Files, WithoutPermissionNothingHappens) {
+    if (::geteuid() == 0) {
+        GTEST_SKIP() << "nothing is forbidden to this user";
+    }
+    const TempFolder folder;
+    const std::string path = folder.write("a.rpt", "old");
+    fs::permissions(path, fs::perms::none);
+    expectUnreadable(path, TextId::FileNoPermission);
+    fs::permissions(path, fs::perms::owner_read);
+    const auto failure = writeFile(path, bytesOf("new"));
+    ASSERT_TRUE(failure.has_value());
+    expectFailure(*failure, TextId::FileCannotBeWritten, path, TextId::FileNoPermission);
+    EXPECT_EQ(contentOf(path), "old");
+    EXPECT_EQ(entriesOf(folder), 1U);
+}
+
+/// While it lives, no file of this process grows beyond `most` bytes.
+class FileSizeLimit {
+public:
+    explicit FileSizeLimit(rlim_t most) : signal_(std::signal(SIGXFSZ, SIG_IGN)) {
+        ::getrlimit(RLIMIT_FSIZE, &before_);
+        const rlimit limit{most, before_.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+    ~FileSizeLimit() {
+        ::setrlimit(RLIMIT_FSIZE, &before_);
+        std::signal(SIGXFSZ, signal_);
+    }
+
+private:
+    rlimit before_{};
+    void (*signal_)(int);
+};
+
+TEST(WriteFile, AWriteThatFailsHalfwayLeavesTheOldFile) {
+    const TempFolder folder;
+    const std::string path = folder.write("a.lot", "old");
+    const std::string bytes = noise(300000);
+    // The second size fits the buffer of the stream: only emptying that meets the limit.
+    for (const std::size_t size : {bytes.size(), std::size_t{1500}}) {
+        std::optional<Failure> failure;
+        {
+            const FileSizeLimit limit(1000);
+            failure = writeFile(path, bytesOf(bytes).first(size));
+        }
+        ASSERT_TRUE(failure.has_value()) << size;
+        expectFailure(*failure, TextId::FileCannotBeWritten, path, TextId::FileTooLarge);
+        EXPECT_EQ(contentOf(path), "old");
+        EXPECT_EQ(entriesOf(folder), 1U) << "no draft stays behind";
+    }
+}
+
+TEST(WriteFile, LinksAndPermissionsStay) {
+    const TempFolder folder;
+    const std::string file = folder.write("real/a.lot", "old");
+    fs::permissions(file, fs::perms::owner_read | fs::perms::owner_write);
+    const std::string link = folder.file("link.lot");
+    fs::create_symlink(file, link);
+    ASSERT_FALSE(writeFile(link, bytesOf("new")).has_value());
+    EXPECT_TRUE(fs::is_symlink(link));
+    EXPECT_EQ(contentOf(file), "new");
+    EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+    EXPECT_FALSE(deleteFile(link).has_value());
+    EXPECT_TRUE(fs::exists(file)) << "the link goes, the file stays";
+}
+
+#endif
+
+}  // namespace
+}  // namespace campora

@@ -1,0 +1,117 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "base/paths.h"
+
+#include <gtest/gtest.h>
+
+#include "support/temp_folder.h"
+
+namespace campora {
+namespace {
+
+constexpr bool kSlashSystem = std::filesystem::path::preferred_separator == '/';
+
+TEST(Paths, PartsOfAPath) {
+    struct Row {
+        std::string_view path;
+        std::string_view folder;
+        std::string_view name;
+    };
+    const Row rows[] = {
+        {"", "", ""},
+        {"a.rpt", "", "a.rpt"},
+        {"/a.rpt", "/", "a.rpt"},
+        {"b/c/a.rpt", "b/c/", "a.rpt"},
+        {"C:\\b\\a.rpt", "C:\\b\\", "a.rpt"},
+        {"b/c/", "b/c/", ""},
+        // The folder ends at the last "\" whatever "/" follows; the name follows either.
+        {"b\\c/a.rpt", "b\\", "a.rpt"},
+        {"b/c\\a.rpt", "b/c\\", "a.rpt"},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(folderPart(row.path), row.folder) << row.path;
+        EXPECT_EQ(fileNamePart(row.path), row.name) << row.path;
+    }
+}
+
+TEST(Paths, EndingIsTheLastFourCharacters) {
+    struct Row {
+        std::string_view path;
+        std::string_view ending;
+    };
+    const Row rows[] = {
+        {"a/Lote.RPT", ".rpt"},
+        {".rpt", ".rpt"},
+        {"RPT", "rpt"},
+        {"", ""},
+        {"a.SHPX", "shpx"},
+        {"a.\u00d1\u00c1B", ".\u00f1\u00e1b"},
+        {"\u00d1\u00c1", "\u00f1\u00e1"},
+        {"x\U0001F33E.ab", "\U0001F33E.ab"},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(pathEnding(row.path), row.ending) << row.path;
+    }
+}
+
+TEST(Paths, NativeTextComesBack) {
+    for (const char* text : {"lote 3.rpt", "a/Año ñandú/çã &'\".rpt", "\u8fb2/\U0001F33E"}) {
+        EXPECT_EQ(pathText(nativePath(text).generic_u8string()), text);
+    }
+}
+
+TEST(Paths, BackslashSeparatesUnlessAFileIsNamedSo) {
+    if (!kSlashSystem) {
+        GTEST_SKIP() << "this system separates with it anyway";
+    }
+    const TempFolder folder;
+    EXPECT_EQ(pathText(nativePath(folder.path() + "\\sub\\lote.rpt")), folder.file("sub/lote.rpt"));
+    const std::string odd = folder.write("a\\b.rpt", "odd");
+    EXPECT_EQ(pathText(nativePath(odd)), odd);
+}
+
+TEST(FindIgnoringCase, ExactNameFirstThenAnyCase) {
+    const TempFolder folder;
+    folder.write("Cami\u00f3n \u00d1and\u00fa.RPT", "");
+    folder.write("b.LOT", "");
+    folder.write("B.lot", "");
+    folder.write("b.lot2", "");
+    folder.write("Sub/Uno.TXT", "");
+    std::filesystem::create_directory(nativePath(folder.file("Folder.rpt")));
+    struct Row {
+        const char* name;
+        const char* asked;
+        const char* found;
+    };
+    const Row rows[] = {
+        {"accents", "CAMI\u00d3N \u00f1and\u00fa.rpt", "Cami\u00f3n \u00d1and\u00fa.RPT"},
+        {"exact name wins", "b.LOT", "b.LOT"},
+        {"first in byte order", "b.Lot", "B.lot"},
+        {"none there", "c.lot", "c.lot"},
+        {"other letters", "camion \u00f1and\u00fa.rpt", "camion \u00f1and\u00fa.rpt"},
+        {"folder part stays", "Sub/uno.txt", "Sub/Uno.TXT"},
+        {"folders are not searched", "sub/uno.txt", "sub/uno.txt"},
+        {"missing folder", "none/uno.txt", "none/uno.txt"},
+        {"a folder is no file", "FOLDER.RPT", "FOLDER.RPT"},
+        {"no name", "Sub/", "Sub/"},
+    };
+    if (std::filesystem::exists(nativePath(folder.file("B.LOT")))) {
+        GTEST_SKIP() << "names of this disk have no case";
+    }
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(findIgnoringCase(folder.file(row.asked)), folder.file(row.found));
+    }
+    if (kSlashSystem) {
+        EXPECT_EQ(findIgnoringCase(folder.path() + "\\Sub\\UNO.txt"),
+                  folder.path() + "\\Sub\\Uno.TXT");
+    }
+}
+
+TEST(FindIgnoringCase, NothingStaysNothing) {
+    EXPECT_EQ(findIgnoringCase(""), "");
+}
+
+}  // namespace
+}  // namespace campora

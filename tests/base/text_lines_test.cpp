@@ -1,0 +1,60 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "base/text_lines.h"
+
+#include <string>
+
+#include <gtest/gtest.h>
+
+namespace campora {
+namespace {
+
+using Lines = std::vector<std::string_view>;
+
+TEST(TextLines, EndsOfLines) {
+    struct Row {
+        const char* name;
+        std::string_view text;
+        Lines lines;
+    };
+    const Row rows[] = {
+        {"empty text", "", {}},
+        {"no end", "a", {"a"}},
+        {"end of the last line opens none", "a\nb\n", {"a", "b"}},
+        {"CR LF", "a\r\nb\r\n", {"a", "b"}},
+        {"mixed", "a\r\nb\nc", {"a", "b", "c"}},
+        {"empty lines count", "\n\r\n\na", {"", "", "", "a"}},
+        {"only an end", "\n", {""}},
+        {"lone CR stays", "a\rb\nc", {"a\rb", "c"}},
+        {"one CR before LF goes", "a\r\r\nb", {"a\r", "b"}},
+        {"CR at the very end stays", "a\nb\r", {"a", "b\r"}},
+        {"NUL is no end", std::string_view("a\0b\nc", 5), {std::string_view("a\0b", 3), "c"}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(readAllLines(row.text), row.lines);
+    }
+}
+
+TEST(TextLines, NumbersCountFromOne) {
+    TextLines lines("a\n\nc");
+    std::string_view line;
+    EXPECT_EQ(lines.lineNumber(), 0U);
+    for (std::size_t number = 1; number <= 3; ++number) {
+        ASSERT_TRUE(lines.next(line));
+        EXPECT_EQ(lines.lineNumber(), number);
+    }
+    EXPECT_FALSE(lines.next(line));
+    EXPECT_EQ(lines.lineNumber(), 3U);
+    EXPECT_EQ(line, "c") << "the end leaves the last line alone";
+}
+
+TEST(TextLines, ALineOfAMegabyte) {
+    const std::string big(1 << 20, 'x');
+    const std::string text = big + "\r\nb";
+    EXPECT_EQ(readAllLines(text), (Lines{big, "b"}));
+}
+
+}  // namespace
+}  // namespace campora

@@ -1,0 +1,105 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "base/text.h"
+
+#include <gtest/gtest.h>
+
+namespace campora {
+namespace {
+
+TEST(Text, TrimTakesBlanksOfBothEndsOnly) {
+    struct Row {
+        std::string_view text;
+        std::string_view trimmed;
+    };
+    const Row rows[] = {
+        {"", ""},
+        {" \t\r\n", ""},
+        {"a", "a"},
+        {"\t a b \r\n", "a b"},
+        {"  \u00e1 ", "\u00e1"},
+        {"\va\v", "\va\v"},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(trim(row.text), row.trimmed);
+    }
+}
+
+TEST(Text, SplitKeepsEmptyPieces) {
+    using Pieces = std::vector<std::string_view>;
+    EXPECT_EQ(split("", ';'), (Pieces{""}));
+    EXPECT_EQ(split("a", ';'), (Pieces{"a"}));
+    EXPECT_EQ(split(";", ';'), (Pieces{"", ""}));
+    EXPECT_EQ(split("a;;b;", ';'), (Pieces{"a", "", "b", ""}));
+}
+
+TEST(Text, LowerCaseKnowsLatinLetters) {
+    struct Row {
+        std::string_view text;
+        std::string_view lower;
+    };
+    const Row rows[] = {
+        {"LOTE 3.RPT", "lote 3.rpt"},
+        {"@[`{", "@[`{"},
+        {"ÁÉÍÓÚÜÑÇÃÕÂÊÔÀ", "áéíóúüñçãõâêôà"},
+        {"áñß÷ÿ", "áñß÷ÿ"},
+        {"Þ×À", "þ×à"},
+        {"ĀĶĹŇŊŶŸŹŽ", "āķĺňŋŷÿźž"},
+        {"İ", "i"},
+        {"ıĸŉſ", "ıĸŉſ"},
+        {"ƀΑЖ€", "ƀΑЖ€"},
+        {"\U0001F33E\u8fb2", "\U0001F33E\u8fb2"},
+        {"\xC3", "\xC3"},
+        {"\xD1"
+         "A\xE9\xC3"
+         "B",
+         "\xD1"
+         "a\xE9\xC3"
+         "b"},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(lowerCase(row.text), row.lower);
+        EXPECT_EQ(lowerCase(row.lower), row.lower) << "lower case stays";
+    }
+}
+
+TEST(Text, EveryPairOfLatinExtendedAHasOneLowerForm) {
+    // U+0100 to U+017E: the pairs stand side by side, capital first, but for these.
+    const auto alone = [](unsigned c) {
+        return c == 0x130 || c == 0x131 || c == 0x138 || c == 0x149 || c == 0x178;
+    };
+    const auto utf8 = [](unsigned c) {
+        return std::string{static_cast<char>(0xC0U | c >> 6U),
+                           static_cast<char>(0x80U | (c & 0x3FU))};
+    };
+    int pairs = 0;
+    for (unsigned c = 0x100; c < 0x17F; ++c) {
+        if (alone(c)) {
+            continue;
+        }
+        ASSERT_EQ(lowerCase(utf8(c)), utf8(c + 1)) << std::hex << c;
+        ASSERT_EQ(lowerCase(utf8(c + 1)), utf8(c + 1)) << std::hex << c;
+        ++c;
+        ++pairs;
+    }
+    EXPECT_EQ(pairs, 61);
+}
+
+TEST(Text, EqualIgnoringCase) {
+    EXPECT_TRUE(equalIgnoringCase("", ""));
+    EXPECT_TRUE(equalIgnoringCase("Año.LOT", "AÑO.lot"));
+    EXPECT_FALSE(equalIgnoringCase("ano.lot", "año.lot"));
+    EXPECT_FALSE(equalIgnoringCase("a", "aa"));
+}
+
+TEST(Text, ReplaceAll) {
+    EXPECT_EQ(replaceAll("", "a", "b"), "");
+    EXPECT_EQ(replaceAll("aaa", "aa", "b"), "ba");
+    EXPECT_EQ(replaceAll("a\\b\\c\\", "\\", "/"), "a/b/c/");
+    EXPECT_EQ(replaceAll("x", "x", "xx"), "xx");
+    EXPECT_EQ(replaceAll("a-b", "-", ""), "ab");
+}
+
+}  // namespace
+}  // namespace campora
