@@ -1,0 +1,387 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "colour/color_scale.h"
+
+#include <cmath>
+#include <functional>
+#include <initializer_list>
+#include <limits>
+#include <memory>
+#include <optional>
+#include <random>
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "base/numbers.h"
+#include "support/scripted_platform.h"
+
+namespace campora {
+namespace {
+
+constexpr Color kYellow = Color::rgb(255, 255, 0);
+constexpr Color kRed = Color::rgb(255, 0, 0);
+
+std::vector<Color> colorsOf(const ColorScale& scale) {
+    std::vector<Color> colors;
+    for (const Clase& one : scale.classes()) {
+        colors.push_back(one.color);
+    }
+    return colors;
+}
+
+/// "255,170,0 0,0,0": one group a colour, for readable failures.
+std::string colorText(const std::vector<Color>& colors) {
+    std::string text;
+    for (const Color color : colors) {
+        text += (text.empty() ? "" : " ") + std::to_string(color.red()) + "," +
+                std::to_string(color.green()) + "," + std::to_string(color.blue());
+    }
+    return text;
+}
+
+SetList setOf(std::initializer_list<double> values) {
+    SetList set;
+    for (const double value : values) {
+        set.addDosis(value);
+    }
+    return set;
+}
+
+TEST(ColorScale, RampsOfThreeColours) {
+    struct Row {
+        int classes;
+        const char* colors;
+    };
+    const Row rows[] = {
+        {1, "255,255,0"},
+        {2, "255,255,0 255,0,0"},
+        {3, "255,255,0 0,255,0 255,0,0"},
+        {4, "255,255,0 128,255,0 128,128,0 255,0,0"},
+        {5, "255,255,0 128,255,0 0,255,0 128,128,0 255,0,0"},
+        {6, "255,255,0 170,255,0 85,255,0 85,170,0 170,85,0 255,0,0"},
+        {7, "255,255,0 170,255,0 85,255,0 0,255,0 85,170,0 170,85,0 255,0,0"},
+    };
+    for (const Row& row : rows) {
+        ColorScale scale;
+        scale.setClassNumber(row.classes);
+        EXPECT_EQ(colorText(colorsOf(scale)), row.colors) << row.classes << " classes";
+    }
+}
+
+TEST(ColorScale, RampsOfTwoColours) {
+    struct Row {
+        int classes;
+        const char* colors;
+    };
+    const Row rows[] = {
+        {1, "255,255,0"},
+        {2, "255,255,0 255,0,0"},
+        {3, "255,255,0 255,128,0 255,0,0"},
+        {5, "255,255,0 255,191,0 255,128,0 255,64,0 255,0,0"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.classes);
+        ColorScale scale;
+        scale.setClassNumber(row.classes);
+        scale.degrade(kYellow, std::nullopt, kRed, false);
+        EXPECT_EQ(colorText(colorsOf(scale)), row.colors);
+        EXPECT_FALSE(scale.colorMiddle.has_value());
+    }
+}
+
+// 255 / 18 in single precision is a little more than in double: the third step is 42.5 and a bit.
+TEST(ColorScale, RampStepsAreSinglePrecision) {
+    ColorScale scale;
+    scale.setClassNumber(19);
+    scale.degrade2(Color::rgb(0, 0, 0), kRed, false);
+    EXPECT_EQ(scale.getClass(3).color.red(), 43);
+    EXPECT_EQ(scale.getClass(18).color, kRed);
+}
+
+TEST(ColorScale, TwoColourRampStaysWhenClassesAreAdded) {
+    ColorScale scale;
+    scale.setClassNumber(2);
+    scale.degrade(kYellow, std::nullopt, kRed, false);
+    scale.addClass();
+    EXPECT_EQ(colorText(colorsOf(scale)), "255,255,0 255,128,0 255,0,0");
+}
+
+TEST(ColorScale, NeighboursShareTheirBound) {
+    ColorScale scale;
+    scale.setClassNumberExt(7, -0.1, 12.3);
+    EXPECT_EQ(scale.valueMin(), -0.1);
+    EXPECT_EQ(scale.valueMax(), 12.3);
+    EXPECT_EQ(scale.getClass(0).lower, -0.1);
+    EXPECT_DOUBLE_EQ(scale.getClass(6).upper, 12.3);
+    for (int i = 1; i < scale.count(); ++i) {
+        EXPECT_EQ(scale.getClass(i).lower, scale.getClass(i - 1).upper);
+    }
+}
+
+TEST(ColorScale, AddedAndRemovedClassesShareTheExtremes) {
+    ColorScale scale;
+    scale.addClass();
+    ASSERT_EQ(scale.count(), 7);
+    EXPECT_DOUBLE_EQ(scale.getClass(2).upper, 300.0 / 7);
+    EXPECT_EQ(colorText(colorsOf(scale)),
+              "255,255,0 170,255,0 85,255,0 0,255,0 85,170,0 170,85,0 255,0,0");
+    scale.quitClass();
+    scale.quitClass();
+    ASSERT_EQ(scale.count(), 5);
+    EXPECT_EQ(scale.getClass(4), (Clase{kRed, 80, 100}));
+}
+
+TEST(ColorScale, ManualClasses) {
+    ColorScale scale;
+    scale.clearClass(5, 5);
+    ASSERT_EQ(scale.count(), 1);
+    EXPECT_EQ(scale.getClass(0), (Clase{kYellow, 5, 5}));
+    scale.addClassManual(7, 9);
+    ASSERT_EQ(scale.count(), 2);
+    EXPECT_EQ(scale.getClass(0), (Clase{kYellow, 5, 5}));
+    EXPECT_EQ(scale.getClass(1), (Clase{kRed, 7, 9}));
+    EXPECT_EQ(scale.valueMin(), 0);
+    EXPECT_EQ(scale.valueMax(), 100);
+}
+
+TEST(ColorScale, ClassPerValueOfASet) {
+    ColorScale scale;
+    scale.loadFromSetList(setOf({100, 0.1}), 0.25F);
+    ASSERT_EQ(scale.count(), 2);
+    const double tenth = 0.1F;
+    EXPECT_EQ(scale.getClass(0), (Clase{kYellow, tenth - tenth * 0.25, tenth * 0.25 + tenth}));
+    EXPECT_EQ(scale.getClass(1), (Clase{kRed, 75, 125}));
+    EXPECT_EQ(scale.valueMax(), 100);
+
+    scale.loadFromSetList(SetList(), 0);
+    EXPECT_EQ(scale.count(), 2);
+    scale.loadFromSetList(setOf({3}), 0);
+    ASSERT_EQ(scale.count(), 1);
+    EXPECT_EQ(scale.getClass(0), (Clase{kYellow, 3, 3}));
+}
+
+TEST(ColorScale, FindsTheClassOfAValue) {
+    constexpr double kInfinity = std::numeric_limits<double>::infinity();
+    ColorScale quarters;
+    quarters.setClassNumberExt(4, 0, 100);
+    ColorScale doses;
+    doses.loadFromSetList(setOf({10, 20, 30}), 0);
+    struct Row {
+        const char* name;
+        const ColorScale* scale;
+        double value;
+        int index;
+    };
+    const Row rows[] = {
+        {"inside", &quarters, 30, 1},
+        {"a bound belongs to the lower class", &quarters, 50, 1},
+        {"just above a bound", &quarters, std::nextafter(50, 51), 2},
+        {"below all", &quarters, -1, 0},
+        {"the lowest bound", &quarters, 0, 0},
+        {"above all", &quarters, 100.1, 3},
+        {"infinite", &quarters, kInfinity, 3},
+        {"infinitely low", &quarters, -kInfinity, 0},
+        {"the value of a class", &doses, 20, 1},
+        {"a gap belongs to the class above", &doses, 20.5, 2},
+        {"above the last dose", &doses, 31, 2},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(row.scale->getClassIndexByValue(row.value), row.index);
+        EXPECT_EQ(row.scale->getClassByValue(row.value), &row.scale->getClass(row.index));
+        EXPECT_EQ(row.scale->getColor(row.value), row.scale->getClass(row.index).color);
+    }
+}
+
+TEST(ColorScale, NotANumberHasNoClassButAColour) {
+    const ColorScale scale;
+    const double nan = std::nan("");
+    EXPECT_EQ(scale.getClassByValue(nan), nullptr);
+    EXPECT_EQ(scale.getClassIndexByValue(nan), 0);
+    EXPECT_EQ(scale.getColor(nan), kYellow);
+}
+
+int scannedIndex(const ColorScale& scale, double value) {
+    for (int i = 0; i < scale.count(); ++i) {
+        if (scale.getClass(i).upper >= value) {
+            return i;
+        }
+    }
+    return scale.count() - 1;
+}
+
+// An edited value may leave the classes unsorted; lookups must then still find the first that fits.
+TEST(ColorScale, LookupAgreesWithAScanWhateverTheOrder) {
+    std::mt19937 random(7);
+    std::uniform_real_distribution<double> any(-50, 150);
+    ScriptedDialogs dialogs;
+    for (int round = 0; round < 200; ++round) {
+        ColorScale scale;
+        SetList set;
+        for (int i = 0; i <= round % 23; ++i) {
+            set.addDosis(any(random));
+        }
+        scale.loadFromSetList(set, 0);
+        if (round % 2 == 1) {
+            scale.setClassValue(round % scale.count(), any(random), dialogs, Texts());
+        }
+        if (round % 5 == 1) {
+            scale.addClassManual(any(random), any(random));
+        }
+        for (int i = 0; i < 50; ++i) {
+            const double value = any(random);
+            ASSERT_EQ(scale.getClassIndexByValue(value), scannedIndex(scale, value));
+        }
+    }
+}
+
+TEST(ColorScale, BadIndicesAndNumbersChangeNothing) {
+    ColorScale scale;
+    ScriptedDialogs dialogs;
+    int events = 0;
+    const auto changed = scale.onChanged([&events] { ++events; });
+    const std::vector<Clase> before = scale.classes();
+    for (const int index : {-1, 6, 1000000}) {
+        EXPECT_THROW((void)scale.getClass(index), std::out_of_range);
+        EXPECT_THROW(scale.setClassColor(index, kRed), std::out_of_range);
+        EXPECT_THROW(scale.setClassValue(index, 1, dialogs, Texts()), std::out_of_range);
+    }
+    for (const int number : {0, -3}) {
+        EXPECT_THROW(scale.setClassNumber(number), std::invalid_argument);
+        EXPECT_THROW(scale.setClassNumberExt(number, 1, 2), std::invalid_argument);
+    }
+    EXPECT_EQ(scale.classes(), before);
+    EXPECT_EQ(scale.valueMax(), 100);
+    EXPECT_EQ(events, 0);
+}
+
+TEST(ColorScale, ChangedIsRaisedAsOftenAsSaid) {
+    struct Row {
+        const char* name;
+        std::function<void(ColorScale&)> act;
+        int events;
+    };
+    const Row rows[] = {
+        {"setClassColor", [](ColorScale& s) { s.setClassColor(2, kRed); }, 1},
+        {"addClass", [](ColorScale& s) { s.addClass(); }, 2},
+        {"quitClass", [](ColorScale& s) { s.quitClass(); }, 2},
+        {"setClassNumber", [](ColorScale& s) { s.setClassNumber(3); }, 1},
+        {"setClassNumberExt", [](ColorScale& s) { s.setClassNumberExt(3, 0, 1); }, 1},
+        {"addClassManual", [](ColorScale& s) { s.addClassManual(100, 110); }, 0},
+        {"clearClass", [](ColorScale& s) { s.clearClass(1, 2); }, 0},
+        {"quitClass of the only one",
+         [](ColorScale& s) {
+             s.clearClass(1, 2);
+             s.quitClass();
+         },
+         0},
+        {"loadFromSetList",
+         [](ColorScale& s) {
+             s.loadFromSetList(setOf({1, 2}), 0);
+         },
+         1},
+        {"an empty set", [](ColorScale& s) { s.loadFromSetList(SetList(), 0); }, 0},
+        {"calcRanges", [](ColorScale& s) { s.calcRanges(0, 1, true); }, 1},
+        {"calcRanges in silence", [](ColorScale& s) { s.calcRanges(0, 1, false); }, 0},
+        {"degrade", [](ColorScale& s) { s.degrade(kRed, kYellow, kRed, true); }, 1},
+        {"degrade in silence", [](ColorScale& s) { s.degrade(kRed, kYellow, kRed, false); }, 0},
+        {"degrade of two", [](ColorScale& s) { s.degrade(kRed, std::nullopt, kRed, true); }, 1},
+        {"degrade2 in silence", [](ColorScale& s) { s.degrade2(kRed, kRed, false); }, 0},
+    };
+    for (const Row& row : rows) {
+        ColorScale scale;
+        int events = 0;
+        const auto subscription = scale.onChanged([&events] { ++events; });
+        row.act(scale);
+        EXPECT_EQ(events, row.events) << row.name;
+    }
+}
+
+TEST(ColorScale, SingleValueTakesAnother) {
+    ColorScale scale;
+    scale.loadFromSetList(setOf({10, 20, 30}), 0);
+    ScriptedDialogs dialogs;
+    std::vector<std::string> heard;
+    const auto changed = scale.onChanged([&heard] { heard.emplace_back("changed"); });
+    const auto value = scale.onClassValueChanged([&](int index, double from, double to) {
+        EXPECT_EQ(scale.getClass(index).upper, to);
+        heard.push_back(std::to_string(index) + ": " + numberText(from) + " " + numberText(to));
+    });
+    scale.setClassValue(1, 12.5, dialogs, Texts());
+    EXPECT_EQ(heard, std::vector<std::string>{"1: 20 12.5"});
+    EXPECT_EQ(scale.getClass(0).upper, 10);
+    EXPECT_EQ(scale.getClass(1).lower, 12.5);
+    EXPECT_EQ(scale.getClass(2).upper, 30);
+    EXPECT_TRUE(dialogs.messages.empty());
+}
+
+TEST(ColorScale, IntervalIsRefusedWithAMessage) {
+    ColorScale scale;
+    const std::vector<Clase> before = scale.classes();
+    ScriptedDialogs dialogs;
+    int events = 0;
+    const auto changed = scale.onClassValueChanged([&events](int, double, double) { ++events; });
+    scale.setClassValue(1, 3, dialogs, Texts());
+    scale.setClassValue(1, 3, dialogs, Texts(Language::English));
+    EXPECT_EQ(dialogs.messages,
+              (std::vector<std::string>{"Exclamation|Campora|No se puede cambiar un intervalo",
+                                        "Exclamation|Campora|An interval cannot be changed"}));
+    EXPECT_EQ(scale.classes(), before);
+    EXPECT_EQ(events, 0);
+}
+
+TEST(ColorScaleListeners, MayComeAndGoWhileTheyAreCalled) {
+    ColorScale scale;
+    std::string heard;
+    ColorScale::Subscription first;
+    ColorScale::Subscription second;
+    ColorScale::Subscription late;
+    first = scale.onChanged([&] {
+        heard += 'a';
+        second.reset();
+        late = scale.onChanged([&] { heard += 'c'; });
+        first.reset();
+    });
+    second = scale.onChanged([&] { heard += 'b'; });
+    scale.setClassColor(0, kRed);
+    EXPECT_EQ(heard, "a");
+    scale.setClassColor(0, kRed);
+    EXPECT_EQ(heard, "ac");
+}
+
+TEST(ColorScaleListeners, StayOnlyAsLongAsTheirSubscription) {
+    ColorScale scale;
+    int first = 0;
+    int second = 0;
+    {
+        const auto scoped = scale.onChanged([&first] { ++first; });
+        scale.setClassColor(0, kRed);
+    }
+    scale.setClassColor(0, kRed);
+    EXPECT_EQ(first, 1);
+
+    auto kept = scale.onChanged([&first] { ++first; });
+    kept = scale.onChanged([&second] { ++second; });
+    const auto moved = std::move(kept);
+    scale.setClassColor(0, kRed);
+    EXPECT_EQ(first, 1);
+    EXPECT_EQ(second, 1);
+}
+
+TEST(ColorScaleListeners, SubscriptionMayOutliveTheScale) {
+    auto scale = std::make_unique<ColorScale>();
+    int events = 0;
+    auto changed = scale->onChanged([&events] { ++events; });
+    const auto value = scale->onClassValueChanged([&events](int, double, double) { ++events; });
+    scale.reset();
+    changed.reset();
+    EXPECT_EQ(events, 0);
+}
+
+}  // namespace
+}  // namespace campora

@@ -1,0 +1,65 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "colour/set_list.h"
+
+#include <cmath>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace campora {
+namespace {
+
+struct Row {
+    const char* name;
+    std::vector<double> added;
+    std::vector<double> ascending;
+    double sum;
+    float realAverage;
+    float average;
+};
+
+TEST(SetList, KeepsDistinctValuesAndTotalsOfAll) {
+    const Row rows[] = {
+        {"nothing", {}, {}, 0, 0, 0},
+        {"repeats count in the totals", {5, 3, 5, 4}, {3, 4, 5}, 17, 4.25F, 4},
+        {"partial sums are whole", {0.4, 1.4}, {0.4, 1.4}, 1.8, 0.9F, 0.5F},
+        {"halves of partial sums go to even", {0.5, 2.5}, {0.5, 2.5}, 3, 1.5F, 1},
+        {"below zero", {-1, -3, 0}, {-3, -1, 0}, -4, -4.0F / 3, -4.0F / 3},
+        {"partial sums stay in 32 bits", {2e9, 3e9}, {2e9, 3e9}, 5e9, 2.5e9F, 2147483647.0F / 2},
+        {"not-a-number is left out", {2, std::nan(""), 1}, {1, 2}, 3, 1.5F, 1.5F},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        SetList set;
+        SetList older;
+        int numbers = 0;
+        for (const double value : row.added) {
+            set.addDosis(value);
+            older.addDosisOld(value);
+            numbers += std::isnan(value) ? 0 : 1;
+        }
+        EXPECT_EQ(set.getSet(), row.ascending);
+        EXPECT_EQ(older.getSet(),
+                  std::vector<double>(row.ascending.rbegin(), row.ascending.rend()));
+        EXPECT_EQ(set.count(), static_cast<int>(row.ascending.size()));
+        for (const SetList* list : {&set, &older}) {
+            EXPECT_DOUBLE_EQ(list->sum(), row.sum);
+            EXPECT_EQ(list->addedCount(), numbers);
+            EXPECT_FLOAT_EQ(list->getRealAverage(), row.realAverage);
+        }
+        EXPECT_FLOAT_EQ(set.getAverage(), row.average);
+    }
+}
+
+TEST(SetList, SumIsTakenToSinglePrecisionBeforeDividing) {
+    SetList set;
+    for (const double value : {16777216, 1, 0, 0, 0}) {
+        set.addDosis(value);
+    }
+    EXPECT_EQ(set.getRealAverage(), 3355443.25F);  // 3355443.5 from the exact sum
+}
+
+}  // namespace
+}  // namespace campora

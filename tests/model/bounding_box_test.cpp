@@ -1,0 +1,188 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "model/bounding_box.h"
+
+#include <algorithm>
+#include <cmath>
+#include <random>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "base/lon_lat.h"
+
+namespace campora {
+namespace {
+
+void expectBox(const BoundingBox& box, const BoundingBox& expected) {
+    EXPECT_EQ(box.isSet, expected.isSet);
+    EXPECT_EQ(box.minX, expected.minX);
+    EXPECT_EQ(box.minY, expected.minY);
+    EXPECT_EQ(box.maxX, expected.maxX);
+    EXPECT_EQ(box.maxY, expected.maxY);
+    EXPECT_NEAR(box.widthM, expected.widthM, 1e-6);
+    EXPECT_NEAR(box.heightM, expected.heightM, 1e-6);
+}
+
+BoundingBox boxOf(const std::vector<LonLat>& points) {
+    BoundingBox box;
+    for (const LonLat& point : points) {
+        box.addPoint(point.x, point.y);
+    }
+    return box;
+}
+
+constexpr double kDegree = 111320;
+
+TEST(BoundingBox, GrowsPointByPoint) {
+    struct Row {
+        const char* name;
+        std::vector<LonLat> points;
+        BoundingBox expected;
+    };
+    const Row rows[] = {
+        {"one point", {{3, 4}}, {3, 4, 3, 4, 0, 0, true}},
+        {"north", {{-60, -34}, {-60, -33}}, {-60, -34, -60, -33, 0, kDegree, true}},
+        {"south", {{-60, -33}, {-60, -34}}, {-60, -34, -60, -33, 0, kDegree, true}},
+        {"east along the equator", {{0, 0}, {1, 0}}, {0, 0, 1, 0, kDegree, 0, true}},
+        {"west along the equator", {{1, 0}, {0, 0}}, {0, 0, 1, 0, kDegree, 0, true}},
+        {"east takes the cosine of its own latitude",
+         {{0, 0}, {1, 60}},
+         {0, 0, 1, 60, kDegree / 2, 60 * kDegree, true}},
+        {"west takes the cosine of the southern edge as it was",
+         {{1, 0}, {0, -60}},
+         {0, -60, 1, 0, kDegree, 60 * kDegree, true}},
+        {"west is added to what is there",
+         {{0, 60}, {1, 60}, {-1, 60}},
+         {-1, 60, 1, 60, kDegree, 0, true}},
+        {"a width seen at the equator stays when points lie north",
+         {{0, 0}, {1, 0}, {1.5, 60}},
+         {0, 0, 1.5, 60, kDegree, 60 * kDegree, true}},
+        {"nearer the equator the same longitudes are wider",
+         {{0, 60}, {1, 60}, {1, 0}},
+         {0, 0, 1, 60, kDegree, 60 * kDegree, true}},
+        {"inside",
+         {{0, 0}, {1, 1}, {0.5, 0.5}},
+         {0, 0, 1, 1, kDegree * 0.99984769515639, kDegree, true}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        expectBox(boxOf(row.points), row.expected);
+    }
+}
+
+TEST(BoundingBox, ClearedBoxStartsAnew) {
+    BoundingBox box = boxOf({{1, 2}, {30, 40}});
+    box.clear();
+    EXPECT_FALSE(box.isSet);
+    box.addPoint(-5, -6);
+    expectBox(box, boxOf({{-5, -6}}));
+}
+
+/// The rules of `addPoint` with every cosine computed.
+void addPointSlowly(BoundingBox& box, double x, double y) {
+    const auto metresWide = [](double degrees, double latitude) {
+        return degrees * kDegree * std::cos(latitude * (3.14159265358979 / 180));
+    };
+    if (!box.isSet) {
+        box = {x, y, x, y, 0, 0, true};
+        return;
+    }
+    box.widthM += x < box.minX ? metresWide(box.minX - x, box.minY) : 0;
+    box.heightM += y < box.minY ? (box.minY - y) * kDegree : 0;
+    box.minX = std::min(box.minX, x);
+    box.minY = std::min(box.minY, y);
+    box.maxX = std::max(box.maxX, x);
+    box.maxY = std::max(box.maxY, y);
+    box.widthM = std::max(box.widthM, metresWide(x - box.minX, y));
+    box.heightM = std::max(box.heightM, (y - box.minY) * kDegree);
+}
+
+TEST(BoundingBox, AgreesWithTheSlowWayToTheLastBit) {
+    std::mt19937 random(11);
+    for (int round = 0; round < 200; ++round) {
+        std::uniform_real_distribution<double> start(-100, 100);
+        std::uniform_real_distribution<double> step(-0.001 * round, 0.001 * round);
+        BoundingBox fast;
+        BoundingBox slow;
+        double x = start(random);
+        double y = start(random);
+        for (int i = 0; i < 200; ++i) {
+            fast.addPoint(x, y);
+            addPointSlowly(slow, x, y);
+            ASSERT_TRUE(fast.equals(slow));
+            x += step(random);
+            y += step(random);
+        }
+    }
+}
+
+TEST(BoundingBox, EqualsComparesTheSixNumbers) {
+    const BoundingBox box{1, 2, 3, 4, 5, 6, true};
+    BoundingBox cleared = box;
+    cleared.clear();
+    EXPECT_TRUE(box.equals(cleared));
+    for (double BoundingBox::*field :
+         {&BoundingBox::minX, &BoundingBox::minY, &BoundingBox::maxX, &BoundingBox::maxY,
+          &BoundingBox::widthM, &BoundingBox::heightM}) {
+        BoundingBox other = box;
+        other.*field += 1e-12;
+        EXPECT_FALSE(box.equals(other));
+    }
+}
+
+TEST(BoundingBox, TakesInOtherBoxes) {
+    struct Row {
+        const char* name;
+        BoundingBox box;
+        BoundingBox added;
+        BoundingBox expected;
+    };
+    const BoundingBox unit{0, 0, 1, 1, 1000, 2000, true};
+    const Row rows[] = {
+        {"an empty box becomes the other", {9, 9, 9, 9, 9, 9, false}, unit, unit},
+        {"inside, with whole candidates below", unit, {0, 0, 0.5, 0.5, 900.4, 1999.6, true}, unit},
+        {"a candidate of a fraction more is rounded to nothing more",
+         unit,
+         {0, 0, 1, 1, 1000.4, 2000.4, true},
+         unit},
+        {"halves go to even",
+         {0, 0, 1, 1, 1000.2, 2000.2, true},
+         {0, 0, 1, 1, 1000.5, 2001.5, true},
+         {0, 0, 1, 1, 1000.2, 2002, true}},
+        {"inside, with candidates above",
+         unit,
+         {0, 0, 1, 1, 1000.6, 2001.3, true},
+         {0, 0, 1, 1, 1001, 2001, true}},
+        {"to the north and east",
+         unit,
+         {2, 1, 3, 2, 1000, 2000.2, true},
+         {0, 0, 3, 2, 223640, 113320, true}},
+        {"to the south: the cosine is that of the new southern edge",
+         {0, 0, 1, 1, 1000, 2000, true},
+         {-1, -60, 0, -59, 500, 700, true},
+         {-1, -60, 1, 1, 1000 + kDegree / 2, 2000 + 60 * kDegree, true}},
+        {"a longer other box counts whole",
+         unit,
+         {-0.001, -0.001, 1, 1, 250000, 260000, true},
+         {-0.001, -0.001, 1, 1, 250000, 260000, true}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        BoundingBox box = row.box;
+        box.addBoundingBox(row.added);
+        expectBox(box, row.expected);
+    }
+}
+
+TEST(BoundingBox, DistanceBetweenCentresInWholeMetres) {
+    const BoundingBox here{-61, -35, -59, -33, 0, 0, true};
+    const BoundingBox north{-61, -34, -59, -32, 0, 0, true};
+    EXPECT_EQ(here.distanceTo(north), 111320);
+    EXPECT_EQ(here.distanceTo(here), 0);
+    EXPECT_EQ(BoundingBox().distanceTo(BoundingBox{0, 0, 0, 0.00001, 0, 0, true}), 1);
+}
+
+}  // namespace
+}  // namespace campora

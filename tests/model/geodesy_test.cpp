@@ -1,0 +1,89 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "model/geodesy.h"
+
+#include <cmath>
+#include <random>
+
+#include <gtest/gtest.h>
+
+namespace campora {
+namespace {
+
+TEST(Geodesy, RoundsToTwoOrThreeDigits) {
+    struct Row {
+        double value;
+        double rounded;
+    };
+    const Row rows[] = {
+        {0, 0},         {1234.5, 1234}, {1235.5, 1236},     {0.012345, 0.0123},
+        {-56.78, -57},  {5.678, 5.7},   {3.1234, 3.12},     {3.4567, 3.5},
+        {18.84, 18.8},  {99.95, 100},   {123.4, 123},       {-0.0078125, -0.0078},
+        {0.5, 0.5},     {999.6, 1000},  {123456.7, 123457}, {-1234.5, -1234},
+        {1e-7, 1.0e-7}, {31.622, 31.6}, {31.63, 32},        {4.45, 4.4},
+    };
+    for (const Row& row : rows) {
+        EXPECT_DOUBLE_EQ(roundSignificant(row.value), row.rounded) << row.value;
+    }
+}
+
+TEST(Geodesy, ArcCosineStaysDefinedAtItsEnds) {
+    EXPECT_EQ(arcCos(1), 0);
+    EXPECT_EQ(arcCos(-1), 3.14159265358979);
+    EXPECT_EQ(arcCos(1 + 1e-15), 0);
+    EXPECT_EQ(arcCos(-1 - 1e-15), 3.14159265358979);
+    for (const double x : {-0.999, -0.5, 0.0, 0.25, 0.999}) {
+        EXPECT_NEAR(arcCos(x), std::acos(x), 1e-13) << x;
+    }
+}
+
+/// Metres by the haversine formula, which keeps its digits where the law of cosines loses them.
+double haversine(double lat1, double lon1, double lat2, double lon2) {
+    const double s = std::sin(toRadians(lat2 - lat1) / 2);
+    const double t = std::sin(toRadians(lon2 - lon1) / 2);
+    const double h = s * s + std::cos(toRadians(lat1)) * std::cos(toRadians(lat2)) * t * t;
+    return 2 * std::asin(std::sqrt(h)) * 180 / kPi * METERS_PER_DEGREE;
+}
+
+TEST(Geodesy, DistanceAlongTheGreatCircle) {
+    struct Row {
+        const char* name;
+        double lat1;
+        double lon1;
+        double lat2;
+        double lon2;
+    };
+    const Row rows[] = {
+        {"a degree of latitude", -34, -60, -35, -60},
+        {"a degree of longitude", -34, -60, -34, -61},
+        {"across the equator", 10, 20, -10, 21},
+        {"pole to pole", 90, 0, -90, 0},
+        {"across a field", -34.25, -62.48, -34.256, -62.4812},
+        {"over the ocean", 36.5, -5.5, -34.5, -58.5},
+    };
+    for (const Row& row : rows) {
+        EXPECT_NEAR(surfaceDistance(row.lat1, row.lon1, row.lat2, row.lon2),
+                    haversine(row.lat1, row.lon1, row.lat2, row.lon2), 0.1)
+            << row.name;
+    }
+    EXPECT_NEAR(surfaceDistance(-34, -60, -35, -60), 111320, 1e-3);
+}
+
+TEST(Geodesy, DistanceMirrorsEastAndWest) {
+    EXPECT_EQ(surfaceDistance(-34, -60, -34, -61), surfaceDistance(-34, 60, -34, 61));
+}
+
+TEST(Geodesy, NoPlaceIsAwayFromItself) {
+    std::mt19937 random(3);
+    std::uniform_real_distribution<double> latitude(-90, 90);
+    std::uniform_real_distribution<double> longitude(-180, 180);
+    for (int i = 0; i < 1000; ++i) {
+        const double y = latitude(random);
+        const double x = longitude(random);
+        ASSERT_EQ(surfaceDistance(y, x, y, x), 0) << y << " " << x;
+    }
+}
+
+}  // namespace
+}  // namespace campora

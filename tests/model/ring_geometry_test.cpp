@@ -1,0 +1,89 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "model/ring_geometry.h"
+
+#include <algorithm>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace campora {
+namespace {
+
+using Ring = std::vector<LonLat>;
+
+Ring square(double x, double y, double side) {
+    return {{x, y}, {x + side, y}, {x + side, y + side}, {x, y + side}};
+}
+
+TEST(RingGeometry, AreaInSquareMetres) {
+    struct Row {
+        const char* name;
+        Ring ring;
+        float area;
+    };
+    const Row rows[] = {
+        {"no points", {}, 0},
+        {"two points", {{0, 0}, {1, 1}}, 0},
+        {"square on the equator", square(0, 0, 0.01), 1239214.25F},
+        {"triangle", {{0, 0}, {0.01, 0}, {0, 0.01}}, 619607.125F},
+        {"concave",
+         {{0, 0}, {0.02, 0}, {0.02, 0.01}, {0.01, 0.01}, {0.01, 0.02}, {0, 0.02}},
+         3717642.75F},
+        {"at 60 degrees north", square(0, 60, 0.01), 619552.0625F},
+        // Far from 0, 0 single precision takes its toll: the exact sum is 1024382.64.
+        {"far from the origin", square(-62.5, -34.25, 0.01), 1024564.6875F},
+    };
+    for (const Row& row : rows) {
+        EXPECT_FLOAT_EQ(polygonArea(row.ring), row.area) << row.name;
+    }
+}
+
+TEST(RingGeometry, AreaOfEitherDirectionIsPositive) {
+    Ring ring = square(0, 0, 0.01);
+    std::reverse(ring.begin(), ring.end());
+    EXPECT_FLOAT_EQ(polygonArea(ring), 1239214.25F);
+}
+
+TEST(RingGeometry, PointInRing) {
+    const Ring box = square(0, 0, 2);
+    const Ring diamond = {{0, -1}, {1, 0}, {0, 1}, {-1, 0}};
+    const Ring cup = {{0, 0}, {3, 0}, {3, 3}, {2, 3}, {2, 1}, {1, 1}, {1, 3}, {0, 3}};
+    // The ray from the left runs along the level edge from (1, 1) to (2, 1).
+    const Ring step = {{0, 0}, {3, 0}, {3, 2}, {2, 2}, {2, 1}, {1, 1}, {1, 2}, {0, 2}};
+    const Ring slanted = {{0, 0}, {10, 1}, {10, 2}, {0, 1}};
+    struct Row {
+        const char* name;
+        const Ring* ring;
+        LonLat point;
+        bool inside;
+    };
+    const Row rows[] = {
+        {"inside", &box, {1, 1}, true},
+        {"left", &box, {-1, 1}, false},
+        {"right", &box, {3, 1}, false},
+        {"above", &box, {1, 3}, false},
+        {"level with a side", &box, {-1, 2}, false},
+        {"ray through a corner, inside", &diamond, {0, 0}, true},
+        {"ray through both corners, outside", &diamond, {-2, 0}, false},
+        {"ray touches the top", &diamond, {-1, 1}, false},
+        {"ray touches the bottom", &diamond, {-1, -1}, false},
+        {"between the arms", &cup, {1.5, 2}, false},
+        {"in the left arm", &cup, {0.5, 2}, true},
+        {"in the right arm", &cup, {2.5, 2}, true},
+        {"ray along a level edge, inside", &step, {0.5, 1}, true},
+        {"ray along a level edge, outside", &step, {-1, 1}, false},
+        {"above a slanted edge", &slanted, {8, 1}, true},
+        {"below a slanted edge", &slanted, {8, 0.7}, false},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(pointInRing(*row.ring, row.point), row.inside) << row.name;
+        const Ring reversed(row.ring->rbegin(), row.ring->rend());
+        EXPECT_EQ(pointInRing(reversed, row.point), row.inside) << row.name << ", reversed";
+    }
+    EXPECT_FALSE(pointInRing({}, {0, 0}));
+}
+
+}  // namespace
+}  // namespace campora

@@ -1,0 +1,233 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "model/view_transform.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <random>
+#include <utility>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "model/geodesy.h"
+
+namespace campora {
+namespace {
+
+constexpr double kDegree = 111320;
+constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
+constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
+
+TEST(ViewTransform, DegreesToCanvas) {
+    const double nan = std::nan("");
+    struct Row {
+        const char* name;
+        float scale;
+        LonLat origin;
+        LonLat at;
+        CanvasPoint place;
+    };
+    const Row rows[] = {
+        {"origin is the lower left corner", 1, {-62, -34}, {-62, -34}, {0, 1001}},
+        {"north is up", 1113.2F, {0, 0}, {0, 1}, {0, 901}},
+        {"east is right", 1113.2F, {0, 0}, {1, 0}, {100, 1001}},
+        {"west of the canvas", 1113.2F, {0, 0}, {-1, 0}, {-100, 1001}},
+        {"cosine of the point's own latitude", 1113.2F, {0, 0}, {1, 60}, {50, -4999}},
+        {"below the canvas", 1113.2F, {0, 60}, {1, 0}, {100, 7001}},
+        // 0.5 units up round to 0 before they are taken from 1001, and 1.5 to 2.
+        {"height is rounded before it is turned round", 222640, {0, 0}, {0, 1}, {0, 1001}},
+        {"halves go to even", 222640, {0, 0}, {3, 0}, {2, 1001}},
+        {"halves go to even upwards too", 222640, {0, 0}, {0, 3}, {0, 999}},
+        {"far east and north", 1, {0, 0}, {1e9, 0}, {kMost, 1001}},
+        {"far north", 1, {0, 0}, {0, 1e9}, {0, kLeast + 1002}},
+        {"far south", 1, {0, 0}, {0, -1e9}, {0, kMost}},
+        {"not-a-number", 1, {0, 0}, {nan, nan}, {0, 1001}},
+    };
+    for (const Row& row : rows) {
+        const ViewTransform view(row.scale, row.scale, row.origin, {1500, 1001});
+        const CanvasPoint place = view.mapToScreen(row.at.x, row.at.y);
+        EXPECT_EQ(place, row.place) << row.name << ": " << place.x << " " << place.y;
+    }
+}
+
+TEST(ViewTransform, AxesHaveTheirOwnScale) {
+    const ViewTransform view(1113.2F, 2226.4F, {0, 0}, {1500, 1000});
+    EXPECT_EQ(view.mapToScreen(1, 0), (CanvasPoint{100, 1000}));
+    EXPECT_EQ(view.mapToScreen(0, 1), (CanvasPoint{0, 950}));
+    EXPECT_NEAR(view.screenToMap(100, 950).y, 1, 1e-6);
+}
+
+TEST(ViewTransform, CanvasToDegreesAndBack) {
+    const ViewTransform view(0.75F, 0.75F, {-62.5, -34.25}, {18000, 13500});
+    for (const auto& [sx, sy] : {std::pair{0, 13500}, {18000, 0}, {1234, 4321}, {-500, 20000}}) {
+        const LonLat at = view.screenToMap(static_cast<float>(sx), static_cast<float>(sy));
+        EXPECT_EQ(view.mapToScreen(at.x, at.y), (CanvasPoint{sx, sy}));
+    }
+    const LonLat corner = view.screenToMap(0, 13500);
+    EXPECT_DOUBLE_EQ(corner.x, -62.5);
+    EXPECT_DOUBLE_EQ(corner.y, -34.25);
+}
+
+TEST(ViewTransform, FarContentIsLeftOut) {
+    // 10 by 10 kilometres from 62 W, 34 S.
+    const ViewTransform view(1, 1, {-62, -34}, {10000, 10000});
+    const double metreX = 1 / (kDegree * std::cos(34 * 3.14159265358979 / 180));
+    const double metreY = 1 / kDegree;
+    struct Row {
+        const char* name;
+        LonLat fromM;
+        LonLat toM;
+        double marginM;
+        bool touches;
+    };
+    const Row rows[] = {
+        {"on the canvas", {5000, 5000}, {5010, 5000}, 0, true},
+        {"crosses it", {-500, -500}, {11000, 11000}, 0, true},
+        {"left", {-200, 5000}, {-100, 5000}, 20, false},
+        {"left, with a wide margin", {-200, 5000}, {-100, 5000}, 120, true},
+        {"right", {10200, 5000}, {10300, 5000}, 20, false},
+        {"right, with a wide margin", {10200, 5000}, {10300, 5000}, 220, true},
+        {"above", {5000, 10100}, {5100, 10200}, 20, false},
+        {"above, with a wide margin", {5000, 10100}, {5100, 10200}, 120, true},
+        {"below", {5000, -100}, {5100, -200}, 20, false},
+        {"below, with a wide margin", {5000, -100}, {5100, -200}, 120, true},
+        {"one end left, one below", {-100, 5000}, {5000, -100}, 0, true},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        const LonLat from{-62 + row.fromM.x * metreX, -34 + row.fromM.y * metreY};
+        const LonLat to{-62 + row.toM.x * metreX, -34 + row.toM.y * metreY};
+        EXPECT_EQ(view.mayTouch(from, to, row.marginM), row.touches);
+        EXPECT_EQ(view.mayTouch(to, from, row.marginM), row.touches);
+        BoundingBox box;
+        box.addPoint(from.x, from.y);
+        box.addPoint(to.x, to.y);
+        EXPECT_EQ(view.mayTouch(box, row.marginM), row.touches);
+    }
+    EXPECT_FALSE(view.mayTouch(BoundingBox(), 1e9));
+}
+
+/// Outlines reach over their line: a pen of two pixels by one.
+constexpr double kPen = 15;
+
+/// Whether the straight line between two canvas places shows on the canvas.
+bool crosses(CanvasPoint a, CanvasPoint b, CanvasSize canvas) {
+    double first = 0;
+    double last = 1;
+    const auto clip = [&first, &last](double start, double end, double limit) {
+        // The part of the line with a coordinate of -kPen to limit + kPen.
+        const double length = end - start;
+        if (length == 0) {
+            return start >= -kPen && start <= limit + kPen;
+        }
+        const double atZero = (-kPen - start) / length;
+        const double atLimit = (limit + kPen - start) / length;
+        first = std::max(first, std::min(atZero, atLimit));
+        last = std::min(last, std::max(atZero, atLimit));
+        return first <= last;
+    };
+    return clip(a.x, b.x, canvas.width) && clip(a.y, b.y, canvas.height);
+}
+
+/// The places of both ends and of what lies `marginM` around them in the eight main directions.
+std::vector<CanvasPoint> placesAround(const ViewTransform& view, LonLat from, LonLat to,
+                                      double marginM) {
+    std::vector<CanvasPoint> places;
+    for (const LonLat end : {from, to}) {
+        for (const double north : {-1.0, 0.0, 1.0}) {
+            const double y = end.y + north * marginM / kDegree;
+            for (const double east : {-1.0, 0.0, 1.0}) {
+                const double reach = std::hypot(north, east) > 1 ? std::sqrt(0.5) : 1;
+                const double yHere = end.y + reach * (y - end.y);
+                const double metreX = 1 / (kDegree * std::abs(std::cos(toRadians(yHere))));
+                places.push_back(view.mapToScreen(end.x + reach * east * marginM * metreX, yHere));
+            }
+        }
+    }
+    return places;
+}
+
+bool showsSomething(const std::vector<CanvasPoint>& places, CanvasSize canvas) {
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        for (std::size_t j = 0; j < i; ++j) {
+            if (crosses(places[i], places[j], canvas)) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+/// All places beyond one side of the canvas, by a twentieth of it and some pixels more.
+bool wellOff(const std::vector<CanvasPoint>& places, CanvasSize canvas) {
+    const int bandX = canvas.width / 20 + 100;
+    const int bandY = canvas.height / 20 + 100;
+    const auto all = [&places](auto&& beyond) {
+        return std::all_of(places.begin(), places.end(), beyond);
+    };
+    return all([&](CanvasPoint p) { return p.x < -bandX; }) ||
+           all([&](CanvasPoint p) { return p.x > canvas.width + bandX; }) ||
+           all([&](CanvasPoint p) { return p.y < -bandY; }) ||
+           all([&](CanvasPoint p) { return p.y > canvas.height + bandY; });
+}
+
+TEST(ViewTransform, NothingThatShowsIsLeftOut) {
+    std::mt19937 random(2026);
+    const auto uniform = [&random](double low, double high) {
+        return std::uniform_real_distribution<double>(low, high)(random);
+    };
+    const CanvasSize canvas{18000, 13500};
+    int shown = 0;
+    for (int i = 0; i < 20000; ++i) {
+        // From a field to far more than the globe, poles included.
+        const auto scale = static_cast<float>(std::pow(10, uniform(-1, 5)));
+        const LonLat origin{uniform(-180, 180), uniform(-100, 95)};
+        const ViewTransform view(scale, scale, origin, canvas);
+        const double reach = std::pow(10, uniform(-4, 2));
+        const auto near = [&] {
+            return LonLat{origin.x + uniform(-reach, reach), origin.y + uniform(-reach, reach)};
+        };
+        const LonLat from = near();
+        const LonLat to = i % 2 == 0 ? near() : LonLat{from.x + uniform(-0.01, 0.01), from.y};
+        const double margin = i % 3 == 0 ? 0 : std::pow(10, uniform(0, 4));
+        if (showsSomething(placesAround(view, from, to, margin), canvas)) {
+            ++shown;
+            ASSERT_TRUE(view.mayTouch(from, to, margin))
+                << "scale " << scale << " origin " << origin.x << " " << origin.y << " from "
+                << from.x << " " << from.y << " to " << to.x << " " << to.y << " margin " << margin;
+        }
+    }
+    EXPECT_GT(shown, 3000);
+}
+
+TEST(ViewTransform, ShortStepsWellOffTheCanvasAreLeftOut) {
+    std::mt19937 random(5);
+    const auto uniform = [&random](double low, double high) {
+        return std::uniform_real_distribution<double>(low, high)(random);
+    };
+    const CanvasSize canvas{18000, 13500};
+    int off = 0;
+    for (int i = 0; i < 20000; ++i) {
+        const auto scale = static_cast<float>(std::pow(10, uniform(-1, 0)));
+        const ViewTransform view(scale, scale, {uniform(-180, 180), uniform(-60, 60)}, canvas);
+        const double reach = 3.0 * scale * canvas.width / kDegree;
+        const LonLat from{view.origin().x + uniform(-reach, reach),
+                          view.origin().y + uniform(-reach, reach)};
+        const LonLat to{from.x + uniform(-0.0002, 0.0002), from.y + uniform(-0.0002, 0.0002)};
+        if (wellOff(placesAround(view, from, to, 20), canvas)) {
+            ++off;
+            ASSERT_FALSE(view.mayTouch(from, to, 20))
+                << "scale " << scale << " origin " << view.origin().x << " " << view.origin().y
+                << " from " << from.x << " " << from.y;
+        }
+    }
+    EXPECT_GT(off, 10000);
+}
+
+}  // namespace
+}  // namespace campora
