@@ -25,12 +25,6 @@ public:
     using RptRecords = std::vector<TrackDataRPT>;
     using NbrRecords = std::vector<TrackDataNBR>;
 
-    /// The two sides of the swath at a point, degrees.
-    struct Corners {
-        LonLat left;
-        LonLat right;
-    };
-
     /// Appends a point with its record. A point at exactly the last position only replaces the last
     /// record. A record of another kind than the first throws `std::invalid_argument`.
     void addPoint(double x, double y, const TrackDataRPT& record);
@@ -46,10 +40,6 @@ public:
     [[nodiscard]] const TrackData& pointInfo(std::int32_t index) const;
     /// The records as they are stored, for code that needs their own kind.
     [[nodiscard]] const std::variant<RptRecords, NbrRecords>& records() const { return records_; }
-
-    /// The swath's corners at point i for a swath of `width` metres, mitred at interior points; a
-    /// mitre longer than 1.5 swath widths gives way to the arriving step's own perpendicular.
-    [[nodiscard]] Corners swathCorners(std::int32_t i, float width) const;
 
     void trocha(float metres) override;
     [[nodiscard]] float getHectareasError(const MapStyle& style, float limit) const override;
@@ -83,9 +73,14 @@ public:
     [[nodiscard]] LonLat ExportablePoint_pointN(std::int32_t point) const override;
 
 private:
+    template <typename Record>
+    void append(double x, double y, const Record& record);
+    [[nodiscard]] bool isStep(std::int32_t index) const;
+
     std::vector<LonLat> points_;
     std::variant<RptRecords, NbrRecords> records_;
     BoundingBox bound_;
+    float widestSwath_ = 0;  // metres; no record is wider
 };
 
 }  // namespace campora

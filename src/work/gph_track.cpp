@@ -1,0 +1,145 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "work/gph_track.h"
+
+#include <algorithm>
+#include <cmath>
+#include <stdexcept>
+
+#include "model/ring_geometry.h"
+#include "work/swath_geometry.h"
+
+namespace campora {
+
+template <typename Record>
+void GphTrack::append(double x, double y, const Record& record) {
+    using Records = std::vector<Record>;
+    if (points_.empty()) {
+        records_.emplace<Records>().reserve(points_.capacity());
+    }
+    auto* const records = std::get_if<Records>(&records_);
+    if (records == nullptr) {
+        throw std::invalid_argument("GphTrack: records of two kinds in one track");
+    }
+    widestSwath_ = std::max(widestSwath_, std::abs(record.trocha()));
+    if (!points_.empty() && points_.back() == LonLat{x, y}) {
+        records->back() = record;
+        return;
+    }
+    records->push_back(record);
+    points_.push_back({x, y});
+    bound_.addPoint(x, y);
+}
+
+void GphTrack::addPoint(double x, double y, const TrackDataRPT& record) {
+    append(x, y, record);
+}
+
+void GphTrack::addPoint(double x, double y, const TrackDataNBR& record) {
+    append(x, y, record);
+}
+
+void GphTrack::reserve(std::size_t points) {
+    points_.reserve(points);
+    if (!points_.empty()) {
+        std::visit([points](auto& records) { records.reserve(points); }, records_);
+    }
+}
+
+void GphTrack::shrinkToFit() {
+    points_.shrink_to_fit();
+    std::visit([](auto& records) { records.shrink_to_fit(); }, records_);
+}
+
+const TrackData& GphTrack::pointInfo(std::int32_t index) const {
+    return std::visit(
+        [index](const auto& records) -> const TrackData& {
+            return records.at(static_cast<std::size_t>(index));
+        },
+        records_);
+}
+
+bool GphTrack::isStep(std::int32_t index) const {
+    return index >= 0 && index < Gph_count();
+}
+
+void GphTrack::trocha(float metres) {
+    std::visit(
+        [metres](auto& records) {
+            for (auto& record : records) {
+                record.setTrocha(metres);
+            }
+        },
+        records_);
+    widestSwath_ = std::abs(metres);
+}
+
+float GphTrack::getHectareasError(const MapStyle& style, float limit) const {
+    const auto* const records = std::get_if<RptRecords>(&records_);
+    if (records == nullptr) {
+        return 0;  // track files have no specified dose to miss
+    }
+    double squareMetres = 0;
+    for (std::size_t i = 0; i + 1 < points_.size(); ++i) {
+        const TrackDataRPT& record = (*records)[i];
+        if (record.getError(style.selectedChannel) > limit) {
+            squareMetres += stepMetres(points_[i], points_[i + 1]) * record.trocha();
+        }
+    }
+    return static_cast<float>(squareMetres / 10000);
+}
+
+void GphTrack::clearAlarmas() {
+    if (auto* const records = std::get_if<RptRecords>(&records_)) {
+        for (TrackDataRPT& record : *records) {
+            record.clearAlarmas();
+        }
+    }
+}
+
+std::int32_t GphTrack::Gph_count() const {
+    return points_.size() < 2 ? 0 : static_cast<std::int32_t>(points_.size() - 1);
+}
+
+float GphTrack::Gph_delayN(std::int32_t n) const {
+    const auto* const records = std::get_if<RptRecords>(&records_);
+    if (records == nullptr || !isStep(n)) {
+        return 1;
+    }
+    const auto i = static_cast<std::size_t>(n);
+    const int seconds = secondsBetween((*records)[i].time(), (*records)[i + 1].time());
+    return seconds == 0 ? 1 : static_cast<float>(seconds);
+}
+
+std::int32_t GphTrack::Gph_mouseOver(const ViewTransform& view, const MapStyle& style,
+                                     LonLat position, std::int32_t start) const {
+    const auto covers = [&](std::size_t i, const auto& record) {
+        const float swath = record.trocha();
+        const LonLat from = points_[i];
+        const LonLat to = points_[i + 1];
+        return (style.drawAll || record.caudal() > 0) && swathMayCover(from, to, swath, position) &&
+               view.mayTouch(from, to, kMitreLimit * std::abs(swath)) &&
+               pointInRing(swathQuad(points_, i, swath), position);
+    };
+    if (!view.isFitted()) {
+        return -1;
+    }
+    return std::visit(
+        [&](const auto& records) {
+            for (std::int32_t i = std::max(start, 0); i < Gph_count(); ++i) {
+                const auto index = static_cast<std::size_t>(i);
+                if (covers(index, records[index])) {
+                    return i;
+                }
+            }
+            return -1;
+        },
+        records_);
+}
+
+std::string GphTrack::Gph_getInfo(const InfoContext& context, std::int32_t n) const {
+    return pointInfo(n).resumen(context);
+}
+
+}  // namespace campora

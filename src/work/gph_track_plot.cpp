@@ -1,0 +1,166 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+// How a track draws itself: steps that look alike and follow each other become one polygon.
+
+#include <cmath>
+#include <optional>
+#include <span>
+
+#include "work/gph_track.h"
+#include "work/swath_geometry.h"
+
+namespace campora {
+
+namespace {
+
+/// Draws steps of one track, in order. Templated on the kind of record so that nothing in the loop
+/// over the steps is a virtual call but what the canvas does.
+template <typename Record>
+class TrackPainter {
+public:
+    TrackPainter(MapContext& context, std::span<const LonLat> points,
+                 std::span<const Record> records)
+        : canvas_(context.canvas),
+          view_(context.view),
+          style_(context.style),
+          points_(points),
+          records_(records) {}
+
+    /// Steps `first` to `last` - 1; whether anything of them was drawn.
+    bool draw(std::size_t first, std::size_t last) {
+        const Color pen = canvas_.penColor();
+        for (std::size_t i = first; i < last; ++i) {
+            drawStep(i);
+        }
+        finishRun();
+        canvas_.setPenColor(pen);
+        return drawn_;
+    }
+
+private:
+    /// The sides of the swath on the canvas at a point, for swaths of that width.
+    struct Edge {
+        std::size_t point;
+        float swath;
+        CanvasPoint left;
+        CanvasPoint right;
+    };
+    /// What all steps of a run have in common, and the record that colours them.
+    struct Run {
+        float flow;
+        float swath;
+        const Record* record;
+    };
+
+    void drawStep(std::size_t i) {
+        const Record& record = records_[i];
+        const float swath = record.trocha();
+        if (!view_.mayTouch(points_[i], points_[i + 1], kMitreLimit * std::abs(swath))) {
+            finishRun();
+            return;
+        }
+        const float flow = record.caudal();
+        if (style_.drawAll || flow > 0) {
+            addToRun(i, {flow, swath, &record});
+            return;
+        }
+        finishRun();
+        if (style_.drawDotted) {
+            drawCentreline(points_[i], points_[i + 1]);
+        }
+    }
+
+    [[nodiscard]] static bool sameRun(const Run& run, const Run& next) {
+        return run.flow == next.flow && run.swath == next.swath;
+    }
+
+    void addToRun(std::size_t i, const Run& step) {
+        if (run_ && !sameRun(*run_, step)) {
+            finishRun();
+        }
+        if (!run_) {
+            run_ = step;
+            addEdge(i);
+        }
+        addEdge(i + 1);
+    }
+
+    void addEdge(std::size_t point) {
+        const float swath = run_->swath;
+        // The edge between two runs of one width belongs to both.
+        if (!lastEdge_ || lastEdge_->point != point || lastEdge_->swath != swath) {
+            const SwathCorners corners = swathCorners(points_, point, swath);
+            lastEdge_ = {point, swath, view_.mapToScreen(corners.left.x, corners.left.y),
+                         view_.mapToScreen(corners.right.x, corners.right.y)};
+        }
+        ring_.push_back(lastEdge_->left);
+        rightSide_.push_back(lastEdge_->right);
+    }
+
+    void finishRun() {
+        if (!run_) {
+            return;
+        }
+        const Color color = run_->record->color(style_);
+        canvas_.setFillColor(color);
+        if (!style_.drawBorders) {
+            canvas_.setPenColor(color);
+        }
+        ring_.insert(ring_.end(), rightSide_.rbegin(), rightSide_.rend());
+        canvas_.polygon(ring_);
+        ring_.clear();
+        rightSide_.clear();
+        run_.reset();
+        drawn_ = true;
+    }
+
+    void drawCentreline(LonLat from, LonLat to) {
+        const PenStyle before = canvas_.penStyle();
+        canvas_.setPenStyle(PenStyle::Dotted);
+        canvas_.line(view_.mapToScreen(from.x, from.y), view_.mapToScreen(to.x, to.y),
+                     style_.colors.noDraw);
+        canvas_.setPenStyle(before);
+        drawn_ = true;
+    }
+
+    MapCanvas& canvas_;
+    const ViewTransform& view_;
+    const MapStyle& style_;
+    std::span<const LonLat> points_;
+    std::span<const Record> records_;
+
+    std::optional<Run> run_;
+    std::optional<Edge> lastEdge_;
+    std::vector<CanvasPoint> ring_;  // the left side until the run is finished
+    std::vector<CanvasPoint> rightSide_;
+    bool drawn_ = false;
+};
+
+bool drawSteps(MapContext& context, const GphTrack& track, std::size_t first, std::size_t last) {
+    return std::visit(
+        [&](const auto& records) {
+            return TrackPainter(context, std::span(track.points()), std::span(records))
+                .draw(first, last);
+        },
+        track.records());
+}
+
+}  // namespace
+
+void GphTrack::Gph_plot(MapContext& context) const {
+    const ViewTransform& view = context.view;
+    if (view.isFitted() && Gph_count() > 0 && view.mayTouch(bound_, kMitreLimit * widestSwath_)) {
+        drawSteps(context, *this, 0, points_.size() - 1);
+    }
+}
+
+bool GphTrack::Gph_plotN(MapContext& context, std::int32_t n) const {
+    if (!context.view.isFitted() || !isStep(n)) {
+        return false;
+    }
+    const auto i = static_cast<std::size_t>(n);
+    return drawSteps(context, *this, i, i + 1);
+}
+
+}  // namespace campora

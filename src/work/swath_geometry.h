@@ -1,0 +1,42 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <span>
+
+#include "base/lon_lat.h"
+
+namespace campora {
+
+/// The two sides of a swath at a point of a pass, degrees.
+struct SwathCorners {
+    LonLat left;
+    LonLat right;
+};
+
+/// No corner is farther than this many swath widths from its point.
+inline constexpr double kMitreLimit = 1.5;
+
+/// The corners at point `i` of a pass for a swath of `widthMetres`: square to the step at the ends,
+/// mitred between two steps. A mitre beyond `kMitreLimit` gives way to the arriving step's own
+/// perpendicular. The point alone is both corners when there is no step.
+/// Directions are taken in plain degrees; the width holds on the ground, east to west as well.
+[[nodiscard]] SwathCorners swathCorners(std::span<const LonLat> pass, std::size_t i,
+                                        double widthMetres);
+
+/// What step `i` (from point i to point i + 1) covers: left and right corner at its end follow the
+/// left one at its start, the right one at its start comes last.
+[[nodiscard]] std::array<LonLat, 4> swathQuad(std::span<const LonLat> pass, std::size_t i,
+                                              double widthMetres);
+
+/// Whether the swath of the step between two points can reach `position`. Cheap; may say yes
+/// wrongly, never no.
+[[nodiscard]] bool swathMayCover(LonLat from, LonLat to, double widthMetres, LonLat position);
+
+/// Length of a step on the ground, metres, with the cosine of the latitude where it ends.
+[[nodiscard]] double stepMetres(LonLat from, LonLat to);
+
+}  // namespace campora
