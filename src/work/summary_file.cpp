@@ -1,0 +1,101 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "work/summary_file.h"
+
+#include <array>
+#include <optional>
+#include <string>
+
+#include "base/encoding.h"
+#include "base/files.h"
+#include "base/text.h"
+#include "base/text_lines.h"
+
+namespace campora {
+
+namespace {
+
+constexpr std::size_t kFields = 3;  // name, value, unit
+
+/// The field at the start of `rest`, up to a comma or the end, neither of which it takes away. None
+/// for an opening quote without a closing one.
+std::optional<std::string> takeField(std::string_view& rest) {
+    rest = trim(rest);
+    if (!rest.starts_with('"')) {
+        const std::string_view field = rest.substr(0, rest.find(','));
+        rest.remove_prefix(field.size());
+        return std::string(trim(field));
+    }
+    std::string field;
+    for (std::size_t i = 1; i < rest.size(); ++i) {
+        if (rest[i] != '"') {
+            field.push_back(rest[i]);
+            continue;
+        }
+        const std::string_view after = trim(rest.substr(i + 1));
+        if (after.empty() || after.front() == ',') {
+            rest = after;
+            return field;
+        }
+        // Consoles do not double the quotes that a user types; such a quote stands for itself.
+        field.push_back('"');
+        i += rest[i + 1] == '"' ? 1 : 0;
+    }
+    return std::nullopt;
+}
+
+/// The three fields of a line; none when it has another number of them.
+std::optional<std::array<std::string, kFields>> splitLine(std::string_view line) {
+    std::array<std::string, kFields> fields;
+    std::string_view rest = line;
+    for (std::size_t i = 0; i < kFields; ++i) {
+        std::optional<std::string> field = takeField(rest);
+        const bool isLast = i + 1 == kFields;
+        if (!field || rest.empty() != isLast) {
+            return std::nullopt;
+        }
+        fields[i] = std::move(*field);
+        rest.remove_prefix(isLast ? 0 : 1);
+    }
+    return fields;
+}
+
+/// Without its last character, which may take several bytes.
+std::string_view withoutLast(std::string_view text) {
+    std::size_t end = text.size();
+    while (end > 0 && (static_cast<unsigned char>(text[end - 1]) & 0xC0U) == 0x80U) {
+        --end;
+    }
+    return text.substr(0, end > 0 ? end - 1 : 0);
+}
+
+}  // namespace
+
+FileProperties decodeSummary(std::string_view bytes) {
+    FileProperties summary;
+    const std::string text = decodeText(bytes);
+    TextLines lines(text);
+    for (std::string_view line; lines.next(line);) {
+        const auto fields = splitLine(line);
+        if (!fields) {
+            break;
+        }
+        const auto& [name, value, unit] = *fields;
+        summary.addProperty(std::string(trim(withoutLast(name))) + ':', value, unit);
+    }
+    return summary;
+}
+
+void loadSummaryFile(std::string_view path, FileProperties& summary) {
+    if (path.empty()) {
+        return;
+    }
+    summary = FileProperties();
+    if (const Result<FileBytes> file = readFile(path)) {
+        summary = decodeSummary(file->text());
+        summary.sourcePath = path;
+    }
+}
+
+}  // namespace campora
