@@ -7,6 +7,7 @@
 #include <optional>
 #include <string_view>
 
+#include "base/files.h"
 #include "base/texts.h"
 #include "model/file_gph_group.h"
 #include "platform/dialogs.h"
@@ -49,5 +50,20 @@ struct LoadedWork {
 /// Tab-separated text table of a report, with 4 or 8 columns.
 [[nodiscard]] std::optional<LoadedWork> loadRptTextTable(std::string_view path,
                                                          const WorkReaderContext& context);
+
+/// The same for bytes that have been read already; `path` stands in messages and names the file.
+/// A track file's summary is read from beside that path. They throw `FormatError` for a file that
+/// breaks its format.
+[[nodiscard]] std::optional<LoadedWork> readTrackFile(std::string_view path, const FileBytes& bytes,
+                                                      const WorkReaderContext& context);
+[[nodiscard]] std::optional<LoadedWork> readRptFile(std::string_view path, const FileBytes& bytes,
+                                                    const WorkReaderContext& context);
+[[nodiscard]] std::optional<LoadedWork>
+readRptTextTable(std::string_view path, const FileBytes& bytes, const WorkReaderContext& context);
+
+/// The version that the first line of a track file names, 0 for a file that the program does not
+/// read. Says so in that case, and warns of versions newer than the program.
+[[nodiscard]] float readTrackHeader(std::string_view firstLine, Dialogs& dialogs,
+                                    const Texts& texts);
 
 }  // namespace campora

@@ -1,0 +1,114 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include <string>
+
+#include "base/numbers.h"
+#include "base/paths.h"
+#include "model/shown_number.h"
+#include "work/pass_builder.h"
+#include "work/reader_tools.h"
+#include "work/report_survey.h"
+#include "work/rpt_file.h"
+
+namespace campora {
+
+namespace {
+
+/// How the summary speaks of the work of a kind of machine.
+struct KindNames {
+    std::string_view area;
+    std::string_view doseUnit;
+};
+
+KindNames namesOf(WorkKind kind) {
+    switch (kind) {
+    case WorkKind::Seeder:
+        return {"Hect. Sembradas: ", "unid/hect"};
+    case WorkKind::Sprayer:
+        return {"Hectáreas fumig: ", "lt/hect"};
+    case WorkKind::OlderForm:
+        break;
+    }
+    return {"Hect. Trabajadas: ", "unid/hect"};
+}
+
+bool hasFix(const RptFile& file) {
+    for (std::size_t i = 0; i < file.recordCount(); ++i) {
+        if (isFix(file.record(i).position)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+void addDoseEntries(const RptFile& file, const ReportSurvey& survey, const UserLocale& locale,
+                    FileProperties& summary) {
+    const std::int32_t channels = file.highestChannel() + 1;
+    for (std::int32_t channel = 0; channel < channels; ++channel) {
+        const std::string suffix = channels == 1 ? ": " : " (C " + numberText(channel + 1) + "):";
+        const auto sum = static_cast<double>(survey.doseSums[static_cast<std::size_t>(channel)]);
+        summary.addProperty("Dosis Prom." + suffix, shownNumber(survey.perStep(sum), locale),
+                            namesOf(file.workKind()).doseUnit);
+    }
+}
+
+void fillSummary(const RptFile& file, const ReportSurvey& survey, std::string_view path,
+                 const UserLocale& locale, FileProperties& summary) {
+    summary.addProperty(summary_name::kFile, fileNamePart(path), "");
+    summary.addProperty("Numero de Serie:", file.serial(), "");
+    if (const std::uint32_t version = file.version(); version != 0) {
+        summary.addProperty(
+            "Ver. Firmware:", formatVersion(static_cast<std::uint16_t>(version & 0xFFFFU)), "");
+        summary.addProperty(
+            "Ver. Hardware:", formatVersion(static_cast<std::uint16_t>(version >> 16U)), "");
+    }
+    summary.addProperty(namesOf(file.workKind()).area,
+                        shownNumber(survey.squareMetres / kSquareMetresPerHectare, locale), "");
+    addDoseEntries(file, survey, locale, summary);
+    summary.addProperty(summary_name::kSpeed, shownNumber(survey.perStep(survey.speedSum), locale),
+                        "km/h");
+    const TrackDataRPT first(file.record(*survey.start).fields);
+    summary.addProperty(summary_name::kStart, first.fechaHoraStr(locale), "");
+    const double minutes = static_cast<double>(survey.workingSeconds) / 60;
+    summary.addProperty(summary_name::kDuration, numberText(roundToInt32(minutes)), "min");
+}
+
+}  // namespace
+
+std::optional<LoadedWork> readRptFile(std::string_view path, const FileBytes& bytes,
+                                      const WorkReaderContext& context) {
+    RptFile file(bytes.bytes());
+    if (file.highestChannel() > RptFile::kHighestChannel) {
+        context.dialogs.message(
+            context.texts.format(TextId::TooManyChannels, {numberText(RptFile::kHighestChannel)}),
+            MessageIcon::Error, context.texts(TextId::ProgramName));
+        return std::nullopt;
+    }
+    if (!hasFix(file)) {
+        return refuseWithoutPoints(path, context);
+    }
+    if (file.form() == RptFile::Form::FourFields) {
+        const std::optional<float> swath = askSwath(context);
+        if (!swath) {
+            return std::nullopt;
+        }
+        file.setSwath(*swath);
+    }
+    LoadedWork work = startWork(path, context);
+    const ReportSurvey survey = surveyReport(file, work.ranges);
+    addPasses(*work.group, survey.placements, [&](std::size_t i) { return file.record(i); });
+    if (survey.alarmsAreCounter) {
+        work.group->clearAlarmas();
+    }
+    work.group->icon = "rptfile";
+    work.kind = file.workKind();
+    fillSummary(file, survey, path, context.locale, work.group->File_resumen());
+    return work;
+}
+
+std::optional<LoadedWork> loadRptFile(std::string_view path, const WorkReaderContext& context) {
+    return openWork(path, context, readRptFile);
+}
+
+}  // namespace campora

@@ -1,0 +1,115 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include <string>
+#include <vector>
+
+#include "base/numbers.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "model/shown_number.h"
+#include "work/pass_builder.h"
+#include "work/reader_tools.h"
+#include "work/rpt_text_table.h"
+
+namespace campora {
+
+namespace {
+
+/// The form of a table with that many column headings, asked for when there is none with as many;
+/// none when the user gives no good answer.
+std::optional<TableForm> chooseForm(std::size_t columns, const WorkReaderContext& context) {
+    auto wanted = static_cast<double>(columns);
+    if (columns != 4 && columns != 8) {
+        const std::string answer =
+            context.dialogs.inputBox(TextId::AskColumns, context.texts(TextId::ProgramName), "8");
+        wanted = leadingNumber(answer).value_or(0);
+    }
+    if (wanted == 4) {
+        return TableForm::FourColumns;
+    }
+    return wanted == 8 ? std::optional(TableForm::EightColumns) : std::nullopt;
+}
+
+/// Sums over the records of a table.
+struct TableSums {
+    std::vector<Placement> placements;
+    double hectares = 0;
+    double meanDose = 0;
+    double meanSpeed = 0;  ///< km/h
+};
+
+TableSums sumUp(const std::vector<ReportRecord>& records) {
+    TableSums sums;
+    sums.placements.reserve(records.size());
+    PassSplitter splitter(kTableLimits);
+    double doses = records.front().fields.real[0];
+    double speeds = records.front().fields.speed;
+    for (const auto& [position, fields] : records) {
+        const Placement placement = splitter.place(position, fields.swath);
+        sums.placements.push_back(placement);
+        if (isStep(placement)) {
+            doses += fields.real[0];
+            speeds += fields.speed;
+        }
+    }
+    sums.hectares = splitter.squareMetres() / kSquareMetresPerHectare;
+    if (const auto steps = static_cast<double>(splitter.steps()); steps > 0) {
+        sums.meanDose = doses / steps;
+        sums.meanSpeed = speeds / steps;
+    }
+    return sums;
+}
+
+void fillSummary(const std::vector<ReportRecord>& records, const TableSums& sums,
+                 std::string_view path, const UserLocale& locale, FileProperties& summary) {
+    const TimeOfDay& start = records.front().fields.time;
+    const TimeOfDay& end = records.back().fields.time;
+    summary.addProperty(summary_name::kFile, fileNamePart(path), "");
+    summary.addProperty("Hectáreas fumig:", shownNumber(sums.hectares, locale), "");
+    summary.addProperty("Dosis Promedio:", shownNumber(sums.meanDose, locale), "lt/hect");
+    summary.addProperty(summary_name::kSpeed, shownNumber(sums.meanSpeed, locale), "km/h");
+    summary.addProperty(summary_name::kStart, timeText(start), "");
+    summary.addProperty(summary_name::kDuration, numberText(minutesBetween(start, end)), "min");
+}
+
+}  // namespace
+
+std::optional<LoadedWork> readRptTextTable(std::string_view path, const FileBytes& bytes,
+                                           const WorkReaderContext& context) {
+    if (bytes.size() == 0) {
+        return std::nullopt;
+    }
+    const RptTextTable table = splitTable(bytes.text());
+    if (trim(table.records).empty()) {
+        return refuseWithoutPoints(path, context);
+    }
+    const std::optional<TableForm> form = chooseForm(table.columns, context);
+    if (!form) {
+        return std::nullopt;
+    }
+    const std::optional<float> swath = form == TableForm::FourColumns ? askSwath(context) : 0;
+    if (!swath) {
+        return std::nullopt;
+    }
+    const std::vector<ReportRecord> records =
+        decodeRecords(table.records, *form, context.locale.decimalSymbol(), *swath);
+    if (records.empty()) {
+        return refuseWithoutPoints(path, context);
+    }
+    LoadedWork work = startWork(path, context);
+    const TableSums sums = sumUp(records);
+    addPasses(*work.group, sums.placements, [&](std::size_t i) { return records[i]; });
+    for (const ReportRecord& record : records) {
+        extend(work.ranges.dose, static_cast<float>(record.fields.real[0]));
+    }
+    fillSummary(records, sums, path, context.locale, work.group->File_resumen());
+    return work;
+}
+
+std::optional<LoadedWork> loadRptTextTable(std::string_view path,
+                                           const WorkReaderContext& context) {
+    return openWork(path, context, readRptTextTable);
+}
+
+}  // namespace campora

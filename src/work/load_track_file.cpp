@@ -1,0 +1,102 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include <memory>
+#include <string>
+
+#include "base/numbers.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "base/text_lines.h"
+#include "work/companion_names.h"
+#include "work/gph_track.h"
+#include "work/reader_tools.h"
+#include "work/summary_file.h"
+#include "work/track_file.h"
+
+namespace campora {
+
+namespace {
+
+/// Adds a track for every pass; widens the ranges of flow and litres per hectare. Whether a point
+/// without flow is among them.
+bool addTracks(const TrackFile& file, const std::shared_ptr<const LoggerSource>& source,
+               LoadedWork& work) {
+    bool hasFlowStops = false;
+    for (std::size_t pass = 0; pass < file.passStarts.size(); ++pass) {
+        const std::size_t begin = file.passStarts[pass];
+        const bool isLast = pass + 1 == file.passStarts.size();
+        const std::size_t end = isLast ? file.points.size() : file.passStarts[pass + 1];
+        auto track = std::make_unique<GphTrack>();
+        track->reserve(end - begin);
+        for (std::size_t i = begin; i < end; ++i) {
+            const TrackPoint& point = file.points[i];
+            const TrackDataNBR record(point.flow, point.speed, file.header.swath, source);
+            extend(work.ranges.flow, point.flow);
+            extend(work.ranges.litres, record.litrosH());
+            hasFlowStops = hasFlowStops || point.flow == 0;
+            track->addPoint(point.position.x, point.position.y, record);
+        }
+        work.group->addGph(std::move(track));
+    }
+    return hasFlowStops;
+}
+
+/// "15 - log0105.nbr (LV-ABC)": order and registration as far as there are any.
+std::string displayName(std::string_view path, const TrackHeader& header,
+                        std::string_view registration) {
+    std::string name = lowerCase(fileNamePart(path));
+    if (!registration.empty()) {
+        name.append(" (").append(registration).append(")");
+    }
+    return header.order == "0" ? name : header.order + " - " + name;
+}
+
+}  // namespace
+
+float readTrackHeader(std::string_view firstLine, Dialogs& dialogs, const Texts& texts) {
+    const TrackVersion version = trackVersion(firstLine);
+    if (version.number == 0) {
+        dialogs.message(texts(TextId::FileNotCompatible), MessageIcon::Error,
+                        texts(TextId::WrongFileFormat));
+    } else if (version.number > kNewestTrackVersion) {
+        std::string warning(texts(TextId::NewerVersion));
+        warning.append(version.text).append("\r\n").append(texts(TextId::SupportedVersion));
+        warning += numberText(kNewestTrackVersion);
+        dialogs.message(warning, MessageIcon::Exclamation, texts(TextId::IncompatibleVersion));
+    }
+    return version.number;
+}
+
+std::optional<LoadedWork> readTrackFile(std::string_view path, const FileBytes& bytes,
+                                        const WorkReaderContext& context) {
+    std::string_view firstLine;
+    TextLines lines(bytes.text());
+    if (!lines.next(firstLine) || readTrackHeader(firstLine, context.dialogs, context.texts) == 0) {
+        return std::nullopt;
+    }
+    const TrackFile file = decodeTrackFile(bytes.text());
+    if (file.points.empty()) {
+        return refuseWithoutPoints(path, context);
+    }
+    const TrackHeader& header = file.header;
+    const std::string registration = context.registrations.registrationOf(header.serial);
+    LoadedWork work = startWork(path, context);
+    FileGphGroup& group = *work.group;
+    work.hasFlowStops = addTracks(file,
+                                  std::make_shared<LoggerSource>(
+                                      LoggerSource{header.serial, std::string(path), registration}),
+                                  work);
+    group.icon = "nbrfile";
+    group.name = displayName(path, header, registration);
+    group.id = lowerCase(header.serial) + '-' + header.startTime + '-' + header.date;
+    group.priority = static_cast<std::int32_t>(file.lines - 1);
+    loadSummaryFile(findIgnoringCase(companionNames(path).summaryPath), group.File_resumen());
+    return work;
+}
+
+std::optional<LoadedWork> loadTrackFile(std::string_view path, const WorkReaderContext& context) {
+    return openWork(path, context, readTrackFile);
+}
+
+}  // namespace campora

@@ -1,0 +1,64 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "work/reader_tools.h"
+
+#include <algorithm>
+
+#include "base/numbers.h"
+#include "base/paths.h"
+
+namespace campora {
+
+namespace {
+
+void reportFailure(const Failure& failure, const WorkReaderContext& context) {
+    context.dialogs.message(context.texts.sentence(failure), MessageIcon::Error,
+                            context.texts(TextId::ProgramName));
+}
+
+}  // namespace
+
+std::optional<LoadedWork> openWork(std::string_view path, const WorkReaderContext& context,
+                                   WorkReader reader) {
+    const Result<FileBytes> file = readFile(path);
+    if (!file) {
+        reportFailure(file.failure(), context);
+        return std::nullopt;
+    }
+    try {
+        return reader(path, *file, context);
+    } catch (const FormatError& error) {
+        reportFailure(because(TextId::FileCannotBeRead, {std::string(path)}, error.failure()),
+                      context);
+        return std::nullopt;
+    }
+}
+
+std::optional<LoadedWork> refuseWithoutPoints(std::string_view path,
+                                              const WorkReaderContext& context) {
+    reportFailure({TextId::FileWithoutPoints, {std::string(path)}}, context);
+    return std::nullopt;
+}
+
+LoadedWork startWork(std::string_view path, const WorkReaderContext& context) {
+    LoadedWork work;
+    work.group = std::make_unique<FileGphGroup>();
+    work.group->path = path;
+    work.group->name = fileNamePart(path);
+    work.ranges = context.ranges;
+    return work;
+}
+
+std::optional<float> askSwath(const WorkReaderContext& context) {
+    constexpr std::int32_t kWidest = 200;
+    const std::string answer =
+        context.dialogs.inputBox(TextId::AskSwath, context.texts(TextId::ProgramName), "16");
+    const std::int32_t metres = roundToInt32(leadingNumber(answer).value_or(0));
+    if (metres < 1) {
+        return std::nullopt;
+    }
+    return static_cast<float>(std::min(metres, kWidest));
+}
+
+}  // namespace campora

@@ -1,0 +1,45 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "base/files.h"
+#include "work/work_reader.h"
+
+namespace campora {
+
+/// Names of summary entries that several readers write. Summaries are data: their names are the
+/// same in every language.
+namespace summary_name {
+inline constexpr std::string_view kFile = "Nombre Archivo:";
+inline constexpr std::string_view kSpeed = "Vel Promedio:";
+inline constexpr std::string_view kStart = "Hora inicio:";
+inline constexpr std::string_view kDuration = "Duración:";
+}  // namespace summary_name
+
+inline constexpr double kSquareMetresPerHectare = 10'000;
+
+using WorkReader = std::optional<LoadedWork> (*)(std::string_view path, const FileBytes& file,
+                                                 const WorkReaderContext& context);
+
+/// Opens the file and hands it to the reader; a file that cannot be read or that breaks its format
+/// is reported.
+[[nodiscard]] std::optional<LoadedWork>
+openWork(std::string_view path, const WorkReaderContext& context, WorkReader reader);
+
+/// Says that the file has no points and answers none.
+[[nodiscard]] std::optional<LoadedWork> refuseWithoutPoints(std::string_view path,
+                                                            const WorkReaderContext& context);
+
+/// A group for the file, named after it, with the ranges loaded so far.
+[[nodiscard]] LoadedWork startWork(std::string_view path, const WorkReaderContext& context);
+
+/// Asks for the swath width of a file that has none: a whole number of metres, at most 200. None
+/// when the user cancels or does not type a width.
+[[nodiscard]] std::optional<float> askSwath(const WorkReaderContext& context);
+
+}  // namespace campora

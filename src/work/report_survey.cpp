@@ -1,0 +1,97 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "work/report_survey.h"
+
+#include <algorithm>
+
+namespace campora {
+
+namespace {
+
+/// Doses from here on are no doses: they count neither in sums nor in ranges.
+constexpr int kLeastImpossibleDose = 5000;
+
+/// Adds up the runs of a work; a gap of more than an hour, or back in time, ends a run.
+class RunningTime {
+public:
+    void add(const TrackDataRPT::Fields& fields) {
+        constexpr std::int64_t kLongestGap = 3600;
+        constexpr std::int64_t kSecondsOfDay = 86400;
+        const std::int64_t day = fields.date ? dayNumber(*fields.date) : 0;
+        const std::int64_t now = day * kSecondsOfDay + fields.time.secondOfDay();
+        if (!last_ || now < *last_ || now - *last_ > kLongestGap) {
+            finished_ = total();
+            runStart_ = now;
+        }
+        last_ = now;
+    }
+    [[nodiscard]] std::int64_t total() const {
+        return finished_ + (last_ ? *last_ - runStart_ : 0);
+    }
+
+private:
+    std::int64_t finished_ = 0;
+    std::int64_t runStart_ = 0;
+    std::optional<std::int64_t> last_;
+};
+
+/// Tells a running counter from alarm words.
+class CounterCheck {
+public:
+    void add(std::uint32_t word) {
+        if (last_) {
+            score_ = word == *last_ + 1 ? score_ + 1 : std::max(score_ - 3, 0);
+        }
+        last_ = word;
+    }
+    [[nodiscard]] bool isCounter() const { return score_ > 30; }
+
+private:
+    int score_ = 0;
+    std::optional<std::uint32_t> last_;
+};
+
+void addDoses(const TrackDataRPT::Fields& fields, ReportSurvey& survey, ValueRanges& ranges) {
+    for (std::size_t channel = 0; channel < fields.channels; ++channel) {
+        if (fields.real[channel] < kLeastImpossibleDose) {
+            survey.doseSums[channel] += fields.real[channel];
+        }
+    }
+    const float total = TrackDataRPT(fields).caudal();
+    if (total < kLeastImpossibleDose) {
+        extend(ranges.dose, total);
+    }
+}
+
+}  // namespace
+
+ReportSurvey surveyReport(const RptFile& file, ValueRanges& ranges) {
+    ReportSurvey survey;
+    survey.placements.assign(file.recordCount(), Placement::LeftOut);
+    PassSplitter splitter(kReportLimits);
+    RunningTime time;
+    CounterCheck counter;
+    for (std::size_t i = 0; i < file.recordCount(); ++i) {
+        const auto [position, fields] = file.record(i);
+        if (!isFix(position)) {
+            continue;
+        }
+        survey.start = survey.start.value_or(i);
+        addDoses(fields, survey, ranges);
+        if (fields.date) {
+            extend(ranges.date, dayNumber(*fields.date));
+        }
+        time.add(fields);
+        counter.add(fields.alarms);
+        survey.placements[i] = splitter.place(position, fields.swath);
+        survey.speedSum += isStep(survey.placements[i]) ? fields.speed : 0;
+    }
+    survey.squareMetres = splitter.squareMetres();
+    survey.steps = splitter.steps();
+    survey.workingSeconds = time.total();
+    survey.alarmsAreCounter = counter.isCounter();
+    return survey;
+}
+
+}  // namespace campora

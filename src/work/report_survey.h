@@ -1,0 +1,43 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+#include "work/pass_rules.h"
+#include "work/rpt_file.h"
+#include "work/value_ranges.h"
+
+namespace campora {
+
+/// What a first walk over a binary report tells: what becomes of each record, and the sums of the
+/// summary. A million records take a million bytes here.
+struct ReportSurvey {
+    std::vector<Placement> placements;
+    /// The first record with a position.
+    std::optional<std::size_t> start;
+    /// Sum of the real doses of each channel over all records with a position.
+    std::array<std::int64_t, TrackDataRPT::kMaxChannels> doseSums{};
+    double squareMetres = 0;
+    double speedSum = 0;
+    std::int64_t steps = 0;
+    /// Without the breaks of more than an hour.
+    std::int64_t workingSeconds = 0;
+    /// Some loggers keep a running counter where others keep the alarms.
+    bool alarmsAreCounter = false;
+
+    /// A sum's mean over the steps; 0 without steps.
+    [[nodiscard]] double perStep(double sum) const {
+        return steps == 0 ? 0 : sum / static_cast<double>(steps);
+    }
+};
+
+/// Also widens the ranges of doses and dates.
+[[nodiscard]] ReportSurvey surveyReport(const RptFile& file, ValueRanges& ranges);
+
+}  // namespace campora
