@@ -57,7 +57,7 @@ public:
     void putBack(Saved saved);
 
 private:
-    bool askAboutOlder(File& lessComplete, File& moreComplete);
+    void askAboutOlder(File& lessComplete, File& moreComplete);
 
     Dialogs& dialogs_;
     const Texts& texts_;

@@ -1,0 +1,155 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "work/loaded_file_list.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+#include <system_error>
+#include <utility>
+
+#include "base/files.h"
+#include "base/paths.h"
+#include "base/text.h"
+
+namespace campora {
+
+namespace {
+
+/// Whether two paths name one file on disk, whatever their spelling.
+bool isSameFile(std::string_view a, std::string_view b) {
+    std::error_code error;
+    return a == b || std::filesystem::equivalent(nativePath(a), nativePath(b), error);
+}
+
+}  // namespace
+
+File& LoadedFileList::file(int index) const {
+    return *files_.at(static_cast<std::size_t>(index));
+}
+
+std::optional<int> LoadedFileList::indexOf(const File* file) const {
+    const auto found = std::find_if(files_.begin(), files_.end(),
+                                    [file](const auto& listed) { return listed.get() == file; });
+    return found == files_.end() ? std::nullopt
+                                 : std::optional(static_cast<int>(found - files_.begin()));
+}
+
+bool LoadedFileList::addFile(std::unique_ptr<File> file, bool atTop) {
+    const std::string id = file->File_id();
+    const auto same = std::find_if(files_.begin(), files_.end(), [&id](const auto& listed) {
+        return !id.empty() && listed->File_id() == id;
+    });
+    if (same != files_.end()) {
+        if ((*same)->File_priority() >= file->File_priority()) {
+            askAboutOlder(*file, **same);
+            return false;
+        }
+        File& added = *file;
+        same->swap(file);
+        if (current_ == file.get()) {
+            current_ = &added;
+        }
+        askAboutOlder(*file, added);
+        return true;
+    }
+    if (files_.empty()) {
+        current_ = file.get();
+    }
+    files_.insert(atTop ? files_.begin() : files_.end(), std::move(file));
+    return true;
+}
+
+void LoadedFileList::askAboutOlder(File& lessComplete, File& moreComplete) {
+    const std::string lessPath = lessComplete.File_diskPath();
+    const std::string morePath = moreComplete.File_diskPath();
+    if (!dialogs_.askYesNo(texts_.format(TextId::OlderCopyOfWork, {lessPath, morePath}),
+                           MessageIcon::Exclamation, texts_(TextId::ProgramName))) {
+        return;
+    }
+    for (const std::string& path : {lessPath, lessComplete.File_resumen().sourcePath}) {
+        if (path.empty() || isSameFile(path, morePath) ||
+            isSameFile(path, moreComplete.File_resumen().sourcePath)) {
+            continue;  // the more complete work keeps its files
+        }
+        if (const std::optional<Failure> failure = deleteFile(path)) {
+            dialogs_.message(texts_.sentence(*failure), MessageIcon::Error,
+                             texts_(TextId::ProgramName));
+            return;
+        }
+    }
+}
+
+void LoadedFileList::removeFile(const File* file) {
+    const std::optional<int> index = indexOf(file);
+    if (!index) {
+        return;
+    }
+    if (current_ == file) {
+        current_ = nullptr;
+    }
+    files_.erase(files_.begin() + *index);
+}
+
+void LoadedFileList::moveUp(const File* file) {
+    const std::optional<int> index = indexOf(file);
+    if (index && *index > 0) {
+        const auto place = files_.begin() + *index;
+        std::iter_swap(place, place - 1);
+    }
+}
+
+void LoadedFileList::moveDown(const File* file) {
+    const std::optional<int> index = indexOf(file);
+    if (index && *index + 1 < loadedCount()) {
+        const auto place = files_.begin() + *index;
+        std::iter_swap(place, place + 1);
+    }
+}
+
+void LoadedFileList::moveToTop(const File* file) {
+    if (const std::optional<int> index = indexOf(file)) {
+        const auto place = files_.begin() + *index;
+        std::rotate(files_.begin(), place, place + 1);
+    }
+}
+
+void LoadedFileList::moveToBottom(const File* file) {
+    if (const std::optional<int> index = indexOf(file)) {
+        const auto place = files_.begin() + *index;
+        std::rotate(place, place + 1, files_.end());
+    }
+}
+
+void LoadedFileList::clearFiles() {
+    current_ = nullptr;
+    files_.clear();
+}
+
+File* LoadedFileList::ownerOf(const Gph* gph) const {
+    const auto holds = [gph](const auto& file) {
+        const std::vector<Gph*> layers = file->File_gphList();
+        return std::find(layers.begin(), layers.end(), gph) != layers.end();
+    };
+    const auto owner = std::find_if(files_.begin(), files_.end(), holds);
+    return owner == files_.end() ? nullptr : owner->get();
+}
+
+bool LoadedFileList::isLoaded(std::string_view path) const {
+    return std::any_of(files_.begin(), files_.end(), [path](const auto& file) {
+        return equalIgnoringCase(file->File_path(), path);
+    });
+}
+
+LoadedFileList::Saved LoadedFileList::takeAll() {
+    return {std::exchange(files_, {}), std::exchange(current_, nullptr)};
+}
+
+void LoadedFileList::putBack(Saved saved) {
+    files_ = std::move(saved.files);
+    current_ = saved.current;
+}
+
+}  // namespace campora
