@@ -5,7 +5,9 @@
 
 #include <cstdint>
 #include <functional>
+#include <string_view>
 
+#include "base/lon_lat.h"
 #include "model/bounding_box.h"
 #include "model/gph.h"
 #include "platform/main_window_controls.h"
@@ -21,7 +23,7 @@ public:
     using Plot = std::function<void(MapContext&)>;
 
     /// Everything is referred to, not owned; `style` supplies the colours of background and pen.
-    MapView(MapCanvas& canvas, MainWindowControls& controls, const MapStyle& style, Plot plotAll);
+    MapView(MapCanvas& canvas, MainWindowControls& window, const MapStyle& style, Plot plotAll);
 
     /// Union of the boxes of all open files; set by whoever keeps the files.
     BoundingBox totalBound;
@@ -55,40 +57,60 @@ public:
     void forget();
 
     [[nodiscard]] ViewTransform transform() const;
-    [[nodiscard]] float scaleX() const { return scaleX_; }
-    [[nodiscard]] float scaleY() const { return scaleY_; }
-    [[nodiscard]] std::int32_t scrollX() const { return scrollX_; }
-    [[nodiscard]] std::int32_t scrollY() const { return scrollY_; }
-    [[nodiscard]] std::int32_t marginX() const { return marginX_; }
-    [[nodiscard]] std::int32_t marginY() const { return marginY_; }
-    [[nodiscard]] double originX() const { return originX_; }
-    [[nodiscard]] double originY() const { return originY_; }
-    [[nodiscard]] float viewWidthM() const { return viewWidthM_; }
-    [[nodiscard]] float viewHeightM() const { return viewHeightM_; }
+    /// Metres a canvas unit; both are the same after every fit or zoom.
+    [[nodiscard]] float scaleX() const { return x_.scale; }
+    [[nodiscard]] float scaleY() const { return y_.scale; }
+    /// Metres from the lower left corner of the scrollable extent to that of the canvas.
+    [[nodiscard]] std::int32_t scrollX() const { return x_.scroll; }
+    [[nodiscard]] std::int32_t scrollY() const { return y_.scroll; }
+    /// Metres of empty border on either side of `totalBound`.
+    [[nodiscard]] std::int32_t marginX() const { return x_.margin; }
+    [[nodiscard]] std::int32_t marginY() const { return y_.margin; }
+    /// Longitude at the left edge and latitude at the bottom edge of the canvas.
+    [[nodiscard]] double originX() const { return origin_.x; }
+    [[nodiscard]] double originY() const { return origin_.y; }
+    [[nodiscard]] float viewWidthM() const { return x_.viewM; }
+    [[nodiscard]] float viewHeightM() const { return y_.viewM; }
+    /// The scale of the last `ZoomUno`, where zooming out stops; 0 before the first.
     [[nodiscard]] float maxScale() const { return maxScale_; }
-    [[nodiscard]] float scrollFactorX() const { return scrollFactorX_; }
-    [[nodiscard]] float scrollFactorY() const { return scrollFactorY_; }
+    /// Metres a step of the scroll bar.
+    [[nodiscard]] float scrollFactorX() const { return x_.scrollFactor; }
+    [[nodiscard]] float scrollFactorY() const { return y_.scrollFactor; }
     [[nodiscard]] const ViewControls& controls() const { return shown_; }
 
 private:
+    struct Axis {
+        float scale = 0;
+        std::int32_t scroll = 0;
+        std::int32_t margin = 0;
+        float viewM = 0;
+        float scrollFactor = 1;
+
+        /// Where the scroll must be so that a point stays where it is, `canvasUnits` from the edge
+        /// that scrolling counts from, under another scale.
+        [[nodiscard]] std::int32_t scrollKeeping(double canvasUnits, float newScale) const;
+        /// The scroll of the far end, for so many metres of map and of canvas; below 0 when the
+        /// canvas is the larger.
+        [[nodiscard]] std::int32_t range(double extentM, double canvasM) const;
+        [[nodiscard]] ScrollBarState fitScrollBar(std::int32_t scrollRange);
+    };
+    struct Fit;
+
+    [[nodiscard]] bool hasMap() const;
+    [[nodiscard]] Fit fitOf(const BoundingBox& box, double room) const;
+    void zoomInAbout(double fromLeft, double fromBottom);
+    void zoomOutAbout(double fromLeft, double fromBottom);
+    void showControls();
+
     MapCanvas& canvas_;
     MainWindowControls& window_;
     const MapStyle& style_;
     Plot plotAll_;
 
-    float scaleX_ = 0;
-    float scaleY_ = 0;
-    std::int32_t scrollX_ = 0;
-    std::int32_t scrollY_ = 0;
-    std::int32_t marginX_ = 0;
-    std::int32_t marginY_ = 0;
-    double originX_ = 0;
-    double originY_ = 0;
-    float viewWidthM_ = 0;
-    float viewHeightM_ = 0;
+    Axis x_;
+    Axis y_;
+    LonLat origin_;
     float maxScale_ = 0;
-    float scrollFactorX_ = 1;
-    float scrollFactorY_ = 1;
     bool scrollEvents_ = true;
     ViewControls shown_;
 };

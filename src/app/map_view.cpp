@@ -1,0 +1,312 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/map_view.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <utility>
+
+#include "app/overlay_layout.h"
+#include "base/numbers.h"
+#include "model/geodesy.h"
+
+namespace campora {
+
+namespace {
+
+constexpr float kZoomStep = 1.5F;
+/// Metres a canvas unit where zooming in ends.
+constexpr float kFinestScale = 0.1F;
+/// Border of the tight axis, as a part of the box.
+constexpr double kBorder = 0.05;
+/// Room for a box that is zoomed to: itself and a border on either side.
+constexpr double kBoxRoom = 1.1;
+/// Scroll bars have 16-bit positions; longer ways are scrolled in larger steps.
+constexpr std::int32_t kMostScrollSteps = 32767;
+
+std::int32_t centringMargin(float scale, std::int32_t canvasUnits, double extentM) {
+    return roundToInt32((static_cast<double>(scale) * canvasUnits - extentM) / 2);
+}
+
+std::int32_t borderMargin(double extentM) {
+    return roundToInt32(extentM * kBorder);
+}
+
+}  // namespace
+
+struct MapView::Fit {
+    float scale = 0;
+    std::int32_t marginX = 0;
+    std::int32_t marginY = 0;
+};
+
+std::int32_t MapView::Axis::scrollKeeping(double canvasUnits, float newScale) const {
+    return roundToInt32(canvasUnits * scale + scroll - canvasUnits * newScale);
+}
+
+std::int32_t MapView::Axis::range(double extentM, double canvasM) const {
+    return roundToInt32(2.0 * margin + extentM - canvasM);
+}
+
+ScrollBarState MapView::Axis::fitScrollBar(std::int32_t scrollRange) {
+    scrollFactor = 1;
+    if (scrollRange < 1) {
+        scroll = 0;
+        return {false, 1, 0};
+    }
+    if (scrollRange <= kMostScrollSteps) {
+        return {true, scrollRange, 0};
+    }
+    scrollFactor = static_cast<float>(static_cast<double>(scrollRange) / kMostScrollSteps);
+    return {true, kMostScrollSteps, 0};
+}
+
+MapView::MapView(MapCanvas& canvas, MainWindowControls& window, const MapStyle& style, Plot plotAll)
+    : canvas_(canvas), window_(window), style_(style), plotAll_(std::move(plotAll)) {}
+
+bool MapView::hasMap() const {
+    const CanvasSize canvas = canvas_.size();
+    return totalBound.isSet && canvas.width > 0 && canvas.height > 0;
+}
+
+MapView::Fit MapView::fitOf(const BoundingBox& box, double room) const {
+    const auto [width, height] = canvas_.size();
+    const auto tightX = static_cast<float>(box.widthM * room / width);
+    const auto tightY = static_cast<float>(box.heightM * room / height);
+    if (tightX == 0 && tightY == 0) {
+        // A box of one point has no scale of its own. It gets the finest one and stands in the
+        // middle: a scale of 0 would mean that nothing is fitted.
+        return {kFinestScale, centringMargin(kFinestScale, width, 0),
+                centringMargin(kFinestScale, height, 0)};
+    }
+    if (tightX >= tightY) {
+        return {tightX, borderMargin(box.widthM), centringMargin(tightX, height, box.heightM)};
+    }
+    return {tightY, centringMargin(tightY, width, box.widthM), borderMargin(box.heightM)};
+}
+
+void MapView::fitView() {
+    if (!hasMap()) {
+        return;
+    }
+    const Fit fit = fitOf(totalBound, 1);
+    x_.scale = fit.scale;
+    y_.scale = fit.scale;
+    x_.margin = fit.marginX;
+    y_.margin = fit.marginY;
+}
+
+void MapView::ZoomUno() {
+    if (!hasMap()) {
+        return;
+    }
+    const auto [width, height] = canvas_.size();
+    x_.scale = (static_cast<float>(totalBound.widthM) + 2 * static_cast<float>(x_.margin)) /
+               static_cast<float>(width);
+    y_.scale = (static_cast<float>(totalBound.heightM) + 2 * static_cast<float>(y_.margin)) /
+               static_cast<float>(height);
+    equalizeScales();
+    maxScale_ = x_.scale;
+    setView(x_.scale, y_.scale, 0, 0);
+    updateScrollBars();
+}
+
+void MapView::zoomToBox(const BoundingBox& box) {
+    if (!hasMap() || !box.isSet) {
+        return;
+    }
+    if (totalBound.equals(box)) {
+        ZoomUno();
+        return;
+    }
+    const Fit fit = fitOf(box, kBoxRoom);
+    const double eastM =
+        (box.minX - totalBound.minX) * std::cos(toRadians(box.minY)) * METERS_PER_DEGREE;
+    const double northM = (box.minY - totalBound.minY) * METERS_PER_DEGREE;
+    setView(fit.scale, fit.scale, roundToInt32(eastM + x_.margin - fit.marginX),
+            roundToInt32(northM + y_.margin - fit.marginY));
+    updateScrollBars();
+}
+
+void MapView::zoomIn() {
+    const auto [width, height] = canvas_.size();
+    zoomInAbout(width / 2.0, height / 2.0);
+}
+
+void MapView::zoomOut() {
+    const auto [width, height] = canvas_.size();
+    zoomOutAbout(width / 2.0, height / 2.0);
+}
+
+void MapView::zoomIn(CanvasPoint fixed) {
+    zoomInAbout(fixed.x, canvas_.size().height - fixed.y);
+}
+
+void MapView::zoomOut(CanvasPoint fixed) {
+    zoomOutAbout(fixed.x, canvas_.size().height - fixed.y);
+}
+
+void MapView::zoomInAbout(double fromLeft, double fromBottom) {
+    const float scale = x_.scale / kZoomStep;
+    if (!hasMap() || scale < kFinestScale) {
+        return;
+    }
+    setView(scale, scale, x_.scrollKeeping(fromLeft, scale), y_.scrollKeeping(fromBottom, scale));
+    updateScrollBars();
+}
+
+void MapView::zoomOutAbout(double fromLeft, double fromBottom) {
+    if (maxScale_ == 0) {
+        ZoomUno();  // fitted but never shown whole, which is where zooming out ends
+        return;
+    }
+    if (!hasMap()) {
+        return;
+    }
+    const float scale = std::min(x_.scale * kZoomStep, maxScale_);
+    const auto [width, height] = canvas_.size();
+    const auto within = [scale](std::int32_t scroll, const Axis& axis, double extentM,
+                                std::int32_t canvasUnits) {
+        const std::int32_t range = axis.range(extentM, static_cast<double>(scale) * canvasUnits);
+        return std::clamp(scroll, 0, std::max(range, 0));
+    };
+    setView(scale, scale, within(x_.scrollKeeping(fromLeft, scale), x_, totalBound.widthM, width),
+            within(y_.scrollKeeping(fromBottom, scale), y_, totalBound.heightM, height));
+    updateScrollBars();
+}
+
+void MapView::equalizeScales() {
+    x_.scale = std::max(x_.scale, y_.scale);
+    y_.scale = x_.scale;
+}
+
+void MapView::setView(float scaleX, float scaleY, std::int32_t scrollX, std::int32_t scrollY) {
+    x_.scale = scaleX;
+    y_.scale = scaleY;
+    x_.scroll = scrollX;
+    y_.scroll = scrollY;
+    canvas_.setPenWidth(1);
+    canvas_.clear();
+    canvas_.setFillStyle(FillStyle::Solid);
+    canvas_.setFillColor(style_.colors.draw);
+    canvas_.setPenColor(style_.colors.fore);
+    computeOrigin();
+    const ViewTransform view = transform();
+    MapContext context{canvas_, view, style_};
+    plotAll_(context);
+    canvas_.refresh();
+}
+
+void MapView::computeOrigin() {
+    const auto [width, height] = canvas_.size();
+    const double northM = static_cast<double>(y_.scroll) - y_.margin;
+    const double eastM = static_cast<double>(x_.scroll) - x_.margin;
+    origin_.y = northM / METERS_PER_DEGREE + totalBound.minY;
+    origin_.x = eastM / (std::cos(toRadians(origin_.y)) * METERS_PER_DEGREE) + totalBound.minX;
+    x_.viewM = x_.scale * static_cast<float>(width);
+    y_.viewM = y_.scale * static_cast<float>(height);
+}
+
+void MapView::refrescar(std::string_view colour) {
+    const std::int32_t number = roundToInt32(leadingNumber(colour).value_or(0));
+    canvas_.setBackgroundColor(number == -1 ? style_.colors.back
+                                            : Color{static_cast<std::uint32_t>(number)});
+    setView(x_.scale, y_.scale, x_.scroll, y_.scroll);
+}
+
+void MapView::updateScrollBars() {
+    if (!hasMap()) {
+        return;
+    }
+    const std::int32_t rangeX = x_.range(totalBound.widthM, x_.viewM);
+    const std::int32_t rangeY = y_.range(totalBound.heightM, y_.viewM);
+    shown_.horizontal = x_.fitScrollBar(rangeX);
+    shown_.vertical = y_.fitScrollBar(rangeY);
+    const double barM =
+        std::abs(overlay::kBarRight.x - overlay::kBarLeft.x) * static_cast<double>(x_.scale);
+    shown_.scaleLabel = numberText(std::int64_t{roundToInt32(barM)}) + "m";
+    shown_.arrows = {.up = rangeY > y_.scroll,
+                     .down = y_.scroll > 0,
+                     .right = rangeX > x_.scroll,
+                     .left = x_.scroll > 0};
+    syncScrollBars();
+}
+
+void MapView::syncScrollBars() {
+    shown_.horizontal.position = roundToInt32(x_.scroll / static_cast<double>(x_.scrollFactor));
+    // The vertical bar runs from north at the top to south at the bottom.
+    shown_.vertical.position =
+        shown_.vertical.maximum - roundToInt32(y_.scroll / static_cast<double>(y_.scrollFactor));
+    showControls();
+}
+
+void MapView::showControls() {
+    // A window that reports the positions it is given back as movements is not listened to.
+    scrollEvents_ = false;
+    window_.setViewControls(shown_);
+    scrollEvents_ = true;
+}
+
+void MapView::scrollBarsMoved(std::int32_t horizontal, std::int32_t vertical) {
+    if (!scrollEvents_ || !hasMap()) {
+        return;
+    }
+    const std::int32_t fromBottom = shown_.vertical.maximum - vertical;
+    setView(x_.scale, y_.scale, roundToInt32(horizontal * static_cast<double>(x_.scrollFactor)),
+            roundToInt32(fromBottom * static_cast<double>(y_.scrollFactor)));
+    updateScrollBars();
+}
+
+void MapView::scrollBy(double east, double north) {
+    if (!hasMap()) {
+        return;
+    }
+    const auto moved = [](const Axis& axis, double part, double extentM) {
+        const std::int32_t range = axis.range(extentM, axis.viewM);
+        const std::int32_t scroll = roundToInt32(axis.scroll + part * axis.viewM);
+        return std::clamp(scroll, 0, std::max(range, 0));
+    };
+    setView(x_.scale, y_.scale, moved(x_, east, totalBound.widthM),
+            moved(y_, north, totalBound.heightM));
+    updateScrollBars();
+}
+
+void MapView::DrawMap() {
+    namespace o = overlay;
+    const Color color = style_.colors.fore;
+    canvas_.setPenColor(color);
+    canvas_.setPenWidth(1);
+    canvas_.line(o::kTickLeftTop, o::kTickLeftBottom, color);
+    canvas_.line(o::kTickRightTop, o::kTickRightBottom, color);
+    canvas_.setPenWidth(2);
+    canvas_.line(o::kBarLeft, o::kBarRight, color);
+    canvas_.setPenWidth(1);
+    canvas_.text(o::kLabelTop, shown_.scaleLabel, TextAnchor::TopCentre, true);
+    const auto paint = [this](bool visible, MapPicture arrow) {
+        if (visible) {
+            canvas_.paintPicture(arrow, o::arrowPlace(arrow, canvas_.size()), o::kArrowSize);
+        }
+    };
+    paint(shown_.arrows.up, MapPicture::ArrowUp);
+    paint(shown_.arrows.down, MapPicture::ArrowDown);
+    paint(shown_.arrows.right, MapPicture::ArrowRight);
+    paint(shown_.arrows.left, MapPicture::ArrowLeft);
+}
+
+void MapView::forget() {
+    totalBound = {};
+    x_ = {};
+    y_ = {};
+    origin_ = {};
+    maxScale_ = 0;
+    shown_ = {};
+    showControls();
+}
+
+ViewTransform MapView::transform() const {
+    return {x_.scale, y_.scale, origin_, canvas_.size()};
+}
+
+}  // namespace campora
