@@ -1,0 +1,109 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QMainWindow>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "app/session.h"
+#include "desktop/actions.h"
+
+class QLabel;
+class QSplitter;
+
+namespace campora {
+
+class ElidedLabel;
+class MapArea;
+class SidePanel;
+
+/// What the window takes from its desktop; all of it outlives the window.
+struct Desktop {
+    Dialogs& dialogs;
+    SettingsStore& settings;
+    const UserLocale& locale;
+    Clipboard& clipboard;
+};
+
+/// The main window: shows what the session says and hands the user's commands to it.
+class MainWindow final : public QMainWindow, public MainWindowControls {
+    Q_OBJECT
+
+public:
+    /// Smallest and first size in logical pixels.
+    static constexpr QSize kMinimumSize{563, 559};
+    static constexpr QSize kFirstSize{1280, 860};
+
+    MainWindow(const Desktop& desktop, Language language, const std::string& programFolder);
+    ~MainWindow() override;
+
+    [[nodiscard]] Session& session() { return *session_; }
+    [[nodiscard]] MapArea& mapArea() const { return *mapArea_; }
+    [[nodiscard]] SidePanel& sidePanel() const { return *sidePanel_; }
+
+    /// Settings and registrations are read now; the paths are opened when the window stands on the
+    /// screen.
+    void start(std::vector<std::string> paths);
+    /// Opens files and the supported files of folders.
+    void openPaths(const std::vector<std::string>& paths, bool inPlaceOfOthers);
+    /// All texts of the window in the session's language.
+    void retranslate();
+
+    // The commands of menus and tool bars.
+    void openFile();
+    void quit();
+    void copyData();
+    void zoomIn();
+    void zoomOut();
+    void zoomFit();
+    void moveFileUp();
+    void moveFileDown();
+    void moveFileToTop();
+    void moveFileToBottom();
+    void zoomToFile();
+    void unloadFile();
+    void toggleSidePanel();
+    [[nodiscard]] bool sidePanelShown() const;
+
+    void setTitle(std::string_view title) override;
+    void setFileList(std::span<const FileListRow> rows, std::optional<int> selected) override;
+    void setSummary(std::span<const SummaryRow> rows) override;
+    void setLegend(const LegendContent& legend) override;
+    void setViewControls(const ViewControls& controls) override;
+    void setFileCommandsEnabled(bool enabled) override;
+    void setWorkStatus(std::string_view text) override;
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    void arrange();
+    void makeStatusBar();
+    void connectMap();
+    void connectFileList();
+    void zoomAt(CanvasPoint at, int steps);
+    void panTo(CanvasPoint pointer);
+    void showPosition(CanvasPoint pointer);
+    void showScale();
+
+    Desktop desktop_;
+    MapArea* mapArea_;
+    SidePanel* sidePanel_;
+    QSplitter* splitter_;
+    QLabel* position_;
+    ElidedLabel* workStatus_;
+    QLabel* scale_;
+    std::unique_ptr<ActionSet> actions_;
+    std::unique_ptr<Session> session_;
+    std::vector<std::string> pathsToOpen_;
+    /// What the pointer took hold of when the middle button went down.
+    LonLat grabbed_;
+};
+
+}  // namespace campora

@@ -1,0 +1,15 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "platform/clipboard.h"
+
+namespace campora {
+
+class QtClipboard final : public Clipboard {
+public:
+    void setText(std::string_view text) override;
+};
+
+}  // namespace campora

@@ -1,0 +1,32 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "base/texts.h"
+#include "platform/dialogs.h"
+
+class QWidget;
+
+namespace campora {
+
+/// Boxes over the main window. While the program is busy the pointer is an arrow over them.
+class QtDialogs final : public Dialogs {
+public:
+    /// The window over which the boxes stand and the words of their prompts; both outlive this.
+    void attach(QWidget& window, const Texts& texts);
+
+    void message(std::string_view text, MessageIcon icon, std::string_view caption) override;
+    /// No is the default and the answer of Esc.
+    [[nodiscard]] bool askYesNo(std::string_view text, MessageIcon icon,
+                                std::string_view caption) override;
+    [[nodiscard]] std::string inputBox(TextId prompt, std::string_view caption,
+                                       std::string_view proposed) override;
+    [[nodiscard]] std::string openFile(const OpenRequest& request) override;
+
+private:
+    QWidget* window_ = nullptr;
+    const Texts* texts_ = nullptr;
+};
+
+}  // namespace campora

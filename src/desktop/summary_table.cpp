@@ -1,0 +1,37 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "desktop/summary_table.h"
+
+#include <QHeaderView>
+
+#include "desktop/qt_text.h"
+
+namespace campora {
+
+SummaryTable::SummaryTable(QWidget* parent) : QTreeWidget(parent) {
+    setColumnCount(2);
+    setRootIsDecorated(false);
+    setUniformRowHeights(true);
+    setAlternatingRowColors(true);
+    setAllColumnsShowFocus(true);
+    header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    header()->setSectionResizeMode(1, QHeaderView::Stretch);
+    header()->setMinimumSectionSize(80);
+    header()->setSectionsMovable(false);
+}
+
+void SummaryTable::setRows(std::span<const SummaryRow> rows) {
+    clear();
+    for (const SummaryRow& row : rows) {
+        auto* item = new QTreeWidgetItem(this, {toQt(row.property), toQt(row.value)});
+        item->setToolTip(0, plainToolTip(item->text(0)));
+        item->setToolTip(1, plainToolTip(item->text(1)));
+    }
+}
+
+void SummaryTable::retranslate(const Texts& texts) {
+    setHeaderLabels({toQt(texts(TextId::SummaryProperty)), toQt(texts(TextId::SummaryValue))});
+}
+
+}  // namespace campora

@@ -1,0 +1,93 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "desktop/widget_texts.h"
+
+#include <algorithm>
+#include <iterator>
+#include <string_view>
+
+#include "desktop/qt_text.h"
+
+namespace campora {
+
+namespace {
+
+struct Word {
+    std::string_view source;
+    TextId text;
+};
+
+constexpr Word kWords[] = {
+    // Buttons
+    {"OK", TextId::ButtonOk},
+    {"Cancel", TextId::ButtonCancel},
+    {"&Yes", TextId::ButtonYes},
+    {"&No", TextId::ButtonNo},
+    {"&Open", TextId::ButtonOpen},
+    {"Open", TextId::Open},
+    {"&Choose", TextId::ButtonChoose},
+    // Open dialog
+    {"Look in:", TextId::DialogLookIn},
+    {"File &name:", TextId::DialogFileName},
+    {"Files of type:", TextId::DialogFileType},
+    {"Directory:", TextId::DialogFolder},
+    {"Back", TextId::DialogBack},
+    {"Go back", TextId::DialogBack},
+    {"Forward", TextId::DialogForward},
+    {"Go forward", TextId::DialogForward},
+    {"Parent Directory", TextId::DialogParent},
+    {"Go to the parent directory", TextId::DialogParent},
+    {"Create New Folder", TextId::DialogNewFolder},
+    {"Create a New Folder", TextId::DialogNewFolder},
+    {"&New Folder", TextId::DialogNewFolder},
+    {"List View", TextId::DialogListView},
+    {"Change to list view mode", TextId::DialogListView},
+    {"Detail View", TextId::DialogDetailView},
+    {"Change to detail view mode", TextId::DialogDetailView},
+    {"Sidebar", TextId::DialogPlaces},
+    {"List of places and bookmarks", TextId::DialogPlaces},
+    {"Files", TextId::FilesHeading},
+    {"Name", TextId::DialogName},
+    {"Size", TextId::DialogSize},
+    {"Type", TextId::DialogKind},
+    {"Kind", TextId::DialogKind},
+    {"Date Modified", TextId::DialogModified},
+    {"Computer", TextId::DialogComputer},
+    {"My Computer", TextId::DialogComputer},
+    {"Recent Places", TextId::DialogRecent},
+    {"&Rename", TextId::DialogRename},
+    {"&Delete", TextId::DialogDelete},
+    {"Remove", TextId::DialogDelete},
+    {"Show &hidden files", TextId::DialogHidden},
+    {"Show ", TextId::DialogShow},
+    {"%1\nFile not found.\nPlease verify the correct file name was given.",
+     TextId::DialogFileNotFound},
+    {"%1\nDirectory not found.\nPlease verify the correct directory name was given.",
+     TextId::DialogFolderNotFound},
+    // Text fields
+    {"&Undo", TextId::EditUndo},
+    {"&Redo", TextId::EditRedo},
+    {"Cu&t", TextId::EditCut},
+    {"&Copy", TextId::EditCopy},
+    {"&Paste", TextId::EditPaste},
+    {"Delete", TextId::EditDelete},
+    {"Select All", TextId::EditSelectAll},
+    // Keys
+    {"Del", TextId::KeyDelete},
+    {"Shift", TextId::KeyShift},
+    {"Up", TextId::KeyUp},
+    {"Down", TextId::KeyDown},
+};
+
+}  // namespace
+
+QString WidgetTexts::translate(const char* /*context*/, const char* source,
+                               const char* /*disambiguation*/, int /*n*/) const {
+    const auto* const word =
+        std::find_if(std::begin(kWords), std::end(kWords),
+                     [source](const Word& w) { return source != nullptr && w.source == source; });
+    return word == std::end(kWords) ? QString() : toQt(texts_(word->text));
+}
+
+}  // namespace campora

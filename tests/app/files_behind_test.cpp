@@ -1,0 +1,51 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/files_behind.h"
+
+#include <gmock/gmock.h>
+
+#include "base/paths.h"
+#include "support/temp_folder.h"
+
+namespace campora {
+namespace {
+
+using testing::ElementsAre;
+
+std::vector<std::string> names(const std::vector<std::string>& paths) {
+    std::vector<std::string> result;
+    for (const std::string& path : paths) {
+        result.emplace_back(fileNamePart(path));
+    }
+    return result;
+}
+
+TEST(FilesBehind, FolderStandsForItsFilesInNameOrder) {
+    const TempFolder folder;
+    for (const char* name :
+         {"Lote 2.rpt", "lote 10.RPT", "lote 1.nbr", "Campo.txt", "leeme.doc", "junio/viejo.rpt"}) {
+        folder.write(name, "x");
+    }
+    EXPECT_THAT(names(filesBehind(folder.path())),
+                ElementsAre("Campo.txt", "lote 1.nbr", "lote 10.RPT", "Lote 2.rpt"));
+}
+
+TEST(FilesBehind, TextsThatGoWithOtherFilesAreLeftOut) {
+    const TempFolder folder;
+    for (const char* name : {"LOG0001.NBR", "wrk0001.txt", "Wrk0002.txt", "Matriculas.TXT"}) {
+        folder.write(name, "x");
+    }
+    // The second summary has no track file beside it: the user shall hear what it is.
+    EXPECT_THAT(names(filesBehind(folder.path())), ElementsAre("LOG0001.NBR", "Wrk0002.txt"));
+}
+
+TEST(FilesBehind, AnyOtherPathStandsForItself) {
+    const TempFolder folder;
+    const std::string file = folder.write("leeme.doc", "x");
+    EXPECT_THAT(filesBehind(file), ElementsAre(file));
+    EXPECT_THAT(filesBehind(folder.file("nada.rpt")), ElementsAre(folder.file("nada.rpt")));
+}
+
+}  // namespace
+}  // namespace campora

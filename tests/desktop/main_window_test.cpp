@@ -1,0 +1,247 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "desktop/main_window.h"
+
+#include <QAbstractButton>
+#include <QDropEvent>
+#include <QLabel>
+#include <QMimeData>
+#include <QScrollBar>
+#include <QStatusBar>
+
+#include <gmock/gmock.h>
+
+#include "desktop/color_list.h"
+#include "desktop/legend_view.h"
+#include "desktop/summary_table.h"
+#include "desktop/window_fixture.h"
+
+namespace campora {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+constexpr int kUnits = RasterCanvas::kUnitsPerPixel;
+
+/// Pixels of the map that are not background.
+int drawnPixels(const QImage& image) {
+    int drawn = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            drawn += image.pixel(x, y) != qRgb(255, 255, 255) ? 1 : 0;
+        }
+    }
+    return drawn;
+}
+
+TEST_F(WindowTest, ShowsAnOpenedReport) {
+    open({writeReport("lote.rpt")});
+
+    EXPECT_THAT(rows(), ElementsAre("lote.rpt"));
+    EXPECT_EQ(list().selectedRow(), 0);
+    const SummaryTable& summary = window->sidePanel().summary();
+    ASSERT_GE(summary.topLevelItemCount(), 4);
+    EXPECT_EQ(summary.topLevelItem(0)->text(0), "Nombre Archivo:");
+    EXPECT_EQ(summary.topLevelItem(0)->text(1), "lote.rpt");
+    const LegendView& legend = window->sidePanel().legend();
+    EXPECT_GT(legend.classes().count(), 1);
+    EXPECT_EQ(legend.reference().item(0)->text(), "Fumigado");
+    EXPECT_THAT(toUtf8(window->windowTitle()), HasSubstr("lote.rpt]"));
+    EXPECT_GT(drawnPixels(map().canvas().image()), 1000);
+    EXPECT_THAT(dialogs.messages, IsEmpty());
+}
+
+TEST_F(WindowTest, StartsEmptyWithCommandsOff) {
+    for (const TextId id : {TextId::ActionZoomIn, TextId::ActionCopyData, TextId::FileUp}) {
+        EXPECT_FALSE(action(id)->isEnabled()) << static_cast<int>(id);
+    }
+    EXPECT_TRUE(action(TextId::ActionOpen)->isEnabled());
+    EXPECT_THAT(toUtf8(window->windowTitle()), HasSubstr("Campora "));
+}
+
+TEST_F(WindowTest, OpenCommandReplacesWhatIsOpen) {
+    open({writeReport("viejo.rpt")});
+    dialogs.openAnswers.push_back(writeReport("nuevo.rpt"));
+    QTest::keyClick(window.get(), Qt::Key_O, Qt::ControlModifier);
+    EXPECT_THAT(rows(), ElementsAre("nuevo.rpt"));
+    ASSERT_EQ(dialogs.opens.size(), 1U);
+    EXPECT_FALSE(dialogs.opens[0].filters.empty());
+}
+
+TEST_F(WindowTest, DroppedFilesAndFoldersJoinTheOpenOnes) {
+    open({writeReport("lote.rpt")});
+    const std::string single = writeReport("suelto.rpt", 1000);
+    writeReport("dia/b.rpt", 2000);
+    writeReport("dia/A.RPT", 3000);
+    folder.write("dia/notas.doc", "x");
+
+    QMimeData data;
+    data.setUrls(
+        {QUrl::fromLocalFile(toQt(single)), QUrl::fromLocalFile(toQt(folder.file("dia")))});
+    QDropEvent drop({10, 10}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window.get(), &drop);
+
+    EXPECT_THAT(rows(), ElementsAre("lote.rpt", "suelto.rpt", "A.RPT", "b.rpt"));
+}
+
+TEST_F(WindowTest, FolderWithoutFilesIsReported) {
+    folder.write("vacia/notas.doc", "x");
+    open({folder.file("vacia")});
+    EXPECT_THAT(dialogs.messages, ElementsAre(HasSubstr("vacia")));
+}
+
+TEST_F(WindowTest, DoubleClickShowsTheFile) {
+    open({writeReport("a.rpt"), writeReport("b.rpt", 5000)});
+    const float whole = view().scaleX();
+    const QPoint row = list().visualItemRect(list().item(1)).center();
+    QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, row);
+    QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, row);
+    EXPECT_LT(view().scaleX(), whole / 5);
+    EXPECT_TRUE(controls().arrows.left);
+    EXPECT_FALSE(controls().arrows.right);
+}
+
+TEST_F(WindowTest, FileCommandsMoveTheSelectedFile) {
+    open({writeReport("a.rpt"), writeReport("b.rpt", 100), writeReport("c.rpt", 200)});
+    action(TextId::FileDown)->trigger();
+    EXPECT_THAT(rows(), ElementsAre("b.rpt", "a.rpt", "c.rpt"));
+    EXPECT_EQ(list().selectedRow(), 1);
+    action(TextId::FileBottom)->trigger();
+    EXPECT_THAT(rows(), ElementsAre("b.rpt", "c.rpt", "a.rpt"));
+    action(TextId::FileUp)->trigger();
+    EXPECT_THAT(rows(), ElementsAre("b.rpt", "a.rpt", "c.rpt"));
+    action(TextId::FileTop)->trigger();
+    EXPECT_THAT(rows(), ElementsAre("a.rpt", "b.rpt", "c.rpt"));
+}
+
+TEST_F(WindowTest, DeleteKeyUnloadsDownToTheEmptyMap) {
+    const std::string first = writeReport("a.rpt");
+    open({first, writeReport("b.rpt", 100)});
+    list().setFocus();
+    QTest::keyClick(&list(), Qt::Key_Delete);
+    EXPECT_THAT(rows(), ElementsAre("b.rpt"));
+    QTest::keyClick(&list(), Qt::Key_Delete);
+    EXPECT_THAT(rows(), IsEmpty());
+    EXPECT_FALSE(action(TextId::FileUnload)->isEnabled());
+    EXPECT_EQ(window->sidePanel().summary().topLevelItemCount(), 0);
+    EXPECT_EQ(drawnPixels(map().canvas().image()), 0);
+    EXPECT_TRUE(canOpen(first));
+}
+
+TEST_F(WindowTest, CopyDataPutsTheSummaryOnTheClipboard) {
+    open({writeReport("lote.rpt")});
+    QTest::keyClick(window.get(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_THAT(clipboard.text, HasSubstr("Nombre Archivo: lote.rpt\r\n"));
+}
+
+TEST_F(WindowTest, ResizingKeepsTheWholeMap) {
+    open({writeReport("lote.rpt")});
+    action(TextId::ActionZoomIn)->trigger();
+    ASSERT_TRUE(controls().horizontal.visible);
+    for (const QSize size : {QSize(700, 900), MainWindow::kMinimumSize, QSize(1400, 600)}) {
+        window->resize(size);
+        QCoreApplication::processEvents();
+        const CanvasSize canvas = map().canvas().size();
+        EXPECT_EQ(canvas, (CanvasSize{map().width() * kUnits, map().height() * kUnits}));
+        EXPECT_FALSE(controls().horizontal.visible);
+        EXPECT_FALSE(controls().vertical.visible);
+        const BoundingBox& box = view().totalBound;
+        const CanvasPoint low = view().transform().mapToScreen(box.minX, box.minY);
+        const CanvasPoint high = view().transform().mapToScreen(box.maxX, box.maxY);
+        EXPECT_TRUE(low.x > 0 && high.x < canvas.width && high.y > 0 && low.y < canvas.height);
+    }
+}
+
+TEST_F(WindowTest, StatusBarTellsPositionAndScale) {
+    open({writeReport("lote.rpt")});
+    QTest::mouseMove(&map(), {100, 100});
+    QTest::mouseMove(&map(), {200, 150});
+    QString texts;
+    for (const QLabel* label : window->statusBar()->findChildren<QLabel*>()) {
+        texts += label->text() + "|";
+    }
+    const LonLat at = under({200, 150});
+    EXPECT_THAT(toUtf8(texts), HasSubstr("Long: " + std::to_string(at.x).substr(0, 6)));
+    EXPECT_THAT(toUtf8(texts), HasSubstr("Lat: " + std::to_string(at.y).substr(0, 6)));
+    EXPECT_THAT(toUtf8(texts), HasSubstr("Escala 1:"));
+}
+
+TEST_F(WindowTest, OpensAsItWasLeft) {
+    window->resize(800, 640);
+    window->close();
+    openWindow(Language::Spanish);
+    EXPECT_EQ(window->size(), QSize(800, 640));
+
+    for (auto& [key, value] : settings.values) {
+        value = "%%%";
+    }
+    openWindow(Language::Spanish);
+    EXPECT_GE(window->width(), MainWindow::kMinimumSize.width());
+}
+
+class WindowInLanguage : public WindowTest, public testing::WithParamInterface<Language> {
+protected:
+    void SetUp() override { openWindow(GetParam()); }
+};
+INSTANTIATE_TEST_SUITE_P(All, WindowInLanguage,
+                         testing::Values(Language::Spanish, Language::Portuguese,
+                                         Language::English));
+
+TEST_P(WindowInLanguage, EveryCommandHasTextTooltipAndPicture) {
+    for (const ActionRow& row : actionRows()) {
+        const QAction* shown = action(row.text);
+        ASSERT_NE(shown, nullptr);
+        SCOPED_TRACE(toUtf8(shown->text()));
+        EXPECT_THAT(toUtf8(shown->toolTip()), HasSubstr(window->session().texts()(row.tooltip)));
+        EXPECT_NE(drawnPixels(shown->icon().pixmap(24, 24).toImage()), 0);
+        EXPECT_FALSE(shown->icon().pixmap(24, 24).isNull());
+        if (*row.shortcuts != '\0') {
+            EXPECT_FALSE(shown->shortcut().isEmpty());
+        }
+    }
+}
+
+TEST_P(WindowInLanguage, NoKeyIsTakenTwice) {
+    QMap<QKeySequence, QString> taken;
+    for (const ActionRow& row : actionRows()) {
+        for (const QKeySequence& key : action(row.text)->shortcuts()) {
+            EXPECT_FALSE(taken.contains(key)) << toUtf8(key.toString() + " of " + taken[key]);
+            taken[key] = action(row.text)->text();
+        }
+    }
+}
+
+TEST_P(WindowInLanguage, NothingIsCutOffAtTheMinimumSize) {
+    open({writeReport("lote.rpt")});
+    window->resize(MainWindow::kMinimumSize);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window->size(), MainWindow::kMinimumSize);
+    for (const QWidget* widget : window->findChildren<QWidget*>()) {
+        if (!widget->isVisible() || widget->parentWidget() == nullptr || widget->isWindow()) {
+            continue;
+        }
+        SCOPED_TRACE(std::string(widget->metaObject()->className()) + " " +
+                     toUtf8(widget->accessibleName()));
+        const QSize least = widget->minimumSizeHint();
+        EXPECT_GE(widget->width(), least.width());
+        EXPECT_GE(widget->height(), least.height());
+        if (qobject_cast<const QAbstractButton*>(widget) != nullptr) {
+            EXPECT_TRUE(widget->parentWidget()->rect().contains(widget->geometry()));
+        }
+    }
+}
+
+TEST_P(WindowInLanguage, WhatTakesTheFocusHasAName) {
+    open({writeReport("lote.rpt")});
+    for (const QWidget* widget : window->findChildren<QWidget*>()) {
+        if (widget->isVisible() && (widget->focusPolicy() & Qt::TabFocus) != 0) {
+            EXPECT_FALSE(widget->accessibleName().isEmpty()) << widget->metaObject()->className();
+        }
+    }
+}
+
+}  // namespace
+}  // namespace campora

@@ -1,0 +1,56 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include <gtest/gtest.h>
+
+#include "desktop/qt_locale.h"
+#include "desktop/qt_settings_store.h"
+#include "desktop/qt_text.h"
+#include "support/temp_folder.h"
+
+namespace campora {
+namespace {
+
+TEST(QtLocale, SpeaksTheProgramsForms) {
+    struct Row {
+        const char* name;
+        char decimal;
+        const char* date;
+        Language language;
+    };
+    const Row rows[] = {
+        {"es_AR", ',', "d/m/yy", Language::Spanish},
+        {"pt_BR", ',', "dd/mm/yyyy", Language::Portuguese},
+        {"en_US", '.', "m/d/yy", Language::English},
+        {"de_DE", ',', "dd.mm.yy", Language::English},
+        {"C", '.', "dd/mm/yyyy", Language::English},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        const QtLocale locale{QLocale(row.name)};
+        EXPECT_EQ(locale.decimalSymbol(), row.decimal);
+        EXPECT_EQ(locale.shortDateForm(), row.date);
+        EXPECT_EQ(locale.language(), row.language);
+    }
+}
+
+TEST(QtSettingsStore, KeepsTextsAsTheyAre) {
+    const TempFolder folder;
+    const QString file = toQt(folder.file("campora.ini"));
+    const std::string texts[] = {"", "16744576", "True", "/tmp/Año 1, lote=2;%20", "@Byte(1)"};
+    for (const std::string& text : texts) {
+        SCOPED_TRACE(text);
+        QtSettingsStore(file).write("OpenPath", text);
+        EXPECT_EQ(QtSettingsStore(file).read("OpenPath"), text);
+    }
+    EXPECT_EQ(QtSettingsStore(file).read("SavePath"), std::nullopt);
+}
+
+TEST(QtSettingsStore, LivesWithADamagedFile) {
+    const TempFolder folder;
+    const std::string file = folder.write("campora.ini", std::string("\0[[Config\n=%\xff\n", 14));
+    EXPECT_EQ(QtSettingsStore(toQt(file)).read("OpenPath"), std::nullopt);
+}
+
+}  // namespace
+}  // namespace campora

@@ -1,0 +1,93 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QAction>
+#include <QTest>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "base/texts.h"
+#include "desktop/file_list.h"
+#include "desktop/main_window.h"
+#include "desktop/map_area.h"
+#include "desktop/map_widget.h"
+#include "desktop/qt_text.h"
+#include "desktop/side_panel.h"
+#include "support/scripted_platform.h"
+#include "support/temp_folder.h"
+#include "support/work_files.h"
+
+namespace campora {
+
+/// A main window off the screen, with scripted dialogs and an empty store of settings.
+class WindowTest : public ::testing::Test {
+protected:
+    ScriptedDialogs dialogs;
+    MemorySettings settings;
+    FixedLocale locale;
+    MemoryClipboard clipboard;
+    TempFolder folder;
+    std::unique_ptr<MainWindow> window;
+
+    void SetUp() override { openWindow(Language::Spanish); }
+
+    void openWindow(Language language) {
+        window = std::make_unique<MainWindow>(Desktop{dialogs, settings, locale, clipboard},
+                                              language, folder.path());
+        window->start({});
+        window->show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+    }
+
+    /// A report of one pass of 400 m that starts so far east of the origin.
+    std::string writeReport(const std::string& name, double eastM = 0) const {
+        RptBytes report(1);
+        for (int i = 0; i < 40; ++i) {
+            RptBytes::Record record;
+            record.position = metresFromOrigin(eastM + 10.0 * i, 5.0 * i);
+            record.realTenths[0] = 900 + 10 * i;
+            record.time.time.second = i;
+            report.add(record);
+        }
+        return folder.write(name, report.bytes());
+    }
+
+    void open(const std::vector<std::string>& paths) { window->openPaths(paths, true); }
+
+    [[nodiscard]] FileList& list() const { return window->sidePanel().files(); }
+    [[nodiscard]] MapWidget& map() const { return window->mapArea().map(); }
+    [[nodiscard]] MapView& view() const { return window->session().view(); }
+    [[nodiscard]] ViewControls controls() const { return window->session().view().controls(); }
+
+    /// Names of the rows, from the top.
+    [[nodiscard]] std::vector<std::string> rows() const {
+        std::vector<std::string> names;
+        for (int i = 0; i < list().count(); ++i) {
+            names.push_back(toUtf8(list().item(i)->text()));
+        }
+        return names;
+    }
+    [[nodiscard]] QAction* action(TextId text) const {
+        const QString shown = toQt(window->session().texts()(text));
+        for (QAction* found : window->findChildren<QAction*>()) {
+            if (found->text() == shown) {
+                return found;
+            }
+        }
+        ADD_FAILURE() << "no action " << toUtf8(shown);
+        return nullptr;
+    }
+    /// The position on the map under a pixel of the map widget.
+    [[nodiscard]] LonLat under(QPoint pixel) const {
+        constexpr float units = RasterCanvas::kUnitsPerPixel;
+        return view().transform().screenToMap(static_cast<float>(pixel.x()) * units,
+                                              static_cast<float>(pixel.y()) * units);
+    }
+};
+
+}  // namespace campora
