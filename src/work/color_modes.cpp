@@ -1,0 +1,156 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "work/color_modes.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <optional>
+#include <string_view>
+#include <variant>
+
+#include "work/gph_track.h"
+
+namespace campora {
+
+namespace {
+
+constexpr int kDoseClasses = 5;
+constexpr int kMostDayClasses = 12;
+/// Doses from here on are faults of measurement; the readers leave them out of the totals as well.
+constexpr std::int32_t kDoseLimit = 5000;
+
+constexpr std::string_view kLitresPerHectare = "lt/hect";
+constexpr std::string_view kUnitsPerHectare = "unid/hect";
+constexpr std::string_view kLitresPerMinute = "lts/min";
+
+/// Calls `visit` with the records of every track, a track at a time; all of one kind.
+template <typename Visit>
+void forEachTrack(std::span<File* const> files, Visit visit) {
+    for (const File* file : files) {
+        for (const Gph* layer : file->File_gphList()) {
+            if (const auto* track = dynamic_cast<const GphTrack*>(layer)) {
+                visit(track->records());
+            }
+        }
+    }
+}
+
+template <typename Visit>
+void forEachReportRecord(std::span<File* const> files, Visit visit) {
+    forEachTrack(files, [&visit](const auto& records) {
+        if (const auto* reports = std::get_if<GphTrack::RptRecords>(&records)) {
+            std::for_each(reports->begin(), reports->end(), visit);
+        }
+    });
+}
+
+/// Least and greatest real dose in one channel.
+std::optional<ValueRange<float>> channelDoses(std::size_t channel, std::span<File* const> files) {
+    std::optional<ValueRange<float>> range;
+    forEachReportRecord(files, [&](const TrackDataRPT& record) {
+        const auto doses = record.getCaudal();
+        if (channel < doses.size() && doses[channel] < kDoseLimit) {
+            extend(range, static_cast<float>(doses[channel]));
+        }
+    });
+    return range;
+}
+
+std::optional<ValueRange<float>> unite(std::optional<ValueRange<float>> range,
+                                       const std::optional<ValueRange<float>>& other) {
+    if (other) {
+        extend(range, other->least);
+        extend(range, other->greatest);
+    }
+    return range;
+}
+
+/// Whether the doses are seeds or the like: those of seeders and of machines that do not say what
+/// they are.
+bool countsUnits(const std::variant<GphTrack::RptRecords, GphTrack::NbrRecords>& records) {
+    const auto* reports = std::get_if<GphTrack::RptRecords>(&records);
+    return reports != nullptr && !reports->empty() &&
+           reports->front().workKind() != WorkKind::Sprayer;
+}
+
+std::string_view doseUnit(std::span<File* const> files) {
+    int tracks = 0;
+    int inUnits = 0;
+    forEachTrack(files, [&](const auto& records) {
+        ++tracks;
+        inUnits += countsUnits(records) ? 1 : 0;
+    });
+    return tracks > 0 && inUnits == tracks ? kUnitsPerHectare : kLitresPerHectare;
+}
+
+void setUpDoses(ColorScale& scale, const MapStyle& style, const ValueRanges& ranges,
+                std::span<File* const> files) {
+    const auto doses = style.selectedChannel < 0
+                           ? ranges.dose
+                           : channelDoses(static_cast<std::size_t>(style.selectedChannel), files);
+    const bool perMinute = style.by == GraduatedBy::Minute && ranges.flow.has_value();
+    const auto range = perMinute ? ranges.flow : unite(doses, ranges.litres);
+    scale.isDate = false;
+    scale.allowClassEdit = true;
+    scale.unit = perMinute ? kLitresPerMinute : doseUnit(files);
+    if (range) {
+        const int classes = range->least < range->greatest ? kDoseClasses : 1;
+        scale.setClassNumberExt(classes, range->least, range->greatest);
+    }
+}
+
+void setUpDates(ColorScale& scale, std::span<File* const> files) {
+    SetList days;
+    std::optional<std::int32_t> last;
+    forEachReportRecord(files, [&](const TrackDataRPT& record) {
+        if (record.hasDate()) {
+            const std::int32_t day = dayNumber(record.fecha());
+            // Neighbours mostly share their day, and the set need not look for it again.
+            if (day != last) {
+                days.addDosis(day);
+            }
+            last = day;
+        }
+    });
+    scale.isDate = true;
+    scale.allowClassEdit = false;
+    scale.unit.clear();
+    if (days.count() > kMostDayClasses) {
+        scale.setClassNumberExt(kMostDayClasses, days.getSet().front(), days.getSet().back());
+    } else {
+        scale.loadFromSetList(days, 0);
+    }
+}
+
+void setUpErrors(ColorScale& scale, const MapStyle& style, std::span<File* const> files) {
+    const auto channel = static_cast<std::size_t>(style.selectedChannel);
+    SetList specified;
+    forEachReportRecord(files, [&](const TrackDataRPT& record) {
+        const auto doses = record.getDosis();
+        if (channel < doses.size()) {
+            specified.addDosis(doses[channel]);
+        }
+    });
+    scale.isDate = false;
+    scale.allowClassEdit = false;
+    scale.unit = doseUnit(files);
+    scale.loadFromSetList(specified, style.errorLimit / 100);
+}
+
+}  // namespace
+
+void setUpColorScale(ColorScale& scale, const MapStyle& style, const ValueRanges& ranges,
+                     std::span<File* const> files) {
+    if (style.mode == ColorMode::Date) {
+        setUpDates(scale, files);
+    } else if (style.mode != ColorMode::Error) {
+        setUpDoses(scale, style, ranges, files);
+    } else if (style.selectedChannel >= 0) {
+        setUpErrors(scale, style, files);
+    } else if (scale.isDate) {
+        setUpDoses(scale, style, ranges, files);  // days would be no measure for doses
+    }
+}
+
+}  // namespace campora

@@ -1,0 +1,252 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "work/color_modes.h"
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "base/dates.h"
+#include "model/file_gph_group.h"
+#include "support/work_records.h"
+#include "work/gph_track.h"
+
+namespace campora {
+namespace {
+
+/// Open files, and the scale that is set up for them.
+struct Fixture {
+    template <typename Record>
+    void addFile(const std::vector<Record>& records) {
+        auto track = std::make_unique<GphTrack>();
+        for (const Record& record : records) {
+            const LonLat at = atMetres(10.0 * static_cast<double>(++points), 1);
+            track->addPoint(at.x, at.y, record);
+        }
+        auto group = std::make_unique<FileGphGroup>();
+        group->addGph(std::move(track));
+        files.push_back(group.get());
+        owned.push_back(std::move(group));
+    }
+    void addReport(WorkKind kind) {
+        TrackDataRPT::Fields fields = reportFields(100);
+        fields.kind = kind;
+        addFile(std::vector{TrackDataRPT(fields)});
+    }
+    void addDays(const std::vector<std::int32_t>& days) {
+        std::vector<TrackDataRPT> records;
+        for (const std::int32_t day : days) {
+            TrackDataRPT::Fields fields = reportFields(100);
+            fields.date = dateOfDayNumber(day);
+            records.emplace_back(fields);
+        }
+        addFile(records);
+    }
+    void setUp() { setUpColorScale(scale, style, ranges, files); }
+
+    [[nodiscard]] std::vector<std::pair<double, double>> bounds() const {
+        std::vector<std::pair<double, double>> all;
+        for (const Clase& clase : scale.classes()) {
+            all.emplace_back(clase.lower, clase.upper);
+        }
+        return all;
+    }
+
+    ColorScale scale;
+    MapStyle style;
+    ValueRanges ranges;
+    std::vector<File*> files;
+    std::vector<std::unique_ptr<FileGphGroup>> owned;
+    int points = 0;
+};
+
+using Range = std::optional<ValueRange<float>>;
+using Bounds = std::vector<std::pair<double, double>>;
+
+TEST(ColorModes, DoseClassesCoverWhatIsLoaded) {
+    struct Row {
+        const char* name;
+        GraduatedBy by;
+        Range flow, litres, dose;
+        int classes;
+        double least, greatest;
+    };
+    const Range flow = {{5, 25}};
+    const Range litres = {{1, 9}};
+    const Range dose = {{50, 250}};
+    const Row rows[] = {
+        {"reports", GraduatedBy::Hectare, {}, {}, dose, 5, 50, 250},
+        {"track files", GraduatedBy::Hectare, flow, litres, {}, 5, 1, 9},
+        {"both", GraduatedBy::Hectare, flow, litres, dose, 5, 1, 250},
+        {"track files by minute", GraduatedBy::Minute, flow, litres, {}, 5, 5, 25},
+        {"both by minute", GraduatedBy::Minute, flow, litres, dose, 5, 5, 25},
+        {"reports by minute", GraduatedBy::Minute, {}, {}, dose, 5, 50, 250},
+        {"track files without speed", GraduatedBy::Hectare, flow, Range{{0, 0}}, {}, 1, 0, 0},
+        {"nothing: the classes stay", GraduatedBy::Hectare, {}, {}, {}, 6, 0, 100},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        Fixture f;
+        f.style.by = row.by;
+        f.ranges.flow = row.flow;
+        f.ranges.litres = row.litres;
+        f.ranges.dose = row.dose;
+        f.setUp();
+        EXPECT_EQ(f.scale.count(), row.classes);
+        EXPECT_EQ(f.scale.valueMin(), row.least);
+        EXPECT_EQ(f.scale.valueMax(), row.greatest);
+        EXPECT_EQ(f.scale.classes().front().lower, row.least);
+        EXPECT_EQ(f.scale.classes().back().upper, row.greatest);
+    }
+}
+
+TEST(ColorModes, ASelectedChannelHasItsOwnRange) {
+    Fixture f;
+    std::vector<TrackDataRPT> records;
+    for (const std::int32_t second : {70, 30, 5000, 40}) {
+        TrackDataRPT::Fields fields = reportFields(900);
+        fields.channels = 2;
+        fields.real[1] = second;
+        records.emplace_back(fields);
+    }
+    f.addFile(records);
+    f.addFile(std::vector{reportRecord(1)});  // has no second channel
+    f.ranges.dose = {1, 970};
+    f.style.selectedChannel = 1;
+    f.setUp();
+    EXPECT_EQ(f.scale.valueMin(), 30);
+    EXPECT_EQ(f.scale.valueMax(), 70);  // 5000 and more are faults of measurement
+    f.style.selectedChannel = 2;
+    f.setUp();
+    EXPECT_EQ(f.scale.valueMax(), 70) << "no record has a third channel: the classes stay";
+}
+
+TEST(ColorModes, TheUnitIsThatOfTheMachines) {
+    struct Row {
+        const char* name;
+        std::vector<WorkKind> reports;
+        bool trackFile;
+        GraduatedBy by;
+        const char* unit;
+    };
+    const Row rows[] = {
+        {"nothing", {}, false, GraduatedBy::Hectare, "lt/hect"},
+        {"sprayer", {WorkKind::Sprayer}, false, GraduatedBy::Hectare, "lt/hect"},
+        {"seeder", {WorkKind::Seeder}, false, GraduatedBy::Hectare, "unid/hect"},
+        {"older report", {WorkKind::OlderForm}, false, GraduatedBy::Hectare, "unid/hect"},
+        {"mixed", {WorkKind::Seeder, WorkKind::Sprayer}, false, GraduatedBy::Hectare, "lt/hect"},
+        {"with a track file", {WorkKind::Seeder}, true, GraduatedBy::Hectare, "lt/hect"},
+        {"by minute", {WorkKind::Seeder}, true, GraduatedBy::Minute, "lts/min"},
+        {"by minute, report", {WorkKind::Seeder}, false, GraduatedBy::Minute, "unid/hect"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        Fixture f;
+        f.style.by = row.by;
+        for (const WorkKind kind : row.reports) {
+            f.addReport(kind);
+        }
+        if (row.trackFile) {
+            f.addFile(std::vector{loggerRecord(20)});
+            f.ranges.flow = {0, 20};
+        }
+        f.setUp();
+        EXPECT_EQ(f.scale.unit, row.unit);
+    }
+}
+
+TEST(ColorModes, ADateMapHasAClassADay) {
+    Fixture f;
+    f.style.mode = ColorMode::Date;
+    f.scale.unit = "lt/hect";
+    f.addDays({43102, 43102, 43100, 43102});
+    f.addDays({43105});
+    f.addFile(std::vector{reportRecord(7), reportRecord(8)});  // without a date
+    f.setUp();
+    EXPECT_EQ(f.bounds(), (Bounds{{43100, 43100}, {43102, 43102}, {43105, 43105}}));
+    EXPECT_TRUE(f.scale.isDate);
+    EXPECT_FALSE(f.scale.allowClassEdit);
+    EXPECT_EQ(f.scale.unit, "");
+    f.style.mode = ColorMode::Dose;
+    f.setUp();
+    EXPECT_FALSE(f.scale.isDate);
+    EXPECT_TRUE(f.scale.allowClassEdit);
+}
+
+TEST(ColorModes, ManyDaysShareTwelveClasses) {
+    struct Row {
+        std::int32_t days;
+        bool classADay;
+    };
+    for (const Row& row : {Row{12, true}, Row{13, false}, Row{40, false}}) {
+        SCOPED_TRACE(row.days);
+        Fixture f;
+        f.style.mode = ColorMode::Date;
+        std::vector<std::int32_t> days;
+        for (std::int32_t i = 0; i < row.days; ++i) {
+            days.push_back(43000 + 2 * i);
+        }
+        f.addDays(days);
+        f.setUp();
+        EXPECT_EQ(f.scale.count(), 12);
+        EXPECT_EQ(f.scale.getClass(0).lower == f.scale.getClass(0).upper, row.classADay);
+        EXPECT_EQ(f.scale.classes().front().lower, 43000);
+        EXPECT_NEAR(f.scale.classes().back().upper, 43000 + 2 * (row.days - 1), 1e-6);
+    }
+}
+
+TEST(ColorModes, AnErrorMapHasAClassASpecifiedDose) {
+    Fixture f;
+    std::vector<TrackDataRPT> records;
+    for (const std::int32_t specified : {160, 80, 160}) {
+        TrackDataRPT::Fields fields = reportFields(100);
+        fields.spec[0] = specified;
+        records.emplace_back(fields);
+    }
+    f.addFile(records);
+    f.style.mode = ColorMode::Error;
+    f.style.selectedChannel = 0;
+    f.style.errorLimit = 12.5F;
+    f.setUp();
+    EXPECT_EQ(f.bounds(), (Bounds{{70, 90}, {140, 180}}));
+    EXPECT_FALSE(f.scale.allowClassEdit);
+    EXPECT_FALSE(f.scale.isDate);
+}
+
+TEST(ColorModes, AnErrorMapOfTheTotalKeepsTheDoseClasses) {
+    Fixture f;
+    f.addDays({43100});
+    f.ranges.dose = {50, 250};
+    f.setUp();
+    const Bounds doses = f.bounds();
+    f.style.mode = ColorMode::Error;
+    f.ranges.dose = {0, 9999};
+    f.setUp();
+    EXPECT_EQ(f.bounds(), doses);
+
+    f.style.mode = ColorMode::Date;
+    f.setUp();
+    f.ranges.dose = {50, 250};
+    f.style.mode = ColorMode::Error;
+    f.setUp();
+    EXPECT_EQ(f.bounds(), doses) << "days are no classes of doses";
+}
+
+TEST(ColorModes, FilesWithoutLayersChangeNothing) {
+    for (const ColorMode mode : {ColorMode::Dose, ColorMode::Date, ColorMode::Error}) {
+        Fixture f;
+        f.owned.push_back(std::make_unique<FileGphGroup>());
+        f.files.push_back(f.owned.back().get());
+        f.style.mode = mode;
+        f.style.selectedChannel = 0;
+        f.setUp();
+        EXPECT_EQ(f.scale.count(), 6);
+        EXPECT_EQ(f.scale.classes().back().upper, 100);
+    }
+}
+
+}  // namespace
+}  // namespace campora
