@@ -1,0 +1,46 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/file_loading.h"
+
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+namespace campora {
+namespace {
+
+TEST(FileLoading, TheEndingDecides) {
+    struct Row {
+        const char* path;
+        const char* ending;
+    };
+    const Row rows[] = {
+        {R"(C:\A\B.RPT)", ".rpt"},       {"Parte 8 columnas.txt", ".txt"},
+        {"tarjeta/LOG0001.Nbr", ".nbr"}, {".rpt", ".rpt"},
+        {"trabajo.rpt.doc", nullptr},    {"rpt", nullptr},
+        {"trabajo.rpt/", nullptr},       {"", nullptr},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.path);
+        const FileFormat* const format = formatOf(row.path);
+        ASSERT_EQ(format != nullptr, row.ending != nullptr);
+        if (format != nullptr) {
+            EXPECT_EQ(format->ending, row.ending);
+        }
+    }
+}
+
+TEST(FileLoading, EveryFormatHasItsFilter) {
+    const std::vector<FileFilter> filters = openFilters(Texts(Language::English));
+    ASSERT_EQ(filters.size(), fileFormats().size() + 2);
+    EXPECT_EQ(filters.front().caption, "Supported files");
+    EXPECT_EQ(filters.front().patterns, (std::vector<std::string>{"*.rpt", "*.txt", "*.nbr"}));
+    EXPECT_EQ(filters[3].caption, "Work logs");
+    EXPECT_EQ(filters[3].patterns, std::vector<std::string>{"*.nbr"});
+    EXPECT_EQ(filters.back().patterns, std::vector<std::string>{"*"});
+}
+
+}  // namespace
+}  // namespace campora
