@@ -1,0 +1,40 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/window_title.h"
+
+#include <gtest/gtest.h>
+
+namespace campora {
+namespace {
+
+TEST(WindowTitle, ShowsTheEndOfThePath) {
+    struct Row {
+        const char* name;
+        const char* path;
+        const char* shown;
+    };
+    const Row rows[] = {
+        {"no folder", "trabajo.rpt", "trabajo.rpt"},
+        {"short", R"(c:\datos\campo\lote 12\trabajo.rpt)",
+         R"(...\datos\campo\lote 12\trabajo.rpt)"},
+        {"slashes", "/datos/campo/trabajo.rpt", ".../datos/campo/trabajo.rpt"},
+        {"long", R"(c:\establecimiento\campaña 2017 a 2018\lote 12 norte\trabajo de marzo.rpt)",
+         R"(...\lote 12 norte\trabajo de marzo.rpt)"},
+        // "ñ" is one character: the separator before it is the fiftieth from the end.
+        {"separator at the fiftieth character",
+         R"(c:\campo\ñ234567890123456789012345678901234567890123456789)",
+         R"(...\ñ234567890123456789012345678901234567890123456789)"},
+        {"separator just too far", R"(c:\campo\ñ2345678901234567890123456789012345678901234567890)",
+         "...ñ2345678901234567890123456789012345678901234567890"},
+        {"name longer than that", R"(c:\aa12345678901234567890123456789012345678901234567890)",
+         "...12345678901234567890123456789012345678901234567890"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(fileTitle(row.path), "Campora - [" + std::string(row.shown) + "]");
+    }
+}
+
+}  // namespace
+}  // namespace campora
