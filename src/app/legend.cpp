@@ -1,0 +1,123 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/legend.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string>
+#include <vector>
+
+#include "base/dates.h"
+#include "base/numbers.h"
+
+namespace campora {
+
+namespace {
+
+constexpr int kMostDecimals = 12;
+
+/// Decimals that show the bounds with two digits of the narrowest class or gap: no more than a
+/// person wants to read, and enough that no two neighbours read the same.
+int decimalsOf(const std::vector<Clase>& classes) {
+    double narrowest = 0;
+    const auto consider = [&narrowest](double width) {
+        if (width > 0 && (narrowest == 0 || width < narrowest)) {
+            narrowest = width;
+        }
+    };
+    for (std::size_t i = 0; i < classes.size(); ++i) {
+        consider(classes[i].upper - classes[i].lower);
+        consider(i == 0 ? 0 : classes[i].lower - classes[i - 1].lower);
+    }
+    if (narrowest == 0) {
+        consider(std::abs(classes.front().lower) / 100);  // one single value: three digits
+    }
+    if (narrowest == 0) {
+        return 0;
+    }
+    return std::clamp(1 - static_cast<int>(std::floor(std::log10(narrowest))), 0, kMostDecimals);
+}
+
+std::string boundsText(const std::string& lower, const std::string& upper) {
+    return lower == upper ? lower : lower + " - " + upper;
+}
+
+class ClassTexts {
+public:
+    ClassTexts(const ColorScale& scale, const UserLocale& locale)
+        : scale_(scale), locale_(locale), step_(std::pow(10.0, decimalsOf(scale.classes()))) {}
+
+    [[nodiscard]] std::string text(int index) const {
+        const Clase& clase = scale_.getClass(index);
+        if (scale_.isDate) {
+            return boundsText(date(firstDay(index)), date(lastDay(clase)));
+        }
+        return boundsText(number(clase.lower), number(clase.upper));
+    }
+
+private:
+    /// Bounds between days come out of a division; this much off a whole day is one.
+    static constexpr double kDayTolerance = 1e-6;
+
+    /// A day on a boundary belongs to the class below.
+    [[nodiscard]] double firstDay(int index) const {
+        const Clase& clase = scale_.getClass(index);
+        const bool ownsLower = index == 0 || clase.lower == clase.upper;
+        return ownsLower ? std::ceil(clase.lower - kDayTolerance)
+                         : std::floor(clase.lower + kDayTolerance) + 1;
+    }
+    [[nodiscard]] static double lastDay(const Clase& clase) {
+        return std::floor(clase.upper + kDayTolerance);
+    }
+    [[nodiscard]] std::string date(double day) const {
+        return dateText(dateOfDayNumber(roundToInt32(day)), locale_.shortDateForm());
+    }
+    [[nodiscard]] std::string number(double value) const {
+        return numberText(std::round(value * step_) / step_, locale_.decimalSymbol());
+    }
+
+    const ColorScale& scale_;
+    const UserLocale& locale_;
+    double step_;
+};
+
+std::vector<LegendRow> referenceRows(const MapStyle& style, const Texts& texts,
+                                     const UserLocale& locale) {
+    const MapColors& colors = style.colors;
+    const auto row = [&texts](Color color, TextId id) {
+        return LegendRow{color, std::string(texts(id))};
+    };
+    std::vector<LegendRow> rows{row(colors.draw, TextId::LegendWorked),
+                                row(colors.noDraw, TextId::LegendNotWorked),
+                                row(colors.back, TextId::LegendBackground)};
+    if (style.mode == ColorMode::Alarm) {
+        rows.push_back(row(colors.alarm, TextId::LegendAlarm));
+        rows.push_back(row(colors.noAlarm, TextId::LegendNoAlarm));
+    }
+    if (style.mode == ColorMode::Error) {
+        std::string limit = numberText(style.errorLimit);
+        std::replace(limit.begin(), limit.end(), '.', locale.decimalSymbol());
+        rows.push_back({style.errorSample, texts.format(TextId::LegendErrors, {limit})});
+    }
+    return rows;
+}
+
+}  // namespace
+
+LegendContent legendContent(const MapStyle& style, const Texts& texts, const UserLocale& locale) {
+    LegendContent legend;
+    legend.reference = referenceRows(style, texts, locale);
+    if (!style.scaleShown()) {
+        return legend;
+    }
+    const ColorScale& scale = *style.scale;
+    const ClassTexts classTexts(scale, locale);
+    legend.unit = scale.unit;
+    for (int i = 0; i < scale.count(); ++i) {
+        legend.classes.push_back({scale.getClass(i).color, classTexts.text(i)});
+    }
+    return legend;
+}
+
+}  // namespace campora
