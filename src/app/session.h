@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "app/file_loading.h"
 #include "app/map_view.h"
 #include "base/texts.h"
 #include "colour/color_scale.h"
@@ -41,32 +42,43 @@ class Session {
 public:
     /// `programFolder`: where the registrations are.
     Session(const Platform& platform, Language language, std::string programFolder);
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+    ~Session();
 
-    /// Start-up: colours and switches from the settings, the registrations, the empty map.
+    /// Start-up: language, colours and switches from the settings, the registrations, the empty
+    /// map.
     void start();
 
     [[nodiscard]] const Texts& texts() const { return texts_; }
     [[nodiscard]] LoadedFileList& files() { return files_; }
+    /// Widened by every file that is added; unset again when the map is empty.
     [[nodiscard]] const ValueRanges& ranges() const { return ranges_; }
     [[nodiscard]] MapView& view() { return view_; }
     [[nodiscard]] MapStyle& style() { return style_; }
-    [[nodiscard]] ColorScale& defaultScale() { return *defaultScale_; }
+    /// The scale of everything that has none of its own.
+    [[nodiscard]] ColorScale& defaultScale() { return defaultScale_; }
 
     [[nodiscard]] int plotCount() const { return files_.loadedCount(); }
     /// False when the duplicate rule kept the file out.
     bool addFile(std::unique_ptr<File> file, bool updateView, bool atTop);
+    /// Collects the boxes of the open files anew and fits the view; false when nothing changed.
     bool recalcGphBound();
     void removeFile(const File* file);
     /// Opens a file by its ending. False when it is open already, was refused or no reader takes
-    /// it; nothing has changed then, apart from `resetFirst`.
+    /// it; nothing has changed then, apart from `resetFirst`. Without `zoomAll` nothing is redrawn:
+    /// the caller does that after the last of several files.
     bool loadFile(std::string_view path, bool resetFirst, bool zoomAll);
-    /// Opens several in order: the first replaces what is open when `resetFirst`. Answers how many
-    /// were taken.
+    /// Opens several in order, in place of what is open when `resetFirst`, and shows the whole map.
+    /// Answers how many were taken.
     int loadFiles(const std::vector<std::string>& paths, bool resetFirst);
+    /// The empty map.
     void reset();
+    /// The title for the current file, when there is one, or for untitled work.
     void setTitle(bool untitled);
+    /// All layers of all open files, first file first.
     [[nodiscard]] std::vector<Gph*> getGphList() const;
-    /// Puts the open files away and shows an empty map (`save`), or brings them back.
+    /// Puts the open files away, so that another can be shown alone (`save`), or brings them back.
     void plotPreview(bool save, bool zoomAll);
     void loadFileList(bool selectCurrent);
 
@@ -76,6 +88,8 @@ public:
     enum class Move { Up, Down, Top, Bottom };
     void moveCurrentFile(Move where);
     void removeCurrentFile();
+    /// Brings the hectares in error of every file up to date with the error map.
+    void recalcErrorAreas();
     /// The summary as text lines on the clipboard.
     void copyData();
     /// Asks for a file and opens it in place of the others.
@@ -84,28 +98,40 @@ public:
     void canvasResized();
     /// Draws the files from the last to the first.
     void plotAll(MapContext& context) const;
-    /// Builds the default scale anew for the current mode and shows it in the legend.
+    /// Builds the default scale anew for the current mode and shows it in the legend; does not
+    /// redraw. The date map is left when nothing loaded has a date.
     void refreshColorScale();
 
 private:
     struct SavedMap;
 
+    [[nodiscard]] std::vector<File*> openFiles() const;
+    bool takeWork(std::string_view path, const FileFormat& format);
+    void afterLoading(bool zoomAll);
+    void showTitle(std::string title);
+    /// Summary, title and legend.
+    void showCurrentFile();
     void showSummary();
     void showLegend();
-    void afterLoading(bool zoomAll);
+    void showFlowStops();
+    void redraw() { view_.refrescar("-1"); }
 
     Platform platform_;
     Texts texts_;
     std::string programFolder_;
     MapStyle style_;
-    std::unique_ptr<ColorScale> defaultScale_;
+    ColorScale defaultScale_;
     Registrations registrations_;
     ValueRanges ranges_;
     LoadedFileList files_;
     MapView view_;
     std::string title_;
+    /// What is put away during a preview.
     std::unique_ptr<SavedMap> saved_;
     ColorScale::Subscription scaleChanges_;
+    /// A track file with a step without flow is open.
+    bool hasFlowStops_ = false;
+    /// While set, a change of the scale neither redraws nor reaches the legend.
     bool loading_ = false;
 };
 

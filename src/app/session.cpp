@@ -1,0 +1,406 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/session.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "app/legend.h"
+#include "app/style_settings.h"
+#include "app/window_title.h"
+#include "base/paths.h"
+#include "model/file_gph_group.h"
+#include "work/color_modes.h"
+
+namespace campora {
+
+namespace {
+
+constexpr std::string_view kOpenPath = "OpenPath";
+/// Image of files without one of their own.
+constexpr std::string_view kPlainIcon = "copy";
+
+/// Readers start from what is loaded; a scale that begins below 0 would waste classes.
+void raiseToZero(std::optional<ValueRange<float>>& range) {
+    if (range) {
+        range->least = std::max(range->least, 0.0F);
+        range->greatest = std::max(range->greatest, 0.0F);
+    }
+}
+
+/// A file without points has no box, and takes no part in the extent of the map.
+void grow(BoundingBox& bound, const BoundingBox& other) {
+    if (other.isSet) {
+        bound.addBoundingBox(other);
+    }
+}
+
+std::vector<SummaryRow> summaryRows(File* file) {
+    std::vector<SummaryRow> rows;
+    if (file != nullptr) {
+        const FileProperties& summary = file->File_resumen();
+        for (int i = 0; i < summary.count(); ++i) {
+            rows.push_back({summary.property(i), summary.value(i)});
+        }
+    }
+    return rows;
+}
+
+}  // namespace
+
+struct Session::SavedMap {
+    std::string title;
+    ValueRanges ranges;
+    LoadedFileList::Saved files;
+    BoundingBox totalBound;
+    bool hasFlowStops = false;
+};
+
+Session::Session(const Platform& platform, Language language, std::string programFolder)
+    : platform_(platform),
+      texts_(language),
+      programFolder_(std::move(programFolder)),
+      files_(platform.dialogs, texts_),
+      view_(platform.canvas, platform.window, style_,
+            [this](MapContext& context) { plotAll(context); }) {
+    style_.scale = &defaultScale_;
+}
+
+Session::~Session() = default;
+
+void Session::start() {
+    const SettingsStore& settings = platform_.settings;
+    texts_.setLanguage(readLanguageSetting(settings).value_or(texts_.language()));
+    readStyleSettings(settings, style_);
+    registrations_ = loadRegistrations(programFolder_, platform_.dialogs, texts_);
+    reset();
+}
+
+bool Session::addFile(std::unique_ptr<File> file, bool updateView, bool atTop) {
+    if (!file) {
+        return false;
+    }
+    const BoundingBox bound = file->File_bound();
+    if (!files_.addFile(std::move(file), atTop)) {
+        return false;
+    }
+    if (updateView) {
+        if (files_.loadedCount() == 1) {
+            view_.totalBound.clear();
+        }
+        grow(view_.totalBound, bound);
+        view_.fitView();
+    }
+    return true;
+}
+
+bool Session::recalcGphBound() {
+    BoundingBox bound;
+    for (const File* file : openFiles()) {
+        grow(bound, file->File_bound());
+    }
+    if (bound.equals(view_.totalBound)) {
+        return false;
+    }
+    view_.totalBound = bound;
+    view_.fitView();
+    return true;
+}
+
+void Session::removeFile(const File* file) {
+    const std::optional<int> index = files_.indexOf(file);
+    if (!index) {
+        return;
+    }
+    const bool wasCurrent = files_.currentFile() == file;
+    files_.removeFile(file);
+    if (files_.empty()) {
+        reset();
+        return;
+    }
+    if (wasCurrent) {
+        files_.setCurrentFile(&files_.file(std::min(*index, files_.loadedCount() - 1)));
+    }
+    loadFileList(true);
+    showCurrentFile();
+    if (recalcGphBound()) {
+        view_.ZoomUno();
+    } else {
+        redraw();
+    }
+}
+
+bool Session::loadFile(std::string_view path, bool resetFirst, bool zoomAll) {
+    if (resetFirst) {
+        reset();
+    }
+    const std::string found = findIgnoringCase(path);
+    if (files_.isLoaded(found)) {
+        return false;
+    }
+    const FileFormat* const format = formatOf(found);
+    if (format == nullptr) {
+        platform_.dialogs.message(texts_.format(TextId::FileNotCompatibleNamed, {found}),
+                                  MessageIcon::Error, texts_(TextId::WrongFileFormat));
+        return false;
+    }
+    if (!takeWork(found, *format)) {
+        return false;
+    }
+    afterLoading(zoomAll);
+    return true;
+}
+
+bool Session::takeWork(std::string_view path, const FileFormat& format) {
+    const ValueRanges loaded = files_.empty() ? ValueRanges{} : ranges_;
+    const WorkReaderContext context{platform_.dialogs, platform_.locale, texts_, registrations_,
+                                    loaded};
+    std::optional<LoadedWork> work = format.read(path, context);
+    if (!work || !addFile(std::move(work->group), true, false)) {
+        return false;
+    }
+    ranges_ = work->ranges;
+    style_.graduated = style_.graduated || format.graduates;
+    if (work->hasFlowStops) {
+        hasFlowStops_ = hasFlowStops_ || *work->hasFlowStops;
+        showFlowStops();
+    }
+    return true;
+}
+
+void Session::afterLoading(bool zoomAll) {
+    raiseToZero(ranges_.flow);
+    raiseToZero(ranges_.litres);
+    raiseToZero(ranges_.dose);
+    refreshColorScale();
+    if (zoomAll) {
+        view_.ZoomUno();
+    }
+    platform_.window.setFileCommandsEnabled(true);
+    loadFileList(true);
+    showCurrentFile();
+}
+
+int Session::loadFiles(const std::vector<std::string>& paths, bool resetFirst) {
+    if (resetFirst) {
+        reset();
+    }
+    int taken = 0;
+    for (const std::string& path : paths) {
+        taken += loadFile(path, false, false) ? 1 : 0;
+    }
+    if (taken > 0) {
+        view_.ZoomUno();
+    }
+    return taken;
+}
+
+void Session::reset() {
+    files_.clearFiles();
+    ranges_ = {};
+    hasFlowStops_ = false;
+    view_.forget();
+    redraw();
+    MainWindowControls& window = platform_.window;
+    window.setFileList({}, std::nullopt);
+    window.setFileCommandsEnabled(false);
+    window.setWorkStatus("");
+    showSummary();
+    showLegend();
+    showTitle(versionTitle());
+}
+
+void Session::setTitle(bool untitled) {
+    if (untitled) {
+        showTitle(untitledTitle());
+    } else if (const File* current = files_.currentFile()) {
+        showTitle(fileTitle(current->File_path()));
+    }
+}
+
+void Session::showTitle(std::string title) {
+    title_ = std::move(title);
+    platform_.window.setTitle(title_);
+}
+
+std::vector<File*> Session::openFiles() const {
+    std::vector<File*> files;
+    for (int i = 0; i < files_.loadedCount(); ++i) {
+        files.push_back(&files_.file(i));
+    }
+    return files;
+}
+
+std::vector<Gph*> Session::getGphList() const {
+    std::vector<Gph*> all;
+    for (const File* file : openFiles()) {
+        const std::vector<Gph*> layers = file->File_gphList();
+        all.insert(all.end(), layers.begin(), layers.end());
+    }
+    return all;
+}
+
+void Session::plotPreview(bool save, bool zoomAll) {
+    if (save == (saved_ != nullptr)) {
+        return;  // put away already, or nothing to bring back
+    }
+    if (save) {
+        saved_ = std::make_unique<SavedMap>(
+            SavedMap{title_, ranges_, files_.takeAll(), view_.totalBound, hasFlowStops_});
+        view_.totalBound = {};
+        return;
+    }
+    SavedMap saved = std::move(*saved_);
+    saved_.reset();
+    files_.putBack(std::move(saved.files));
+    if (files_.empty()) {
+        reset();
+        return;
+    }
+    ranges_ = saved.ranges;
+    hasFlowStops_ = saved.hasFlowStops;
+    view_.totalBound = saved.totalBound;
+    view_.fitView();
+    afterLoading(zoomAll);
+    showTitle(saved.title);
+}
+
+void Session::loadFileList(bool selectCurrent) {
+    std::vector<FileListRow> rows;
+    for (const File* file : openFiles()) {
+        const std::string icon = file->File_icon();
+        rows.push_back({file->File_name(), icon.empty() ? std::string(kPlainIcon) : icon});
+    }
+    platform_.window.setFileList(rows, selectCurrent ? files_.indexOf(files_.currentFile())
+                                                     : std::nullopt);
+}
+
+void Session::selectFile(std::optional<int> row) {
+    if (row && (*row < 0 || *row >= files_.loadedCount())) {
+        return;
+    }
+    files_.setCurrentFile(row ? &files_.file(*row) : nullptr);
+    showCurrentFile();
+}
+
+void Session::zoomToCurrentFile() {
+    if (const File* current = files_.currentFile()) {
+        view_.zoomToBox(current->File_bound());
+    }
+}
+
+void Session::moveCurrentFile(Move where) {
+    const File* const current = files_.currentFile();
+    if (current == nullptr) {
+        return;
+    }
+    switch (where) {
+    case Move::Up:
+        files_.moveUp(current);
+        break;
+    case Move::Down:
+        files_.moveDown(current);
+        break;
+    case Move::Top:
+        files_.moveToTop(current);
+        break;
+    case Move::Bottom:
+        files_.moveToBottom(current);
+        break;
+    }
+    loadFileList(true);
+    redraw();
+}
+
+void Session::removeCurrentFile() {
+    removeFile(files_.currentFile());
+}
+
+void Session::showCurrentFile() {
+    showSummary();
+    setTitle(false);
+    showLegend();
+}
+
+void Session::showSummary() {
+    platform_.window.setSummary(summaryRows(files_.currentFile()));
+}
+
+void Session::showLegend() {
+    File* const current = files_.currentFile();
+    ColorScale* const own = current != nullptr ? current->File_escalaColores() : nullptr;
+    ColorScale& scale = own != nullptr ? *own : defaultScale_;
+    scaleChanges_ = scale.onChanged([this] {
+        if (!loading_) {
+            showLegend();
+            redraw();
+        }
+    });
+    MapStyle shown = style_;
+    shown.scale = &scale;
+    platform_.window.setLegend(legendContent(shown, texts_, platform_.locale));
+}
+
+void Session::showFlowStops() {
+    platform_.window.setWorkStatus(hasFlowStops_ ? "" : texts_(TextId::NoFlowStops));
+}
+
+void Session::recalcErrorAreas() {
+    for (File* file : openFiles()) {
+        if (auto* const group = dynamic_cast<FileGphGroup*>(file)) {
+            group->calcErrorArea(style_, platform_.locale);
+        }
+    }
+    showSummary();
+}
+
+void Session::copyData() {
+    std::string text;
+    for (const SummaryRow& row : summaryRows(files_.currentFile())) {
+        text.append(row.property).append(" ").append(row.value).append("\r\n");
+    }
+    if (!text.empty()) {
+        platform_.clipboard.setText(text);
+    }
+}
+
+void Session::fileOpen() {
+    const std::string path = platform_.dialogs.openFile(
+        {std::string(texts_(TextId::Open)), platform_.settings.read(kOpenPath).value_or(""),
+         openFilters(texts_)});
+    if (path.empty()) {
+        return;
+    }
+    platform_.settings.write(kOpenPath, folderPart(path));
+    loadFile(path, true, true);
+}
+
+void Session::canvasResized() {
+    if (!view_.totalBound.isSet) {
+        redraw();
+        return;
+    }
+    view_.fitView();  // the margins depend on the size of the canvas
+    view_.ZoomUno();
+}
+
+void Session::plotAll(MapContext& context) const {
+    for (int i = files_.loadedCount() - 1; i >= 0; --i) {
+        for (const Gph* layer : files_.file(i).File_gphList()) {
+            layer->Gph_plot(context);
+        }
+    }
+}
+
+void Session::refreshColorScale() {
+    if (style_.mode == ColorMode::Date && !ranges_.date) {
+        style_.mode = ColorMode::Dose;
+    }
+    loading_ = true;
+    setUpColorScale(defaultScale_, style_, ranges_, openFiles());
+    loading_ = false;
+    showLegend();
+}
+
+}  // namespace campora

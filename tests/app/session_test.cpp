@@ -1,0 +1,555 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/session.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "support/named_file.h"
+#include "support/recording_canvas.h"
+#include "support/scripted_platform.h"
+#include "support/scripted_window.h"
+#include "support/temp_folder.h"
+#include "support/work_files.h"
+
+namespace campora {
+namespace {
+
+/// A session on a scripted desktop, with a folder for its files.
+struct Desk {
+    explicit Desk(Language language = Language::Spanish)
+        : session({canvas, window, dialogs, settings, locale, clipboard}, language, folder.path()) {
+    }
+
+    NamedFile& add(const std::string& name, double minX = -60) {
+        auto file = std::make_unique<NamedFile>(name, minX);
+        NamedFile& added = *file;
+        session.addFile(std::move(file), true, false);
+        return added;
+    }
+    void addScale(NamedFile& file, double greatest) {
+        file.scale = std::make_unique<ColorScale>();
+        file.scale->setClassNumberExt(1, 0, greatest);
+    }
+
+    /// A report of three points in a row with these doses on one day.
+    std::string report(const std::string& name, std::int32_t realTenths = 1000,
+                       std::uint32_t serial = 0x6001) const {
+        RptBytes bytes(1, serial);
+        for (int i = 0; i < 3; ++i) {
+            RptBytes::Record record;
+            record.position = metresFromOrigin(10.0 * i, 0);
+            record.realTenths[0] = realTenths + 10 * i;
+            bytes.add(record);
+        }
+        return folder.write(name, bytes.bytes());
+    }
+    std::string track(const std::string& name, std::uint32_t flow, int points = 3,
+                      const std::string& serial = "6001") const {
+        TrackText text;
+        text.serial = serial;
+        for (int i = 0; i < points; ++i) {
+            text.addPoint(100U * static_cast<std::uint32_t>(i), 0, flow, 20);
+        }
+        return folder.write(name, text.bytes());
+    }
+
+    [[nodiscard]] std::vector<std::string> listed() const {
+        std::vector<std::string> names;
+        for (const FileListRow& row : window.files) {
+            names.push_back(row.name);
+        }
+        return names;
+    }
+    /// The names of the layers in the order of the last redraws.
+    [[nodiscard]] std::string drawn() const {
+        std::string names;
+        for (const std::string& call : canvas.callsOf("text")) {
+            const std::size_t quote = call.find('"');
+            names += call.substr(quote + 1, call.size() - quote - 2) + " ";
+        }
+        return names;
+    }
+    [[nodiscard]] std::size_t redraws() const { return canvas.callsOf("refresh").size(); }
+
+    TempFolder folder;
+    RecordingCanvas canvas{{1000, 500}};
+    ScriptedWindow window;
+    ScriptedDialogs dialogs;
+    MemorySettings settings;
+    FixedLocale locale;
+    MemoryClipboard clipboard;
+    Session session;
+};
+
+using Names = std::vector<std::string>;
+
+TEST(Session, StartsEmptyWithTheUsersSettings) {
+    Desk desk(Language::English);
+    desk.folder.write("matriculas.txt", "6001:LV-XYZ\r\n");
+    desk.settings.values = {{"mapBackcolor", "255"}, {"DrawBorders", "False"}, {"language", "22"}};
+    desk.window.fileCommands = true;
+    desk.session.start();
+    EXPECT_EQ(desk.window.title, "Campora 0.1.0");
+    EXPECT_FALSE(desk.window.fileCommands);
+    EXPECT_EQ(desk.canvas.calls(), (Names{"clear 0x0000FF", "refresh"}));
+    EXPECT_FALSE(desk.session.style().drawBorders);
+    EXPECT_EQ(desk.window.legend.reference.front().text, "Pulverizado");
+    ASSERT_TRUE(desk.session.loadFile(desk.track("log0001.nbr", 5), false, true));
+    EXPECT_EQ(desk.listed(), Names{"log0001.nbr (LV-XYZ)"});
+}
+
+TEST(Session, ALoadedReportIsListedDrawnAndSummedUp) {
+    Desk desk;
+    desk.session.start();
+    desk.canvas.forget();
+    desk.session.style().graduated = false;
+    ASSERT_TRUE(desk.session.loadFile(desk.report("Lote 3.RPT"), true, true));
+    EXPECT_EQ(desk.window.files, (std::vector<FileListRow>{{"Lote 3.RPT", "rptfile"}}));
+    EXPECT_EQ(desk.window.selected, 0);
+    EXPECT_EQ(desk.window.summary.front(), (SummaryRow{"Nombre Archivo:", "Lote 3.RPT "}));
+    EXPECT_TRUE(desk.window.title.ends_with("lote 3.rpt]")) << desk.window.title;
+    EXPECT_TRUE(desk.window.fileCommands);
+    EXPECT_TRUE(desk.session.style().graduated);
+    EXPECT_EQ(desk.window.legend.unit, "lt/hect");
+    ASSERT_EQ(desk.window.legend.classes.size(), 5U);
+    EXPECT_EQ(desk.window.legend.classes.front().text, "100 - 100.4");
+    EXPECT_EQ(desk.window.legend.classes.back().text, "101.6 - 102");
+    EXPECT_EQ(desk.canvas.rings().size(), 2U);
+    EXPECT_EQ(desk.redraws(), 2U) << "one for the empty map, one for the whole";
+    EXPECT_FALSE(desk.window.view.scaleLabel.empty());
+}
+
+TEST(Session, AFileThatIsNotTakenChangesNothing) {
+    struct Row {
+        const char* name;
+        std::string path;
+        std::size_t messages;
+    };
+    Desk desk;
+    desk.session.start();
+    ASSERT_TRUE(desk.session.loadFile(desk.report("Lote.rpt"), true, true));
+    const Row rows[] = {
+        {"open already", desk.folder.file("Lote.rpt"), 0},
+        {"open already in other letters", desk.folder.file("LOTE.RPT"), 0},
+        {"no reader", desk.folder.write("carta.doc", "Estimado"), 1},
+        {"not there", desk.folder.file("otro.rpt"), 1},
+        {"empty", desk.folder.write("vacio.rpt", ""), 1},
+        {"no track file", desk.folder.write("log0002.nbr", "hola\r\n"), 1},
+    };
+    const ScriptedWindow before = desk.window;
+    const ValueRanges ranges = desk.session.ranges();
+    const float scale = desk.session.view().scaleX();
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        desk.dialogs.messages.clear();
+        EXPECT_FALSE(desk.session.loadFile(row.path, false, true));
+        EXPECT_EQ(desk.dialogs.messages.size(), row.messages);
+        EXPECT_EQ(desk.window.files, before.files);
+        EXPECT_EQ(desk.window.title, before.title);
+        EXPECT_EQ(desk.window.legend, before.legend);
+        EXPECT_EQ(desk.session.ranges(), ranges);
+        EXPECT_EQ(desk.session.view().scaleX(), scale);
+    }
+}
+
+TEST(Session, AFileThatNoReaderTakesIsNamed) {
+    Desk desk;
+    desk.session.start();
+    desk.session.loadFile("carta.doc", false, true);
+    EXPECT_EQ(desk.dialogs.messages, (Names{"Error|Formato de Archivo incorrecto|"
+                                            "El archivo no es compatible: carta.doc"}));
+}
+
+TEST(Session, OpensAFileWhoseNameDiffersInCase) {
+    Desk desk;
+    desk.session.start();
+    desk.report("LOTE.RPT");
+    EXPECT_TRUE(desk.session.loadFile(desk.folder.file("lote.rpt"), false, true));
+    EXPECT_FALSE(desk.session.loadFile(desk.folder.file("Lote.rpt"), false, true));
+}
+
+TEST(Session, OpeningInPlaceOfTheOthersForgetsThemFirst) {
+    Desk desk;
+    desk.session.start();
+    ASSERT_TRUE(desk.session.loadFile(desk.report("uno.rpt", 1000), true, true));
+    ASSERT_TRUE(desk.session.loadFile(desk.report("dos.rpt", 3000), true, true));
+    EXPECT_EQ(desk.listed(), Names{"dos.rpt"});
+    EXPECT_EQ(desk.session.ranges().dose, (ValueRange<float>{300, 302}));
+    EXPECT_FALSE(desk.session.loadFile("otro.rpt", true, true));
+    EXPECT_EQ(desk.listed(), Names{});
+    EXPECT_EQ(desk.window.title, "Campora 0.1.0");
+}
+
+TEST(Session, SeveralFilesAreDrawnOnce) {
+    Desk desk;
+    desk.session.start();
+    desk.add("viejo");
+    desk.canvas.forget();
+    const Names paths = {desk.report("uno.rpt"), "falta.rpt", desk.report("dos.rpt")};
+    EXPECT_EQ(desk.session.loadFiles(paths, true), 2);
+    EXPECT_EQ(desk.listed(), (Names{"uno.rpt", "dos.rpt"}));
+    EXPECT_EQ(desk.window.selected, 0);
+    EXPECT_EQ(desk.redraws(), 2U) << "one for the empty map, one for both";
+}
+
+TEST(Session, RangesGrowWithEveryFileAndStartAnewOnAnEmptyMap) {
+    Desk desk;
+    desk.session.start();
+    desk.session.loadFile(desk.report("uno.rpt", 1000), false, true);
+    desk.session.loadFile(desk.report("dos.rpt", 3000), false, true);
+    EXPECT_EQ(desk.session.ranges().dose, (ValueRange<float>{100, 302}));
+    desk.session.loadFile(desk.track("log0001.nbr", 5), false, true);
+    EXPECT_EQ(desk.session.ranges().flow, (ValueRange<float>{5, 5}));
+    while (desk.session.plotCount() > 0) {
+        desk.session.removeCurrentFile();
+    }
+    EXPECT_EQ(desk.session.ranges(), ValueRanges{});
+    desk.session.loadFile(desk.report("tres.rpt", 2000), false, true);
+    EXPECT_EQ(desk.session.ranges().dose, (ValueRange<float>{200, 202}));
+}
+
+TEST(Session, ARefusedDuplicateLeavesTheRangesAlone) {
+    Desk desk;
+    desk.session.start();
+    desk.session.loadFile(desk.track("log0001.nbr", 5, 4), false, true);
+    desk.dialogs.yesNoAnswers = {false};
+    EXPECT_FALSE(desk.session.loadFile(desk.track("log0002.nbr", 50, 3), false, true));
+    EXPECT_EQ(desk.dialogs.questions.size(), 1U);
+    EXPECT_EQ(desk.session.ranges().flow, (ValueRange<float>{5, 5}));
+    EXPECT_EQ(desk.session.plotCount(), 1);
+}
+
+TEST(Session, NoRangeBeginsBelowZero) {
+    Desk desk;
+    desk.session.start();
+    ASSERT_TRUE(desk.session.loadFile(desk.report("raro.rpt", -500), false, true));
+    EXPECT_EQ(desk.session.ranges().dose, (ValueRange<float>{0, 0}));
+    EXPECT_EQ(desk.session.defaultScale().count(), 1);
+}
+
+TEST(Session, TellsWhenATrackFileHasNoRecordOfStops) {
+    const std::string remark = "No hay registros del comienzo ni detención de la fumigación";
+    Desk desk;
+    desk.session.start();
+    desk.session.loadFile(desk.track("log0001.nbr", 5, 3, "1"), false, true);
+    EXPECT_EQ(desk.window.workStatus, remark);
+    desk.session.loadFile(desk.track("log0002.nbr", 0, 3, "2"), false, true);
+    EXPECT_EQ(desk.window.workStatus, "");
+    desk.session.loadFile(desk.track("log0003.nbr", 5, 3, "3"), false, true);
+    EXPECT_EQ(desk.window.workStatus, "") << "one of the open files has them";
+    desk.session.loadFile(desk.track("log0004.nbr", 5, 3, "4"), true, true);
+    EXPECT_EQ(desk.window.workStatus, remark);
+    desk.session.reset();
+    EXPECT_EQ(desk.window.workStatus, "");
+}
+
+TEST(Session, TheFirstFileLiesOnTop) {
+    Desk desk;
+    desk.session.start();
+    desk.add("a");
+    desk.add("b");
+    desk.session.addFile(std::make_unique<NamedFile>("c"), true, true);
+    desk.canvas.forget();
+    desk.session.view().ZoomUno();
+    EXPECT_EQ(desk.drawn(), "b1 b2 a1 a2 c1 c2 ");
+    std::vector<Gph*> expected;
+    for (const int i : {0, 1, 2}) {
+        const auto layers = desk.session.files().file(i).File_gphList();
+        expected.insert(expected.end(), layers.begin(), layers.end());
+    }
+    EXPECT_EQ(desk.session.getGphList(), expected);
+}
+
+TEST(Session, TheViewFollowsAddedFiles) {
+    Desk desk;
+    desk.session.start();
+    EXPECT_FALSE(desk.session.addFile(nullptr, true, false));
+    desk.add("a", -60);
+    EXPECT_TRUE(desk.session.view().transform().isFitted());
+    EXPECT_TRUE(desk.session.view().totalBound.equals(desk.session.files().file(0).File_bound()));
+    desk.add("b", -61);
+    EXPECT_EQ(desk.session.view().totalBound.minX, -61);
+    desk.session.addFile(std::make_unique<NamedFile>("c", -62), false, false);
+    EXPECT_EQ(desk.session.view().totalBound.minX, -61) << "not asked to";
+    auto without = std::make_unique<NamedFile>("sin puntos");
+    without->bound = {};
+    desk.session.addFile(std::move(without), true, false);
+    EXPECT_EQ(desk.session.view().totalBound.maxX, -60 + 0.01) << "a file without points";
+    EXPECT_TRUE(desk.session.recalcGphBound());
+    EXPECT_EQ(desk.session.view().totalBound.minX, -62);
+    EXPECT_FALSE(desk.session.recalcGphBound());
+}
+
+TEST(Session, TheWindowFollowsTheSelection) {
+    Desk desk;
+    desk.session.start();
+    desk.add("a");
+    desk.addScale(desk.add("b"), 7);
+    desk.session.selectFile(1);
+    EXPECT_EQ(desk.window.title, "Campora - [.../campo/b]");
+    EXPECT_EQ(desk.window.summary,
+              (std::vector<SummaryRow>{{"Nombre:", "b "}, {"Área:", "12.5 Has"}}));
+    EXPECT_EQ(desk.window.legend.classes.front().text, "0 - 7");
+    desk.session.selectFile(2);
+    desk.session.selectFile(-1);
+    EXPECT_EQ(desk.window.summary.front().value, "b ") << "no such row";
+    desk.session.selectFile(0);
+    EXPECT_EQ(desk.window.legend.classes.size(), 6U);
+    desk.session.selectFile(std::nullopt);
+    EXPECT_EQ(desk.session.files().currentFile(), nullptr);
+    EXPECT_TRUE(desk.window.summary.empty());
+    desk.session.loadFileList(true);
+    EXPECT_EQ(desk.window.selected, std::nullopt);
+}
+
+TEST(Session, ListRowsHaveAnImage) {
+    Desk desk;
+    desk.session.start();
+    desk.add("a").icon = "ruler";
+    desk.add("b");
+    desk.session.selectFile(1);
+    desk.session.loadFileList(true);
+    EXPECT_EQ(desk.window.files, (std::vector<FileListRow>{{"a", "ruler"}, {"b", "copy"}}));
+    EXPECT_EQ(desk.window.selected, 1);
+    desk.session.loadFileList(false);
+    EXPECT_EQ(desk.window.selected, std::nullopt);
+}
+
+TEST(Session, MovesTheCurrentFileAndRedraws) {
+    struct Row {
+        const char* name;
+        int selected;
+        Session::Move move;
+        Names order;
+    };
+    const Row rows[] = {
+        {"up", 1, Session::Move::Up, {"b", "a", "c"}},
+        {"up at the top", 0, Session::Move::Up, {"a", "b", "c"}},
+        {"down", 1, Session::Move::Down, {"a", "c", "b"}},
+        {"to the top", 2, Session::Move::Top, {"c", "a", "b"}},
+        {"to the bottom", 0, Session::Move::Bottom, {"b", "c", "a"}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        Desk desk;
+        desk.session.start();
+        for (const char* name : {"a", "b", "c"}) {
+            desk.add(name);
+        }
+        desk.session.selectFile(row.selected);
+        desk.canvas.forget();
+        desk.session.moveCurrentFile(row.move);
+        EXPECT_EQ(desk.listed(), row.order);
+        EXPECT_EQ(desk.redraws(), 1U);
+        EXPECT_EQ(desk.session.files().indexOf(desk.session.files().currentFile()),
+                  desk.window.selected);
+    }
+}
+
+TEST(Session, RemovingAFileLeavesItsNeighbourCurrent) {
+    Desk desk;
+    desk.session.start();
+    desk.add("a", -60);
+    desk.addScale(desk.add("b", -61), 7);
+    desk.add("c", -60);
+    desk.session.view().ZoomUno();
+    const float scale = desk.session.view().scaleX();
+    desk.session.selectFile(1);
+    desk.session.removeCurrentFile();
+    EXPECT_EQ(desk.listed(), (Names{"a", "c"}));
+    EXPECT_EQ(desk.window.selected, 1);
+    EXPECT_EQ(desk.window.title, "Campora - [.../campo/c]");
+    EXPECT_EQ(desk.window.legend.classes.size(), 6U) << "the scale went with its file";
+    EXPECT_LT(desk.session.view().scaleX(), scale) << "the map is smaller now";
+    desk.canvas.forget();
+    desk.session.removeCurrentFile();
+    EXPECT_EQ(desk.window.title, "Campora - [.../campo/a]");
+    EXPECT_EQ(desk.drawn(), "a1 a2 ") << "same extent: drawn again as it stands";
+    desk.session.removeFile(nullptr);
+    EXPECT_EQ(desk.session.plotCount(), 1);
+}
+
+TEST(Session, WithoutFilesTheMapIsEmpty) {
+    Desk desk;
+    desk.session.start();
+    desk.session.loadFile(desk.report("lote.rpt"), true, true);
+    desk.canvas.forget();
+    desk.session.removeCurrentFile();
+    EXPECT_EQ(desk.canvas.calls(), (Names{"clear 0xFFFFFF", "refresh"}));
+    EXPECT_EQ(desk.window.title, "Campora 0.1.0");
+    EXPECT_TRUE(desk.window.files.empty());
+    EXPECT_TRUE(desk.window.summary.empty());
+    EXPECT_FALSE(desk.window.fileCommands);
+    EXPECT_EQ(desk.window.view, ViewControls{});
+    EXPECT_FALSE(desk.session.view().transform().isFitted());
+}
+
+TEST(Session, CommandsWithoutACurrentFileDoNothing) {
+    Desk desk;
+    desk.session.start();
+    desk.canvas.forget();
+    desk.session.zoomToCurrentFile();
+    desk.session.moveCurrentFile(Session::Move::Up);
+    desk.session.removeCurrentFile();
+    desk.session.copyData();
+    desk.session.recalcErrorAreas();
+    desk.session.setTitle(false);
+    EXPECT_TRUE(desk.canvas.calls().empty());
+    EXPECT_EQ(desk.window.title, "Campora 0.1.0");
+    EXPECT_EQ(desk.clipboard.text, "");
+    desk.session.setTitle(true);
+    EXPECT_EQ(desk.window.title, "Campora - [Untitled]");
+}
+
+TEST(Session, ZoomsToTheCurrentFile) {
+    Desk desk;
+    desk.session.start();
+    desk.add("a", -60);
+    desk.add("b", -61);
+    desk.session.view().ZoomUno();
+    desk.session.selectFile(1);
+    desk.session.zoomToCurrentFile();
+    const LonLat middle = desk.session.view().transform().screenToMap(500, 250);
+    EXPECT_NEAR(middle.x, -60.995, 0.001);
+    EXPECT_NEAR(middle.y, -32.995, 0.001);
+}
+
+TEST(Session, APreviewPutsEverythingBack) {
+    Desk desk;
+    desk.session.start();
+    desk.session.loadFile(desk.track("log0001.nbr", 0, 3, "1"), false, true);
+    desk.add("b", -61);
+    desk.session.selectFile(1);
+    desk.session.loadFileList(true);
+    const ScriptedWindow before = desk.window;
+    const ValueRanges ranges = desk.session.ranges();
+    const BoundingBox bound = desk.session.view().totalBound;
+
+    desk.session.plotPreview(true, false);
+    EXPECT_EQ(desk.session.plotCount(), 0);
+    ASSERT_TRUE(desk.session.loadFile(desk.track("log0002.nbr", 90, 3, "2"), false, true));
+    EXPECT_EQ(desk.session.ranges().flow, (ValueRange<float>{90, 90}));
+    EXPECT_NE(desk.window.title, before.title);
+
+    desk.session.plotPreview(false, true);
+    EXPECT_EQ(desk.window.title, before.title);
+    EXPECT_EQ(desk.window.files, before.files);
+    EXPECT_EQ(desk.window.selected, before.selected);
+    EXPECT_EQ(desk.window.summary, before.summary);
+    EXPECT_EQ(desk.window.workStatus, before.workStatus);
+    EXPECT_EQ(desk.session.ranges(), ranges);
+    EXPECT_TRUE(desk.session.view().totalBound.equals(bound));
+    desk.session.plotPreview(false, true);
+    EXPECT_EQ(desk.session.plotCount(), 2) << "nothing to bring back";
+}
+
+TEST(Session, APreviewOverAnEmptyMapEndsInAnEmptyMap) {
+    Desk desk;
+    desk.session.start();
+    desk.session.plotPreview(true, false);
+    desk.session.loadFile(desk.report("lote.rpt"), false, true);
+    desk.session.plotPreview(false, true);
+    EXPECT_EQ(desk.session.plotCount(), 0);
+    EXPECT_EQ(desk.window.title, "Campora 0.1.0");
+    EXPECT_EQ(desk.session.ranges(), ValueRanges{});
+}
+
+TEST(Session, CopiesTheSummaryAsLines) {
+    Desk desk;
+    desk.session.start();
+    desk.add("a");
+    desk.session.copyData();
+    EXPECT_EQ(desk.clipboard.text, "Nombre: a \r\nÁrea: 12.5 Has\r\n");
+}
+
+TEST(Session, OpensTheChosenFileAndRemembersItsFolder) {
+    Desk desk;
+    desk.session.start();
+    desk.add("viejo");
+    desk.settings.values["OpenPath"] = "/campo/2017";
+    desk.dialogs.openAnswers = {""};
+    desk.session.fileOpen();
+    EXPECT_EQ(desk.session.plotCount(), 1) << "cancelled";
+    EXPECT_EQ(desk.settings.values["OpenPath"], "/campo/2017");
+    ASSERT_EQ(desk.dialogs.opens.size(), 1U);
+    EXPECT_EQ(desk.dialogs.opens[0].caption, "Abrir");
+    EXPECT_EQ(desk.dialogs.opens[0].folder, "/campo/2017");
+    EXPECT_EQ(desk.dialogs.opens[0].filters.front().patterns.front(), "*.rpt");
+
+    desk.dialogs.openAnswers = {desk.report("lote.rpt")};
+    desk.session.fileOpen();
+    EXPECT_EQ(desk.listed(), Names{"lote.rpt"});
+    EXPECT_EQ(desk.settings.values["OpenPath"], desk.folder.path() + "/");
+}
+
+TEST(Session, AnotherCanvasSizeFitsTheMapAgain) {
+    Desk desk;
+    desk.session.start();
+    desk.add("a");
+    desk.session.view().ZoomUno();
+    const std::int32_t margin = desk.session.view().marginX();
+    desk.canvas.resize({4000, 500});
+    desk.canvas.forget();
+    desk.session.canvasResized();
+    EXPECT_GT(desk.session.view().marginX(), margin);
+    EXPECT_EQ(desk.redraws(), 1U);
+    desk.session.reset();
+    desk.canvas.forget();
+    desk.session.canvasResized();
+    EXPECT_EQ(desk.canvas.calls(), (Names{"clear 0xFFFFFF", "refresh"}));
+}
+
+TEST(Session, AChangedScaleIsShownAndDrawn) {
+    Desk desk;
+    desk.session.start();
+    NamedFile& file = desk.add("a");
+    desk.canvas.forget();
+    desk.session.defaultScale().setClassColor(0, {0x123456});
+    EXPECT_EQ(desk.window.legend.classes.front().color, Color{0x123456});
+    EXPECT_EQ(desk.redraws(), 1U);
+
+    desk.addScale(file, 7);
+    desk.session.selectFile(0);
+    desk.session.defaultScale().addClass();
+    EXPECT_EQ(desk.redraws(), 1U) << "not the scale in the legend";
+    file.scale->setClassNumber(2);
+    EXPECT_EQ(desk.redraws(), 2U);
+    EXPECT_EQ(desk.window.legend.classes.size(), 2U);
+}
+
+TEST(Session, TheDateMapIsLeftWhenNothingHasADate) {
+    Desk desk;
+    desk.session.start();
+    desk.session.loadFile(desk.track("log0001.nbr", 5), false, true);
+    desk.session.style().mode = ColorMode::Date;
+    desk.session.refreshColorScale();
+    EXPECT_EQ(desk.session.style().mode, ColorMode::Dose);
+    desk.session.loadFile(desk.report("lote.rpt"), false, true);
+    desk.session.style().mode = ColorMode::Date;
+    desk.session.refreshColorScale();
+    EXPECT_EQ(desk.session.style().mode, ColorMode::Date);
+    ASSERT_EQ(desk.window.legend.classes.size(), 1U);
+    EXPECT_EQ(desk.window.legend.classes.front().text, "05/03/2018");
+}
+
+TEST(Session, TheErrorMapTellsItsHectares) {
+    Desk desk;
+    desk.session.start();
+    desk.session.loadFile(desk.report("lote.rpt", 1500), false, true);
+    desk.session.style().mode = ColorMode::Error;
+    desk.session.recalcErrorAreas();
+    const SummaryRow shown = desk.window.summary.back();
+    EXPECT_EQ(shown.property, "Hectareas Error");
+    EXPECT_EQ(shown.value, "0.04 Has");  // two steps of 10 m, 20 m wide
+    desk.session.style().mode = ColorMode::Dose;
+    desk.session.recalcErrorAreas();
+    EXPECT_EQ(desk.window.summary.back(), (SummaryRow{"Hectareas Error", " "}));
+}
+
+}  // namespace
+}  // namespace campora
