@@ -40,19 +40,19 @@ std::size_t skipDigits(std::string_view text, std::size_t at) {
     return at;
 }
 
-/// Length of digits, decimal symbol, digits and exponent at the start of `text`.
+/// Length of digits, decimal symbol, digits and exponent at the start of `text`; the exponent may
+/// lack its digits, std::from_chars leaves it alone then.
 std::size_t numberLength(std::string_view text, char decimalSymbol) {
     std::size_t at = skipDigits(text, 0);
     if (at < text.size() && text[at] == decimalSymbol) {
         at = skipDigits(text, at + 1);
     }
     if (at < text.size() && (text[at] == 'e' || text[at] == 'E')) {
-        std::size_t digits = at + 1;
-        if (digits < text.size() && (text[digits] == '+' || text[digits] == '-')) {
-            ++digits;
+        ++at;
+        if (at < text.size() && (text[at] == '+' || text[at] == '-')) {
+            ++at;
         }
-        const std::size_t end = skipDigits(text, digits);
-        at = end > digits ? end : at;
+        at = skipDigits(text, at);
     }
     return at;
 }
@@ -82,12 +82,13 @@ bool isTooSmall(std::string_view number) {
     return exponent < -magnitude;  // their sum could wrap
 }
 
-/// `number` is what `numberLength` covers, with "." as its symbol.
-std::optional<double> parseUnsigned(std::string_view number) {
+/// `text` begins with a digit, or with "." and a digit.
+std::optional<double> parseUnsigned(std::string_view text) {
     double value = 0;
-    const auto read = std::from_chars(number.data(), number.data() + number.size(), value);
+    const auto read = std::from_chars(text.data(), text.data() + text.size(), value);
     if (read.ec == std::errc::result_out_of_range || !std::isfinite(value)) {
-        return isTooSmall(number) ? std::optional(0.0) : std::nullopt;
+        const bool tooSmall = isTooSmall(text.substr(0, numberLength(text, '.')));
+        return tooSmall ? std::optional(0.0) : std::nullopt;
     }
     return value;
 }
@@ -140,12 +141,11 @@ std::optional<double> leadingNumber(std::string_view text, char decimalSymbol) {
     if (firstDigit >= text.size() || !isDigit(text[firstDigit])) {
         return std::nullopt;
     }
-    text = text.substr(0, numberLength(text, decimalSymbol));
     std::optional<double> value;
     if (decimalSymbol == '.') {
         value = parseUnsigned(text);
     } else {
-        std::string pointed(text);
+        std::string pointed(text.substr(0, numberLength(text, decimalSymbol)));
         std::replace(pointed.begin(), pointed.end(), decimalSymbol, '.');
         value = parseUnsigned(pointed);
     }

@@ -62,7 +62,7 @@ fs::path nativePath(std::string_view path) {
         // Names are UTF-16 on such a system: bytes that are not UTF-8 could not be converted.
         return pathOfUtf8(fromWindows1252(path));
     }
-    const fs::path asWritten = pathOfUtf8(path);
+    fs::path asWritten = pathOfUtf8(path);
     if (kSlashSystem && path.find('\\') != std::string_view::npos && !isThere(asWritten)) {
         return pathOfUtf8(replaceAll(path, "\\", "/"));
     }

@@ -216,6 +216,8 @@ TEST(LeadingNumber, LongTextsKeepTheirSize) {
     EXPECT_EQ(leadingNumber("1" + zeros), std::nullopt);
     EXPECT_EQ(leadingNumber("1" + zeros + "e-1000"), 1.0);
     EXPECT_EQ(leadingNumber("1" + zeros + "e-10"), std::nullopt);
+    EXPECT_EQ(leadingNumber("1" + zeros + "e-"), std::nullopt);
+    EXPECT_EQ(leadingNumber("0." + zeros + "1e"), 0.0);
 }
 
 TEST(LeadingNumber, IgnoresTheLocaleOfTheProcess) {
