@@ -1,0 +1,102 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "work/track_data_nbr.h"
+
+#include <gtest/gtest.h>
+
+#include "support/scripted_platform.h"
+#include "support/work_records.h"
+
+namespace campora {
+
+namespace {
+
+TEST(TrackDataNBR, LitresPerHectareTakeTheSpeedInWholeKmH) {
+    struct Row {
+        float flow;
+        float speed;
+        float swath;
+        float litres;
+    };
+    const Row rows[] = {
+        {20, 200, 20, 3}, {20, 12.5F, 20, 50}, {20, 13.5F, 20, 42.857143F},   {20, 0.4F, 20, 0},
+        {20, 0, 20, 0},   {20, 200, 0, 0},     {144, 18, 20.95F, 229.11695F},
+    };
+    for (const Row& row : rows) {
+        EXPECT_FLOAT_EQ(loggerRecord(row.flow, row.speed, row.swath).litrosH(), row.litres)
+            << row.flow << ' ' << row.speed << ' ' << row.swath;
+    }
+}
+
+TEST(TrackDataNBR, TakesTheScaleWhileItIsShown) {
+    const ColorScale scale;
+    const TrackDataNBR record = loggerRecord(60, 200, 20);  // 9 litres per hectare
+    MapStyle style;
+    EXPECT_EQ(record.color(style), style.colors.draw);
+    EXPECT_EQ(loggerRecord(0).color(style), style.colors.noDraw);
+    style.scale = &scale;
+    EXPECT_EQ(record.color(style), scale.getColor(9));
+    style.by = GraduatedBy::Minute;
+    EXPECT_EQ(record.color(style), scale.getColor(60));
+    style.graduated = false;
+    EXPECT_EQ(record.color(style), style.colors.draw);
+    style.mode = ColorMode::Alarm;
+    EXPECT_EQ(record.color(style), scale.getColor(60)) << "the alarm map shows a scale too";
+}
+
+TEST(TrackDataNBR, DescribesItself) {
+    struct Row {
+        Language language;
+        float speed;
+        const char* registration;
+        const char* expected;
+    };
+    const Row rows[] = {
+        {Language::Spanish, 200, "LV-XYZ",
+         "Velocidad: 200 km/h\r\nCaudal: 25,5 lts/min\r\nAncho de labor: 20 mts\r\n"
+         "Lt/Hect: 3,8\r\nAvion: LV-XYZ\r\n"},
+        {Language::Portuguese, 0, "LV-XYZ",
+         "Velocidade: 0 km/h\r\nVazão: 25,5 L/min\r\nLargura de trabalho: 20 m\r\n"
+         "Avião: LV-XYZ\r\n"},
+        {Language::English, 200, "",
+         "Speed: 200 km/h\r\nFlow: 25,5 L/min\r\nWorking width: 20 m\r\nL/ha: 3,8\r\n"},
+    };
+    const FixedLocale locale(',');
+    const MapStyle style;
+    for (const Row& row : rows) {
+        const Texts texts(row.language);
+        const LoggerSource source{"6001", "log0001.nbr", row.registration};
+        EXPECT_EQ(loggerRecord(25.5F, row.speed, 20, source).resumen({texts, locale, style}),
+                  row.expected);
+    }
+}
+
+TEST(TrackDataNBR, OffersItsColumns) {
+    struct Row {
+        int column;
+        const char* name;
+        ColumnType type;
+        CellValue cell;
+    };
+    const Row rows[] = {
+        {-1, "", ColumnType::Integer, {}},
+        {0, "Caudal", ColumnType::Real, 20.0F},
+        {1, "Velocidad", ColumnType::Integer, 200.0F},
+        {2, "AnchoLabor", ColumnType::Real, 18.5F},
+        {3, "LitrosHectarea", ColumnType::Real, 3.2432432F},
+        {4, "", ColumnType::Integer, {}},
+    };
+    const TrackDataNBR record = loggerRecord(20, 200, 18.5F);
+    EXPECT_EQ(record.getColumnCount(), 4);
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.column);
+        EXPECT_EQ(record.getColumnNname(row.column), row.name);
+        EXPECT_EQ(record.getColumnNtype(row.column), row.type);
+        EXPECT_EQ(record.getCell(row.column, {}), row.cell);
+    }
+}
+
+}  // namespace
+
+}  // namespace campora

@@ -1,0 +1,299 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "work/track_data_rpt.h"
+
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "support/scripted_platform.h"
+#include "support/work_records.h"
+
+namespace campora {
+
+namespace {
+
+constexpr Date kDay{2018, 2, 28};
+
+TrackDataRPT::Fields twoChannels() {
+    TrackDataRPT::Fields fields;
+    fields.channels = 2;
+    fields.real = {120, 40};
+    fields.spec = {100, 50};
+    fields.swath = 12.34F;
+    fields.speed = 6.5F;
+    fields.alarms = 0x80000100U;
+    fields.time = {7, 5, 9};
+    fields.date = kDay;
+    return fields;
+}
+
+std::string infoOf(const TrackDataRPT& record, const MapStyle& style,
+                   Language language = Language::Spanish, char decimalSymbol = '.') {
+    const Texts texts(language);
+    const FixedLocale locale(decimalSymbol);
+    return record.resumen({texts, locale, style});
+}
+
+TEST(TrackDataRPT, ErrorIsThePercentageOffTheSpecifiedDose) {
+    struct Row {
+        const char* name;
+        std::vector<std::int32_t> real;
+        std::vector<std::int32_t> spec;
+        int channel;
+        float error;
+    };
+    const Row rows[] = {
+        {"below", {95}, {100}, 0, 5},
+        {"above", {108}, {100}, 0, 8},
+        {"nothing specified", {3}, {0}, 0, 0},
+        {"negative specified", {3}, {-5}, 0, 0},
+        {"no such channel", {95}, {100}, 1, 0},
+        {"second channel", {95, 60}, {100, 50}, 1, 20},
+        {"total", {80, 80}, {100, 50}, -1, 20.0F / 3},
+        {"total of nothing specified", {80, 80}, {50, -50}, -1, 0},
+        {"doses whose difference passes 32 bits", {-2147483647 - 1}, {2147483647}, 0, 200},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        TrackDataRPT record{TrackDataRPT::Fields()};
+        record.setCaudal(row.real);
+        record.setDosis(row.spec);
+        EXPECT_FLOAT_EQ(record.getError(row.channel), row.error);
+    }
+}
+
+TEST(TrackDataRPT, TotalsOfLargeDosesDoNotWrap) {
+    const std::vector<std::int32_t> doses(5, 2'000'000'000);
+    TrackDataRPT record{TrackDataRPT::Fields()};
+    record.setCaudal(doses);
+    record.setDosis(doses);
+    EXPECT_EQ(record.caudal(), 1e10F);
+    EXPECT_EQ(record.dosisTotal(), 1e10F);
+    EXPECT_THROW(record.setCaudal(std::vector<std::int32_t>(6)), std::invalid_argument);
+    EXPECT_EQ(record.channels(), 5);
+}
+
+TEST(TrackDataRPT, CountsAsOnAlarmForKnownAndSelectedAlarmsOnly) {
+    struct Row {
+        const char* name;
+        std::uint32_t alarms;
+        WorkKind kind;
+        std::array<std::uint32_t, 2> selection;
+        bool onAlarm;
+    };
+    constexpr std::uint32_t kAll = 0xFFFFFFFFU;
+    const Row rows[] = {
+        {"none", 0, WorkKind::Seeder, {kAll, kAll}, false},
+        {"bit without a meaning", 0x4, WorkKind::Seeder, {kAll, kAll}, false},
+        {"selected", 0x100, WorkKind::Seeder, {0x100, 0}, true},
+        {"not selected", 0x100, WorkKind::Seeder, {0x200, kAll}, false},
+        {"sprayers have their own selection", 0x100, WorkKind::Sprayer, {kAll, 0}, false},
+        {"seeders' alarm on a sprayer", 0x1000, WorkKind::Sprayer, {kAll, kAll}, false},
+        {"older reports go with the seeders", 0x1000, WorkKind::OlderForm, {kAll, 0}, true},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        TrackDataRPT::Fields fields = reportFields(100);
+        fields.alarms = row.alarms;
+        fields.kind = row.kind;
+        MapStyle style;
+        style.alarmSelection = row.selection;
+        EXPECT_EQ(TrackDataRPT(fields).onAlarm(style), row.onAlarm);
+    }
+}
+
+TEST(TrackDataRPT, TakesItsColourFromTheMode) {
+    ColorScale scale;
+    scale.calcRanges(0, 240, false);
+    const MapColors colors;
+    const TrackDataRPT::Fields full = twoChannels();
+    TrackDataRPT::Fields undated = full;
+    undated.date.reset();
+    TrackDataRPT::Fields empty = full;
+    empty.real = {0, 40};
+    const auto dayColor = scale.getColor(dayNumber(kDay));
+
+    struct Row {
+        const char* name;
+        const TrackDataRPT::Fields& fields;
+        ColorMode mode;
+        bool graduated;
+        int channel;
+        Color expected;
+    };
+    const Row rows[] = {
+        {"alarm", full, ColorMode::Alarm, true, 0, colors.alarm},
+        {"date", full, ColorMode::Date, true, 0, dayColor},
+        {"no date", undated, ColorMode::Date, true, 0, colors.noDraw},
+        {"total dose", full, ColorMode::Dose, true, -1, scale.getColor(160)},
+        {"dose of a channel", full, ColorMode::Dose, true, 1, scale.getColor(40)},
+        {"channel it lacks", full, ColorMode::Dose, true, 2, scale.getColor(0)},
+        {"at the error limit", full, ColorMode::Error, false, 1, Color{0x123456}},
+        {"below the error limit", full, ColorMode::Error, false, -1, scale.getColor(160)},
+        {"plain", full, ColorMode::Dose, false, 0, colors.draw},
+        {"plain, nothing in the first channel", empty, ColorMode::Dose, false, 1, colors.noDraw},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        MapStyle style;
+        style.scale = &scale;
+        style.mode = row.mode;
+        style.graduated = row.graduated;
+        style.selectedChannel = row.channel;
+        style.errorLimit = 20;
+        style.errorSample = Color{0x123456};
+        EXPECT_EQ(TrackDataRPT(row.fields).color(style), row.expected);
+    }
+    MapStyle noAlarms;
+    noAlarms.mode = ColorMode::Alarm;
+    noAlarms.alarmSelection = {};
+    EXPECT_EQ(TrackDataRPT(full).color(noAlarms), colors.noAlarm);
+}
+
+TEST(TrackDataRPT, PutsTimesIntoWords) {
+    const TrackDataRPT dated(twoChannels());
+    TrackDataRPT::Fields fields = twoChannels();
+    fields.date.reset();
+    const TrackDataRPT undated(fields);
+    const FixedLocale locale('.', "m/d/yy");
+    EXPECT_EQ(dated.hora(), "07:05:09");
+    EXPECT_EQ(dated.fechaHoraStr(locale), "2/28/18 - 07:05:09");
+    EXPECT_EQ(undated.fechaHoraStr(locale), "07:05:09");
+    constexpr double kTime = 25509.0 / 86400;
+    EXPECT_DOUBLE_EQ(dated.fechaHora({2020, 1, 1}), 43159 + kTime);
+    EXPECT_DOUBLE_EQ(undated.fechaHora({2020, 1, 1}), 43831 + kTime);
+
+    fields.date = Date{2018, 3, 0};
+    EXPECT_EQ(TrackDataRPT(fields).fecha(), kDay) << "day 0 is the last of the month before";
+}
+
+TEST(TrackDataRPT, TellsHowMuchLaterItIs) {
+    struct Row {
+        const char* name;
+        std::optional<Date> from;
+        TimeOfDay fromTime;
+        std::optional<Date> to;
+        TimeOfDay toTime;
+        const char* expected;
+    };
+    const std::optional<Date> next = Date{2018, 3, 1};
+    const Row rows[] = {
+        {"next day past midnight", kDay, {23, 50, 0}, next, {0, 10, 59}, "1 Días20"},
+        {"same day", kDay, {8, 0, 59}, kDay, {9, 30, 0}, "90"},
+        {"earlier day", next, {8, 0, 0}, kDay, {9, 0, 0}, "60"},
+        {"one without a date", std::nullopt, {23, 50, 0}, next, {0, 10, 0}, "20"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        TrackDataRPT::Fields from;
+        from.date = row.from;
+        from.time = row.fromTime;
+        TrackDataRPT::Fields to;
+        to.date = row.to;
+        to.time = row.toTime;
+        EXPECT_EQ(TrackDataRPT(to).getTimeDifStr(TrackDataRPT(from), Texts()), row.expected);
+    }
+}
+
+TEST(TrackDataRPT, DescribesItselfInEveryLanguage) {
+    const TrackDataRPT record(twoChannels());
+    MapStyle style;
+    EXPECT_EQ(infoOf(record, style, Language::Spanish, ','), "Velocidad = 6,5 km/h\r\n"
+                                                             "Ancho de labor = 12,3 mts\r\n"
+                                                             "Fecha = 28/02/2018\r\n"
+                                                             "Hora = 07:05:09\r\n"
+                                                             "Canal 1\r\n"
+                                                             "  Dosis especificada = 100\r\n"
+                                                             "  Dosis real = 120\r\n"
+                                                             "  Error = 20%\r\n"
+                                                             "Canal 2\r\n"
+                                                             "  Dosis especificada = 50\r\n"
+                                                             "  Dosis real = 40\r\n"
+                                                             "  Error = 20%\r\n");
+    style.mode = ColorMode::Alarm;
+    EXPECT_TRUE(infoOf(record, style, Language::Portuguese)
+                    .ends_with("  Erro = 20%\r\nAlarmes:\r\n  Alarme de velocidade\r\n"));
+    EXPECT_TRUE(
+        infoOf(record, style, Language::English)
+            .starts_with("Speed = 6.5 km/h\r\nWorking width = 12.3 m\r\nDate = 28/02/2018\r\n"));
+}
+
+TEST(TrackDataRPT, LeavesOutWhatOneChannelWithoutDateLacks) {
+    EXPECT_EQ(infoOf(reportRecord(95, 16), MapStyle()), "Velocidad = 0 km/h\r\n"
+                                                        "Ancho de labor = 16 mts\r\n"
+                                                        "Hora = 00:00:00\r\n"
+                                                        "Dosis especificada = 100\r\n"
+                                                        "Dosis real = 95\r\n"
+                                                        "Error = 5%\r\n");
+}
+
+TEST(TrackDataRPT, ListsAlarmsWhileTheAlarmMapIsOn) {
+    struct Row {
+        std::uint32_t alarms;
+        WorkKind kind;
+        const char* ending;
+    };
+    const Row rows[] = {
+        {0x300, WorkKind::Seeder,
+         "Alarmas:\r\n  Alarma de velocidad\r\n  Alarma de nodo apagado\r\n"},
+        {0x300, WorkKind::Sprayer,
+         "Alarmas:\r\n  Alarma de velocidad\r\n  Alarma de nodo apagado\r\n"},
+        {0x4, WorkKind::Seeder, "Error = 0%\r\nSin alarmas\r\n"},
+        {0, WorkKind::Sprayer, "Error = 0%\r\nSin alarmas\r\n"},
+    };
+    MapStyle style;
+    style.mode = ColorMode::Alarm;
+    style.alarmSelection = {};  // the list shows what is not selected too
+    for (const Row& row : rows) {
+        TrackDataRPT::Fields fields = reportFields(100);
+        fields.alarms = row.alarms;
+        fields.kind = row.kind;
+        const std::string info = infoOf(TrackDataRPT(fields), style);
+        EXPECT_TRUE(info.ends_with(row.ending)) << info;
+    }
+}
+
+TEST(TrackDataRPT, OffersItsColumns) {
+    struct Row {
+        int column;
+        const char* name;
+        ColumnType type;
+        CellValue cell;
+    };
+    const Row rows[] = {
+        {-1, "", ColumnType::Integer, {}},
+        {0, "D_Real1", ColumnType::Real, std::int64_t{120}},
+        {1, "D_Espec1", ColumnType::Real, std::int64_t{100}},
+        {2, "D_Real2", ColumnType::Real, std::int64_t{40}},
+        {3, "D_Espec2", ColumnType::Real, std::int64_t{50}},
+        {4, "Velocidad", ColumnType::Real, 6.5F},
+        {5, "Alarmas", ColumnType::Real, std::int64_t{2147483904}},
+        {6, "AnchoLabor", ColumnType::Real, 12.34F},
+        {7, "Hora", ColumnType::Text, std::string("07:05:09")},
+        {8, "Fecha", ColumnType::Date, kDay},
+        {9, "", ColumnType::Integer, {}},
+    };
+    const TrackDataRPT record(twoChannels());
+    EXPECT_EQ(record.getColumnCount(), 9);
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.column);
+        EXPECT_EQ(record.getColumnNname(row.column), row.name);
+        EXPECT_EQ(record.getColumnNtype(row.column), row.type);
+        EXPECT_EQ(record.getCell(row.column, {}), row.cell);
+    }
+    const CellOptions centimetres{.swathInCentimetres = true};
+    EXPECT_EQ(record.getCell(6, centimetres), CellValue(1234.0F));
+
+    const TrackDataRPT undated = reportRecord(95);
+    EXPECT_EQ(undated.getColumnCount(), 6);
+    EXPECT_EQ(undated.getColumnNname(6), "");
+    EXPECT_EQ(undated.getCell(6, {}), CellValue());
+}
+
+}  // namespace
+
+}  // namespace campora

@@ -1,0 +1,52 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "work/vex_alarmas.h"
+
+#include <string>
+
+#include <gtest/gtest.h>
+
+namespace campora {
+
+namespace {
+
+TEST(VexAlarmas, NamesAlarmsOfTheMachine) {
+    struct Row {
+        WorkKind kind;
+        int bit;
+        const char* text;
+    };
+    const Row rows[] = {
+        {WorkKind::Seeder, 0, "Falla de siembra"},
+        {WorkKind::Seeder, 2, ""},
+        {WorkKind::Seeder, 8, "Alarma de velocidad"},
+        {WorkKind::Seeder, 10, ""},
+        {WorkKind::Seeder, 13, "Motor 1 alcanzo las maximas RPM"},
+        {WorkKind::Seeder, 18, "Motor 2 no llega a las RPM pedidas"},
+        {WorkKind::Seeder, 24, "Motor 4 no responde"},
+        {WorkKind::Seeder, 29, "Alta tensión"},
+        {WorkKind::OlderForm, 0, "Falla de siembra"},
+        {WorkKind::Sprayer, 0, "Presión Máxima"},
+        {WorkKind::Sprayer, 9, "Alarma de nodo apagado"},
+        {WorkKind::Sprayer, 10, "Alarma de Verificar Fusibles"},
+        {WorkKind::Sprayer, 28, ""},
+        {WorkKind::Sprayer, 32, ""},
+        {WorkKind::Sprayer, -1, ""},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.bit);
+        EXPECT_EQ(alarmText(Texts(), row.kind, row.bit), row.text);
+    }
+    EXPECT_EQ(alarmText(Texts(Language::Portuguese), WorkKind::Sprayer, 0), "Pressão máxima");
+}
+
+TEST(VexAlarmas, KnowsTheBitsThatHaveAText) {
+    EXPECT_EQ(knownAlarms(WorkKind::Seeder), 0x37777333U);
+    EXPECT_EQ(knownAlarms(WorkKind::OlderForm), 0x37777333U);
+    EXPECT_EQ(knownAlarms(WorkKind::Sprayer), 0x00000703U);
+}
+
+}  // namespace
+
+}  // namespace campora
