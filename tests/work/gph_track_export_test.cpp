@@ -1,0 +1,93 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include <stdexcept>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "support/work_records.h"
+#include "work/gph_track.h"
+
+namespace campora {
+
+namespace {
+
+GphTrack threePoints() {
+    GphTrack track;
+    const LonLat at[] = {atMetres(0, 0), atMetres(100, 0), atMetres(200, 0)};
+    track.addPoint(at[0].x, at[0].y, reportRecord(90, 20));
+    track.addPoint(at[1].x, at[1].y, reportRecord(0, 40));
+    track.addPoint(at[2].x, at[2].y, reportRecord(110, 60));
+    return track;
+}
+
+std::string messageOf(const GphTrack& track, std::int32_t polygon, std::int32_t point) {
+    try {
+        static_cast<void>(track.ExportablePolygon_polygonNpoint(polygon, point));
+    } catch (const std::out_of_range& error) {
+        return error.what();
+    }
+    return "no error";
+}
+
+TEST(GphTrackExport, PolygonIsTheSwathOfAStepInItsOwnWidth) {
+    const GphTrack track = threePoints();
+    EXPECT_EQ(track.ExportablePolygon_polygonCount(), 2);
+    const LonLat expected[] = {{0, 10}, {100, 10}, {100, -10}, {0, -10}};
+    for (std::int32_t corner = 0; corner < 4; ++corner) {
+        const LonLat at = track.ExportablePolygon_polygonNpoint(0, corner);
+        EXPECT_NEAR(at.x * METERS_PER_DEGREE, expected[corner].x, 1e-6) << corner;
+        EXPECT_NEAR(at.y * METERS_PER_DEGREE, expected[corner].y, 1e-6) << corner;
+    }
+    EXPECT_NEAR(track.ExportablePolygon_polygonNpoint(1, 0).y * METERS_PER_DEGREE, 20, 1e-6);
+}
+
+TEST(GphTrackExport, StepsWithoutFlowHavePointsOnlyWhileAllAreDrawn) {
+    const GphTrack track = threePoints();
+    MapStyle style;
+    EXPECT_EQ(track.ExportablePolygon_polygonNCount(style, 1), 4);
+    style.drawAll = false;
+    EXPECT_EQ(track.ExportablePolygon_polygonNCount(style, 0), 4);
+    EXPECT_EQ(track.ExportablePolygon_polygonNCount(style, 1), 0);
+    EXPECT_EQ(track.ExportablePolygon_polygonNCount(style, 2), 0) << "not a step";
+    EXPECT_EQ(track.ExportablePolygon_polygonNCount(style, -1), 0);
+}
+
+TEST(GphTrackExport, RefusesCornersAndStepsThatAreNotThere) {
+    const GphTrack track = threePoints();
+    const std::string badPoint = "GphTrack.polygonNpoint: Punto del polygono fuera de rango";
+    const std::string badPolygon = "GphTrack.polygonNpoint: Numero de polygono fuera de rango";
+    EXPECT_EQ(messageOf(track, 0, 4), badPoint);
+    EXPECT_EQ(messageOf(track, 0, -1), badPoint);
+    EXPECT_EQ(messageOf(track, 2, 0), badPolygon);
+    EXPECT_EQ(messageOf(track, -1, 0), badPolygon);
+    EXPECT_EQ(messageOf(GphTrack(), 0, 0), badPolygon);
+}
+
+TEST(GphTrackExport, RowsAndPointsAreItsRecords) {
+    const GphTrack track = threePoints();
+    EXPECT_EQ(track.ExportableData_getDataCount(), 3);
+    EXPECT_EQ(track.ExportableData_getColumnCount(), 6);
+    EXPECT_EQ(track.ExportableData_getColumnNname(0), "D_Real1");
+    EXPECT_EQ(track.ExportableData_getColumnNtype(5), ColumnType::Text);
+    EXPECT_EQ(track.ExportableData_getCell(2, 0, {}), CellValue(std::int64_t{110}));
+    EXPECT_EQ(track.ExportableData_getCell(1, 4, {.swathInCentimetres = true}), CellValue(4000.0F));
+    EXPECT_EQ(track.ExportablePoint_pointCount(), 3);
+    EXPECT_EQ(track.ExportablePoint_pointN(1), atMetres(100, 0));
+    EXPECT_THROW(static_cast<void>(track.ExportablePoint_pointN(3)), std::out_of_range);
+    EXPECT_THROW(static_cast<void>(track.ExportableData_getCell(3, 0, {})), std::out_of_range);
+}
+
+TEST(GphTrackExport, EmptyTrackHasNoColumns) {
+    const GphTrack track;
+    EXPECT_EQ(track.ExportableData_getColumnCount(), 0);
+    EXPECT_EQ(track.ExportableData_getColumnNname(0), "");
+    EXPECT_EQ(track.ExportableData_getColumnNtype(0), ColumnType::Integer);
+    EXPECT_EQ(track.ExportablePolygon_polygonCount(), 0);
+    EXPECT_EQ(track.ExportablePoint_pointCount(), 0);
+}
+
+}  // namespace
+
+}  // namespace campora

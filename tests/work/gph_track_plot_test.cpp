@@ -1,0 +1,229 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include <random>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "support/recording_canvas.h"
+#include "support/work_records.h"
+#include "work/gph_track.h"
+
+namespace campora {
+
+namespace {
+
+using ::testing::ElementsAreArray;
+using ::testing::IsEmpty;
+
+constexpr CanvasSize kCanvas{1000, 1000};
+
+/// Metres, so that canvas units can be read off: x = east, y = 1000 - north.
+struct Stop {
+    double east;
+    double north;
+    std::int32_t dose;
+    float swath = 20;
+};
+
+GphTrack trackOf(const std::vector<Stop>& stops) {
+    GphTrack track;
+    for (const Stop& stop : stops) {
+        const LonLat at = atMetres(stop.east, stop.north);
+        track.addPoint(at.x, at.y, reportRecord(stop.dose, stop.swath));
+    }
+    return track;
+}
+
+struct Drawing {
+    RecordingCanvas canvas{kCanvas};
+    ViewTransform view{1, 1, {0, 0}, kCanvas};
+    MapStyle style;
+    MapContext context{canvas, view, style};
+};
+
+const std::string kWorked = "polygon fill=0xFF8080 style=solid pen=0x000000 width=1 solid: ";
+const std::string kNotWorked = "polygon fill=0x40FF00 style=solid pen=0x000000 width=1 solid: ";
+const std::string kNotWorkedLine = "line 0x40FF00 width=1 dotted: ";
+
+TEST(GphTrackPlot, JoinsStepsThatLookAlike) {
+    struct Row {
+        const char* name;
+        std::vector<Stop> stops;
+        bool drawAll;
+        bool drawDotted;
+        std::vector<std::string> calls;
+    };
+    const Row rows[] = {
+        {"nothing", {}, true, true, {}},
+        {"one point", {{100, 500, 9}}, true, true, {}},
+        {"one step",
+         {{100, 500, 9}, {200, 500, 9}},
+         true,
+         false,
+         {kWorked + "(100,490) (200,490) (200,510) (100,510)"}},
+        {"a run goes up its left side and back down its right",
+         {{100, 500, 9}, {200, 500, 9}, {300, 500, 0}},
+         false,
+         false,
+         {kWorked + "(100,490) (200,490) (300,490) (300,510) (200,510) (100,510)"}},
+        {"another dose begins a polygon at the same corners",
+         {{100, 500, 9}, {200, 500, 8}, {300, 500, 8}},
+         true,
+         false,
+         {kWorked + "(100,490) (200,490) (200,510) (100,510)",
+          kWorked + "(200,490) (300,490) (300,510) (200,510)"}},
+        {"another width begins a polygon of that width",
+         {{100, 500, 9}, {200, 500, 9, 40}, {300, 500, 9, 40}},
+         true,
+         false,
+         {kWorked + "(100,490) (200,490) (200,510) (100,510)",
+          kWorked + "(200,480) (300,480) (300,520) (200,520)"}},
+        {"a corner is mitred although the flow changes there",
+         {{100, 500, 9}, {200, 500, 8}, {200, 600, 8}},
+         true,
+         false,
+         {kWorked + "(100,490) (190,490) (210,510) (100,510)",
+          kWorked + "(190,490) (190,400) (210,400) (210,510)"}},
+        {"a turn on the spot keeps the arriving step's corners",
+         {{100, 500, 9}, {200, 500, 9}, {100, 501, 9}},
+         true,
+         false,
+         {kWorked + "(100,490) (200,490) (100,509) (100,489) (200,510) (100,510)"}},
+        {"without flow, all drawn",
+         {{100, 500, 9}, {200, 500, 0}, {300, 500, 0}},
+         true,
+         true,
+         {kWorked + "(100,490) (200,490) (200,510) (100,510)",
+          kNotWorked + "(200,490) (300,490) (300,510) (200,510)"}},
+        {"without flow, only worked ones drawn",
+         {{100, 500, 9}, {200, 500, 0}, {300, 500, 9}, {400, 500, 9}},
+         false,
+         false,
+         {kWorked + "(100,490) (200,490) (200,510) (100,510)",
+          kWorked + "(300,490) (400,490) (400,510) (300,510)"}},
+        {"without flow, dotted",
+         {{100, 500, 9}, {200, 500, 0}, {300, 500, 9}, {400, 500, 9}},
+         false,
+         true,
+         {kWorked + "(100,490) (200,490) (200,510) (100,510)",
+          kNotWorkedLine + "(200,500) (300,500)",
+          kWorked + "(300,490) (400,490) (400,510) (300,510)"}},
+        {"less than no flow is none", {{100, 500, -9}, {200, 500, 9}}, false, false, {}},
+        {"out of view and back",
+         {{800, 500, 9}, {900, 500, 9}, {1500, 500, 9}, {1500, 600, 9}, {900, 600, 9}},
+         true,
+         false,
+         {kWorked + "(800,490) (900,490) (1490,490) (1510,510) (900,510) (800,510)",
+          kWorked + "(1490,410) (900,410) (900,390) (1510,390)"}},
+        {"far off",
+         {{3000, 500, 9}, {3100, 500, 9}, {3200, 500, 0}, {3300, 500, 0}},
+         true,
+         true,
+         {}},
+        {"just off, but wide enough to be seen",
+         {{1010, 500, 9, 40}, {1010, 600, 9, 40}},
+         true,
+         false,
+         {kWorked + "(990,500) (990,400) (1030,400) (1030,500)"}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        Drawing drawing;
+        drawing.style.drawAll = row.drawAll;
+        drawing.style.drawDotted = row.drawDotted;
+        trackOf(row.stops).Gph_plot(drawing.context);
+        EXPECT_THAT(drawing.canvas.calls(), ElementsAreArray(row.calls));
+        EXPECT_EQ(drawing.canvas.penStyle(), PenStyle::Solid);
+    }
+}
+
+TEST(GphTrackPlot, ColoursARunByItsFirstRecord) {
+    TrackDataRPT::Fields quiet = reportFields(9);
+    TrackDataRPT::Fields loud = quiet;
+    loud.alarms = 0x100;
+    GphTrack track;
+    track.addPoint(0.001, 0.001, TrackDataRPT(loud));
+    track.addPoint(0.002, 0.001, TrackDataRPT(quiet));
+    track.addPoint(0.003, 0.001, TrackDataRPT(quiet));
+    Drawing drawing;
+    drawing.style.mode = ColorMode::Alarm;
+    track.Gph_plot(drawing.context);
+    ASSERT_EQ(drawing.canvas.calls().size(), 1U);
+    EXPECT_TRUE(drawing.canvas.calls().front().starts_with("polygon fill=0x0000FF"));
+}
+
+TEST(GphTrackPlot, WithoutBordersOutlinesInTheFillColour) {
+    Drawing drawing;
+    drawing.style.drawBorders = false;
+    drawing.canvas.setPenColor(Color{0x112233});
+    const GphTrack track = trackOf({{100, 500, 9}, {200, 500, 9}});
+    track.Gph_plot(drawing.context);
+    EXPECT_EQ(drawing.canvas.calls().front(),
+              "polygon fill=0xFF8080 style=solid pen=0xFF8080 width=1 solid: "
+              "(100,490) (200,490) (200,510) (100,510)");
+    EXPECT_EQ(drawing.canvas.penColor(), Color{0x112233}) << "the canvas keeps its own";
+}
+
+TEST(GphTrackPlot, DrawsNothingBeforeTheFirstFit) {
+    Drawing drawing;
+    drawing.view = ViewTransform();
+    const GphTrack track = trackOf({{100, 500, 9}, {200, 500, 9}});
+    track.Gph_plot(drawing.context);
+    EXPECT_FALSE(track.Gph_plotN(drawing.context, 0));
+    EXPECT_THAT(drawing.canvas.calls(), IsEmpty());
+}
+
+TEST(GphTrackPlot, AnswersWhetherTheStepWasDrawn) {
+    const GphTrack track =
+        trackOf({{100, 500, 9}, {200, 500, 0}, {300, 500, 9}, {3000, 500, 9}, {3100, 500, 9}});
+    Drawing drawing;
+    drawing.style.drawAll = false;
+    const auto drawn = [&](std::int32_t n) { return track.Gph_plotN(drawing.context, n); };
+    EXPECT_TRUE(drawn(0));
+    EXPECT_FALSE(drawn(1)) << "no flow";
+    EXPECT_TRUE(drawn(2));
+    EXPECT_FALSE(drawn(3)) << "out of view";
+    EXPECT_FALSE(drawn(4)) << "the last point";
+    EXPECT_FALSE(drawn(-1));
+    EXPECT_EQ(drawing.canvas.calls().size(), 2U);
+    drawing.style.drawDotted = true;
+    EXPECT_TRUE(drawn(1)) << "dotted";
+    EXPECT_EQ(drawing.canvas.calls().back(), kNotWorkedLine + "(200,500) (300,500)");
+}
+
+/// Where no two steps look alike the whole is drawn as its steps are one by one, whatever is kept
+/// from one step for the next and wherever the way leaves the canvas.
+TEST(GphTrackPlot, WholeIsTheSumOfItsSteps) {
+    std::mt19937 random(20260102);
+    std::uniform_real_distribution<double> stride(-60, 60);
+    std::uniform_int_distribution<int> swath(1, 2);
+    std::vector<Stop> stops{{500, 500, 0}};
+    for (std::int32_t i = 1; i < 500; ++i) {
+        const Stop& last = stops.back();
+        stops.push_back({last.east + stride(random), last.north + stride(random), i % 7,
+                         20 * static_cast<float>(swath(random))});
+    }
+    const GphTrack track = trackOf(stops);
+    for (const bool drawAll : {false, true}) {
+        Drawing whole;
+        Drawing steps;
+        for (Drawing* drawing : {&whole, &steps}) {
+            drawing->style.drawAll = drawAll;
+            drawing->style.drawDotted = true;
+        }
+        track.Gph_plot(whole.context);
+        for (std::int32_t n = 0; n < track.Gph_count(); ++n) {
+            static_cast<void>(track.Gph_plotN(steps.context, n));
+        }
+        EXPECT_GT(whole.canvas.calls().size(), 100U);
+        EXPECT_LT(whole.canvas.calls().size(), 499U);
+        EXPECT_EQ(whole.canvas.calls(), steps.canvas.calls());
+    }
+}
+
+}  // namespace
+
+}  // namespace campora

@@ -1,0 +1,89 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "work/swath_geometry.h"
+
+#include <cmath>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "support/work_records.h"
+
+namespace campora {
+
+namespace {
+
+constexpr double kHalf = 10;
+constexpr double kWidth = 2 * kHalf;
+
+void expectNear(LonLat actual, LonLat expected) {
+    constexpr double kMillimetre = 0.001 / METERS_PER_DEGREE;
+    EXPECT_NEAR(actual.x, expected.x, kMillimetre);
+    EXPECT_NEAR(actual.y, expected.y, kMillimetre);
+}
+
+TEST(SwathGeometry, CornersStandSquareToOneStepAndAreMitredBetweenTwo) {
+    struct Row {
+        const char* name;
+        std::vector<LonLat> pass;
+        std::size_t point;
+        LonLat left;  // metres from the point
+    };
+    const LonLat start = atMetres(0, 0);
+    const LonLat east = atMetres(100, 0);
+    const Row rows[] = {
+        {"eastward start", {start, east}, 0, {0, kHalf}},
+        {"eastward end", {start, east}, 1, {0, kHalf}},
+        {"westward", {east, start}, 0, {0, -kHalf}},
+        {"northward", {start, atMetres(0, 50)}, 0, {-kHalf, 0}},
+        {"southward", {start, atMetres(0, -50)}, 1, {kHalf, 0}},
+        {"straight on", {start, east, atMetres(130, 0)}, 1, {0, kHalf}},
+        {"vertical, straight on", {start, atMetres(0, 9), atMetres(0, 50)}, 1, {-kHalf, 0}},
+        {"left turn", {start, east, atMetres(100, 100)}, 1, {-kHalf, kHalf}},
+        {"right turn out of the vertical", {atMetres(0, -9), start, east}, 1, {-kHalf, kHalf}},
+        {"3-4-5 slope", {start, atMetres(40, 30)}, 0, {-6, 8}},
+        {"full turn", {start, east, start}, 1, {0, kHalf}},
+        {"sharp turn", {start, east, atMetres(10, 10)}, 1, {0, kHalf}},
+        {"no step", {start}, 0, {0, 0}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        const LonLat at = row.pass[row.point];
+        const SwathCorners corners = swathCorners(row.pass, row.point, kWidth);
+        const LonLat offset = atMetres(row.left.x, row.left.y);
+        expectNear(corners.left, {at.x + offset.x, at.y + offset.y});
+        expectNear(corners.right, {at.x - offset.x, at.y - offset.y});
+    }
+}
+
+TEST(SwathGeometry, MitresReachOneAndAHalfSwathWidths) {
+    // The mitre of a turn by t is 1 / cos(t / 2) half widths long: three of them at 141.06 degrees.
+    const auto leftOffset = [](double turnDegrees) {
+        const double turn = toRadians(turnDegrees);
+        const std::vector<LonLat> pass{atMetres(-100, 0), atMetres(0, 0),
+                                       atMetres(100 * std::cos(turn), 100 * std::sin(turn))};
+        const LonLat left = swathCorners(pass, 1, kWidth).left;
+        return std::hypot(left.x, left.y) * METERS_PER_DEGREE;
+    };
+    EXPECT_NEAR(leftOffset(141.0), kHalf / std::cos(toRadians(70.5)), 0.001);
+    EXPECT_NEAR(leftOffset(141.1), kHalf, 0.001);
+    EXPECT_NEAR(leftOffset(-141.1), kHalf, 0.001);
+}
+
+TEST(SwathGeometry, KeepsTheWidthOnTheGroundFarFromTheEquator) {
+    const std::vector<LonLat> north{{-60, -34}, {-60, -33.99}};
+    const SwathCorners corners = swathCorners(north, 0, 20);
+    EXPECT_NEAR((corners.right.x - corners.left.x) * METERS_PER_DEGREE * std::cos(toRadians(-34)),
+                20, 1e-6);
+    const std::vector<LonLat> east{{-60, -34}, {-59.99, -34}};
+    EXPECT_NEAR(swathCorners(east, 0, 20).left.y, -34 + 0.0000898, 5e-8);
+}
+
+TEST(SwathGeometry, MeasuresStepsWithTheLatitudeWhereTheyEnd) {
+    EXPECT_NEAR(stepMetres({0, 0}, {3, 60}), std::hypot(1.5, 60) * METERS_PER_DEGREE, 0.01);
+}
+
+}  // namespace
+
+}  // namespace campora
