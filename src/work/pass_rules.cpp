@@ -3,7 +3,6 @@
 
 #include "work/pass_rules.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "model/geodesy.h"
@@ -13,24 +12,24 @@ namespace campora {
 
 namespace {
 
-constexpr float kSharpDegrees = 90;
-
-/// Cosine of the bend at `b`, none where a step has no length. Single precision: which turns count
-/// as exact reversals depends on it.
-std::optional<float> bendCosine(LonLat a, LonLat b, LonLat c) {
-    const double x1 = (b.x - a.x) * std::cos(a.y * kPi / 180);
-    const double y1 = b.y - a.y;
-    const double x2 = (c.x - b.x) * std::cos(b.y * kPi / 180);
-    const double y2 = c.y - b.y;
-    const double lengths = std::sqrt(x1 * x1 + y1 * y1) * std::sqrt(x2 * x2 + y2 * y2);
-    if (lengths == 0) {
-        return std::nullopt;
-    }
-    return std::clamp(static_cast<float>((x1 * x2 + y1 * y2) / lengths), -1.0F, 1.0F);
+double dot(const StepDirection& a, const StepDirection& b) {
+    return a.x * b.x + a.y * b.y;
 }
 
-float angleOfCosine(float cosine) {
-    if (std::abs(cosine) == 1) {
+}  // namespace
+
+StepDirection stepDirection(LonLat from, LonLat to) {
+    return {(to.x - from.x) * std::cos(from.y * kPi / 180), to.y - from.y};
+}
+
+float turningAngle(const StepDirection& arriving, const StepDirection& leaving) {
+    const double lengths = std::sqrt(dot(arriving, arriving)) * std::sqrt(dot(leaving, leaving));
+    if (lengths == 0) {
+        return 0;
+    }
+    // Single precision decides which turns count as exact reversals.
+    const auto cosine = static_cast<float>(dot(arriving, leaving) / lengths);
+    if (std::abs(cosine) >= 1) {
         return 0;
     }
     const double k = cosine;
@@ -38,52 +37,40 @@ float angleOfCosine(float cosine) {
     return static_cast<float>(radians * 180 / kPi);
 }
 
-}  // namespace
-
-float turningAngle(LonLat a, LonLat b, LonLat c) {
-    const std::optional<float> cosine = bendCosine(a, b, c);
-    return cosine ? angleOfCosine(*cosine) : 0;
-}
-
-bool turnsSharply(LonLat a, LonLat b, LonLat c) {
-    const std::optional<float> cosine = bendCosine(a, b, c);
-    if (!cosine || *cosine >= 0 || *cosine == -1) {
-        return false;
-    }
-    // Angles a hair above 90 degrees round to 90; those of larger cosines do not come near.
-    constexpr float kClearlySharp = -1e-6F;
-    return *cosine < kClearlySharp || angleOfCosine(*cosine) > kSharpDegrees;
+bool turnsSharply(const StepDirection& arriving, const StepDirection& leaving) {
+    // Forward steps, nearly all there are, need no angle.
+    return dot(arriving, leaving) < 0 && turningAngle(arriving, leaving) > 90;
 }
 
 Placement PassSplitter::place(LonLat position, float swath) {
     Placement placement = Placement::Opens;
-    if (kept_ > 0) {
-        const double metres = stepMetres(last_, position);
+    StepDirection step;
+    if (last_) {
+        const double metres = stepMetres(*last_, position);
         if (isGlitch(position, metres)) {
             dropped_ = position;
             return Placement::LeftOut;
         }
+        step = stepDirection(*last_, position);
         const bool breaks = metres > 3.0 * swath && metres > limits_.shortestBreak;
         if (!breaks && metres <= limits_.glitch) {
-            placement = placeStep(position, metres);
+            squareMetres_ += metres * lastSwath_;
+            ++steps_;
+            placement = placeStep(step, position == *last_);
         }
     }
     dropped_.reset();
-    beforeLast_ = last_;
     last_ = position;
     lastSwath_ = swath;
-    kept_ = std::min(kept_ + 1, 2);
+    lastStep_ = step;
     return placement;
 }
 
-Placement PassSplitter::placeStep(LonLat position, double metres) {
-    squareMetres_ += metres * lastSwath_;
-    ++steps_;
-    if (position == last_) {
+Placement PassSplitter::placeStep(const StepDirection& step, bool stays) const {
+    if (stays) {
         return Placement::Stays;
     }
-    const bool turns = kept_ > 1 && turnsSharply(beforeLast_, last_, position);
-    return turns ? Placement::Turns : Placement::Continues;
+    return turnsSharply(lastStep_, step) ? Placement::Turns : Placement::Continues;
 }
 
 /// A far record is none when the record before was far as well and lies near: the machine has moved

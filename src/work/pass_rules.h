@@ -11,12 +11,20 @@
 
 namespace campora {
 
-/// The angle at `b` by which the way from `a` over `b` to `c` bends, in degrees: 0 straight on, 90
-/// a right angle, and 0 for an exact reversal too.
-[[nodiscard]] float turningAngle(LonLat a, LonLat b, LonLat c);
+/// A step in degrees of latitude both ways; zero for one that does not move.
+struct StepDirection {
+    double x = 0;
+    double y = 0;
+};
+
+[[nodiscard]] StepDirection stepDirection(LonLat from, LonLat to);
+
+/// The angle between two steps that follow each other, in degrees: 0 straight on, 90 a right angle,
+/// and 0 for an exact reversal, or where a step does not move, too.
+[[nodiscard]] float turningAngle(const StepDirection& arriving, const StepDirection& leaving);
 
 /// Whether the angle is more than 90 degrees; the same answer in much less time.
-[[nodiscard]] bool turnsSharply(LonLat a, LonLat b, LonLat c);
+[[nodiscard]] bool turnsSharply(const StepDirection& arriving, const StepDirection& leaving);
 
 /// What becomes of a record on its way to the map.
 enum class Placement : std::uint8_t {
@@ -55,13 +63,13 @@ public:
     [[nodiscard]] std::int64_t steps() const { return steps_; }
 
 private:
-    [[nodiscard]] Placement placeStep(LonLat position, double metres);
+    [[nodiscard]] Placement placeStep(const StepDirection& step, bool stays) const;
     [[nodiscard]] bool isGlitch(LonLat position, double metres) const;
 
     PassLimits limits_;
-    int kept_ = 0;  ///< records kept so far, counted up to 2
-    LonLat beforeLast_;
-    LonLat last_;
+    /// The last record that was kept, and the step that led to it.
+    std::optional<LonLat> last_;
+    StepDirection lastStep_;
     float lastSwath_ = 0;
     /// The record before, when it was left out.
     std::optional<LonLat> dropped_;

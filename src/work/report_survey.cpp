@@ -15,11 +15,10 @@ constexpr int kLeastImpossibleDose = 5000;
 /// Adds up the runs of a work; a gap of more than an hour, or back in time, ends a run.
 class RunningTime {
 public:
-    void add(const TrackDataRPT::Fields& fields) {
+    void add(std::int32_t day, const TimeOfDay& time) {
         constexpr std::int64_t kLongestGap = 3600;
         constexpr std::int64_t kSecondsOfDay = 86400;
-        const std::int64_t day = fields.date ? dayNumber(*fields.date) : 0;
-        const std::int64_t now = day * kSecondsOfDay + fields.time.secondOfDay();
+        const std::int64_t now = day * kSecondsOfDay + time.secondOfDay();
         if (!last_ || now < *last_ || now - *last_ > kLongestGap) {
             finished_ = total();
             runStart_ = now;
@@ -53,12 +52,12 @@ private:
 };
 
 void addDoses(const TrackDataRPT::Fields& fields, ReportSurvey& survey, ValueRanges& ranges) {
+    float total = 0;
     for (std::size_t channel = 0; channel < fields.channels; ++channel) {
-        if (fields.real[channel] < kLeastImpossibleDose) {
-            survey.doseSums[channel] += fields.real[channel];
-        }
+        const std::int32_t dose = fields.real[channel];
+        survey.doseSums[channel] += dose < kLeastImpossibleDose ? dose : 0;
+        total += static_cast<float>(dose);
     }
-    const float total = TrackDataRPT(fields).caudal();
     if (total < kLeastImpossibleDose) {
         extend(ranges.dose, total);
     }
@@ -79,10 +78,11 @@ ReportSurvey surveyReport(const RptFile& file, ValueRanges& ranges) {
         }
         survey.start = survey.start.value_or(i);
         addDoses(fields, survey, ranges);
+        const std::int32_t day = fields.date ? dayNumber(*fields.date) : 0;
         if (fields.date) {
-            extend(ranges.date, dayNumber(*fields.date));
+            extend(ranges.date, day);
         }
-        time.add(fields);
+        time.add(day, fields.time);
         counter.add(fields.alarms);
         survey.placements[i] = splitter.place(position, fields.swath);
         survey.speedSum += isStep(survey.placements[i]) ? fields.speed : 0;
