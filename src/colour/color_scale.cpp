@@ -17,6 +17,8 @@ namespace campora {
 namespace {
 
 constexpr int kInitialClasses = 6;
+/// Classes that a lookup compares at one go.
+constexpr std::size_t kBlock = 16;
 
 /// Runs from one colour to another in equal steps a component.
 class Ramp {
@@ -242,13 +244,30 @@ const Clase* ColorScale::getClassByValue(double value) const {
 }
 
 int ColorScale::getClassIndexByValue(double value) const {
+    if (!ascending_) {
+        return scanForClass(value);
+    }
+    // Counting instead of stopping at the class: a branch on the value is guessed wrong half the
+    // time, which costs more than looking at a whole block. Not-a-number is above nothing.
+    const std::size_t size = classes_.size();
+    std::size_t below = 0;
+    while (below + kBlock < size && classes_[below + kBlock - 1].upper < value) {
+        below += kBlock;
+    }
+    const std::size_t end = std::min(below + kBlock, size);
+    for (std::size_t i = below; i < end; ++i) {
+        below += classes_[i].upper < value ? 1 : 0;
+    }
+    return static_cast<int>(std::min(below, size - 1));
+}
+
+int ColorScale::scanForClass(double value) const {
     if (std::isnan(value)) {
         return 0;
     }
-    const auto reaches = [value](const Clase& candidate) { return candidate.upper >= value; };
     const auto found =
-        ascending_ ? std::partition_point(classes_.begin(), classes_.end(), std::not_fn(reaches))
-                   : std::find_if(classes_.begin(), classes_.end(), reaches);
+        std::find_if(classes_.begin(), classes_.end(),
+                     [value](const Clase& candidate) { return candidate.upper >= value; });
     return std::min(static_cast<int>(found - classes_.begin()), count() - 1);
 }
 

@@ -109,13 +109,14 @@ public:
 
 private:
     void boundsChanged();
+    [[nodiscard]] int scanForClass(double value) const;
     void colorAgain();
     void raiseChanged();
 
     std::vector<Clase> classes_;
     double valueMin_ = 0;
     double valueMax_ = 100;
-    /// Upper bounds never fall from one class to the next: lookups may search by halves.
+    /// Upper bounds never fall from one class to the next: lookups may skip classes.
     bool ascending_ = true;
     std::shared_ptr<Listeners> listeners_;
 };

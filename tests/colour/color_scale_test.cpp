@@ -223,7 +223,7 @@ TEST(ColorScale, LookupAgreesWithAScanWhateverTheOrder) {
     for (int round = 0; round < 200; ++round) {
         ColorScale scale;
         SetList set;
-        for (int i = 0; i <= round % 23; ++i) {
+        for (int i = 0; i <= round % 71; ++i) {
             set.addDosis(any(random));
         }
         scale.loadFromSetList(set, 0);

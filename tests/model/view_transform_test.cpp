@@ -194,7 +194,7 @@ TEST(ViewTransform, NothingThatShowsIsLeftOut) {
         };
         const LonLat from = near();
         const LonLat to = i % 2 == 0 ? near() : LonLat{from.x + uniform(-0.01, 0.01), from.y};
-        const double margin = i % 3 == 0 ? 0 : std::pow(10, uniform(0, 4));
+        const double margin = i % 3 == 0 ? 0 : std::pow(10, uniform(0, 6));
         if (showsSomething(placesAround(view, from, to, margin), canvas)) {
             ++shown;
             ASSERT_TRUE(view.mayTouch(from, to, margin))
@@ -203,6 +203,15 @@ TEST(ViewTransform, NothingThatShowsIsLeftOut) {
         }
     }
     EXPECT_GT(shown, 3000);
+}
+
+// Both ends lie far to the right; twelve kilometres nearer the pole the same longitude is on the
+// map.
+TEST(ViewTransform, MarginCountsTowardsThePole) {
+    const ViewTransform view(10, 10, {0, 89.5}, {1000, 10000});
+    ASSERT_EQ(view.mapToScreen(120, 89.89 + 12100 / kDegree).x, 30);
+    EXPECT_TRUE(view.mayTouch({120, 89.89}, {120, 89.89}, 12100));
+    EXPECT_FALSE(view.mayTouch({120, 89.7}, {120, 89.7}, 1000));
 }
 
 TEST(ViewTransform, ShortStepsWellOffTheCanvasAreLeftOut) {
