@@ -5,23 +5,21 @@
 
 #include <array>
 #include <bit>
-#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "base/dates.h"
 #include "base/lon_lat.h"
 #include "base/numbers.h"
-#include "model/geodesy.h"
+#include "support/work_records.h"
 
 namespace campora {
 
-/// A position so many metres from one near 0, 0, where single-precision degrees are fine and a
-/// degree of longitude is as long as one of latitude.
-[[nodiscard]] inline LonLat metresFromOrigin(double east, double north) {
-    constexpr double kOrigin = 0.01;  // degrees; 0 is no position for a logger
-    return {kOrigin + east / METERS_PER_DEGREE, kOrigin + north / METERS_PER_DEGREE};
+/// As `atMetres`, from a place that is a little off 0, 0, which is no position for a logger.
+[[nodiscard]] inline LonLat fixAt(double east, double north) {
+    return atMetres(1000 + east, 1000 + north);
 }
 
 /// The bytes of a binary report, record by record.

@@ -1,0 +1,168 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "work/pass_rules.h"
+
+#include <cmath>
+#include <random>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "model/geodesy.h"
+#include "support/work_records.h"
+
+namespace campora {
+
+namespace {
+
+/// The direction of a step of one degree at so many degrees to the left of east.
+StepDirection heading(double degrees, double length = 1) {
+    return {length * std::cos(toRadians(degrees)), length * std::sin(toRadians(degrees))};
+}
+
+TEST(TurningAngle, IsZeroStraightOnAndForAReversal) {
+    struct Row {
+        const char* name;
+        StepDirection arriving;
+        StepDirection leaving;
+        float degrees;
+    };
+
+    const Row rows[] = {
+        {"straight on", {1, 0}, {2, 0}, 0},
+        {"right angle", {1, 0}, {0, -3}, 90},
+        {"half right", {1, 0}, {1, 1}, 45},
+        {"sharp", {0, 1}, {1, -1}, 135},
+        {"reversal", {1, 0}, {-1, 0}, 0},
+        {"reversal within single precision", {1, 0}, {-1, 1e-5}, 0},
+        {"no arriving step", {0, 0}, {1, 0}, 0},
+        {"no leaving step", {1, 0}, {0, 0}, 0},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_NEAR(turningAngle(row.arriving, row.leaving), row.degrees, 1e-4);
+    }
+}
+
+TEST(TurningAngle, StepsEastAreShorterAwayFromTheEquator) {
+    const StepDirection step = stepDirection({-60, 60}, {-59, 61});
+    EXPECT_NEAR(step.x, 0.5, 1e-12);
+    EXPECT_DOUBLE_EQ(step.y, 1);
+}
+
+TEST(TurnsSharply, AgreesWithTheAngle) {
+    std::mt19937 random(20180305);
+    std::uniform_real_distribution<double> any(-180, 180);
+    std::normal_distribution<double> aboutRight(90, 1e-5);
+    std::normal_distribution<double> aboutBack(180, 1e-2);
+    int sharp = 0;
+    constexpr int kRounds = 30000;
+    for (int i = 0; i < kRounds; ++i) {
+        const double start = any(random);
+        const double bend = i % 3 == 0   ? any(random)
+                            : i % 3 == 1 ? aboutRight(random)
+                                         : aboutBack(random);
+        const StepDirection arriving = heading(start, 1e-5);
+        const StepDirection leaving = heading(start + bend, 3e-5);
+        const bool expected = turningAngle(arriving, leaving) > 90;
+        sharp += expected ? 1 : 0;
+        ASSERT_EQ(turnsSharply(arriving, leaving), expected) << start << ' ' << bend;
+    }
+    EXPECT_GT(sharp, kRounds / 4);
+    EXPECT_LT(sharp, kRounds * 3 / 4);
+}
+
+/// Where a machine of swath `swath` goes, metres east and north, and what becomes of each record:
+/// O opens, T turns, C continues, S stays, - left out.
+std::string placementsOf(PassSplitter& splitter, const std::vector<LonLat>& way, float swath) {
+    std::string letters;
+    for (const LonLat& at : way) {
+        const auto placement = splitter.place(atMetres(at.x, at.y), swath);
+        letters.push_back(std::string_view("-OTCS")[static_cast<std::size_t>(placement)]);
+    }
+    return letters;
+}
+
+TEST(PassSplitter, EndsPassesAtBreaksAndTurns) {
+    struct Row {
+        const char* name;
+        PassLimits limits;
+        float swath;
+        std::vector<LonLat> way;
+        const char* placements;
+    };
+
+    const Row rows[] = {
+        {"one record", kReportLimits, 20, {{0, 0}}, "O"},
+        {"straight on", kReportLimits, 20, {{0, 0}, {10, 0}, {20, 0}}, "OCC"},
+        {"up to three swaths", kReportLimits, 20, {{0, 0}, {59.9, 0}}, "OC"},
+        {"beyond three swaths", kReportLimits, 20, {{0, 0}, {60.1, 0}}, "OO"},
+        {"never within 50 metres in a report", kReportLimits, 5, {{0, 0}, {49, 0}}, "OC"},
+        {"beyond them", kReportLimits, 5, {{0, 0}, {51, 0}}, "OO"},
+        {"but in a table", kTableLimits, 5, {{0, 0}, {49, 0}}, "OO"},
+        {"right angle", kReportLimits, 20, {{0, 0}, {10, 0}, {10, 10}}, "OCC"},
+        {"half a degree more", kReportLimits, 20, {{0, 0}, {10, 0}, {9.913, 10}}, "OCT"},
+        {"back the same way", kReportLimits, 20, {{0, 0}, {10, 0}, {0, 0}}, "OCC"},
+        {"standing still hides a turn",
+         kReportLimits,
+         20,
+         {{0, 0}, {10, 0}, {10, 0}, {5, 5}},
+         "OCSC"},
+        {"a turn right after a break",
+         kReportLimits,
+         20,
+         {{0, 0}, {10, 0}, {200, 0}, {195, 5}},
+         "OCOT"},
+        {"a single far record", kReportLimits, 20, {{0, 0}, {10001, 0}, {10, 0}}, "O-C"},
+        {"not so far", kReportLimits, 20, {{0, 0}, {9999, 0}}, "OO"},
+        {"a table has no glitches", kTableLimits, 20, {{0, 0}, {20000, 0}, {10, 0}}, "OOO"},
+        {"two far ones apart",
+         kReportLimits,
+         20,
+         {{0, 0}, {20000, 0}, {-20000, 0}, {10, 0}},
+         "O--C"},
+        {"another field", kReportLimits, 20, {{0, 0}, {20000, 0}, {20010, 0}, {20020, 0}}, "O-OC"},
+        {"another field and back",
+         kReportLimits,
+         20,
+         {{0, 0}, {20000, 0}, {20010, 0}, {0, 0}, {10, 0}, {20, 0}},
+         "O-O-OC"},
+        {"far from a far one, but not from the last",
+         kReportLimits,
+         20,
+         {{0, 0}, {14000, 0}, {7000, 0}},
+         "O-O"},
+        {"a far one is forgotten when a record was kept",
+         kReportLimits,
+         20,
+         {{0, 0}, {20000, 0}, {10, 0}, {20010, 0}, {20, 0}},
+         "O-C-C"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        PassSplitter splitter(row.limits);
+        EXPECT_EQ(placementsOf(splitter, row.way, row.swath), row.placements);
+    }
+}
+
+TEST(PassSplitter, AddsUpStepsWithinPassesOnly) {
+    PassSplitter splitter(kReportLimits);
+    // A pass of 10 m, standing still, a turn of 10 m; a break; a glitch; a pass of 20 m.
+    placementsOf(splitter, {{0, 0}, {10, 0}, {10, 0}, {4, 8}, {500, 0}, {50000, 0}, {520, 0}}, 20);
+    EXPECT_EQ(splitter.steps(), 4);
+    EXPECT_NEAR(splitter.squareMetres(), (10 + 10 + 20) * 20, 0.01);
+}
+
+TEST(PassSplitter, AStepIsAsWideAsWhereItStarts) {
+    PassSplitter splitter(kReportLimits);
+    splitter.place(atMetres(0, 0), 10);
+    splitter.place(atMetres(5, 0), 30);
+    splitter.place(atMetres(7, 0), 1);
+    EXPECT_NEAR(splitter.squareMetres(), 5 * 10 + 2 * 30, 0.01);
+}
+
+}  // namespace
+
+}  // namespace campora

@@ -1,0 +1,182 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "work/rpt_file.h"
+
+#include <cmath>
+#include <limits>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "base/failure.h"
+#include "base/files.h"
+#include "support/work_files.h"
+
+namespace campora {
+
+namespace {
+
+RptBytes::Record record(std::int32_t realTenths, std::int32_t speedTenths = 120) {
+    RptBytes::Record result;
+    result.position = fixAt(0, 0);
+    result.realTenths[0] = realTenths;
+    result.speedTenths = speedTenths;
+    return result;
+}
+
+TEST(RptFile, ReadsHeaderAndRecordsOfTheCurrentForm) {
+    RptBytes report(3, 0x6203, 0xC0FFEE, 0x10041121);
+    RptBytes::Record written = record(985);
+    written.realTenths = {985, 80, 19, 7777};
+    written.spec = {100, 8, 2, 7777};
+    written.alarms = 0x80000001;
+    written.swathCm = 3705;
+    written.time = {{2018, 1, 15}, {18, 3, 32}};
+    report.add(written);
+
+    const FileBytes bytes(report.bytes());
+    const RptFile file(bytes.bytes());
+    EXPECT_EQ(file.form(), RptFile::Form::Current);
+    EXPECT_EQ(file.workKind(), WorkKind::Sprayer);
+    EXPECT_EQ(file.serial(), "6203-00C0FFEE");
+    EXPECT_EQ(file.version(), 0x10041121U);
+    EXPECT_EQ(file.highestChannel(), 2);
+    ASSERT_EQ(file.recordCount(), 1U);
+    const auto [position, fields] = file.record(0);
+    EXPECT_EQ(position.y, static_cast<float>(written.position.y));
+    EXPECT_EQ(position.x, static_cast<float>(written.position.x));
+    EXPECT_EQ(fields.channels, 3);
+    EXPECT_EQ(fields.real, (TrackDataRPT::Doses{98, 8, 2, 0, 0})) << "98.5 is halfway, to even";
+    EXPECT_EQ(fields.spec, (TrackDataRPT::Doses{100, 8, 2, 0, 0}));
+    EXPECT_FLOAT_EQ(fields.speed, 12);
+    EXPECT_FLOAT_EQ(fields.swath, 37.05F);
+    EXPECT_EQ(fields.alarms, 0x80000001U);
+    EXPECT_EQ(fields.date, (Date{2018, 1, 15}));
+    EXPECT_EQ(fields.time, (TimeOfDay{18, 3, 32}));
+}
+
+TEST(RptFile, TheFirstSerialPartTellsSprayersFromSeeders) {
+    for (const auto& [serial, kind] :
+         {std::pair(0x5FFFU, WorkKind::Seeder), std::pair(0x6000U, WorkKind::Sprayer),
+          std::pair(0xFFFF0000U, WorkKind::Sprayer)}) {
+        const FileBytes bytes(RptBytes(1, serial).bytes());
+        EXPECT_EQ(RptFile(bytes.bytes()).workKind(), kind) << serial;
+    }
+}
+
+TEST(RptFile, ChannelsDecideTheSizeOfARecord) {
+    struct Row {
+        std::int32_t channels;
+        std::int32_t highest;
+        std::size_t size;
+    };
+
+    for (const Row& row :
+         {Row{-5, 0, 32}, Row{0, 0, 32}, Row{1, 0, 32}, Row{2, 1, 56}, Row{4, 3, 56}, Row{5, 4, 56},
+          Row{6, 5, 56}, Row{std::numeric_limits<std::int32_t>::max(), 2147483646, 56}}) {
+        SCOPED_TRACE(row.channels);
+        const FileBytes bytes(RptBytes(row.channels).bytes() + std::string(4 * row.size - 1, '\0'));
+        const RptFile file(bytes.bytes());
+        EXPECT_EQ(file.highestChannel(), row.highest);
+        EXPECT_EQ(file.recordCount(), 3U) << "the last one is not whole";
+    }
+}
+
+TEST(RptFile, FiveChannelsShareFourSlots) {
+    RptBytes report(5);
+    RptBytes::Record written = record(0);
+    written.realTenths = {10, 20, 30, 40};
+    report.add(written);
+    const FileBytes bytes(report.bytes());
+    const auto fields = RptFile(bytes.bytes()).record(0).fields;
+    EXPECT_EQ(fields.channels, 5);
+    EXPECT_EQ(fields.real, (TrackDataRPT::Doses{1, 2, 3, 4, 0}));
+    EXPECT_FLOAT_EQ(fields.speed, 12) << "speed follows the fourth slot";
+}
+
+TEST(RptFile, TheFifthFieldTellsTheOlderFormsApart) {
+    struct Row {
+        std::int32_t speedTenths;
+        RptFile::Form form;
+        std::size_t records;
+    };
+
+    for (const Row& row :
+         {Row{0, RptFile::Form::EightFields, 1}, Row{999, RptFile::Form::EightFields, 1},
+          Row{1000, RptFile::Form::FourFields, 2}, Row{-1, RptFile::Form::FourFields, 2}}) {
+        SCOPED_TRACE(row.speedTenths);
+        RptBytes report;
+        report.add(record(1000, row.speedTenths));
+        const FileBytes bytes(report.bytes());
+        const RptFile file(bytes.bytes());
+        EXPECT_EQ(file.form(), row.form);
+        EXPECT_EQ(file.workKind(), WorkKind::OlderForm);
+        EXPECT_EQ(file.recordCount(), row.records);
+        EXPECT_EQ(file.serial(), "0000-00000000");
+    }
+}
+
+TEST(RptFile, TheOlderFormsHaveNoDate) {
+    RptBytes eight;
+    RptBytes::Record written = record(534, 55);
+    written.time.time = {16, 45, 11};
+    eight.add(written);
+    const FileBytes bytes(eight.bytes());
+    const auto fields = RptFile(bytes.bytes()).record(0).fields;
+    EXPECT_EQ(fields.time, (TimeOfDay{16, 45, 11}));
+    EXPECT_FALSE(fields.date);
+    EXPECT_EQ(fields.real[0], 53);
+    EXPECT_FLOAT_EQ(fields.speed, 5.5F);
+
+    RptBytes four;
+    four.addFourFields(fixAt(0, 0), 1995);
+    four.addFourFields(fixAt(5, 0), 42);
+    const FileBytes fourBytes(four.bytes());
+    RptFile file(fourBytes.bytes());
+    file.setSwath(16);
+    ASSERT_EQ(file.recordCount(), 2U);
+    EXPECT_EQ(file.record(0).fields.real[0], 200);
+    EXPECT_EQ(file.record(0).fields.spec[0], 0);
+    EXPECT_FLOAT_EQ(file.record(1).fields.swath, 16);
+}
+
+TEST(RptFile, AFileCutAnywhereGivesItsWholeRecordsOrAnError) {
+    RptBytes report(1);
+    report.add(record(1000));
+    report.add(record(1000));
+    const std::string whole = report.bytes();
+    for (std::size_t size = 0; size <= whole.size(); ++size) {
+        SCOPED_TRACE(size);
+        const FileBytes bytes(whole.substr(0, size));
+        if (size >= 4 && size < 32) {
+            EXPECT_THROW(RptFile(bytes.bytes()), FormatError);
+            continue;
+        }
+        const RptFile file(bytes.bytes());
+        EXPECT_EQ(file.recordCount(), size < 32 ? 0 : (size - 32) / 32);
+    }
+}
+
+TEST(RptFile, APositionIsWithinTheGlobeAndNotOnItsZeroLines) {
+    constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
+    constexpr double kInfinity = std::numeric_limits<double>::infinity();
+    for (const LonLat& good : {LonLat{-60, -34}, LonLat{179.9, 89.9}, LonLat{1e-9, -1e-9}}) {
+        EXPECT_TRUE(isFix(good)) << good.x << ' ' << good.y;
+    }
+    for (const LonLat& bad :
+         {LonLat{0, -34}, LonLat{-60, 0}, LonLat{180, 10}, LonLat{10, -90}, LonLat{kNan, 10},
+          LonLat{10, kNan}, LonLat{kInfinity, 10}, LonLat{10, -kInfinity}}) {
+        EXPECT_FALSE(isFix(bad)) << bad.x << ' ' << bad.y;
+    }
+}
+
+TEST(RptFile, FormatsVersions) {
+    EXPECT_EQ(formatVersion(0x1203), "1.2.03");
+    EXPECT_EQ(formatVersion(0x1121), "1.1.33");
+    EXPECT_EQ(formatVersion(0xFFFF), "15.15.255");
+}
+
+}  // namespace
+
+}  // namespace campora

@@ -1,0 +1,73 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "work/summary_file.h"
+
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "support/temp_folder.h"
+
+namespace campora {
+
+namespace {
+
+using Entries = std::vector<FileProperty>;
+
+TEST(SummaryFile, ReadsNameValueAndUnit) {
+    struct Row {
+        const char* name;
+        std::string bytes;
+        Entries entries;
+    };
+
+    const Row rows[] = {
+        {"plain", "\"Vel:\",\"15\",\"km/h\"\r\n", {{"Vel:", "15", "km/h"}}},
+        {"bare line feeds, no quotes",
+         "Vel:,15,km/h\nA:,b,c",
+         {{"Vel:", "15", "km/h"}, {"A:", "b", "c"}}},
+        {"commas inside", "\"A:\",\"9,5\",\"x,y\"", {{"A:", "9,5", "x,y"}}},
+        {"blanks around fields", " \"A:\" , \" b \" , c ", {{"A:", " b ", "c"}}},
+        {"blanks in the name", "\"  A : \",b,c", {{"A ::", "b", "c"}}},
+        {"the last character of the name goes", "Lotes,b,c", {{"Lote:", "b", "c"}}},
+        {"a last character of two bytes", "Lot\xC3\xA9,b,c", {{"Lot:", "b", "c"}}},
+        {"empty name", "\"\",b,", {{":", "b", ""}}},
+        {"doubled quote", "\"A:\",\"5\"\"\",x", {{"A:", "5\"", "x"}}},
+        {"quote left single by a console", "\"A:\",\"5\" ancho\",x", {{"A:", "5\" ancho", "x"}}},
+        {"Windows-1252", "\"Hect\xE1reas:\",1,Has", {{"Hect\xC3\xA1reas:", "1", "Has"}}},
+        {"UTF-8", "\"Hect\xC3\xA1reas:\",1,Has", {{"Hect\xC3\xA1reas:", "1", "Has"}}},
+        {"a blank line ends it", "A:,1,\n\nB:,2,\n", {{"A:", "1", ""}}},
+        {"two fields end it", "A:,1,\nB:,2\nC:,3,\n", {{"A:", "1", ""}}},
+        {"four fields end it", "A:,1,\nB:,2,3,4\nC:,3,\n", {{"A:", "1", ""}}},
+        {"cut inside quotes", "A:,1,\n\"B:\",\"2", {{"A:", "1", ""}}},
+        {"no text", "", {}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(decodeSummary(row.bytes).entries(), row.entries);
+    }
+}
+
+TEST(SummaryFile, RemembersItsSource) {
+    const TempFolder folder;
+    const std::string path = folder.write("Wrk0001.txt", "A:,1,\n");
+    FileProperties summary;
+    summary.addProperty("old", "", "");
+    loadSummaryFile(path, summary);
+    EXPECT_EQ(summary.entries(), (Entries{{"A:", "1", ""}}));
+    EXPECT_EQ(summary.sourcePath, path);
+
+    loadSummaryFile("", summary);
+    EXPECT_EQ(summary.count(), 1) << "an empty path changes nothing";
+    loadSummaryFile(folder.file("missing.txt"), summary);
+    EXPECT_EQ(summary.count(), 0);
+    EXPECT_EQ(summary.sourcePath, "") << "nothing was read that could be deleted";
+    loadSummaryFile(folder.path(), summary);
+    EXPECT_EQ(summary.sourcePath, "");
+}
+
+}  // namespace
+
+}  // namespace campora
