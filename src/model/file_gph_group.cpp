@@ -6,9 +6,8 @@
 #include <string_view>
 #include <utility>
 
-#include "base/numbers.h"
 #include "base/text.h"
-#include "model/geodesy.h"
+#include "model/shown_number.h"
 
 namespace campora {
 
@@ -42,8 +41,7 @@ void FileGphGroup::calcErrorArea(const MapStyle& style, const UserLocale& locale
             hectares += work->getHectareasError(style, style.errorLimit);
         }
     }
-    summary_.setProperty(kErrorHectares,
-                         numberText(roundSignificant(hectares), locale.decimalSymbol()), "Has");
+    summary_.setProperty(kErrorHectares, shownNumber(hectares, locale), "Has");
 }
 
 void FileGphGroup::clearAlarmas() {
