@@ -106,12 +106,19 @@ double roundHalfEven(double value) {
 }
 
 std::int32_t roundToInt32(double value) {
-    constexpr double kLowest = std::numeric_limits<std::int32_t>::min();
-    constexpr double kHighest = std::numeric_limits<std::int32_t>::max();
-    if (std::isnan(value)) {
-        return 0;
+    using Limits = std::numeric_limits<std::int32_t>;
+    if (!(value > Limits::min() && value < Limits::max())) {
+        if (std::isnan(value)) {
+            return 0;
+        }
+        return value < 0 ? Limits::min() : Limits::max();
     }
-    return static_cast<std::int32_t>(std::clamp(roundHalfEven(value), kLowest, kHighest));
+    // Positions on the map round either way by chance: a branch here would be foretold wrongly half
+    // the time, and a redraw rounds millions of them.
+    const auto whole = static_cast<std::int32_t>(value);
+    const double part = std::fabs(value - whole);  // exact
+    const int away = static_cast<int>(part > 0.5) | (static_cast<int>(part == 0.5) & whole & 1);
+    return value < 0 ? whole - away : whole + away;
 }
 
 std::string numberText(double value) {

@@ -71,7 +71,12 @@ TEST(Rounding, WholeNumbersOf32BitsStopAtTheirLimits) {
         std::int32_t rounded;
     };
     const Row rows[] = {
+        {2.5, 2},
+        {3.5, 4},
         {-2.5, -2},
+        {-3.5, -4},
+        {-0.6, -1},
+        {0.49999999999999994, 0},
         {2147483646.5, kHighest - 1},
         {2147483647.4, kHighest},
         {2147483647.5, kHighest},
