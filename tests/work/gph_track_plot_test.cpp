@@ -124,10 +124,10 @@ TEST(GphTrackPlot, JoinsStepsThatLookAlike) {
          true,
          {}},
         {"just off, but wide enough to be seen",
-         {{1010, 500, 9, 40}, {1010, 600, 9, 40}},
+         {{1090, 500, 9, 200}, {1090, 600, 9, 200}},
          true,
          false,
-         {kWorked + "(990,500) (990,400) (1030,400) (1030,500)"}},
+         {kWorked + "(990,500) (990,400) (1190,400) (1190,500)"}},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
