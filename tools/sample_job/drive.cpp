@@ -167,13 +167,19 @@ private:
         }
     }
 
+    /// Whether a record is due although nothing was switched.
+    [[nodiscard]] bool due() const {
+        if (dot(heading(), loggedHeading_) < kRecordCosine) {
+            return true;
+        }
+        return tick_ % kTicksPerRecord == 0 &&
+               (moved_ >= kRecordMetres || alarms_ != records_.back().alarms);
+    }
+
     void log() {
         const bool switched =
             records_.empty() || working() != loggedWorking_ || factor_ != loggedFactor_;
-        const bool due = moved_ >= kRecordMetres ||
-                         dot(heading(), loggedHeading_) < kRecordCosine ||
-                         alarms_ != records_.back().alarms;
-        if (!switched && !(due && tick_ % kTicksPerRecord == 0)) {
+        if (!switched && !due()) {
             return;
         }
         if (!records_.empty() && moved_ < kSwitchMetres) {

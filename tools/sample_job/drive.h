@@ -72,9 +72,9 @@ struct Drive {
     std::uint64_t seed = 0;
 };
 
-/// What the console logs on the drive: a record every ten metres or so and at every bend, on even
-/// seconds, and one where the machine goes on or off or an alarm does. Doses and speed are what the
-/// console shows: a value stands until the measured one has left it clearly.
+/// What the console logs on the drive: a record every ten metres or so, at every bend, and where
+/// the machine or an alarm goes on or off. Doses and speed are what the console shows: a value
+/// stands until the measured one has left it clearly.
 [[nodiscard]] std::vector<JobRecord> logDrive(const Drive& drive);
 
 }  // namespace campora::sample

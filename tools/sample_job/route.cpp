@@ -14,6 +14,7 @@ namespace {
 constexpr double kSpacing = 2;       ///< metres between the points of a straight line
 constexpr int kCurvePoints = 12;     ///< points of a corner and of half a turn
 constexpr double kCornerReach = 18;  ///< metres of both edges that a corner takes
+constexpr double kBendReach = 60;    ///< the same for gentle bends
 constexpr double kBeyondPass = 3;    ///< metres from the end of a pass to its turn
 constexpr int kSmoothing = 6;        ///< points to both sides that even out a swerve
 
@@ -80,13 +81,12 @@ private:
     }
 
     void addCorner(Place before, Place corner, Place after) {
-        const double reachIn = std::min(kCornerReach, length(corner - before) / 2);
-        const double reachOut = std::min(kCornerReach, length(after - corner) / 2);
         const Place in = direction(corner - before);
         const Place out = direction(after - corner);
-        const Place start = corner - in * reachIn;
-        const Place end = corner + out * reachOut;
         const bool sharp = dot(in, out) < 0.9;
+        const double most = sharp ? kCornerReach : kBendReach;
+        const Place start = corner - in * std::min(most, length(corner - before) / 2);
+        const Place end = corner + out * std::min(most, length(after - corner) / 2);
         addStraight(start, plan_.headlandKmh, true);
         for (int i = 1; i <= kCurvePoints; ++i) {
             // Quadratic Bezier curve.

@@ -36,7 +36,7 @@ constexpr Place kAlongTheRoad{399.0 / 401.0, 40.0 / 401.0};
 
 /// The stream's bank is an S between its two ends.
 Ring fieldByTheStream() {
-    constexpr int kBankPoints = 18;
+    constexpr int kBankPoints = 10;
     Ring ring{{0, 0}};
     for (int i = 0; i <= kBankPoints; ++i) {
         const double t = static_cast<double>(i) / kBankPoints;
@@ -53,7 +53,7 @@ Obstacle pylon(double x, double y) {
             .clearAcross = 18,
             .slowAlong = 26,
             .slowAcross = 30,
-            .kmh = 7.6};
+            .kmh = 7};
 }
 
 FieldPlan sprayingPlan() {

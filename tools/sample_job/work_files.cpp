@@ -96,6 +96,15 @@ JobRecord northEast(const Job& job) {
     return corner;
 }
 
+std::string trackLine(const Job& job, const JobRecord& record, const JobRecord& reference) {
+    const auto west = static_cast<std::uint32_t>(reference.lonMicro - record.lonMicro);
+    const auto south = static_cast<std::uint32_t>(reference.latMicro - record.latMicro);
+    const auto kmh = static_cast<std::uint32_t>(roundToInt32(record.speedTenths / 10.0));
+    std::string line = hexText(west, 5) + hexText(south, 5);
+    line += hexText(flowOf(job, record), 3) + hexText(kmh, 3);
+    return line.append(kLineEnd);
+}
+
 std::string summaryLine(std::string_view name, std::string_view value, std::string_view unit) {
     std::string line = "\"";
     line.append(name).append(":\",\"").append(value).append("\",\"").append(unit).append("\"");
@@ -142,17 +151,16 @@ std::string trackText(const Job& job) {
                 fixedText(-reference.lonMicro, 6, '.'), fixedText(-reference.latMicro, 6, '.'),
                 numberText(job.swathCm / 100.0)},
                '\n');
+    std::string line;
     int pass = job.records.front().pass;
     for (const JobRecord& record : job.records) {
         if (record.pass != pass) {
-            text += kLineEnd;
+            // The next pass begins where this one has ended, so that no step between them is lost.
+            text.append(kLineEnd).append(line);
             pass = record.pass;
         }
-        const auto west = static_cast<std::uint32_t>(reference.lonMicro - record.lonMicro);
-        const auto south = static_cast<std::uint32_t>(reference.latMicro - record.latMicro);
-        const auto kmh = static_cast<std::uint32_t>(roundToInt32(record.speedTenths / 10.0));
-        text += hexText(west, 5) + hexText(south, 5) + hexText(flowOf(job, record), 3);
-        text += hexText(kmh, 3).append(kLineEnd);
+        line = trackLine(job, record, reference);
+        text += line;
     }
     return text;
 }

@@ -20,7 +20,8 @@ namespace campora::sample {
 /// Text table with 8 columns, decimal points, Windows-1252.
 [[nodiscard]] std::string tableText(const Job& job);
 
-/// Logger track file, version 1.3; a blank line between passes. Flow in litres a minute.
+/// Logger track file, version 1.3, flow in litres a minute; a blank line between passes, and the
+/// last record of a pass again as the first of the next.
 [[nodiscard]] std::string trackText(const Job& job);
 
 /// Further lines of a summary: name, value.
