@@ -53,13 +53,15 @@ double figure(FileGphGroup& group, std::string_view property, char symbol = '.')
     return NAN;
 }
 
+/// The records of all passes; with `joined`, a pass begins with the last record of the one before.
 template <typename Records>
-Records recordsOf(const FileGphGroup& group) {
+Records recordsOf(const FileGphGroup& group, bool joined) {
     Records all;
     for (const Gph* layer : group.File_gphList()) {
         const auto& track = dynamic_cast<const GphTrack&>(*layer);
         const auto& records = std::get<Records>(track.records());
-        all.insert(all.end(), records.begin(), records.end());
+        const auto repeated = joined && !all.empty() ? 1 : 0;
+        all.insert(all.end(), records.begin() + repeated, records.end());
     }
     return all;
 }
@@ -115,7 +117,7 @@ TEST(Samples, TrackFileTellsTheDosesOfTheReport) {
     const auto report = open(loadRptFile, "lote-demo.rpt");
     const auto track = open(loadTrackFile, "Log0042.nbr");
     ASSERT_TRUE(report && track);
-    const auto logged = recordsOf<GphTrack::NbrRecords>(*track);
+    const auto logged = recordsOf<GphTrack::NbrRecords>(*track, true);
     const auto job = sample::sprayingJob();
     ASSERT_EQ(logged.size(), job.records.size());
     for (std::size_t i = 0; i < logged.size(); ++i) {
@@ -133,7 +135,7 @@ TEST(Samples, TrackFileTellsTheDosesOfTheReport) {
 TEST(Samples, SprayingJobHoldsWhatItIsToShow) {
     const auto report = open(loadRptFile, "lote-demo.rpt");
     ASSERT_TRUE(report);
-    const auto records = recordsOf<GphTrack::RptRecords>(*report);
+    const auto records = recordsOf<GphTrack::RptRecords>(*report, false);
     std::uint32_t alarms = 0;
     int missed = 0;
     int over = 0;
@@ -161,7 +163,7 @@ TEST(Samples, SowingJobPrescribesBothChannelsByZone) {
     const auto report = open(loadRptFile, "siembra-demo.rpt");
     ASSERT_TRUE(report);
     std::set<std::pair<int, int>> prescribed;
-    for (const TrackDataRPT& record : recordsOf<GphTrack::RptRecords>(*report)) {
+    for (const TrackDataRPT& record : recordsOf<GphTrack::RptRecords>(*report, false)) {
         ASSERT_EQ(record.channels(), 2);
         ASSERT_EQ(record.workKind(), WorkKind::Seeder);
         prescribed.emplace(record.getDosis()[0], record.getDosis()[1]);
