@@ -42,7 +42,7 @@ struct Desk {
         RptBytes bytes(1, serial);
         for (int i = 0; i < 3; ++i) {
             RptBytes::Record record;
-            record.position = metresFromOrigin(10.0 * i, 0);
+            record.position = fixAt(10.0 * i, 0);
             record.realTenths[0] = realTenths + 10 * i;
             bytes.add(record);
         }
