@@ -1,0 +1,64 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "base/failure.h"
+#include "base/texts.h"
+#include "model/map_style.h"
+
+namespace campora {
+
+enum class Command { Info, Render };
+
+struct PixelSize {
+    int width = 0;
+    int height = 0;
+
+    bool operator==(const PixelSize&) const = default;
+};
+
+/// A command line of the batch program, taken apart.
+struct Arguments {
+    Command command = Command::Info;
+    std::vector<std::string> files;
+
+    Language language = Language::Spanish;
+    char decimalSymbol = '.';
+    std::string dateForm = "dd/mm/yyyy";
+    /// Empty: the installed data.
+    std::string programFolder;
+    /// The answer to the question for the swath width; none: what the question proposes.
+    std::optional<std::string> swath;
+    /// The answer to the question for the columns of a text table.
+    std::string columns = "8";
+    /// The answer to every Yes/No question.
+    bool yes = false;
+
+    bool json = false;
+
+    std::string output;
+    PixelSize size{1200, 900};
+    /// What the options say about the looks of the map.
+    MapStyle style;
+    bool overlay = true;
+};
+
+/// `arguments`: the command line without the program's name. A failure tells the user what is wrong
+/// with it.
+[[nodiscard]] Result<Arguments> parseArguments(std::span<const std::string> arguments);
+
+/// The language that a command line asks for, whatever else is wrong with it.
+[[nodiscard]] Language languageOf(std::span<const std::string> arguments);
+
+[[nodiscard]] bool asksForHelp(std::span<const std::string> arguments);
+
+/// All commands and options, in lines.
+[[nodiscard]] std::string usage(const Texts& texts);
+
+}  // namespace campora
