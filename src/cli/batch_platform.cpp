@@ -1,0 +1,58 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "cli/batch_platform.h"
+
+#include "base/text.h"
+
+namespace campora {
+
+std::string oneLine(std::string_view text) {
+    return replaceAll(replaceAll(text, "\r\n", "\n"), "\n", " | ");
+}
+
+void BatchDialogs::message(std::string_view text, MessageIcon /*icon*/,
+                           std::string_view /*caption*/) {
+    boxes_ << oneLine(text) << '\n';
+}
+
+bool BatchDialogs::askYesNo(std::string_view text, MessageIcon /*icon*/,
+                            std::string_view /*caption*/) {
+    boxes_ << oneLine(text) << '\n';
+    return arguments_.yes;
+}
+
+std::string BatchDialogs::inputBox(TextId prompt, std::string_view /*caption*/,
+                                   std::string_view proposed) {
+    switch (prompt) {
+    case TextId::AskSwath:
+        return arguments_.swath.value_or(std::string(proposed));
+    case TextId::AskColumns:
+        return arguments_.columns;
+    default:
+        return std::string(proposed);
+    }
+}
+
+std::string BatchDialogs::openFile(const OpenRequest& /*request*/) {
+    return {};
+}
+
+BatchSession::BatchSession(const Arguments& arguments, MapCanvas& canvas, std::ostream& boxes)
+    : arguments_(arguments),
+      dialogs_(arguments, boxes),
+      locale_(arguments),
+      session_({canvas, window_, dialogs_, settings_, locale_, clipboard_}, arguments.language,
+               arguments.programFolder) {
+    session_.start();
+}
+
+bool BatchSession::openFiles() {
+    bool all = true;
+    for (const std::string& path : arguments_.files) {
+        all = session_.loadFile(path, false, false) && all;
+    }
+    return all;
+}
+
+}  // namespace campora

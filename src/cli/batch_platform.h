@@ -1,0 +1,127 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <optional>
+#include <ostream>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "app/session.h"
+#include "cli/arguments.h"
+
+namespace campora {
+
+/// A line break inside a box as " | ", so that one box is one line.
+[[nodiscard]] std::string oneLine(std::string_view text);
+
+/// Boxes go to a stream, one a line, questions too; the answers come from the command line.
+class BatchDialogs final : public Dialogs {
+public:
+    BatchDialogs(const Arguments& arguments, std::ostream& boxes)
+        : arguments_(arguments), boxes_(boxes) {}
+
+    void message(std::string_view text, MessageIcon icon, std::string_view caption) override;
+    [[nodiscard]] bool askYesNo(std::string_view text, MessageIcon icon,
+                                std::string_view caption) override;
+    [[nodiscard]] std::string inputBox(TextId prompt, std::string_view caption,
+                                       std::string_view proposed) override;
+    [[nodiscard]] std::string openFile(const OpenRequest& request) override;
+
+private:
+    const Arguments& arguments_;
+    std::ostream& boxes_;
+};
+
+class BatchLocale final : public UserLocale {
+public:
+    explicit BatchLocale(const Arguments& arguments) : arguments_(arguments) {}
+
+    [[nodiscard]] char decimalSymbol() const override { return arguments_.decimalSymbol; }
+    [[nodiscard]] std::string shortDateForm() const override { return arguments_.dateForm; }
+
+private:
+    const Arguments& arguments_;
+};
+
+/// A run knows nothing of the settings of the user's window, and leaves them alone.
+class NoSettings final : public SettingsStore {
+public:
+    [[nodiscard]] std::optional<std::string> read(std::string_view /*key*/) const override {
+        return std::nullopt;
+    }
+    void write(std::string_view /*key*/, std::string_view /*value*/) override {}
+};
+
+class NoClipboard final : public Clipboard {
+public:
+    void setText(std::string_view /*text*/) override {}
+};
+
+class NoWindow final : public MainWindowControls {
+public:
+    void setTitle(std::string_view /*title*/) override {}
+    void setFileList(std::span<const FileListRow> /*rows*/,
+                     std::optional<int> /*selected*/) override {}
+    void setSummary(std::span<const SummaryRow> /*rows*/) override {}
+    void setLegend(const LegendContent& /*legend*/) override {}
+    void setViewControls(const ViewControls& /*controls*/) override {}
+    void setFileCommandsEnabled(bool /*enabled*/) override {}
+    void setWorkStatus(std::string_view /*text*/) override {}
+};
+
+/// A canvas without area, on which nothing shows.
+class NoCanvas final : public MapCanvas {
+public:
+    [[nodiscard]] CanvasSize size() const override { return {}; }
+    void clear() override {}
+    void setBackgroundColor(Color /*color*/) override {}
+    [[nodiscard]] Color backgroundColor() const override { return {}; }
+    void setPenColor(Color /*color*/) override {}
+    [[nodiscard]] Color penColor() const override { return {}; }
+    void setPenWidth(int /*pixels*/) override {}
+    void setPenStyle(PenStyle /*style*/) override {}
+    [[nodiscard]] PenStyle penStyle() const override { return PenStyle::Solid; }
+    void setFillColor(Color /*color*/) override {}
+    void setFillStyle(FillStyle /*style*/) override {}
+    void line(CanvasPoint /*from*/, CanvasPoint /*to*/, Color /*color*/) override {}
+    void rectangle(CanvasPoint /*corner*/, CanvasPoint /*opposite*/, Color /*color*/,
+                   RectangleStyle /*style*/) override {}
+    void point(CanvasPoint /*at*/, Color /*color*/) override {}
+    void polygon(std::span<const CanvasPoint> /*ring*/) override {}
+    void text(CanvasPoint /*at*/, std::string_view /*text*/, TextAnchor /*anchor*/,
+              bool /*bold*/) override {}
+    [[nodiscard]] CanvasSize textSize(std::string_view /*text*/, bool /*bold*/) const override {
+        return {};
+    }
+    void paintPicture(MapPicture /*picture*/, CanvasPoint /*topLeft*/,
+                      CanvasSize /*size*/) override {}
+    void refresh() override {}
+    void setPointer(PointerShape /*shape*/) override {}
+};
+
+/// A session as the command line describes it, started, without a window.
+class BatchSession {
+public:
+    /// `arguments`, `canvas` and `boxes` must outlive it.
+    BatchSession(const Arguments& arguments, MapCanvas& canvas, std::ostream& boxes);
+
+    [[nodiscard]] Session& session() { return session_; }
+    /// Opens the files of the command line in order, without drawing them; false when one was not
+    /// taken.
+    [[nodiscard]] bool openFiles();
+
+private:
+    const Arguments& arguments_;
+    BatchDialogs dialogs_;
+    BatchLocale locale_;
+    NoSettings settings_;
+    NoClipboard clipboard_;
+    NoWindow window_;
+    Session session_;
+};
+
+}  // namespace campora

@@ -1,0 +1,33 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <ostream>
+
+#include "cli/arguments.h"
+
+namespace campora {
+
+/// Where a command prints what was asked for, and what a window would show in boxes.
+struct Console {
+    std::ostream& out;
+    std::ostream& boxes;
+};
+
+/// What a program hands back to the one who started it.
+namespace exit_status {
+inline constexpr int kDone = 0;
+/// A file was refused or an output could not be written; the rest was done.
+inline constexpr int kRefused = 1;
+inline constexpr int kWrongCommandLine = 2;
+}  // namespace exit_status
+
+/// Each command answers its exit status.
+
+/// What the main window would hold after opening the files.
+[[nodiscard]] int runInfo(const Arguments& arguments, const Console& console);
+/// The whole map as a picture. Without a map no picture is written.
+[[nodiscard]] int runRender(const Arguments& arguments, const Console& console);
+
+}  // namespace campora

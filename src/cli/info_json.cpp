@@ -1,0 +1,145 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "cli/info_json.h"
+
+#include <string>
+
+#include "base/dates.h"
+#include "base/numbers.h"
+#include "cli/json_writer.h"
+#include "model/exportable.h"
+
+namespace campora {
+
+namespace {
+
+void writeBound(JsonWriter& json, const BoundingBox& box) {
+    json.key("bound");
+    if (!box.isSet) {
+        json.null();
+        return;
+    }
+    json.beginObject();
+    json.member("minX", box.minX);
+    json.member("minY", box.minY);
+    json.member("maxX", box.maxX);
+    json.member("maxY", box.maxY);
+    json.member("widthM", box.widthM);
+    json.member("heightM", box.heightM);
+    json.endObject();
+}
+
+void writeSummary(JsonWriter& json, const FileProperties& summary) {
+    json.key("summary");
+    json.beginArray();
+    for (const FileProperty& entry : summary.entries()) {
+        json.beginObject();
+        json.member("property", entry.property);
+        json.member("value", entry.value);
+        json.member("unit", entry.unit);
+        json.endObject();
+    }
+    json.endArray();
+}
+
+void writeLayers(JsonWriter& json, const File& file) {
+    json.key("layers");
+    json.beginArray();
+    for (const Gph* layer : file.File_gphList()) {
+        json.beginObject();
+        json.member("kind", layer->Gph_kind());
+        json.member("elements", layer->Gph_count());
+        json.key("points");
+        if (const auto* const points = dynamic_cast<const ExportablePoint*>(layer)) {
+            json.value(points->ExportablePoint_pointCount());
+        } else {
+            json.null();
+        }
+        writeBound(json, layer->Gph_bound());
+        json.endObject();
+    }
+    json.endArray();
+}
+
+std::string colorText(Color color) {
+    return "#" + hexText(static_cast<std::uint32_t>(color.red()), 2) +
+           hexText(static_cast<std::uint32_t>(color.green()), 2) +
+           hexText(static_cast<std::uint32_t>(color.blue()), 2);
+}
+
+void writeScale(JsonWriter& json, const ColorScale* scale) {
+    json.key("scale");
+    if (scale == nullptr) {
+        json.null();
+        return;
+    }
+    json.beginArray();
+    for (const Clase& clase : scale->classes()) {
+        json.beginObject();
+        json.member("lower", clase.lower);
+        json.member("upper", clase.upper);
+        json.member("color", colorText(clase.color));
+        json.endObject();
+    }
+    json.endArray();
+}
+
+void writeFile(JsonWriter& json, File& file) {
+    json.beginObject();
+    json.member("name", file.File_name());
+    json.member("path", file.File_path());
+    json.member("icon", file.File_icon());
+    json.member("id", file.File_id());
+    json.member("priority", file.File_priority());
+    writeBound(json, file.File_bound());
+    writeSummary(json, file.File_resumen());
+    writeLayers(json, file);
+    writeScale(json, file.File_escalaColores());
+    json.endObject();
+}
+
+float shown(float value) {
+    return value;
+}
+
+std::string shown(std::int32_t day) {
+    return dateText(dateOfDayNumber(day), "yyyy-mm-dd");
+}
+
+template <typename T>
+void writeRange(JsonWriter& json, const std::string& name,
+                const std::optional<ValueRange<T>>& range) {
+    for (const bool least : {true, false}) {
+        json.key(name + (least ? "Min" : "Max"));
+        if (range) {
+            json.value(shown(least ? range->least : range->greatest));
+        } else {
+            json.null();
+        }
+    }
+}
+
+}  // namespace
+
+void writeInfoJson(Session& session, std::ostream& out) {
+    JsonWriter json(out);
+    json.beginObject();
+    json.key("files");
+    json.beginArray();
+    for (int i = 0; i < session.plotCount(); ++i) {
+        writeFile(json, session.files().file(i));
+    }
+    json.endArray();
+    json.key("ranges");
+    json.beginObject();
+    const ValueRanges& ranges = session.ranges();
+    writeRange(json, "flow", ranges.flow);
+    writeRange(json, "litres", ranges.litres);
+    writeRange(json, "dose", ranges.dose);
+    writeRange(json, "date", ranges.date);
+    json.endObject();
+    json.endObject();
+}
+
+}  // namespace campora

@@ -1,0 +1,17 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <ostream>
+
+#include "app/session.h"
+
+namespace campora {
+
+/// All that a session holds as one JSON object: "files" in list order, each with its summary,
+/// layers and scale, and the "ranges" of the values loaded. What has never been set is null; dates
+/// are yyyy-mm-dd, colours "#RRGGBB", positions degrees.
+void writeInfoJson(Session& session, std::ostream& out);
+
+}  // namespace campora

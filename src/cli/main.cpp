@@ -1,0 +1,55 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include <QCoreApplication>
+#include <QDir>
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "cli/program.h"
+
+namespace {
+
+/// The command line as UTF-8. Elsewhere than on Windows a name may hold any bytes, which must not
+/// go through a decoder.
+std::vector<std::string> commandLine([[maybe_unused]] int argc, [[maybe_unused]] char* argv[]) {
+    std::vector<std::string> arguments;
+#ifdef _WIN32
+    for (const QString& argument : QCoreApplication::arguments()) {
+        arguments.push_back(argument.toStdString());
+    }
+#else
+    arguments.assign(argv, argv + argc);
+#endif
+    if (!arguments.empty()) {
+        arguments.erase(arguments.begin());
+    }
+    return arguments;
+}
+
+/// "share/campora" beside the folder of the programs where it is installed, else that folder.
+std::string dataFolder() {
+    const QDir programs(QCoreApplication::applicationDirPath());
+    const QDir installed(programs.filePath("../share/campora"));
+    return (installed.exists() ? installed : programs).absolutePath().toStdString();
+}
+
+struct Start {
+    std::vector<std::string> arguments;
+    std::string dataFolder;
+};
+
+Start start(int argc, char* argv[]) {
+    const QCoreApplication application(argc, argv);
+    return {commandLine(argc, argv), dataFolder()};
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+    // Standard error is for the boxes of the program; what Qt remarks about the desktop is none.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+    const Start begin = start(argc, argv);
+    return campora::runProgram(begin.arguments, begin.dataFolder, {std::cout, std::cerr});
+}

@@ -1,0 +1,243 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "cli/program.h"
+
+#include <QImage>
+#include <algorithm>
+#include <filesystem>
+#include <iterator>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "base/paths.h"
+#include "cli/batch_platform.h"
+#include "support/temp_folder.h"
+#include "support/work_files.h"
+
+namespace campora {
+namespace {
+
+using Words = std::vector<std::string>;
+
+struct Outcome {
+    int status = 0;
+    std::string out;
+    std::string boxes;
+};
+
+Outcome run(const Words& words, const std::string& dataFolder = "") {
+    std::ostringstream out;
+    std::ostringstream boxes;
+    const int status = runProgram(words, dataFolder, {out, boxes});
+    return {status, out.str(), boxes.str()};
+}
+
+/// A report of three points, 10 m apart from west to east, with a swath of 20 m.
+std::string reportBytes(std::int32_t realTenths = 1000) {
+    RptBytes bytes(1);
+    for (int i = 0; i < 3; ++i) {
+        RptBytes::Record record;
+        record.position = fixAt(10.0 * i, 0);
+        record.realTenths[0] = realTenths;
+        record.alarms = 1;
+        bytes.add(record);
+    }
+    return bytes.bytes();
+}
+
+std::string trackBytes(int points) {
+    TrackText text;
+    for (int i = 0; i < points; ++i) {
+        text.addPoint(100U * static_cast<std::uint32_t>(i), 0, 5, 20);
+    }
+    return text.bytes();
+}
+
+TEST(Program, TellsWhatIsInAFile) {
+    const TempFolder folder;
+    folder.write("matriculas.txt", "6001:LV-XYZ");
+    const std::string path = folder.write("log0001.nbr", trackBytes(3));
+    folder.write("Wrk0001.txt", "Lote,La Loma,\r\nAncho.,18,mts\r\n");
+    const Outcome outcome = run({"info", path}, folder.path());
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.boxes, "");
+    EXPECT_EQ(outcome.out, "log0001.nbr (LV-XYZ)\n"
+                           "  " +
+                               path +
+                               "\n"
+                               "  Lot: La Loma\n"
+                               "  Ancho: 18 mts\n"
+                               "  Capas GphTrack: 1 (2 elementos, 3 puntos)\n"
+                               "  Extensión: (-60.5002; -31.5) a (-60.5; -31.5), 19 x 0 m\n");
+    EXPECT_EQ(
+        run({"info", path, "--program-dir", folder.file("otra")}, folder.path()).out.find("LV-XYZ"),
+        std::string::npos);
+}
+
+TEST(Program, AFileThatIsRefusedDoesNotStopTheOthers) {
+    const TempFolder folder;
+    const std::string good = folder.write("bueno.rpt", reportBytes());
+    struct Row {
+        const char* name;
+        std::string path;
+        std::size_t boxes;
+    };
+    const Row rows[] = {
+        {"not there", folder.file("falta.rpt"), 1},
+        {"no reader", folder.write("carta.doc", "Estimado"), 1},
+        {"open already", good, 0},
+        {"cut short", folder.write("corto.rpt", reportBytes().substr(0, 20)), 1},
+        {"a folder", folder.path(), 1},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        const Outcome outcome = run({"info", good, row.path, "--json"});
+        EXPECT_EQ(outcome.status, 1);
+        EXPECT_EQ(std::count(outcome.boxes.begin(), outcome.boxes.end(), '\n'),
+                  static_cast<std::ptrdiff_t>(row.boxes));
+        EXPECT_NE(outcome.out.find("\"name\": \"bueno.rpt\""), std::string::npos);
+    }
+}
+
+TEST(Program, OptionsAnswerTheQuestions) {
+    const TempFolder folder;
+    const std::string more = folder.write("log0001.nbr", trackBytes(4));
+    const std::string less = folder.write("log0002.nbr", trackBytes(3));
+    const Outcome no = run({"info", more, less});
+    EXPECT_EQ(no.status, 1);
+    EXPECT_EQ(no.boxes, "El archivo  |  | " + less +
+                            " |  | corresponde a un trabajo ya cargdo y mas completo en |  | " +
+                            more + " |  | Desea eliminar del disco el archivo viejo?\n");
+    EXPECT_TRUE(std::filesystem::exists(nativePath(less)));
+    EXPECT_EQ(run({"info", more, less, "--yes"}).status, 1);
+    EXPECT_FALSE(std::filesystem::exists(nativePath(less)));
+
+    RptBytes fourFields;
+    fourFields.addFourFields(fixAt(0, 0), 1000);
+    fourFields.addFourFields(fixAt(100, 0), 1000);
+    const std::string report = folder.write("viejo.rpt", fourFields.bytes());
+    const Outcome answered = run({"info", report, "--swath", "40"});
+    EXPECT_NE(answered.out.find("Hect. Trabajadas: 0.4"), std::string::npos) << answered.out;
+    EXPECT_EQ(run({"info", report, "--swath", ""}).status, 1);
+}
+
+TEST(Program, AWrongCommandLineShowsTheUsage) {
+    const Outcome outcome = run({"info", "a.rpt", "--size", "2x2", "--language", "en"});
+    EXPECT_EQ(outcome.status, 2);
+    EXPECT_EQ(outcome.out, "");
+    EXPECT_TRUE(outcome.boxes.starts_with("Unknown option: --size\n\nUsage: campora-cli "));
+    const Outcome help = run({"--help"});
+    EXPECT_EQ(help.status, 0);
+    EXPECT_TRUE(help.out.starts_with("Uso: campora-cli "));
+    EXPECT_EQ(help.boxes, "");
+}
+
+TEST(Program, BoxesTakeOneLine) {
+    EXPECT_EQ(oneLine("a\r\n\r\nb\nc"), "a |  | b | c");
+}
+
+/// Renders a report at half the usual size and answers the picture.
+QImage render(const TempFolder& folder, const std::string& report, const Words& options) {
+    const std::string picture = folder.file("mapa.png");
+    Words words = {"render", report, "-o", picture, "--size", "600x450"};
+    words.insert(words.end(), options.begin(), options.end());
+    const Outcome outcome = run(words);
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.boxes, "");
+    return QImage(QString::fromStdString(picture));
+}
+
+int pixelsOf(QRgb color, const QImage& picture) {
+    int count = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            count += picture.pixel(x, y) == color ? 1 : 0;
+        }
+    }
+    return count;
+}
+
+TEST(Program, RendersTheMapInTheChosenColours) {
+    struct Row {
+        const char* name;
+        Words options;
+        QRgb swath;
+    };
+    const Row rows[] = {
+        {"dose", {}, qRgb(255, 255, 0)},
+        {"plain", {"--mode", "plain"}, qRgb(0x80, 0x80, 0xFF)},
+        {"alarm", {"--mode", "alarm"}, qRgb(255, 0, 0)},
+        {"date", {"--mode", "date"}, qRgb(255, 255, 0)},
+        {"error", {"--mode", "error", "--channel", "1"}, qRgb(255, 0, 255)},
+        {"error within the limit", {"--mode", "error", "--error-limit", "60"}, qRgb(255, 255, 0)},
+    };
+    const TempFolder folder;
+    const std::string report = folder.write("lote.rpt", reportBytes(1500));
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        const QImage picture = render(folder, report, row.options);
+        ASSERT_EQ(picture.size(), QSize(600, 450));
+        // The two steps meet in the middle; this is inside the first.
+        EXPECT_EQ(picture.pixel(150, 232), row.swath);
+    }
+}
+
+TEST(Program, StepsWithoutFlowAreDrawnAsTheOptionsSay) {
+    const TempFolder folder;
+    const std::string report = folder.write("lote.rpt", reportBytes(0));
+    const QRgb white = qRgb(255, 255, 255);
+    EXPECT_NE(render(folder, report, {}).pixel(150, 232), white);
+    EXPECT_EQ(render(folder, report, {"--only-worked"}).pixel(150, 232), white);
+    const QImage dotted = render(folder, report, {"--only-worked", "--dotted"});
+    EXPECT_GT(pixelsOf(qRgb(0, 255, 0x40), dotted), 0);
+    EXPECT_EQ(dotted.pixel(150, 300), white);
+}
+
+TEST(Program, TheOverlayCanBeLeftOut) {
+    const TempFolder folder;
+    const std::string report = folder.write("lote.rpt", reportBytes());
+    const QPoint leftTick(7, 26);
+    EXPECT_EQ(render(folder, report, {"--no-borders"}).pixel(leftTick), qRgb(0, 0, 0));
+    EXPECT_NE(render(folder, report, {"--no-borders", "--no-overlay"}).pixel(leftTick),
+              qRgb(0, 0, 0));
+}
+
+TEST(Program, BordersCanBeLeftOut) {
+    const TempFolder folder;
+    const std::string report = folder.write("lote.rpt", reportBytes());
+    const QRgb black = qRgb(0, 0, 0);
+    EXPECT_GT(pixelsOf(black, render(folder, report, {"--no-overlay"})), 0);
+    EXPECT_EQ(pixelsOf(black, render(folder, report, {"--no-overlay", "--no-borders"})), 0);
+}
+
+TEST(Program, TheEndingOfThePictureIsItsFormat) {
+    const TempFolder folder;
+    const std::string report = folder.write("lote.rpt", reportBytes());
+    ASSERT_EQ(run({"render", report, "-o", folder.file("mapa.BMP"), "--size", "20x10"}).status, 0);
+    const QImage bitmap(QString::fromStdString(folder.file("mapa.BMP")), "BMP");
+    EXPECT_EQ(bitmap.size(), QSize(20, 10));
+}
+
+TEST(Program, APictureThatCannotBeMadeLeavesNothing) {
+    const TempFolder folder;
+    const std::string report = folder.write("lote.rpt", reportBytes());
+    const std::string old = folder.write("mapa.png", "the old one");
+    EXPECT_EQ(run({"render", folder.file("falta.rpt"), "-o", old}).status, 1);
+    EXPECT_EQ(std::filesystem::file_size(nativePath(old)), 11U);
+
+    const Outcome outcome = run({"render", report, "-o", folder.file("falta/mapa.png")});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_NE(outcome.boxes.find("mapa.png"), std::string::npos);
+
+    EXPECT_EQ(run({"render", report, folder.file("falta.rpt"), "-o", old}).status, 1);
+    EXPECT_FALSE(QImage(QString::fromStdString(old)).isNull()) << "what could be done is done";
+    const auto files = std::filesystem::directory_iterator(nativePath(folder.path()));
+    EXPECT_EQ(std::distance(begin(files), end(files)), 2);
+}
+
+}  // namespace
+}  // namespace campora

@@ -1,0 +1,110 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+// Runs `info --json` over the shared samples and compares all it says with what stands beside them.
+// Skipped where the samples are not there.
+
+#include "support/shared_samples.h"
+
+#include <cmath>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include "base/paths.h"
+#include "base/text.h"
+#include "cli/program.h"
+
+namespace campora {
+namespace {
+
+using nlohmann::json;
+using Words = std::vector<std::string>;
+
+json readJson(const std::string& path) {
+    return json::parse(std::ifstream(path));
+}
+
+/// One run in the form of the expectation files: paths reduced to the name of the file.
+json run(const std::string& folder, const Words& files, const Words& options) {
+    Words words = {"info", "--json", "--program-dir", folder};
+    for (const std::string& file : files) {
+        words.push_back(folder + "/" + file);
+    }
+    words.insert(words.end(), options.begin(), options.end());
+    std::ostringstream out;
+    std::ostringstream boxes;
+    json result;
+    result["exit"] = runProgram(words, "", {out, boxes});
+    const std::string shortened =
+        replaceAll(replaceAll(boxes.str(), folder + "/copia/", ""), folder + "/", "");
+    result["boxes"] = json::array();
+    for (const std::string_view line : split(shortened, '\n')) {
+        if (!line.empty()) {
+            result["boxes"].push_back(line);
+        }
+    }
+    result["output"] = json::parse(out.str());
+    for (json& file : result["output"]["files"]) {
+        file["path"] = fileNamePart(file["path"].get<std::string>());
+    }
+    return result;
+}
+
+/// Degrees and metres may differ by a billionth, ranges are 32-bit floats; all else is the same.
+void expectSame(const json& actual, const json& expected, const std::string& where) {
+    if (expected.is_structured()) {
+        ASSERT_EQ(actual.type(), expected.type()) << where;
+        ASSERT_EQ(actual.size(), expected.size()) << where;
+        for (const auto& [key, value] : expected.items()) {
+            const std::string inside = where + "/" + key;
+            ASSERT_TRUE(expected.is_array() || actual.contains(key)) << inside;
+            expectSame(expected.is_array() ? actual[std::stoul(key)] : actual[key], value, inside);
+        }
+    } else if (expected.is_number() && where.find("/ranges/") != std::string::npos) {
+        ASSERT_TRUE(actual.is_number()) << where;
+        EXPECT_EQ(actual.get<float>(), expected.get<float>()) << where;
+    } else if (expected.is_number_float()) {
+        ASSERT_TRUE(actual.is_number()) << where;
+        const double value = expected.get<double>();
+        EXPECT_NEAR(actual.get<double>(), value, 1e-9 * std::abs(value)) << where;
+    } else {
+        EXPECT_EQ(actual, expected) << where;
+    }
+}
+
+TEST(InfoOfSharedSamples, EveryFileAloneIsAsExpected) {
+    const auto folder = sharedSample("samples/work");
+    if (!folder) {
+        GTEST_SKIP() << "no shared samples";
+    }
+    const json all = readJson(*folder + "/expected.json");
+    for (const auto& [name, expected] : all.items()) {
+        const bool comma = name.find("coma decimal") != std::string::npos;
+        const json result = run(*folder, {name}, {"--decimal", comma ? "," : "."});
+        expectSame(result["output"], expected, name);
+        EXPECT_EQ(result["exit"], expected["files"].empty() ? 1 : 0) << name;
+    }
+}
+
+TEST(InfoOfSharedSamples, SeveralFilesAndOtherAnswersAreAsExpected) {
+    const auto folder = sharedSample("samples/work");
+    if (!folder) {
+        GTEST_SKIP() << "no shared samples";
+    }
+    for (const json& expected : readJson(*folder + "/expected_runs.json")) {
+        const json result =
+            run(*folder, expected["files"].get<Words>(), expected["options"].get<Words>());
+        const std::string where = expected["files"].dump() + expected["options"].dump();
+        for (const char* part : {"exit", "boxes", "output"}) {
+            expectSame(result[part], expected[part], where + "/" + part);
+        }
+    }
+}
+
+}  // namespace
+}  // namespace campora
