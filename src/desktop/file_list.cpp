@@ -17,8 +17,13 @@ namespace {
 
 /// The picture of a key, or that of "copy" where there is none.
 QIcon fileIcon(const std::string& key) {
-    const QString path = ":/icons/" + toQt(key) + ".svg";
-    return QIcon(!key.empty() && QFile::exists(path) ? path : ":/icons/copy.svg");
+    QString path = ":/icons/" + toQt(key) + ".svg";
+    if (key.empty() || !QFile::exists(path)) {
+        path = ":/icons/copy.svg";
+    }
+    QIcon icon(path);
+    icon.addFile(path, {}, QIcon::Selected);  // not tinted by the selection
+    return icon;
 }
 
 }  // namespace

@@ -6,11 +6,24 @@
 #include <QApplication>
 #include <QIcon>
 #include <QPalette>
-#include <QStyleFactory>
+#include <QProxyStyle>
 
 namespace campora {
 
 namespace {
+
+class Style final : public QProxyStyle {
+public:
+    Style() : QProxyStyle("Fusion") {}
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override {
+        // The desktop's pictures on buttons would not match the program's own.
+        return hint == SH_DialogButtonBox_ButtonsHaveIcons
+                   ? 0
+                   : QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
 
 QPalette lightPalette() {
     struct Row {
@@ -50,7 +63,7 @@ QPalette lightPalette() {
 }  // namespace
 
 void applyLook(QApplication& application) {
-    application.setStyle(QStyleFactory::create("Fusion"));
+    application.setStyle(new Style);
     application.setPalette(lightPalette());
     application.setWindowIcon(QIcon(":/icons/campora.svg"));
 }

@@ -123,10 +123,10 @@ void MapWidget::fitCanvas() {
 void MapWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.drawImage(0, 0, canvas_.image());
-    if (mapShown_) {
-        paintScaleBar(painter);
-    } else {
+    if (!mapShown_) {
         paintHint(painter);
+    } else if (!controls_.scaleLabel.empty()) {
+        paintScaleBar(painter);
     }
     if (!painted_) {
         painted_ = true;

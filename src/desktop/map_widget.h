@@ -34,7 +34,7 @@ public:
     void fitCanvas();
 
     [[nodiscard]] QSize sizeHint() const override { return {900, 700}; }
-    [[nodiscard]] QSize minimumSizeHint() const override { return {200, 200}; }
+    [[nodiscard]] QSize minimumSizeHint() const override { return {280, 240}; }
 
 signals:
     /// The canvas has another size or pixel ratio and is empty.

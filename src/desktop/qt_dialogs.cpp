@@ -14,6 +14,8 @@ namespace campora {
 
 namespace {
 
+constexpr QSize kOpenDialogSize{760, 480};
+
 QMessageBox::Icon iconOf(MessageIcon icon) {
     switch (icon) {
     case MessageIcon::Plain:
@@ -84,6 +86,7 @@ std::string QtDialogs::openFile(const OpenRequest& request) {
         filters += filterText(filter);
     }
     dialog.setNameFilters(filters);
+    dialog.resize(kOpenDialogSize);
     return dialog.exec() == QDialog::Accepted ? toUtf8(dialog.selectedFiles().value(0))
                                               : std::string();
 }

@@ -56,7 +56,7 @@ SidePanel::SidePanel(QWidget* parent)
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(kSpacing, 2 * kSpacing, 2 * kSpacing, kSpacing);
     column->addWidget(parts);
-    setMinimumWidth(210);
+    setMinimumWidth(240);
 }
 
 void SidePanel::retranslate(const Texts& texts) {

@@ -23,8 +23,10 @@ SummaryTable::SummaryTable(QWidget* parent) : QTreeWidget(parent) {
 
 void SummaryTable::setRows(std::span<const SummaryRow> rows) {
     clear();
+    const QSize roomy(0, fontMetrics().height() + 6);
     for (const SummaryRow& row : rows) {
         auto* item = new QTreeWidgetItem(this, {toQt(row.property), toQt(row.value)});
+        item->setSizeHint(1, roomy);
         item->setToolTip(0, plainToolTip(item->text(0)));
         item->setToolTip(1, plainToolTip(item->text(1)));
     }

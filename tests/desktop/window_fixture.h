@@ -44,14 +44,16 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
     }
 
-    /// A report of one pass of 400 m that starts so far east of the origin.
+    /// A report of one pass of 5 by 2.5 km that starts so far east of the origin.
     std::string writeReport(const std::string& name, double eastM = 0) const {
         RptBytes report(1);
-        for (int i = 0; i < 40; ++i) {
+        for (int i = 0; i < 100; ++i) {
             RptBytes::Record record;
-            record.position = metresFromOrigin(eastM + 10.0 * i, 5.0 * i);
+            record.position = fixAt(eastM + 50.0 * i, 25.0 * i);
+            record.swathCm = 4000;
             record.realTenths[0] = 900 + 10 * i;
-            record.time.time.second = i;
+            record.time.time.minute = i / 60;
+            record.time.time.second = i % 60;
             report.add(record);
         }
         return folder.write(name, report.bytes());
