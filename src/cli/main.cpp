@@ -1,11 +1,12 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include <QCoreApplication>
-#include <QDir>
 #include <iostream>
 #include <string>
 #include <vector>
+
+#include <QCoreApplication>
+#include <QDir>
 
 #include "cli/program.h"
 

@@ -1,12 +1,13 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include <QBuffer>
-#include <QGuiApplication>
 #include <cstddef>
 #include <optional>
 #include <span>
 #include <string>
+
+#include <QBuffer>
+#include <QGuiApplication>
 
 #include "base/files.h"
 #include "base/paths.h"

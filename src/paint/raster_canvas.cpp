@@ -3,13 +3,14 @@
 
 #include "paint/raster_canvas.h"
 
+#include <algorithm>
+#include <array>
+#include <cmath>
+
 #include <QFont>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPolygonF>
-#include <algorithm>
-#include <array>
-#include <cmath>
 
 namespace campora {
 

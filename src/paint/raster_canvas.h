@@ -3,9 +3,10 @@
 
 #pragma once
 
-#include <QImage>
 #include <functional>
 #include <vector>
+
+#include <QImage>
 
 #include "paint/pixel_grid.h"
 #include "platform/map_canvas.h"

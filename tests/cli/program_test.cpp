@@ -3,7 +3,6 @@
 
 #include "cli/program.h"
 
-#include <QImage>
 #include <algorithm>
 #include <filesystem>
 #include <iterator>
@@ -11,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include <QImage>
 #include <gtest/gtest.h>
 
 #include "base/paths.h"
