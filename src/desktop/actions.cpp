@@ -3,13 +3,14 @@
 
 #include "desktop/actions.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include <QAction>
 #include <QIcon>
 #include <QMenu>
 #include <QMenuBar>
 #include <QToolBar>
-#include <algorithm>
-#include <iterator>
 
 #include "desktop/main_window.h"
 #include "desktop/qt_text.h"
@@ -157,7 +158,7 @@ void ActionSet::retranslate(const Texts& texts) {
             tip += " (" + action.shortcut().toString(QKeySequence::NativeText) + ")";
         }
         action.setText(toQt(texts(kActions[i].text)));
-        action.setToolTip(plainToolTip(tip));
+        action.setToolTip(tip);
     }
 }
 

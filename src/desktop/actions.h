@@ -3,10 +3,11 @@
 
 #pragma once
 
-#include <QString>
 #include <map>
 #include <span>
 #include <vector>
+
+#include <QString>
 
 #include "base/texts.h"
 

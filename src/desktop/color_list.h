@@ -3,8 +3,9 @@
 
 #pragma once
 
-#include <QListWidget>
 #include <span>
+
+#include <QListWidget>
 
 #include "platform/main_window_controls.h"
 

@@ -3,9 +3,10 @@
 
 #pragma once
 
-#include <QListWidget>
 #include <optional>
 #include <span>
+
+#include <QListWidget>
 
 #include "platform/main_window_controls.h"
 

@@ -34,6 +34,8 @@ LegendView::LegendView(QWidget* parent)
     column->addWidget(classes_, 1);
     column->addWidget(referenceHeading_);
     column->addWidget(reference_);
+    setFocusProxy(classes_);
+    setTabOrder(classes_, reference_);
 }
 
 void LegendView::setContent(const LegendContent& legend) {

@@ -3,6 +3,9 @@
 
 #include "desktop/main_window.h"
 
+#include <cmath>
+#include <utility>
+
 #include <QApplication>
 #include <QDragEnterEvent>
 #include <QLabel>
@@ -14,8 +17,6 @@
 #include <QStatusBar>
 #include <QToolBar>
 #include <QWindow>
-#include <cmath>
-#include <utility>
 
 #include "app/files_behind.h"
 #include "desktop/elided_label.h"
@@ -53,6 +54,7 @@ QString degreesText(double degrees) {
 
 MainWindow::MainWindow(const Desktop& desktop, Language language, const std::string& programFolder)
     : desktop_(desktop),
+      tools_(new QToolBar(this)),
       mapArea_(new MapArea),
       sidePanel_(new SidePanel),
       splitter_(new QSplitter),
@@ -61,12 +63,11 @@ MainWindow::MainWindow(const Desktop& desktop, Language language, const std::str
       scale_(new QLabel) {
     setMinimumSize(kMinimumSize);
     setAcceptDrops(true);
-    auto* tools = new QToolBar(this);
-    tools->setMovable(false);
-    tools->setContextMenuPolicy(Qt::PreventContextMenu);
-    tools->setIconSize({24, 24});
-    addToolBar(tools);
-    actions_ = std::make_unique<ActionSet>(*this, *menuBar(), *tools, sidePanel_->fileTools());
+    tools_->setMovable(false);
+    tools_->setContextMenuPolicy(Qt::PreventContextMenu);
+    tools_->setIconSize({24, 24});
+    addToolBar(tools_);
+    actions_ = std::make_unique<ActionSet>(*this, *menuBar(), *tools_, sidePanel_->fileTools());
     arrange();
     makeStatusBar();
     const Platform platform{mapArea_->map().canvas(), *this,          desktop.dialogs,
@@ -90,6 +91,8 @@ void MainWindow::arrange() {
     splitter_->setSizes({width() - 320, 320});
     restoreGeometry(decoded(desktop_.settings.read(kGeometryKey)));
     splitter_->restoreState(decoded(desktop_.settings.read(kSplitterKey)));
+    setTabOrder(&mapArea_->map(), &sidePanel_->files());
+    mapArea_->map().setFocus();
     actions_->showStates();
 }
 
@@ -144,10 +147,7 @@ void MainWindow::retranslate() {
     actions_->retranslate(texts);
     mapArea_->retranslate(texts);
     sidePanel_->retranslate(texts);
-    const QString tools = toQt(texts(TextId::MainTools));
-    for (QToolBar* bar : findChildren<QToolBar*>(Qt::FindDirectChildrenOnly)) {
-        bar->setAccessibleName(tools);
-    }
+    tools_->setAccessibleName(toQt(texts(TextId::MainTools)));
     showScale();
 }
 

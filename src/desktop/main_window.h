@@ -3,16 +3,18 @@
 
 #pragma once
 
-#include <QMainWindow>
 #include <memory>
 #include <string>
 #include <vector>
+
+#include <QMainWindow>
 
 #include "app/session.h"
 #include "desktop/actions.h"
 
 class QLabel;
 class QSplitter;
+class QToolBar;
 
 namespace campora {
 
@@ -93,6 +95,7 @@ private:
     void showScale();
 
     Desktop desktop_;
+    QToolBar* tools_;
     MapArea* mapArea_;
     SidePanel* sidePanel_;
     QSplitter* splitter_;

@@ -3,11 +3,12 @@
 
 #include "desktop/map_area.h"
 
+#include <algorithm>
+
 #include <QFrame>
 #include <QGridLayout>
 #include <QScrollBar>
 #include <QSignalBlocker>
-#include <algorithm>
 
 #include "desktop/map_widget.h"
 #include "desktop/qt_text.h"

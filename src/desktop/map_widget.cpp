@@ -3,10 +3,12 @@
 
 #include "desktop/map_widget.h"
 
+#include <cmath>
+
+#include <QAccessibleWidget>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWheelEvent>
-#include <cmath>
 
 #include "app/overlay_layout.h"
 #include "desktop/edge_arrow.h"
@@ -20,6 +22,9 @@ constexpr int kUnits = RasterCanvas::kUnitsPerPixel;
 /// Parts of the canvas by which an arrow key and an edge arrow scroll.
 constexpr double kKeyScroll = 0.1;
 constexpr double kArrowScroll = 0.25;
+
+/// In pixels.
+constexpr QRect kScaleBarPlate{2, 2, 84, 42};
 
 struct Direction {
     MapPicture picture;
@@ -59,9 +64,15 @@ Qt::CursorShape cursorShape(PointerShape shape) {
     return Qt::ArrowCursor;
 }
 
+QAccessibleInterface* describeMap(const QString& /*name*/, QObject* object) {
+    auto* const map = qobject_cast<MapWidget*>(object);
+    return map != nullptr ? new QAccessibleWidget(map, QAccessible::Graphic) : nullptr;
+}
+
 }  // namespace
 
 MapWidget::MapWidget(QWidget* parent) : QWidget(parent), canvas_({kUnits, kUnits}) {
+    QAccessible::installFactory(describeMap);
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -128,6 +139,10 @@ void MapWidget::paintEvent(QPaintEvent* /*event*/) {
     } else if (!controls_.scaleLabel.empty()) {
         paintScaleBar(painter);
     }
+    if (hasFocus()) {
+        painter.setPen(palette().color(QPalette::Highlight));
+        painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    }
     if (!painted_) {
         painted_ = true;
         emit firstShown();
@@ -135,6 +150,9 @@ void MapWidget::paintEvent(QPaintEvent* /*event*/) {
 }
 
 void MapWidget::paintScaleBar(QPainter& painter) const {
+    // Swaths under the bar stay visible without making it hard to read.
+    const Color back = canvas_.backgroundColor();
+    painter.fillRect(kScaleBarPlate, QColor(back.red(), back.green(), back.blue(), 200));
     const QColor ink(ink_.red(), ink_.green(), ink_.blue());
     painter.setPen(QPen(ink, 1));
     painter.drawLine(pixels(overlay::kTickLeftTop), pixels(overlay::kTickLeftBottom));

@@ -3,9 +3,10 @@
 
 #pragma once
 
+#include <array>
+
 #include <QString>
 #include <QWidget>
-#include <array>
 
 #include "base/texts.h"
 #include "paint/raster_canvas.h"

@@ -3,9 +3,10 @@
 
 #pragma once
 
-#include <QString>
 #include <string>
 #include <string_view>
+
+#include <QString>
 
 namespace campora {
 

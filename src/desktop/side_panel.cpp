@@ -57,11 +57,14 @@ SidePanel::SidePanel(QWidget* parent)
     column->setContentsMargins(kSpacing, 2 * kSpacing, 2 * kSpacing, kSpacing);
     column->addWidget(parts);
     setMinimumWidth(240);
+    setTabOrder(files_, summary_);
+    setTabOrder(summary_, legend_);
 }
 
 void SidePanel::retranslate(const Texts& texts) {
     filesHeading_->setTitle(toQt(texts(TextId::FilesHeading)));
     summaryHeading_->setTitle(toQt(texts(TextId::SummaryHeading)));
+    fileTools_->setAccessibleName(toQt(texts(TextId::FileTools)));
     summary_->retranslate(texts);
     legend_->retranslate(texts);
 }

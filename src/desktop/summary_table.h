@@ -3,8 +3,9 @@
 
 #pragma once
 
-#include <QTreeWidget>
 #include <span>
+
+#include <QTreeWidget>
 
 #include "base/texts.h"
 #include "platform/main_window_controls.h"

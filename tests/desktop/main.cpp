@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 
 #include <QApplication>
-
 #include <gmock/gmock.h>
 
 #include "desktop/look.h"

@@ -11,7 +11,6 @@
 #include <QMimeData>
 #include <QScrollBar>
 #include <QStatusBar>
-
 #include <gmock/gmock.h>
 
 #include "desktop/color_list.h"
@@ -187,6 +186,19 @@ TEST_F(WindowTest, OpensAsItWasLeft) {
     }
     openWindow(Language::Spanish);
     EXPECT_GE(window->width(), MainWindow::kMinimumSize.width());
+}
+
+TEST_F(WindowTest, TabLeadsThroughAllParts) {
+    open({writeReport("lote.rpt")});
+    const SidePanel& panel = window->sidePanel();
+    const LegendView& legend = panel.legend();
+    ASSERT_EQ(QApplication::focusWidget(), &map());
+    const std::vector<const QWidget*> parts{&panel.files(), &panel.summary(), &legend.classes(),
+                                            &legend.reference(), &map()};
+    for (const QWidget* part : parts) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        EXPECT_EQ(QApplication::focusWidget(), part);
+    }
 }
 
 class WindowInLanguage : public WindowTest, public testing::WithParamInterface<Language> {

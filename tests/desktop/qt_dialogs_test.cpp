@@ -3,13 +3,14 @@
 
 #include "desktop/qt_dialogs.h"
 
+#include <functional>
+
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
-#include <functional>
 
 #include "desktop/widget_texts.h"
 #include "desktop/window_fixture.h"

@@ -3,12 +3,12 @@
 
 #pragma once
 
-#include <QAction>
-#include <QTest>
 #include <memory>
 #include <string>
 #include <vector>
 
+#include <QAction>
+#include <QTest>
 #include <gtest/gtest.h>
 
 #include "base/texts.h"

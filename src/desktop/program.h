@@ -1,0 +1,35 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "desktop/main_window.h"
+#include "desktop/qt_clipboard.h"
+#include "desktop/qt_dialogs.h"
+#include "desktop/qt_locale.h"
+#include "desktop/qt_settings_store.h"
+#include "desktop/widget_texts.h"
+
+namespace campora {
+
+/// The main window with everything it needs of the desktop. The application object exists already.
+class Program {
+public:
+    /// Shows the window; the paths of the command line are opened when it stands on the screen.
+    Program();
+    ~Program();
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
+
+    [[nodiscard]] MainWindow& window() { return window_; }
+
+private:
+    QtSettingsStore settings_;
+    QtLocale locale_;
+    QtClipboard clipboard_;
+    QtDialogs dialogs_;
+    MainWindow window_;
+    WidgetTexts widgetTexts_;
+};
+
+}  // namespace campora
