@@ -1,0 +1,59 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+// What a full redraw costs on the canvas that the window shows, 1200 x 900 pixels.
+
+#include <cstddef>
+
+#include <benchmark/benchmark.h>
+
+#include "colour/color_scale.h"
+#include "field.h"
+#include "paint/raster_canvas.h"
+#include "work/gph_track.h"
+
+namespace campora {
+
+namespace {
+
+void redraw(benchmark::State& state, const ViewTransform& view, const GphTrack& track,
+            bool borders) {
+    const ColorScale scale;
+    MapStyle style;
+    style.scale = &scale;
+    style.drawBorders = borders;
+    RasterCanvas canvas(kCanvas);
+    MapContext context{canvas, view, style};
+    for (auto _ : state) {
+        canvas.clear();
+        track.Gph_plot(context);
+    }
+    benchmark::DoNotOptimize(canvas.image().constBits());
+    state.SetItemsProcessed(state.iterations() * track.Gph_count());
+}
+
+void redrawWhole(benchmark::State& state) {
+    const GphTrack track = fieldTrack(static_cast<std::size_t>(state.range(0)), false);
+    redraw(state, wholeView(track.Gph_bound()), track, true);
+}
+BENCHMARK(redrawWhole)->RangeMultiplier(10)->Range(10000, 1000000)->Unit(benchmark::kMillisecond);
+
+void redrawWholeWithoutBorders(benchmark::State& state) {
+    const GphTrack track = fieldTrack(static_cast<std::size_t>(state.range(0)), false);
+    redraw(state, wholeView(track.Gph_bound()), track, false);
+}
+BENCHMARK(redrawWholeWithoutBorders)
+    ->RangeMultiplier(10)
+    ->Range(10000, 1000000)
+    ->Unit(benchmark::kMillisecond);
+
+/// All but about a thousand steps lie outside the canvas.
+void redrawCorner(benchmark::State& state) {
+    const GphTrack track = fieldTrack(static_cast<std::size_t>(state.range(0)), false);
+    redraw(state, cornerView(), track, true);
+}
+BENCHMARK(redrawCorner)->RangeMultiplier(10)->Range(10000, 1000000)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+}  // namespace campora
