@@ -68,8 +68,7 @@ struct ColorScale::Listeners {
     /// away or add new ones while it is called.
     template <typename Function, typename... Arguments>
     static void raise(const std::map<int, Function>& listeners, Arguments... arguments) {
-        const std::map<int, Function> atStart = listeners;
-        for (const auto& [id, listener] : atStart) {
+        for (const auto& [id, listener] : std::map(listeners)) {
             if (listeners.contains(id)) {
                 listener(arguments...);
             }
