@@ -62,7 +62,7 @@ private:
     }
     void line(std::string_view text) const { out_ << "  " << text << '\n'; }
     [[nodiscard]] std::string position(double x, double y) const {
-        return "(" + degrees(x) + "; " + degrees(y) + ")";
+        return std::string("(").append(degrees(x)).append("; ").append(degrees(y)).append(")");
     }
     /// To a centimetre.
     [[nodiscard]] std::string degrees(double value) const {

@@ -63,9 +63,11 @@ void writeLayers(JsonWriter& json, const File& file) {
 }
 
 std::string colorText(Color color) {
-    return "#" + hexText(static_cast<std::uint32_t>(color.red()), 2) +
-           hexText(static_cast<std::uint32_t>(color.green()), 2) +
-           hexText(static_cast<std::uint32_t>(color.blue()), 2);
+    std::string text("#");
+    for (const int component : {color.red(), color.green(), color.blue()}) {
+        text += hexText(static_cast<std::uint32_t>(component), 2);
+    }
+    return text;
 }
 
 void writeScale(JsonWriter& json, const ColorScale* scale) {
