@@ -20,7 +20,7 @@ constexpr FileFormat kFormats[] = {
 };
 
 std::string patternOf(const FileFormat& format) {
-    return "*" + std::string(format.ending);
+    return std::string("*").append(format.ending);
 }
 
 }  // namespace
