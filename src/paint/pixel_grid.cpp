@@ -23,10 +23,12 @@ int floorInt(double value) {
 
 /// First row (or column) whose centre is not before `position`, within 0 to `limit`.
 int firstCentreFrom(double position, int limit) {
-    if (!(position > 0.5))
+    if (!(position > 0.5)) {
         return 0;
-    if (position > limit)
+    }
+    if (position > limit) {
         return limit;
+    }
     const double first = position - 0.5;
     const int whole = static_cast<int>(first);
     return whole + (whole < first ? 1 : 0);
@@ -45,8 +47,9 @@ bool clip(const PixelGrid& grid, double margin, PixelPoint& from, PixelPoint& to
                                                       {dy, grid.height + margin - from.y}}};
     for (const auto& [towards, distance] : sides) {
         if (towards == 0) {
-            if (distance < 0)
+            if (distance < 0) {
                 return false;
+            }
             continue;
         }
         const double at = distance / towards;
@@ -56,13 +59,16 @@ bool clip(const PixelGrid& grid, double margin, PixelPoint& from, PixelPoint& to
             leave = std::min(leave, at);
         }
     }
-    if (!(enter <= leave))
+    if (!(enter <= leave)) {
         return false;
+    }
     const PixelPoint start = from;
-    if (enter > 0)
+    if (enter > 0) {
         from = {start.x + enter * dx, start.y + enter * dy};
-    if (leave < 1)
+    }
+    if (leave < 1) {
         to = {start.x + leave * dx, start.y + leave * dy};
+    }
     return true;
 }
 
@@ -73,8 +79,9 @@ void dot(const PixelGrid& grid, int x, int y, const LineDrawer::Pen& pen) {
     const int bottom = std::min(y + pen.width / 2 + 1, grid.height);
     for (int row = top; row < bottom; ++row) {
         std::uint32_t* const pixels = grid.pixels + row * grid.stride;
-        for (int column = left; column < right; ++column)
+        for (int column = left; column < right; ++column) {
             pixels[column] = pen.color;
+        }
     }
 }
 
@@ -107,41 +114,64 @@ void thinLine(const PixelGrid& grid, int x, int y, int endX, int endY, std::uint
     }
 }
 
+/// Colours the pixels between the first and the second crossing of a row, the third and the fourth,
+/// and so on. Sorts the crossings.
+void fillRow(const PixelGrid& grid, int row, std::span<double> crossings, std::uint32_t color) {
+    if (crossings.size() == 2) {
+        if (crossings[0] > crossings[1]) {
+            std::swap(crossings[0], crossings[1]);
+        }
+    } else {
+        std::sort(crossings.begin(), crossings.end());
+    }
+    std::uint32_t* const pixels = grid.pixels + row * grid.stride;
+    for (std::size_t i = 0; i + 1 < crossings.size(); i += 2) {
+        const int left = firstCentreFrom(crossings[i], grid.width);
+        const int right = firstCentreFrom(crossings[i + 1], grid.width);
+        for (int column = left; column < right; ++column) {
+            pixels[column] = color;
+        }
+    }
+}
+
 }  // namespace
 
 void RingFiller::fill(const PixelGrid& grid, std::span<const PixelPoint> ring,
                       std::uint32_t color) {
     collectEdges(grid, ring);
-    if (edges_.empty())
+    if (edges_.size() <= kFewEdges) {
+        fillFewEdges(grid, color);
         return;
+    }
     collectCrossings();
     std::size_t begin = 0;
     for (int row = top_; row < bottom_; ++row) {
         const std::size_t end = rowEnds_[static_cast<std::size_t>(row - top_)];
-        double* const first = crossings_.data() + begin;
-        double* const last = crossings_.data() + end;
-        if (last - first == 2) {
-            if (first[0] > first[1])
-                std::swap(first[0], first[1]);
-        } else {
-            std::sort(first, last);
-        }
-        std::uint32_t* const pixels = grid.pixels + row * grid.stride;
-        for (double* span = first; span + 1 < last; span += 2) {
-            const int left = firstCentreFrom(span[0], grid.width);
-            const int right = firstCentreFrom(span[1], grid.width);
-            std::fill(pixels + left, pixels + right, color);
-        }
+        fillRow(grid, row, std::span(crossings_).subspan(begin, end - begin), color);
         begin = end;
+    }
+}
+
+void RingFiller::fillFewEdges(const PixelGrid& grid, std::uint32_t color) {
+    std::array<double, kFewEdges> crossings{};
+    for (int row = top_; row < bottom_; ++row) {
+        std::size_t count = 0;
+        for (const Edge& edge : edges_) {
+            if (row >= edge.firstRow && row < edge.endRow) {
+                crossings[count++] = edge.x + (row - edge.firstRow) * edge.slope;
+            }
+        }
+        fillRow(grid, row, std::span(crossings).first(count), color);
     }
 }
 
 void RingFiller::collectEdges(const PixelGrid& grid, std::span<const PixelPoint> ring) {
     edges_.clear();
-    if (ring.size() < 3)
-        return;
     top_ = grid.height;
     bottom_ = 0;
+    if (ring.size() < 3) {
+        return;
+    }
     const PixelPoint* previous = &ring.back();
     for (const PixelPoint& point : ring) {
         // From top to bottom whichever way the ring runs: a neighbour that shares the edge computes
@@ -152,8 +182,9 @@ void RingFiller::collectEdges(const PixelGrid& grid, std::span<const PixelPoint>
         previous = &point;
         const int firstRow = firstCentreFrom(upper.y, grid.height);
         const int endRow = firstCentreFrom(lower.y, grid.height);
-        if (firstRow >= endRow)
+        if (firstRow >= endRow) {
             continue;
+        }
         const double slope = (lower.x - upper.x) / (lower.y - upper.y);
         edges_.push_back({firstRow, endRow, upper.x + (firstRow + 0.5 - upper.y) * slope, slope});
         top_ = std::min(top_, firstRow);
@@ -185,8 +216,9 @@ void RingFiller::collectCrossings() {
 }
 
 void LineDrawer::line(const PixelGrid& grid, PixelPoint from, PixelPoint to, const Pen& pen) {
-    if (!pen.dotted || from != end_)
+    if (!pen.dotted || from != end_) {
         phase_ = 0;
+    }
     end_ = to;
     const bool inside = holds(grid, from) && holds(grid, to);
     if (inside && pen.width == 1 && !pen.dotted) {
@@ -194,8 +226,9 @@ void LineDrawer::line(const PixelGrid& grid, PixelPoint from, PixelPoint to, con
                  pen.color);
         return;
     }
-    if (!inside && !clip(grid, pen.width, from, to))
+    if (!inside && !clip(grid, pen.width, from, to)) {
         return;
+    }
     dottedOrThick(grid, from, to, pen);
 }
 
@@ -207,10 +240,12 @@ void LineDrawer::dottedOrThick(const PixelGrid& grid, PixelPoint from, PixelPoin
     const double dy = floorInt(to.y) + 0.5 - y;
     const int steps = static_cast<int>(std::max(std::abs(dx), std::abs(dy)));
     for (int i = 0; i <= steps; ++i) {
-        if (!pen.dotted || (phase_ / pen.width) % kDotPeriod == 0)
+        if (!pen.dotted || (phase_ / pen.width) % kDotPeriod == 0) {
             dot(grid, floorInt(x), floorInt(y), pen);
-        if (i == steps)
+        }
+        if (i == steps) {
             break;
+        }
         ++phase_;
         x += dx / steps;
         y += dy / steps;

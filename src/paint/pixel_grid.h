@@ -43,6 +43,10 @@ private:
         double slope;  // x per row
     };
 
+    /// Up to here looking at every edge in every row is cheaper than sorting them into rows.
+    static constexpr std::size_t kFewEdges = 8;
+
+    void fillFewEdges(const PixelGrid& grid, std::uint32_t color);
     void collectEdges(const PixelGrid& grid, std::span<const PixelPoint> ring);
     void collectCrossings();
 

@@ -49,6 +49,7 @@ void RasterCanvas::resize(CanvasSize size, double pixelRatio) {
         image_ = QImage(width, height, QImage::Format_RGB32);
     }
     image_.setDevicePixelRatio(pixelRatio);
+    setPenWidth(penWidth_);
     clear();
 }
 
@@ -67,23 +68,32 @@ PixelPoint RasterCanvas::toPixels(CanvasPoint point) const {
     return {point.x * pixelsPerUnit_, point.y * pixelsPerUnit_};
 }
 
+void RasterCanvas::setPenWidth(int pixels) {
+    penWidth_ = pixels;
+    penPixels_ = std::max(1, static_cast<int>(std::lround(pixels * pixelRatio_)));
+}
+
 LineDrawer::Pen RasterCanvas::pen(Color color) const {
-    const int width = std::max(1, static_cast<int>(std::lround(penWidth_ * pixelRatio_)));
-    return {pixel(color), width, penStyle_ == PenStyle::Dotted};
+    return {pixel(color), penPixels_, penStyle_ == PenStyle::Dotted};
 }
 
-void RasterCanvas::setRing(std::span<const CanvasPoint> ring) {
+void RasterCanvas::drawRing(std::span<const CanvasPoint> ring, std::optional<Color> fill,
+                            Color outline) {
+    if (ring.empty()) {
+        return;
+    }
     ring_.clear();
-    for (const CanvasPoint& point : ring)
+    for (const CanvasPoint& point : ring) {
         ring_.push_back(toPixels(point));
-}
-
-void RasterCanvas::outlineRing(Color color) {
+    }
     const PixelGrid pixels = grid();
-    const LineDrawer::Pen outline = pen(color);
+    if (fill) {
+        filler_.fill(pixels, ring_, pixel(*fill));
+    }
+    const LineDrawer::Pen outlinePen = pen(outline);
     const PixelPoint* previous = &ring_.back();
     for (const PixelPoint& point : ring_) {
-        lines_.line(pixels, *previous, point, outline);
+        lines_.line(pixels, *previous, point, outlinePen);
         previous = &point;
     }
 }
@@ -96,10 +106,8 @@ void RasterCanvas::rectangle(CanvasPoint corner, CanvasPoint opposite, Color col
                              RectangleStyle style) {
     const std::array<CanvasPoint, 4> ring{
         corner, {opposite.x, corner.y}, opposite, {corner.x, opposite.y}};
-    setRing(ring);
-    if (style == RectangleStyle::Filled)
-        filler_.fill(grid(), ring_, pixel(color));
-    outlineRing(color);
+    const bool filled = style == RectangleStyle::Filled;
+    drawRing(ring, filled ? std::optional(color) : std::nullopt, color);
 }
 
 void RasterCanvas::point(CanvasPoint at, Color color) {
@@ -107,12 +115,8 @@ void RasterCanvas::point(CanvasPoint at, Color color) {
 }
 
 void RasterCanvas::polygon(std::span<const CanvasPoint> ring) {
-    if (ring.empty())
-        return;
-    setRing(ring);
-    if (fillStyle_ == FillStyle::Solid)
-        filler_.fill(grid(), ring_, pixel(fillColor_));
-    outlineRing(penColor_);
+    const bool filled = fillStyle_ == FillStyle::Solid;
+    drawRing(ring, filled ? std::optional(fillColor_) : std::nullopt, penColor_);
 }
 
 void RasterCanvas::text(CanvasPoint at, std::string_view text, TextAnchor anchor, bool bold) {
@@ -122,8 +126,9 @@ void RasterCanvas::text(CanvasPoint at, std::string_view text, TextAnchor anchor
     const QFontMetricsF metrics(painter.font());
     const QString shown = qtText(text);
     double x = static_cast<double>(at.x) / kUnitsPerPixel;
-    if (anchor == TextAnchor::TopCentre)
+    if (anchor == TextAnchor::TopCentre) {
         x -= metrics.horizontalAdvance(shown) / 2;
+    }
     const double baseline = static_cast<double>(at.y) / kUnitsPerPixel + metrics.ascent();
     painter.drawText(QPointF(x, baseline), shown);
 }
@@ -145,13 +150,15 @@ void RasterCanvas::paintPicture(MapPicture picture, CanvasPoint topLeft, CanvasS
 }
 
 void RasterCanvas::refresh() {
-    if (onRefresh)
+    if (onRefresh) {
         onRefresh();
+    }
 }
 
 void RasterCanvas::setPointer(PointerShape shape) {
-    if (onPointer)
+    if (onPointer) {
         onPointer(shape);
+    }
 }
 
 void drawMapPicture(QPainter& painter, const QRectF& rectangle, MapPicture picture) {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include <QImage>
@@ -40,7 +41,7 @@ public:
     [[nodiscard]] Color backgroundColor() const override { return background_; }
     void setPenColor(Color color) override { penColor_ = color; }
     [[nodiscard]] Color penColor() const override { return penColor_; }
-    void setPenWidth(int pixels) override { penWidth_ = pixels; }
+    void setPenWidth(int pixels) override;
     void setPenStyle(PenStyle style) override { penStyle_ = style; }
     [[nodiscard]] PenStyle penStyle() const override { return penStyle_; }
     void setFillColor(Color color) override { fillColor_ = color; }
@@ -60,8 +61,8 @@ private:
     [[nodiscard]] PixelGrid grid();
     [[nodiscard]] PixelPoint toPixels(CanvasPoint point) const;
     [[nodiscard]] LineDrawer::Pen pen(Color color) const;
-    void setRing(std::span<const CanvasPoint> ring);
-    void outlineRing(Color color);
+    /// A closed ring, filled when there is a colour for it and then outlined.
+    void drawRing(std::span<const CanvasPoint> ring, std::optional<Color> fill, Color outline);
 
     CanvasSize size_;
     double pixelsPerUnit_ = 0;
@@ -70,7 +71,8 @@ private:
     Color background_{0xFFFFFF};
     Color penColor_;
     Color fillColor_;
-    int penWidth_ = 1;
+    int penWidth_ = 1;   // logical pixels
+    int penPixels_ = 1;  // pixels of the picture
     PenStyle penStyle_ = PenStyle::Solid;
     FillStyle fillStyle_ = FillStyle::Solid;
     RingFiller filler_;

@@ -102,11 +102,35 @@ TEST(RingFiller, NeighboursThatShareCornersLeaveNoSeamAndNoOverlap) {
             const std::vector<PixelPoint> ring{knot(row, column), knot(row, column + 1),
                                                knot(row + 1, column + 1), knot(row + 1, column)};
             filler.fill(one.grid, ring, 1);
-            for (std::size_t i = 0; i < one.pixels.size(); ++i)
+            for (std::size_t i = 0; i < one.pixels.size(); ++i) {
                 covered.pixels[i] += one.pixels[i];
+            }
         }
     }
     EXPECT_EQ(covered.pixels, std::vector<std::uint32_t>(covered.pixels.size(), 1));
+}
+
+TEST(RingFiller, ARunOfStepsCoversWhatItsStepsCover) {
+    std::mt19937 random(11);
+    std::uniform_real_distribution<double> weave(-1.5, 1.5);
+    std::vector<PixelPoint> north;
+    std::vector<PixelPoint> south;
+    for (int i = 0; i <= 30; ++i) {
+        const double middle = 20 + weave(random);
+        north.push_back({i * 1.9, middle - 8});
+        south.push_back({i * 1.9 + 0.3, middle + 8});
+    }
+    Picture steps(60, 40);
+    RingFiller filler;
+    for (std::size_t i = 0; i + 1 < north.size(); ++i) {
+        filler.fill(steps.grid, std::vector{north[i], north[i + 1], south[i + 1], south[i]}, 1);
+    }
+    Picture run(60, 40);
+    std::vector<PixelPoint> ring = north;
+    ring.insert(ring.end(), south.rbegin(), south.rend());
+    filler.fill(run.grid, ring, 1);
+    EXPECT_EQ(run.text(), steps.text());
+    EXPECT_EQ(run.at(30, 20), 1U);
 }
 
 TEST(LineDrawer, DrawsLinesOfAnyDirectionWidthAndStyle) {
@@ -148,8 +172,9 @@ TEST(LineDrawer, DrawsLinesOfAnyDirectionWidthAndStyle) {
         SCOPED_TRACE(row.name);
         Picture picture(7, 3);
         LineDrawer drawer;
-        for (const Line& line : row.lines)
+        for (const Line& line : row.lines) {
             drawer.line(picture.grid, line.from, line.to, row.pen);
+        }
         EXPECT_EQ(picture.text(), row.picture);
     }
 }

@@ -92,8 +92,9 @@ TEST(RasterCanvas, LinesKeepTheirWidthOnADenseScreen) {
     RasterCanvas canvas({20 * kUnits, 20 * kUnits}, 2);
     canvas.line({0, 10 * kUnits}, {19 * kUnits, 10 * kUnits}, kRed);
     int reds = 0;
-    for (int y = 0; y < canvas.image().height(); ++y)
+    for (int y = 0; y < canvas.image().height(); ++y) {
         reds += colorAt(canvas, 20, y) == kRed ? 1 : 0;
+    }
     EXPECT_EQ(reds, 2);
 }
 
