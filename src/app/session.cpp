@@ -4,6 +4,7 @@
 #include "app/session.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <utility>
 
 #include "app/legend.h"
@@ -226,6 +227,7 @@ void Session::showTitle(std::string title) {
 
 std::vector<File*> Session::openFiles() const {
     std::vector<File*> files;
+    files.reserve(static_cast<std::size_t>(files_.loadedCount()));
     for (int i = 0; i < files_.loadedCount(); ++i) {
         files.push_back(&files_.file(i));
     }
