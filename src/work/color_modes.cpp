@@ -144,12 +144,11 @@ void setUpColorScale(ColorScale& scale, const MapStyle& style, const ValueRanges
                      std::span<File* const> files) {
     if (style.mode == ColorMode::Date) {
         setUpDates(scale, files);
-    } else if (style.mode != ColorMode::Error) {
-        setUpDoses(scale, style, ranges, files);
-    } else if (style.selectedChannel >= 0) {
+    } else if (style.mode == ColorMode::Error && style.selectedChannel >= 0) {
         setUpErrors(scale, style, files);
-    } else if (scale.isDate) {
-        setUpDoses(scale, style, ranges, files);  // days would be no measure for doses
+    } else if (style.mode != ColorMode::Error || scale.isDate) {
+        // The error map of the total keeps the classes that are there, unless they are days.
+        setUpDoses(scale, style, ranges, files);
     }
 }
 
