@@ -5,6 +5,20 @@
 
 namespace campora {
 
+namespace {
+
+int runCommand(const Arguments& arguments, const Console& console) {
+    switch (arguments.command) {
+    case Command::Info:
+        return runInfo(arguments, console);
+    case Command::Render:
+        break;
+    }
+    return runRender(arguments, console);
+}
+
+}  // namespace
+
 int runProgram(std::span<const std::string> arguments, const std::string& dataFolder,
                const Console& console) {
     const Texts texts(languageOf(arguments));
@@ -20,13 +34,9 @@ int runProgram(std::span<const std::string> arguments, const std::string& dataFo
     if (parsed->programFolder.empty()) {
         parsed->programFolder = dataFolder;
     }
-    switch (parsed->command) {
-    case Command::Info:
-        return runInfo(*parsed, console);
-    case Command::Render:
-        break;
-    }
-    return runRender(*parsed, console);
+    const int status = runCommand(*parsed, console);
+    console.out.flush();
+    return console.out ? status : exit_status::kRefused;
 }
 
 }  // namespace campora

@@ -136,6 +136,15 @@ TEST(Program, AWrongCommandLineShowsTheUsage) {
     EXPECT_EQ(help.boxes, "");
 }
 
+TEST(Program, OutputThatCannotBePrintedIsNotDone) {
+    const TempFolder folder;
+    std::ostringstream out;
+    std::ostringstream boxes;
+    out.setstate(std::ios::badbit);
+    EXPECT_EQ(runProgram(Words{"info", folder.write("lote.rpt", reportBytes())}, "", {out, boxes}),
+              1);
+}
+
 TEST(Program, BoxesTakeOneLine) {
     EXPECT_EQ(oneLine("a\r\n\r\nb\nc"), "a |  | b | c");
 }
