@@ -28,24 +28,35 @@ public:
     /// Union of the boxes of all open files; set by whoever keeps the files.
     BoundingBox totalBound;
 
-    /// Scale and margins that show `totalBound`: the tight axis gets a border of 5 %.
+    // Without a map (`totalBound` not set, or a canvas without area) fitting, zooming and scrolling
+    // do nothing.
+
+    /// Scale and margins that show `totalBound`: the tight axis gets a border of 5 %, the other one
+    /// centres the box. Draws nothing.
     void fitView();
-    /// Shows the whole scrollable extent.
+    /// Shows the whole scrollable extent: `totalBound` with its margins.
     void ZoomUno();
+    /// Shows a box with a border; one equal to `totalBound` as `ZoomUno` does.
     void zoomToBox(const BoundingBox& box);
-    /// Steps of 1.5 about the middle of the canvas, or about a fixed point of it.
+    /// Steps of 1.5 about the middle of the canvas, or about a fixed point of it. Zooming in ends
+    /// at 0.1 metres a canvas unit, zooming out at the whole map.
     void zoomIn();
     void zoomOut();
     void zoomIn(CanvasPoint fixed);
     void zoomOut(CanvasPoint fixed);
+    /// Both scales become the larger of the two.
     void equalizeScales();
     /// Every redraw of the whole map goes through here.
     void setView(float scaleX, float scaleY, std::int32_t scrollX, std::int32_t scrollY);
-    /// Sets the background to the number in `colour`, or to the user's own for "-1", and redraws.
+    /// Sets the background to the colour number in `colour`, or to the user's own for "-1", and
+    /// redraws.
     void refrescar(std::string_view colour);
-    /// Burns the scale bar and the arrows into the canvas picture.
+    /// Burns the scale bar and the visible arrows into the canvas picture.
     void DrawMap();
+    /// Computes scroll bars, arrows and scale bar anew and hands them to the window. An axis with
+    /// nothing to scroll goes back to 0.
     void updateScrollBars();
+    /// Puts the scroll bars where the view is.
     void syncScrollBars();
     void computeOrigin();
     /// The user moved a scroll bar: positions in steps of the bars.
