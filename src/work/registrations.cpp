@@ -17,8 +17,6 @@ namespace campora {
 namespace {
 
 constexpr std::string_view kFileName = "matriculas.txt";
-/// A file that is something else altogether must not bury the user in message boxes.
-constexpr std::size_t kMostMessages = 20;
 
 std::string keyOf(std::string_view serial) {
     return lowerCase(trim(serial));
@@ -44,32 +42,41 @@ void Registrations::add(std::string_view serial, std::string_view registration) 
     bySerial_.try_emplace(keyOf(serial), trim(registration));
 }
 
+RegistrationTable decodeRegistrations(std::string_view bytes) {
+    RegistrationTable table;
+    const std::string content = decodeText(bytes);
+    TextLines lines(content);
+    for (std::string_view line; lines.next(line);) {
+        if (const auto entry = splitEntry(line)) {
+            table.registrations.add(entry->first, entry->second);
+        } else if (table.badLines.size() < RegistrationTable::kMostLinesNamed) {
+            table.badLines.push_back(lines.lineNumber());
+        } else {
+            ++table.moreBadLines;
+        }
+    }
+    return table;
+}
+
 Registrations loadRegistrations(std::string_view programFolder, Dialogs& dialogs,
                                 const Texts& texts) {
-    Registrations registrations;
     const std::string path = pathText(nativePath(programFolder) / kFileName);
     const auto file = readFile(findIgnoringCase(path));
     if (!file) {
-        return registrations;
+        return {};
     }
+    RegistrationTable table = decodeRegistrations(file->text());
     const auto report = [&](TextId text, std::size_t number) {
         dialogs.message(texts.format(text, {std::to_string(number)}), MessageIcon::Exclamation,
                         texts(TextId::ProgramName));
     };
-    const std::string content = decodeText(file->text());
-    TextLines lines(content);
-    std::size_t badLines = 0;
-    for (std::string_view line; lines.next(line);) {
-        if (const auto entry = splitEntry(line)) {
-            registrations.add(entry->first, entry->second);
-        } else if (++badLines <= kMostMessages) {
-            report(TextId::RegistrationsBadLine, lines.lineNumber());
-        }
+    for (const std::size_t number : table.badLines) {
+        report(TextId::RegistrationsBadLine, number);
     }
-    if (badLines > kMostMessages) {
-        report(TextId::RegistrationsMoreBadLines, badLines - kMostMessages);
+    if (table.moreBadLines > 0) {
+        report(TextId::RegistrationsMoreBadLines, table.moreBadLines);
     }
-    return registrations;
+    return std::move(table.registrations);
 }
 
 }  // namespace campora

@@ -3,9 +3,11 @@
 
 #pragma once
 
+#include <cstddef>
 #include <map>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/texts.h"
 #include "platform/dialogs.h"
@@ -27,9 +29,23 @@ private:
     std::map<std::string, std::string, std::less<>> bySerial_;
 };
 
-/// Reads "matriculas.txt" in `programFolder`: a serial number, ":" and a registration a line.
-/// Without the file there are no registrations; each line of another shape is reported with its
-/// number and skipped.
+/// A registration table and what is wrong with it.
+struct RegistrationTable {
+    Registrations registrations;
+    /// Numbers, from 1, of the lines of another shape; at most `kMostLinesNamed` of them.
+    std::vector<std::size_t> badLines;
+    /// How many more there are.
+    std::size_t moreBadLines = 0;
+
+    /// A file that is something else altogether must not bury the user in messages.
+    static constexpr std::size_t kMostLinesNamed = 20;
+};
+
+/// A serial number, ":" and a registration a line; every other line, a blank one too, is bad.
+[[nodiscard]] RegistrationTable decodeRegistrations(std::string_view bytes);
+
+/// Reads "matriculas.txt" in `programFolder`. Without the file there are no registrations; each bad
+/// line is reported with its number and skipped.
 [[nodiscard]] Registrations loadRegistrations(std::string_view programFolder, Dialogs& dialogs,
                                               const Texts& texts);
 

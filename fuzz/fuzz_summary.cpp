@@ -1,0 +1,24 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+// Work summaries.
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <string_view>
+
+#include "base/encoding.h"
+#include "work/summary_file.h"
+
+using namespace campora;
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string_view text(reinterpret_cast<const char*>(data), size);
+    for (const FileProperty& entry : decodeSummary(text).entries()) {
+        if (!isUtf8(entry.property) || !isUtf8(entry.value) || !isUtf8(entry.unit)) {
+            std::abort();  // texts inside the program are UTF-8
+        }
+    }
+    return 0;
+}

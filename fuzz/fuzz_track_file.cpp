@@ -1,0 +1,27 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+// Track files of loggers.
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <string_view>
+
+#include "base/failure.h"
+#include "work/track_file.h"
+
+using namespace campora;
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string_view text(reinterpret_cast<const char*>(data), size);
+    try {
+        const TrackFile file = decodeTrackFile(text);
+        if (!file.points.empty() && (file.passStarts.empty() || file.passStarts.front() != 0)) {
+            std::abort();  // points outside of any pass
+        }
+    } catch (const FormatError&) {
+        // Said to the user; nothing to build.
+    }
+    return 0;
+}
