@@ -55,7 +55,7 @@ struct Session::SavedMap {
     ValueRanges ranges;
     LoadedFileList::Saved files;
     BoundingBox totalBound;
-    bool hasFlowStops = false;
+    std::optional<bool> hasFlowStops;
 };
 
 Session::Session(const Platform& platform, Language language, std::string programFolder)
@@ -154,9 +154,12 @@ bool Session::loadFile(std::string_view path, bool resetFirst, bool zoomAll) {
 }
 
 bool Session::takeWork(std::string_view path, const FileFormat& format) {
-    const ValueRanges loaded = files_.empty() ? ValueRanges{} : ranges_;
+    if (files_.empty()) {
+        ranges_ = {};
+        hasFlowStops_.reset();
+    }
     const WorkReaderContext context{platform_.dialogs, platform_.locale, texts_, registrations_,
-                                    loaded};
+                                    ranges_};
     std::optional<LoadedWork> work = format.read(path, context);
     if (!work || !addFile(std::move(work->group), true, false)) {
         return false;
@@ -164,8 +167,7 @@ bool Session::takeWork(std::string_view path, const FileFormat& format) {
     ranges_ = work->ranges;
     style_.graduated = style_.graduated || format.graduates;
     if (work->hasFlowStops) {
-        hasFlowStops_ = hasFlowStops_ || *work->hasFlowStops;
-        showFlowStops();
+        hasFlowStops_ = hasFlowStops_.value_or(false) || *work->hasFlowStops;
     }
     return true;
 }
@@ -181,6 +183,7 @@ void Session::afterLoading(bool zoomAll) {
     platform_.window.setFileCommandsEnabled(true);
     loadFileList(true);
     showCurrentFile();
+    showFlowStops();
 }
 
 int Session::loadFiles(const std::vector<std::string>& paths, bool resetFirst) {
@@ -200,13 +203,13 @@ int Session::loadFiles(const std::vector<std::string>& paths, bool resetFirst) {
 void Session::reset() {
     files_.clearFiles();
     ranges_ = {};
-    hasFlowStops_ = false;
+    hasFlowStops_.reset();
     view_.forget();
     redraw();
     MainWindowControls& window = platform_.window;
     window.setFileList({}, std::nullopt);
     window.setFileCommandsEnabled(false);
-    window.setWorkStatus("");
+    showFlowStops();
     showSummary();
     showLegend();
     showTitle(versionTitle());
@@ -345,7 +348,8 @@ void Session::showLegend() {
 }
 
 void Session::showFlowStops() {
-    platform_.window.setWorkStatus(hasFlowStops_ ? "" : texts_(TextId::NoFlowStops));
+    const bool remark = hasFlowStops_ == false;
+    platform_.window.setWorkStatus(remark ? texts_(TextId::NoFlowStops) : "");
 }
 
 void Session::recalcErrorAreas() {

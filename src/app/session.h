@@ -129,8 +129,8 @@ private:
     /// What is put away during a preview.
     std::unique_ptr<SavedMap> saved_;
     ColorScale::Subscription scaleChanges_;
-    /// A track file with a step without flow is open.
-    bool hasFlowStops_ = false;
+    /// Whether a track file with a step without flow has been opened; none without track files.
+    std::optional<bool> hasFlowStops_;
     /// While set, a change of the scale neither redraws nor reaches the legend.
     bool loading_ = false;
 };

@@ -222,6 +222,21 @@ TEST(Session, ARefusedDuplicateLeavesTheRangesAlone) {
     EXPECT_EQ(desk.session.plotCount(), 1);
 }
 
+TEST(Session, AMoreCompleteCopyTakesThePlaceOnTheMap) {
+    Desk desk;
+    desk.session.start();
+    desk.session.loadFile(desk.track("log0001.nbr", 5, 3), false, true);
+    TrackText text;
+    text.west = "61";
+    for (const std::uint32_t west : {0U, 100U, 200U, 300U}) {
+        text.addPoint(west, 0, 5, 20);
+    }
+    desk.dialogs.yesNoAnswers = {false};
+    EXPECT_TRUE(desk.session.loadFile(desk.folder.write("log0002.nbr", text.bytes()), false, true));
+    EXPECT_EQ(desk.listed(), Names{"log0002.nbr"});
+    EXPECT_TRUE(desk.session.view().totalBound.equals(desk.session.files().file(0).File_bound()));
+}
+
 TEST(Session, NoRangeBeginsBelowZero) {
     Desk desk;
     desk.session.start();
@@ -242,8 +257,8 @@ TEST(Session, TellsWhenATrackFileHasNoRecordOfStops) {
     EXPECT_EQ(desk.window.workStatus, "") << "one of the open files has them";
     desk.session.loadFile(desk.track("log0004.nbr", 5, 3, "4"), true, true);
     EXPECT_EQ(desk.window.workStatus, remark);
-    desk.session.reset();
-    EXPECT_EQ(desk.window.workStatus, "");
+    desk.session.loadFile(desk.report("lote.rpt"), true, true);
+    EXPECT_EQ(desk.window.workStatus, "") << "reports have no flow";
 }
 
 TEST(Session, TheFirstFileLiesOnTop) {
@@ -421,6 +436,7 @@ TEST(Session, APreviewPutsEverythingBack) {
     ASSERT_TRUE(desk.session.loadFile(desk.track("log0002.nbr", 90, 3, "2"), false, true));
     EXPECT_EQ(desk.session.ranges().flow, (ValueRange<float>{90, 90}));
     EXPECT_NE(desk.window.title, before.title);
+    EXPECT_NE(desk.window.workStatus, before.workStatus);
 
     desk.session.plotPreview(false, true);
     EXPECT_EQ(desk.window.title, before.title);
