@@ -1,0 +1,52 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "cli/info_json.h"
+
+#include <memory>
+#include <sstream>
+#include <utility>
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include "cli/batch_platform.h"
+#include "support/named_file.h"
+
+namespace campora {
+namespace {
+
+using nlohmann::json;
+
+TEST(InfoJson, TellsScalesAndWhatIsMissing) {
+    const Arguments arguments;
+    NoCanvas canvas;
+    std::ostringstream boxes;
+    BatchSession batch(arguments, canvas, boxes);
+    auto file = std::make_unique<NamedFile>("zonas.shp");
+    file->bound = {};
+    file->summary.clear();
+    file->scale = std::make_unique<ColorScale>();
+    file->scale->setClassNumberExt(2, 10, 20);
+    file->scale->setClassColor(1, Color::rgb(0x12, 0xAB, 0));
+    batch.session().addFile(std::move(file), true, false);
+    std::ostringstream out;
+    writeInfoJson(batch.session(), out);
+    const json layer = {
+        {"kind", "NamedLayer"}, {"elements", 1}, {"points", nullptr}, {"bound", nullptr}};
+    const json expected = {{"name", "zonas.shp"},
+                           {"path", "/campo/zonas.shp"},
+                           {"icon", ""},
+                           {"id", ""},
+                           {"priority", 0},
+                           {"bound", nullptr},
+                           {"summary", json::array()},
+                           {"layers", {layer, layer}},
+                           {"scale",
+                            {{{"lower", 10}, {"upper", 15}, {"color", "#FFFF00"}},
+                             {{"lower", 15}, {"upper", 20}, {"color", "#12AB00"}}}}};
+    EXPECT_EQ(json::parse(out.str())["files"], json::array({expected}));
+}
+
+}  // namespace
+}  // namespace campora
