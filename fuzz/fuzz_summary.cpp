@@ -15,7 +15,8 @@ using namespace campora;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string_view text(reinterpret_cast<const char*>(data), size);
-    for (const FileProperty& entry : decodeSummary(text).entries()) {
+    const FileProperties summary = decodeSummary(text);
+    for (const FileProperty& entry : summary.entries()) {
         if (!isUtf8(entry.property) || !isUtf8(entry.value) || !isUtf8(entry.unit)) {
             std::abort();  // texts inside the program are UTF-8
         }
