@@ -63,7 +63,7 @@ std::string reportBytes() {
 
 int showReport(int argc, char** argv) {
     QApplication application(argc, argv);
-    applyLook(application);
+    applyLook();
     Program program;
     const QuitWhenDrawn quit(program.window());
     return QApplication::exec();

@@ -3,6 +3,8 @@
 
 #include "desktop/look.h"
 
+#include <memory>
+
 #include <QApplication>
 #include <QIcon>
 #include <QPalette>
@@ -62,10 +64,10 @@ QPalette lightPalette() {
 
 }  // namespace
 
-void applyLook(QApplication& application) {
-    application.setStyle(new Style);
-    application.setPalette(lightPalette());
-    application.setWindowIcon(QIcon(":/icons/campora.svg"));
+void applyLook() {
+    QApplication::setStyle(std::make_unique<Style>().release());  // owned by the application
+    QApplication::setPalette(lightPalette());
+    QApplication::setWindowIcon(QIcon(":/icons/campora.svg"));
 }
 
 }  // namespace campora

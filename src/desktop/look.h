@@ -3,11 +3,10 @@
 
 #pragma once
 
-class QApplication;
-
 namespace campora {
 
 /// The program's style: light, with the green of the icons as its one accent.
-void applyLook(QApplication& application);
+/// The application object exists already.
+void applyLook();
 
 }  // namespace campora

@@ -8,7 +8,7 @@
 
 int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
-    campora::applyLook(application);
+    campora::applyLook();
     campora::Program program;
     return QApplication::exec();
 }

@@ -11,6 +11,6 @@ int main(int argc, char* argv[]) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     testing::InitGoogleMock(&argc, argv);
     QApplication application(argc, argv);
-    campora::applyLook(application);
+    campora::applyLook();
     return RUN_ALL_TESTS();
 }
