@@ -12,6 +12,7 @@
 #include "base/paths.h"
 #include "base/text.h"
 #include "work/companion_names.h"
+#include "work/registrations.h"
 
 namespace campora {
 
@@ -19,10 +20,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view kRegistrations = "matriculas.txt";
-
 bool accompanies(const std::string& path) {
-    if (equalIgnoringCase(fileNamePart(path), kRegistrations)) {
+    if (equalIgnoringCase(fileNamePart(path), kRegistrationsFile)) {
         return true;
     }
     const std::string track = companionNames(path).trackPath;

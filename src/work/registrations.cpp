@@ -16,8 +16,6 @@ namespace campora {
 
 namespace {
 
-constexpr std::string_view kFileName = "matriculas.txt";
-
 std::string keyOf(std::string_view serial) {
     return lowerCase(trim(serial));
 }
@@ -60,7 +58,7 @@ RegistrationTable decodeRegistrations(std::string_view bytes) {
 
 Registrations loadRegistrations(std::string_view programFolder, Dialogs& dialogs,
                                 const Texts& texts) {
-    const std::string path = pathText(nativePath(programFolder) / kFileName);
+    const std::string path = pathText(nativePath(programFolder) / kRegistrationsFile);
     const auto file = readFile(findIgnoringCase(path));
     if (!file) {
         return {};

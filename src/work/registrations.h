@@ -14,6 +14,9 @@
 
 namespace campora {
 
+/// Name of the registration table.
+inline constexpr std::string_view kRegistrationsFile = "matriculas.txt";
+
 /// Registrations of the aircraft that carry the loggers, by the logger's serial number (blanks
 /// around it and case do not count).
 class Registrations {
@@ -44,7 +47,7 @@ struct RegistrationTable {
 /// A serial number, ":" and a registration a line; every other line, a blank one too, is bad.
 [[nodiscard]] RegistrationTable decodeRegistrations(std::string_view bytes);
 
-/// Reads "matriculas.txt" in `programFolder`. Without the file there are no registrations; each bad
+/// Reads the table in `programFolder`. Without the file there are no registrations; each bad
 /// line is reported with its number and skipped.
 [[nodiscard]] Registrations loadRegistrations(std::string_view programFolder, Dialogs& dialogs,
                                               const Texts& texts);
