@@ -21,11 +21,7 @@ EdgeArrow::EdgeArrow(MapPicture picture, QWidget* parent)
     : QAbstractButton(parent), picture_(picture) {
     setFocusPolicy(Qt::NoFocus);
     setCursor(Qt::PointingHandCursor);
-    resize(sizeHint());
-}
-
-QSize EdgeArrow::sizeHint() const {
-    return kPicture;
+    resize(kPicture);
 }
 
 void EdgeArrow::place(CanvasSize canvas) {

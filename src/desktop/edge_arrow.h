@@ -17,7 +17,6 @@ public:
 
     /// Places it on a canvas of that size.
     void place(CanvasSize canvas);
-    [[nodiscard]] QSize sizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
