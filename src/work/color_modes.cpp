@@ -8,6 +8,7 @@
 #include <optional>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 #include "work/gph_track.h"
 
@@ -17,6 +18,8 @@ namespace {
 
 constexpr int kDoseClasses = 5;
 constexpr int kMostDayClasses = 12;
+/// A prescription of more doses than this has no class for each in the legend.
+constexpr int kMostErrorClasses = 256;
 /// Doses from here on are faults of measurement; the readers leave them out of the totals as well.
 constexpr std::int32_t kDoseLimit = 5000;
 
@@ -123,19 +126,36 @@ void setUpDates(ColorScale& scale, std::span<File* const> files) {
     }
 }
 
-void setUpErrors(ColorScale& scale, const MapStyle& style, std::span<File* const> files) {
-    const auto channel = static_cast<std::size_t>(style.selectedChannel);
-    SetList specified;
+/// The distinct specified doses in one channel, ascending.
+std::vector<std::int32_t> specifiedDoses(std::size_t channel, std::span<File* const> files) {
+    std::vector<std::int32_t> specified;
     forEachReportRecord(files, [&](const TrackDataRPT& record) {
         const auto doses = record.getDosis();
-        if (channel < doses.size()) {
-            specified.addDosis(doses[channel]);
+        // Neighbours mostly share their dose.
+        if (channel < doses.size() && (specified.empty() || specified.back() != doses[channel])) {
+            specified.push_back(doses[channel]);
         }
     });
+    std::sort(specified.begin(), specified.end());
+    specified.erase(std::unique(specified.begin(), specified.end()), specified.end());
+    return specified;
+}
+
+void setUpErrors(ColorScale& scale, const MapStyle& style, std::span<File* const> files) {
+    const std::vector<std::int32_t> specified =
+        specifiedDoses(static_cast<std::size_t>(style.selectedChannel), files);
     scale.isDate = false;
     scale.allowClassEdit = false;
     scale.unit = doseUnit(files);
-    scale.loadFromSetList(specified, style.errorLimit / 100);
+    if (specified.size() > std::size_t{kMostErrorClasses}) {
+        scale.setClassNumberExt(kMostErrorClasses, specified.front(), specified.back());
+        return;
+    }
+    SetList doses;
+    for (const std::int32_t dose : specified) {
+        doses.addDosis(dose);
+    }
+    scale.loadFromSetList(doses, style.errorLimit / 100);
 }
 
 }  // namespace

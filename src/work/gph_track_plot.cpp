@@ -63,11 +63,14 @@ private:
         const float flow = record.caudal();
         if (style_.drawAll || flow > 0) {
             addToRun(i, {flow, swath, &record});
-            return;
+        } else {
+            finishRun();
         }
-        finishRun();
-        if (style_.drawDotted) {
-            drawCentreline(points_[i], points_[i + 1]);
+        if (flow <= 0 && style_.drawDotted) {
+            dotted_.push_back(i);
+        }
+        if (!run_) {
+            drawCentrelines();
         }
     }
 
@@ -113,6 +116,15 @@ private:
         rightSide_.clear();
         run_.reset();
         drawn_ = true;
+        drawCentrelines();
+    }
+
+    /// The dotted lines lie on top of the swath of their own steps.
+    void drawCentrelines() {
+        for (const std::size_t i : dotted_) {
+            drawCentreline(points_[i], points_[i + 1]);
+        }
+        dotted_.clear();
     }
 
     void drawCentreline(LonLat from, LonLat to) {
@@ -134,6 +146,7 @@ private:
     std::optional<Edge> lastEdge_;
     std::vector<CanvasPoint> ring_;  // the left side until the run is finished
     std::vector<CanvasPoint> rightSide_;
+    std::vector<std::size_t> dotted_;  // steps of the run that get a centreline
     bool drawn_ = false;
 };
 

@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 
+#include "base/encoding.h"
 #include "base/numbers.h"
 #include "base/paths.h"
 #include "base/text.h"
@@ -17,6 +18,9 @@
 namespace campora {
 
 namespace {
+
+/// A line that is something else must not fill the screen.
+constexpr std::size_t kMostVersionLetters = 40;
 
 /// Adds a track for every pass; widens the ranges of flow and litres per hectare. Whether a point
 /// without flow is among them.
@@ -61,7 +65,8 @@ float readTrackHeader(std::string_view firstLine, Dialogs& dialogs, const Texts&
                         texts(TextId::WrongFileFormat));
     } else if (version.number > kNewestTrackVersion) {
         std::string warning(texts(TextId::NewerVersion));
-        warning.append(version.text).append("\r\n").append(texts(TextId::SupportedVersion));
+        warning.append(decodeText(version.text.substr(0, kMostVersionLetters)));
+        warning.append("\r\n").append(texts(TextId::SupportedVersion));
         warning += numberText(kNewestTrackVersion);
         dialogs.message(warning, MessageIcon::Exclamation, texts(TextId::IncompatibleVersion));
     }
@@ -72,7 +77,8 @@ std::optional<LoadedWork> readTrackFile(std::string_view path, const FileBytes& 
                                         const WorkReaderContext& context) {
     std::string_view firstLine;
     TextLines lines(bytes.text());
-    if (!lines.next(firstLine) || readTrackHeader(firstLine, context.dialogs, context.texts) == 0) {
+    static_cast<void>(lines.next(firstLine));  // of an empty file it stays empty
+    if (readTrackHeader(firstLine, context.dialogs, context.texts) == 0) {
         return std::nullopt;
     }
     const TrackFile file = decodeTrackFile(bytes.text());

@@ -43,6 +43,9 @@ bool LoadedFileList::addFile(std::unique_ptr<File> file, bool atTop) {
         return !id.empty() && listed->File_id() == id;
     });
     if (same != files_.end()) {
+        if (isSameFile((*same)->File_diskPath(), file->File_diskPath())) {
+            return false;  // one file under two spellings is no second copy
+        }
         if ((*same)->File_priority() >= file->File_priority()) {
             askAboutOlder(*file, **same);
             return false;
@@ -70,9 +73,8 @@ void LoadedFileList::askAboutOlder(File& lessComplete, File& moreComplete) {
         return;
     }
     for (const std::string& path : {lessPath, lessComplete.File_resumen().sourcePath}) {
-        if (path.empty() || isSameFile(path, morePath) ||
-            isSameFile(path, moreComplete.File_resumen().sourcePath)) {
-            continue;  // the more complete work keeps its files
+        if (path.empty() || isInUse(path, lessComplete)) {
+            continue;
         }
         if (const std::optional<Failure> failure = deleteFile(path)) {
             dialogs_.message(texts_.sentence(*failure), MessageIcon::Error,
@@ -80,6 +82,16 @@ void LoadedFileList::askAboutOlder(File& lessComplete, File& moreComplete) {
             return;
         }
     }
+}
+
+/// Whether a file on disk belongs to an open file other than `dropped`, as itself or as its
+/// summary.
+bool LoadedFileList::isInUse(std::string_view path, const File& dropped) const {
+    return std::any_of(files_.begin(), files_.end(), [&](const auto& listed) {
+        const std::string& summary = listed->File_resumen().sourcePath;
+        return listed.get() != &dropped && (isSameFile(path, listed->File_diskPath()) ||
+                                            (!summary.empty() && isSameFile(path, summary)));
+    });
 }
 
 void LoadedFileList::removeFile(const File* file) {

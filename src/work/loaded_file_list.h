@@ -58,6 +58,7 @@ public:
 
 private:
     void askAboutOlder(File& lessComplete, File& moreComplete);
+    [[nodiscard]] bool isInUse(std::string_view path, const File& dropped) const;
 
     Dialogs& dialogs_;
     const Texts& texts_;

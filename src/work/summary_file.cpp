@@ -3,6 +3,7 @@
 
 #include "work/summary_file.h"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <string>
@@ -17,15 +18,17 @@ namespace campora {
 namespace {
 
 constexpr std::size_t kFields = 3;  // name, value, unit
+/// Far more than a console writes: the rest of a file that is something else is not kept.
+constexpr int kMostEntries = 32767;
 
 /// The field at the start of `rest`, up to a comma or the end, neither of which it takes away. None
 /// for an opening quote without a closing one.
 std::optional<std::string> takeField(std::string_view& rest) {
-    rest = trim(rest);
+    rest.remove_prefix(std::min(rest.find_first_not_of(" \t"), rest.size()));
     if (!rest.starts_with('"')) {
         const std::string_view field = rest.substr(0, rest.find(','));
         rest.remove_prefix(field.size());
-        return std::string(trim(field));
+        return std::string(field);
     }
     std::string field;
     for (std::size_t i = 1; i < rest.size(); ++i) {
@@ -78,7 +81,7 @@ FileProperties decodeSummary(std::string_view bytes) {
     TextLines lines(text);
     for (std::string_view line; lines.next(line);) {
         const auto fields = splitLine(line);
-        if (!fields) {
+        if (!fields || summary.count() == kMostEntries) {
             break;
         }
         const auto& [name, value, unit] = *fields;
@@ -94,7 +97,11 @@ void loadSummaryFile(std::string_view path, FileProperties& summary) {
     summary = FileProperties();
     if (const Result<FileBytes> file = readFile(path)) {
         summary = decodeSummary(file->text());
-        summary.sourcePath = path;
+        // A file without a single entry is no summary, whatever its name: it may be another work,
+        // and must not be deleted or rewritten as part of this one.
+        if (summary.count() > 0) {
+            summary.sourcePath = path;
+        }
     }
 }
 

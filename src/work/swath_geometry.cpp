@@ -22,7 +22,8 @@ Offset leftOf(LonLat from, LonLat to) {
     const double dx = to.x - from.x;
     const double dy = to.y - from.y;
     const double length = std::sqrt(dx * dx + dy * dy);
-    return {-dy / length, dx / length};
+    // Differences too small to be squared have no direction.
+    return length > 0 ? Offset{-dy / length, dx / length} : Offset{};
 }
 
 /// Where the two lines that run one unit to the left of both steps meet.

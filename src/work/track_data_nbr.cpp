@@ -3,6 +3,8 @@
 
 #include "work/track_data_nbr.h"
 
+#include <algorithm>
+#include <limits>
 #include <utility>
 
 #include "base/numbers.h"
@@ -43,7 +45,10 @@ float TrackDataNBR::litrosH() const {
     if (areaPerMinute == 0) {
         return 0;
     }
-    return static_cast<float>(flow_ * kSquareMetresPerHectare / areaPerMinute);
+    // A swath of next to nothing gives more than a float holds.
+    constexpr double kMost = std::numeric_limits<float>::max();
+    return static_cast<float>(
+        std::clamp(flow_ * kSquareMetresPerHectare / areaPerMinute, -kMost, kMost));
 }
 
 Color TrackDataNBR::color(const MapStyle& style) const {
@@ -82,14 +87,14 @@ ColumnType TrackDataNBR::getColumnNtype(int column) const {
     return isColumn(column) ? kColumns[column].type : ColumnType::Integer;
 }
 
-CellValue TrackDataNBR::getCell(int column, const CellOptions& options) const {
+CellValue TrackDataNBR::getCell(int column, const CellOptions& /*options*/) const {
     switch (column) {
     case 0:
         return flow_;
     case 1:
         return speed_;
     case 2:
-        return options.swathInCentimetres ? swath_ * 100 : swath_;
+        return swath_;
     case 3:
         return litrosH();
     default:

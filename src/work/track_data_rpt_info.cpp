@@ -3,6 +3,7 @@
 
 // A report's record in words, for the information box.
 
+#include <cmath>
 #include <initializer_list>
 
 #include "model/shown_number.h"
@@ -45,9 +46,12 @@ void addChannels(InfoLines& lines, const TrackDataRPT& record) {
             lines.add(TextId::ReportPointChannel, std::to_string(c + 1));
         }
         const auto index = static_cast<std::size_t>(c);
-        lines.addNumber(TextId::ReportPointSpecDose, record.getDosis()[index], indent);
-        lines.addNumber(TextId::ReportPointRealDose, record.getCaudal()[index], indent);
-        lines.addNumber(TextId::ReportPointError, record.getError(c), indent);
+        const double spec = record.getDosis()[index];
+        const double real = record.getCaudal()[index];
+        const double error = spec > 0 ? std::abs(real - spec) / spec * 100 : 0;
+        lines.addNumber(TextId::ReportPointSpecDose, spec, indent);
+        lines.addNumber(TextId::ReportPointRealDose, real, indent);
+        lines.addNumber(TextId::ReportPointError, error, indent);
     }
 }
 

@@ -3,6 +3,7 @@
 
 #include "work/track_file.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <limits>
@@ -146,7 +147,8 @@ TrackVersion trackVersion(std::string_view firstLine) {
         return {};
     }
     const std::string_view text = firstLine.substr(mark + 1);
-    return {static_cast<float>(leadingNumber(text).value_or(0)), text};
+    constexpr double kMost = 1e6;  // beyond any version; larger ones need not fit a float
+    return {static_cast<float>(std::clamp(leadingNumber(text).value_or(0), -kMost, kMost)), text};
 }
 
 TrackFile decodeTrackFile(std::string_view text) {

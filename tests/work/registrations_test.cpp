@@ -54,7 +54,7 @@ TEST(Registrations, OfAForeignFileReportsTwentyLinesAndCountsTheRest) {
     ASSERT_EQ(dialogs.messages.size(), 21U);
     EXPECT_EQ(dialogs.messages[19], "Exclamation|Campora|Error en matriculas.txt, linea 20");
     EXPECT_EQ(dialogs.messages[20],
-              "Exclamation|Campora|Hay otras 980 lineas con error en matriculas.txt");
+              "Exclamation|Campora|Otras líneas con error en matriculas.txt: 980");
 }
 
 TEST(Registrations, AreEmptyInSilenceWithoutAFile) {

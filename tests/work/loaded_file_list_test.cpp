@@ -1,0 +1,194 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "work/loaded_file_list.h"
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "model/file_gph_group.h"
+#include "support/scripted_platform.h"
+#include "support/temp_folder.h"
+
+namespace campora {
+
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+std::unique_ptr<FileGphGroup> makeFile(std::string path, std::string id = "",
+                                       std::int32_t priority = 0, std::string summary = "") {
+    auto file = std::make_unique<FileGphGroup>();
+    file->name = path;
+    file->path = std::move(path);
+    file->id = std::move(id);
+    file->priority = priority;
+    file->File_resumen().sourcePath = std::move(summary);
+    return file;
+}
+
+std::vector<std::string> namesOf(const LoadedFileList& list) {
+    std::vector<std::string> names;
+    for (int i = 0; i < list.loadedCount(); ++i) {
+        names.push_back(list.file(i).File_name());
+    }
+    return names;
+}
+
+/// A list whose questions are answered in advance.
+struct ListOnDisk {
+    TempFolder folder;
+    ScriptedDialogs dialogs;
+    Texts texts;
+    LoadedFileList list{dialogs, texts};
+
+    [[nodiscard]] std::string written(std::string_view name) const {
+        return folder.write(name, "work");
+    }
+    [[nodiscard]] static bool isThere(const std::string& path) {
+        return std::filesystem::exists(path);
+    }
+};
+
+TEST(LoadedFileList, MovesFilesAndKeepsTheEndsStill) {
+    struct Row {
+        const char* name;
+        void (LoadedFileList::*move)(const File*);
+        int from;
+        std::vector<std::string> order;
+    };
+    const Row rows[] = {
+        {"up", &LoadedFileList::moveUp, 2, {"a", "c", "b", "d"}},
+        {"up at the top", &LoadedFileList::moveUp, 0, {"a", "b", "c", "d"}},
+        {"down", &LoadedFileList::moveDown, 1, {"a", "c", "b", "d"}},
+        {"down at the end", &LoadedFileList::moveDown, 3, {"a", "b", "c", "d"}},
+        {"to the top", &LoadedFileList::moveToTop, 2, {"c", "a", "b", "d"}},
+        {"to the end", &LoadedFileList::moveToBottom, 1, {"a", "c", "d", "b"}},
+        {"removed", &LoadedFileList::removeFile, 1, {"a", "c", "d"}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        ListOnDisk disk;
+        for (const char* name : {"b", "c", "d"}) {
+            disk.list.addFile(makeFile(name), false);
+        }
+        disk.list.addFile(makeFile("a"), true);
+        EXPECT_EQ(disk.list.currentFile()->File_name(), "b");
+        (disk.list.*row.move)(&disk.list.file(row.from));
+        EXPECT_EQ(namesOf(disk.list), row.order);
+    }
+}
+
+TEST(LoadedFileList, KnowsPathsWithoutRegardToCase) {
+    ListOnDisk disk;
+    disk.list.addFile(makeFile("C:\\Campo\\Ñandú.RPT"), false);
+    EXPECT_TRUE(disk.list.isLoaded("c:\\CAMPO\\ñANDÚ.rpt"));
+    EXPECT_FALSE(disk.list.isLoaded("c:\\campo\\nandu.rpt"));
+}
+
+TEST(LoadedFileList, OfTwoCopiesOfAWorkTheMoreCompleteStays) {
+    struct Row {
+        const char* name;
+        std::int32_t listed;
+        std::int32_t added;
+        bool taken;
+    };
+    const Row rows[] = {
+        {"the new one is shorter", 9, 5, false},
+        {"both are as long", 9, 9, false},
+        {"the new one is longer", 5, 9, true},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        ListOnDisk disk;
+        const std::string old = disk.written("old.nbr");
+        const std::string oldSummary = disk.written("old.txt");
+        const std::string fresh = disk.written("new.nbr");
+        const std::string freshSummary = disk.written("new.txt");
+        disk.dialogs.yesNoAnswers = {true};
+        disk.list.addFile(makeFile(old, "job", row.listed, oldSummary), false);
+        disk.list.addFile(makeFile("other"), false);
+        EXPECT_EQ(disk.list.addFile(makeFile(fresh, "job", row.added, freshSummary), false),
+                  row.taken);
+        EXPECT_THAT(namesOf(disk.list), ElementsAre(row.taken ? fresh : old, "other"));
+        EXPECT_EQ(disk.list.currentFile(), &disk.list.file(0));
+        for (const std::string& path : {old, oldSummary}) {
+            EXPECT_EQ(ListOnDisk::isThere(path), !row.taken) << path;
+        }
+        for (const std::string& path : {fresh, freshSummary}) {
+            EXPECT_EQ(ListOnDisk::isThere(path), row.taken) << path;
+        }
+    }
+}
+
+TEST(LoadedFileList, WithoutConsentNothingIsDeleted) {
+    ListOnDisk disk;
+    const std::string old = disk.written("old.nbr");
+    const std::string fresh = disk.written("new.nbr");
+    disk.dialogs.yesNoAnswers = {false};
+    disk.list.addFile(makeFile(old, "job", 9), false);
+    EXPECT_FALSE(disk.list.addFile(makeFile(fresh, "job", 5), false));
+    EXPECT_TRUE(ListOnDisk::isThere(old) && ListOnDisk::isThere(fresh));
+}
+
+TEST(LoadedFileList, NeverDeletesWhatAnOpenFileNeeds) {
+    ListOnDisk disk;
+    const std::string shared = disk.written("wrk1.txt");
+    const std::string table = disk.written("table.txt");
+    const std::string copyA = disk.written("log1.nbr");
+    const std::string copyB = disk.written("wrk1.nbr");
+    disk.dialogs.yesNoAnswers = {true, true};
+    disk.list.addFile(makeFile(disk.written("long.nbr"), "job", 9), false);
+    disk.list.addFile(makeFile(disk.written("a.nbr"), "other job", 9, shared), false);
+    disk.list.addFile(makeFile(table), false);
+    EXPECT_FALSE(disk.list.addFile(makeFile(copyA, "job", 5, shared), false));
+    EXPECT_FALSE(disk.list.addFile(makeFile(copyB, "job", 5, table), false));
+    EXPECT_FALSE(ListOnDisk::isThere(copyA) || ListOnDisk::isThere(copyB));
+    EXPECT_TRUE(ListOnDisk::isThere(shared)) << "summary of another open work";
+    EXPECT_TRUE(ListOnDisk::isThere(table)) << "an open file itself";
+}
+
+TEST(LoadedFileList, OneFileUnderTwoSpellingsIsNotAskedAbout) {
+    ListOnDisk disk;
+    const std::string path = disk.written("log1.nbr");
+    disk.list.addFile(makeFile(path, "job", 9), false);
+    EXPECT_FALSE(disk.list.addFile(makeFile(disk.folder.file("./log1.nbr"), "job", 9), false));
+    EXPECT_TRUE(ListOnDisk::isThere(path));
+}
+
+TEST(LoadedFileList, SaysWhyAFileCouldNotBeDeletedAndLeavesItsSummary) {
+    ListOnDisk disk;
+    std::filesystem::create_directory(disk.folder.file("folder.nbr"));
+    const std::string summary = disk.written("folder.txt");
+    disk.dialogs.yesNoAnswers = {true};
+    disk.list.addFile(makeFile(disk.written("long.nbr"), "job", 9), false);
+    EXPECT_FALSE(
+        disk.list.addFile(makeFile(disk.folder.file("folder.nbr"), "job", 5, summary), false));
+    ASSERT_EQ(disk.dialogs.messages.size(), 1U);
+    EXPECT_THAT(disk.dialogs.messages.front(), ::testing::HasSubstr("folder.nbr"));
+    EXPECT_TRUE(ListOnDisk::isThere(summary));
+}
+
+TEST(LoadedFileList, GivesAllFilesOutAndTakesThemBack) {
+    ListOnDisk disk;
+    disk.list.addFile(makeFile("a"), false);
+    disk.list.addFile(makeFile("b"), false);
+    disk.list.setCurrentFile(&disk.list.file(1));
+    LoadedFileList::Saved saved = disk.list.takeAll();
+    EXPECT_THAT(namesOf(disk.list), IsEmpty());
+    EXPECT_EQ(disk.list.currentFile(), nullptr);
+    disk.list.putBack(std::move(saved));
+    EXPECT_THAT(namesOf(disk.list), ElementsAre("a", "b"));
+    EXPECT_EQ(disk.list.currentFile(), &disk.list.file(1));
+}
+
+}  // namespace
+
+}  // namespace campora
