@@ -26,7 +26,6 @@ constexpr std::string_view kPlainIcon = "copy";
 void raiseToZero(std::optional<ValueRange<float>>& range) {
     if (range) {
         range->least = std::max(range->least, 0.0F);
-        range->greatest = std::max(range->greatest, 0.0F);
     }
 }
 
@@ -133,11 +132,8 @@ void Session::removeFile(const File* file) {
 }
 
 bool Session::loadFile(std::string_view path, bool resetFirst, bool zoomAll) {
-    if (resetFirst) {
-        reset();
-    }
     const std::string found = findIgnoringCase(path);
-    if (files_.isLoaded(found)) {
+    if (!resetFirst && files_.isLoaded(found)) {
         return false;
     }
     const FileFormat* const format = formatOf(found);
@@ -146,22 +142,28 @@ bool Session::loadFile(std::string_view path, bool resetFirst, bool zoomAll) {
                                   MessageIcon::Error, texts_(TextId::WrongFileFormat));
         return false;
     }
-    if (!takeWork(found, *format)) {
+    if (!takeWork(found, *format, resetFirst)) {
         return false;
     }
     afterLoading(zoomAll);
     return true;
 }
 
-bool Session::takeWork(std::string_view path, const FileFormat& format) {
+bool Session::takeWork(std::string_view path, const FileFormat& format, bool resetFirst) {
+    const ValueRanges loaded = resetFirst || files_.empty() ? ValueRanges{} : ranges_;
+    const WorkReaderContext context{platform_.dialogs, platform_.locale, texts_, registrations_,
+                                    loaded};
+    std::optional<LoadedWork> work = format.read(path, context);
+    if (!work) {
+        return false;
+    }
+    if (resetFirst) {
+        reset();  // only now: a file that is refused must not cost the open ones
+    }
     if (files_.empty()) {
-        ranges_ = {};
         hasFlowStops_.reset();
     }
-    const WorkReaderContext context{platform_.dialogs, platform_.locale, texts_, registrations_,
-                                    ranges_};
-    std::optional<LoadedWork> work = format.read(path, context);
-    if (!work || !addFile(std::move(work->group), true, false)) {
+    if (!addFile(std::move(work->group), true, false)) {
         return false;
     }
     ranges_ = work->ranges;
@@ -187,12 +189,9 @@ void Session::afterLoading(bool zoomAll) {
 }
 
 int Session::loadFiles(const std::vector<std::string>& paths, bool resetFirst) {
-    if (resetFirst) {
-        reset();
-    }
     int taken = 0;
     for (const std::string& path : paths) {
-        taken += loadFile(path, false, false) ? 1 : 0;
+        taken += loadFile(path, resetFirst && taken == 0, false) ? 1 : 0;
     }
     if (taken > 0) {
         view_.ZoomUno();
@@ -344,7 +343,12 @@ void Session::showLegend() {
     });
     MapStyle shown = style_;
     shown.scale = &scale;
-    platform_.window.setLegend(legendContent(shown, texts_, platform_.locale));
+    LegendContent legend = legendContent(shown, texts_, platform_.locale);
+    if (files_.empty()) {
+        legend.unit.clear();
+        legend.classes.clear();
+    }
+    platform_.window.setLegend(legend);
 }
 
 void Session::showFlowStops() {
@@ -373,12 +377,13 @@ void Session::copyData() {
 
 void Session::fileOpen() {
     const std::string path = platform_.dialogs.openFile(
-        {std::string(texts_(TextId::Open)), platform_.settings.read(kOpenPath).value_or(""),
-         openFilters(texts_)});
+        {std::string(texts_(TextId::Open)),
+         platform_.settings.read(kOpenPath).value_or(programFolder_), openFilters(texts_)});
     if (path.empty()) {
         return;
     }
-    platform_.settings.write(kOpenPath, folderPart(path));
+    platform_.settings.write(
+        kOpenPath, std::string_view(path).substr(0, path.size() - fileNamePart(path).size()));
     loadFile(path, true, true);
 }
 

@@ -65,12 +65,12 @@ public:
     /// Collects the boxes of the open files anew and fits the view; false when nothing changed.
     bool recalcGphBound();
     void removeFile(const File* file);
-    /// Opens a file by its ending. False when it is open already, was refused or no reader takes
-    /// it; nothing has changed then, apart from `resetFirst`. Without `zoomAll` nothing is redrawn:
-    /// the caller does that after the last of several files.
+    /// Opens a file by its ending, in place of what is open when `resetFirst`. False when it is
+    /// open already, was refused or no reader takes it; nothing has changed then. Without `zoomAll`
+    /// nothing is redrawn: the caller does that after the last of several files.
     bool loadFile(std::string_view path, bool resetFirst, bool zoomAll);
-    /// Opens several in order, in place of what is open when `resetFirst`, and shows the whole map.
-    /// Answers how many were taken.
+    /// Opens several in order and shows the whole map; with `resetFirst` the first that is taken
+    /// replaces what is open. Answers how many were taken.
     int loadFiles(const std::vector<std::string>& paths, bool resetFirst);
     /// The empty map.
     void reset();
@@ -106,7 +106,7 @@ private:
     struct SavedMap;
 
     [[nodiscard]] std::vector<File*> openFiles() const;
-    bool takeWork(std::string_view path, const FileFormat& format);
+    bool takeWork(std::string_view path, const FileFormat& format, bool resetFirst);
     void afterLoading(bool zoomAll);
     void showTitle(std::string title);
     /// Summary, title and legend.

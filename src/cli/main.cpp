@@ -6,8 +6,8 @@
 #include <vector>
 
 #include <QCoreApplication>
-#include <QDir>
 
+#include "app/data_folder.h"
 #include "cli/program.h"
 
 namespace {
@@ -29,13 +29,6 @@ std::vector<std::string> commandLine([[maybe_unused]] int argc, [[maybe_unused]]
     return arguments;
 }
 
-/// "share/campora" beside the folder of the programs where it is installed, else that folder.
-std::string dataFolder() {
-    const QDir programs(QCoreApplication::applicationDirPath());
-    const QDir installed(programs.filePath("../share/campora"));
-    return (installed.exists() ? installed : programs).absolutePath().toStdString();
-}
-
 struct Start {
     std::vector<std::string> arguments;
     std::string dataFolder;
@@ -43,7 +36,8 @@ struct Start {
 
 Start start(int argc, char* argv[]) {
     const QCoreApplication application(argc, argv);
-    return {commandLine(argc, argv), dataFolder()};
+    return {commandLine(argc, argv),
+            campora::dataFolderOf(QCoreApplication::applicationDirPath().toStdString())};
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 
 #include "desktop/main_window.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -317,7 +318,8 @@ void MainWindow::closeEvent(QCloseEvent* event) {
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
-    if (event->mimeData()->hasUrls()) {
+    const QList<QUrl> urls = event->mimeData()->urls();
+    if (std::any_of(urls.begin(), urls.end(), [](const QUrl& url) { return url.isLocalFile(); })) {
         event->acceptProposedAction();
     }
 }

@@ -7,7 +7,9 @@
 #include <vector>
 
 #include <QApplication>
+#include <QFileInfo>
 
+#include "app/data_folder.h"
 #include "desktop/qt_text.h"
 
 namespace campora {
@@ -17,7 +19,8 @@ namespace {
 std::vector<std::string> pathsOf(const QStringList& arguments) {
     std::vector<std::string> paths;
     for (const QString& argument : arguments.mid(1)) {
-        paths.push_back(toUtf8(argument));
+        // Whole paths: the title shows them, and a file is known again whichever way it comes.
+        paths.push_back(toUtf8(QFileInfo(argument).absoluteFilePath()));
     }
     return paths;
 }
@@ -26,7 +29,7 @@ std::vector<std::string> pathsOf(const QStringList& arguments) {
 
 Program::Program()
     : window_({dialogs_, settings_, locale_, clipboard_}, locale_.language(),
-              toUtf8(QApplication::applicationDirPath())),
+              dataFolderOf(toUtf8(QApplication::applicationDirPath()))),
       widgetTexts_(window_.session().texts()) {
     dialogs_.attach(window_, window_.session().texts());
     QApplication::installTranslator(&widgetTexts_);

@@ -4,6 +4,7 @@
 #include "desktop/qt_dialogs.h"
 
 #include <QFileDialog>
+#include <QGridLayout>
 #include <QInputDialog>
 #include <QMessageBox>
 
@@ -40,6 +41,12 @@ int showBox(QWidget* parent, std::string_view text, MessageIcon icon, std::strin
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(safe);
     box.setEscapeButton(safe);
+    // A short text must not cut the caption off: an empty row of its width at the bottom.
+    if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
+        constexpr int kTitleButtons = 140;
+        const int width = box.fontMetrics().horizontalAdvance(box.windowTitle()) + kTitleButtons;
+        grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+    }
     return box.exec();
 }
 

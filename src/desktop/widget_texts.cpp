@@ -52,6 +52,8 @@ constexpr Word kWords[] = {
     {"Size", TextId::DialogSize},
     {"Type", TextId::DialogKind},
     {"Kind", TextId::DialogKind},
+    {"Folder", TextId::DialogFolderKind},
+    {"File Folder", TextId::DialogFolderKind},
     {"Date Modified", TextId::DialogModified},
     {"Computer", TextId::DialogComputer},
     {"My Computer", TextId::DialogComputer},

@@ -98,8 +98,10 @@ void setUpDoses(ColorScale& scale, const MapStyle& style, const ValueRanges& ran
     scale.allowClassEdit = true;
     scale.unit = perMinute ? kLitresPerMinute : doseUnit(files);
     if (range) {
-        const int classes = range->least < range->greatest ? kDoseClasses : 1;
-        scale.setClassNumberExt(classes, range->least, range->greatest);
+        // Doses that are all below 0 have their lower bound raised above the upper one.
+        const float greatest = std::max(range->least, range->greatest);
+        const int classes = range->least < greatest ? kDoseClasses : 1;
+        scale.setClassNumberExt(classes, range->least, greatest);
     }
 }
 

@@ -151,7 +151,10 @@ File* LoadedFileList::ownerOf(const Gph* gph) const {
 
 bool LoadedFileList::isLoaded(std::string_view path) const {
     return std::any_of(files_.begin(), files_.end(), [path](const auto& file) {
-        return equalIgnoringCase(file->File_path(), path);
+        const std::string onDisk = file->File_diskPath();
+        return equalIgnoringCase(file->File_path(), path) ||
+               (equalIgnoringCase(fileNamePart(onDisk), fileNamePart(path)) &&
+                isSameFile(onDisk, path));
     });
 }
 

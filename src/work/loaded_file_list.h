@@ -45,7 +45,8 @@ public:
 
     /// The first file that holds this layer, or null.
     [[nodiscard]] File* ownerOf(const Gph* gph) const;
-    /// Whether a listed file has this path, without regard to case.
+    /// Whether a listed file has this path, without regard to case, or is the same file on disk
+    /// under the same name.
     [[nodiscard]] bool isLoaded(std::string_view path) const;
 
     /// Hands all files out (for a preview) and takes them back.

@@ -179,8 +179,17 @@ TEST(Session, OpeningInPlaceOfTheOthersForgetsThemFirst) {
     EXPECT_EQ(desk.listed(), Names{"dos.rpt"});
     EXPECT_EQ(desk.session.ranges().dose, (ValueRange<float>{300, 302}));
     EXPECT_FALSE(desk.session.loadFile("otro.rpt", true, true));
-    EXPECT_EQ(desk.listed(), Names{});
-    EXPECT_EQ(desk.window.title, "Campora 0.1.0");
+    EXPECT_FALSE(desk.session.loadFile(desk.folder.write("vacio.rpt", ""), true, true));
+    EXPECT_EQ(desk.listed(), Names{"dos.rpt"}) << "a refused file costs nothing";
+    desk.session.removeCurrentFile();
+    EXPECT_EQ(desk.window.legend.classes.size(), 0U) << "nothing is left to explain";
+}
+
+TEST(Session, OneFileUnderTwoSpellingsOpensOnce) {
+    Desk desk;
+    desk.session.start();
+    EXPECT_TRUE(desk.session.loadFile(desk.report("uno.rpt"), true, true));
+    EXPECT_FALSE(desk.session.loadFile(desk.folder.file("./uno.rpt"), false, true));
 }
 
 TEST(Session, SeveralFilesAreDrawnOnce) {
