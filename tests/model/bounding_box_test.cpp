@@ -4,6 +4,7 @@
 #include "model/bounding_box.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <random>
 #include <vector>
@@ -17,10 +18,8 @@ namespace {
 
 void expectBox(const BoundingBox& box, const BoundingBox& expected) {
     EXPECT_EQ(box.isSet, expected.isSet);
-    EXPECT_EQ(box.minX, expected.minX);
-    EXPECT_EQ(box.minY, expected.minY);
-    EXPECT_EQ(box.maxX, expected.maxX);
-    EXPECT_EQ(box.maxY, expected.maxY);
+    EXPECT_EQ((std::array{box.minX, box.minY, box.maxX, box.maxY}),
+              (std::array{expected.minX, expected.minY, expected.maxX, expected.maxY}));
     EXPECT_NEAR(box.widthM, expected.widthM, 1e-6);
     EXPECT_NEAR(box.heightM, expected.heightM, 1e-6);
 }
@@ -43,10 +42,7 @@ TEST(BoundingBox, GrowsPointByPoint) {
     };
     const Row rows[] = {
         {"one point", {{3, 4}}, {3, 4, 3, 4, 0, 0, true}},
-        {"north", {{-60, -34}, {-60, -33}}, {-60, -34, -60, -33, 0, kDegree, true}},
         {"south", {{-60, -33}, {-60, -34}}, {-60, -34, -60, -33, 0, kDegree, true}},
-        {"east along the equator", {{0, 0}, {1, 0}}, {0, 0, 1, 0, kDegree, 0, true}},
-        {"west along the equator", {{1, 0}, {0, 0}}, {0, 0, 1, 0, kDegree, 0, true}},
         {"east takes the cosine of its own latitude",
          {{0, 0}, {1, 60}},
          {0, 0, 1, 60, kDegree / 2, 60 * kDegree, true}},
@@ -62,22 +58,11 @@ TEST(BoundingBox, GrowsPointByPoint) {
         {"nearer the equator the same longitudes are wider",
          {{0, 60}, {1, 60}, {1, 0}},
          {0, 0, 1, 60, kDegree, 60 * kDegree, true}},
-        {"inside",
-         {{0, 0}, {1, 1}, {0.5, 0.5}},
-         {0, 0, 1, 1, kDegree * 0.99984769515639, kDegree, true}},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
         expectBox(boxOf(row.points), row.expected);
     }
-}
-
-TEST(BoundingBox, ClearedBoxStartsAnew) {
-    BoundingBox box = boxOf({{1, 2}, {30, 40}});
-    box.clear();
-    EXPECT_FALSE(box.isSet);
-    box.addPoint(-5, -6);
-    expectBox(box, boxOf({{-5, -6}}));
 }
 
 /// The rules of `addPoint` with every cosine computed.
@@ -118,11 +103,13 @@ TEST(BoundingBox, AgreesWithTheSlowWayToTheLastBit) {
     }
 }
 
-TEST(BoundingBox, EqualsComparesTheSixNumbers) {
+TEST(BoundingBox, EqualsComparesTheSixNumbersAndClearKeepsThem) {
     const BoundingBox box{1, 2, 3, 4, 5, 6, true};
     BoundingBox cleared = box;
     cleared.clear();
     EXPECT_TRUE(box.equals(cleared));
+    cleared.addPoint(-5, -6);
+    expectBox(cleared, {-5, -6, -5, -6, 0, 0, true});
     for (double BoundingBox::*field :
          {&BoundingBox::minX, &BoundingBox::minY, &BoundingBox::maxX, &BoundingBox::maxY,
           &BoundingBox::widthM, &BoundingBox::heightM}) {
@@ -142,7 +129,6 @@ TEST(BoundingBox, TakesInOtherBoxes) {
     const BoundingBox unit{0, 0, 1, 1, 1000, 2000, true};
     const Row rows[] = {
         {"an empty box becomes the other", {9, 9, 9, 9, 9, 9, false}, unit, unit},
-        {"inside, with whole candidates below", unit, {0, 0, 0.5, 0.5, 900.4, 1999.6, true}, unit},
         {"a candidate of a fraction more is rounded to nothing more",
          unit,
          {0, 0, 1, 1, 1000.4, 2000.4, true},

@@ -64,14 +64,9 @@ BoundingBox boxOf(LonLat a, LonLat b) {
     return box;
 }
 
-TEST(FileGphGroup, WithoutLayersHasNoExtent) {
-    const FileGphGroup group;
-    EXPECT_TRUE(group.File_gphList().empty());
-    EXPECT_FALSE(group.File_bound().isSet);
-}
-
 TEST(FileGphGroup, BoxFollowsItsLayers) {
     FileGphGroup group;
+    EXPECT_FALSE(group.File_bound().isSet);
     auto first = std::make_unique<BoxLayer<Gph>>(boxOf({0, 0}, {1, 1}));
     auto second = std::make_unique<BoxLayer<Gph>>(boxOf({1, 1}, {3, 3}));
     BoxLayer<Gph>* const changing = second.get();
@@ -79,7 +74,6 @@ TEST(FileGphGroup, BoxFollowsItsLayers) {
     group.addGph(std::move(first));
     group.addGph(std::move(second));
     EXPECT_EQ(group.File_gphList(), layers);
-    EXPECT_EQ(group.File_bound().maxX, 3);
     EXPECT_EQ(group.File_bound().heightM, 3 * 111320);
 
     changing->box = boxOf({-1, 0}, {0, 2});
@@ -96,9 +90,11 @@ TEST(FileGphGroup, PathIsAnsweredInLowerCase) {
     EXPECT_EQ(group.File_diskPath(), R"(C:\Trabajos\LOTE ÑU.TXT)");
 }
 
-TEST(FileGphGroup, ErrorHectaresFollowTheErrorMap) {
+TEST(FileGphGroup, ErrorHectaresAndAlarmsComeFromItsWork) {
     FileGphGroup group;
-    group.addGph(std::make_unique<WorkStub>(1.25F));
+    auto work = std::make_unique<WorkStub>(1.25F);
+    const WorkStub* const seen = work.get();
+    group.addGph(std::move(work));
     group.addGph(std::make_unique<BoxLayer<Gph>>(BoundingBox()));
     group.addGph(std::make_unique<WorkStub>(2.5F));
     FileProperties& summary = group.File_resumen();
@@ -120,14 +116,6 @@ TEST(FileGphGroup, ErrorHectaresFollowTheErrorMap) {
     EXPECT_EQ(summary.entries(), (std::vector<FileProperty>{{"Fecha:", "29/11/2017", ""},
                                                             {"Hectareas Error", "", ""},
                                                             {"Operario:", "", ""}}));
-}
-
-TEST(FileGphGroup, ClearsTheAlarmsOfItsWork) {
-    FileGphGroup group;
-    auto work = std::make_unique<WorkStub>(0.0F);
-    const WorkStub* const seen = work.get();
-    group.addGph(std::make_unique<BoxLayer<Gph>>(BoundingBox()));
-    group.addGph(std::move(work));
     group.clearAlarmas();
     EXPECT_EQ(seen->cleared, 1);
 }

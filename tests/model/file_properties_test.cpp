@@ -31,8 +31,6 @@ TEST(FileProperties, ValueIsFollowedByABlankAndTheUnit) {
     summary.addProperty("Superficie", "12.5", "Has");
     EXPECT_EQ(summary.value(0), " ");
     EXPECT_EQ(summary.value(1), "12.5 Has");
-    EXPECT_EQ(summary.value_(1), "12.5");
-    EXPECT_EQ(summary.unit_(1), "Has");
 }
 
 TEST(FileProperties, BadIndicesAreRefused) {

@@ -34,11 +34,8 @@ TEST(ViewTransform, DegreesToCanvas) {
     };
     const Row rows[] = {
         {"origin is the lower left corner", 1, {-62, -34}, {-62, -34}, {0, 1001}},
-        {"north is up", 1113.2F, {0, 0}, {0, 1}, {0, 901}},
-        {"east is right", 1113.2F, {0, 0}, {1, 0}, {100, 1001}},
         {"west of the canvas", 1113.2F, {0, 0}, {-1, 0}, {-100, 1001}},
         {"cosine of the point's own latitude", 1113.2F, {0, 0}, {1, 60}, {50, -4999}},
-        {"below the canvas", 1113.2F, {0, 60}, {1, 0}, {100, 7001}},
         // 0.5 units up round to 0 before they are taken from 1001, and 1.5 to 2.
         {"height is rounded before it is turned round", 222640, {0, 0}, {0, 1}, {0, 1001}},
         {"halves go to even", 222640, {0, 0}, {3, 0}, {2, 1001}},
@@ -68,9 +65,6 @@ TEST(ViewTransform, CanvasToDegreesAndBack) {
         const LonLat at = view.screenToMap(static_cast<float>(sx), static_cast<float>(sy));
         EXPECT_EQ(view.mapToScreen(at.x, at.y), (CanvasPoint{sx, sy}));
     }
-    const LonLat corner = view.screenToMap(0, 13500);
-    EXPECT_DOUBLE_EQ(corner.x, -62.5);
-    EXPECT_DOUBLE_EQ(corner.y, -34.25);
 }
 
 TEST(ViewTransform, FarContentIsLeftOut) {
@@ -82,32 +76,29 @@ TEST(ViewTransform, FarContentIsLeftOut) {
         const char* name;
         LonLat fromM;
         LonLat toM;
-        double marginM;
-        bool touches;
+        double gapM;  // from the canvas
     };
     const Row rows[] = {
-        {"on the canvas", {5000, 5000}, {5010, 5000}, 0, true},
-        {"crosses it", {-500, -500}, {11000, 11000}, 0, true},
-        {"left", {-200, 5000}, {-100, 5000}, 20, false},
-        {"left, with a wide margin", {-200, 5000}, {-100, 5000}, 120, true},
-        {"right", {10200, 5000}, {10300, 5000}, 20, false},
-        {"right, with a wide margin", {10200, 5000}, {10300, 5000}, 220, true},
-        {"above", {5000, 10100}, {5100, 10200}, 20, false},
-        {"above, with a wide margin", {5000, 10100}, {5100, 10200}, 120, true},
-        {"below", {5000, -100}, {5100, -200}, 20, false},
-        {"below, with a wide margin", {5000, -100}, {5100, -200}, 120, true},
-        {"one end left, one below", {-100, 5000}, {5000, -100}, 0, true},
+        {"crosses it", {-500, -500}, {11000, 11000}, 0},
+        {"left", {-200, 5000}, {-100, 5000}, 100},
+        {"right", {10200, 5000}, {10300, 5000}, 200},
+        {"above", {5000, 10100}, {5100, 10200}, 100},
+        {"below", {5000, -100}, {5100, -200}, 100},
+        {"one end left, one below", {-100, 5000}, {5000, -100}, 0},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
         const LonLat from{-62 + row.fromM.x * metreX, -34 + row.fromM.y * metreY};
         const LonLat to{-62 + row.toM.x * metreX, -34 + row.toM.y * metreY};
-        EXPECT_EQ(view.mayTouch(from, to, row.marginM), row.touches);
-        EXPECT_EQ(view.mayTouch(to, from, row.marginM), row.touches);
         BoundingBox box;
         box.addPoint(from.x, from.y);
         box.addPoint(to.x, to.y);
-        EXPECT_EQ(view.mayTouch(box, row.marginM), row.touches);
+        for (const double marginM : {0.0, row.gapM / 5, row.gapM + 20}) {
+            const bool touches = marginM >= row.gapM;
+            EXPECT_EQ(view.mayTouch(from, to, marginM), touches);
+            EXPECT_EQ(view.mayTouch(to, from, marginM), touches);
+            EXPECT_EQ(view.mayTouch(box, marginM), touches);
+        }
     }
     EXPECT_FALSE(view.mayTouch(BoundingBox(), 1e9));
 }
@@ -176,13 +167,15 @@ bool wellOff(const std::vector<CanvasPoint>& places, CanvasSize canvas) {
            all([&](CanvasPoint p) { return p.y > canvas.height + bandY; });
 }
 
-TEST(ViewTransform, NothingThatShowsIsLeftOut) {
+// What shows is never left out; a short step well off the canvas always is, away from the poles.
+TEST(ViewTransform, LeavesOutOnlyWhatDoesNotShow) {
     std::mt19937 random(2026);
     const auto uniform = [&random](double low, double high) {
         return std::uniform_real_distribution<double>(low, high)(random);
     };
     const CanvasSize canvas{18000, 13500};
     int shown = 0;
+    int off = 0;
     for (int i = 0; i < 20000; ++i) {
         // From a field to far more than the globe, poles included.
         const auto scale = static_cast<float>(std::pow(10, uniform(-1, 5)));
@@ -195,14 +188,21 @@ TEST(ViewTransform, NothingThatShowsIsLeftOut) {
         const LonLat from = near();
         const LonLat to = i % 2 == 0 ? near() : LonLat{from.x + uniform(-0.01, 0.01), from.y};
         const double margin = i % 3 == 0 ? 0 : std::pow(10, uniform(0, 6));
-        if (showsSomething(placesAround(view, from, to, margin), canvas)) {
+        SCOPED_TRACE(testing::Message() << "scale " << scale << " origin " << origin.x << " "
+                                        << origin.y << " from " << from.x << " " << from.y << " to "
+                                        << to.x << " " << to.y << " margin " << margin);
+        const std::vector<CanvasPoint> places = placesAround(view, from, to, margin);
+        if (showsSomething(places, canvas)) {
             ++shown;
-            ASSERT_TRUE(view.mayTouch(from, to, margin))
-                << "scale " << scale << " origin " << origin.x << " " << origin.y << " from "
-                << from.x << " " << from.y << " to " << to.x << " " << to.y << " margin " << margin;
+            ASSERT_TRUE(view.mayTouch(from, to, margin));
+        } else if (i % 2 == 1 && margin <= 20 && std::abs(from.y) < 60 && std::abs(origin.y) < 60 &&
+                   reach < 1 && wellOff(places, canvas)) {
+            ++off;
+            ASSERT_FALSE(view.mayTouch(from, to, margin));
         }
     }
     EXPECT_GT(shown, 3000);
+    EXPECT_GT(off, 200);
 }
 
 // Both ends lie far to the right; twelve kilometres nearer the pole the same longitude is on the
@@ -212,30 +212,6 @@ TEST(ViewTransform, MarginCountsTowardsThePole) {
     ASSERT_EQ(view.mapToScreen(120, 89.89 + 12100 / kDegree).x, 30);
     EXPECT_TRUE(view.mayTouch({120, 89.89}, {120, 89.89}, 12100));
     EXPECT_FALSE(view.mayTouch({120, 89.7}, {120, 89.7}, 1000));
-}
-
-TEST(ViewTransform, ShortStepsWellOffTheCanvasAreLeftOut) {
-    std::mt19937 random(5);
-    const auto uniform = [&random](double low, double high) {
-        return std::uniform_real_distribution<double>(low, high)(random);
-    };
-    const CanvasSize canvas{18000, 13500};
-    int off = 0;
-    for (int i = 0; i < 20000; ++i) {
-        const auto scale = static_cast<float>(std::pow(10, uniform(-1, 0)));
-        const ViewTransform view(scale, scale, {uniform(-180, 180), uniform(-60, 60)}, canvas);
-        const double reach = 3.0 * scale * canvas.width / kDegree;
-        const LonLat from{view.origin().x + uniform(-reach, reach),
-                          view.origin().y + uniform(-reach, reach)};
-        const LonLat to{from.x + uniform(-0.0002, 0.0002), from.y + uniform(-0.0002, 0.0002)};
-        if (wellOff(placesAround(view, from, to, 20), canvas)) {
-            ++off;
-            ASSERT_FALSE(view.mayTouch(from, to, 20))
-                << "scale " << scale << " origin " << view.origin().x << " " << view.origin().y
-                << " from " << from.x << " " << from.y;
-        }
-    }
-    EXPECT_GT(off, 10000);
 }
 
 }  // namespace
