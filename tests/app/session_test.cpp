@@ -250,7 +250,7 @@ TEST(Session, NoRangeBeginsBelowZero) {
     Desk desk;
     desk.session.start();
     ASSERT_TRUE(desk.session.loadFile(desk.report("raro.rpt", -500), false, true));
-    EXPECT_EQ(desk.session.ranges().dose, (ValueRange<float>{0, 0}));
+    EXPECT_EQ(desk.session.ranges().dose->least, 0);
     EXPECT_EQ(desk.session.defaultScale().count(), 1);
 }
 
