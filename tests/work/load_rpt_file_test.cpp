@@ -1,0 +1,339 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include <limits>
+#include <numeric>
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "support/temp_folder.h"
+#include "support/work_files.h"
+#include "support/work_reading.h"
+
+namespace campora {
+
+namespace {
+
+using testing::ElementsAre;
+
+constexpr std::string_view kNoPoints = "Error|Campora|Archivo sin puntos: C:\\Datos\\Lote 12.rpt";
+
+RptBytes::Record at(double east, double north, std::int32_t realTenths = 1000) {
+    RptBytes::Record record;
+    record.position = fixAt(east, north);
+    record.realTenths[0] = realTenths;
+    return record;
+}
+
+RptBytes::Record atTime(double east, DateTime time) {
+    RptBytes::Record record = at(east, 0);
+    record.time = time;
+    return record;
+}
+
+TEST(LoadRptFile, MakesATrackOfEachPass) {
+    RptBytes report(1);
+    for (const LonLat& place : {LonLat{0, 0}, LonLat{10, 0}, LonLat{20, 0},  // eastward
+                                LonLat{15, 8}, LonLat{5, 8},                 // a turn at the third
+                                LonLat{5, 300}}) {                           // a break
+        report.add(at(place.x, place.y));
+    }
+    WorkReading reading;
+    const auto work = reading.report(report.bytes());
+    ASSERT_TRUE(work);
+    EXPECT_THAT(pointCounts(*work), ElementsAre(3, 3, 1));
+    EXPECT_EQ(trackOf(*work, 1).points().front(), trackOf(*work, 0).points().back());
+    EXPECT_EQ(reportRecordOf(*work, 1, 0).pointIndex(), 2);
+    EXPECT_EQ(reportRecordOf(*work, 1, 1).pointIndex(), 3);
+    EXPECT_EQ(reportRecordOf(*work, 2, 0).pointIndex(), 5);
+    EXPECT_EQ(work->group->File_name(), "Lote 12.rpt");
+    EXPECT_EQ(work->group->File_diskPath(), "C:\\Datos\\Lote 12.rpt");
+    EXPECT_EQ(work->group->File_icon(), "rptfile");
+    EXPECT_EQ(work->group->File_id(), "");
+    EXPECT_EQ(work->kind, WorkKind::Sprayer);
+}
+
+TEST(LoadRptFile, StandingStillKeepsOnePointWithTheLastRecord) {
+    RptBytes report(1);
+    report.add(at(0, 0, 1000));
+    report.add(at(10, 0, 1000));
+    report.add(at(10, 0, 500));
+    report.add(at(10, 0, 200));
+    WorkReading reading;
+    const auto work = reading.report(report.bytes());
+    ASSERT_TRUE(work);
+    EXPECT_THAT(pointCounts(*work), ElementsAre(2));
+    EXPECT_EQ(reportRecordOf(*work, 0, 1).caudal(), 20);
+    EXPECT_EQ(reportRecordOf(*work, 0, 1).pointIndex(), 3);
+}
+
+TEST(LoadRptFile, SummaryOfASprayerWithTwoProducts) {
+    RptBytes report(2, 0x6203, 0xC0FFEE, 0x10041121);
+    for (int i = 0; i < 5; ++i) {
+        RptBytes::Record record = at(12.5 * i, 0);
+        record.realTenths = {985, 71, 0, 0};
+        record.speedTenths = 112;
+        record.swathCm = 3705;
+        record.time = {{2018, 1, 15}, {18, 3, 32 + 2 * i}};
+        report.add(record);
+    }
+    WorkReading reading;
+    reading.locale = FixedLocale(',');
+    const auto work = reading.report(report.bytes());
+    ASSERT_TRUE(work);
+    // 4 steps of 12.5 m by 37.05 m; five doses over four steps.
+    EXPECT_THAT(summaryLines(*work),
+                ElementsAre("Nombre Archivo:|Lote 12.rpt|", "Numero de Serie:|6203-00C0FFEE|",
+                            "Ver. Firmware:|1.1.33|", "Ver. Hardware:|1.0.04|",
+                            "Hectáreas fumig: |0,185|", "Dosis Prom. (C 1):|122|lt/hect",
+                            "Dosis Prom. (C 2):|8,8|lt/hect", "Vel Promedio:|11,2|km/h",
+                            "Hora inicio:|15/01/2018 - 18:03:32|", "Duración:|0|min"));
+}
+
+TEST(LoadRptFile, SummaryNamesFollowTheKindOfWork) {
+    RptBytes seeder(1, 0x2104, 0x5D);
+    seeder.add(at(0, 0));
+    WorkReading reading;
+    const auto seeding = reading.report(seeder.bytes());
+    ASSERT_TRUE(seeding);
+    // One record makes no step: the averages are 0.
+    EXPECT_THAT(summaryLines(*seeding),
+                ElementsAre("Nombre Archivo:|Lote 12.rpt|", "Numero de Serie:|2104-0000005D|",
+                            "Hect. Sembradas: |0|", "Dosis Prom.: |0|unid/hect",
+                            "Vel Promedio:|0|km/h", "Hora inicio:|05/03/2018 - 10:00:00|",
+                            "Duración:|0|min"));
+    RptBytes older;
+    older.add(at(0, 0));
+    const auto work = reading.report(older.bytes());
+    ASSERT_TRUE(work);
+    EXPECT_EQ(work->kind, WorkKind::OlderForm);
+    EXPECT_EQ(summaryValue(*work, "Hect. Trabajadas: "), "0");
+    EXPECT_EQ(summaryValue(*work, "Hora inicio:"), "10:00:00");
+}
+
+TEST(LoadRptFile, RecordsWithoutAPositionCountForNothing) {
+    RptBytes report(1);
+    RptBytes::Record lost = at(0, 0, 4000);
+    for (const LonLat& nowhere : {LonLat{0, 0}, LonLat{0, -34}, LonLat{200, 10},
+                                  LonLat{10, std::numeric_limits<double>::quiet_NaN()}}) {
+        lost.position = nowhere;
+        lost.time.date.year = 2030;
+        report.add(lost);
+    }
+    report.add(at(0, 0, 800));
+    report.add(at(10, 0, 800));
+    WorkReading reading;
+    const auto work = reading.report(report.bytes());
+    ASSERT_TRUE(work);
+    EXPECT_THAT(pointCounts(*work), ElementsAre(2));
+    EXPECT_EQ(summaryValue(*work, "Dosis Prom.: "), "160");
+    EXPECT_EQ(work->ranges.dose, (ValueRange<float>{80, 80}));
+    EXPECT_EQ(work->ranges.date, (ValueRange<std::int32_t>{43164, 43164}));
+}
+
+TEST(LoadRptFile, AGlitchIsLeftOutButItsDoseCounts) {
+    RptBytes report(1);
+    report.add(at(0, 0, 1000));
+    report.add(at(10001, 0, 3000));
+    report.add(at(10, 0, 2000));
+    WorkReading reading;
+    const auto work = reading.report(report.bytes());
+    ASSERT_TRUE(work);
+    EXPECT_THAT(pointCounts(*work), ElementsAre(2));
+    EXPECT_EQ(summaryValue(*work, "Dosis Prom.: "), "600");
+    EXPECT_EQ(work->ranges.dose, (ValueRange<float>{100, 300}));
+}
+
+TEST(LoadRptFile, ImpossibleDosesStayOutOfSumsAndRanges) {
+    RptBytes report(1);
+    report.add(at(0, 0, 49994));
+    report.add(at(10, 0, 49996));  // 5000 when rounded
+    report.add(at(20, 0, 10));
+    WorkReading reading;
+    const auto work = reading.report(report.bytes());
+    ASSERT_TRUE(work);
+    EXPECT_EQ(summaryValue(*work, "Dosis Prom.: "), "2500");
+    EXPECT_EQ(work->ranges.dose, (ValueRange<float>{1, 4999}));
+    EXPECT_EQ(reportRecordOf(*work, 0, 1).caudal(), 5000) << "the record itself keeps it";
+}
+
+TEST(LoadRptFile, RangesWidenWhatIsLoadedAlready) {
+    RptBytes report(2);
+    RptBytes::Record record = at(0, 0);
+    record.realTenths = {1000, 500, 0, 0};
+    report.add(record);
+    WorkReading reading;
+    reading.ranges.dose = {20, 120};
+    reading.ranges.date = {50000, 50001};
+    reading.ranges.flow = {1, 2};
+    const auto work = reading.report(report.bytes());
+    ASSERT_TRUE(work);
+    EXPECT_EQ(work->ranges.dose, (ValueRange<float>{20, 150})) << "the total of all channels";
+    EXPECT_EQ(work->ranges.date, (ValueRange<std::int32_t>{43164, 50001}));
+    EXPECT_EQ(work->ranges.flow, (ValueRange<float>{1, 2}));
+}
+
+TEST(LoadRptFile, DurationLeavesBreaksOfMoreThanAnHourOut) {
+    const Date today{2018, 3, 5};
+    const Date tomorrow{2018, 3, 6};
+    struct Row {
+        const char* name;
+        std::vector<DateTime> times;
+        const char* minutes;
+    };
+
+    const Row rows[] = {
+        {"an hour's gap counts", {{today, {8, 0, 0}}, {today, {9, 0, 0}}}, "60"},
+        {"two seconds more do not", {{today, {8, 0, 0}}, {today, {9, 0, 2}}}, "0"},
+        {"runs before and after",
+         {{today, {8, 0, 0}}, {today, {8, 30, 0}}, {today, {12, 0, 0}}, {today, {12, 12, 0}}},
+         "42"},
+        {"over midnight", {{today, {23, 50, 0}}, {tomorrow, {0, 20, 0}}}, "30"},
+        {"the clock goes back",
+         {{today, {9, 0, 0}}, {today, {9, 10, 0}}, {today, {8, 0, 0}}, {today, {8, 5, 0}}},
+         "15"},
+        {"30 seconds round to even", {{today, {8, 0, 0}}, {today, {8, 2, 30}}}, "2"},
+        {"day 0 is the last of the month before",
+         {{{2018, 2, 28}, {23, 50, 0}}, {{2018, 3, 0}, {23, 58, 0}}},
+         "8"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        RptBytes report(1);
+        double east = 0;
+        for (const DateTime& time : row.times) {
+            report.add(atTime(east += 10, time));
+        }
+        WorkReading reading;
+        const auto work = reading.report(report.bytes());
+        ASSERT_TRUE(work);
+        EXPECT_EQ(summaryValue(*work, "Duración:"), row.minutes);
+    }
+}
+
+TEST(LoadRptFile, ARunningCounterInTheAlarmFieldIsCleared) {
+    struct Row {
+        const char* name;
+        std::vector<std::uint32_t> words;
+        bool cleared;
+    };
+
+    std::vector<std::uint32_t> thirtyUp(31);
+    std::vector<std::uint32_t> thirtyOneUp(32);
+    std::iota(thirtyUp.begin(), thirtyUp.end(), 7U);
+    std::iota(thirtyOneUp.begin(), thirtyOneUp.end(), 7U);
+    std::vector<std::uint32_t> withALeap = thirtyOneUp;  // up 31, down 3
+    withALeap.push_back(1);
+    std::vector<std::uint32_t> downAtTheStart(20, 5);  // never below 0
+    downAtTheStart.insert(downAtTheStart.end(), thirtyOneUp.begin(), thirtyOneUp.end());
+    const Row rows[] = {
+        {"30 in a row", thirtyUp, false},
+        {"31 in a row", thirtyOneUp, true},
+        {"31, then a leap", withALeap, false},
+        {"the same word many times, then 31", downAtTheStart, true},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        RptBytes report(1);
+        double east = 0;
+        for (const std::uint32_t word : row.words) {
+            RptBytes::Record record = at(east += 5, 0);
+            record.alarms = word;
+            report.add(record);
+        }
+        WorkReading reading;
+        const auto work = reading.report(report.bytes());
+        ASSERT_TRUE(work);
+        EXPECT_EQ(reportRecordOf(*work, 0, 0).alarmas(), row.cleared ? 0 : row.words.front());
+    }
+}
+
+TEST(LoadRptFile, AFileWithoutSwathAsksForIt) {
+    struct Row {
+        const char* answer;
+        float swath;  ///< 0: nothing is loaded
+    };
+
+    RptBytes report;
+    report.addFourFields(fixAt(0, 0), 1000);
+    report.addFourFields(fixAt(10, 0), 1000);
+    for (const Row& row : {Row{"16", 16}, Row{"250", 200}, Row{"27.6", 28}, Row{"", 0},
+                           Row{"ancho", 0}, Row{"-3", 0}}) {
+        SCOPED_TRACE(row.answer);
+        WorkReading reading;
+        reading.dialogs.inputAnswers = {row.answer};
+        const auto work = reading.report(report.bytes());
+        EXPECT_THAT(reading.dialogs.inputs, ElementsAre("192|Campora|16"));
+        EXPECT_TRUE(reading.dialogs.messages.empty());
+        ASSERT_EQ(work.has_value(), row.swath > 0);
+        if (work) {
+            EXPECT_EQ(reportRecordOf(*work, 0, 0).trocha(), row.swath);
+        }
+    }
+}
+
+TEST(LoadRptFile, FilesWithoutAPointAreRefusedWithoutAQuestion) {
+    RptBytes nowhere(1);
+    RptBytes::Record record = at(0, 0);
+    record.position = {0, 0};
+    nowhere.add(record);
+    RptBytes fourFieldsNowhere;
+    fourFieldsNowhere.addFourFields({0, 0}, -1);
+    fourFieldsNowhere.addFourFields({200, 91}, -1);
+    for (const std::string& bytes :
+         {std::string(), std::string("\x01\x02\x03"), RptBytes(1).bytes(), nowhere.bytes(),
+          fourFieldsNowhere.bytes(), std::string(64, '\0')}) {
+        SCOPED_TRACE(bytes.size());
+        WorkReading reading;
+        EXPECT_FALSE(reading.report(bytes));
+        EXPECT_THAT(reading.dialogs.messages, ElementsAre(std::string(kNoPoints)));
+    }
+}
+
+TEST(LoadRptFile, FiveChannelsLoadAndSixAreRefused) {
+    RptBytes five(5);
+    five.add(at(0, 0));
+    WorkReading reading;
+    const auto work = reading.report(five.bytes());
+    ASSERT_TRUE(work);
+    EXPECT_EQ(reportRecordOf(*work, 0, 0).channels(), 5);
+    EXPECT_EQ(summaryValue(*work, "Dosis Prom. (C 5):"), "0");
+
+    RptBytes six(6);
+    six.add(at(0, 0));
+    EXPECT_FALSE(reading.report(six.bytes()));
+    EXPECT_THAT(reading.dialogs.messages,
+                ElementsAre("Error|Campora|Esta versión de Campora no es compatible con archivos "
+                            "de mas de 4 columnas"));
+}
+
+TEST(LoadRptFile, UnreadableFilesAreReportedWithPathAndReason) {
+    const TempFolder folder;
+    struct Row {
+        const char* name;
+        std::string path;
+        const char* reason;
+    };
+
+    const Row rows[] = {
+        {"missing", folder.file("x.rpt"), "no existe"},
+        {"folder", folder.path(), "es una carpeta"},
+        {"cut in its header", folder.write("cut.rpt", RptBytes(1).bytes().substr(0, 20)),
+         "está cortado en el byte 20"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        WorkReading reading;
+        EXPECT_FALSE(loadRptFile(row.path, reading.context()));
+        EXPECT_THAT(reading.dialogs.messages,
+                    ElementsAre("Error|Campora|No se puede leer el archivo " + row.path + ": " +
+                                row.reason));
+    }
+}
+
+}  // namespace
+
+}  // namespace campora

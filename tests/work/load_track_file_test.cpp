@@ -1,0 +1,253 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "support/temp_folder.h"
+#include "support/work_files.h"
+#include "support/work_reading.h"
+
+namespace campora {
+
+namespace {
+
+using testing::ElementsAre;
+
+constexpr std::string_view kNoPoints = "Error|Campora|Archivo sin puntos: C:\\Datos\\Track12.nbr";
+
+const TrackDataNBR& loggerRecordOf(const LoadedWork& work, std::size_t n, std::int32_t i) {
+    return dynamic_cast<const TrackDataNBR&>(trackOf(work, n).pointInfo(i));
+}
+
+TEST(LoadTrackFile, NamesTheWorkAfterItsHeader) {
+    TrackText track;
+    track.order = "15";
+    track.serial = "AB12";
+    track.addPoint(0, 0, 20, 12);
+    track.addPoint(0, 10, 20, 12);
+    WorkReading reading;
+    reading.registrations.add("ab12", "LV-ABC");
+    const auto work = reading.track(track.bytes());
+    ASSERT_TRUE(work);
+    const FileGphGroup& group = *work->group;
+    EXPECT_EQ(group.File_name(), "15 - track12.nbr (LV-ABC)");
+    EXPECT_EQ(group.File_diskPath(), "C:\\Datos\\Track12.nbr");
+    EXPECT_EQ(group.File_icon(), "nbrfile");
+    EXPECT_EQ(group.File_id(), "ab12-18:03:32-15/07/16");
+    EXPECT_EQ(group.File_priority(), 10);
+    EXPECT_EQ(loggerRecordOf(*work, 0, 1).serie(), "AB12");
+    EXPECT_EQ(loggerRecordOf(*work, 0, 1).path(), "C:\\Datos\\Track12.nbr");
+    EXPECT_EQ(loggerRecordOf(*work, 0, 1).trocha(), 18);
+
+    track.order = "0";
+    track.serial = "x";
+    const auto plain = reading.track(track.bytes());
+    ASSERT_TRUE(plain);
+    EXPECT_EQ(plain->group->File_name(), "track12.nbr");
+}
+
+TEST(LoadTrackFile, PriorityCountsLinesWithoutTheLastLineEnd) {
+    TrackText track;
+    track.lineEnd = "\n";
+    track.addPoint(0, 0, 20, 12);
+    std::string text = track.bytes();
+    WorkReading reading;
+    EXPECT_EQ(reading.track(text)->group->File_priority(), 9);
+    text.pop_back();
+    EXPECT_EQ(reading.track(text)->group->File_priority(), 9);
+    EXPECT_EQ(reading.track(text + "\n\n\n")->group->File_priority(), 11);
+}
+
+TEST(LoadTrackFile, ReadsOffsetsFlowAndSpeedByVersion) {
+    struct Row {
+        const char* name;
+        const char* version;
+        const char* line;
+        double west;   ///< millionths of a degree
+        double south;  ///< the same; both -1 when the line is skipped
+        float flow;
+        float speed;
+    };
+
+    const Row rows[] = {
+        {"before 1.3 no speed", "1.2", "00C2001D9B030FFF", 0xC20, 0x01D9B, 0x030, 0},
+        {"from 1.3 on a speed", "1.3", "001F400D0F07A009", 500, 0xD0F, 0x07A, 9},
+        {"letters after the number", "1.3b", "001F400D0F07A009", 500, 0xD0F, 0x07A, 9},
+        {"13 characters", "1.3", "001F400D0F07A", 500, 0xD0F, 0x07A, 0},
+        {"12 characters", "1.3", "001F400D0F07", -1, -1, 0, 0},
+        {"short speed as it stands", "1.3", "001F400D0F07A1F", 500, 0xD0F, 0x07A, 0x1F},
+        {"more characters", "1.3", "001F400D0F07A009zzz", 500, 0xD0F, 0x07A, 9},
+        {"lower case", "1.3", "001f400d0f07a00c", 500, 0xD0F, 0x07A, 12},
+        {"largest offsets", "1.3", "FFFFFFFFFFFFFFFF", 0xFFFFF, 0xFFFFF, 4095, 4095},
+        {"pairs are read on their own", "1.3", "x1FG4x0D0F0xAx09", 0x1F00, 0xD0F, 0, 0},
+        {"wide offsets from 2 on", "2.0", "00001F80002C15071008", 504, 0x2C15, 0x071, 8},
+        {"18 characters", "2.0", "00001F80002C150711", 504, 0x2C15, 0x071, 1},
+        {"17 characters", "2.0", "00001F80002C15071", 504, 0x2C15, 0x071, 0},
+        {"16 characters", "2.0", "00001F80002C1507", -1, -1, 0, 0},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        TrackText track;
+        track.version = row.version;
+        track.add(row.line);
+        track.add(track.version < "2" ? "000010000100A00A" : "0000001000000100A00A");
+        WorkReading reading;
+        const auto work = reading.track(track.bytes());
+        ASSERT_TRUE(work);
+        const auto& points = trackOf(*work, 0).points();
+        if (row.west < 0) {
+            EXPECT_EQ(points.front(), (LonLat{-60.5 - 1e-6, -31.5 - 1e-6}));
+            continue;
+        }
+        EXPECT_DOUBLE_EQ(points.front().x, -60.5 - row.west / 1e6);
+        EXPECT_DOUBLE_EQ(points.front().y, -31.5 - row.south / 1e6);
+        EXPECT_EQ(loggerRecordOf(*work, 0, 0).caudal(), row.flow);
+        EXPECT_EQ(loggerRecordOf(*work, 0, 0).velocidad(), row.speed);
+    }
+}
+
+TEST(LoadTrackFile, BlankLinesAndLeapsEndPasses) {
+    struct Row {
+        const char* name;
+        std::vector<int> souths;  ///< millionths of a degree; -1 a blank line
+        std::vector<std::size_t> points;
+    };
+
+    const Row rows[] = {
+        {"blank line", {0, 10, -1, 20, 30}, {2, 2}},
+        {"several", {0, -1, -1, -1, 10, 20}, {1, 2}},
+        {"before the first and after the last", {-1, 0, 10, -1}, {2}},
+        {"499.95 metres", {0, 4491}, {2}},
+        {"500.05 metres", {0, 4492}, {1, 1}},
+        {"a leap to a blank line", {0, 10, -1, 9000, 9010}, {2, 2}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        TrackText track;
+        for (const int south : row.souths) {
+            if (south < 0) {
+                track.add("  ");
+            } else {
+                track.addPoint(100, static_cast<std::uint32_t>(south), 20, 12);
+            }
+        }
+        WorkReading reading;
+        const auto work = reading.track(track.bytes());
+        ASSERT_TRUE(work);
+        EXPECT_EQ(pointCounts(*work), row.points);
+    }
+}
+
+TEST(LoadTrackFile, RangesAndFlowStops) {
+    TrackText track;
+    track.addPoint(0, 0, 30, 12);
+    track.addPoint(0, 10, 20, 10);
+    WorkReading reading;
+    const auto flowing = reading.track(track.bytes());
+    ASSERT_TRUE(flowing);
+    EXPECT_EQ(flowing->hasFlowStops, false);
+    EXPECT_EQ(flowing->ranges.flow, (ValueRange<float>{20, 30}));
+    ASSERT_TRUE(flowing->ranges.litres);
+    EXPECT_FLOAT_EQ(flowing->ranges.litres->least, 20 * 10000 / (10 * 18 * 1000 / 60.0F));
+    EXPECT_FLOAT_EQ(flowing->ranges.litres->greatest, 30 * 10000 / (12 * 18 * 1000 / 60.0F));
+    EXPECT_FALSE(flowing->ranges.dose);
+
+    track.addPoint(0, 20, 0, 10);
+    const auto stopping = reading.track(track.bytes());
+    ASSERT_TRUE(stopping);
+    EXPECT_EQ(stopping->hasFlowStops, true);
+    EXPECT_EQ(stopping->ranges.flow, (ValueRange<float>{0, 30}));
+}
+
+TEST(LoadTrackFile, TakesTheSummaryBesideItInAnyCase) {
+    const TempFolder folder;
+    TrackText track;
+    track.addPoint(0, 0, 20, 12);
+    const std::string path = folder.write("LOG0007.NBR", track.bytes());
+    const std::string summary = folder.write("wrk0007.TXT", "\"Lote:\",\"La Pe\xF1\x61\",\"\"\r\n");
+    WorkReading reading;
+    const auto work = loadTrackFile(path, reading.context());
+    ASSERT_TRUE(work);
+    EXPECT_THAT(summaryLines(*work), ElementsAre("Lote:|La Peña|"));
+    EXPECT_EQ(work->group->File_resumen().sourcePath, summary);
+
+    const std::string alone = folder.write("LOG0008.NBR", track.bytes());
+    const auto bare = loadTrackFile(alone, reading.context());
+    ASSERT_TRUE(bare);
+    EXPECT_EQ(bare->group->File_resumen().count(), 0);
+    EXPECT_EQ(bare->group->File_resumen().sourcePath, "");
+}
+
+TEST(LoadTrackFile, ForeignFilesAreRefused) {
+    for (const char* text : {"", "\r\n", "archivo borrado\r\n", "*TRACKER LOG FILE*\r\n0\r\n",
+                             "*TRACKER LOG FILE* Vx\r\n", "*tracker log file* V1.3\r\n"}) {
+        SCOPED_TRACE(text);
+        WorkReading reading;
+        EXPECT_FALSE(reading.track(text));
+        EXPECT_THAT(reading.dialogs.messages,
+                    ElementsAre("Error|Formato de Archivo incorrecto|El archivo no es compatible"));
+    }
+}
+
+TEST(LoadTrackFile, NewerVersionsLoadWithAWarning) {
+    TrackText track;
+    track.version = "2.1";
+    track.addPoint(0, 0, 20, 12);
+    WorkReading reading;
+    EXPECT_TRUE(reading.track(track.bytes()));
+    EXPECT_THAT(reading.dialogs.messages,
+                ElementsAre("Exclamation|Version de Archivo Incompatible|El archivo que está por "
+                            "abrir no es totalmente compatible con la versión del programa. Puede "
+                            "que el resultado no sea el esperado. \r\nLa versión del archivo que "
+                            "esta abriendo es: 2.1\r\nEl programa que esta utilizando permite "
+                            "abrir correctamente hasta la versión: 2"));
+}
+
+TEST(LoadTrackFile, FilesWithoutPointsAreRefused) {
+    TrackText header;
+    TrackText shortLines;
+    shortLines.add("001F4");
+    TrackText beyondThePole;
+    beyondThePole.south = "89.9";
+    beyondThePole.addPoint(0, 0xFFFFF, 20, 12);
+    const std::string cutInHeader = header.bytes().substr(0, 40);
+    for (const std::string& text : {header.bytes(), header.bytes() + "\r\n\r\n", cutInHeader,
+                                    shortLines.bytes(), beyondThePole.bytes()}) {
+        SCOPED_TRACE(text);
+        WorkReading reading;
+        EXPECT_FALSE(reading.track(text));
+        EXPECT_THAT(reading.dialogs.messages, ElementsAre(std::string(kNoPoints)));
+    }
+}
+
+TEST(LoadTrackFile, AReferenceThatIsNoNumberIsRefusedWithItsLine) {
+    const TempFolder folder;
+    const auto expectLine = [&folder](const TrackText& track, const char* line) {
+        const std::string path = folder.write("log1.nbr", track.bytes());
+        WorkReading reading;
+        EXPECT_FALSE(loadTrackFile(path, reading.context()));
+        EXPECT_THAT(reading.dialogs.messages,
+                    ElementsAre("Error|Campora|No se puede leer el archivo " + path +
+                                ": en el renglón " + line + " debe haber un número"));
+    };
+    TrackText track;
+    track.addPoint(0, 0, 20, 12);
+    track.west = "oeste";
+    expectLine(track, "7");
+    track.west = "1e999";
+    expectLine(track, "7");
+    track.west = "60.5";
+    track.south = "";
+    expectLine(track, "8");
+    track.south = "31.5";
+    track.swath = "1e300";
+    expectLine(track, "9");
+}
+
+}  // namespace
+
+}  // namespace campora
