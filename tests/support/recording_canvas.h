@@ -4,6 +4,8 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <iterator>
 #include <span>
@@ -46,7 +48,6 @@ public:
     }
     /// The corners of every polygon drawn, for tests that compute with them.
     [[nodiscard]] const std::vector<std::vector<CanvasPoint>>& rings() const { return rings_; }
-    [[nodiscard]] PointerShape pointer() const { return pointer_; }
 
     /// Forgets the calls; size and state stay.
     void forget() {
@@ -102,11 +103,12 @@ public:
         return {static_cast<std::int32_t>(characters) * (bold ? 150 : 120), 240};
     }
     void paintPicture(MapPicture picture, CanvasPoint topLeft, CanvasSize size) override {
-        add("picture " + pictureName(picture) + ":" + place(topLeft) + " " +
-            std::to_string(size.width) + "x" + std::to_string(size.height));
+        constexpr std::array kNames = {"up", "down", "right", "left"};
+        add("picture " + std::string(kNames.at(static_cast<std::size_t>(picture))) + ":" +
+            place(topLeft) + " " + std::to_string(size.width) + "x" + std::to_string(size.height));
     }
     void refresh() override { add("refresh"); }
-    void setPointer(PointerShape shape) override { pointer_ = shape; }
+    void setPointer(PointerShape /*shape*/) override {}
 
 private:
     void add(std::string call) { calls_.push_back(std::move(call)); }
@@ -118,19 +120,6 @@ private:
         return " width=" + std::to_string(penWidth_) +
                (penStyle_ == PenStyle::Dotted ? " dotted" : " solid");
     }
-    [[nodiscard]] static std::string pictureName(MapPicture picture) {
-        switch (picture) {
-        case MapPicture::ArrowUp:
-            return "up";
-        case MapPicture::ArrowDown:
-            return "down";
-        case MapPicture::ArrowRight:
-            return "right";
-        case MapPicture::ArrowLeft:
-            return "left";
-        }
-        return "unknown";
-    }
 
     CanvasSize size_;
     Color background_{0xFFFFFF};
@@ -139,7 +128,6 @@ private:
     FillStyle fillStyle_ = FillStyle::Solid;
     int penWidth_ = 1;
     PenStyle penStyle_ = PenStyle::Solid;
-    PointerShape pointer_ = PointerShape::Arrow;
     std::vector<std::string> calls_;
     std::vector<std::vector<CanvasPoint>> rings_;
 };

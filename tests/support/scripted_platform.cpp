@@ -3,6 +3,9 @@
 
 #include "support/scripted_platform.h"
 
+#include <array>
+#include <cstddef>
+
 #include <gtest/gtest.h>
 
 namespace campora {
@@ -10,17 +13,8 @@ namespace campora {
 namespace {
 
 std::string_view iconName(MessageIcon icon) {
-    switch (icon) {
-    case MessageIcon::Plain:
-        return "Plain";
-    case MessageIcon::Information:
-        return "Information";
-    case MessageIcon::Exclamation:
-        return "Exclamation";
-    case MessageIcon::Error:
-        return "Error";
-    }
-    return "unknown";
+    constexpr std::array kNames = {"Plain", "Information", "Exclamation", "Error"};
+    return kNames.at(static_cast<std::size_t>(icon));
 }
 
 std::string joined(std::string_view a, std::string_view b, std::string_view c) {
