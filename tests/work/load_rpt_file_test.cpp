@@ -221,19 +221,22 @@ TEST(LoadRptFile, ARunningCounterInTheAlarmFieldIsCleared) {
         bool cleared;
     };
 
-    std::vector<std::uint32_t> thirtyUp(31);
-    std::vector<std::uint32_t> thirtyOneUp(32);
-    std::iota(thirtyUp.begin(), thirtyUp.end(), 7U);
-    std::iota(thirtyOneUp.begin(), thirtyOneUp.end(), 7U);
-    std::vector<std::uint32_t> withALeap = thirtyOneUp;  // up 31, down 3
-    withALeap.push_back(1);
-    std::vector<std::uint32_t> downAtTheStart(20, 5);  // never below 0
-    downAtTheStart.insert(downAtTheStart.end(), thirtyOneUp.begin(), thirtyOneUp.end());
+    // Up `steps` times by one, then `more`.
+    const auto rising = [](std::size_t steps, const std::vector<std::uint32_t>& more = {}) {
+        std::vector<std::uint32_t> words(steps + 1);
+        std::iota(words.begin(), words.end(), 7U);
+        words.insert(words.end(), more.begin(), more.end());
+        return words;
+    };
+    std::vector<std::uint32_t> sameFirst(20, 5);  // the score does not fall below 0
+    const std::vector<std::uint32_t> counter = rising(31);
+    sameFirst.insert(sameFirst.end(), counter.begin(), counter.end());
     const Row rows[] = {
-        {"30 in a row", thirtyUp, false},
-        {"31 in a row", thirtyOneUp, true},
-        {"31, then a leap", withALeap, false},
-        {"the same word many times, then 31", downAtTheStart, true},
+        {"30 in a row", rising(30), false},
+        {"31 in a row", counter, true},
+        {"a leap takes three away", rising(33, {1}), false},
+        {"and no more", rising(34, {1}), true},
+        {"the same word many times, then 31", sameFirst, true},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
