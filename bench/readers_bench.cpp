@@ -12,12 +12,28 @@
 #include <benchmark/benchmark.h>
 
 #include "base/paths.h"
-#include "support/quiet_platform.h"
+#include "platform/quiet_dialogs.h"
 #include "support/temp_folder.h"
 #include "support/work_files.h"
 #include "work/work_reader.h"
 
 namespace {
+
+class CountingDialogs final : public campora::QuietDialogs {
+public:
+    int messages = 0;
+
+    void message(std::string_view /*text*/, campora::MessageIcon /*icon*/,
+                 std::string_view /*caption*/) override {
+        ++messages;
+    }
+};
+
+class PlainLocale final : public campora::UserLocale {
+public:
+    [[nodiscard]] char decimalSymbol() const override { return '.'; }
+    [[nodiscard]] std::string shortDateForm() const override { return "dd/mm/yyyy"; }
+};
 
 /// Bytes in use now, and most at one time since the last reset. The benchmarks run on one thread.
 std::size_t heapNow = 0;
@@ -111,7 +127,7 @@ void openFile(benchmark::State& state, const char* name, std::string (*contentOf
         fileSize = content.size();
         path = folder.write(name, content);
     }
-    QuietDialogs dialogs;
+    CountingDialogs dialogs;
     const PlainLocale locale;
     const Texts texts;
     const Registrations registrations;

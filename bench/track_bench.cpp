@@ -39,6 +39,9 @@ public:
     void text(CanvasPoint, std::string_view, TextAnchor, bool) override {}
     [[nodiscard]] CanvasSize textSize(std::string_view, bool) const override { return {}; }
     void paintPicture(MapPicture, CanvasPoint, CanvasSize) override {}
+    [[nodiscard]] Picture picture() const override { return {}; }
+    void takeSnapshot() override {}
+    void paintSnapshot(CanvasPoint) override {}
     void refresh() override {}
     void setPointer(PointerShape) override {}
 

@@ -182,7 +182,7 @@ void Session::afterLoading(bool zoomAll) {
     if (zoomAll) {
         view_.ZoomUno();
     }
-    platform_.window.setFileCommandsEnabled(true);
+    platform_.window.active(true, true);
     loadFileList(true);
     showCurrentFile();
     showFlowStops();
@@ -207,7 +207,7 @@ void Session::reset() {
     redraw();
     MainWindowControls& window = platform_.window;
     window.setFileList({}, std::nullopt);
-    window.setFileCommandsEnabled(false);
+    window.active(false, true);
     showFlowStops();
     showSummary();
     showLegend();
@@ -376,12 +376,13 @@ void Session::copyData() {
 }
 
 void Session::fileOpen() {
-    const std::string path = platform_.dialogs.openFile(
+    const std::vector<std::string> paths = platform_.dialogs.openFiles(
         {std::string(texts_(TextId::Open)),
          platform_.settings.read(kOpenPath).value_or(programFolder_), openFilters(texts_)});
-    if (path.empty()) {
+    if (paths.empty()) {
         return;
     }
+    const std::string& path = paths.front();
     platform_.settings.write(
         kOpenPath, std::string_view(path).substr(0, path.size() - fileNamePart(path).size()));
     loadFile(path, true, true);

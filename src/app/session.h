@@ -14,7 +14,9 @@
 #include "base/texts.h"
 #include "colour/color_scale.h"
 #include "model/map_style.h"
+#include "platform/classes_registry.h"
 #include "platform/clipboard.h"
+#include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/main_window_controls.h"
 #include "platform/map_canvas.h"
@@ -34,6 +36,8 @@ struct Platform {
     SettingsStore& settings;
     const UserLocale& locale;
     Clipboard& clipboard;
+    Clock& clock;
+    ClassesRegistry& classes;
 };
 
 /// The one object behind a main window (or behind one run of the batch program): open files, view,
@@ -50,6 +54,7 @@ public:
     /// map.
     void start();
 
+    [[nodiscard]] const Platform& platform() const { return platform_; }
     [[nodiscard]] const Texts& texts() const { return texts_; }
     [[nodiscard]] LoadedFileList& files() { return files_; }
     /// Widened by every file that is added; unset again when the map is empty.
@@ -101,6 +106,8 @@ public:
     /// Builds the default scale anew for the current mode and shows it in the legend; does not
     /// redraw. The date map is left when nothing loaded has a date.
     void refreshColorScale();
+    /// Draws the map again as it stands, in the user's background.
+    void redraw() { view_.refrescar("-1"); }
 
 private:
     struct SavedMap;
@@ -114,7 +121,6 @@ private:
     void showSummary();
     void showLegend();
     void showFlowStops();
-    void redraw() { view_.refrescar("-1"); }
 
     Platform platform_;
     Texts texts_;

@@ -22,6 +22,11 @@ bool BatchDialogs::askYesNo(std::string_view text, MessageIcon /*icon*/,
     return arguments_.yes;
 }
 
+Answer BatchDialogs::askYesNoCancel(std::string_view text, MessageIcon icon,
+                                    std::string_view caption) {
+    return askYesNo(text, icon, caption) ? Answer::Yes : Answer::No;
+}
+
 std::string BatchDialogs::inputBox(TextId prompt, std::string_view /*caption*/,
                                    std::string_view proposed) {
     switch (prompt) {
@@ -34,15 +39,11 @@ std::string BatchDialogs::inputBox(TextId prompt, std::string_view /*caption*/,
     }
 }
 
-std::string BatchDialogs::openFile(const OpenRequest& /*request*/) {
-    return {};
-}
-
 BatchSession::BatchSession(const Arguments& arguments, MapCanvas& canvas, std::ostream& boxes)
     : arguments_(arguments),
       dialogs_(arguments, boxes),
       locale_(arguments),
-      session_({canvas, window_, dialogs_, settings_, locale_, clipboard_}, arguments.language,
+      session_({canvas, window_, dialogs_, settings_, locale_, clipboard_, clock_, classes_}, arguments.language,
                arguments.programFolder) {
     session_.start();
 }

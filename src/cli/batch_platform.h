@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <ostream>
 #include <span>
@@ -12,6 +13,7 @@
 
 #include "app/session.h"
 #include "cli/arguments.h"
+#include "platform/quiet_dialogs.h"
 
 namespace campora {
 
@@ -19,7 +21,7 @@ namespace campora {
 [[nodiscard]] std::string oneLine(std::string_view text);
 
 /// Boxes go to a stream, one a line, questions too; the answers come from the command line.
-class BatchDialogs final : public Dialogs {
+class BatchDialogs final : public QuietDialogs {
 public:
     BatchDialogs(const Arguments& arguments, std::ostream& boxes)
         : arguments_(arguments), boxes_(boxes) {}
@@ -27,9 +29,10 @@ public:
     void message(std::string_view text, MessageIcon icon, std::string_view caption) override;
     [[nodiscard]] bool askYesNo(std::string_view text, MessageIcon icon,
                                 std::string_view caption) override;
+    [[nodiscard]] Answer askYesNoCancel(std::string_view text, MessageIcon icon,
+                                        std::string_view caption) override;
     [[nodiscard]] std::string inputBox(TextId prompt, std::string_view caption,
                                        std::string_view proposed) override;
-    [[nodiscard]] std::string openFile(const OpenRequest& request) override;
 
 private:
     const Arguments& arguments_;
@@ -59,6 +62,7 @@ public:
 class NoClipboard final : public Clipboard {
 public:
     void setText(std::string_view /*text*/) override {}
+    void setPicture(const Picture& /*picture*/) override {}
 };
 
 class NoWindow final : public MainWindowControls {
@@ -69,8 +73,30 @@ public:
     void setSummary(std::span<const SummaryRow> /*rows*/) override {}
     void setLegend(const LegendContent& /*legend*/) override {}
     void setViewControls(const ViewControls& /*controls*/) override {}
-    void setFileCommandsEnabled(bool /*enabled*/) override {}
+    void active(bool /*enabled*/, bool /*replayControls*/) override {}
+    void commandsChanged() override {}
+    void retranslate() override {}
+    void setReplay(const ReplayState& /*state*/) override {}
+    void setSpeedReadout(std::string_view /*text*/) override {}
+    void setOverlay(const MapOverlay& /*overlay*/) override {}
+    void setPosition(std::string_view /*text*/) override {}
+    void setToolText(std::string_view /*text*/) override {}
     void setWorkStatus(std::string_view /*text*/) override {}
+};
+
+/// A run waits for nothing and has no user.
+class NoClock final : public Clock {
+public:
+    [[nodiscard]] std::uint32_t ticks() const override { return 0; }
+    void sleep(std::uint32_t /*milliseconds*/) override {}
+    void processEvents() override {}
+};
+
+/// A run registers nothing with the system.
+class NoClasses final : public ClassesRegistry {
+public:
+    void setDefault(std::string_view /*key*/, std::string_view /*value*/) override {}
+    void finish() override {}
 };
 
 /// A canvas without area, on which nothing shows.
@@ -99,6 +125,9 @@ public:
     }
     void paintPicture(MapPicture /*picture*/, CanvasPoint /*topLeft*/,
                       CanvasSize /*size*/) override {}
+    [[nodiscard]] Picture picture() const override { return {}; }
+    void takeSnapshot() override {}
+    void paintSnapshot(CanvasPoint /*offset*/) override {}
     void refresh() override {}
     void setPointer(PointerShape /*shape*/) override {}
 };
@@ -120,6 +149,8 @@ private:
     BatchLocale locale_;
     NoSettings settings_;
     NoClipboard clipboard_;
+    NoClock clock_;
+    NoClasses classes_;
     NoWindow window_;
     Session session_;
 };

@@ -72,7 +72,8 @@ MainWindow::MainWindow(const Desktop& desktop, Language language, const std::str
     arrange();
     makeStatusBar();
     const Platform platform{mapArea_->map().canvas(), *this,          desktop.dialogs,
-                            desktop.settings,         desktop.locale, desktop.clipboard};
+                            desktop.settings,         desktop.locale, desktop.clipboard,
+                            desktop.clock,            desktop.classes};
     session_ = std::make_unique<Session>(platform, language, programFolder);
     connectMap();
     connectFileList();
@@ -296,10 +297,26 @@ void MainWindow::setViewControls(const ViewControls& controls) {
     showScale();
 }
 
-void MainWindow::setFileCommandsEnabled(bool enabled) {
+void MainWindow::active(bool enabled, bool /*replayControls*/) {
     actions_->setEnabled(Needs::OpenFiles, enabled);
     mapArea_->map().setMapShown(enabled);
 }
+
+void MainWindow::commandsChanged() {
+    actions_->showStates();
+}
+
+void MainWindow::setReplay(const ReplayState& /*state*/) {}
+
+void MainWindow::setSpeedReadout(std::string_view /*text*/) {}
+
+void MainWindow::setOverlay(const MapOverlay& /*overlay*/) {}
+
+void MainWindow::setPosition(std::string_view text) {
+    position_->setText(toQt(text));
+}
+
+void MainWindow::setToolText(std::string_view /*text*/) {}
 
 void MainWindow::setWorkStatus(std::string_view text) {
     workStatus_->setText(toQt(text));

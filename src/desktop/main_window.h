@@ -28,6 +28,8 @@ struct Desktop {
     SettingsStore& settings;
     const UserLocale& locale;
     Clipboard& clipboard;
+    Clock& clock;
+    ClassesRegistry& classes;
 };
 
 /// The main window: shows what the session says and hands the user's commands to it.
@@ -52,7 +54,7 @@ public:
     /// Opens files and the supported files of folders.
     void openPaths(const std::vector<std::string>& paths, bool inPlaceOfOthers);
     /// All texts of the window in the session's language.
-    void retranslate();
+    void retranslate() override;
 
     // The commands of menus and tool bars.
     void openFile();
@@ -75,7 +77,13 @@ public:
     void setSummary(std::span<const SummaryRow> rows) override;
     void setLegend(const LegendContent& legend) override;
     void setViewControls(const ViewControls& controls) override;
-    void setFileCommandsEnabled(bool enabled) override;
+    void active(bool enabled, bool replayControls) override;
+    void commandsChanged() override;
+    void setReplay(const ReplayState& state) override;
+    void setSpeedReadout(std::string_view text) override;
+    void setOverlay(const MapOverlay& overlay) override;
+    void setPosition(std::string_view text) override;
+    void setToolText(std::string_view text) override;
     void setWorkStatus(std::string_view text) override;
 
 protected:

@@ -28,7 +28,7 @@ std::vector<std::string> pathsOf(const QStringList& arguments) {
 }  // namespace
 
 Program::Program()
-    : window_({dialogs_, settings_, locale_, clipboard_}, locale_.language(),
+    : window_({dialogs_, settings_, locale_, clipboard_, clock_, classes_}, locale_.language(),
               dataFolderOf(toUtf8(QApplication::applicationDirPath()))),
       widgetTexts_(window_.session().texts()) {
     dialogs_.attach(window_, window_.session().texts());

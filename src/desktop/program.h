@@ -4,7 +4,9 @@
 #pragma once
 
 #include "desktop/main_window.h"
+#include "desktop/freedesktop_classes.h"
 #include "desktop/qt_clipboard.h"
+#include "desktop/qt_clock.h"
 #include "desktop/qt_dialogs.h"
 #include "desktop/qt_locale.h"
 #include "desktop/qt_settings_store.h"
@@ -27,6 +29,8 @@ private:
     QtSettingsStore settings_;
     QtLocale locale_;
     QtClipboard clipboard_;
+    QtClock clock_;
+    FreedesktopClasses classes_;
     QtDialogs dialogs_;
     MainWindow window_;
     WidgetTexts widgetTexts_;

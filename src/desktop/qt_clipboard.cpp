@@ -5,6 +5,7 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QImage>
 
 #include "desktop/qt_text.h"
 
@@ -12,6 +13,12 @@ namespace campora {
 
 void QtClipboard::setText(std::string_view text) {
     QGuiApplication::clipboard()->setText(toQt(text));
+}
+
+void QtClipboard::setPicture(const Picture& picture) {
+    const QImage image(reinterpret_cast<const uchar*>(picture.pixels.data()), picture.width,
+                       picture.height, QImage::Format_RGB32);
+    QGuiApplication::clipboard()->setImage(image.copy());  // the picture is the caller's
 }
 
 }  // namespace campora

@@ -10,6 +10,7 @@ namespace campora {
 class QtClipboard final : public Clipboard {
 public:
     void setText(std::string_view text) override;
+    void setPicture(const Picture& picture) override;
 };
 
 }  // namespace campora

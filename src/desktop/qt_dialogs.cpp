@@ -3,10 +3,15 @@
 
 #include "desktop/qt_dialogs.h"
 
+#include <algorithm>
+
+#include <QColorDialog>
 #include <QFileDialog>
 #include <QGridLayout>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QProgressDialog>
+#include <QTimer>
 
 #include "desktop/pointer_override.h"
 #include "desktop/qt_text.h"
@@ -16,6 +21,9 @@ namespace campora {
 namespace {
 
 constexpr QSize kOpenDialogSize{760, 480};
+// In milliseconds.
+constexpr int kPreviewDelay = 150;
+constexpr int kProgressDelay = 500;
 
 QMessageBox::Icon iconOf(MessageIcon icon) {
     switch (icon) {
@@ -50,12 +58,48 @@ int showBox(QWidget* parent, std::string_view text, MessageIcon icon, std::strin
     return box.exec();
 }
 
+class QtProgress final : public Progress {
+public:
+    QtProgress(QWidget* parent, const QString& caption, const QString& cancel)
+        : dialog_(caption, cancel, 0, 100, parent) {
+        dialog_.setWindowModality(Qt::WindowModal);
+        dialog_.setMinimumDuration(kProgressDelay);
+        dialog_.setMinimumWidth(360);
+        dialog_.setAutoReset(false);
+        dialog_.setAutoClose(false);
+    }
+
+    [[nodiscard]] bool report(int percent) override {
+        dialog_.setValue(percent);
+        return !dialog_.wasCanceled();
+    }
+
+private:
+    QProgressDialog dialog_;
+};
+
 QString filterText(const FileFilter& filter) {
     QStringList patterns;
     for (const std::string& pattern : filter.patterns) {
         patterns += toQt(pattern);
     }
     return toQt(filter.caption) + " (" + patterns.join(' ') + ")";
+}
+
+QStringList filterTexts(const std::vector<FileFilter>& filters) {
+    QStringList texts;
+    for (const FileFilter& filter : filters) {
+        texts += filterText(filter);
+    }
+    return texts;
+}
+
+std::vector<std::string> pathsOf(const QStringList& files) {
+    std::vector<std::string> paths;
+    for (const QString& file : files) {
+        paths.push_back(toUtf8(file));
+    }
+    return paths;
 }
 
 }  // namespace
@@ -84,18 +128,95 @@ std::string QtDialogs::inputBox(TextId prompt, std::string_view caption,
     return dialog.exec() == QDialog::Accepted ? toUtf8(dialog.textValue()) : std::string();
 }
 
-std::string QtDialogs::openFile(const OpenRequest& request) {
+Answer QtDialogs::askYesNoCancel(std::string_view text, MessageIcon icon,
+                                 std::string_view caption) {
+    switch (showBox(window_, text, icon, caption,
+                    QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel,
+                    QMessageBox::Cancel)) {
+    case QMessageBox::Yes:
+        return Answer::Yes;
+    case QMessageBox::No:
+        return Answer::No;
+    default:
+        return Answer::Cancel;
+    }
+}
+
+std::vector<std::string> QtDialogs::openFiles(const OpenRequest& request) {
     const PointerOverride arrow(Qt::ArrowCursor);
     QFileDialog dialog(window_, toQt(request.caption), toQt(request.folder));
-    dialog.setFileMode(QFileDialog::ExistingFile);
-    QStringList filters;
-    for (const FileFilter& filter : request.filters) {
-        filters += filterText(filter);
+    dialog.setFileMode(request.several ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
+    dialog.setNameFilters(filterTexts(request.filters));
+    dialog.resize(kOpenDialogSize);
+    if (request.preview) {
+        // After a moment of rest: stepping through a list must not open every file on the way.
+        auto* rest = new QTimer(&dialog);
+        rest->setSingleShot(true);
+        rest->setInterval(kPreviewDelay);
+        QObject::connect(&dialog, &QFileDialog::currentChanged, rest, qOverload<>(&QTimer::start));
+        QObject::connect(rest, &QTimer::timeout, &dialog,
+                         [&] { request.preview(pathsOf(dialog.selectedFiles())); });
     }
+    return dialog.exec() == QDialog::Accepted ? pathsOf(dialog.selectedFiles())
+                                              : std::vector<std::string>();
+}
+
+SaveAnswer QtDialogs::saveFile(const SaveRequest& request) {
+    const PointerOverride arrow(Qt::ArrowCursor);
+    QFileDialog dialog(window_, toQt(request.caption), toQt(request.folder));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    const QStringList filters = filterTexts(request.filters);
     dialog.setNameFilters(filters);
+    dialog.selectFile(toQt(request.name));
+    dialog.resize(kOpenDialogSize);
+    const auto chosenFilter = [&] {
+        return std::max(0, static_cast<int>(filters.indexOf(dialog.selectedNameFilter())));
+    };
+    const auto useEnding = [&] {
+        if (!request.filters.empty()) {
+            const auto& patterns =
+                request.filters[static_cast<std::size_t>(chosenFilter())].patterns;
+            dialog.setDefaultSuffix(toQt(patterns.empty() ? "" : patterns.front()).mid(2));
+        }
+    };
+    useEnding();
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, useEnding);
+    if (dialog.exec() != QDialog::Accepted) {
+        return {};
+    }
+    return {toUtf8(dialog.selectedFiles().value(0)), chosenFilter()};
+}
+
+std::string QtDialogs::chooseFolder(const FolderRequest& request) {
+    const PointerOverride arrow(Qt::ArrowCursor);
+    QFileDialog dialog(window_, toQt(request.caption), toQt(request.folder));
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    if (!request.entry.empty()) {
+        dialog.setLabelText(QFileDialog::FileName, toQt(request.entry));
+    }
     dialog.resize(kOpenDialogSize);
     return dialog.exec() == QDialog::Accepted ? toUtf8(dialog.selectedFiles().value(0))
                                               : std::string();
+}
+
+std::optional<Color> QtDialogs::chooseColor(Color current) {
+    const PointerOverride arrow(Qt::ArrowCursor);
+    QColorDialog dialog(QColor(current.red(), current.green(), current.blue()), window_);
+    dialog.setWindowTitle(toQt((*texts_)(TextId::ChooseColor)));
+    // The program's words stand on its own dialog; the desktop's would be in another language.
+    dialog.setOption(QColorDialog::DontUseNativeDialog);
+    if (dialog.exec() != QDialog::Accepted) {
+        return std::nullopt;
+    }
+    const QColor chosen = dialog.selectedColor();
+    return Color::rgb(chosen.red(), chosen.green(), chosen.blue());
+}
+
+std::unique_ptr<Progress> QtDialogs::progress(std::string_view caption) {
+    return std::make_unique<QtProgress>(window_, toQt(caption),
+                                        toQt((*texts_)(TextId::ButtonCancel)));
 }
 
 }  // namespace campora

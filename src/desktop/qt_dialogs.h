@@ -22,7 +22,13 @@ public:
                                 std::string_view caption) override;
     [[nodiscard]] std::string inputBox(TextId prompt, std::string_view caption,
                                        std::string_view proposed) override;
-    [[nodiscard]] std::string openFile(const OpenRequest& request) override;
+    [[nodiscard]] Answer askYesNoCancel(std::string_view text, MessageIcon icon,
+                                        std::string_view caption) override;
+    [[nodiscard]] std::vector<std::string> openFiles(const OpenRequest& request) override;
+    [[nodiscard]] SaveAnswer saveFile(const SaveRequest& request) override;
+    [[nodiscard]] std::string chooseFolder(const FolderRequest& request) override;
+    [[nodiscard]] std::optional<Color> chooseColor(Color current) override;
+    [[nodiscard]] std::unique_ptr<Progress> progress(std::string_view caption) override;
 
 private:
     QWidget* window_ = nullptr;

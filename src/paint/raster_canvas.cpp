@@ -149,6 +149,23 @@ void RasterCanvas::paintPicture(MapPicture picture, CanvasPoint topLeft, CanvasS
         picture);
 }
 
+Picture RasterCanvas::picture() const {
+    Picture picture{image_.width(), image_.height(), {}};
+    picture.pixels.reserve(static_cast<std::size_t>(image_.width()) *
+                           static_cast<std::size_t>(image_.height()));
+    for (int row = 0; row < image_.height(); ++row) {
+        const auto* const pixels = reinterpret_cast<const std::uint32_t*>(image_.constScanLine(row));
+        picture.pixels.insert(picture.pixels.end(), pixels, pixels + image_.width());
+    }
+    return picture;
+}
+
+void RasterCanvas::paintSnapshot(CanvasPoint offset) {
+    clear();
+    QPainter painter(&image_);
+    painter.drawImage(QPointF(offset.x, offset.y) / kUnitsPerPixel, snapshot_);
+}
+
 void RasterCanvas::refresh() {
     if (onRefresh) {
         onRefresh();

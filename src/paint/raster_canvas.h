@@ -54,6 +54,9 @@ public:
     void text(CanvasPoint at, std::string_view text, TextAnchor anchor, bool bold) override;
     [[nodiscard]] CanvasSize textSize(std::string_view text, bool bold) const override;
     void paintPicture(MapPicture picture, CanvasPoint topLeft, CanvasSize size) override;
+    [[nodiscard]] Picture picture() const override;
+    void takeSnapshot() override { snapshot_ = image_; }
+    void paintSnapshot(CanvasPoint offset) override;
     void refresh() override;
     void setPointer(PointerShape shape) override;
 
@@ -68,6 +71,7 @@ private:
     double pixelsPerUnit_ = 0;
     double pixelRatio_ = 1;
     QImage image_;
+    QImage snapshot_;
     Color background_{0xFFFFFF};
     Color penColor_;
     Color fillColor_;

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "base/color.h"
+#include "platform/map_canvas.h"
 
 namespace campora {
 
@@ -71,8 +72,55 @@ struct LegendContent {
     std::vector<LegendRow> classes;
     /// What the plain colours of the map mean.
     std::vector<LegendRow> reference;
+    /// What the user may do with the classes.
+    bool classesCanChange = false;
+    bool valuesCanChange = false;
+    /// Caption of the command that changes a value.
+    std::string valueChangeCaption;
 
     bool operator==(const LegendContent&) const = default;
+};
+
+struct ReplayState {
+    /// Something open can be replayed.
+    bool available = false;
+    bool playing = false;
+    /// In elements.
+    std::int32_t maximum = 0;
+    std::int32_t position = 0;
+
+    bool operator==(const ReplayState&) const = default;
+};
+
+/// What the tools lay over the map without drawing on it. Canvas units.
+struct MapOverlay {
+    struct Box {
+        CanvasPoint topLeft;
+        CanvasSize size;
+
+        bool operator==(const Box&) const = default;
+    };
+    struct Line {
+        CanvasPoint from;
+        CanvasPoint to;
+
+        bool operator==(const Line&) const = default;
+    };
+    struct Info {
+        Box box;
+        /// Lines ended by CR LF.
+        std::string text;
+
+        bool operator==(const Info&) const = default;
+    };
+    /// Rectangle of the zoom.
+    std::optional<Box> selector;
+    std::optional<Line> ruler;
+    /// Middle of the mark of a vertex or a position.
+    std::optional<CanvasPoint> vertex;
+    std::optional<Info> info;
+
+    bool operator==(const MapOverlay&) const = default;
 };
 
 /// What the program sets on its main window. The window shows it and decides nothing.
@@ -87,8 +135,22 @@ public:
     /// The view changed: scroll bars, arrows and scale bar. Setting a scroll bar must not come back
     /// as a movement by the user.
     virtual void setViewControls(const ViewControls& controls) = 0;
-    /// Whether the commands that need an open file can be used.
-    virtual void setFileCommandsEnabled(bool enabled) = 0;
+    /// Enables or disables what works on the map: tools, canvas, edit menu, saving, scroll bars,
+    /// file list. With `replayControls` the replay follows; without, the file menu follows and the
+    /// replay stays as it is, so that a running one can be stopped.
+    virtual void active(bool enabled, bool replayControls) = 0;
+    /// A switch, a mode or the language changed: what menus and buttons show is to be asked anew.
+    virtual void commandsChanged() = 0;
+    /// All texts are to be shown in the language that `Texts` has now.
+    virtual void retranslate() = 0;
+    virtual void setReplay(const ReplayState& state) = 0;
+    /// Speed at the replayed point; empty while it is not read out.
+    virtual void setSpeedReadout(std::string_view text) = 0;
+    virtual void setOverlay(const MapOverlay& overlay) = 0;
+    /// The pointer's position in the status bar.
+    virtual void setPosition(std::string_view text) = 0;
+    /// What the tool in use measures, in the status bar.
+    virtual void setToolText(std::string_view text) = 0;
     /// A remark on the open work in the status bar; empty for none.
     virtual void setWorkStatus(std::string_view text) = 0;
 };

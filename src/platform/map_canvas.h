@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "base/color.h"
+#include "platform/picture.h"
 
 namespace campora {
 
@@ -63,7 +64,7 @@ public:
                            RectangleStyle style) = 0;
     virtual void point(CanvasPoint at, Color color) = 0;
     /// A closed ring (the first point is not repeated), outlined with the pen and filled with the
-    /// fill colour and style by the even-odd rule. Neighbours that share corners leave no seam.
+    /// fill colour and style; what the ring goes round more than once is inside. Neighbours that share corners leave no seam.
     virtual void polygon(std::span<const CanvasPoint> ring) = 0;
 
     /// Text in the pen colour; `at` is its top left corner or the middle of its top edge.
@@ -72,6 +73,13 @@ public:
 
     /// The picture stretched into the rectangle.
     virtual void paintPicture(MapPicture picture, CanvasPoint topLeft, CanvasSize size) = 0;
+
+    /// What is drawn at this moment.
+    [[nodiscard]] virtual Picture picture() const = 0;
+    /// Keeps what is drawn, so that it can be painted moved.
+    virtual void takeSnapshot() = 0;
+    /// Clears the canvas and paints the snapshot with its top left corner at `offset`.
+    virtual void paintSnapshot(CanvasPoint offset) = 0;
 
     /// Makes what was drawn visible.
     virtual void refresh() = 0;

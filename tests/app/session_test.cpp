@@ -23,7 +23,7 @@ namespace {
 /// A session on a scripted desktop, with a folder for its files.
 struct Desk {
     explicit Desk(Language language = Language::Spanish)
-        : session({canvas, window, dialogs, settings, locale, clipboard}, language, folder.path()) {
+        : session({canvas, window, dialogs, settings, locale, clipboard, clock, classes}, language, folder.path()) {
     }
 
     NamedFile& add(const std::string& name, double minX = -60) {
@@ -84,6 +84,8 @@ struct Desk {
     MemorySettings settings;
     FixedLocale locale;
     MemoryClipboard clipboard;
+    ScriptedClock clock;
+    MemoryClasses classes;
     Session session;
 };
 
@@ -93,10 +95,10 @@ TEST(Session, StartsEmptyWithTheUsersSettings) {
     Desk desk(Language::English);
     desk.folder.write("matriculas.txt", "6001:LV-XYZ\r\n");
     desk.settings.values = {{"mapBackcolor", "255"}, {"DrawBorders", "False"}, {"language", "22"}};
-    desk.window.fileCommands = true;
+    desk.window.mapActive = true;
     desk.session.start();
     EXPECT_EQ(desk.window.title, "Campora 0.1.0");
-    EXPECT_FALSE(desk.window.fileCommands);
+    EXPECT_FALSE(desk.window.mapActive);
     EXPECT_EQ(desk.canvas.calls(), (Names{"clear 0x0000FF", "refresh"}));
     EXPECT_FALSE(desk.session.style().drawBorders);
     EXPECT_EQ(desk.window.legend.reference.front().text, "Pulverizado");
@@ -114,7 +116,7 @@ TEST(Session, ALoadedReportIsListedDrawnAndSummedUp) {
     EXPECT_EQ(desk.window.selected, 0);
     EXPECT_EQ(desk.window.summary.front(), (SummaryRow{"Nombre Archivo:", "Lote 3.RPT "}));
     EXPECT_TRUE(desk.window.title.ends_with("lote 3.rpt]")) << desk.window.title;
-    EXPECT_TRUE(desk.window.fileCommands);
+    EXPECT_TRUE(desk.window.mapActive);
     EXPECT_TRUE(desk.session.style().graduated);
     EXPECT_EQ(desk.window.legend.unit, "lt/hect");
     ASSERT_EQ(desk.window.legend.classes.size(), 5U);
@@ -394,7 +396,7 @@ TEST(Session, WithoutFilesTheMapIsEmpty) {
     EXPECT_EQ(desk.window.title, "Campora 0.1.0");
     EXPECT_TRUE(desk.window.files.empty());
     EXPECT_TRUE(desk.window.summary.empty());
-    EXPECT_FALSE(desk.window.fileCommands);
+    EXPECT_FALSE(desk.window.mapActive);
     EXPECT_EQ(desk.window.view, ViewControls{});
     EXPECT_FALSE(desk.session.view().transform().isFitted());
 }
@@ -483,7 +485,7 @@ TEST(Session, OpensTheChosenFileAndRemembersItsFolder) {
     desk.session.start();
     desk.add("viejo");
     desk.settings.values["OpenPath"] = "/campo/2017";
-    desk.dialogs.openAnswers = {""};
+    desk.dialogs.openAnswers = {{}};
     desk.session.fileOpen();
     EXPECT_EQ(desk.session.plotCount(), 1) << "cancelled";
     EXPECT_EQ(desk.settings.values["OpenPath"], "/campo/2017");
@@ -492,7 +494,7 @@ TEST(Session, OpensTheChosenFileAndRemembersItsFolder) {
     EXPECT_EQ(desk.dialogs.opens[0].folder, "/campo/2017");
     EXPECT_EQ(desk.dialogs.opens[0].filters.front().patterns.front(), "*.rpt");
 
-    desk.dialogs.openAnswers = {desk.report("lote.rpt")};
+    desk.dialogs.openAnswers = {{desk.report("lote.rpt")}};
     desk.session.fileOpen();
     EXPECT_EQ(desk.listed(), Names{"lote.rpt"});
     EXPECT_EQ(desk.settings.values["OpenPath"], desk.folder.path() + "/");

@@ -65,7 +65,7 @@ TEST_F(WindowTest, StartsEmptyWithCommandsOff) {
 
 TEST_F(WindowTest, OpenCommandReplacesWhatIsOpen) {
     open({writeReport("viejo.rpt")});
-    dialogs.openAnswers.push_back(writeReport("nuevo.rpt"));
+    dialogs.openAnswers.push_back({writeReport("nuevo.rpt")});
     QTest::keyClick(window.get(), Qt::Key_O, Qt::ControlModifier);
     EXPECT_THAT(rows(), ElementsAre("nuevo.rpt"));
     ASSERT_EQ(dialogs.opens.size(), 1U);

@@ -87,9 +87,9 @@ TEST_F(QtDialogsTest, OpenDialogOffersTheFilters) {
         box.selectFile("lote.rpt");
         QMetaObject::invokeMethod(&box, "accept");
     });
-    EXPECT_EQ(dialogs.openFile(
+    EXPECT_EQ(dialogs.openFiles(
                   {"Abrir", folder.path(), {{"Todo", {"*.rpt", "*.nbr"}}, {"Otros", {"*"}}}}),
-              folder.file("lote.rpt"));
+              std::vector{folder.file("lote.rpt")});
 }
 
 }  // namespace

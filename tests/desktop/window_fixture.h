@@ -31,13 +31,15 @@ protected:
     MemorySettings settings;
     FixedLocale locale;
     MemoryClipboard clipboard;
+    ScriptedClock clock;
+    MemoryClasses classes;
     TempFolder folder;
     std::unique_ptr<MainWindow> window;
 
     void SetUp() override { openWindow(Language::Spanish); }
 
     void openWindow(Language language) {
-        window = std::make_unique<MainWindow>(Desktop{dialogs, settings, locale, clipboard},
+        window = std::make_unique<MainWindow>(Desktop{dialogs, settings, locale, clipboard, clock, classes},
                                               language, folder.path());
         window->start({});
         window->show();

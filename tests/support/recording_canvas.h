@@ -31,6 +31,8 @@ namespace campora {
 ///     text pen=0x000000 top-left: (1,2) "abc"
 ///     text pen=0x000000 top-centre bold: (1,2) "abc"
 ///     picture up: (1,2) 30x40
+///     snapshot
+///     paint snapshot: (1,2)
 ///     refresh
 ///
 /// Colours are 0xBBGGRR. Every character of a text is 120 units wide (150 in bold) and 240 high.
@@ -55,6 +57,8 @@ public:
         rings_.clear();
     }
     void resize(CanvasSize size) { size_ = size; }
+
+    [[nodiscard]] PointerShape pointer() const { return pointer_; }
 
     [[nodiscard]] CanvasSize size() const override { return size_; }
     void clear() override { add("clear " + hex(background_)); }
@@ -107,8 +111,12 @@ public:
         add("picture " + std::string(kNames.at(static_cast<std::size_t>(picture))) + ":" +
             place(topLeft) + " " + std::to_string(size.width) + "x" + std::to_string(size.height));
     }
+    /// One white pixel: a recording has no picture.
+    [[nodiscard]] Picture picture() const override { return {1, 1, {0xFFFFFFFFU}}; }
+    void takeSnapshot() override { add("snapshot"); }
+    void paintSnapshot(CanvasPoint offset) override { add("paint snapshot:" + place(offset)); }
     void refresh() override { add("refresh"); }
-    void setPointer(PointerShape /*shape*/) override {}
+    void setPointer(PointerShape shape) override { pointer_ = shape; }
 
 private:
     void add(std::string call) { calls_.push_back(std::move(call)); }
@@ -126,6 +134,7 @@ private:
     Color pen_{0x000000};
     Color fill_{0x000000};
     FillStyle fillStyle_ = FillStyle::Solid;
+    PointerShape pointer_ = PointerShape::Arrow;
     int penWidth_ = 1;
     PenStyle penStyle_ = PenStyle::Solid;
     std::vector<std::string> calls_;

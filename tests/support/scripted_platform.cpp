@@ -32,6 +32,24 @@ T nextAnswer(std::deque<T>& answers, const std::string& question) {
     return answer;
 }
 
+/// Writes its percentages down with the dialogs that made it.
+class ScriptedProgress final : public Progress {
+public:
+    ScriptedProgress(ScriptedDialogs& dialogs, std::size_t index)
+        : dialogs_(dialogs), index_(index) {}
+
+    [[nodiscard]] bool report(int percent) override {
+        dialogs_.progresses.at(index_) += " " + std::to_string(percent);
+        ++reports_;
+        return !dialogs_.cancelAfter || reports_ < *dialogs_.cancelAfter;
+    }
+
+private:
+    ScriptedDialogs& dialogs_;
+    std::size_t index_;
+    int reports_ = 0;
+};
+
 }  // namespace
 
 void ScriptedDialogs::message(std::string_view text, MessageIcon icon, std::string_view caption) {
@@ -49,9 +67,40 @@ std::string ScriptedDialogs::inputBox(TextId prompt, std::string_view caption,
     return nextAnswer(inputAnswers, inputs.back());
 }
 
-std::string ScriptedDialogs::openFile(const OpenRequest& request) {
+Answer ScriptedDialogs::askYesNoCancel(std::string_view text, MessageIcon icon,
+                                       std::string_view caption) {
+    questions.push_back(joined(iconName(icon), caption, text));
+    return answers.empty() ? Answer::Cancel : nextAnswer(answers, questions.back());
+}
+
+std::vector<std::string> ScriptedDialogs::openFiles(const OpenRequest& request) {
     opens.push_back(request);
+    for (; !openSelections.empty(); openSelections.pop_front()) {
+        if (request.preview) {
+            request.preview(openSelections.front());
+        }
+    }
     return nextAnswer(openAnswers, request.caption);
+}
+
+SaveAnswer ScriptedDialogs::saveFile(const SaveRequest& request) {
+    saves.push_back(request);
+    return nextAnswer(saveAnswers, request.caption);
+}
+
+std::string ScriptedDialogs::chooseFolder(const FolderRequest& request) {
+    folders.push_back(request);
+    return nextAnswer(folderAnswers, request.caption);
+}
+
+std::optional<Color> ScriptedDialogs::chooseColor(Color current) {
+    colors.push_back(current);
+    return nextAnswer(colorAnswers, "colour");
+}
+
+std::unique_ptr<Progress> ScriptedDialogs::progress(std::string_view caption) {
+    progresses.emplace_back(std::string(caption) + ":");
+    return std::make_unique<ScriptedProgress>(*this, progresses.size() - 1);
 }
 
 std::optional<std::string> MemorySettings::read(std::string_view key) const {

@@ -3,16 +3,20 @@
 
 #pragma once
 
+#include <cstdint>
 #include <deque>
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
+#include "platform/classes_registry.h"
 #include "platform/clipboard.h"
+#include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/settings_store.h"
 #include "platform/user_locale.h"
@@ -25,7 +29,15 @@ class ScriptedDialogs : public Dialogs {
 public:
     std::deque<bool> yesNoAnswers;
     std::deque<std::string> inputAnswers;
-    std::deque<std::string> openAnswers;
+    std::deque<Answer> answers;
+    std::deque<std::vector<std::string>> openAnswers;
+    /// Selections in the open dialog before it is answered.
+    std::deque<std::vector<std::string>> openSelections;
+    std::deque<SaveAnswer> saveAnswers;
+    std::deque<std::string> folderAnswers;
+    std::deque<std::optional<Color>> colorAnswers;
+    /// Reports of progress after which the user cancels; none: never.
+    std::optional<int> cancelAfter;
 
     /// "icon|caption|text" with the icon's name: Plain, Information, Exclamation, Error.
     std::vector<std::string> messages;
@@ -34,13 +46,25 @@ public:
     /// "number of the prompt|caption|proposed".
     std::vector<std::string> inputs;
     std::vector<OpenRequest> opens;
+    std::vector<SaveRequest> saves;
+    std::vector<FolderRequest> folders;
+    /// The colours that were preselected.
+    std::vector<Color> colors;
+    /// "caption: percent percent ..." for every progress window.
+    std::vector<std::string> progresses;
 
     void message(std::string_view text, MessageIcon icon, std::string_view caption) override;
     [[nodiscard]] bool askYesNo(std::string_view text, MessageIcon icon,
                                 std::string_view caption) override;
     [[nodiscard]] std::string inputBox(TextId prompt, std::string_view caption,
                                        std::string_view proposed) override;
-    [[nodiscard]] std::string openFile(const OpenRequest& request) override;
+    [[nodiscard]] Answer askYesNoCancel(std::string_view text, MessageIcon icon,
+                                        std::string_view caption) override;
+    [[nodiscard]] std::vector<std::string> openFiles(const OpenRequest& request) override;
+    [[nodiscard]] SaveAnswer saveFile(const SaveRequest& request) override;
+    [[nodiscard]] std::string chooseFolder(const FolderRequest& request) override;
+    [[nodiscard]] std::optional<Color> chooseColor(Color current) override;
+    [[nodiscard]] std::unique_ptr<Progress> progress(std::string_view caption) override;
 };
 
 /// A locale that does not depend on the machine.
@@ -69,7 +93,44 @@ class MemoryClipboard : public Clipboard {
 public:
     std::string text;
 
+    Picture picture;
+
     void setText(std::string_view newText) override { text = newText; }
+    void setPicture(const Picture& newPicture) override { picture = newPicture; }
+};
+
+/// Time passes only while someone sleeps.
+class ScriptedClock : public Clock {
+public:
+    std::uint32_t now = 0;
+    /// All sleeps, in milliseconds.
+    std::vector<std::uint32_t> sleeps;
+    int events = 0;
+    /// What the user does when events are processed; told how many times they have been.
+    std::function<void(int)> onEvents;
+
+    [[nodiscard]] std::uint32_t ticks() const override { return now; }
+    void sleep(std::uint32_t milliseconds) override {
+        sleeps.push_back(milliseconds);
+        now += milliseconds;
+    }
+    void processEvents() override {
+        ++events;
+        if (onEvents) {
+            onEvents(events);
+        }
+    }
+};
+
+class MemoryClasses : public ClassesRegistry {
+public:
+    std::map<std::string, std::string, std::less<>> values;
+    bool finished = false;
+
+    void setDefault(std::string_view key, std::string_view value) override {
+        values.insert_or_assign(std::string(key), std::string(value));
+    }
+    void finish() override { finished = true; }
 };
 
 }  // namespace campora

@@ -23,7 +23,17 @@ public:
     std::vector<SummaryRow> summary;
     LegendContent legend;
     ViewControls view;
-    bool fileCommands = false;
+    /// What the map's own commands and the replay are told to be.
+    bool mapActive = false;
+    bool replayActive = false;
+    bool fileMenuActive = true;
+    int commandChanges = 0;
+    int retranslations = 0;
+    ReplayState replay;
+    std::string speed;
+    MapOverlay overlay;
+    std::string position;
+    std::string toolText;
     std::string workStatus;
 
     /// Called while the view controls are set, as a scroll bar that reports its own changes does.
@@ -44,7 +54,17 @@ public:
             onViewControls();
         }
     }
-    void setFileCommandsEnabled(bool enabled) override { fileCommands = enabled; }
+    void active(bool enabled, bool replayControls) override {
+        mapActive = enabled;
+        (replayControls ? replayActive : fileMenuActive) = enabled;
+    }
+    void commandsChanged() override { ++commandChanges; }
+    void retranslate() override { ++retranslations; }
+    void setReplay(const ReplayState& state) override { replay = state; }
+    void setSpeedReadout(std::string_view text) override { speed = text; }
+    void setOverlay(const MapOverlay& shown) override { overlay = shown; }
+    void setPosition(std::string_view text) override { position = text; }
+    void setToolText(std::string_view text) override { toolText = text; }
     void setWorkStatus(std::string_view text) override { workStatus = text; }
 };
 

@@ -4,6 +4,7 @@
 // Opens the shared sample jobs and compares everything that is known about them with what stands
 // beside them. Skipped where the samples are not there.
 
+#include "platform/quiet_dialogs.h"
 #include "support/shared_samples.h"
 
 #include <algorithm>
@@ -30,7 +31,7 @@ namespace {
 using nlohmann::json;
 
 /// Answers as the batch program does, and keeps the boxes in the order in which they come up.
-class BatchDialogs : public Dialogs {
+class BatchDialogs : public QuietDialogs {
 public:
     std::string swath = "16";
     std::vector<std::string> boxes;
@@ -48,7 +49,6 @@ public:
                                        std::string_view /*proposed*/) override {
         return prompt == TextId::AskSwath ? swath : "8";
     }
-    [[nodiscard]] std::string openFile(const OpenRequest& /*request*/) override { return {}; }
 };
 
 struct Opening {

@@ -1,0 +1,28 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "desktop/qt_clock.h"
+
+#include <chrono>
+
+#include <QCoreApplication>
+#include <QThread>
+
+namespace campora {
+
+std::uint32_t QtClock::ticks() const {
+    using std::chrono::milliseconds;
+    const auto sinceStart = std::chrono::steady_clock::now().time_since_epoch();
+    return static_cast<std::uint32_t>(
+        std::chrono::duration_cast<milliseconds>(sinceStart).count());
+}
+
+void QtClock::sleep(std::uint32_t milliseconds) {
+    QThread::msleep(milliseconds);
+}
+
+void QtClock::processEvents() {
+    QCoreApplication::processEvents();
+}
+
+}  // namespace campora
