@@ -10,89 +10,15 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "support/named_file.h"
-#include "support/recording_canvas.h"
-#include "support/scripted_platform.h"
-#include "support/scripted_window.h"
-#include "support/temp_folder.h"
-#include "support/work_files.h"
+#include "support/session_desk.h"
 
 namespace campora {
 namespace {
 
-/// A session on a scripted desktop, with a folder for its files.
-struct Desk {
-    explicit Desk(Language language = Language::Spanish)
-        : session({canvas, window, dialogs, settings, locale, clipboard, clock, classes}, language, folder.path()) {
-    }
-
-    NamedFile& add(const std::string& name, double minX = -60) {
-        auto file = std::make_unique<NamedFile>(name, minX);
-        NamedFile& added = *file;
-        session.addFile(std::move(file), true, false);
-        return added;
-    }
-    void addScale(NamedFile& file, double greatest) {
-        file.scale = std::make_unique<ColorScale>();
-        file.scale->setClassNumberExt(1, 0, greatest);
-    }
-
-    /// A report of three points in a row with these doses on one day.
-    std::string report(const std::string& name, std::int32_t realTenths = 1000,
-                       std::uint32_t serial = 0x6001) const {
-        RptBytes bytes(1, serial);
-        for (int i = 0; i < 3; ++i) {
-            RptBytes::Record record;
-            record.position = fixAt(10.0 * i, 0);
-            record.realTenths[0] = realTenths + 10 * i;
-            bytes.add(record);
-        }
-        return folder.write(name, bytes.bytes());
-    }
-    std::string track(const std::string& name, std::uint32_t flow, int points = 3,
-                      const std::string& serial = "6001") const {
-        TrackText text;
-        text.serial = serial;
-        for (int i = 0; i < points; ++i) {
-            text.addPoint(100U * static_cast<std::uint32_t>(i), 0, flow, 20);
-        }
-        return folder.write(name, text.bytes());
-    }
-
-    [[nodiscard]] std::vector<std::string> listed() const {
-        std::vector<std::string> names;
-        for (const FileListRow& row : window.files) {
-            names.push_back(row.name);
-        }
-        return names;
-    }
-    /// The names of the layers in the order of the last redraws.
-    [[nodiscard]] std::string drawn() const {
-        std::string names;
-        for (const std::string& call : canvas.callsOf("text")) {
-            const std::size_t quote = call.find('"');
-            names += call.substr(quote + 1, call.size() - quote - 2) + " ";
-        }
-        return names;
-    }
-    [[nodiscard]] std::size_t redraws() const { return canvas.callsOf("refresh").size(); }
-
-    TempFolder folder;
-    RecordingCanvas canvas{{1000, 500}};
-    ScriptedWindow window;
-    ScriptedDialogs dialogs;
-    MemorySettings settings;
-    FixedLocale locale;
-    MemoryClipboard clipboard;
-    ScriptedClock clock;
-    MemoryClasses classes;
-    Session session;
-};
-
 using Names = std::vector<std::string>;
 
 TEST(Session, StartsEmptyWithTheUsersSettings) {
-    Desk desk(Language::English);
+    SessionDesk desk(Language::English);
     desk.folder.write("matriculas.txt", "6001:LV-XYZ\r\n");
     desk.settings.values = {{"mapBackcolor", "255"}, {"DrawBorders", "False"}, {"language", "22"}};
     desk.window.mapActive = true;
@@ -107,7 +33,7 @@ TEST(Session, StartsEmptyWithTheUsersSettings) {
 }
 
 TEST(Session, ALoadedReportIsListedDrawnAndSummedUp) {
-    Desk desk;
+    SessionDesk desk;
     desk.session.start();
     desk.canvas.forget();
     desk.session.style().graduated = false;
@@ -133,7 +59,7 @@ TEST(Session, AFileThatIsNotTakenChangesNothing) {
         std::string path;
         const char* says;  ///< a part of the message; null when there is none
     };
-    Desk desk;
+    SessionDesk desk;
     desk.session.start();
     ASSERT_TRUE(desk.session.loadFile(desk.report("Lote.rpt"), true, true));
     const Row rows[] = {
@@ -166,7 +92,7 @@ TEST(Session, AFileThatIsNotTakenChangesNothing) {
 }
 
 TEST(Session, OpensAFileWhoseNameDiffersInCase) {
-    Desk desk;
+    SessionDesk desk;
     desk.session.start();
     desk.report("LOTE.RPT");
     EXPECT_TRUE(desk.session.loadFile(desk.folder.file("lote.rpt"), false, true));
@@ -174,7 +100,7 @@ TEST(Session, OpensAFileWhoseNameDiffersInCase) {
 }
 
 TEST(Session, OpeningInPlaceOfTheOthersForgetsThemFirst) {
-    Desk desk;
+    SessionDesk desk;
     desk.session.start();
     ASSERT_TRUE(desk.session.loadFile(desk.report("uno.rpt", 1000), true, true));
     ASSERT_TRUE(desk.session.loadFile(desk.report("dos.rpt", 3000), true, true));
@@ -188,14 +114,14 @@ TEST(Session, OpeningInPlaceOfTheOthersForgetsThemFirst) {
 }
 
 TEST(Session, OneFileUnderTwoSpellingsOpensOnce) {
-    Desk desk;
+    SessionDesk desk;
     desk.session.start();
     EXPECT_TRUE(desk.session.loadFile(desk.report("uno.rpt"), true, true));
     EXPECT_FALSE(desk.session.loadFile(desk.folder.file("./uno.rpt"), false, true));
 }
 
 TEST(Session, SeveralFilesAreDrawnOnce) {
-    Desk desk;
+    SessionDesk desk;
     desk.session.start();
     desk.add("viejo");
     desk.canvas.forget();
@@ -207,7 +133,7 @@ TEST(Session, SeveralFilesAreDrawnOnce) {
 }
 
 TEST(Session, RangesGrowWithEveryFileAndStartAnewOnAnEmptyMap) {
-    Desk desk;
+    SessionDesk desk;
     desk.session.start();
     desk.session.loadFile(desk.report("uno.rpt", 1000), false, true);
     desk.session.loadFile(desk.report("dos.rpt", 3000), false, true);
@@ -223,7 +149,7 @@ TEST(Session, RangesGrowWithEveryFileAndStartAnewOnAnEmptyMap) {
 }
 
 TEST(Session, ARefusedDuplicateLeavesTheRangesAlone) {
-    Desk desk;
+    SessionDesk desk;
     desk.session.start();
     desk.session.loadFile(desk.track("log0001.nbr", 5, 4), false, true);
     desk.dialogs.yesNoAnswers = {false};
@@ -234,7 +160,7 @@ TEST(Session, ARefusedDuplicateLeavesTheRangesAlone) {
 }
 
 TEST(Session, AMoreCompleteCopyTakesThePlaceOnTheMap) {
-    Desk desk;
+    SessionDesk desk;
     desk.session.start();
     desk.session.loadFile(desk.track("log0001.nbr", 5, 3), false, true);
     TrackText text;
@@ -249,7 +175,7 @@ TEST(Session, AMoreCompleteCopyTakesThePlaceOnTheMap) {
 }
 
 TEST(Session, NoRangeBeginsBelowZero) {
-    Desk desk;
+    SessionDesk desk;
     desk.session.start();
     ASSERT_TRUE(desk.session.loadFile(desk.report("raro.rpt", -500), false, true));
     EXPECT_EQ(desk.session.ranges().dose->least, 0);
@@ -258,7 +184,7 @@ TEST(Session, NoRangeBeginsBelowZero) {
 
 TEST(Session, TellsWhenATrackFileHasNoRecordOfStops) {
     const std::string remark = "No hay registros del comienzo ni detención de la fumigación";
-    Desk desk;
+    SessionDesk desk;
     desk.session.start();
     desk.session.loadFile(desk.track("log0001.nbr", 5, 3, "1"), false, true);
     EXPECT_EQ(desk.window.workStatus, remark);
@@ -273,7 +199,7 @@ TEST(Session, TellsWhenATrackFileHasNoRecordOfStops) {
 }
 
 TEST(Session, TheFirstFileLiesOnTop) {
-    Desk desk;
+    SessionDesk desk;
     desk.session.start();
     desk.add("a");
     desk.add("b");
@@ -290,7 +216,7 @@ TEST(Session, TheFirstFileLiesOnTop) {
 }
 
 TEST(Session, TheViewFollowsAddedFiles) {
-    Desk desk;
+    SessionDesk desk;
     desk.session.start();
     EXPECT_FALSE(desk.session.addFile(nullptr, true, false));
     desk.add("a", -60);
@@ -310,7 +236,7 @@ TEST(Session, TheViewFollowsAddedFiles) {
 }
 
 TEST(Session, TheWindowFollowsTheSelection) {
-    Desk desk;
+    SessionDesk desk;
     desk.session.start();
     desk.add("a").icon = "ruler";
     desk.addScale(desk.add("b"), 7);
@@ -348,7 +274,7 @@ TEST(Session, MovesTheCurrentFileAndRedraws) {
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
-        Desk desk;
+        SessionDesk desk;
         desk.session.start();
         for (const char* name : {"a", "b", "c"}) {
             desk.add(name);
@@ -364,7 +290,7 @@ TEST(Session, MovesTheCurrentFileAndRedraws) {
 }
 
 TEST(Session, RemovingAFileLeavesItsNeighbourCurrent) {
-    Desk desk;
+    SessionDesk desk;
     desk.session.start();
     desk.add("a", -60);
     desk.addScale(desk.add("b", -61), 7);
@@ -387,7 +313,7 @@ TEST(Session, RemovingAFileLeavesItsNeighbourCurrent) {
 }
 
 TEST(Session, WithoutFilesTheMapIsEmpty) {
-    Desk desk;
+    SessionDesk desk;
     desk.session.start();
     desk.session.loadFile(desk.report("lote.rpt"), true, true);
     desk.canvas.forget();
@@ -402,7 +328,7 @@ TEST(Session, WithoutFilesTheMapIsEmpty) {
 }
 
 TEST(Session, CommandsWithoutACurrentFileDoNothing) {
-    Desk desk;
+    SessionDesk desk;
     desk.session.start();
     desk.canvas.forget();
     desk.session.zoomToCurrentFile();
@@ -419,7 +345,7 @@ TEST(Session, CommandsWithoutACurrentFileDoNothing) {
 }
 
 TEST(Session, ZoomsToTheCurrentFile) {
-    Desk desk;
+    SessionDesk desk;
     desk.session.start();
     desk.add("a", -60);
     desk.add("b", -61);
@@ -432,7 +358,7 @@ TEST(Session, ZoomsToTheCurrentFile) {
 }
 
 TEST(Session, APreviewPutsEverythingBack) {
-    Desk desk;
+    SessionDesk desk;
     desk.session.start();
     desk.session.loadFile(desk.track("log0001.nbr", 0, 3, "1"), false, true);
     desk.add("b", -61);
@@ -462,7 +388,7 @@ TEST(Session, APreviewPutsEverythingBack) {
 }
 
 TEST(Session, APreviewOverAnEmptyMapEndsInAnEmptyMap) {
-    Desk desk;
+    SessionDesk desk;
     desk.session.start();
     desk.session.plotPreview(true, false);
     desk.session.loadFile(desk.report("lote.rpt"), false, true);
@@ -473,7 +399,7 @@ TEST(Session, APreviewOverAnEmptyMapEndsInAnEmptyMap) {
 }
 
 TEST(Session, CopiesTheSummaryAsLines) {
-    Desk desk;
+    SessionDesk desk;
     desk.session.start();
     desk.add("a");
     desk.session.copyData();
@@ -481,7 +407,7 @@ TEST(Session, CopiesTheSummaryAsLines) {
 }
 
 TEST(Session, OpensTheChosenFileAndRemembersItsFolder) {
-    Desk desk;
+    SessionDesk desk;
     desk.session.start();
     desk.add("viejo");
     desk.settings.values["OpenPath"] = "/campo/2017";
@@ -501,7 +427,7 @@ TEST(Session, OpensTheChosenFileAndRemembersItsFolder) {
 }
 
 TEST(Session, AnotherCanvasSizeFitsTheMapAgain) {
-    Desk desk;
+    SessionDesk desk;
     desk.session.start();
     desk.add("a");
     desk.session.view().ZoomUno();
@@ -518,7 +444,7 @@ TEST(Session, AnotherCanvasSizeFitsTheMapAgain) {
 }
 
 TEST(Session, AChangedScaleIsShownAndDrawn) {
-    Desk desk;
+    SessionDesk desk;
     desk.session.start();
     NamedFile& file = desk.add("a");
     desk.canvas.forget();
@@ -536,7 +462,7 @@ TEST(Session, AChangedScaleIsShownAndDrawn) {
 }
 
 TEST(Session, TheDateMapIsLeftWhenNothingHasADate) {
-    Desk desk;
+    SessionDesk desk;
     desk.session.start();
     desk.session.loadFile(desk.track("log0001.nbr", 5), false, true);
     desk.session.style().mode = ColorMode::Date;
@@ -551,7 +477,7 @@ TEST(Session, TheDateMapIsLeftWhenNothingHasADate) {
 }
 
 TEST(Session, TheErrorMapTellsItsHectares) {
-    Desk desk;
+    SessionDesk desk;
     desk.session.start();
     desk.session.loadFile(desk.report("lote.rpt", 1500), false, true);
     desk.session.style().mode = ColorMode::Error;
