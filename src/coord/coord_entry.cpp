@@ -1,0 +1,124 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "coord/coord_entry.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "base/numbers.h"
+#include "base/text.h"
+
+namespace campora {
+
+namespace {
+
+constexpr std::size_t kBoxesAnAxis = 3;
+/// In degrees.
+constexpr double kPole = 90;
+constexpr double kDateLine = 180;
+
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+/// The number that the whole text is: a sign, digits and a decimal symbol, nothing else. A lone
+/// decimal symbol, which is what a number looks like while it is typed, is 0.
+std::optional<double> wholeNumber(std::string_view text, char decimalSymbol) {
+    text = trim(text);
+    std::string_view digits = text;
+    if (digits.starts_with('-') || digits.starts_with('+')) {
+        digits.remove_prefix(1);
+    }
+    const auto symbols = std::count(digits.begin(), digits.end(), decimalSymbol);
+    const auto figures = std::count_if(digits.begin(), digits.end(), isDigit);
+    if (symbols > 1 || symbols + figures != static_cast<std::ptrdiff_t>(digits.size())) {
+        return std::nullopt;
+    }
+    if (figures == 0) {
+        return symbols == 1 ? std::optional(0.0) : std::nullopt;
+    }
+    return leadingNumber(text, decimalSymbol);
+}
+
+}  // namespace
+
+CoordEntry::CoordEntry(const Texts& texts, const UserLocale& locale, CoordType form)
+    : words_(texts), locale_(locale), form_(form) {
+    texts_.fill("0");
+    update();
+}
+
+void CoordEntry::setForm(CoordType form) {
+    form_ = form;
+    update();
+}
+
+void CoordEntry::setText(Box box, std::string_view text) {
+    std::string& kept = texts_[index(box)];
+    kept = text;
+    const char symbol = locale_.decimalSymbol();
+    std::replace(kept.begin(), kept.end(), symbol == ',' ? '.' : ',', symbol);
+    update();
+}
+
+void CoordEntry::setNegative(Axis axis, bool negative) {
+    (axis == Axis::Latitude ? negativeLat_ : negativeLong_) = negative;
+    update();
+}
+
+bool CoordEntry::isShown(Box box) const {
+    switch (index(box) % kBoxesAnAxis) {
+    case 0:
+        return true;
+    case 1:
+        return form_ != CoordType::Degrees;
+    default:
+        return form_ == CoordType::DegreesMinutesSeconds;
+    }
+}
+
+std::optional<LonLat> CoordEntry::getPoint() const {
+    return lat_ && long_ ? std::optional(LonLat{*long_, *lat_}) : std::nullopt;
+}
+
+std::string CoordEntry::readBack(Axis axis) const {
+    const bool isLatitude = axis == Axis::Latitude;
+    std::string shown(words_(isLatitude ? TextId::Latitude : TextId::Longitude));
+    if (const std::optional<double> degrees = isLatitude ? lat_ : long_) {
+        shown += "   " + formatCoord(*degrees, form_);
+    }
+    return shown;
+}
+
+void CoordEntry::update() {
+    for (std::size_t i = 0; i < kBoxes; ++i) {
+        if (!isShown(static_cast<Box>(i))) {
+            texts_[i] = "0";
+        }
+    }
+    lat_ = value(0, negativeLat_, kPole);
+    long_ = value(kBoxesAnAxis, negativeLong_, kDateLine);
+}
+
+std::optional<double> CoordEntry::value(std::size_t first, bool negative, double limit) {
+    std::array<double, kBoxesAnAxis> parts{};
+    bool numbers = true;
+    for (std::size_t i = 0; i < kBoxesAnAxis; ++i) {
+        const std::optional<double> part = wholeNumber(texts_[first + i], locale_.decimalSymbol());
+        wrong_[first + i] = !part;
+        numbers = numbers && part;
+        parts[i] = part.value_or(0);
+    }
+    if (!numbers) {
+        return std::nullopt;
+    }
+    const double degrees = fromDegreesMinutesSeconds(parts[0], parts[1], parts[2]);
+    if (std::fabs(degrees) > limit) {
+        wrong_[first] = true;
+        return std::nullopt;
+    }
+    return negative ? -degrees : degrees;
+}
+
+}  // namespace campora

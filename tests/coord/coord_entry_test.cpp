@@ -1,0 +1,127 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "coord/coord_entry.h"
+
+#include <gtest/gtest.h>
+
+#include "support/scripted_platform.h"
+
+namespace campora {
+namespace {
+
+using Axis = CoordEntry::Axis;
+using Box = CoordEntry::Box;
+
+struct Fixture {
+    explicit Fixture(CoordType form, char symbol = '.')
+        : locale(symbol), entry(texts, locale, form) {}
+
+    Texts texts{Language::Spanish};
+    FixedLocale locale;
+    CoordEntry entry;
+};
+
+TEST(CoordEntry, ABoxHoldsAWholeNumberOrIsWrong) {
+    struct Row {
+        const char* name;
+        const char* text;
+        std::optional<double> latitude;
+    };
+    const Row rows[] = {
+        {"whole degrees", "34", 34.0},
+        {"point", "34.25", 34.25},
+        {"comma", "34,25", 34.25},
+        {"sign of its own", "-34.5", -34.5},
+        {"blanks around it", " 34 ", 34.0},
+        {"a point alone", ".", 0.0},
+        {"nothing before the point", "-.5", -0.5},
+        {"nothing behind the point", "7.", 7.0},
+        {"the pole", "90", 90.0},
+        {"empty", "", std::nullopt},
+        {"sign alone", "-", std::nullopt},
+        {"letters behind", "12abc", std::nullopt},
+        {"exponent", "1e5", std::nullopt},
+        {"not-a-number", "nan", std::nullopt},
+        {"two points", "1.2.3", std::nullopt},
+        {"point and comma", "1.2,3", std::nullopt},
+        {"blank inside", "1 2", std::nullopt},
+        {"sign inside", "--1", std::nullopt},
+        {"beyond the pole", "90.0001", std::nullopt},
+        {"more than any number", "9999999999999999999999999999999999999999999", std::nullopt},
+    };
+    for (const char symbol : {'.', ','}) {
+        for (const Row& row : rows) {
+            SCOPED_TRACE(row.name);
+            Fixture f(CoordType::Degrees, symbol);
+            f.entry.setText(Box::LatDegrees, row.text);
+            EXPECT_EQ(f.entry.isWrong(Box::LatDegrees), !row.latitude);
+            EXPECT_FALSE(f.entry.isWrong(Box::LongDegrees));
+            ASSERT_EQ(f.entry.getPoint().has_value(), row.latitude.has_value());
+            EXPECT_EQ(f.entry.getPoint().value_or(LonLat{}).y, row.latitude.value_or(0));
+        }
+    }
+}
+
+TEST(CoordEntry, NormalisesToTheDecimalSymbolOfTheUser) {
+    Fixture f(CoordType::DegreesMinutesSeconds, ',');
+    f.entry.setText(Box::LongSeconds, "1.5");
+    EXPECT_EQ(f.entry.text(Box::LongSeconds), "1,5");
+}
+
+TEST(CoordEntry, SignsTurnTheTypedValueRound) {
+    Fixture f(CoordType::DegreesMinutes);
+    f.entry.setText(Box::LatDegrees, "34");
+    f.entry.setText(Box::LatMinutes, "15");
+    f.entry.setText(Box::LongMinutes, "30");
+    f.entry.setNegative(Axis::Latitude, true);
+    EXPECT_EQ(f.entry.getPoint(), (LonLat{0.5, -34.25}));
+    f.entry.setNegative(Axis::Longitude, true);
+    f.entry.setNegative(Axis::Latitude, false);
+    EXPECT_EQ(f.entry.getPoint(), (LonLat{-0.5, 34.25}));
+}
+
+TEST(CoordEntry, HiddenBoxesCountAsZero) {
+    Fixture f(CoordType::DegreesMinutesSeconds);
+    f.entry.setText(Box::LatDegrees, "34");
+    f.entry.setText(Box::LatMinutes, "15");
+    f.entry.setText(Box::LatSeconds, "x");
+    EXPECT_EQ(f.entry.getPoint(), std::nullopt);
+
+    f.entry.setForm(CoordType::DegreesMinutes);
+    EXPECT_TRUE(f.entry.isShown(Box::LongMinutes));
+    EXPECT_FALSE(f.entry.isShown(Box::LatSeconds));
+    EXPECT_EQ(f.entry.text(Box::LatSeconds), "0");
+    EXPECT_EQ(f.entry.getPoint(), (LonLat{0, 34.25}));
+
+    f.entry.setForm(CoordType::Degrees);
+    EXPECT_TRUE(f.entry.isShown(Box::LatDegrees));
+    EXPECT_FALSE(f.entry.isShown(Box::LatMinutes));
+    EXPECT_EQ(f.entry.getPoint(), (LonLat{0, 34}));
+}
+
+TEST(CoordEntry, RefusesLongitudesBeyondTheDateLine) {
+    Fixture f(CoordType::DegreesMinutes);
+    f.entry.setText(Box::LongDegrees, "179");
+    f.entry.setText(Box::LongMinutes, "60");
+    EXPECT_EQ(f.entry.getPoint(), (LonLat{180, 0}));
+    f.entry.setText(Box::LongMinutes, "60.1");
+    EXPECT_EQ(f.entry.getPoint(), std::nullopt);
+    EXPECT_TRUE(f.entry.isWrong(Box::LongDegrees));
+    EXPECT_FALSE(f.entry.isWrong(Box::LongMinutes));
+}
+
+TEST(CoordEntry, ReadsBackWhatItUnderstood) {
+    Fixture f(CoordType::DegreesMinutesSeconds, ',');
+    f.entry.setText(Box::LatDegrees, "34,5");
+    f.entry.setNegative(Axis::Latitude, true);
+    EXPECT_EQ(f.entry.readBack(Axis::Latitude), "Lat:   -34º  30'  0''");
+    EXPECT_EQ(f.entry.readBack(Axis::Longitude), "Long:    0º  0'  0''");
+    f.entry.setForm(CoordType::Degrees);
+    EXPECT_EQ(f.entry.readBack(Axis::Latitude), "Lat:   -34.5º");
+    f.entry.setText(Box::LatDegrees, "x");
+    EXPECT_EQ(f.entry.readBack(Axis::Latitude), "Lat:");
+}
+
+}  // namespace
+}  // namespace campora

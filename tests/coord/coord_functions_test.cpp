@@ -1,0 +1,58 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "coord/coord_functions.h"
+
+#include <gtest/gtest.h>
+
+namespace campora {
+namespace {
+
+TEST(FormatCoord, CutsAndPadsInTheThreeForms) {
+    struct Row {
+        const char* name;
+        double value;
+        CoordType type;
+        const char* text;
+    };
+    const CoordType degrees{0};  // as the settings hold them
+    const CoordType seconds{1};
+    const CoordType minutes{2};
+    const Row rows[] = {
+        {"seconds of the south", -34.25, seconds, "-34º  15'  0''"},
+        {"seconds are cut", 34.999999, seconds, " 34º  59'  59.99''"},
+        {"minutes of the south", -34.25, minutes, "-34º  15'"},
+        {"minutes are cut", 34.999999, minutes, " 34º  59.9999'"},
+        {"degrees are cut towards zero", -58.1234567, degrees, "-58.123456º"},
+        {"degrees of the north", 0.5, degrees, " 0.5º"},
+        {"south, less than a degree", -0.5, degrees, "-0.5º"},
+        {"equator", 0, seconds, " 0º  0'  0''"},
+        {"just south of the equator", -1e-9, degrees, " 0º"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(formatCoord(row.value, row.type), row.text);
+    }
+}
+
+TEST(CoordFunctions, DegreesGiveTheSign) {
+    EXPECT_EQ(fromDegreesMinutesSeconds(-34, 15, 0), -34.25);
+    EXPECT_EQ(fromDegreesMinutesSeconds(0, 30, 0), 0.5);
+    EXPECT_EQ(fromDegreesMinutesSeconds(34, -15, -36), 34.26);
+}
+
+TEST(CoordFunctions, PartsGoTogetherAgain) {
+    for (const double value : {-58.1234567, -34.0, 0.75, 34.999999, 179.5}) {
+        SCOPED_TRACE(value);
+        const DegreesMinutesSeconds parts = toDegreesMinutesSeconds(value);
+        EXPECT_NEAR(fromDegreesMinutesSeconds(parts.degrees, parts.minutes, parts.seconds), value,
+                    1e-12);
+        EXPECT_LT(parts.seconds, 60);
+        const DegreesMinutes two = toDegreesMinutes(value);
+        EXPECT_NEAR(fromDegreesMinutesSeconds(two.degrees, two.minutes, 0), value, 1e-12);
+        EXPECT_LT(two.minutes, 60);
+    }
+}
+
+}  // namespace
+}  // namespace campora
