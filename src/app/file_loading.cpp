@@ -14,9 +14,9 @@ namespace campora {
 namespace {
 
 constexpr FileFormat kFormats[] = {
-    {".rpt", TextId::FilterReports, true, loadRptFile},
-    {".txt", TextId::FilterTextTables, true, loadRptTextTable},
-    {".nbr", TextId::FilterTrackFiles, false, loadTrackFile},
+    {".rpt", TextId::FilterReports, true, false, loadRptFile},
+    {".txt", TextId::FilterTextTables, true, false, loadRptTextTable},
+    {".nbr", TextId::FilterTrackFiles, false, true, loadTrackFile},
 };
 
 std::string patternOf(const FileFormat& format) {

@@ -22,6 +22,8 @@ struct FileFormat {
     TextId filterCaption{};
     /// Whether this reader sets up graduated colouring, as reports do.
     bool graduates = false;
+    /// Whether its files come from a logging console, which "save as" copies.
+    bool fromLogger = false;
     std::optional<LoadedWork> (*read)(std::string_view path, const WorkReaderContext& context);
 };
 

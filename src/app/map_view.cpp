@@ -295,6 +295,12 @@ void MapView::DrawMap() {
     paint(shown_.arrows.left, MapPicture::ArrowLeft);
 }
 
+void MapView::goBackTo(const Place& place) {
+    maxScale_ = place.maxScale;
+    setView(place.scale, place.scale, place.scrollX, place.scrollY);
+    updateScrollBars();
+}
+
 void MapView::forget() {
     totalBound = {};
     x_ = {};

@@ -67,6 +67,17 @@ public:
     /// Back to the state before the first file.
     void forget();
 
+    /// Scale and scroll, to come back to.
+    struct Place {
+        float scale = 0;
+        std::int32_t scrollX = 0;
+        std::int32_t scrollY = 0;
+        float maxScale = 0;
+    };
+    [[nodiscard]] Place place() const { return {x_.scale, x_.scroll, y_.scroll, maxScale_}; }
+    /// Shows the map as it was; its extent must be the one of that time.
+    void goBackTo(const Place& place);
+
     [[nodiscard]] ViewTransform transform() const;
     /// Metres a canvas unit; both are the same after every fit or zoom.
     [[nodiscard]] float scaleX() const { return x_.scale; }

@@ -56,6 +56,9 @@ public:
 
     [[nodiscard]] const Platform& platform() const { return platform_; }
     [[nodiscard]] const Texts& texts() const { return texts_; }
+    /// Every text of the window from now on.
+    void setLanguage(Language language);
+    [[nodiscard]] const std::string& programFolder() const { return programFolder_; }
     [[nodiscard]] LoadedFileList& files() { return files_; }
     /// Widened by every file that is added; unset again when the map is empty.
     [[nodiscard]] const ValueRanges& ranges() const { return ranges_; }
@@ -74,9 +77,15 @@ public:
     /// open already, was refused or no reader takes it; nothing has changed then. Without `zoomAll`
     /// nothing is redrawn: the caller does that after the last of several files.
     bool loadFile(std::string_view path, bool resetFirst, bool zoomAll);
-    /// Opens several in order and shows the whole map; with `resetFirst` the first that is taken
-    /// replaces what is open. Answers how many were taken.
-    int loadFiles(const std::vector<std::string>& paths, bool resetFirst);
+    /// Opens several in order, until the user has enough, and shows the whole map; with
+    /// `resetFirst` the first that is taken replaces what is open. Answers those that were taken.
+    std::vector<std::string> loadFiles(const std::vector<std::string>& paths, bool resetFirst);
+    /// Opens a file beside the others without a message or question; draws nothing.
+    bool loadQuietly(std::string_view path);
+    /// Reads every open file again; one that cannot be read stays as it was.
+    void reloadFiles();
+    /// The logger's track file opened last; empty when there was none.
+    [[nodiscard]] const std::string& lastTrackFile() const { return lastTrackFile_; }
     /// The empty map.
     void reset();
     /// The title for the current file, when there is one, or for untitled work.
@@ -97,8 +106,6 @@ public:
     void recalcErrorAreas();
     /// The summary as text lines on the clipboard.
     void copyData();
-    /// Asks for a file and opens it in place of the others.
-    void fileOpen();
     /// The canvas has another size.
     void canvasResized();
     /// Draws the files from the last to the first.
@@ -113,7 +120,11 @@ private:
     struct SavedMap;
 
     [[nodiscard]] std::vector<File*> openFiles() const;
-    bool takeWork(std::string_view path, const FileFormat& format, bool resetFirst);
+    /// Reads a file and adds it; neither list nor legend are shown anew yet.
+    bool takeFile(std::string_view path, bool resetFirst, Dialogs& dialogs);
+    bool takeWork(std::string_view path, const FileFormat& format, bool resetFirst,
+                  Dialogs& dialogs);
+    bool addToMap(std::unique_ptr<File> file, bool updateView, bool atTop, Dialogs& dialogs);
     void afterLoading(bool zoomAll);
     void showTitle(std::string title);
     /// Summary, title and legend.
@@ -132,6 +143,7 @@ private:
     LoadedFileList files_;
     MapView view_;
     std::string title_;
+    std::string lastTrackFile_;
     /// What is put away during a preview.
     std::unique_ptr<SavedMap> saved_;
     ColorScale::Subscription scaleChanges_;

@@ -286,6 +286,26 @@ ColorScale::Subscription ColorScale::onClassValueChanged(ValueListener listener)
     return {listeners_, id};
 }
 
+ColorScale::Content ColorScale::content() const {
+    return {classes_, valueMin_, valueMax_,      colorStart,       colorMiddle,
+            colorEnd, unit,      allowClassEdit, allowValueChange, isDate};
+}
+
+void ColorScale::setContent(Content content) {
+    classes_ = std::move(content.classes);
+    valueMin_ = content.valueMin;
+    valueMax_ = content.valueMax;
+    colorStart = content.colorStart;
+    colorMiddle = content.colorMiddle;
+    colorEnd = content.colorEnd;
+    unit = std::move(content.unit);
+    allowClassEdit = content.allowClassEdit;
+    allowValueChange = content.allowValueChange;
+    isDate = content.isDate;
+    boundsChanged();
+    raiseChanged();
+}
+
 void ColorScale::boundsChanged() {
     ascending_ = std::is_sorted(classes_.begin(), classes_.end(),
                                 [](const Clase& a, const Clase& b) { return a.upper < b.upper; });

@@ -55,6 +55,20 @@ public:
     /// `index`: the class; its single value changed from `oldValue` to `newValue`.
     using ValueListener = std::function<void(int index, double oldValue, double newValue)>;
 
+    /// Everything but the listeners, for putting a scale back.
+    struct Content {
+        std::vector<Clase> classes;
+        double valueMin = 0;
+        double valueMax = 0;
+        Color colorStart;
+        std::optional<Color> colorMiddle;
+        Color colorEnd;
+        std::string unit;
+        bool allowClassEdit = true;
+        bool allowValueChange = false;
+        bool isDate = false;
+    };
+
     /// Six classes over 0 to 100 from yellow over green to red.
     ColorScale();
     ColorScale(const ColorScale&) = delete;
@@ -72,6 +86,10 @@ public:
     TextId valueChangeCaption = TextId::ChangeValue;
     /// The values are day numbers.
     bool isDate = false;
+
+    [[nodiscard]] Content content() const;
+    /// `content` must come from a scale.
+    void setContent(Content content);
 
     [[nodiscard]] double valueMin() const { return valueMin_; }
     [[nodiscard]] double valueMax() const { return valueMax_; }

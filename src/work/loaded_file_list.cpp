@@ -37,7 +37,7 @@ std::optional<int> LoadedFileList::indexOf(const File* file) const {
                                  : std::optional(static_cast<int>(found - files_.begin()));
 }
 
-bool LoadedFileList::addFile(std::unique_ptr<File> file, bool atTop) {
+bool LoadedFileList::addFile(std::unique_ptr<File> file, bool atTop, Dialogs& dialogs) {
     const std::string id = file->File_id();
     const auto same = std::find_if(files_.begin(), files_.end(), [&id](const auto& listed) {
         return !id.empty() && listed->File_id() == id;
@@ -47,7 +47,7 @@ bool LoadedFileList::addFile(std::unique_ptr<File> file, bool atTop) {
             return false;  // one file under two spellings is no second copy
         }
         if ((*same)->File_priority() >= file->File_priority()) {
-            askAboutOlder(*file, **same);
+            askAboutOlder(*file, **same, dialogs);
             return false;
         }
         File& added = *file;
@@ -55,7 +55,7 @@ bool LoadedFileList::addFile(std::unique_ptr<File> file, bool atTop) {
         if (current_ == file.get()) {
             current_ = &added;
         }
-        askAboutOlder(*file, added);
+        askAboutOlder(*file, added, dialogs);
         return true;
     }
     if (files_.empty()) {
@@ -65,10 +65,10 @@ bool LoadedFileList::addFile(std::unique_ptr<File> file, bool atTop) {
     return true;
 }
 
-void LoadedFileList::askAboutOlder(File& lessComplete, File& moreComplete) {
+void LoadedFileList::askAboutOlder(File& lessComplete, File& moreComplete, Dialogs& dialogs) {
     const std::string lessPath = lessComplete.File_diskPath();
     const std::string morePath = moreComplete.File_diskPath();
-    if (!dialogs_.askYesNo(texts_.format(TextId::OlderCopyOfWork, {lessPath, morePath}),
+    if (!dialogs.askYesNo(texts_.format(TextId::OlderCopyOfWork, {lessPath, morePath}),
                            MessageIcon::Exclamation, texts_(TextId::ProgramName))) {
         return;
     }
@@ -77,7 +77,7 @@ void LoadedFileList::askAboutOlder(File& lessComplete, File& moreComplete) {
             continue;
         }
         if (const std::optional<Failure> failure = deleteFile(path)) {
-            dialogs_.message(texts_.sentence(*failure), MessageIcon::Error,
+            dialogs.message(texts_.sentence(*failure), MessageIcon::Error,
                              texts_(TextId::ProgramName));
             return;
         }

@@ -17,7 +17,7 @@ namespace campora {
 /// The open files. Index 0 is listed first and drawn last, on top.
 class LoadedFileList {
 public:
-    LoadedFileList(Dialogs& dialogs, const Texts& texts) : dialogs_(dialogs), texts_(texts) {}
+    explicit LoadedFileList(const Texts& texts) : texts_(texts) {}
 
     [[nodiscard]] int loadedCount() const { return static_cast<int>(files_.size()); }
     [[nodiscard]] bool empty() const { return files_.empty(); }
@@ -32,10 +32,10 @@ public:
     void setCurrentFile(File* file) { current_ = file; }
 
     /// Takes the file over. Of two files of the same work the more complete one stays, in its
-    /// place, and the user is asked whether to delete the other from disk. False when the new file
+    /// place, and the user is asked through `dialogs` whether to delete the other from disk. False when the new file
     /// was not added (it is gone then). The first file of an empty list becomes the current one; a
     /// file that takes another's place takes its being current too.
-    bool addFile(std::unique_ptr<File> file, bool atTop);
+    bool addFile(std::unique_ptr<File> file, bool atTop, Dialogs& dialogs);
     void removeFile(const File* file);
     void moveUp(const File* file);
     void moveDown(const File* file);
@@ -58,10 +58,9 @@ public:
     void putBack(Saved saved);
 
 private:
-    void askAboutOlder(File& lessComplete, File& moreComplete);
+    void askAboutOlder(File& lessComplete, File& moreComplete, Dialogs& dialogs);
     [[nodiscard]] bool isInUse(std::string_view path, const File& dropped) const;
 
-    Dialogs& dialogs_;
     const Texts& texts_;
     std::vector<std::unique_ptr<File>> files_;
     File* current_ = nullptr;

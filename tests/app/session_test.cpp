@@ -126,7 +126,7 @@ TEST(Session, SeveralFilesAreDrawnOnce) {
     desk.add("viejo");
     desk.canvas.forget();
     const Names paths = {desk.report("uno.rpt"), "falta.rpt", desk.report("dos.rpt")};
-    EXPECT_EQ(desk.session.loadFiles(paths, true), 2);
+    EXPECT_EQ(desk.session.loadFiles(paths, true).size(), 2U);
     EXPECT_EQ(desk.listed(), (Names{"uno.rpt", "dos.rpt"}));
     EXPECT_EQ(desk.window.selected, 0);
     EXPECT_EQ(desk.redraws(), 2U) << "one for the empty map, one for both";
@@ -404,26 +404,6 @@ TEST(Session, CopiesTheSummaryAsLines) {
     desk.add("a");
     desk.session.copyData();
     EXPECT_EQ(desk.clipboard.text, "Nombre: a \r\nÁrea: 12.5 Has\r\n");
-}
-
-TEST(Session, OpensTheChosenFileAndRemembersItsFolder) {
-    SessionDesk desk;
-    desk.session.start();
-    desk.add("viejo");
-    desk.settings.values["OpenPath"] = "/campo/2017";
-    desk.dialogs.openAnswers = {{}};
-    desk.session.fileOpen();
-    EXPECT_EQ(desk.session.plotCount(), 1) << "cancelled";
-    EXPECT_EQ(desk.settings.values["OpenPath"], "/campo/2017");
-    ASSERT_EQ(desk.dialogs.opens.size(), 1U);
-    EXPECT_EQ(desk.dialogs.opens[0].caption, "Abrir");
-    EXPECT_EQ(desk.dialogs.opens[0].folder, "/campo/2017");
-    EXPECT_EQ(desk.dialogs.opens[0].filters.front().patterns.front(), "*.rpt");
-
-    desk.dialogs.openAnswers = {{desk.report("lote.rpt")}};
-    desk.session.fileOpen();
-    EXPECT_EQ(desk.listed(), Names{"lote.rpt"});
-    EXPECT_EQ(desk.settings.values["OpenPath"], desk.folder.path() + "/");
 }
 
 TEST(Session, AnotherCanvasSizeFitsTheMapAgain) {

@@ -47,7 +47,7 @@ struct ListOnDisk {
     TempFolder folder;
     ScriptedDialogs dialogs;
     Texts texts;
-    LoadedFileList list{dialogs, texts};
+    LoadedFileList list{texts};
 
     [[nodiscard]] std::string written(std::string_view name) const {
         return folder.write(name, "work");
@@ -77,9 +77,9 @@ TEST(LoadedFileList, MovesFilesAndKeepsTheEndsStill) {
         SCOPED_TRACE(row.name);
         ListOnDisk disk;
         for (const char* name : {"b", "c", "d"}) {
-            disk.list.addFile(makeFile(name), false);
+            disk.list.addFile(makeFile(name), false, disk.dialogs);
         }
-        disk.list.addFile(makeFile("a"), true);
+        disk.list.addFile(makeFile("a"), true, disk.dialogs);
         EXPECT_EQ(disk.list.currentFile()->File_name(), "b");
         (disk.list.*row.move)(&disk.list.file(row.from));
         EXPECT_EQ(namesOf(disk.list), row.order);
@@ -88,7 +88,7 @@ TEST(LoadedFileList, MovesFilesAndKeepsTheEndsStill) {
 
 TEST(LoadedFileList, KnowsPathsWithoutRegardToCase) {
     ListOnDisk disk;
-    disk.list.addFile(makeFile("C:\\Campo\\Ñandú.RPT"), false);
+    disk.list.addFile(makeFile("C:\\Campo\\Ñandú.RPT"), false, disk.dialogs);
     EXPECT_TRUE(disk.list.isLoaded("c:\\CAMPO\\ñANDÚ.rpt"));
     EXPECT_FALSE(disk.list.isLoaded("c:\\campo\\nandu.rpt"));
 }
@@ -113,9 +113,9 @@ TEST(LoadedFileList, OfTwoCopiesOfAWorkTheMoreCompleteStays) {
         const std::string fresh = disk.written("new.nbr");
         const std::string freshSummary = disk.written("new.txt");
         disk.dialogs.yesNoAnswers = {true};
-        disk.list.addFile(makeFile(old, "job", row.listed, oldSummary), false);
-        disk.list.addFile(makeFile("other"), false);
-        EXPECT_EQ(disk.list.addFile(makeFile(fresh, "job", row.added, freshSummary), false),
+        disk.list.addFile(makeFile(old, "job", row.listed, oldSummary), false, disk.dialogs);
+        disk.list.addFile(makeFile("other"), false, disk.dialogs);
+        EXPECT_EQ(disk.list.addFile(makeFile(fresh, "job", row.added, freshSummary), false, disk.dialogs),
                   row.taken);
         EXPECT_THAT(namesOf(disk.list), ElementsAre(row.taken ? fresh : old, "other"));
         EXPECT_EQ(disk.list.currentFile(), &disk.list.file(0));
@@ -133,8 +133,8 @@ TEST(LoadedFileList, WithoutConsentNothingIsDeleted) {
     const std::string old = disk.written("old.nbr");
     const std::string fresh = disk.written("new.nbr");
     disk.dialogs.yesNoAnswers = {false};
-    disk.list.addFile(makeFile(old, "job", 9), false);
-    EXPECT_FALSE(disk.list.addFile(makeFile(fresh, "job", 5), false));
+    disk.list.addFile(makeFile(old, "job", 9), false, disk.dialogs);
+    EXPECT_FALSE(disk.list.addFile(makeFile(fresh, "job", 5), false, disk.dialogs));
     EXPECT_TRUE(ListOnDisk::isThere(old) && ListOnDisk::isThere(fresh));
 }
 
@@ -145,11 +145,11 @@ TEST(LoadedFileList, NeverDeletesWhatAnOpenFileNeeds) {
     const std::string copyA = disk.written("log1.nbr");
     const std::string copyB = disk.written("wrk1.nbr");
     disk.dialogs.yesNoAnswers = {true, true};
-    disk.list.addFile(makeFile(disk.written("long.nbr"), "job", 9), false);
-    disk.list.addFile(makeFile(disk.written("a.nbr"), "other job", 9, shared), false);
-    disk.list.addFile(makeFile(table), false);
-    EXPECT_FALSE(disk.list.addFile(makeFile(copyA, "job", 5, shared), false));
-    EXPECT_FALSE(disk.list.addFile(makeFile(copyB, "job", 5, table), false));
+    disk.list.addFile(makeFile(disk.written("long.nbr"), "job", 9), false, disk.dialogs);
+    disk.list.addFile(makeFile(disk.written("a.nbr"), "other job", 9, shared), false, disk.dialogs);
+    disk.list.addFile(makeFile(table), false, disk.dialogs);
+    EXPECT_FALSE(disk.list.addFile(makeFile(copyA, "job", 5, shared), false, disk.dialogs));
+    EXPECT_FALSE(disk.list.addFile(makeFile(copyB, "job", 5, table), false, disk.dialogs));
     EXPECT_FALSE(ListOnDisk::isThere(copyA) || ListOnDisk::isThere(copyB));
     EXPECT_TRUE(ListOnDisk::isThere(shared)) << "summary of another open work";
     EXPECT_TRUE(ListOnDisk::isThere(table)) << "an open file itself";
@@ -158,8 +158,8 @@ TEST(LoadedFileList, NeverDeletesWhatAnOpenFileNeeds) {
 TEST(LoadedFileList, OneFileUnderTwoSpellingsIsNotAskedAbout) {
     ListOnDisk disk;
     const std::string path = disk.written("log1.nbr");
-    disk.list.addFile(makeFile(path, "job", 9), false);
-    EXPECT_FALSE(disk.list.addFile(makeFile(disk.folder.file("./log1.nbr"), "job", 9), false));
+    disk.list.addFile(makeFile(path, "job", 9), false, disk.dialogs);
+    EXPECT_FALSE(disk.list.addFile(makeFile(disk.folder.file("./log1.nbr"), "job", 9), false, disk.dialogs));
     EXPECT_TRUE(ListOnDisk::isThere(path));
 }
 
@@ -168,9 +168,9 @@ TEST(LoadedFileList, SaysWhyAFileCouldNotBeDeletedAndLeavesItsSummary) {
     std::filesystem::create_directory(disk.folder.file("folder.nbr"));
     const std::string summary = disk.written("folder.txt");
     disk.dialogs.yesNoAnswers = {true};
-    disk.list.addFile(makeFile(disk.written("long.nbr"), "job", 9), false);
+    disk.list.addFile(makeFile(disk.written("long.nbr"), "job", 9), false, disk.dialogs);
     EXPECT_FALSE(
-        disk.list.addFile(makeFile(disk.folder.file("folder.nbr"), "job", 5, summary), false));
+        disk.list.addFile(makeFile(disk.folder.file("folder.nbr"), "job", 5, summary), false, disk.dialogs));
     ASSERT_EQ(disk.dialogs.messages.size(), 1U);
     EXPECT_THAT(disk.dialogs.messages.front(), ::testing::HasSubstr("folder.nbr"));
     EXPECT_TRUE(ListOnDisk::isThere(summary));
@@ -178,8 +178,8 @@ TEST(LoadedFileList, SaysWhyAFileCouldNotBeDeletedAndLeavesItsSummary) {
 
 TEST(LoadedFileList, GivesAllFilesOutAndTakesThemBack) {
     ListOnDisk disk;
-    disk.list.addFile(makeFile("a"), false);
-    disk.list.addFile(makeFile("b"), false);
+    disk.list.addFile(makeFile("a"), false, disk.dialogs);
+    disk.list.addFile(makeFile("b"), false, disk.dialogs);
     disk.list.setCurrentFile(&disk.list.file(1));
     LoadedFileList::Saved saved = disk.list.takeAll();
     EXPECT_THAT(namesOf(disk.list), IsEmpty());

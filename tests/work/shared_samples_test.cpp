@@ -129,7 +129,7 @@ Outcome open(const Opening& opening, const std::string& folder) {
     const FixedLocale locale(opening.decimalSymbol);
     const Texts texts;
     const Registrations registrations = loadRegistrations(folder, dialogs, texts);
-    LoadedFileList list(dialogs, texts);
+    LoadedFileList list(texts);
     ValueRanges ranges;
     Outcome outcome;
     for (const std::string& name : opening.files) {
@@ -138,7 +138,7 @@ Outcome open(const Opening& opening, const std::string& folder) {
         if (!list.isLoaded(path)) {
             work = loadByEnding(path, {dialogs, locale, texts, registrations, ranges});
         }
-        if (work && list.addFile(std::move(work->group), false)) {
+        if (work && list.addFile(std::move(work->group), false, dialogs)) {
             ranges = work->ranges;
         } else {
             outcome.exitStatus = 1;

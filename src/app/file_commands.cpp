@@ -1,0 +1,186 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/file_commands.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <filesystem>
+
+#include "app/file_loading.h"
+#include "app/files_behind.h"
+#include "app/session.h"
+#include "base/files.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "work/companion_names.h"
+
+namespace campora {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view kOpenPath = "OpenPath";
+
+std::string folderOf(std::string_view path) {
+    return std::string(path.substr(0, path.size() - fileNamePart(path).size()));
+}
+
+bool exists(std::string_view path) {
+    std::error_code ignored;
+    return fs::exists(nativePath(path), ignored);
+}
+
+bool isFolder(std::string_view path) {
+    std::error_code ignored;
+    return fs::is_directory(nativePath(path), ignored);
+}
+
+std::optional<Failure> copyFile(const std::string& source, const std::string& target) {
+    const Result<FileBytes> content = readFile(source);
+    return content ? writeFile(target, content->bytes()) : std::optional(content.failure());
+}
+
+}  // namespace
+
+FileCommands::FileCommands(Session& session)
+    : session_(session), recent_(session.platform().settings) {}
+
+void FileCommands::fileOpen() {
+    const Platform& platform = session_.platform();
+    OpenRequest request{std::string(session_.texts()(TextId::Open)),
+                        platform.settings.read(kOpenPath).value_or(""),
+                        openFilters(session_.texts())};
+    if (!isFolder(request.folder)) {
+        request.folder = session_.programFolder();
+    }
+    request.several = true;
+    request.preview = [this](const std::vector<std::string>& selected) { preview(selected); };
+    const std::vector<std::string> paths = platform.dialogs.openFiles(request);
+    if (previewing_) {
+        previewing_ = false;
+        session_.plotPreview(false, false);
+    }
+    if (!paths.empty()) {
+        platform.settings.write(kOpenPath, folderOf(paths.front()));
+        openPaths(paths, true);
+    }
+}
+
+void FileCommands::preview(const std::vector<std::string>& selected) {
+    if (!previewing_) {
+        previewing_ = true;
+        session_.plotPreview(true, false);
+    }
+    session_.reset();
+    for (const std::string& path : selected) {
+        if (!isFolder(path)) {
+            session_.loadQuietly(path);
+        }
+    }
+    session_.view().ZoomUno();
+}
+
+void FileCommands::openPaths(const std::vector<std::string>& paths, bool resetFirst) {
+    const Platform& platform = session_.platform();
+    const Texts& texts = session_.texts();
+    std::vector<std::string> files;
+    for (const std::string& path : paths) {
+        const std::vector<std::string> behind = filesBehind(path);
+        if (behind.empty()) {
+            platform.dialogs.message(std::string(texts(TextId::FolderWithoutFiles)) + path,
+                                     MessageIcon::Exclamation, texts(TextId::ProgramName));
+        }
+        files.insert(files.end(), behind.begin(), behind.end());
+    }
+    for (const std::string& path : session_.loadFiles(files, resetFirst)) {
+        recent_.add(path);
+    }
+    platform.window.commandsChanged();
+}
+
+void FileCommands::openRecent(std::string_view path) {
+    if (!exists(path)) {
+        const Texts& texts = session_.texts();
+        session_.platform().dialogs.message(
+            std::string(texts(TextId::ListedFileMissing)).append(path), MessageIcon::Exclamation,
+            texts(TextId::ProgramName));
+        recent_.remove(path);
+        session_.platform().window.commandsChanged();
+        return;
+    }
+    openPaths({std::string(path)}, true);
+}
+
+void FileCommands::stepInFolder(int step) {
+    const File* const current = session_.files().currentFile();
+    if (current == nullptr) {
+        return;
+    }
+    const std::string path = current->File_diskPath();
+    const std::string folder = folderOf(path);
+    const std::vector<std::string> files = filesBehind(folder.empty() ? "." : folder);
+    const auto found = std::find_if(files.begin(), files.end(), [&path](const std::string& file) {
+        return fileNamePart(file) == fileNamePart(path);
+    });
+    if (found == files.end()) {
+        return;
+    }
+    const std::ptrdiff_t next = found - files.begin() + step;
+    if (next >= 0 && next < static_cast<std::ptrdiff_t>(files.size())) {
+        openPaths({files[static_cast<std::size_t>(next)]}, true);
+    }
+}
+
+void FileCommands::reload() {
+    session_.reloadFiles();
+}
+
+bool FileCommands::canSaveAs() const {
+    return !session_.lastTrackFile().empty();
+}
+
+bool FileCommands::overwriteAgreed(const std::string& target) const {
+    const Texts& texts = session_.texts();
+    return !exists(target) || session_.platform().dialogs.askYesNo(
+                                  texts.format(TextId::AskOverwrite, {target}),
+                                  MessageIcon::Exclamation, texts(TextId::ProgramName));
+}
+
+void FileCommands::saveAs() {
+    const Platform& platform = session_.platform();
+    const Texts& texts = session_.texts();
+    const std::string folder =
+        !saveFolder_.empty() && isFolder(saveFolder_) ? saveFolder_ : session_.programFolder();
+    const std::string path =
+        platform.dialogs
+            .saveFile({std::string(texts(TextId::SaveAsTitle)),
+                       folder,
+                       "",
+                       {{std::string(texts(TextId::FilterNimbra)), {"*.nbr"}}}})
+            .path;
+    if (path.empty()) {
+        return;
+    }
+    saveFolder_ = folderOf(path);
+    const CompanionNames source = companionNames(session_.lastTrackFile());
+    const CompanionNames target = companionNames(path);
+    session_.setTitle(false);
+    const std::string summary = findIgnoringCase(source.summaryPath);
+    const bool hasSummary = canOpen(summary);
+    // The save dialog has asked about the track itself; nobody has about its companion.
+    if (target.trackPath.empty() || (hasSummary && !overwriteAgreed(target.summaryPath))) {
+        return;
+    }
+    std::optional<Failure> failure = copyFile(source.trackPath, target.trackPath);
+    if (!failure && hasSummary) {
+        failure = copyFile(summary, target.summaryPath);
+    }
+    if (failure) {
+        platform.dialogs.message(texts.sentence(*failure), MessageIcon::Error,
+                                 texts(TextId::Error));
+    }
+}
+
+}  // namespace campora
