@@ -12,13 +12,13 @@
 #include "app/window_title.h"
 #include "base/paths.h"
 #include "model/file_gph_group.h"
+#include "platform/quiet_dialogs.h"
 #include "work/color_modes.h"
 
 namespace campora {
 
 namespace {
 
-constexpr std::string_view kOpenPath = "OpenPath";
 /// Image of files without one of their own.
 constexpr std::string_view kPlainIcon = "copy";
 
@@ -55,13 +55,17 @@ struct Session::SavedMap {
     LoadedFileList::Saved files;
     BoundingBox totalBound;
     std::optional<bool> hasFlowStops;
+    bool graduated = true;
+    std::string lastTrackFile;
+    ColorScale::Content scale;
+    MapView::Place place;
 };
 
 Session::Session(const Platform& platform, Language language, std::string programFolder)
     : platform_(platform),
       texts_(language),
       programFolder_(std::move(programFolder)),
-      files_(platform.dialogs, texts_),
+      files_(texts_),
       view_(platform.canvas, platform.window, style_,
             [this](MapContext& context) { plotAll(context); }) {
     style_.scale = &defaultScale_;
@@ -78,11 +82,15 @@ void Session::start() {
 }
 
 bool Session::addFile(std::unique_ptr<File> file, bool updateView, bool atTop) {
+    return addToMap(std::move(file), updateView, atTop, platform_.dialogs);
+}
+
+bool Session::addToMap(std::unique_ptr<File> file, bool updateView, bool atTop, Dialogs& dialogs) {
     if (!file) {
         return false;
     }
     const BoundingBox bound = file->File_bound();
-    if (!files_.addFile(std::move(file), atTop)) {
+    if (!files_.addFile(std::move(file), atTop, dialogs)) {
         return false;
     }
     if (updateView) {
@@ -132,27 +140,40 @@ void Session::removeFile(const File* file) {
 }
 
 bool Session::loadFile(std::string_view path, bool resetFirst, bool zoomAll) {
-    const std::string found = findIgnoringCase(path);
-    if (!resetFirst && files_.isLoaded(found)) {
-        return false;
-    }
-    const FileFormat* const format = formatOf(found);
-    if (format == nullptr) {
-        platform_.dialogs.message(texts_.format(TextId::FileNotCompatibleNamed, {found}),
-                                  MessageIcon::Error, texts_(TextId::WrongFileFormat));
-        return false;
-    }
-    if (!takeWork(found, *format, resetFirst)) {
+    if (!takeFile(path, resetFirst, platform_.dialogs)) {
         return false;
     }
     afterLoading(zoomAll);
     return true;
 }
 
-bool Session::takeWork(std::string_view path, const FileFormat& format, bool resetFirst) {
+bool Session::loadQuietly(std::string_view path) {
+    QuietDialogs quiet;
+    if (!takeFile(path, false, quiet)) {
+        return false;
+    }
+    afterLoading(false);
+    return true;
+}
+
+bool Session::takeFile(std::string_view path, bool resetFirst, Dialogs& dialogs) {
+    const std::string found = findIgnoringCase(path);
+    if (!resetFirst && files_.isLoaded(found)) {
+        return false;
+    }
+    const FileFormat* const format = formatOf(found);
+    if (format == nullptr) {
+        dialogs.message(texts_.format(TextId::FileNotCompatibleNamed, {found}), MessageIcon::Error,
+                        texts_(TextId::WrongFileFormat));
+        return false;
+    }
+    return takeWork(found, *format, resetFirst, dialogs);
+}
+
+bool Session::takeWork(std::string_view path, const FileFormat& format, bool resetFirst,
+                       Dialogs& dialogs) {
     const ValueRanges loaded = resetFirst || files_.empty() ? ValueRanges{} : ranges_;
-    const WorkReaderContext context{platform_.dialogs, platform_.locale, texts_, registrations_,
-                                    loaded};
+    const WorkReaderContext context{dialogs, platform_.locale, texts_, registrations_, loaded};
     std::optional<LoadedWork> work = format.read(path, context);
     if (!work) {
         return false;
@@ -163,8 +184,11 @@ bool Session::takeWork(std::string_view path, const FileFormat& format, bool res
     if (files_.empty()) {
         hasFlowStops_.reset();
     }
-    if (!addFile(std::move(work->group), true, false)) {
+    if (!addToMap(std::move(work->group), true, false, dialogs)) {
         return false;
+    }
+    if (format.fromLogger) {
+        lastTrackFile_ = path;
     }
     ranges_ = work->ranges;
     style_.graduated = style_.graduated || format.graduates;
@@ -188,15 +212,59 @@ void Session::afterLoading(bool zoomAll) {
     showFlowStops();
 }
 
-int Session::loadFiles(const std::vector<std::string>& paths, bool resetFirst) {
-    int taken = 0;
-    for (const std::string& path : paths) {
-        taken += loadFile(path, resetFirst && taken == 0, false) ? 1 : 0;
+std::vector<std::string> Session::loadFiles(const std::vector<std::string>& paths,
+                                            bool resetFirst) {
+    std::vector<std::string> taken;
+    const auto progress = platform_.dialogs.progress(texts_(TextId::OpeningFiles));
+    for (std::size_t i = 0; i < paths.size(); ++i) {
+        if (i > 0 && !progress->report(static_cast<int>(100 * i / paths.size()))) {
+            break;
+        }
+        if (takeFile(paths[i], resetFirst && taken.empty(), platform_.dialogs)) {
+            taken.push_back(paths[i]);
+        }
     }
-    if (taken > 0) {
-        view_.ZoomUno();
+    if (!taken.empty()) {
+        afterLoading(true);
     }
     return taken;
+}
+
+void Session::reloadFiles() {
+    if (files_.empty()) {
+        return;
+    }
+    const MapView::Place place = view_.place();
+    const BoundingBox bound = view_.totalBound;
+    const std::optional<int> current = files_.indexOf(files_.currentFile());
+    LoadedFileList::Saved old = files_.takeAll();
+    view_.totalBound = {};
+    ranges_ = {};
+    for (std::unique_ptr<File>& file : old.files) {
+        if (!takeFile(file->File_diskPath(), false, platform_.dialogs)) {
+            addFile(std::move(file), true, false);
+        }
+    }
+    if (current && *current < files_.loadedCount()) {
+        files_.setCurrentFile(&files_.file(*current));
+    }
+    const bool sameExtent = bound.equals(view_.totalBound);
+    afterLoading(!sameExtent);
+    if (sameExtent) {
+        view_.goBackTo(place);
+    }
+}
+
+void Session::setLanguage(Language language) {
+    texts_.setLanguage(language);
+    platform_.window.retranslate();
+    loadFileList(true);
+    showSummary();
+    showLegend();
+    showFlowStops();
+    platform_.window.setPosition({});
+    platform_.window.setToolText({});
+    platform_.window.commandsChanged();
 }
 
 void Session::reset() {
@@ -251,13 +319,16 @@ void Session::plotPreview(bool save, bool zoomAll) {
     }
     if (save) {
         saved_ = std::make_unique<SavedMap>(
-            SavedMap{title_, ranges_, files_.takeAll(), view_.totalBound, hasFlowStops_});
+            SavedMap{title_, ranges_, files_.takeAll(), view_.totalBound, hasFlowStops_,
+                     style_.graduated, lastTrackFile_, defaultScale_.content(), view_.place()});
         view_.totalBound = {};
         return;
     }
     SavedMap saved = std::move(*saved_);
     saved_.reset();
     files_.putBack(std::move(saved.files));
+    style_.graduated = saved.graduated;
+    lastTrackFile_ = std::move(saved.lastTrackFile);
     if (files_.empty()) {
         reset();
         return;
@@ -267,6 +338,13 @@ void Session::plotPreview(bool save, bool zoomAll) {
     view_.totalBound = saved.totalBound;
     view_.fitView();
     afterLoading(zoomAll);
+    loading_ = true;
+    defaultScale_.setContent(std::move(saved.scale));  // with the classes that the user had made
+    loading_ = false;
+    showLegend();
+    if (!zoomAll) {
+        view_.goBackTo(saved.place);
+    }
     showTitle(saved.title);
 }
 
@@ -373,19 +451,6 @@ void Session::copyData() {
     if (!text.empty()) {
         platform_.clipboard.setText(text);
     }
-}
-
-void Session::fileOpen() {
-    const std::vector<std::string> paths = platform_.dialogs.openFiles(
-        {std::string(texts_(TextId::Open)),
-         platform_.settings.read(kOpenPath).value_or(programFolder_), openFilters(texts_)});
-    if (paths.empty()) {
-        return;
-    }
-    const std::string& path = paths.front();
-    platform_.settings.write(
-        kOpenPath, std::string_view(path).substr(0, path.size() - fileNamePart(path).size()));
-    loadFile(path, true, true);
 }
 
 void Session::canvasResized() {
