@@ -3,12 +3,11 @@
 
 #include "app/files_behind.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <system_error>
-#include <tuple>
 
 #include "app/file_loading.h"
+#include "base/folder_files.h"
 #include "base/paths.h"
 #include "base/text.h"
 #include "work/companion_names.h"
@@ -34,23 +33,12 @@ bool accompanies(const std::string& path) {
 
 std::vector<std::string> filesBehind(std::string_view path) {
     std::error_code error;
-    const fs::path folder = nativePath(path);
-    if (!fs::is_directory(folder, error)) {
+    if (!fs::is_directory(nativePath(path), error)) {
         return {std::string(path)};
     }
-    std::vector<std::string> files;
-    for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
-         entry.increment(error)) {
-        const std::string file = pathText(entry->path());
-        std::error_code ignored;
-        if (formatOf(file) != nullptr && entry->is_regular_file(ignored) && !accompanies(file)) {
-            files.push_back(file);
-        }
-    }
-    std::sort(files.begin(), files.end(), [](const std::string& a, const std::string& b) {
-        return std::forward_as_tuple(lowerCase(a), a) < std::forward_as_tuple(lowerCase(b), b);
+    return filesIn(path, [](const std::string& file) {
+        return formatOf(file) != nullptr && !accompanies(file);
     });
-    return files;
 }
 
 }  // namespace campora

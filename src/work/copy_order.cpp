@@ -1,0 +1,119 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include <filesystem>
+#include <system_error>
+
+#include "base/files.h"
+#include "base/numbers.h"
+#include "base/paths.h"
+#include "work/companion_names.h"
+#include "work/work_orders.h"
+
+namespace campora {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+enum class Copied { Yes, Kept, Failed };
+
+/// Copies files into one folder and tells what goes wrong.
+class Copier {
+public:
+    Copier(std::string_view destination, Dialogs& dialogs, const Texts& texts)
+        : folder_(nativePath(destination)), dialogs_(dialogs), texts_(texts) {}
+
+    Copied copy(const std::string& source) const {
+        const fs::path target = folder_ / nativePath(fileNamePart(source));
+        std::error_code ignored;
+        if (fs::equivalent(nativePath(source), target, ignored)) {
+            return fail(source, {TextId::CopyIsSameFile, {}});
+        }
+        const Result<FileBytes> content = readFile(source);
+        if (!content) {
+            return fail(source, content.failure());
+        }
+        if (!mayReplace(pathText(target), *content)) {
+            return Copied::Kept;
+        }
+        if (const std::optional<Failure> failure = writeFile(pathText(target), content->bytes())) {
+            return fail(source, *failure);
+        }
+        keepTime(nativePath(source), target);
+        return Copied::Yes;
+    }
+
+private:
+    /// Of what reading or writing says, the reason alone: the file is named already.
+    Copied fail(const std::string& source, const Failure& failure) const {
+        const std::string reason = !failure.cause.empty() ? texts_.sentence(failure.cause.front())
+                                   : !failure.arguments.empty() ? failure.arguments.back()
+                                                                : texts_.sentence(failure);
+        dialogs_.message(texts_.format(TextId::CopyFailed, {source, reason}),
+                         MessageIcon::Exclamation, texts_(TextId::ProgramName));
+        return Copied::Failed;
+    }
+    [[nodiscard]] bool mayReplace(const std::string& target, const FileBytes& content) const {
+        if (!canOpen(target)) {
+            return true;
+        }
+        const Result<FileBytes> old = readFile(target);
+        return (old && old->text() == content.text()) ||
+               dialogs_.askYesNo(texts_.format(TextId::AskOverwrite, {target}),
+                                 MessageIcon::Exclamation, texts_(TextId::ProgramName));
+    }
+    static void keepTime(const fs::path& source, const fs::path& target) {
+        std::error_code error;
+        const fs::file_time_type time = fs::last_write_time(source, error);
+        if (!error) {
+            fs::last_write_time(target, time, error);
+        }
+    }
+
+    fs::path folder_;
+    Dialogs& dialogs_;
+    const Texts& texts_;
+};
+
+/// The track files, each after its summary where it has one.
+std::vector<std::string> filesToCopy(const WorkOrder& order) {
+    std::vector<std::string> files;
+    for (const std::string& track : order.files) {
+        std::string summary = findIgnoringCase(companionNames(track).summaryPath);
+        std::error_code ignored;
+        if (fs::exists(nativePath(summary), ignored)) {
+            files.push_back(std::move(summary));
+        }
+        files.push_back(track);
+    }
+    return files;
+}
+
+}  // namespace
+
+bool copyOrder(const WorkOrder& order, std::string_view destination, Dialogs& dialogs,
+               const Texts& texts) {
+    const std::vector<std::string> files = filesToCopy(order);
+    const Copier copier(destination, dialogs, texts);
+    std::size_t done = 0;
+    int copied = 0;
+    bool failed = false;
+    {
+        const std::unique_ptr<Progress> progress = dialogs.progress(texts(TextId::CopyingOrder));
+        for (const std::string& file : files) {
+            if (!progress->report(static_cast<int>(100 * done / files.size()))) {
+                break;
+            }
+            const Copied result = copier.copy(file);
+            copied += result == Copied::Yes ? 1 : 0;
+            failed = failed || result == Copied::Failed;
+            ++done;
+        }
+    }
+    dialogs.message(texts.format(TextId::FilesCopied, {" " + numberText(copied)}),
+                    MessageIcon::Information, texts(TextId::ProgramName));
+    return !failed;
+}
+
+}  // namespace campora
