@@ -20,6 +20,8 @@ public:
     [[nodiscard]] bool next(std::string_view& line);
     /// Lines handed out so far: the 1-based number of the line last given.
     [[nodiscard]] std::size_t lineNumber() const { return number_; }
+    /// What has not been handed out yet.
+    [[nodiscard]] std::string_view rest() const { return rest_; }
 
 private:
     std::string_view rest_;

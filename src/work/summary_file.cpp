@@ -75,19 +75,26 @@ std::string_view withoutLast(std::string_view text) {
 
 }  // namespace
 
-FileProperties decodeSummary(std::string_view bytes) {
-    FileProperties summary;
+SummaryContent splitSummary(std::string_view bytes) {
+    SummaryContent content;
     const std::string text = decodeText(bytes);
     TextLines lines(text);
-    for (std::string_view line; lines.next(line);) {
+    TextLines raw(bytes);  // the same lines as on disk
+    content.unread = bytes;
+    for (std::string_view line, rawLine; lines.next(line) && raw.next(rawLine);) {
         const auto fields = splitLine(line);
-        if (!fields || summary.count() == kMostEntries) {
+        if (!fields || content.entries.count() == kMostEntries) {
             break;
         }
         const auto& [name, value, unit] = *fields;
-        summary.addProperty(std::string(trim(withoutLast(name))) + ':', value, unit);
+        content.entries.addProperty(std::string(trim(withoutLast(name))) + ':', value, unit);
+        content.unread = raw.rest();
     }
-    return summary;
+    return content;
+}
+
+FileProperties decodeSummary(std::string_view bytes) {
+    return splitSummary(bytes).entries;
 }
 
 void loadSummaryFile(std::string_view path, FileProperties& summary) {

@@ -1,0 +1,93 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/texts.h"
+#include "platform/dialogs.h"
+
+namespace campora {
+
+/// One row of a summary as it is edited: the name without the ":" at its end.
+struct SummaryEntry {
+    std::string name;
+    std::string value;
+    std::string unit;
+
+    bool operator==(const SummaryEntry&) const = default;
+};
+
+/// The rows of a summary with the one that is selected and the texts of the input fields.
+class SummaryRows {
+public:
+    /// What the user has typed.
+    SummaryEntry fields;
+
+    SummaryRows() = default;
+    /// The first row comes into the fields, without being selected.
+    explicit SummaryRows(std::vector<SummaryEntry> rows);
+
+    [[nodiscard]] const std::vector<SummaryEntry>& rows() const { return rows_; }
+    [[nodiscard]] std::optional<int> selected() const { return selected_; }
+    /// Selects a row and copies it into the fields; none, or an index out of range, selects none.
+    void select(std::optional<int> row);
+
+    /// A new row from the fields, before the selected one or at the end. The selection stays with
+    /// its row.
+    void add();
+    /// Takes the selected row out.
+    void remove();
+    /// The selected row becomes what the fields say, trimmed.
+    void change();
+    /// One place towards the top or the end, unless it is there already.
+    void up() { move(-1); }
+    void down() { move(1); }
+
+private:
+    void move(int step);
+
+    std::vector<SummaryEntry> rows_;
+    std::optional<int> selected_;
+};
+
+/// The summary file of a work, opened to change it.
+class SummaryEditor {
+public:
+    /// Reads the file; says so when it is not there or cannot be read, and has no rows then.
+    /// `dialogs` and `texts` outlive the editor.
+    SummaryEditor(std::string_view path, Dialogs& dialogs, const Texts& texts);
+
+    [[nodiscard]] SummaryRows& rows() { return rows_; }
+    [[nodiscard]] const SummaryRows& rows() const { return rows_; }
+
+    /// Takes the selected row out when the user says so.
+    void quit();
+    /// Writes the rows back when the file was read at opening, in the encoding that it had. False
+    /// when that failed, which has been reported: the editor stays open.
+    [[nodiscard]] bool accept();
+
+private:
+    std::string path_;
+    Dialogs& dialogs_;
+    const Texts& texts_;
+    SummaryRows rows_;
+    bool wasRead_ = false;
+    bool utf8_ = false;
+    std::string byteOrderMark_;
+    /// What follows the rows and is no summary; it goes back as it was.
+    std::string unread_;
+};
+
+/// Asks before the selected row is taken out; nothing happens without one.
+void askAndRemove(SummaryRows& rows, Dialogs& dialogs, const Texts& texts);
+
+/// The rows as the lines of a summary file: every field in double quotes, which are doubled inside
+/// (RFC 4180), CR LF at the end. UTF-8.
+[[nodiscard]] std::string encodeSummary(const std::vector<SummaryEntry>& rows);
+
+}  // namespace campora

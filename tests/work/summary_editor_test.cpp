@@ -1,0 +1,181 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "work/summary_editor.h"
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "base/paths.h"
+#include "support/scripted_platform.h"
+#include "support/temp_folder.h"
+#include "work/summary_file.h"
+
+namespace campora {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+std::string contentOf(const std::string& path) {
+    std::ostringstream text;
+    text << std::ifstream(nativePath(path), std::ios::binary).rdbuf();
+    return text.str();
+}
+
+/// "name|value|unit" a row, the selected one with a "*".
+std::vector<std::string> shown(const SummaryRows& rows) {
+    std::vector<std::string> texts;
+    for (const SummaryEntry& row : rows.rows()) {
+        const bool selected = rows.selected() == static_cast<int>(texts.size());
+        texts.push_back((selected ? "*" : "") + row.name + "|" + row.value + "|" + row.unit);
+    }
+    return texts;
+}
+
+SummaryRows threeRows() {
+    return SummaryRows({{"a", "1", "m"}, {"b", "2", ""}, {"c", "3", ""}});
+}
+
+TEST(SummaryRows, TheFieldsFollowTheSelection) {
+    SummaryRows rows = threeRows();
+    EXPECT_EQ(rows.fields, (SummaryEntry{"a", "1", "m"}));
+    EXPECT_EQ(rows.selected(), std::nullopt);
+    rows.select(2);
+    EXPECT_EQ(rows.fields, (SummaryEntry{"c", "3", ""}));
+    rows.select(3);
+    EXPECT_EQ(rows.selected(), std::nullopt);
+}
+
+TEST(SummaryRows, ANewRowStandsBeforeTheSelectedOneOrLast) {
+    SummaryRows rows = threeRows();
+    rows.fields = {"n", "x\r\ny\nz", ""};
+    rows.add();
+    EXPECT_THAT(shown(rows), ElementsAre("a|1|m", "b|2|", "c|3|", "n|x y z|"));
+    rows.select(1);
+    rows.fields = {"d", "4", ""};
+    rows.add();
+    EXPECT_THAT(shown(rows), ElementsAre("a|1|m", "d|4|", "*b|2|", "c|3|", "n|x y z|"));
+}
+
+TEST(SummaryRows, MovesStopAtTheEnds) {
+    SummaryRows rows = threeRows();
+    rows.up();
+    rows.down();
+    EXPECT_THAT(shown(rows), ElementsAre("a|1|m", "b|2|", "c|3|")) << "nothing is selected";
+    rows.select(0);
+    rows.up();
+    EXPECT_THAT(shown(rows), ElementsAre("*a|1|m", "b|2|", "c|3|"));
+    rows.down();
+    rows.down();
+    rows.down();
+    EXPECT_THAT(shown(rows), ElementsAre("b|2|", "c|3|", "*a|1|m"));
+}
+
+TEST(SummaryRows, AChangeTrimsTheFields) {
+    SummaryRows rows = threeRows();
+    rows.fields = {"x", "", ""};
+    rows.change();
+    EXPECT_EQ(rows.rows(), threeRows().rows()) << "nothing is selected";
+    rows.select(1);
+    rows.fields = {" Dosis  ", " 7", "l "};
+    rows.change();
+    EXPECT_THAT(shown(rows), ElementsAre("a|1|m", "*Dosis|7|l", "c|3|"));
+}
+
+class SummaryEditorTest : public ::testing::Test {
+protected:
+    TempFolder folder;
+    ScriptedDialogs dialogs;
+    Texts texts;
+};
+
+TEST_F(SummaryEditorTest, AcceptingWithoutAChangeKeepsEveryRow) {
+    const std::pair<const char*, const char*> rows[] = {
+        {"Dosis Promedio:,12.5,lt/hect", "\"Dosis Promedio:\",\"12.5\",\"lt/hect\"\r\n"},
+        {"\"Nota:\",\"a, \"\"b\"\"\",\"\"\n", "\"Nota:\",\"a, \"\"b\"\"\",\"\"\r\n"},
+        {"Due\xF1o:,Nu\xF1"
+         "ez,\r\n",
+         "\"Due\xF1o:\",\"Nu\xF1"
+         "ez\",\"\"\r\n"},
+        {"Due\xC3\xB1o:,1,\r\n", "\"Due\xC3\xB1o:\",\"1\",\"\"\r\n"},
+        {"\xEF\xBB\xBFLote:,1,\r\n", "\xEF\xBB\xBF\"Lote:\",\"1\",\"\"\r\n"},
+        {"Lote:,1,\r\n\r\nuna nota\r\nA:,2,\r\n",
+         "\"Lote:\",\"1\",\"\"\r\n\r\nuna nota\r\nA:,2,\r\n"},
+        {"otra cosa", "otra cosa"},
+        {"", ""},
+    };
+    for (const auto& [before, after] : rows) {
+        SCOPED_TRACE(before);
+        const std::string path = folder.write("Wrk0001.txt", before);
+        SummaryEditor editor(path, dialogs, texts);
+        EXPECT_TRUE(editor.accept());
+        EXPECT_EQ(contentOf(path), after);
+        EXPECT_EQ(decodeSummary(after).entries(), decodeSummary(before).entries());
+    }
+    EXPECT_THAT(dialogs.messages, IsEmpty());
+}
+
+TEST_F(SummaryEditorTest, ChangesAreWrittenAsTheConsoleReadsThem) {
+    const std::string path = folder.write("Wrk0001.txt", "Lote:,1,\r\nAncho:,18,mts\r\n");
+    SummaryEditor editor(path, dialogs, texts);
+    EXPECT_THAT(shown(editor.rows()), ElementsAre("Lote|1|", "Ancho|18|mts"));
+    editor.rows().select(0);
+    editor.rows().fields = {"Dueño", "\"Ñandú\", 5\"", "π"};
+    editor.rows().change();
+    editor.rows().down();
+    EXPECT_EQ(contentOf(path), "Lote:,1,\r\nAncho:,18,mts\r\n") << "nothing is written yet";
+    EXPECT_TRUE(editor.accept());
+    EXPECT_EQ(contentOf(path), "\"Ancho:\",\"18\",\"mts\"\r\n"
+                               "\"Due\xF1o:\",\"\"\"\xD1"
+                               "and\xFA\"\", 5\"\"\",\"?\"\r\n");
+    EXPECT_EQ(decodeSummary(contentOf(path)).value_(1), "\"Ñandú\", 5\"");
+}
+
+TEST_F(SummaryEditorTest, ARowGoesOnlyWhenTheUserSaysSo) {
+    SummaryEditor editor(folder.write("Wrk0001.txt", "A:,1,\r\nB:,2,\r\n"), dialogs, texts);
+    editor.quit();
+    EXPECT_THAT(dialogs.questions, IsEmpty()) << "nothing is selected";
+    editor.rows().select(0);
+    dialogs.answers = {Answer::No, Answer::Yes};
+    editor.quit();
+    EXPECT_THAT(shown(editor.rows()), ElementsAre("*A|1|", "B|2|"));
+    editor.quit();
+    EXPECT_THAT(shown(editor.rows()), ElementsAre("B|2|"));
+    EXPECT_THAT(dialogs.questions,
+                testing::Each("Exclamation|Campora|Seguro que desea eliminar los campos "
+                              "seleccionados?"));
+}
+
+TEST_F(SummaryEditorTest, AFileThatIsNotThereIsNotMade) {
+    const std::string path = folder.file("Wrk0001.txt");
+    SummaryEditor editor(path, dialogs, texts);
+    editor.rows().fields = {"a", "b", "c"};
+    editor.rows().add();
+    EXPECT_TRUE(editor.accept());
+    EXPECT_FALSE(std::filesystem::exists(nativePath(path)));
+    EXPECT_THAT(dialogs.messages,
+                ElementsAre("Error|Error|No se encuentra el archivo que contiene el resumen de "
+                            "datos."));
+}
+
+TEST_F(SummaryEditorTest, AFileThatCannotBeWrittenKeepsTheEditorOpen) {
+    const std::string path = folder.write("card/Wrk0001.txt", "A:,1,\r\n");
+    SummaryEditor editor(path, dialogs, texts);
+    std::filesystem::remove_all(nativePath(folder.file("card")));
+    EXPECT_FALSE(editor.accept());
+    EXPECT_THAT(dialogs.messages, ElementsAre("Error|Error|No se puede guardar el archivo " + path +
+                                              ": la carpeta no existe"));
+    folder.write("card/Wrk0001.txt", "otra");
+    EXPECT_TRUE(editor.accept());
+    EXPECT_EQ(contentOf(path), "\"A:\",\"1\",\"\"\r\n");
+}
+
+}  // namespace
+}  // namespace campora
