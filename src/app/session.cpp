@@ -192,6 +192,9 @@ bool Session::takeWork(std::string_view path, const FileFormat& format, bool res
     }
     ranges_ = work->ranges;
     style_.graduated = style_.graduated || format.graduates;
+    if (work->kind) {
+        lastKind_ = work->kind;
+    }
     if (work->hasFlowStops) {
         hasFlowStops_ = hasFlowStops_.value_or(false) || *work->hasFlowStops;
     }
@@ -210,6 +213,7 @@ void Session::afterLoading(bool zoomAll) {
     loadFileList(true);
     showCurrentFile();
     showFlowStops();
+    platform_.window.commandsChanged();
 }
 
 std::vector<std::string> Session::loadFiles(const std::vector<std::string>& paths,
@@ -409,10 +413,14 @@ void Session::showSummary() {
     platform_.window.setSummary(summaryRows(files_.currentFile()));
 }
 
-void Session::showLegend() {
+ColorScale& Session::shownScale() {
     File* const current = files_.currentFile();
     ColorScale* const own = current != nullptr ? current->File_escalaColores() : nullptr;
-    ColorScale& scale = own != nullptr ? *own : defaultScale_;
+    return own != nullptr ? *own : defaultScale_;
+}
+
+void Session::showLegend() {
+    ColorScale& scale = shownScale();
     scaleChanges_ = scale.onChanged([this] {
         if (!loading_) {
             showLegend();

@@ -67,6 +67,11 @@ public:
     /// The scale of everything that has none of its own.
     [[nodiscard]] ColorScale& defaultScale() { return defaultScale_; }
 
+    /// The scale of the legend: the current file's own or the default one.
+    [[nodiscard]] ColorScale& shownScale();
+    /// Kind of the machine of the report read last; none before the first.
+    [[nodiscard]] std::optional<WorkKind> lastKind() const { return lastKind_; }
+
     [[nodiscard]] int plotCount() const { return files_.loadedCount(); }
     /// False when the duplicate rule kept the file out.
     bool addFile(std::unique_ptr<File> file, bool updateView, bool atTop);
@@ -113,6 +118,8 @@ public:
     /// Builds the default scale anew for the current mode and shows it in the legend; does not
     /// redraw. The date map is left when nothing loaded has a date.
     void refreshColorScale();
+    /// Shows the scale and the plain colours as they are now.
+    void showLegend();
     /// Draws the map again as it stands, in the user's background.
     void redraw() { view_.refrescar("-1"); }
 
@@ -130,7 +137,6 @@ private:
     /// Summary, title and legend.
     void showCurrentFile();
     void showSummary();
-    void showLegend();
     void showFlowStops();
 
     Platform platform_;
@@ -149,6 +155,7 @@ private:
     ColorScale::Subscription scaleChanges_;
     /// Whether a track file with a step without flow has been opened; none without track files.
     std::optional<bool> hasFlowStops_;
+    std::optional<WorkKind> lastKind_;
     /// While set, a change of the scale neither redraws nor reaches the legend.
     bool loading_ = false;
 };

@@ -1,0 +1,479 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/map_modes.h"
+
+#include <algorithm>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "app/typed_number.h"
+#include "model/exportable.h"
+#include "support/session_desk.h"
+#include "work/gph_track.h"
+
+namespace campora {
+namespace {
+
+using testing::Each;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+using Handler = void (MapModes::*)();
+using Lines = std::vector<std::string>;
+
+constexpr std::uint32_t kSprayer = 0x6001;
+constexpr std::uint32_t kSeeder = 0x2104;
+
+/// A started session with its modes.
+struct ModesDesk : SessionDesk {
+    explicit ModesDesk(Language language = Language::Spanish) : SessionDesk(language) {
+        session.start();
+        forget();
+    }
+    /// A report of two steps of 10 m with the alarm of bit 8; 50 % too much in the first channel,
+    /// 20 % too little in the second.
+    void open(const std::string& name, int channels = 1, std::uint32_t serial = kSprayer) {
+        RptBytes bytes(channels, serial);
+        for (int i = 0; i < 3; ++i) {
+            RptBytes::Record record;
+            record.position = fixAt(10.0 * i, 0);
+            record.realTenths = {1500, 800, 100, 100};
+            record.spec = {100, 100, 10, 10};
+            record.alarms = 1U << 8U;
+            bytes.add(record);
+        }
+        ASSERT_TRUE(session.loadFile(folder.write(name, bytes.bytes()), false, true));
+        forget();
+    }
+    void forget() {
+        canvas.forget();
+        window.commandChanges = 0;
+        dialogs.messages.clear();
+    }
+    /// Fill colours of the polygons drawn since; steps of one colour may share a polygon.
+    [[nodiscard]] Lines fills() const {
+        Lines found;
+        for (const std::string& call : canvas.callsOf("polygon")) {
+            found.push_back(call.substr(call.find("fill=") + 5, 8));
+        }
+        return found;
+    }
+    [[nodiscard]] ColorMode mode() { return session.style().mode; }
+
+    MapModes modes{session};
+};
+
+/// A file with several channels.
+struct ChannelsFile : NamedFile, MultiChannel {
+    ChannelsFile(const std::string& name, int channels) : NamedFile(name), count(channels) {}
+    void setCurrentChannel(int channel) override { current = channel; }
+    [[nodiscard]] int channelsCnt() const override { return count; }
+
+    int count;
+    int current = 0;
+};
+
+TEST(TypedNumber, TakesEitherDecimalSymbolAndNothingElse) {
+    struct Row {
+        const char* typed;
+        std::optional<double> number;
+    };
+    const Row rows[] = {
+        {"12,5", 12.5},
+        {"12.5", 12.5},
+        {" 7 ", 7},
+        {"+3", 3},
+        {"-0,5", -0.5},
+        {".5", 0.5},
+        {"", std::nullopt},
+        {"doce", std::nullopt},
+        {"1.234,5", std::nullopt},
+        {"12 m", std::nullopt},
+        {"+-3", std::nullopt},
+        {"1e3", std::nullopt},
+        {"nan", std::nullopt},
+        {"inf", std::nullopt},
+        {"1000000000000000", std::nullopt},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(typedNumber(row.typed), row.number) << row.typed;
+    }
+}
+
+TEST(MapModes, TheAlarmMenuNamesTheAlarmsOfBothMachines) {
+    struct Row {
+        Language language;
+        const char* first;
+        const char* seeder;
+        const char* sprayer;
+    };
+    const Row rows[] = {
+        {Language::Spanish, "Falla de siembra", "Sodel - Falla de eje", "Ondel - Presión Máxima"},
+        {Language::Portuguese, "Falha de plantio", "Sodel - Falha de eixo",
+         "Ondel - Pressão máxima"},
+        {Language::English, "Seeding failure", "Sodel - Shaft failure", "Ondel - Maximum pressure"},
+    };
+    for (const Row& row : rows) {
+        const ModesDesk desk(row.language);
+        const std::vector<AlarmEntry> entries = desk.modes.alarmEntries();
+        ASSERT_EQ(entries.size(), 64U);
+        EXPECT_EQ(entries[0], (AlarmEntry{row.first, true, true}));
+        EXPECT_EQ(entries[4], (AlarmEntry{row.seeder, true, true}));
+        EXPECT_EQ(entries[32], (AlarmEntry{row.sprayer, true, true}));
+        EXPECT_FALSE(entries[2].visible);
+        EXPECT_EQ(std::count_if(entries.begin(), entries.end(),
+                                [](const AlarmEntry& entry) { return entry.visible; }),
+                  20 + 5);
+    }
+}
+
+TEST(MapModes, SelectedAlarmsColourThePointsThatHaveThem) {
+    ModesDesk desk;
+    desk.open("lote.rpt");
+    desk.modes.mnuAlarmsPaint();
+    const std::string alarm = "0x0000FF";
+    const std::string none = "0x00FF00";
+    EXPECT_EQ(desk.fills(), Lines{alarm});
+    EXPECT_EQ(desk.window.legend.reference.back().text, "Sin alarma");
+    struct Row {
+        const char* name;
+        int index;  ///< -1 all, -2 none
+        std::string fill;
+    };
+    const Row rows[] = {
+        {"none", -2, none},
+        {"of the seeders", 8, none},
+        {"of the sprayers", 40, alarm},
+        {"off again", 40, none},
+        {"all", -1, alarm},
+        {"beyond the menu", 64, ""},
+        {"before the menu", -5, ""},
+        {"another sprayer's", 32, alarm},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        desk.forget();
+        if (row.index == -1) {
+            desk.modes.mnuAlarmsAll();
+        } else if (row.index == -2) {
+            desk.modes.mnuAlarmsNone();
+        } else {
+            desk.modes.mnuAlarmsAlarm(row.index);
+        }
+        EXPECT_EQ(desk.fills(), row.fill.empty() ? Lines{} : Lines{row.fill});
+        EXPECT_EQ(desk.window.commandChanges, row.fill.empty() ? 0 : 1);
+    }
+    const std::vector<AlarmEntry> entries = desk.modes.alarmEntries();
+    EXPECT_TRUE(entries[40].checked && entries[0].checked);
+    EXPECT_FALSE(entries[32].checked);
+}
+
+TEST(MapModes, TheThreeMapsExcludeEachOther) {
+    const std::pair<Handler, ColorMode> maps[] = {
+        {&MapModes::mnuAlarmsPaint, ColorMode::Alarm},
+        {&MapModes::mnuColorDateMap, ColorMode::Date},
+        {&MapModes::mnuColorErrorMap, ColorMode::Error},
+    };
+    for (const auto& [first, firstMode] : maps) {
+        for (const auto& [second, secondMode] : maps) {
+            ModesDesk desk;
+            desk.open("lote.rpt");
+            (desk.modes.*first)();
+            EXPECT_TRUE(desk.modes.isOn(firstMode));
+            desk.forget();
+            (desk.modes.*second)();
+            EXPECT_EQ(desk.mode(), first == second ? ColorMode::Dose : secondMode);
+            EXPECT_EQ(desk.redraws(), 1U);
+            EXPECT_EQ(desk.window.commandChanges, 1);
+        }
+    }
+}
+
+TEST(MapModes, TheDateMapNeedsADate) {
+    ModesDesk desk;
+    ASSERT_TRUE(desk.session.loadFile(desk.track("log0001.nbr", 5), false, true));
+    EXPECT_FALSE(desk.modes.canShowDates());
+    desk.modes.mnuColorDateMap();
+    EXPECT_EQ(desk.mode(), ColorMode::Dose);
+    desk.open("lote.rpt");
+    EXPECT_TRUE(desk.modes.canShowDates());
+    desk.modes.mnuColorDateMap();
+    EXPECT_TRUE(desk.session.defaultScale().isDate);
+    EXPECT_EQ(desk.window.legend.classes.front().text, "05/03/2018");
+    desk.modes.mnuColorDateMap();
+    EXPECT_FALSE(desk.session.defaultScale().isDate);
+}
+
+TEST(MapModes, LeavingTheAlarmMapKeepsTheUsersClasses) {
+    ModesDesk desk;
+    desk.open("lote.rpt");
+    desk.modes.mnuAlarmsPaint();
+    desk.session.defaultScale().setClassNumber(3);
+    desk.modes.mnuAlarmsPaint();
+    EXPECT_EQ(desk.window.legend.classes.size(), 3U);
+    EXPECT_EQ(desk.window.legend.reference.back().text, "Fondo");
+}
+
+TEST(MapModes, TheErrorMapTellsColoursAndHectares) {
+    ModesDesk desk;
+    desk.open("lote.rpt", 2);
+    desk.modes.mnuColorErrorMap();
+    EXPECT_EQ(desk.fills(), Lines{"0xFF00FF"}) << "15 % in total";
+    EXPECT_EQ(desk.window.summary.back(), (SummaryRow{"Hectareas Error", "0.04 Has"}));
+    desk.dialogs.inputAnswers = {"16"};
+    desk.modes.mnuColorErrorMapMin();
+    EXPECT_EQ(desk.window.summary.back().value, "0 Has");
+    desk.modes.mnuColorScaleSelCH(1);
+    EXPECT_EQ(desk.window.summary.back().value, "0.04 Has") << "20 % in the second channel";
+    EXPECT_EQ(desk.window.legend.classes.size(), 1U) << "one specified dose";
+    desk.modes.mnuColorScaleSelTotal();
+    EXPECT_EQ(desk.window.summary.back().value, "0 Has");
+    desk.modes.mnuColorDateMap();
+    EXPECT_EQ(desk.window.summary.back(), (SummaryRow{"Hectareas Error", " "}));
+}
+
+TEST(MapModes, TheAllowedErrorIsTakenAsTyped) {
+    struct Row {
+        const char* answer;
+        std::optional<float> limit;
+        const char* legend;
+    };
+    const Row rows[] = {
+        {"12,5", 12.5F, "Errores > 12,5%"}, {"12.5", 12.5F, "Errores > 12,5%"},
+        {"20%", 20.0F, "Errores > 20%"},    {"150", 150.0F, "Errores > 150%"},
+        {"mucho", std::nullopt, nullptr},   {"1.2.3", std::nullopt, nullptr},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.answer);
+        ModesDesk desk;
+        desk.locale = FixedLocale(',');
+        desk.open("lote.rpt");
+        desk.session.style().errorLimit = 2.5F;
+        desk.dialogs.inputAnswers = {row.answer};
+        desk.modes.mnuColorErrorMapMin();
+        EXPECT_THAT(desk.dialogs.inputs,
+                    ElementsAre(std::to_string(static_cast<int>(TextId::AskErrorLimit)) +
+                                "|Mapa de Error|2,5"));
+        EXPECT_EQ(desk.session.style().errorLimit, row.limit.value_or(2.5F));
+        EXPECT_EQ(desk.modes.isOn(ColorMode::Error), row.limit.has_value());
+        if (row.limit) {
+            EXPECT_EQ(desk.window.legend.reference.back().text, row.legend);
+        } else {
+            EXPECT_THAT(desk.dialogs.messages, ElementsAre(HasSubstr(row.answer)));
+        }
+    }
+    ModesDesk desk;
+    desk.dialogs.inputAnswers = {""};
+    desk.modes.mnuColorErrorMapMin();
+    EXPECT_EQ(desk.mode(), ColorMode::Dose);
+    EXPECT_TRUE(desk.dialogs.messages.empty());
+}
+
+TEST(MapModes, GraduatedWorkTakesTheColoursOfTheScale) {
+    ModesDesk desk;
+    desk.open("lote.rpt");
+    ASSERT_TRUE(desk.modes.isGraduated());
+    desk.modes.mnuEditGraduated();
+    EXPECT_EQ(desk.fills(), Lines{"0xFF8080"});
+    EXPECT_TRUE(desk.window.legend.classes.empty());
+    desk.forget();
+    desk.modes.mnuEditGraduated();
+    EXPECT_EQ(desk.fills(), Lines{"0x00FFFF"});
+    EXPECT_FALSE(desk.window.legend.classes.empty());
+
+    ASSERT_TRUE(desk.session.loadFile(desk.track("log0001.nbr", 5), false, true));
+    desk.modes.mnuEditGraduatedByLtsMin();
+    EXPECT_TRUE(desk.modes.isGraduatedBy(GraduatedBy::Minute));
+    EXPECT_EQ(desk.window.legend.unit, "lts/min");
+    desk.modes.mnuEditGraduatedByLtsHect();
+    EXPECT_TRUE(desk.modes.isGraduatedBy(GraduatedBy::Hectare));
+    EXPECT_EQ(desk.window.legend.unit, "lt/hect");
+}
+
+TEST(MapModes, AsManyChannelsAreOfferedAsAFileHas) {
+    ModesDesk desk;
+    EXPECT_EQ(desk.modes.channelCount(), 0);
+    ASSERT_TRUE(desk.session.loadFile(desk.track("log0001.nbr", 5), false, true));
+    EXPECT_EQ(desk.modes.channelCount(), 0) << "loggers know no channels";
+    desk.open("uno.rpt", 1);
+    EXPECT_EQ(desk.modes.channelCount(), 1);
+    desk.open("tres.rpt", 3);
+    EXPECT_EQ(desk.modes.channelCount(), 3);
+    desk.session.addFile(std::make_unique<ChannelsFile>("plan", 5), true, false);
+    EXPECT_EQ(desk.modes.channelCount(), 5);
+    EXPECT_EQ(desk.modes.channelCaption(4), "Canal 5");
+    desk.modes.mnuColorScaleSelCH(4);
+    desk.session.reset();
+    EXPECT_EQ(desk.modes.channelCount(), 5) << "the one in use";
+    EXPECT_TRUE(desk.modes.isChannel(4));
+    desk.modes.mnuColorScaleSelTotal();
+    EXPECT_TRUE(desk.modes.isChannel(-1));
+}
+
+TEST(MapModes, AFileWithoutTheChannelIsNamedAndKeepsItsOwn) {
+    ModesDesk desk;
+    auto one = std::make_unique<ChannelsFile>("uno.pre", 1);
+    auto three = std::make_unique<ChannelsFile>("tres.pre", 3);
+    const ChannelsFile& single = *one;
+    const ChannelsFile& several = *three;
+    desk.session.addFile(std::move(one), true, false);
+    desk.session.addFile(std::move(three), true, false);
+    desk.open("lote.rpt", 3);
+    desk.modes.mnuColorScaleSelCH(2);
+    EXPECT_THAT(desk.dialogs.messages,
+                ElementsAre("Exclamation|Campora|Advertencia: uno.pre no tiene un Canal 3"));
+    EXPECT_EQ(single.current, 0);
+    EXPECT_EQ(several.current, 2);
+    EXPECT_EQ(desk.session.style().selectedChannel, 2);
+    EXPECT_EQ(desk.window.legend.classes.front().text, "10") << "the doses of that channel";
+    EXPECT_EQ(desk.redraws(), 1U);
+}
+
+TEST(MapModes, DrawingOptionsAreSeenAndSomeAreKept) {
+    struct Row {
+        const char* name;
+        Handler handler;
+        bool (MapModes::*isOn)() const;
+        const char* key;  ///< null: not kept
+    };
+    const Row rows[] = {
+        {"only worked", &MapModes::mnuEditDrawAll, &MapModes::isOnlyWorked, nullptr},
+        {"dotted", &MapModes::mnuEditDoted, &MapModes::isDotted, "DrawDotted"},
+        {"borders", &MapModes::mnuEditDrawBorder, &MapModes::isBordered, "DrawBorders"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        ModesDesk desk;
+        const bool before = (desk.modes.*row.isOn)();
+        for (const bool expected : {!before, before}) {
+            desk.forget();
+            (desk.modes.*row.handler)();
+            EXPECT_EQ((desk.modes.*row.isOn)(), expected);
+            EXPECT_EQ(desk.redraws(), 1U);
+            EXPECT_EQ(desk.window.commandChanges, 1);
+            if (row.key == nullptr) {
+                EXPECT_TRUE(desk.settings.values.empty());
+            } else {
+                EXPECT_EQ(desk.settings.values.at(row.key), expected ? "True" : "False");
+            }
+        }
+    }
+}
+
+TEST(MapModes, TheMachineReadLastNamesItsWork) {
+    ModesDesk desk;
+    const auto caption = [&desk] {
+        return std::string(desk.session.texts()(desk.modes.drawAllCaption()));
+    };
+    EXPECT_EQ(caption(), "Ver solo fumigado");
+    desk.open("siembra.rpt", 1, kSeeder);
+    EXPECT_EQ(caption(), "Ver solo sembrado");
+    desk.session.loadFile(desk.track("log0001.nbr", 5), false, true);
+    EXPECT_EQ(caption(), "Ver solo sembrado") << "a track file is no report";
+    RptBytes older;
+    older.add({.position = fixAt(0, 0)});
+    older.add({.position = fixAt(10, 0)});
+    desk.session.loadFile(desk.folder.write("viejo.rpt", older.bytes()), false, true);
+    EXPECT_EQ(caption(), "Ver solo trabajado");
+    desk.forget();
+    desk.open("lote.rpt");
+    EXPECT_EQ(caption(), "Ver solo fumigado");
+}
+
+TEST(MapModes, TheSpeedReadOutEndsEmpty) {
+    ModesDesk desk;
+    desk.modes.mnuEditViewVel();
+    EXPECT_TRUE(desk.modes.isSpeedShown());
+    desk.window.speed = "12 km/h";
+    desk.modes.mnuEditViewVel();
+    EXPECT_FALSE(desk.modes.isSpeedShown());
+    EXPECT_EQ(desk.window.speed, "");
+    EXPECT_EQ(desk.window.commandChanges, 2);
+}
+
+TEST(MapModes, ASwathWidthIsGivenToAllWork) {
+    struct Row {
+        const char* answer;
+        float metres;  ///< 20 as before
+        const char* says = nullptr;
+    };
+    const Row rows[] = {
+        {"250", 200},       {"18,5", 18.5F},     {"18.5", 18.5F},        {"", 20},
+        {"0", 20, "mayor"}, {"-3", 20, "mayor"}, {"ancho", 20, "ancho"}, {"18 m", 20, "18 m"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.answer);
+        ModesDesk desk;
+        desk.open("uno.rpt");
+        desk.open("dos.rpt");
+        desk.modes.mnuColorErrorMap();
+        desk.forget();
+        desk.dialogs.inputAnswers = {row.answer};
+        desk.modes.mnuEditTrocha();
+        EXPECT_EQ(desk.dialogs.inputs, Lines{"192|Campora|"});
+        for (const Gph* layer : desk.session.getGphList()) {
+            EXPECT_EQ(dynamic_cast<const GphTrack&>(*layer).pointInfo(1).trocha(), row.metres);
+        }
+        EXPECT_EQ(desk.redraws(), row.metres == 20 ? 0U : 1U);
+        EXPECT_EQ(desk.window.summary.back().value, row.metres == 200     ? "0.4 Has"
+                                                    : row.metres == 18.5F ? "0.037 Has"
+                                                                          : "0.04 Has");
+        EXPECT_EQ(desk.dialogs.messages.size(), row.says == nullptr ? 0U : 1U);
+        if (row.says != nullptr) {
+            EXPECT_THAT(desk.dialogs.messages.front(), HasSubstr(row.says));
+        }
+    }
+}
+
+TEST(MapModes, AChosenColourIsKeptAndSeen) {
+    struct Row {
+        Handler handler;
+        const char* key;
+        Color MapColors::*color;
+    };
+    const Row rows[] = {
+        {&MapModes::mnuEditColorFum, "mapDrawcolor", &MapColors::draw},
+        {&MapModes::mnuEditColorNofum, "mapNoDrawcolor", &MapColors::noDraw},
+        {&MapModes::mnuEditColorBack, "mapBackcolor", &MapColors::back},
+        {&MapModes::mnuEditColorText, "mapForecolor", &MapColors::fore},
+        {&MapModes::mnuEditColorAlarms, "mapAlarmColor", &MapColors::alarm},
+        {&MapModes::mnuEditColorNoAlarms, "mapNoAlarmColor", &MapColors::noAlarm},
+        {&MapModes::mnuEditColorShapes, "mapShapeColor", &MapColors::shape},
+        {&MapModes::mnuEditColorLotes, "mapLoteColor", &MapColors::lote},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.key);
+        ModesDesk desk;
+        desk.dialogs.colorAnswers = {std::nullopt, Color{0x0000AB}};
+        (desk.modes.*row.handler)();
+        EXPECT_TRUE(desk.settings.values.empty()) << "cancelled";
+        EXPECT_EQ(desk.redraws(), 0U);
+        (desk.modes.*row.handler)();
+        MapColors expected;
+        EXPECT_THAT(desk.dialogs.colors, Each(expected.*row.color));
+        expected.*row.color = {0x0000AB};
+        EXPECT_EQ(desk.session.style().colors, expected);
+        EXPECT_EQ(desk.settings.values, (decltype(desk.settings.values){{row.key, "171"}}));
+        EXPECT_THAT(desk.canvas.calls().front(),
+                    row.color == &MapColors::back ? "clear 0x0000AB" : "clear 0xFFFFFF");
+        EXPECT_EQ(desk.window.legend.reference[2].color, expected.back);
+
+        desk.modes.mnuEditColorDefect();
+        EXPECT_EQ(desk.session.style().colors, MapColors{});
+        EXPECT_EQ(desk.settings.values.size(), 8U);
+        MapStyle stored;
+        stored.colors.*row.color = {0x123456};
+        readStyleSettings(desk.settings, stored);
+        EXPECT_EQ(stored.colors, MapColors{});
+    }
+}
+
+}  // namespace
+}  // namespace campora
