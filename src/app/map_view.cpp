@@ -50,6 +50,10 @@ std::int32_t MapView::Axis::range(double extentM, double canvasM) const {
     return roundToInt32(2.0 * margin + extentM - canvasM);
 }
 
+std::int32_t MapView::Axis::within(std::int32_t wanted, double extentM, double canvasM) const {
+    return std::clamp(wanted, 0, std::max(range(extentM, canvasM), 0));
+}
+
 ScrollBarState MapView::Axis::fitScrollBar(std::int32_t scrollRange) {
     scrollFactor = 1;
     if (scrollRange < 1) {
@@ -167,13 +171,11 @@ void MapView::zoomOutAbout(double fromLeft, double fromBottom) {
     }
     const float scale = std::min(x_.scale * kZoomStep, maxScale_);
     const auto [width, height] = canvas_.size();
-    const auto within = [scale](std::int32_t scroll, const Axis& axis, double extentM,
-                                std::int32_t canvasUnits) {
-        const std::int32_t range = axis.range(extentM, static_cast<double>(scale) * canvasUnits);
-        return std::clamp(scroll, 0, std::max(range, 0));
-    };
-    setView(scale, scale, within(x_.scrollKeeping(fromLeft, scale), x_, totalBound.widthM, width),
-            within(y_.scrollKeeping(fromBottom, scale), y_, totalBound.heightM, height));
+    const auto scrollX = x_.within(x_.scrollKeeping(fromLeft, scale), totalBound.widthM,
+                                   static_cast<double>(scale) * width);
+    const auto scrollY = y_.within(y_.scrollKeeping(fromBottom, scale), totalBound.heightM,
+                                   static_cast<double>(scale) * height);
+    setView(scale, scale, scrollX, scrollY);
     updateScrollBars();
 }
 
@@ -264,12 +266,58 @@ void MapView::scrollBy(double east, double north) {
         return;
     }
     const auto moved = [](const Axis& axis, double part, double extentM) {
-        const std::int32_t range = axis.range(extentM, axis.viewM);
-        const std::int32_t scroll = roundToInt32(axis.scroll + part * axis.viewM);
-        return std::clamp(scroll, 0, std::max(range, 0));
+        return axis.within(roundToInt32(axis.scroll + part * axis.viewM), extentM, axis.viewM);
     };
     setView(x_.scale, y_.scale, moved(x_, east, totalBound.widthM),
             moved(y_, north, totalBound.heightM));
+    updateScrollBars();
+}
+
+void MapView::panTo(std::int32_t scrollX, std::int32_t scrollY) {
+    if (!hasMap()) {
+        return;
+    }
+    x_.scroll = x_.within(scrollX, totalBound.widthM, x_.viewM);
+    y_.scroll = y_.within(scrollY, totalBound.heightM, y_.viewM);
+    computeOrigin();
+    updateScrollBars();
+}
+
+void MapView::zoomToRectangle(CanvasPoint topLeft, CanvasSize size) {
+    if (!hasMap()) {
+        return;
+    }
+    const auto [width, height] = canvas_.size();
+    const double fromBottom = static_cast<double>(height) - topLeft.y - size.height;
+    const std::int32_t scrollX =
+        roundToInt32(topLeft.x * static_cast<double>(x_.scale) + x_.scroll);
+    const std::int32_t scrollY = roundToInt32(fromBottom * y_.scale + y_.scroll);
+    x_.scale = static_cast<float>(size.width) * x_.scale / static_cast<float>(width);
+    y_.scale = static_cast<float>(size.height) * y_.scale / static_cast<float>(height);
+    equalizeScales();
+    const float scale = std::max(x_.scale, kFinestScale);
+    const double widthM = static_cast<double>(scale) * width;
+    const double heightM = static_cast<double>(scale) * height;
+    setView(scale, scale, x_.within(scrollX, totalBound.widthM, widthM),
+            y_.within(scrollY, totalBound.heightM, heightM));
+    updateScrollBars();
+}
+
+void MapView::centreOn(LonLat position) {
+    if (!hasMap()) {
+        return;
+    }
+    // North first: how long a degree of longitude is at the lower edge depends on it.
+    const double northM = (position.y - totalBound.minY) * METERS_PER_DEGREE;
+    y_.scroll =
+        y_.within(roundToInt32(northM + y_.margin - y_.viewM / 2.0), totalBound.heightM, y_.viewM);
+    computeOrigin();
+    const double degreeM = METERS_PER_DEGREE * std::cos(toRadians(position.y));
+    const double leftEdge = position.x - x_.viewM / 2.0 / degreeM;
+    const double eastM =
+        (leftEdge - totalBound.minX) * std::cos(toRadians(origin_.y)) * METERS_PER_DEGREE;
+    setView(x_.scale, y_.scale,
+            x_.within(roundToInt32(eastM + x_.margin), totalBound.widthM, x_.viewM), y_.scroll);
     updateScrollBars();
 }
 

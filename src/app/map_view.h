@@ -64,6 +64,15 @@ public:
     /// Scrolls by a part of the canvas (1 = its width or height; positive is east and north),
     /// within the scrollable extent.
     void scrollBy(double east, double north);
+    /// Scrolls to so many metres, within the scrollable extent, without a redraw: the caller moves
+    /// what is on the canvas.
+    void panTo(std::int32_t scrollX, std::int32_t scrollY);
+    /// The lower left corner of the rectangle becomes that of the canvas, which its relatively
+    /// larger side fills; never finer than zooming in ends.
+    void zoomToRectangle(CanvasPoint topLeft, CanvasSize size);
+    /// Brings the position to the middle of the canvas, or as near as the scrollable extent allows,
+    /// at the current scale.
+    void centreOn(LonLat position);
     /// Back to the state before the first file.
     void forget();
 
@@ -114,6 +123,9 @@ private:
         /// The scroll of the far end, for so many metres of map and of canvas; below 0 when the
         /// canvas is the larger.
         [[nodiscard]] std::int32_t range(double extentM, double canvasM) const;
+        /// `wanted`, or the nearest scroll that there is.
+        [[nodiscard]] std::int32_t within(std::int32_t wanted, double extentM,
+                                          double canvasM) const;
         [[nodiscard]] ScrollBarState fitScrollBar(std::int32_t scrollRange);
     };
     struct Fit;

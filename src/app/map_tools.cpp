@@ -1,0 +1,395 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/map_tools.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <utility>
+
+#include "base/numbers.h"
+#include "base/text.h"
+
+namespace campora {
+
+namespace {
+
+/// Sideways movement that makes a click a drag.
+constexpr std::int32_t kClickReach = 3;
+/// Room between the text of the information box and its frame.
+constexpr std::int32_t kInfoPadding = 90;
+/// Decimals of a measured distance, as a factor.
+constexpr double kHundredths = 100;
+
+PointerShape pointerOf(MapTools::Tool tool) {
+    switch (tool) {
+    case MapTools::Tool::None:
+        return PointerShape::Arrow;
+    case MapTools::Tool::ZoomSelect:
+        return PointerShape::ZoomSelect;
+    case MapTools::Tool::Ruler:
+    case MapTools::Tool::Info:
+        return PointerShape::Crosshair;
+    }
+    return PointerShape::Arrow;
+}
+
+LonLat positionAt(const ViewTransform& view, CanvasPoint at) {
+    return view.screenToMap(static_cast<float>(at.x), static_cast<float>(at.y));
+}
+
+bool holds(CanvasSize canvas, CanvasPoint at) {
+    return at.x >= 0 && at.x <= canvas.width && at.y >= 0 && at.y <= canvas.height;
+}
+
+/// Of lines, one below the other.
+CanvasSize sizeOfLines(const MapCanvas& canvas, std::string_view text) {
+    if (text.ends_with("\r\n")) {
+        text.remove_suffix(2);
+    }
+    CanvasSize size;
+    const std::string lines = replaceAll(text, "\r", "");
+    for (const std::string_view line : split(lines, '\n')) {
+        const CanvasSize lineSize = canvas.textSize(line.empty() ? " " : line, false);
+        size.width = std::max(size.width, lineSize.width);
+        size.height += lineSize.height;
+    }
+    return size;
+}
+
+}  // namespace
+
+MapTools::MapTools(MapCanvas& canvas, MainWindowControls& window, MapView& view,
+                   const MapStyle& style, LoadedFileList& files, const Texts& texts,
+                   const UserLocale& locale, ChooseFile chooseFile)
+    : canvas_(canvas),
+      window_(window),
+      view_(view),
+      style_(style),
+      files_(files),
+      texts_(texts),
+      locale_(locale),
+      chooseFile_(std::move(chooseFile)) {}
+
+void MapTools::setTool(Tool tool) {
+    if (files_.empty() && tool != Tool::None) {
+        return;
+    }
+    cancelDrag();
+    hideInfo();
+    if (mark_) {
+        hideVertex();
+    }
+    setToolText({});
+    if (tool != tool_) {
+        tool_ = tool;
+        window_.commandsChanged();
+    }
+    showPointer();
+}
+
+void MapTools::reset() {
+    drag_ = Drag::None;  // there is nothing left to draw
+    setTool(Tool::None);
+    overlay_ = {};
+    showOverlay();
+    pointer_.reset();
+    window_.setPosition({});
+}
+
+void MapTools::setCoordType(CoordType type) {
+    coordType_ = type;
+    showPosition();
+}
+
+void MapTools::press(Button button, CanvasPoint at) {
+    if (files_.empty() || drag_ != Drag::None || button == Button::Right) {
+        return;
+    }
+    hideInfo();
+    button_ = button;
+    pressed_ = at;
+    if (button == Button::Middle || tool_ == Tool::None) {
+        moved_ = false;
+        startPan(at);
+        return;
+    }
+    switch (tool_) {
+    case Tool::None:
+        return;
+    case Tool::ZoomSelect:
+        drag_ = Drag::Zoom;
+        overlay_.selector = {at, {}};
+        break;
+    case Tool::Ruler:
+        drag_ = Drag::Ruler;
+        overlay_.ruler = {at, at};
+        setToolText({});
+        break;
+    case Tool::Info:
+        drag_ = Drag::Info;
+        return;
+    }
+    showOverlay();
+}
+
+void MapTools::move(CanvasPoint to) {
+    if (files_.empty()) {
+        return;
+    }
+    pointer_ = to;
+    switch (drag_) {
+    case Drag::None:
+    case Drag::Info:
+        break;
+    case Drag::Pan:
+        panTo(to);
+        break;
+    case Drag::Zoom:
+        spanSelector(to);
+        break;
+    case Drag::Ruler:
+        stretchRuler(to);
+        break;
+    }
+    showPosition();
+}
+
+void MapTools::release(Button button, CanvasPoint at) {
+    if (files_.empty()) {
+        return;
+    }
+    if (button == Button::Right) {
+        setTool(Tool::None);
+        return;
+    }
+    if (drag_ == Drag::None || button != button_) {
+        return;
+    }
+    if (pointer_ != at) {
+        move(at);
+    }
+    switch (std::exchange(drag_, Drag::None)) {
+    case Drag::None:
+        break;
+    case Drag::Pan:
+        finishPan();
+        if (button == Button::Left && !moved_ && onClick) {
+            onClick(at);
+        }
+        break;
+    case Drag::Zoom:
+        finishZoom();
+        break;
+    case Drag::Ruler:
+        finishRuler();
+        break;
+    case Drag::Info:
+        finishInfo(at);
+        break;
+    }
+}
+
+void MapTools::leave() {
+    pointer_.reset();
+    window_.setPosition({});
+}
+
+void MapTools::startPan(CanvasPoint at) {
+    drag_ = Drag::Pan;
+    pressed_ = at;
+    pressedScrollX_ = view_.scrollX();
+    pressedScrollY_ = view_.scrollY();
+    canvas_.takeSnapshot();
+    canvas_.setPointer(PointerShape::Move);
+}
+
+void MapTools::panTo(CanvasPoint to) {
+    const CanvasPoint offset{to.x - pressed_.x, to.y - pressed_.y};
+    moved_ = moved_ || std::abs(offset.x) > kClickReach;
+    view_.panTo(roundToInt32(pressedScrollX_ - offset.x * static_cast<double>(view_.scaleX())),
+                roundToInt32(pressedScrollY_ + offset.y * static_cast<double>(view_.scaleY())));
+    canvas_.paintSnapshot(offset);
+    canvas_.refresh();
+    placeMark();
+}
+
+void MapTools::finishPan() {
+    view_.setView(view_.scaleX(), view_.scaleY(), view_.scrollX(), view_.scrollY());
+    showPointer();
+    placeMark();
+}
+
+void MapTools::spanSelector(CanvasPoint to) {
+    const auto [width, height] = canvas_.size();
+    to = {std::clamp(to.x, 0, width), std::clamp(to.y, 0, height)};
+    overlay_.selector = {{std::min(pressed_.x, to.x), std::min(pressed_.y, to.y)},
+                         {std::abs(to.x - pressed_.x), std::abs(to.y - pressed_.y)}};
+    showOverlay();
+}
+
+void MapTools::finishZoom() {
+    const MapOverlay::Box box = overlay_.selector.value_or(MapOverlay::Box{pressed_, {}});
+    overlay_.selector.reset();
+    showOverlay();
+    view_.zoomToRectangle(box.topLeft, box.size);
+}
+
+void MapTools::stretchRuler(CanvasPoint to) {
+    overlay_.ruler = {pressed_, to};
+    showOverlay();
+    const double eastM = (to.x - pressed_.x) * static_cast<double>(view_.scaleX());
+    const double northM = (to.y - pressed_.y) * static_cast<double>(view_.scaleY());
+    const double metres = roundHalfEven(std::hypot(eastM, northM) * kHundredths) / kHundredths;
+    setToolText(std::string(texts_(TextId::RulerDistance)) +
+                numberText(metres, locale_.decimalSymbol()) + " m");
+}
+
+void MapTools::finishRuler() {
+    const MapOverlay::Line line = overlay_.ruler.value_or(MapOverlay::Line{pressed_, pressed_});
+    overlay_.ruler.reset();
+    showOverlay();
+    if (line.from == line.to) {
+        return;
+    }
+    canvas_.setPenWidth(1);
+    canvas_.setPenColor(style_.colors.fore);
+    canvas_.line(line.from, line.to, style_.colors.fore);
+    canvas_.text({(line.from.x + line.to.x) / 2, (line.from.y + line.to.y) / 2}, toolText_,
+                 TextAnchor::TopLeft, false);
+    canvas_.refresh();
+}
+
+void MapTools::finishInfo(CanvasPoint at) {
+    std::optional<Hit> hit = find(at);
+    if (!hit) {
+        return;
+    }
+    chooseFile_(hit->file);
+    if (!hit->text.empty()) {
+        overlay_.info = infoBox(at, std::move(hit->text));
+        showOverlay();
+    }
+}
+
+std::optional<MapTools::Hit> MapTools::find(CanvasPoint at) const {
+    const ViewTransform view = view_.transform();
+    const LonLat position = positionAt(view, at);
+    for (int i = 0; i < files_.loadedCount(); ++i) {
+        File& file = files_.file(i);
+        for (const Gph* layer : file.File_gphList()) {
+            const std::int32_t index = layer->Gph_mouseOver(view, style_, position, 0);
+            if (index >= 0) {
+                return Hit{&file, layer->Gph_getInfo({texts_, locale_, style_}, index)};
+            }
+        }
+    }
+    return std::nullopt;
+}
+
+MapOverlay::Info MapTools::infoBox(CanvasPoint at, std::string text) const {
+    const CanvasSize canvas = canvas_.size();
+    CanvasSize size = sizeOfLines(canvas_, text);
+    size.width += 2 * kInfoPadding;
+    size.height += 2 * kInfoPadding;
+    const CanvasPoint corner{std::max(0, std::min(at.x, canvas.width - size.width)),
+                             std::max(0, std::min(at.y, canvas.height - size.height))};
+    return {{corner, size}, std::move(text)};
+}
+
+void MapTools::hideInfo() {
+    if (overlay_.info) {
+        overlay_.info.reset();
+        showOverlay();
+    }
+}
+
+void MapTools::showVertex(float x, float y) {
+    mark_.reset();
+    overlay_.vertex = CanvasPoint{roundToInt32(x), roundToInt32(y)};
+    showOverlay();
+}
+
+void MapTools::hideVertex() {
+    mark_.reset();
+    if (overlay_.vertex) {
+        overlay_.vertex.reset();
+        showOverlay();
+    }
+}
+
+bool MapTools::goTo(LonLat position) {
+    if (files_.empty()) {
+        return false;
+    }
+    cancelDrag();
+    hideInfo();
+    mark_ = position;
+    view_.centreOn(position);
+    viewChanged();
+    return overlay_.vertex.has_value();
+}
+
+void MapTools::viewChanged() {
+    if (drag_ == Drag::Pan && pointer_) {
+        startPan(*pointer_);  // from where the view is now
+    }
+    placeMark();
+    showPosition();
+}
+
+void MapTools::placeMark() {
+    if (!mark_) {
+        return;
+    }
+    const CanvasPoint place = view_.transform().mapToScreen(mark_->x, mark_->y);
+    overlay_.vertex = holds(canvas_.size(), place) ? std::optional(place) : std::nullopt;
+    showOverlay();
+}
+
+void MapTools::copyImage(Clipboard& clipboard) {
+    if (files_.empty()) {
+        return;
+    }
+    cancelDrag();
+    canvas_.takeSnapshot();
+    view_.DrawMap();
+    clipboard.setPicture(canvas_.picture());
+    canvas_.paintSnapshot({0, 0});  // unlike a redraw it keeps what was measured and replayed
+    canvas_.refresh();
+}
+
+void MapTools::cancelDrag() {
+    const Drag drag = std::exchange(drag_, Drag::None);
+    if (drag == Drag::Pan) {
+        finishPan();
+    }
+    if (overlay_.selector || overlay_.ruler) {
+        overlay_.selector.reset();
+        overlay_.ruler.reset();
+        showOverlay();
+    }
+}
+
+void MapTools::showPosition() {
+    if (!pointer_ || files_.empty()) {
+        return;
+    }
+    const LonLat position = positionAt(view_.transform(), *pointer_);
+    std::string text(texts_(TextId::Longitude));
+    text.append(formatCoord(position.x, coordType_)).append("   ");
+    text.append(texts_(TextId::Latitude)).append(formatCoord(position.y, coordType_));
+    window_.setPosition(text);
+}
+
+void MapTools::setToolText(std::string text) {
+    toolText_ = std::move(text);
+    window_.setToolText(toolText_);
+}
+
+void MapTools::showPointer() {
+    canvas_.setPointer(drag_ == Drag::Pan ? PointerShape::Move : pointerOf(tool_));
+}
+
+}  // namespace campora

@@ -1,0 +1,351 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/map_tools.h"
+
+#include <cmath>
+#include <memory>
+
+#include <gtest/gtest.h>
+
+#include "model/geodesy.h"
+#include "support/named_file.h"
+#include "support/recording_canvas.h"
+#include "support/scripted_platform.h"
+#include "support/scripted_window.h"
+
+namespace campora {
+namespace {
+
+using Tool = MapTools::Tool;
+using Button = MapTools::Button;
+
+/// A layer that answers everywhere in one half of the map.
+class HalfLayer : public NamedLayer {
+public:
+    HalfLayer(const std::string& name, double west, double east)
+        : NamedLayer(name), name_(name), west_(west), east_(east) {}
+
+    [[nodiscard]] std::int32_t Gph_mouseOver(const ViewTransform& /*view*/,
+                                             const MapStyle& /*style*/, LonLat position,
+                                             std::int32_t start) const override {
+        return position.x >= west_ && position.x < east_ ? start + 7 : -1;
+    }
+    [[nodiscard]] std::string Gph_getInfo(const InfoContext& /*context*/,
+                                          std::int32_t n) const override {
+        return name_ + " " + std::to_string(n) + "\r\nx\r\n";
+    }
+
+private:
+    std::string name_;
+    double west_;
+    double east_;
+};
+
+class HalfFile : public NamedFile {
+public:
+    HalfFile(const std::string& name, double west, double east)
+        : NamedFile(name), layer_(name, west, east) {}
+    [[nodiscard]] std::vector<Gph*> File_gphList() const override {
+        return {const_cast<HalfLayer*>(&layer_)};
+    }
+
+private:
+    HalfLayer layer_;
+};
+
+/// A map of 10 by 5 km at the equator on a canvas of 1000 by 500 units: 10 metres a unit, no
+/// margins.
+struct Desk {
+    explicit Desk(bool withFile = true, char symbol = '.') : locale(symbol) {
+        if (!withFile) {
+            return;
+        }
+        files.addFile(std::make_unique<HalfFile>("lote1", 0.02, 0.06), false, dialogs);
+        files.addFile(std::make_unique<HalfFile>("lote2", 0, 0.03), false, dialogs);
+        view.totalBound.maxX = 10000 / METERS_PER_DEGREE;
+        view.totalBound.maxY = 5000 / METERS_PER_DEGREE;
+        view.totalBound.widthM = 10000;
+        view.totalBound.heightM = 5000;
+        view.totalBound.isSet = true;
+        view.setView(10, 10, 0, 0);
+        canvas.forget();
+    }
+
+    void drag(CanvasPoint from, CanvasPoint to, Button button = Button::Left) {
+        tools.press(button, from);
+        tools.move(to);
+        tools.release(button, to);
+    }
+    [[nodiscard]] std::size_t redraws() const { return canvas.callsOf("clear").size(); }
+
+    RecordingCanvas canvas{{1000, 500}};
+    ScriptedWindow window;
+    ScriptedDialogs dialogs;
+    MapStyle style;
+    Texts texts{Language::Spanish};
+    FixedLocale locale;
+    LoadedFileList files{texts};
+    MapView view{canvas, window, style, [this](MapContext& /*context*/) { tools.viewChanged(); }};
+    std::string chosen;
+    MapTools tools{canvas, window, view,   style,
+                   files,  texts,  locale, [this](File* file) { chosen = file->File_name(); }};
+};
+
+TEST(MapTools, AToolReplacesTheOtherAndSetsThePointer) {
+    Desk d;
+    d.tools.toggleTool(Tool::ZoomSelect);
+    EXPECT_EQ(d.canvas.pointer(), PointerShape::ZoomSelect);
+    d.tools.toggleTool(Tool::Ruler);
+    EXPECT_EQ(d.tools.tool(), Tool::Ruler);
+    EXPECT_EQ(d.canvas.pointer(), PointerShape::Crosshair);
+    d.tools.toggleTool(Tool::Ruler);
+    EXPECT_EQ(d.tools.tool(), Tool::None);
+    EXPECT_EQ(d.canvas.pointer(), PointerShape::Arrow);
+    EXPECT_EQ(d.window.commandChanges, 3);
+}
+
+TEST(MapTools, ShowsThePositionUnderThePointer) {
+    Desk d;
+    d.tools.move({500, 0});
+    EXPECT_EQ(d.window.position, "Long: 0.044915º   Lat: 0.044915º");
+    d.tools.setCoordType(CoordType::DegreesMinutes);
+    EXPECT_EQ(d.window.position, "Long: 0º  2.6949'   Lat: 0º  2.6949'");
+    d.tools.setCoordType(CoordType::Degrees);
+    d.view.setView(5, 5, 0, 2500);
+    EXPECT_EQ(d.window.position, "Long: 0.022457º   Lat: 0.044915º");
+    d.tools.leave();
+    EXPECT_EQ(d.window.position, "");
+}
+
+TEST(MapTools, PanningMovesTheSnapshotAndRedrawsAtTheEnd) {
+    Desk d;
+    d.view.setView(5, 5, 1000, 1000);
+    d.canvas.forget();
+    d.tools.press(Button::Left, {100, 100});
+    EXPECT_EQ(d.canvas.pointer(), PointerShape::Move);
+    d.tools.move({60, 150});
+    EXPECT_EQ(d.canvas.calls(),
+              (std::vector<std::string>{"snapshot", "paint snapshot: (-40,50)", "refresh"}));
+    EXPECT_EQ(d.window.view.horizontal.position, 1200);
+    d.tools.move({2000, 150});
+    EXPECT_EQ(d.view.scrollX(), 0);
+    d.tools.move({-2000, 150});
+    EXPECT_EQ(d.view.scrollX(), 5000);
+    EXPECT_EQ(d.redraws(), 0U);
+    d.tools.release(Button::Left, {60, 150});
+    EXPECT_EQ(d.redraws(), 1U);
+    EXPECT_EQ(d.view.scrollX(), 1200);
+    EXPECT_EQ(d.view.scrollY(), 1250);
+    EXPECT_EQ(d.canvas.pointer(), PointerShape::Arrow);
+    EXPECT_EQ(d.tools.tool(), Tool::None);
+}
+
+TEST(MapTools, OnlyAClickIsAClick) {
+    struct Row {
+        const char* name;
+        Tool tool;
+        Button button;
+        std::int32_t sideways;
+        int clicks;
+        std::int32_t scrollX;
+    };
+    const Row rows[] = {
+        {"a trembling hand", Tool::None, Button::Left, -3, 1, 1015},
+        {"just a drag", Tool::None, Button::Left, -4, 0, 1020},
+        {"middle button", Tool::None, Button::Middle, 0, 0, 1000},
+        {"the middle button pans with a tool", Tool::Ruler, Button::Middle, -4, 0, 1020},
+        {"a tool at work", Tool::Ruler, Button::Left, -2, 0, 1000},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        Desk d;
+        int clicks = 0;
+        d.tools.onClick = [&](CanvasPoint) { ++clicks; };
+        d.view.setView(5, 5, 1000, 1000);
+        d.tools.setTool(row.tool);
+        d.drag({100, 100}, {100 + row.sideways, 100}, row.button);
+        EXPECT_EQ(clicks, row.clicks);
+        EXPECT_EQ(d.view.scrollX(), row.scrollX);
+        EXPECT_EQ(d.tools.tool(), row.tool);
+    }
+}
+
+TEST(MapTools, AZoomInMidPanGoesOnFromThere) {
+    Desk d;
+    d.view.setView(5, 5, 1000, 1000);
+    d.tools.press(Button::Middle, {100, 100});
+    d.tools.move({110, 100});
+    d.view.setView(2, 2, 3000, 3000);
+    d.canvas.forget();
+    d.tools.move({120, 100});
+    EXPECT_EQ(d.view.scrollX(), 2980);
+    EXPECT_EQ(d.canvas.callsOf("paint").back(), "paint snapshot: (10,0)");
+}
+
+TEST(MapTools, TheRectangleFillsTheCanvas) {
+    struct Row {
+        const char* name;
+        CanvasPoint from, to;
+        MapOverlay::Box selector;
+        float scale;
+        std::int32_t scrollX, scrollY;
+    };
+    const Row rows[] = {
+        {"quarter, upwards", {700, 350}, {200, 100}, {{200, 100}, {500, 250}}, 5, 2000, 1500},
+        {"right half keeps the scale", {600, 0}, {1000, 500}, {{600, 0}, {400, 500}}, 10, 0, 0},
+        {"beyond the canvas", {900, 450}, {5000, 900}, {{900, 450}, {100, 50}}, 1, 9000, 0},
+        {"no size", {500, 250}, {500, 250}, {{500, 250}, {0, 0}}, 0.1F, 5000, 2500},
+        {"flat", {0, 250}, {500, 250}, {{0, 250}, {500, 0}}, 5, 0, 2500},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        Desk d;
+        d.tools.setTool(Tool::ZoomSelect);
+        d.tools.press(Button::Left, row.from);
+        EXPECT_EQ(d.window.overlay.selector, (MapOverlay::Box{row.from, {0, 0}}));
+        d.tools.move(row.to);
+        EXPECT_EQ(d.window.overlay.selector, row.selector);
+        d.tools.release(Button::Left, row.to);
+        EXPECT_EQ(d.window.overlay.selector, std::nullopt);
+        EXPECT_FLOAT_EQ(d.view.scaleX(), row.scale);
+        EXPECT_EQ(d.view.scaleX(), d.view.scaleY());
+        EXPECT_EQ(d.view.scrollX(), row.scrollX);
+        EXPECT_EQ(d.view.scrollY(), row.scrollY);
+        EXPECT_EQ(d.window.view.scaleLabel, numberText(roundToInt32(1080 * row.scale)) + "m");
+    }
+}
+
+TEST(MapTools, TheRulerMeasuresAndStaysOnTheMap) {
+    Desk d(true, ',');
+    d.style.colors.fore = Color{0x102030};
+    d.tools.setTool(Tool::Ruler);
+    d.tools.press(Button::Left, {0, 100});
+    d.tools.move({500, 100});
+    EXPECT_EQ(d.window.toolText, "Dist:5000 m");
+    d.tools.move({301, 401});
+    EXPECT_EQ(d.window.toolText, "Dist:4256,78 m");
+    EXPECT_EQ(d.window.overlay.ruler, (MapOverlay::Line{{0, 100}, {301, 401}}));
+    d.canvas.forget();
+    d.tools.release(Button::Left, {301, 401});
+    EXPECT_EQ(d.window.overlay.ruler, std::nullopt);
+    EXPECT_EQ(d.canvas.calls(),
+              (std::vector<std::string>{"line 0x102030 width=1 solid: (0,100) (301,401)",
+                                        "text pen=0x102030 top-left: (150,250) \"Dist:4256,78 m\"",
+                                        "refresh"}));
+    EXPECT_EQ(d.window.toolText, "Dist:4256,78 m");
+    d.tools.press(Button::Left, {0, 0});
+    EXPECT_EQ(d.window.toolText, "");
+}
+
+TEST(MapTools, InformationIsOfTheFileOnTopAndStaysOnTheCanvas) {
+    struct Row {
+        const char* name;
+        CanvasPoint at;
+        const char* chosen;
+        CanvasPoint corner;
+    };
+    const Row rows[] = {
+        {"where two overlap", {900, 50}, "lote1", {900, 50}},
+        {"the lower one alone", {100, 50}, "lote2", {100, 50}},
+        {"near the right edge", {2200, 50}, "lote1", {1980, 50}},
+        {"in the lower right corner", {2200, 1490}, "lote1", {1980, 840}},
+        {"nothing there", {2900, 50}, "", {}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        Desk d;
+        d.canvas.resize({3000, 1500});
+        d.view.setView(3, 3, 0, 0);
+        d.tools.setTool(Tool::Info);
+        d.drag(row.at, row.at);
+        EXPECT_EQ(d.chosen, row.chosen);
+        const std::optional<MapOverlay::Info> info = d.window.overlay.info;
+        ASSERT_EQ(info.has_value(), !d.chosen.empty());
+        if (info) {  // 7 characters and two lines, with 90 units around
+            EXPECT_EQ(info->text, d.chosen + " 7\r\nx\r\n");
+            EXPECT_EQ(info->box, (MapOverlay::Box{row.corner, {1020, 660}}));
+        }
+        d.tools.toggleTool(Tool::Info);
+        EXPECT_EQ(d.window.overlay.info, std::nullopt);
+    }
+}
+
+TEST(MapTools, TheRightButtonGivesUpWhatWasBegun) {
+    Desk d;
+    d.tools.setTool(Tool::ZoomSelect);
+    d.tools.press(Button::Left, {100, 100});
+    d.tools.move({200, 200});
+    d.tools.press(Button::Right, {200, 200});
+    d.tools.release(Button::Right, {200, 200});
+    EXPECT_EQ(d.tools.tool(), Tool::None);
+    EXPECT_EQ(d.canvas.pointer(), PointerShape::Arrow);
+    EXPECT_EQ(d.window.overlay, MapOverlay{});
+    d.tools.release(Button::Left, {200, 200});
+    EXPECT_FLOAT_EQ(d.view.scaleX(), 10);
+    EXPECT_EQ(d.redraws(), 0U);
+}
+
+TEST(MapTools, NothingHappensWithoutAFile) {
+    Desk d(false);
+    d.tools.setTool(Tool::Ruler);
+    EXPECT_EQ(d.tools.tool(), Tool::None);
+    d.drag({10, 10}, {200, 200});
+    d.tools.goTo({1, 1});
+    MemoryClipboard clipboard;
+    d.tools.copyImage(clipboard);
+    EXPECT_EQ(d.canvas.calls(), std::vector<std::string>{});
+    EXPECT_EQ(d.window.position, "");
+    EXPECT_EQ(clipboard.picture.width, 0);
+}
+
+TEST(MapTools, GoesToAPositionAndMarksItUntilTheNextTool) {
+    Desk d;
+    d.view.setView(2, 2, 0, 0);
+    const LonLat place{5500 / METERS_PER_DEGREE, 3000 / METERS_PER_DEGREE};
+    EXPECT_TRUE(d.tools.goTo(place));
+    EXPECT_FLOAT_EQ(d.view.scaleX(), 2);
+    EXPECT_EQ(d.window.overlay.vertex, (CanvasPoint{500, 250}));
+    d.view.setView(2, 2, d.view.scrollX() + 100, d.view.scrollY());
+    EXPECT_EQ(d.window.overlay.vertex, (CanvasPoint{450, 250}));
+    d.tools.press(Button::Left, {100, 100});
+    d.tools.move({130, 100});
+    EXPECT_EQ(d.window.overlay.vertex, (CanvasPoint{480, 250}));
+    d.tools.release(Button::Left, {130, 100});
+    d.view.setView(0.5, 0.5, 0, 0);
+    EXPECT_EQ(d.window.overlay.vertex, std::nullopt) << "out of sight";
+    d.view.setView(10, 10, 0, 0);
+    EXPECT_EQ(d.window.overlay.vertex, (CanvasPoint{550, 200}));
+    d.tools.escape();
+    EXPECT_EQ(d.window.overlay.vertex, std::nullopt);
+    d.tools.showVertex(120, 80);  // an editor's mark, which stays
+    d.tools.setTool(Tool::Ruler);
+    d.tools.viewChanged();
+    EXPECT_EQ(d.window.overlay.vertex, (CanvasPoint{120, 80}));
+}
+
+TEST(MapTools, GoesNoFurtherThanTheMap) {
+    Desk d;
+    d.view.setView(2, 2, 0, 0);
+    EXPECT_TRUE(d.tools.goTo({10000 / METERS_PER_DEGREE, 0}));
+    EXPECT_EQ(d.view.scrollX(), 8000);
+    EXPECT_EQ(d.view.scrollY(), 0);
+    EXPECT_FALSE(d.tools.goTo({-58, -34}));
+    EXPECT_EQ(d.view.scrollX(), 0);
+    EXPECT_EQ(d.window.overlay.vertex, std::nullopt);
+}
+
+TEST(MapTools, ACopyHasTheScaleBarAndLeavesTheCanvasAsItWas) {
+    Desk d;
+    MemoryClipboard clipboard;
+    d.view.updateScrollBars();
+    d.tools.copyImage(clipboard);
+    const std::vector<std::string>& calls = d.canvas.calls();
+    EXPECT_EQ(calls.front(), "snapshot");
+    EXPECT_EQ(d.canvas.callsOf("text").size(), 1U);
+    EXPECT_EQ(calls.at(calls.size() - 2), "paint snapshot: (0,0)");
+    EXPECT_EQ(clipboard.picture.width, 1);
+}
+
+}  // namespace
+}  // namespace campora
