@@ -114,54 +114,66 @@ void thinLine(const PixelGrid& grid, int x, int y, int endX, int endY, std::uint
     }
 }
 
-/// Colours the pixels between the first and the second crossing of a row, the third and the fourth,
-/// and so on. Sorts the crossings.
-void fillRow(const PixelGrid& grid, int row, std::span<double> crossings, std::uint32_t color) {
-    if (crossings.size() == 2) {
-        if (crossings[0] > crossings[1]) {
-            std::swap(crossings[0], crossings[1]);
-        }
-    } else {
-        std::sort(crossings.begin(), crossings.end());
-    }
-    std::uint32_t* const pixels = grid.pixels + row * grid.stride;
-    for (std::size_t i = 0; i + 1 < crossings.size(); i += 2) {
-        const int left = firstCentreFrom(crossings[i], grid.width);
-        const int right = firstCentreFrom(crossings[i + 1], grid.width);
-        for (int column = left; column < right; ++column) {
-            pixels[column] = color;
-        }
+void fillSpan(std::uint32_t* pixels, int width, double from, double to, std::uint32_t color) {
+    const int right = firstCentreFrom(to, width);
+    for (int column = firstCentreFrom(from, width); column < right; ++column) {
+        pixels[column] = color;
     }
 }
 
 }  // namespace
 
-void RingFiller::fill(const PixelGrid& grid, std::span<const PixelPoint> ring,
-                      std::uint32_t color) {
+void RingFiller::fill(const PixelGrid& grid, std::span<const PixelPoint> ring, std::uint32_t color,
+                      FillRule rule) {
     collectEdges(grid, ring);
     if (edges_.size() <= kFewEdges) {
-        fillFewEdges(grid, color);
+        fillFewEdges(grid, color, rule);
         return;
     }
     collectCrossings();
     std::size_t begin = 0;
     for (int row = top_; row < bottom_; ++row) {
         const std::size_t end = rowEnds_[static_cast<std::size_t>(row - top_)];
-        fillRow(grid, row, std::span(crossings_).subspan(begin, end - begin), color);
+        fillRow(grid, row, std::span(crossings_).subspan(begin, end - begin), color, rule);
         begin = end;
     }
 }
 
-void RingFiller::fillFewEdges(const PixelGrid& grid, std::uint32_t color) {
-    std::array<double, kFewEdges> crossings{};
+/// Sorts the crossings.
+void RingFiller::fillRow(const PixelGrid& grid, int row, std::span<Crossing> crossings,
+                         std::uint32_t color, FillRule rule) {
+    std::uint32_t* const pixels = grid.pixels + row * grid.stride;
+    if (crossings.size() == 2) {  // once in and once out
+        const auto [left, right] = std::minmax(crossings[0].x, crossings[1].x);
+        fillSpan(pixels, grid.width, left, right, color);
+        return;
+    }
+    std::sort(crossings.begin(), crossings.end(),
+              [](const Crossing& a, const Crossing& b) { return a.x < b.x; });
+    const bool evenOdd = rule == FillRule::EvenOdd;
+    int turns = 0;
+    double left = 0;
+    for (const Crossing& crossing : crossings) {
+        if (turns == 0) {
+            left = crossing.x;
+        }
+        turns = evenOdd ? 1 - turns : turns + crossing.turn;
+        if (turns == 0) {
+            fillSpan(pixels, grid.width, left, crossing.x, color);
+        }
+    }
+}
+
+void RingFiller::fillFewEdges(const PixelGrid& grid, std::uint32_t color, FillRule rule) {
+    std::array<Crossing, kFewEdges> crossings;
     for (int row = top_; row < bottom_; ++row) {
         std::size_t count = 0;
         for (const Edge& edge : edges_) {
             if (row >= edge.firstRow && row < edge.endRow) {
-                crossings[count++] = edge.x + (row - edge.firstRow) * edge.slope;
+                crossings[count++] = {edge.x + (row - edge.firstRow) * edge.slope, edge.turn};
             }
         }
-        fillRow(grid, row, std::span(crossings).first(count), color);
+        fillRow(grid, row, std::span(crossings).first(count), color, rule);
     }
 }
 
@@ -186,7 +198,8 @@ void RingFiller::collectEdges(const PixelGrid& grid, std::span<const PixelPoint>
             continue;
         }
         const double slope = (lower.x - upper.x) / (lower.y - upper.y);
-        edges_.push_back({firstRow, endRow, upper.x + (firstRow + 0.5 - upper.y) * slope, slope});
+        edges_.push_back(
+            {firstRow, endRow, upper.x + (firstRow + 0.5 - upper.y) * slope, slope, down ? 1 : -1});
         top_ = std::min(top_, firstRow);
         bottom_ = std::max(bottom_, endRow);
     }
@@ -209,8 +222,8 @@ void RingFiller::collectCrossings() {
     crossings_.resize(total);
     for (const Edge& edge : edges_) {
         for (int row = edge.firstRow; row < edge.endRow; ++row) {
-            crossings_[rowEnds_[static_cast<std::size_t>(row - top_)]++] =
-                edge.x + (row - edge.firstRow) * edge.slope;
+            crossings_[rowEnds_[static_cast<std::size_t>(row - top_)]++] = {
+                edge.x + (row - edge.firstRow) * edge.slope, edge.turn};
         }
     }
 }

@@ -27,13 +27,20 @@ struct PixelPoint {
     bool operator==(const PixelPoint&) const = default;
 };
 
-/// Fills rings by the even-odd rule: a pixel belongs to the ring that holds its centre, so that
-/// rings that share an edge leave no seam and cover no pixel twice. Keeps its buffers between
-/// rings, because a map is a hundred thousand small rings.
+/// What of a ring that crosses itself is inside.
+enum class FillRule {
+    NonZero,  ///< what the ring goes round at all
+    EvenOdd,  ///< what it goes round an odd number of times
+};
+
+/// Fills rings: a pixel belongs to the ring that holds its centre, so that rings that share an edge
+/// leave no seam and cover no pixel twice. Keeps its buffers between rings, because a map is a
+/// hundred thousand small rings.
 class RingFiller {
 public:
     /// `ring`: closed, first point not repeated, of any size and anywhere.
-    void fill(const PixelGrid& grid, std::span<const PixelPoint> ring, std::uint32_t color);
+    void fill(const PixelGrid& grid, std::span<const PixelPoint> ring, std::uint32_t color,
+              FillRule rule = FillRule::NonZero);
 
 private:
     struct Edge {
@@ -41,12 +48,19 @@ private:
         int endRow;
         double x;      // at the centre of the first row
         double slope;  // x per row
+        int turn;      // 1 when the ring runs down here, -1 when it runs up
+    };
+    struct Crossing {
+        double x;
+        int turn;
     };
 
     /// Up to here looking at every edge in every row is cheaper than sorting them into rows.
     static constexpr std::size_t kFewEdges = 8;
 
-    void fillFewEdges(const PixelGrid& grid, std::uint32_t color);
+    static void fillRow(const PixelGrid& grid, int row, std::span<Crossing> crossings,
+                        std::uint32_t color, FillRule rule);
+    void fillFewEdges(const PixelGrid& grid, std::uint32_t color, FillRule rule);
     void collectEdges(const PixelGrid& grid, std::span<const PixelPoint> ring);
     void collectCrossings();
 
@@ -55,7 +69,7 @@ private:
     int bottom_ = 0;
     // Crossings of row top_ + i stand at rowEnds_[i - 1] to rowEnds_[i].
     std::vector<std::size_t> rowEnds_;
-    std::vector<double> crossings_;
+    std::vector<Crossing> crossings_;
 };
 
 /// Draws straight lines of square dots, solid or dotted. The rhythm of a dotted line goes on where

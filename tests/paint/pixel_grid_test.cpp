@@ -3,6 +3,7 @@
 
 #include "paint/pixel_grid.h"
 
+#include <cmath>
 #include <random>
 #include <string>
 #include <vector>
@@ -57,12 +58,18 @@ TEST(RingFiller, FillsThePixelsWhoseCentresLieInside) {
          "......\n......\n......\n......\n"},
         {"triangle", {{0, 0}, {6, 4}, {0, 4}}, "1.....\n11....\n1111..\n11111.\n"},
         {"two points are no area", {{0, 0}, {6, 4}}, "......\n......\n......\n......\n"},
-        {"hole by a second turn: even-odd",
+        {"a second turn the same way leaves no hole",
          {{0, 0}, {6, 0}, {6, 4}, {0, 4}, {0, 0}, {2, 1}, {4, 1}, {4, 3}, {2, 3}, {2, 1}},
+         "1....1\n11..11\n11..11\n1....1\n"},
+        {"a second turn the other way does",
+         {{0, 0}, {6, 0}, {6, 4}, {0, 4}, {0, 0}, {2, 1}, {2, 3}, {4, 3}, {4, 1}, {2, 1}},
          "111111\n11..11\n11..11\n111111\n"},
+        {"figure of eight: both halves",
+         {{0, 0}, {6, 4}, {6, 0}, {0, 4}},
+         "1....1\n11..11\n11..11\n1....1\n"},
         {"far outside on all sides",
          {{-1e9, -1e9}, {1e9, -1e9}, {1e9, 1e9}, {-1e9, 1e9}},
-         "111111\n111111\n111111\n111111\n"},
+         "1....1\n11..11\n11..11\n1....1\n"},
         {"beside the picture",
          {{7, 0}, {9, 0}, {9, 4}, {7, 4}},
          "......\n......\n......\n......\n"},
@@ -72,6 +79,33 @@ TEST(RingFiller, FillsThePixelsWhoseCentresLieInside) {
         Picture picture(6, 4);
         RingFiller().fill(picture.grid, row.ring, 1);
         EXPECT_EQ(picture.text(), row.picture);
+    }
+}
+
+TEST(RingFiller, TheRuleDecidesAboutTheMiddleOfAStar) {
+    // A pentagram about (10, 10), and with a sixth and more corners on its edges: the second way of
+    // collecting crossings.
+    std::vector<PixelPoint> star;
+    for (int i = 0; i < 5; ++i) {
+        const double angle = i * 4 * 3.14159265358979 / 5;
+        star.push_back({10 + 9 * std::sin(angle), 10 - 9 * std::cos(angle)});
+    }
+    std::vector<PixelPoint> fine;
+    for (std::size_t i = 0; i < star.size(); ++i) {
+        const PixelPoint next = star[(i + 1) % star.size()];
+        fine.push_back(star[i]);
+        fine.push_back({(star[i].x + next.x) / 2, (star[i].y + next.y) / 2});
+    }
+    for (const auto& ring : {star, fine}) {
+        Picture whole(20, 20);
+        RingFiller().fill(whole.grid, ring, 1);
+        Picture hollow(20, 20);
+        RingFiller().fill(hollow.grid, ring, 1, FillRule::EvenOdd);
+        EXPECT_EQ(whole.at(10, 10), 1U);
+        EXPECT_EQ(hollow.at(10, 10), kPaper);
+        EXPECT_EQ(whole.at(10, 3), 1U);
+        EXPECT_EQ(hollow.at(10, 3), 1U);
+        EXPECT_EQ(whole.at(1, 17), kPaper);
     }
 }
 
