@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <cstdint>
+
 #include "model/gph.h"
 
 namespace campora {
@@ -16,6 +18,8 @@ public:
     virtual void clearAlarmas() = 0;
     /// Gives every record this swath width in metres.
     virtual void trocha(float metres) = 0;
+    /// Speed at element n in km/h; 0 for a bad index and where none was recorded.
+    [[nodiscard]] virtual float speedN(std::int32_t n) const = 0;
 };
 
 }  // namespace campora

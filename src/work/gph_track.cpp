@@ -98,6 +98,14 @@ void GphTrack::clearAlarmas() {
     }
 }
 
+float GphTrack::speedN(std::int32_t n) const {
+    if (!isStep(n)) {
+        return 0;
+    }
+    const auto i = static_cast<std::size_t>(n);
+    return std::visit([i](const auto& records) { return records[i].velocidad(); }, records_);
+}
+
 std::int32_t GphTrack::Gph_count() const {
     return points_.size() < 2 ? 0 : static_cast<std::int32_t>(points_.size() - 1);
 }

@@ -44,6 +44,7 @@ public:
     void trocha(float metres) override;
     [[nodiscard]] float getHectareasError(const MapStyle& style, float limit) const override;
     void clearAlarmas() override;
+    [[nodiscard]] float speedN(std::int32_t n) const override;
 
     [[nodiscard]] std::string_view Gph_kind() const override { return "GphTrack"; }
     [[nodiscard]] std::int32_t Gph_count() const override;

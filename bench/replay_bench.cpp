@@ -1,0 +1,72 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+// What an element of a replay costs on the canvas that the window shows, without waiting between
+// elements, and what a click for information costs on a large track.
+
+#include "app/replay.h"
+
+#include <memory>
+#include <vector>
+
+#include <benchmark/benchmark.h>
+
+#include "colour/color_scale.h"
+#include "field.h"
+#include "paint/raster_canvas.h"
+#include "support/scripted_platform.h"
+#include "support/scripted_window.h"
+
+namespace campora {
+
+namespace {
+
+/// A field shown whole in a window that does nothing.
+struct Desk {
+    explicit Desk(std::size_t steps) : track(fieldTrack(steps, false)) {
+        style.scale = &scale;
+        view.totalBound = track.Gph_bound();
+        view.fitView();
+        view.ZoomUno();
+    }
+
+    ColorScale scale;
+    MapStyle style;
+    GphTrack track;
+    RasterCanvas canvas{kCanvas};
+    ScriptedWindow window;
+    ScriptedClock clock;
+    Texts texts;
+    FixedLocale locale;
+    MapView view{canvas, window, style, [this](MapContext& context) { track.Gph_plot(context); }};
+};
+
+void replayElements(benchmark::State& state) {
+    Desk desk(static_cast<std::size_t>(state.range(0)));
+    Replay replay(
+        desk.canvas, desk.window, desk.clock, desk.view, desk.style, desk.texts, desk.locale,
+        [&] { return std::vector<Gph*>{&desk.track}; }, [] {});
+    replay.prepareReplay();
+    replay.setSpeed(0);
+    replay.setSpeedShown(true);
+    for (auto _ : state) {
+        replay.play();
+    }
+    state.SetItemsProcessed(state.iterations() * desk.track.Gph_count());
+}
+BENCHMARK(replayElements)->Arg(100000)->Unit(benchmark::kMillisecond);
+
+/// The last place at which a click finds something, so that every step is looked at.
+void askAtTheEnd(benchmark::State& state) {
+    Desk desk(static_cast<std::size_t>(state.range(0)));
+    const ViewTransform view = desk.view.transform();
+    const LonLat last = desk.track.points()[desk.track.points().size() - 2];
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(desk.track.Gph_mouseOver(view, desk.style, last, 0));
+    }
+}
+BENCHMARK(askAtTheEnd)->Arg(1000000)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+}  // namespace campora

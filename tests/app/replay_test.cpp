@@ -1,0 +1,318 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/replay.h"
+
+#include <memory>
+
+#include <gtest/gtest.h>
+
+#include "support/named_file.h"
+#include "support/recording_canvas.h"
+#include "support/scripted_platform.h"
+#include "support/scripted_window.h"
+#include "support/work_records.h"
+#include "work/gph_track.h"
+
+namespace campora {
+namespace {
+
+using State = Replay::State;
+
+/// Writes its name when it is drawn whole, and "nameN" for element N.
+class Steps : public NamedLayer {
+public:
+    Steps(const std::string& name, std::int32_t count)
+        : NamedLayer(name), name_(name), count_(count) {}
+
+    [[nodiscard]] std::int32_t Gph_count() const override { return count_; }
+    [[nodiscard]] bool Gph_animable() const override { return count_ > 0; }
+    bool Gph_plotN(MapContext& context, std::int32_t n) const override {
+        context.canvas.text({}, name_ + std::to_string(n), TextAnchor::TopLeft, false);
+        return true;
+    }
+
+private:
+    std::string name_;
+    std::int32_t count_;
+};
+
+/// A prescription "p" between two tracks, "a" of 3 steps and "b" of 5.
+struct Desk {
+    explicit Desk(bool withTracks = true) {
+        if (withTracks) {
+            layers.push_back(std::make_unique<Steps>("a", 3));
+        }
+        layers.push_back(std::make_unique<Steps>("p", 0));
+        if (withTracks) {
+            layers.push_back(std::make_unique<Steps>("b", 5));
+        }
+        replay.setSpeed(0);
+        replay.prepareReplay();
+    }
+
+    /// What was drawn since the last call: the names in order, "|" for a cleared canvas.
+    std::string drawn() {
+        std::string names;
+        for (const std::string& call : canvas.calls()) {
+            if (call.starts_with("clear")) {
+                names += "| ";
+            } else if (call.starts_with("text")) {
+                const std::size_t name = call.find('"') + 1;
+                names += call.substr(name, call.size() - name - 1) + " ";
+            }
+        }
+        canvas.forget();
+        return names;
+    }
+    /// Does something when events have acted so many times from now.
+    void after(int events, std::function<void()> act) {
+        const int when = clock.events + events;
+        clock.onEvents = [when, act](int count) {
+            if (count == when) {
+                act();
+            }
+        };
+    }
+    [[nodiscard]] ReplayState at(std::int32_t position, bool playing = false) const {
+        return {true, playing, 8, position};
+    }
+
+    RecordingCanvas canvas{{1000, 500}};
+    ScriptedWindow window;
+    ScriptedClock clock;
+    MapStyle style;
+    Texts texts{Language::Spanish};
+    FixedLocale locale{','};
+    int hidden = 0;
+    std::vector<std::unique_ptr<Gph>> layers;
+    MapView view{canvas, window, style, [this](MapContext& context) {
+                     replay.stopReplay();
+                     context.canvas.text({}, "map", TextAnchor::TopLeft, false);
+                 }};
+    Replay replay{canvas,
+                  window,
+                  clock,
+                  view,
+                  style,
+                  texts,
+                  locale,
+                  [this] {
+                      std::vector<Gph*> all;
+                      for (const auto& layer : layers) {
+                          all.push_back(layer.get());
+                      }
+                      return all;
+                  },
+                  [this] { ++hidden; }};
+};
+
+TEST(Replay, PlaysEveryElementOnceAfterWhatDoesNotMove) {
+    Desk d;
+    EXPECT_EQ(d.window.replay, d.at(0));
+    std::vector<std::int32_t> positions;
+    d.clock.onEvents = [&](int) {
+        EXPECT_FALSE(d.window.mapActive);
+        EXPECT_FALSE(d.window.fileMenuActive);
+        EXPECT_TRUE(d.window.replay.playing);
+        positions.push_back(d.window.replay.position);
+    };
+    d.replay.play();
+    EXPECT_EQ(d.drawn(), "| p a0 a1 a2 b0 b1 b2 b3 b4 ");
+    EXPECT_EQ(positions, (std::vector<std::int32_t>{0, 1, 2, 2, 4, 5, 6, 7}));
+    EXPECT_EQ(d.window.replay, d.at(0));
+    EXPECT_EQ(d.replay.state(), State::Idle);
+    EXPECT_TRUE(d.window.mapActive);
+    EXPECT_TRUE(d.window.fileMenuActive);
+    EXPECT_EQ(d.hidden, 1);
+}
+
+TEST(Replay, NothingToReplayDisablesTheControls) {
+    Desk d(false);
+    EXPECT_EQ(d.window.replay, ReplayState{});
+    d.replay.play();
+    d.replay.seek(0);
+    EXPECT_EQ(d.drawn(), "");
+}
+
+TEST(Replay, SeeksAndPausesAndPlaysOn) {
+    struct Row {
+        const char* name;
+        std::int32_t target;
+        const char* drawn;
+        State state;
+        std::int32_t position;
+        const char* playedOn;
+    };
+    const Row rows[] = {
+        {"within the first", 1, "| p a0 a1 a2 ", State::Paused, 2, "a2 b0 b1 b2 b3 b4 "},
+        {"within the second", 4, "| p a b0 b1 b2 ", State::Paused, 5, "b2 b3 b4 "},
+        {"at a border", 3, "| p a b0 b1 ", State::Paused, 4, "b1 b2 b3 b4 "},
+        {"the last element", 7, "| p a b0 b1 b2 b3 b4 ", State::Idle, 0,
+         "| p a0 a1 a2 b0 b1 b2 b3 b4 "},
+        {"the end", 8, "| p a b ", State::Idle, 8, "| p a0 a1 a2 b0 b1 b2 b3 b4 "},
+        {"beyond the end", 99, "| p a b ", State::Idle, 8, "| p a0 a1 a2 b0 b1 b2 b3 b4 "},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        Desk d;
+        d.replay.setSpeed(250);
+        d.replay.seek(row.target);
+        EXPECT_EQ(d.clock.sleeps.size(), 0U);
+        EXPECT_EQ(d.drawn(), row.drawn);
+        EXPECT_EQ(d.replay.state(), row.state);
+        EXPECT_EQ(d.window.replay, d.at(row.position));
+        d.replay.play();
+        EXPECT_EQ(d.drawn(), row.playedOn);
+        EXPECT_EQ(d.replay.state(), State::Idle);
+    }
+}
+
+TEST(Replay, WhatTheUserDoesMeanwhileActsOnTheReplayThatRuns) {
+    struct Row {
+        const char* name;
+        std::function<void(Replay&)> act;  // when "a1" is drawn
+        const char* drawn;
+        State state;
+        ReplayState shown;
+    };
+    const ReplayState start{true, false, 8, 0};
+    const Row rows[] = {
+        {"pause", [](Replay& r) { r.play(); }, "| p a0 a1 ", State::Paused, {true, false, 8, 1}},
+        {"stop", [](Replay& r) { r.stop(); }, "| p a0 a1 | map ", State::Idle, start},
+        {"a redraw", [](Replay& r) { r.stopReplay(); }, "| p a0 a1 ", State::Idle, start},
+        {"the slider", [](Replay& r) { r.seek(6); }, "| p a0 a1 a2 b0 b1 b2 b3 b4 ", State::Idle,
+         start},
+        {"pause and play on",
+         [](Replay& r) {
+             r.play();
+             r.play();
+         },
+         "| p a0 a1 a2 b0 b1 b2 b3 b4 ", State::Idle, start},
+        {"stop and play",
+         [](Replay& r) {
+             r.stop();
+             r.play();
+         },
+         "| p a0 a1 | map | p a0 a1 a2 b0 b1 b2 b3 b4 ", State::Idle, start},
+        {"pause and slider",
+         [](Replay& r) {
+             r.play();
+             r.seek(4);
+         },
+         "| p a0 a1 | p a b0 b1 b2 ",
+         State::Paused,
+         {true, false, 8, 5}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        Desk d;
+        d.after(2, [&] { row.act(d.replay); });
+        d.replay.play();
+        EXPECT_EQ(d.drawn(), row.drawn);
+        EXPECT_EQ(d.replay.state(), row.state);
+        EXPECT_EQ(d.window.replay, row.shown);
+        EXPECT_TRUE(d.window.mapActive);
+    }
+}
+
+TEST(Replay, ASeekGivesWayToANewerOneAndIsFinishedBeforePlaying) {
+    Desk d;
+    d.after(1, [&] {
+        d.replay.seek(1);
+        d.replay.seek(4);
+    });
+    d.replay.seek(2);
+    EXPECT_EQ(d.drawn(), "| p a0 | p a b0 b1 b2 ");
+    EXPECT_EQ(d.window.replay, d.at(5));
+
+    d.after(1, [&] { d.replay.play(); });
+    d.replay.seek(0);
+    EXPECT_EQ(d.drawn(), "| p a0 a1 a1 a2 b0 b1 b2 b3 b4 ");
+    EXPECT_EQ(d.window.replay, d.at(0));
+}
+
+TEST(Replay, RepeatsUntilStopped) {
+    Desk d;
+    d.replay.repeat = true;
+    d.after(20, [&] { d.replay.stop(); });
+    d.replay.play();
+    EXPECT_EQ(d.drawn(), "| p a0 a1 a2 b0 b1 b2 b3 b4 | p a0 a1 a2 b0 b1 b2 b3 b4 "
+                         "| p a0 a1 a2 b0 | map ");
+    d.replay.seek(8);
+    EXPECT_EQ(d.drawn(), "| p a b ");
+}
+
+TEST(Replay, WaitsBetweenElementsWhileEventsAct) {
+    Desk d;
+    d.clock.now = 0xFFFFFFF0U;  // begins again at 0 meanwhile
+    d.replay.setSpeed(12);
+    d.replay.play();
+    EXPECT_EQ(d.clock.now, 0xFFFFFFF0U + 6 * 48);  // not before the first of each track
+    EXPECT_EQ(d.clock.sleeps, std::vector<std::uint32_t>(6 * 8, 6));
+
+    d.replay.setSpeed(1000);
+    EXPECT_EQ(d.replay.speed(), 250);
+    d.clock.sleeps.clear();
+    d.after(3, [&] { d.replay.play(); });
+    d.replay.play();
+    EXPECT_EQ(d.clock.sleeps.size(), 1U) << "a pause ends the wait";
+    EXPECT_EQ(d.window.replay, d.at(1));
+    d.replay.stopReplay();
+    d.clock.sleeps.clear();
+    d.replay.waitMs(3);
+    EXPECT_EQ(d.clock.sleeps, std::vector<std::uint32_t>(3, 1));
+}
+
+TEST(Replay, ASliderThatReportsItsOwnMovementStartsNothing) {
+    class Echo : public ScriptedWindow {
+    public:
+        Replay* replay = nullptr;
+        void setReplay(const ReplayState& state) override {
+            ScriptedWindow::setReplay(state);
+            if (replay != nullptr) {
+                replay->seek(state.position);
+            }
+        }
+    } window;
+    Desk d;
+    Replay replay(
+        d.canvas, window, d.clock, d.view, d.style, d.texts, d.locale,
+        [&] { return std::vector<Gph*>{d.layers[0].get()}; }, [] {});
+    window.replay = &replay;
+    replay.prepareReplay();
+    replay.setSpeed(0);
+    replay.seek(0);
+    replay.stopReplay();
+    EXPECT_EQ(d.drawn(), "| a0 a1 ");
+}
+
+TEST(Replay, ReadsOutTheSpeedOfTheElement) {
+    Desk d;
+    auto track = std::make_unique<GphTrack>();
+    for (int i = 0; i < 4; ++i) {
+        TrackDataRPT::Fields fields = reportFields(100);
+        fields.speed = 10.5F + static_cast<float>(i);
+        const LonLat at = atMetres(0, 10.0 * i);
+        track->addPoint(at.x, at.y, TrackDataRPT(fields));
+    }
+    d.layers.clear();
+    d.layers.push_back(std::move(track));
+    d.view.totalBound = d.layers.front()->Gph_bound();
+    d.view.fitView();
+    d.view.ZoomUno();
+    d.replay.prepareReplay();
+    d.replay.setSpeedShown(true);
+    EXPECT_EQ(d.window.speed, "");
+    d.replay.seek(0);
+    EXPECT_EQ(d.window.speed, "11,5 km/h");
+    d.replay.setSpeedShown(false);
+    EXPECT_EQ(d.window.speed, "");
+    d.replay.setSpeedShown(true);
+    EXPECT_EQ(d.window.speed, "11,5 km/h");
+    d.replay.stop();
+    EXPECT_EQ(d.window.speed, "");
+}
+
+}  // namespace
+}  // namespace campora
