@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "app/summary_names.h"
 #include "base/dates.h"
 #include "base/numbers.h"
 
@@ -113,7 +114,7 @@ LegendContent legendContent(const MapStyle& style, const Texts& texts, const Use
     }
     const ColorScale& scale = *style.scale;
     const ClassTexts classTexts(scale, locale);
-    legend.unit = scale.unit;
+    legend.unit = shownUnit(scale.unit, texts);
     for (int i = 0; i < scale.count(); ++i) {
         legend.classes.push_back({scale.getClass(i).color, classTexts.text(i)});
     }

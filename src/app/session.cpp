@@ -9,6 +9,7 @@
 
 #include "app/legend.h"
 #include "app/settings.h"
+#include "app/summary_names.h"
 #include "app/window_title.h"
 #include "base/paths.h"
 #include "model/file_gph_group.h"
@@ -36,12 +37,13 @@ void grow(BoundingBox& bound, const BoundingBox& other) {
     }
 }
 
-std::vector<SummaryRow> summaryRows(File* file) {
+/// As the user reads them: names and units are stored in Spanish.
+std::vector<SummaryRow> summaryRows(File* file, const Texts& texts) {
     std::vector<SummaryRow> rows;
     if (file != nullptr) {
-        const FileProperties& summary = file->File_resumen();
-        for (int i = 0; i < summary.count(); ++i) {
-            rows.push_back({summary.property(i), summary.value(i)});
+        for (const auto& [property, value, unit] : file->File_resumen().entries()) {
+            rows.push_back(
+                {shownSummaryName(property, texts), value + " " + shownUnit(unit, texts)});
         }
     }
     return rows;
@@ -410,7 +412,7 @@ void Session::showCurrentFile() {
 }
 
 void Session::showSummary() {
-    platform_.window.setSummary(summaryRows(files_.currentFile()));
+    platform_.window.setSummary(summaryRows(files_.currentFile(), texts_));
 }
 
 ColorScale& Session::shownScale() {
@@ -453,7 +455,7 @@ void Session::recalcErrorAreas() {
 
 void Session::copyData() {
     std::string text;
-    for (const SummaryRow& row : summaryRows(files_.currentFile())) {
+    for (const SummaryRow& row : summaryRows(files_.currentFile(), texts_)) {
         text.append(row.property).append(" ").append(row.value).append("\r\n");
     }
     if (!text.empty()) {

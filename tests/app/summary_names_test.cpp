@@ -1,0 +1,91 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/summary_names.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "support/session_desk.h"
+#include "support/work_reading.h"
+
+namespace campora {
+namespace {
+
+TEST(SummaryNames, AreReadInTheUsersLanguage) {
+    struct Row {
+        const char* stored;
+        const char* spanish;
+        const char* portuguese;
+        const char* english;
+    };
+    const Row rows[] = {
+        {"Fecha:", "Fecha:", "Data:", "Date:"},
+        {"Hect. Sembradas: ", "Hect. Sembradas:", "Hectares plantados:", "Hectares sown:"},
+        {"DURACIÓN:", "Duración:", "Duração:", "Duration:"},
+        {"Dosis Prom. (C 12):", "Dosis Prom. (C 12):", "Dose média (C 12):",
+         "Average dose (C 12):"},
+        {"Archivo (C 1)", "Archivo (C 1)", "Arquivo (C 1)", "File (C 1)"},
+        {"Dosis Prom. (C x):", "Dosis Prom. (C x):", "Dosis Prom. (C x):", "Dosis Prom. (C x):"},
+        {"Dosis Prom. (C ):", "Dosis Prom. (C ):", "Dosis Prom. (C ):", "Dosis Prom. (C ):"},
+        {"Potrero: ", "Potrero: ", "Potrero: ", "Potrero: "},
+        {"", "", "", ""},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(shownSummaryName(row.stored, Texts(Language::Spanish)), row.spanish);
+        EXPECT_EQ(shownSummaryName(row.stored, Texts(Language::Portuguese)), row.portuguese);
+        EXPECT_EQ(shownSummaryName(row.stored, Texts(Language::English)), row.english);
+    }
+    EXPECT_EQ(shownUnit("unid/hect", Texts(Language::English)), "units/ha");
+    EXPECT_EQ(shownUnit("lt/hect", Texts(Language::Portuguese)), "L/ha");
+    EXPECT_EQ(shownUnit("km/h", Texts(Language::English)), "km/h");
+}
+
+TEST(SummaryNames, EveryNameThatReadersMakeHasItsTranslation) {
+    WorkReading reading;
+    reading.dialogs.inputAnswers = {"8"};
+    std::vector<std::optional<LoadedWork>> works;
+    for (const std::uint32_t serial : {0x2104U, 0x6001U}) {
+        for (const std::int32_t channels : {1, 2}) {
+            RptBytes report(channels, serial, 1, 0x10001);
+            report.add({.position = fixAt(0, 0)});
+            works.push_back(reading.report(report.bytes()));
+        }
+    }
+    RptBytes older;
+    older.add({.position = fixAt(0, 0)});
+    works.push_back(reading.report(older.bytes()));
+    works.push_back(reading.table("t\r\nt\r\n-61\t-34\t138\t140\t15\t0\t3086\t10:20:00\r\n"
+                                  "-61.001\t-34\t138\t140\t15\t0\t3086\t10:20:01\r\n"));
+    const Texts english(Language::English);
+    for (const std::optional<LoadedWork>& work : works) {
+        ASSERT_TRUE(work);
+        MapStyle style;
+        style.mode = ColorMode::Error;
+        work->group->calcErrorArea(style, reading.locale);
+        for (const auto& [property, value, unit] : work->group->File_resumen().entries()) {
+            EXPECT_NE(shownSummaryName(property, english), property);
+            const bool isSymbol = unit.empty() || unit == "km/h" || unit == "min";
+            EXPECT_EQ(shownUnit(unit, english) == unit, isSymbol) << unit;
+        }
+    }
+}
+
+TEST(SummaryNames, TheClipboardHoldsWhatIsShown) {
+    SessionDesk desk(Language::English);
+    desk.session.start();
+    ASSERT_TRUE(desk.session.loadFile(desk.report("lote.rpt"), true, true));
+    EXPECT_EQ(desk.window.summary.front(), (SummaryRow{"File name:", "lote.rpt "}));
+    desk.session.copyData();
+    EXPECT_TRUE(desk.clipboard.text.starts_with("File name: lote.rpt \r\nSerial number: "));
+    EXPECT_NE(desk.clipboard.text.find("Average dose: 152 L/ha\r\n"), std::string::npos)
+        << desk.clipboard.text;
+    EXPECT_EQ(desk.window.legend.unit, "L/ha");
+    EXPECT_EQ(desk.session.files().file(0).File_resumen().property(0), "Nombre Archivo:");
+}
+
+}  // namespace
+}  // namespace campora
