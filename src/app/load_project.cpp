@@ -31,6 +31,19 @@ bool isThere(const std::string& path) {
     return fs::exists(status) && !fs::is_directory(status);
 }
 
+/// The file that an entry names. Where full paths begin with a separator too, one that is not in
+/// the program's folder is looked for under its full path; `entry` itself when neither is there.
+std::string fileOf(const std::string& entry, const std::string& relative) {
+    std::string file = findIgnoringCase(entry);
+    if (!isThere(file) && entry.starts_with(relative)) {
+        std::string full = findIgnoringCase(entry.substr(relative.size()));
+        if (isThere(full)) {
+            return full;
+        }
+    }
+    return file;
+}
+
 std::optional<std::vector<std::string>> entriesOf(std::string_view path,
                                                   std::string_view programFolder) {
     const Result<FileBytes> file = readFile(path);
@@ -91,10 +104,11 @@ std::optional<ProjectFiles> filesOfProject(std::string_view path, std::string_vi
     opened.open(project);
     MissingFiles missing(dialogs, texts);
     ProjectFiles files;
+    const std::string relative = beforeRelative(programFolder);
     // What is still to be looked at, the next one last.
     std::vector<std::string> waiting(entries->rbegin(), entries->rend());
     while (!waiting.empty()) {
-        std::string entry = findIgnoringCase(waiting.back());
+        std::string entry = fileOf(waiting.back(), relative);
         waiting.pop_back();
         if (!isThere(entry)) {
             missing.add(entry);

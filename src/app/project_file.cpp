@@ -31,10 +31,7 @@ std::optional<std::vector<std::string>> decodeProject(std::string_view bytes,
     if (!beginsProject(bytes)) {
         return std::nullopt;
     }
-    std::string folder(programFolder);
-    if (folder.empty() || kSeparators.find(folder.back()) == std::string_view::npos) {
-        folder += '\\';
-    }
+    const std::string folder = beforeRelative(programFolder);
     const std::string text = decodeText(bytes);
     TextLines lines(text);
     std::string_view line;
@@ -46,9 +43,17 @@ std::optional<std::vector<std::string>> decodeProject(std::string_view bytes,
             continue;
         }
         const bool isRelative = entry.find_first_of(kSeparators) == 0;
-        paths.push_back((isRelative ? folder : std::string()).append(entry));
+        paths.push_back(isRelative ? folder + std::string(entry) : std::string(entry));
     }
     return paths;
+}
+
+std::string beforeRelative(std::string_view programFolder) {
+    std::string folder(programFolder);
+    if (folder.empty() || kSeparators.find(folder.back()) == std::string_view::npos) {
+        folder += '\\';
+    }
+    return folder;
 }
 
 bool isProject(std::string_view path) {

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <span>
 #include <string>
@@ -14,13 +15,21 @@
 
 namespace campora {
 
-enum class Command { Info, Render };
+enum class Command { Info, Render, Orders, Project };
 
 struct PixelSize {
     int width = 0;
     int height = 0;
 
     bool operator==(const PixelSize&) const = default;
+};
+
+/// Which order is to be copied where.
+struct OrderCopy {
+    std::int32_t number = 0;
+    std::string destination;
+
+    bool operator==(const OrderCopy&) const = default;
 };
 
 /// A command line of the batch program, taken apart.
@@ -41,6 +50,8 @@ struct Arguments {
     bool yes = false;
 
     bool json = false;
+
+    std::optional<OrderCopy> copy;
 
     std::string output;
     PixelSize size{1200, 900};

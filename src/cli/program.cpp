@@ -12,9 +12,13 @@ int runCommand(const Arguments& arguments, const Console& console) {
     case Command::Info:
         return runInfo(arguments, console);
     case Command::Render:
+        return runRender(arguments, console);
+    case Command::Orders:
+        return runOrders(arguments, console);
+    case Command::Project:
         break;
     }
-    return runRender(arguments, console);
+    return runProject(arguments, console);
 }
 
 }  // namespace

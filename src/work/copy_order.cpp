@@ -16,15 +16,14 @@ namespace {
 
 namespace fs = std::filesystem;
 
-enum class Copied { Yes, Kept, Failed };
-
 /// Copies files into one folder and tells what goes wrong.
 class Copier {
 public:
     Copier(std::string_view destination, Dialogs& dialogs, const Texts& texts)
         : folder_(nativePath(destination)), dialogs_(dialogs), texts_(texts) {}
 
-    Copied copy(const std::string& source) const {
+    /// False when the file was not copied.
+    [[nodiscard]] bool copy(const std::string& source) const {
         const fs::path target = folder_ / nativePath(fileNamePart(source));
         std::error_code ignored;
         if (fs::equivalent(nativePath(source), target, ignored)) {
@@ -35,24 +34,24 @@ public:
             return fail(source, content.failure());
         }
         if (!mayReplace(pathText(target), *content)) {
-            return Copied::Kept;
+            return false;
         }
         if (const std::optional<Failure> failure = writeFile(pathText(target), content->bytes())) {
             return fail(source, *failure);
         }
         keepTime(nativePath(source), target);
-        return Copied::Yes;
+        return true;
     }
 
 private:
     /// Of what reading or writing says, the reason alone: the file is named already.
-    Copied fail(const std::string& source, const Failure& failure) const {
+    [[nodiscard]] bool fail(const std::string& source, const Failure& failure) const {
         const std::string reason = !failure.cause.empty() ? texts_.sentence(failure.cause.front())
                                    : !failure.arguments.empty() ? failure.arguments.back()
                                                                 : texts_.sentence(failure);
         dialogs_.message(texts_.format(TextId::CopyFailed, {source, reason}),
                          MessageIcon::Exclamation, texts_(TextId::ProgramName));
-        return Copied::Failed;
+        return false;
     }
     [[nodiscard]] bool mayReplace(const std::string& target, const FileBytes& content) const {
         if (!canOpen(target)) {
@@ -96,24 +95,19 @@ bool copyOrder(const WorkOrder& order, std::string_view destination, Dialogs& di
                const Texts& texts) {
     const std::vector<std::string> files = filesToCopy(order);
     const Copier copier(destination, dialogs, texts);
-    std::size_t done = 0;
-    int copied = 0;
-    bool failed = false;
+    std::size_t copied = 0;
     {
         const std::unique_ptr<Progress> progress = dialogs.progress(texts(TextId::CopyingOrder));
-        for (const std::string& file : files) {
-            if (!progress->report(static_cast<int>(100 * done / files.size()))) {
+        for (std::size_t i = 0; i < files.size(); ++i) {
+            if (!progress->report(static_cast<int>(100 * i / files.size()))) {
                 break;
             }
-            const Copied result = copier.copy(file);
-            copied += result == Copied::Yes ? 1 : 0;
-            failed = failed || result == Copied::Failed;
-            ++done;
+            copied += copier.copy(files[i]) ? 1 : 0;
         }
     }
     dialogs.message(texts.format(TextId::FilesCopied, {" " + numberText(copied)}),
                     MessageIcon::Information, texts(TextId::ProgramName));
-    return !failed;
+    return copied == files.size();
 }
 
 }  // namespace campora

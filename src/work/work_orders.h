@@ -55,8 +55,8 @@ using Tick = std::function<bool()>;
 
 /// Copies the order's track files and their summaries into a folder, under their own names, until
 /// the user has enough. Each copy that fails is reported, asks before it replaces another content,
-/// and leaves nothing half-written; the number of copies is told at the end. False when a copy
-/// failed.
+/// and leaves nothing half-written; the number of copies is told at the end. False when not
+/// every file was copied.
 bool copyOrder(const WorkOrder& order, std::string_view destination, Dialogs& dialogs,
                const Texts& texts);
 

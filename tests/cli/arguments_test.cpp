@@ -59,6 +59,15 @@ TEST(Arguments, OptionsStandAnywhere) {
     EXPECT_EQ(arguments.dateForm, "m/d/yy");
 }
 
+TEST(Arguments, AnOrderIsCopiedToAFolder) {
+    const Arguments arguments =
+        parsed({"orders", "--copy", "-3", "copia", "--json", "tarjeta", "--copy", "0", "b c"});
+    EXPECT_EQ(arguments.files, Words{"tarjeta"});
+    EXPECT_EQ(arguments.copy, (OrderCopy{0, "b c"}));
+    EXPECT_TRUE(arguments.json);
+    EXPECT_EQ(parsed({"orders", "tarjeta"}).copy, std::nullopt);
+}
+
 TEST(Arguments, LooksOfThePicture) {
     EXPECT_EQ(rendered({"--size", "16384x1"}).size, (PixelSize{16384, 1}));
     EXPECT_EQ(rendered({"--by", "min"}).style.by, GraduatedBy::Minute);
@@ -84,6 +93,12 @@ TEST(Arguments, AWrongCommandLineIsExplained) {
         {{"info", "-x", "a.rpt"}, "Unknown option: -x"},
         {{"info", "a.rpt", "--swath"}, "--swath needs a value"},
         {{"render", "a.rpt"}, "Option -o is missing"},
+        {{"orders", "a", "--copy", "15"}, "--copy needs a value"},
+        {{"orders", "a", "--copy", "15b", "c"}, "Wrong value for --copy: 15b"},
+        {{"orders", "a", "--copy", "15", ""}, "Wrong value for --copy: "},
+        {{"orders", "a", "b"}, "Unknown option: b"},
+        {{"project"}, "A file is missing"},
+        {{"project", "a.fsp", "--copy", "1", "b"}, "Unknown option: --copy"},
         {{"render", "a.rpt", "-o", "a.jpg"}, "Wrong value for -o: a.jpg"},
     };
     for (const auto& [words, sentence] : rows) {

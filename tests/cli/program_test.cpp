@@ -120,6 +120,64 @@ TEST(Program, OptionsAnswerTheQuestions) {
     EXPECT_EQ(run({"info", report, "--swath", ""}).status, 1);
 }
 
+TEST(Program, TellsAndCopiesTheOrdersOfAFolder) {
+    const TempFolder folder;
+    TrackText track;
+    track.order = "15";
+    const std::string first = folder.write("LOG1.NBR", track.bytes());
+    track.order = "S/N";
+    const std::string second = folder.write("log2.nbr", track.bytes());
+    const std::string copy = folder.file("copia");
+    std::filesystem::create_directory(nativePath(copy));
+    const Outcome listed = run({"orders", folder.path()});
+    EXPECT_EQ(listed.status, 0);
+    EXPECT_EQ(listed.out, "Orden 15  15/07/16  18:03:32\n  " + first +
+                              "\nSin número  15/07/16  18:03:32\n  " + second + "\n");
+    const Outcome copied = run({"orders", folder.path(), "--copy", "15", copy});
+    EXPECT_EQ(copied.status, 0);
+    EXPECT_EQ(copied.boxes, " 1 archivos copiados\n");
+    EXPECT_TRUE(std::filesystem::exists(nativePath(copy + "/LOG1.NBR")));
+
+    folder.write("copia/LOG1.NBR", "otra cosa");
+    const std::pair<Words, int> rows[] = {
+        {{"orders", folder.path(), "--copy", "15", copy}, 2},  // the question is answered with No
+        {{"orders", folder.path(), "--copy", "16", copy}, 1},
+        {{"orders", folder.file("falta"), "--copy", "15", copy}, 1},
+        {{"orders", first}, 1},
+    };
+    for (const auto& [words, boxes] : rows) {
+        const Outcome outcome = run(words);
+        EXPECT_EQ(outcome.status, 1);
+        EXPECT_EQ(std::count(outcome.boxes.begin(), outcome.boxes.end(), '\n'), boxes)
+            << outcome.boxes;
+    }
+    EXPECT_EQ(std::filesystem::file_size(nativePath(copy + "/LOG1.NBR")), 9U);
+    EXPECT_EQ(run({"orders", folder.path(), "--copy", "15", copy, "--yes"}).status, 0);
+}
+
+TEST(Program, TellsWhatTheFilesOfAProjectHold) {
+    const TempFolder folder;
+    const std::string report = folder.write("lote.rpt", reportBytes());
+    const std::string header = "FurrowScope project file\n";
+    const std::string good = folder.write("a.fsp", header + "/LOTE.RPT");
+    const Outcome outcome = run({"project", good, "--json", "--program-dir", folder.path()});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.boxes, "");
+    EXPECT_NE(outcome.out.find("\"name\": \"lote.rpt\""), std::string::npos);
+    const std::pair<std::string, int> rows[] = {
+        {folder.write("b.fsp", header + "/lote.rpt\n/falta.rpt"), 1},
+        {folder.write("c.fsp", header + "/lote.rpt\n" + report), 0},  // open already
+        {report, 1},
+        {folder.file("falta.fsp"), 1},
+    };
+    for (const auto& [path, boxes] : rows) {
+        SCOPED_TRACE(path);
+        const Outcome refused = run({"project", path}, folder.path());
+        EXPECT_EQ(refused.status, 1);
+        EXPECT_EQ(std::count(refused.boxes.begin(), refused.boxes.end(), '\n'), boxes);
+    }
+}
+
 TEST(Program, AWrongCommandLineShowsTheUsage) {
     const Outcome outcome = run({"info", "a.rpt", "--size", "2x2", "--language", "en"});
     EXPECT_EQ(outcome.status, 2);

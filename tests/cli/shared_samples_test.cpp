@@ -106,5 +106,49 @@ TEST(InfoOfSharedSamples, SeveralFilesAndOtherAnswersAreAsExpected) {
     }
 }
 
+TEST(OrdersOfSharedSamples, TheMemoryCardHoldsThreeOrders) {
+    const auto folder = sharedSample("samples/work/tarjeta");
+    if (!folder) {
+        GTEST_SKIP() << "no shared samples";
+    }
+    std::ostringstream out;
+    std::ostringstream boxes;
+    EXPECT_EQ(runProgram(Words{"orders", *folder, "--json"}, "", {out, boxes}), 0);
+    EXPECT_EQ(boxes.str(), "");
+    json orders = json::parse(out.str())["orders"];
+    for (json& order : orders) {
+        for (json& file : order["files"]) {
+            file = fileNamePart(file.get<std::string>());
+        }
+    }
+    EXPECT_EQ(orders, json::parse(R"([
+        {"number": 15, "date": "05-03-2018", "startTime": "07:10:00",
+         "files": ["LOG0001.NBR", "LOG0002.NBR", "log0003.nbr"]},
+        {"number": 16, "date": "06-03-2018", "startTime": "11:00:00",
+         "files": ["Log0004.nbr", "LOG0005.NBR"]},
+        {"number": 0, "date": "07-03-2018", "startTime": "15:30:00",
+         "files": ["log0006.nbr", "LOG0007.NBR"]}])"));
+}
+
+TEST(ProjectOfSharedSamples, HoldsWhatItsFilesHold) {
+    const auto folder = sharedSample("samples/work");
+    if (!folder) {
+        GTEST_SKIP() << "no shared samples";
+    }
+    const Words files = {"Lote Norte 29-11.rpt", "log0012.nbr", "log0105.nbr",
+                         "Siembra soja lote 7.rpt"};
+    std::ostringstream out;
+    std::ostringstream boxes;
+    const Words words = {"project", *folder + "/campania 2017.fsp", "--json", "--program-dir",
+                         *folder};
+    EXPECT_EQ(runProgram(words, "", {out, boxes}), 0);
+    EXPECT_EQ(boxes.str(), "");
+    json project = json::parse(out.str());
+    for (json& file : project["files"]) {
+        file["path"] = fileNamePart(file["path"].get<std::string>());
+    }
+    EXPECT_EQ(project, run(*folder, files, {})["output"]);
+}
+
 }  // namespace
 }  // namespace campora

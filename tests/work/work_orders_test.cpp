@@ -140,7 +140,7 @@ TEST_F(CopyOrder, AnotherContentIsReplacedOnlyWhenTheUserSaysSo) {
         folder.write("copia/log0002.nbr", "otra cosa");
         dialogs.yesNoAnswers = {yes};
         dialogs.messages.clear();
-        EXPECT_TRUE(copyTo(destination));
+        EXPECT_EQ(copyTo(destination), yes);
         EXPECT_EQ(content("copia/log0002.nbr") == "otra cosa", !yes);
         EXPECT_THAT(dialogs.messages,
                     ElementsAre(yes ? "Information|Campora| 3 archivos copiados"
@@ -169,7 +169,7 @@ TEST_F(CopyOrder, FailuresAreNamedAndTheOthersCopied) {
 
 TEST_F(CopyOrder, TheUserCanStop) {
     dialogs.cancelAfter = 2;
-    EXPECT_TRUE(copyTo(destination));
+    EXPECT_FALSE(copyTo(destination));
     EXPECT_THAT(dialogs.messages, ElementsAre("Information|Campora| 1 archivos copiados"));
 }
 

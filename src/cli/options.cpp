@@ -1,0 +1,189 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "cli/options.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <cstdint>
+#include <initializer_list>
+#include <string>
+#include <system_error>
+#include <utility>
+
+#include "base/paths.h"
+#include "base/text.h"
+
+namespace campora {
+
+namespace {
+
+constexpr int kMostPixels = 16384;  // 1 GiB a picture
+
+/// The whole text as a number; "." is its decimal symbol.
+template <typename Number>
+std::optional<Number> parse(std::string_view text) {
+    Number number{};
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    const bool whole = error == std::errc() && end == text.data() + text.size();
+    return whole && std::isfinite(static_cast<double>(number)) ? std::optional(number)
+                                                               : std::nullopt;
+}
+
+/// Sets `target` to what `word` stands for; false when it is none of the words.
+template <typename Value>
+bool choose(Value& target, std::string_view word,
+            std::initializer_list<std::pair<std::string_view, Value>> choices) {
+    for (const auto& [name, value] : choices) {
+        if (name == word) {
+            target = value;
+            return true;
+        }
+    }
+    return false;
+}
+
+bool setLanguage(Arguments& arguments, std::string_view value) {
+    return choose<Language>(
+        arguments.language, value,
+        {{"es", Language::Spanish}, {"pt", Language::Portuguese}, {"en", Language::English}});
+}
+
+bool setDecimal(Arguments& arguments, std::string_view value) {
+    return choose<char>(arguments.decimalSymbol, value, {{".", '.'}, {",", ','}});
+}
+
+/// An empty answer is what a user gives who cancels.
+bool setSwath(Arguments& arguments, std::string_view value) {
+    arguments.swath = value;
+    return value.empty() || parse<double>(replaceAll(value, ",", ".")).has_value();
+}
+
+bool setColumns(Arguments& arguments, std::string_view value) {
+    arguments.columns = value;
+    return value == "4" || value == "8";
+}
+
+bool setJson(Arguments& arguments, std::string_view /*value*/) {
+    arguments.json = true;
+    return true;
+}
+
+/// First the number of the order, then the folder.
+bool setCopy(Arguments& arguments, std::string_view value) {
+    std::optional<OrderCopy>& copy = arguments.copy;
+    if (copy && copy->destination.empty()) {
+        copy->destination = value;
+        return !value.empty();
+    }
+    const auto number = parse<std::int32_t>(value);
+    copy = OrderCopy{number.value_or(0), {}};
+    return number.has_value();
+}
+
+bool setOutput(Arguments& arguments, std::string_view value) {
+    arguments.output = value;
+    const std::string ending = pathEnding(value);
+    return ending == ".png" || ending == ".bmp";
+}
+
+bool setSize(Arguments& arguments, std::string_view value) {
+    const std::size_t cross = std::min(value.find('x'), value.size());
+    const auto width = parse<int>(value.substr(0, cross));
+    const auto height = parse<int>(value.substr(std::min(cross + 1, value.size())));
+    arguments.size = {width.value_or(0), height.value_or(0)};
+    const auto [least, greatest] = std::minmax(arguments.size.width, arguments.size.height);
+    return least > 0 && greatest <= kMostPixels;
+}
+
+bool setMode(Arguments& arguments, std::string_view value) {
+    MapStyle& style = arguments.style;
+    style.graduated = value != "plain";
+    return choose<ColorMode>(style.mode, value,
+                             {{"dose", ColorMode::Dose},
+                              {"alarm", ColorMode::Alarm},
+                              {"date", ColorMode::Date},
+                              {"error", ColorMode::Error},
+                              {"plain", ColorMode::Dose}});
+}
+
+bool setBy(Arguments& arguments, std::string_view value) {
+    return choose<GraduatedBy>(arguments.style.by, value,
+                               {{"ha", GraduatedBy::Hectare}, {"min", GraduatedBy::Minute}});
+}
+
+bool setChannel(Arguments& arguments, std::string_view value) {
+    const int channel = value == "total" ? 0 : parse<int>(value).value_or(-1);
+    arguments.style.selectedChannel = channel - 1;
+    return channel > 0 || value == "total";
+}
+
+bool setErrorLimit(Arguments& arguments, std::string_view value) {
+    const auto limit = parse<float>(value);
+    arguments.style.errorLimit = limit.value_or(0);
+    return limit && *limit >= 0 && *limit <= 100;
+}
+
+constexpr auto kEvery = std::nullopt;
+
+constexpr Option kOptions[] = {
+    {kEvery, "--language", "es|pt|en", TextId::CliLanguage, setLanguage},
+    {kEvery, "--decimal", ".|,", TextId::CliDecimal, setDecimal},
+    {kEvery, "--program-dir", "DIR", TextId::CliProgramDir,
+     [](Arguments& a, std::string_view value) {
+         a.programFolder = value;
+         return !value.empty();
+     }},
+    {kEvery, "--swath", "M", TextId::CliSwath, setSwath},
+    {kEvery, "--columns", "4|8", TextId::CliColumns, setColumns},
+    {kEvery, "--date-format", "FORM", TextId::CliDateFormat,
+     [](Arguments& a, std::string_view value) {
+         a.dateForm = value;
+         return !value.empty();
+     }},
+    {kEvery, "--yes", "", TextId::CliYes,
+     [](Arguments& a, std::string_view) {
+         a.yes = true;
+         return true;
+     }},
+    {kEvery, "--help", "", TextId::CliHelp, [](Arguments&, std::string_view) { return true; }},
+    {Command::Info, "--json", "", TextId::CliJson, setJson},
+    {Command::Orders, "--json", "", TextId::CliJson, setJson},
+    {Command::Orders, "--copy", "N DEST", TextId::CliCopyOrder, setCopy},
+    {Command::Project, "--json", "", TextId::CliJson, setJson},
+    {Command::Render, "-o", "OUT.png|OUT.bmp", TextId::CliOutput, setOutput},
+    {Command::Render, "--size", "WxH", TextId::CliSize, setSize},
+    {Command::Render, "--mode", "dose|alarm|date|error|plain", TextId::CliMode, setMode},
+    {Command::Render, "--by", "ha|min", TextId::CliBy, setBy},
+    {Command::Render, "--channel", "N|total", TextId::CliChannel, setChannel},
+    {Command::Render, "--error-limit", "P", TextId::CliErrorLimit, setErrorLimit},
+    {Command::Render, "--only-worked", "", TextId::CliOnlyWorked,
+     [](Arguments& a, std::string_view) {
+         a.style.drawAll = false;
+         return true;
+     }},
+    {Command::Render, "--dotted", "", TextId::CliDotted,
+     [](Arguments& a, std::string_view) {
+         a.style.drawDotted = true;
+         return true;
+     }},
+    {Command::Render, "--no-borders", "", TextId::CliNoBorders,
+     [](Arguments& a, std::string_view) {
+         a.style.drawBorders = false;
+         return true;
+     }},
+    {Command::Render, "--no-overlay", "", TextId::CliNoOverlay,
+     [](Arguments& a, std::string_view) {
+         a.overlay = false;
+         return true;
+     }},
+};
+
+}  // namespace
+
+std::span<const Option> allOptions() {
+    return kOptions;
+}
+
+}  // namespace campora

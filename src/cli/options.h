@@ -1,0 +1,30 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string_view>
+
+#include "base/text_id.h"
+#include "cli/arguments.h"
+
+namespace campora {
+
+struct Option {
+    /// None: an option of every command.
+    std::optional<Command> command;
+    std::string_view name;
+    /// What stands for the values, a word each, in the usage; empty for a switch, which has none.
+    std::string_view value;
+    TextId help;
+    /// Called with each value in turn, and once for a switch. False when the value is none for this
+    /// option.
+    bool (*set)(Arguments& arguments, std::string_view value);
+};
+
+/// The options of all commands, in the order of the usage.
+[[nodiscard]] std::span<const Option> allOptions();
+
+}  // namespace campora

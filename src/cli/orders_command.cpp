@@ -1,0 +1,106 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include <algorithm>
+#include <filesystem>
+#include <system_error>
+
+#include "base/numbers.h"
+#include "base/paths.h"
+#include "cli/batch_platform.h"
+#include "cli/commands.h"
+#include "cli/json_writer.h"
+#include "work/work_orders.h"
+
+namespace campora {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+using Orders = std::vector<WorkOrder>;
+
+/// Why a folder has no files to look at.
+std::optional<Failure> folderFailure(const std::string& folder) {
+    std::error_code error;
+    const fs::file_status status = fs::status(nativePath(folder), error);
+    if (!fs::exists(status)) {
+        return because(TextId::FolderCannotBeRead, {folder}, {TextId::FolderNotFound, {}});
+    }
+    if (!fs::is_directory(status)) {
+        return because(TextId::FolderCannotBeRead, {folder}, {TextId::FolderIsNone, {}});
+    }
+    const fs::directory_iterator entries(nativePath(folder), error);
+    if (error) {
+        return because(TextId::FolderCannotBeRead, {folder}, {TextId::FileNoPermission, {}});
+    }
+    return std::nullopt;
+}
+
+void writeJson(const Orders& orders, std::ostream& out) {
+    JsonWriter json(out);
+    json.beginObject();
+    json.key("orders");
+    json.beginArray();
+    for (const WorkOrder& order : orders) {
+        json.beginObject();
+        json.member("number", order.number);
+        json.member("date", order.date);
+        json.member("startTime", order.startTime);
+        json.key("files");
+        json.beginArray();
+        for (const std::string& file : order.files) {
+            json.value(file);
+        }
+        json.endArray();
+        json.endObject();
+    }
+    json.endArray();
+    json.endObject();
+}
+
+void writeText(const Orders& orders, const Texts& texts, std::ostream& out) {
+    for (const WorkOrder& order : orders) {
+        out << orderCaption(order, texts) << "  " << order.date << "  " << order.startTime << '\n';
+        for (const std::string& file : order.files) {
+            out << "  " << file << '\n';
+        }
+    }
+}
+
+/// False when the order is not there or not all of it was copied.
+bool copy(const Orders& orders, const Arguments& arguments, Dialogs& dialogs, const Texts& texts) {
+    const OrderCopy& asked = *arguments.copy;
+    const auto order = std::find_if(orders.begin(), orders.end(), [&](const WorkOrder& known) {
+        return known.number == asked.number;
+    });
+    if (order == orders.end()) {
+        dialogs.message(
+            texts.format(TextId::CliNoOrder, {numberText(asked.number), arguments.files.front()}),
+            MessageIcon::Error, "");
+        return false;
+    }
+    return copyOrder(*order, asked.destination, dialogs, texts);
+}
+
+}  // namespace
+
+int runOrders(const Arguments& arguments, const Console& console) {
+    const Texts texts(arguments.language);
+    BatchDialogs dialogs(arguments, console.boxes);
+    const std::string& folder = arguments.files.front();
+    const std::optional<Failure> failure = folderFailure(folder);
+    if (failure) {
+        dialogs.message(texts.sentence(*failure), MessageIcon::Error, "");
+    }
+    const Orders orders = scanFolder(folder, {});
+    if (arguments.json) {
+        writeJson(orders, console.out);
+    } else {
+        writeText(orders, texts, console.out);
+    }
+    const bool copied = failure || !arguments.copy || copy(orders, arguments, dialogs, texts);
+    return !failure && copied ? exit_status::kDone : exit_status::kRefused;
+}
+
+}  // namespace campora
