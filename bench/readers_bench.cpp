@@ -33,6 +33,7 @@ class PlainLocale final : public campora::UserLocale {
 public:
     [[nodiscard]] char decimalSymbol() const override { return '.'; }
     [[nodiscard]] std::string shortDateForm() const override { return "dd/mm/yyyy"; }
+    [[nodiscard]] int languageNumber() const override { return 0; }
 };
 
 /// Bytes in use now, and most at one time since the last reset. The benchmarks run on one thread.

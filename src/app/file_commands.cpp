@@ -9,10 +9,14 @@
 
 #include "app/file_loading.h"
 #include "app/files_behind.h"
+#include "app/load_project.h"
+#include "app/project_file.h"
 #include "app/session.h"
+#include "app/settings.h"
 #include "base/files.h"
 #include "base/paths.h"
 #include "base/text.h"
+#include "platform/quiet_dialogs.h"
 #include "work/companion_names.h"
 
 namespace campora {
@@ -20,8 +24,6 @@ namespace campora {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr std::string_view kOpenPath = "OpenPath";
 
 std::string folderOf(std::string_view path) {
     return std::string(path.substr(0, path.size() - fileNamePart(path).size()));
@@ -50,7 +52,7 @@ FileCommands::FileCommands(Session& session)
 void FileCommands::fileOpen() {
     const Platform& platform = session_.platform();
     OpenRequest request{std::string(session_.texts()(TextId::Open)),
-                        platform.settings.read(kOpenPath).value_or(""),
+                        readText(platform.settings, SettingId::OpenPath),
                         openFilters(session_.texts())};
     if (!isFolder(request.folder)) {
         request.folder = session_.programFolder();
@@ -63,7 +65,7 @@ void FileCommands::fileOpen() {
         session_.plotPreview(false, false);
     }
     if (!paths.empty()) {
-        platform.settings.write(kOpenPath, folderOf(paths.front()));
+        writeText(platform.settings, SettingId::OpenPath, folderOf(paths.front()));
         openPaths(paths, true);
     }
 }
@@ -74,27 +76,42 @@ void FileCommands::preview(const std::vector<std::string>& selected) {
         session_.plotPreview(true, false);
     }
     session_.reset();
+    QuietDialogs quiet;
     for (const std::string& path : selected) {
-        if (!isFolder(path)) {
-            session_.loadQuietly(path);
+        for (const std::string& file : filesOf(path, quiet)) {
+            session_.loadQuietly(file);
         }
     }
     session_.view().ZoomUno();
 }
 
+std::vector<std::string> FileCommands::filesOf(const std::string& path, Dialogs& dialogs) const {
+    const Texts& texts = session_.texts();
+    if (auto project = filesOfProject(path, session_.programFolder(), dialogs, texts)) {
+        return std::move(project->paths);
+    }
+    std::vector<std::string> files = filesBehind(path);
+    if (files.empty()) {
+        dialogs.message(std::string(texts(TextId::FolderWithoutFiles)) + path,
+                        MessageIcon::Exclamation, texts(TextId::ProgramName));
+    }
+    return files;
+}
+
 void FileCommands::openPaths(const std::vector<std::string>& paths, bool resetFirst) {
     const Platform& platform = session_.platform();
-    const Texts& texts = session_.texts();
     std::vector<std::string> files;
+    std::vector<std::string> projects;
     for (const std::string& path : paths) {
-        const std::vector<std::string> behind = filesBehind(path);
-        if (behind.empty()) {
-            platform.dialogs.message(std::string(texts(TextId::FolderWithoutFiles)) + path,
-                                     MessageIcon::Exclamation, texts(TextId::ProgramName));
-        }
+        const std::vector<std::string> behind = filesOf(path, platform.dialogs);
         files.insert(files.end(), behind.begin(), behind.end());
+        if (isProject(path)) {
+            projects.push_back(path);
+        }
     }
-    for (const std::string& path : session_.loadFiles(files, resetFirst)) {
+    const std::vector<std::string> taken = session_.loadFiles(files, resetFirst);
+    // A project stands for its files in the list of recent ones.
+    for (const std::string& path : projects.empty() ? taken : projects) {
         recent_.add(path);
     }
     platform.window.commandsChanged();

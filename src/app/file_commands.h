@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "app/recent_files.h"
+#include "platform/dialogs.h"
 
 namespace campora {
 
@@ -43,6 +44,9 @@ public:
 
 private:
     void preview(const std::vector<std::string>& selected);
+    /// The files that a path stands for: those of a project, those in a folder, itself.
+    [[nodiscard]] std::vector<std::string> filesOf(const std::string& path,
+                                                   Dialogs& dialogs) const;
     [[nodiscard]] bool overwriteAgreed(const std::string& target) const;
 
     Session& session_;

@@ -128,10 +128,9 @@ void MapModes::mnuColorErrorMapMin() {
     MapStyle& style = session_.style();
     const Texts& texts = session_.texts();
     const Platform& platform = session_.platform();
-    std::string limit = numberText(style.errorLimit);
-    std::replace(limit.begin(), limit.end(), '.', platform.locale.decimalSymbol());
     const std::string answer =
-        platform.dialogs.inputBox(TextId::AskErrorLimit, texts(TextId::ErrorMap), limit);
+        platform.dialogs.inputBox(TextId::AskErrorLimit, texts(TextId::ErrorMap),
+                                  numberToType(style.errorLimit, platform.locale.decimalSymbol()));
     if (answer.empty()) {
         return;
     }
@@ -267,11 +266,12 @@ bool MapModes::isBordered() const {
     return session_.style().drawBorders;
 }
 
+bool MapModes::isSpeedShown() const {
+    return session_.replay().speedShown();
+}
+
 void MapModes::mnuEditViewVel() {
-    speedShown_ = !speedShown_;
-    if (!speedShown_) {
-        session_.platform().window.setSpeedReadout({});
-    }
+    session_.replay().setSpeedShown(!isSpeedShown());
     session_.platform().window.commandsChanged();
 }
 

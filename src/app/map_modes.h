@@ -81,7 +81,7 @@ public:
 
     /// The speed beside the map during replay.
     void mnuEditViewVel();
-    [[nodiscard]] bool isSpeedShown() const { return speedShown_; }
+    [[nodiscard]] bool isSpeedShown() const;
 
     /// Asks for a swath width in metres and gives it to all work that is open.
     void mnuEditTrocha();
@@ -110,7 +110,6 @@ private:
     void refuse(TextId text, const std::string& answer);
 
     Session& session_;
-    bool speedShown_ = false;
 };
 
 }  // namespace campora

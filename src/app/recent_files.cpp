@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "app/settings.h"
 #include "base/text.h"
 #include "base/text_lines.h"
 
@@ -13,14 +14,13 @@ namespace campora {
 
 namespace {
 
-constexpr std::string_view kKey = "RecentFiles";
 constexpr std::size_t kMost = 9;
 
 }  // namespace
 
 std::vector<std::string> RecentFiles::paths() const {
     std::vector<std::string> found;
-    const std::string stored = settings_.read(kKey).value_or("");
+    const std::string stored = readText(settings_, SettingId::RecentFiles);
     for (const std::string_view line : readAllLines(stored)) {
         if (!trim(line).empty() && found.size() < kMost) {
             found.emplace_back(trim(line));
@@ -48,7 +48,7 @@ void RecentFiles::write(const std::vector<std::string>& paths) {
     for (const std::string& path : paths) {
         text.append(path).append("\n");
     }
-    settings_.write(kKey, text);
+    writeText(settings_, SettingId::RecentFiles, text);
 }
 
 }  // namespace campora

@@ -69,7 +69,15 @@ Session::Session(const Platform& platform, Language language, std::string progra
       programFolder_(std::move(programFolder)),
       files_(texts_),
       view_(platform.canvas, platform.window, style_,
-            [this](MapContext& context) { plotAll(context); }) {
+            [this](MapContext& context) {
+                replay_.stopReplay();
+                plotAll(context);
+                tools_.viewChanged();
+            }),
+      tools_(platform.canvas, platform.window, view_, style_, files_, texts_, platform.locale,
+             [this](File* file) { selectFile(files_.indexOf(file)); }),
+      replay_(platform.canvas, platform.window, platform.clock, view_, style_, texts_,
+              platform.locale, [this] { return getGphList(); }, [this] { tools_.hideInfo(); }) {
     style_.scale = &defaultScale_;
 }
 
@@ -77,8 +85,9 @@ Session::~Session() = default;
 
 void Session::start() {
     const SettingsStore& settings = platform_.settings;
-    texts_.setLanguage(readLanguageSetting(settings).value_or(texts_.language()));
     readStyleSettings(settings, style_);
+    coordType_ = static_cast<CoordType>(readNumber(settings, SettingId::CoordType));
+    tools_.setCoordType(coordType_);
     registrations_ = loadRegistrations(programFolder_, platform_.dialogs, texts_);
     reset();
 }
@@ -212,6 +221,7 @@ void Session::afterLoading(bool zoomAll) {
         view_.ZoomUno();
     }
     platform_.window.active(true, true);
+    replay_.prepareReplay();
     loadFileList(true);
     showCurrentFile();
     showFlowStops();
@@ -263,6 +273,7 @@ void Session::reloadFiles() {
 
 void Session::setLanguage(Language language) {
     texts_.setLanguage(language);
+    writeLanguageSetting(platform_.settings, language);
     platform_.window.retranslate();
     loadFileList(true);
     showSummary();
@@ -270,6 +281,13 @@ void Session::setLanguage(Language language) {
     showFlowStops();
     platform_.window.setPosition({});
     platform_.window.setToolText({});
+    platform_.window.commandsChanged();
+}
+
+void Session::setCoordType(CoordType type) {
+    coordType_ = type;
+    writeNumber(platform_.settings, SettingId::CoordType, static_cast<std::int32_t>(type));
+    tools_.setCoordType(type);
     platform_.window.commandsChanged();
 }
 
@@ -282,6 +300,8 @@ void Session::reset() {
     MainWindowControls& window = platform_.window;
     window.setFileList({}, std::nullopt);
     window.active(false, true);
+    replay_.prepareReplay();
+    tools_.reset();
     showFlowStops();
     showSummary();
     showLegend();

@@ -9,8 +9,13 @@
 #include <string_view>
 #include <vector>
 
+#include "app/file_commands.h"
 #include "app/file_loading.h"
+#include "app/legend_commands.h"
+#include "app/map_modes.h"
+#include "app/map_tools.h"
 #include "app/map_view.h"
+#include "app/replay.h"
 #include "base/texts.h"
 #include "colour/color_scale.h"
 #include "model/map_style.h"
@@ -50,25 +55,42 @@ public:
     Session& operator=(const Session&) = delete;
     ~Session();
 
-    /// Start-up: language, colours and switches from the settings, the registrations, the empty
-    /// map.
+    /// Start-up: colours and switches from the settings, the registrations, the empty map.
     void start();
+
+    // The commands of the window, by what they are about.
+    [[nodiscard]] FileCommands& fileCommands() { return fileCommands_; }
+    [[nodiscard]] const FileCommands& fileCommands() const { return fileCommands_; }
+    [[nodiscard]] MapModes& modes() { return modes_; }
+    [[nodiscard]] const MapModes& modes() const { return modes_; }
+    [[nodiscard]] MapTools& tools() { return tools_; }
+    [[nodiscard]] const MapTools& tools() const { return tools_; }
+    [[nodiscard]] Replay& replay() { return replay_; }
+    [[nodiscard]] const Replay& replay() const { return replay_; }
 
     [[nodiscard]] const Platform& platform() const { return platform_; }
     [[nodiscard]] const Texts& texts() const { return texts_; }
-    /// Every text of the window from now on.
+    /// Every text of the window from now on, and at the next start.
     void setLanguage(Language language);
+    /// How positions are shown, from now on and at the next start.
+    void setCoordType(CoordType type);
+    [[nodiscard]] CoordType coordType() const { return coordType_; }
+    /// The text that printed pages carry.
+    std::string printDescription;
     [[nodiscard]] const std::string& programFolder() const { return programFolder_; }
     [[nodiscard]] LoadedFileList& files() { return files_; }
     /// Widened by every file that is added; unset again when the map is empty.
     [[nodiscard]] const ValueRanges& ranges() const { return ranges_; }
     [[nodiscard]] MapView& view() { return view_; }
     [[nodiscard]] MapStyle& style() { return style_; }
+    [[nodiscard]] const MapStyle& style() const { return style_; }
     /// The scale of everything that has none of its own.
     [[nodiscard]] ColorScale& defaultScale() { return defaultScale_; }
 
     /// The scale of the legend: the current file's own or the default one.
     [[nodiscard]] ColorScale& shownScale();
+    /// The commands on that scale.
+    [[nodiscard]] LegendCommands& legend() { return legend_; }
     /// Kind of the machine of the report read last; none before the first.
     [[nodiscard]] std::optional<WorkKind> lastKind() const { return lastKind_; }
 
@@ -148,11 +170,17 @@ private:
     ValueRanges ranges_;
     LoadedFileList files_;
     MapView view_;
+    MapTools tools_;
+    Replay replay_;
+    MapModes modes_{*this};
+    FileCommands fileCommands_{*this};
+    CoordType coordType_ = CoordType::Degrees;
     std::string title_;
     std::string lastTrackFile_;
     /// What is put away during a preview.
     std::unique_ptr<SavedMap> saved_;
     ColorScale::Subscription scaleChanges_;
+    LegendCommands legend_{*this};
     /// Whether a track file with a step without flow has been opened; none without track files.
     std::optional<bool> hasFlowStops_;
     std::optional<WorkKind> lastKind_;

@@ -45,6 +45,7 @@ public:
 
     [[nodiscard]] char decimalSymbol() const override { return arguments_.decimalSymbol; }
     [[nodiscard]] std::string shortDateForm() const override { return arguments_.dateForm; }
+    [[nodiscard]] int languageNumber() const override { return 0; }
 
 private:
     const Arguments& arguments_;

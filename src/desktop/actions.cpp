@@ -11,8 +11,11 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QToolBar>
+#include <QToolButton>
 
 #include "desktop/main_window.h"
+#include "desktop/map_area.h"
+#include "desktop/map_widget.h"
 #include "desktop/qt_text.h"
 
 namespace campora {
@@ -26,69 +29,24 @@ struct MenuRow {
     MenuId parent;
 };
 
+/// In the order of the menu bar.
 constexpr MenuRow kMenus[] = {
     {MenuId::File, TextId::MenuFile, MenuId::File},
+    {MenuId::Recent, TextId::MenuRecent, MenuId::File},
     {MenuId::SelectedFile, TextId::MenuSelectedFile, MenuId::File},
     {MenuId::Edit, TextId::MenuEdit, MenuId::Edit},
+    {MenuId::Coordinates, TextId::MenuCoordinates, MenuId::Edit},
+    {MenuId::Colors, TextId::MenuColors, MenuId::Edit},
     {MenuId::View, TextId::MenuView, MenuId::View},
+    {MenuId::Tools, TextId::MenuTools, MenuId::Tools},
+    {MenuId::Map, TextId::MenuMap, MenuId::Map},
+    {MenuId::GraduatedBy, TextId::MenuGraduatedBy, MenuId::Map},
+    {MenuId::Channel, TextId::MenuChannel, MenuId::Map},
+    {MenuId::Alarms, TextId::MenuAlarms, MenuId::Alarms},
+    {MenuId::Replay, TextId::MenuReplay, MenuId::Replay},
+    {MenuId::Help, TextId::MenuHelp, MenuId::Help},
+    {MenuId::Language, TextId::MenuLanguage, MenuId::Help},
 };
-
-// clang-format off
-constexpr ActionRow kActions[] = {
-    {.text = TextId::ActionOpen, .tooltip = TextId::TipOpen, .icon = "open", .shortcuts = "Ctrl+O",
-     .menu = MenuId::File, .toolPlace = ToolPlace::Main, .run = &MainWindow::openFile},
-    {.text = TextId::FileUp, .tooltip = TextId::TipFileUp, .icon = "up", .shortcuts = "Ctrl+Up",
-     .menu = MenuId::SelectedFile, .toolPlace = ToolPlace::FileList, .needs = Needs::SelectedFile,
-     .run = &MainWindow::moveFileUp},
-    {.text = TextId::FileDown, .tooltip = TextId::TipFileDown, .icon = "down",
-     .shortcuts = "Ctrl+Down", .menu = MenuId::SelectedFile, .toolPlace = ToolPlace::FileList,
-     .needs = Needs::SelectedFile, .run = &MainWindow::moveFileDown},
-    {.text = TextId::FileTop, .tooltip = TextId::TipFileTop, .icon = "top",
-     .shortcuts = "Ctrl+Shift+Up", .menu = MenuId::SelectedFile, .toolPlace = ToolPlace::FileList,
-     .needs = Needs::SelectedFile, .run = &MainWindow::moveFileToTop},
-    {.text = TextId::FileBottom, .tooltip = TextId::TipFileBottom, .icon = "bottom",
-     .shortcuts = "Ctrl+Shift+Down", .menu = MenuId::SelectedFile,
-     .toolPlace = ToolPlace::FileList, .needs = Needs::SelectedFile,
-     .run = &MainWindow::moveFileToBottom},
-    {.text = TextId::FileZoom, .tooltip = TextId::TipFileZoom, .icon = "zoom-file",
-     .shortcuts = "Ctrl+1", .menu = MenuId::SelectedFile, .opensGroup = true,
-     .toolPlace = ToolPlace::FileList, .needs = Needs::SelectedFile,
-     .run = &MainWindow::zoomToFile},
-    {.text = TextId::FileUnload, .tooltip = TextId::TipFileUnload, .icon = "remove",
-     .shortcuts = "Del", .menu = MenuId::SelectedFile, .opensGroup = true,
-     .toolPlace = ToolPlace::FileList, .needs = Needs::SelectedFile,
-     .run = &MainWindow::unloadFile},
-    {.text = TextId::ActionQuit, .tooltip = TextId::TipQuit, .icon = "quit", .shortcuts = "Ctrl+Q",
-     .menu = MenuId::File, .opensGroup = true, .run = &MainWindow::quit},
-    {.text = TextId::ActionCopyData, .tooltip = TextId::TipCopyData, .icon = "copy-data",
-     .shortcuts = "Ctrl+Shift+C", .menu = MenuId::Edit, .opensGroup = true,
-     .toolPlace = ToolPlace::Main, .needs = Needs::OpenFiles, .run = &MainWindow::copyData},
-    {.text = TextId::ActionZoomIn, .tooltip = TextId::ZoomIn, .icon = "zoom-in",
-     .shortcuts = "+ Ctrl++ = Ctrl+=", .menu = MenuId::View, .opensGroup = true,
-     .toolPlace = ToolPlace::Main, .needs = Needs::OpenFiles, .run = &MainWindow::zoomIn},
-    {.text = TextId::ActionZoomOut, .tooltip = TextId::ZoomOut, .icon = "zoom-out",
-     .shortcuts = "- Ctrl+-", .menu = MenuId::View, .toolPlace = ToolPlace::Main,
-     .needs = Needs::OpenFiles, .run = &MainWindow::zoomOut},
-    {.text = TextId::ActionZoomFit, .tooltip = TextId::ZoomFit, .icon = "zoom-fit",
-     .shortcuts = "Ctrl+0", .menu = MenuId::View, .toolPlace = ToolPlace::Main,
-     .needs = Needs::OpenFiles, .run = &MainWindow::zoomFit},
-    {.text = TextId::ActionSidePanel, .tooltip = TextId::TipSidePanel, .icon = "side-panel",
-     .shortcuts = "F9", .menu = MenuId::View, .opensGroup = true, .toolPlace = ToolPlace::Main,
-     .run = &MainWindow::toggleSidePanel, .isOn = &MainWindow::sidePanelShown},
-};
-// clang-format on
-
-QToolBar* toolBarOf(ToolPlace place, QToolBar& mainTools, QToolBar& fileTools) {
-    switch (place) {
-    case ToolPlace::Main:
-        return &mainTools;
-    case ToolPlace::FileList:
-        return &fileTools;
-    case ToolPlace::None:
-        break;
-    }
-    return nullptr;
-}
 
 QList<QKeySequence> keysOf(const ActionRow& row) {
     QList<QKeySequence> keys;
@@ -98,41 +56,94 @@ QList<QKeySequence> keysOf(const ActionRow& row) {
     return keys;
 }
 
-void addTo(QWidget& bar, QAction& action, bool opensGroup) {
-    if (opensGroup && !bar.actions().isEmpty()) {
-        auto* line = new QAction(&bar);
-        line->setSeparator(true);
-        bar.addAction(line);
-    }
-    bar.addAction(&action);
+void addLine(QWidget& bar) {
+    auto* line = new QAction(&bar);
+    line->setSeparator(true);
+    bar.addAction(line);
 }
 
 }  // namespace
 
-std::span<const ActionRow> actionRows() {
-    return kActions;
+bool Availability::fulfils(Needs needs) const {
+    switch (needs) {
+    case Needs::Nothing:
+        return true;
+    case Needs::FileMenu:
+        return fileMenu;
+    case Needs::Map:
+        return map;
+    case Needs::SelectedFile:
+        return map && selectedFile;
+    case Needs::Replay:
+        return replay;
+    }
+    return false;
 }
 
 ActionSet::ActionSet(MainWindow& window, QMenuBar& menuBar, QToolBar& mainTools,
                      QToolBar& fileTools)
     : window_(window), menuBar_(menuBar) {
-    for (const ActionRow& row : kActions) {
-        QAction* action = makeAction(row);
-        actions_.push_back(action);
-        addTo(menu(row.menu), *action, row.opensGroup);
-        if (QToolBar* bar = toolBarOf(row.toolPlace, mainTools, fileTools)) {
-            addTo(*bar, *action, row.opensGroup);
+    for (const MenuRow& row : kMenus) {
+        if (row.id == row.parent) {
+            static_cast<void>(menu(row.id));
+        }
+    }
+    for (const ActionRow& row : actionRows()) {
+        QAction* made = makeAction(row);
+        actions_.push_back(made);
+        QMenu& holder = menu(row.menu);
+        if (row.opensGroup && !holder.isEmpty()) {
+            addLine(holder);
+        }
+        holder.addAction(made);
+    }
+    for (const MenuRow& row : kMenus) {
+        static_cast<void>(menu(row.id));  // also those that are filled while the program runs
+    }
+    fillToolBar(mainTools, mainToolRows());
+    fillToolBar(fileTools, fileToolRows());
+}
+
+QAction* ActionSet::makeAction(const ActionRow& row) {
+    auto* made = new QAction(&window_);
+    made->setObjectName(row.name);
+    if (*row.icon != 0) {
+        made->setIcon(QIcon(QString(":/icons/%1.svg").arg(row.icon)));
+    }
+    made->setShortcuts(keysOf(row));
+    if (row.keysOnMap) {
+        made->setShortcutContext(Qt::WidgetShortcut);
+        window_.mapArea().map().addAction(made);
+    }
+    made->setCheckable(row.isOn != nullptr);
+    QObject::connect(made, &QAction::triggered, &window_, [this, &row] { window_.perform(row); });
+    return made;
+}
+
+void ActionSet::fillToolBar(QToolBar& bar, std::span<const ToolRow> rows) {
+    for (const ToolRow& row : rows) {
+        if (*row.key == 0) {
+            addLine(bar);
+            continue;
+        }
+        QAction* const command = action(row.action);
+        bar.addAction(command);
+        auto* const button = qobject_cast<QToolButton*>(bar.widgetForAction(command));
+        button->setObjectName(row.key);
+        button->setFocusPolicy(Qt::TabFocus);
+        buttons_.emplace_back(button, command);
+        if (row.menu != nullptr) {
+            button->setMenu(&menu(*row.menu));
+            button->setPopupMode(QToolButton::MenuButtonPopup);
         }
     }
 }
 
-QAction* ActionSet::makeAction(const ActionRow& row) {
-    auto* action = new QAction(QIcon(QString(":/icons/%1.svg").arg(row.icon)), {}, &window_);
-    action->setShortcuts(keysOf(row));
-    action->setEnabled(row.needs == Needs::Nothing);
-    action->setCheckable(row.isOn != nullptr);
-    QObject::connect(action, &QAction::triggered, &window_, row.run);
-    return action;
+QAction* ActionSet::action(std::string_view name) const {
+    const auto found = std::find_if(actions_.begin(), actions_.end(), [name](const QAction* a) {
+        return toUtf8(a->objectName()) == name;
+    });
+    return found == actions_.end() ? nullptr : *found;
 }
 
 QMenu& ActionSet::menu(MenuId id) {
@@ -151,31 +162,38 @@ void ActionSet::retranslate(const Texts& texts) {
     for (const MenuRow& row : kMenus) {
         menu(row.id).setTitle(toQt(texts(row.text)));
     }
+    const auto rows = actionRows();
     for (std::size_t i = 0; i < actions_.size(); ++i) {
-        QAction& action = *actions_[i];
-        QString tip = toQt(texts(kActions[i].tooltip));
-        if (!action.shortcut().isEmpty()) {
-            tip += " (" + action.shortcut().toString(QKeySequence::NativeText) + ")";
+        QAction& shown = *actions_[i];
+        QString tip = toQt(texts(rows[i].tooltip));
+        if (!shown.shortcut().isEmpty()) {
+            tip += " (" + shown.shortcut().toString(QKeySequence::NativeText) + ")";
         }
-        action.setText(toQt(texts(kActions[i].text)));
-        action.setToolTip(tip);
+        shown.setText(toQt(texts(rows[i].text)));
+        shown.setToolTip(tip);
+    }
+    for (const auto& [button, command] : buttons_) {
+        button->setAccessibleName(command->toolTip());
     }
 }
 
-void ActionSet::setEnabled(Needs needs, bool enabled) {
+void ActionSet::showStates(const Texts& texts, const Availability& availability) {
+    const auto rows = actionRows();
     for (std::size_t i = 0; i < actions_.size(); ++i) {
-        if (kActions[i].needs == needs) {
-            actions_[i]->setEnabled(enabled);
+        const ActionRow& row = rows[i];
+        const bool possible = row.possible == nullptr || row.possible(window_);
+        actions_[i]->setEnabled(availability.fulfils(row.needs) && possible);
+        if (row.isOn != nullptr) {
+            actions_[i]->setChecked(row.isOn(window_));
+        }
+        if (row.caption != nullptr) {
+            actions_[i]->setText(toQt(texts(row.caption(window_))));
         }
     }
-}
-
-void ActionSet::showStates() {
-    for (std::size_t i = 0; i < actions_.size(); ++i) {
-        if (kActions[i].isOn != nullptr) {
-            actions_[i]->setChecked((window_.*kActions[i].isOn)());
-        }
-    }
+    menu(MenuId::Edit).menuAction()->setEnabled(availability.map);
+    menu(MenuId::Channel).menuAction()->setEnabled(availability.map);
+    menu(MenuId::SelectedFile).menuAction()->setEnabled(availability.selectedFile);
+    menu(MenuId::Recent).menuAction()->setEnabled(availability.fileMenu);
 }
 
 }  // namespace campora

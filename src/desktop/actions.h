@@ -5,6 +5,8 @@
 
 #include <map>
 #include <span>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 #include <QString>
@@ -15,36 +17,91 @@ class QAction;
 class QMenu;
 class QMenuBar;
 class QToolBar;
+class QToolButton;
 
 namespace campora {
 
 class MainWindow;
 
-enum class MenuId { File, SelectedFile, Edit, View };
-enum class ToolPlace { None, Main, FileList };
+enum class MenuId {
+    File,
+    Recent,
+    SelectedFile,
+    Edit,
+    Coordinates,
+    Colors,
+    View,
+    Tools,
+    Map,
+    GraduatedBy,
+    Channel,
+    Alarms,
+    Replay,
+    Help,
+    Language,
+};
+
 /// What must be there before a command can be used.
-enum class Needs { Nothing, OpenFiles, SelectedFile };
+enum class Needs {
+    Nothing,
+    /// The file menu is not locked by a replay.
+    FileMenu,
+    /// Files are open and no replay has locked the map.
+    Map,
+    /// As `Map`, and a file is selected in the list.
+    SelectedFile,
+    /// Something open can be replayed.
+    Replay,
+};
 
 /// A command of the window as menus, tool bars and tooltips show it.
 struct ActionRow {
+    /// Name of the control.
+    const char* name = "";
     TextId text{};
     TextId tooltip{};
-    /// Name of a picture in the resources.
+    /// Name of a picture in the resources; may be empty.
     const char* icon = "";
     /// Separated by blanks; the first one is shown in the menu and the tooltip.
     const char* shortcuts = "";
+    /// They act only while the map has the focus: elsewhere these keys have a meaning of their own.
+    bool keysOnMap = false;
     MenuId menu{};
-    /// A line stands before it in its menu and tool bar.
+    /// A line stands before it in its menu.
     bool opensGroup = false;
-    ToolPlace toolPlace = ToolPlace::None;
     Needs needs = Needs::Nothing;
-    void (MainWindow::*run)() = nullptr;
+    void (*run)(MainWindow& window) = nullptr;
     /// For commands that are on or off: which of the two.
-    bool (MainWindow::*isOn)() const = nullptr;
+    bool (*isOn)(const MainWindow& window) = nullptr;
+    /// A further condition; none: always.
+    bool (*possible)(const MainWindow& window) = nullptr;
+    /// For commands whose caption follows the work: which text instead of `text`.
+    TextId (*caption)(const MainWindow& window) = nullptr;
 };
 
 /// All commands, in the order of the menus.
 [[nodiscard]] std::span<const ActionRow> actionRows();
+
+/// A button of a tool bar: its key and the command behind it; a row without a key is a line.
+struct ToolRow {
+    const char* key = "";
+    const char* action = "";
+    /// The menu that drops down from it, beside the command.
+    const MenuId* menu = nullptr;
+};
+
+[[nodiscard]] std::span<const ToolRow> mainToolRows();
+[[nodiscard]] std::span<const ToolRow> fileToolRows();
+
+/// What the window allows at the moment.
+struct Availability {
+    bool fileMenu = true;
+    bool map = false;
+    bool selectedFile = false;
+    bool replay = false;
+
+    [[nodiscard]] bool fulfils(Needs needs) const;
+};
 
 /// The commands of one window as actions of the toolkit, built from the rows.
 class ActionSet {
@@ -53,19 +110,22 @@ public:
     ActionSet(MainWindow& window, QMenuBar& menuBar, QToolBar& mainTools, QToolBar& fileTools);
 
     void retranslate(const Texts& texts);
-    void setEnabled(Needs needs, bool enabled);
-    /// Shows which commands are on.
-    void showStates();
+    /// Shows which commands are on and which can be used, and captions that follow the work.
+    void showStates(const Texts& texts, const Availability& availability);
     [[nodiscard]] QMenu& menu(MenuId id);
 
 private:
     QAction* makeAction(const ActionRow& row);
+    void fillToolBar(QToolBar& bar, std::span<const ToolRow> rows);
+    [[nodiscard]] QAction* action(std::string_view name) const;
 
     MainWindow& window_;
     QMenuBar& menuBar_;
     std::map<MenuId, QMenu*> menus_;
     /// One for each row.
     std::vector<QAction*> actions_;
+    /// The buttons of the tool bars with their commands.
+    std::vector<std::pair<QToolButton*, QAction*>> buttons_;
 };
 
 }  // namespace campora

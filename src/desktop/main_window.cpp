@@ -17,9 +17,11 @@
 #include <QSplitter>
 #include <QStatusBar>
 #include <QToolBar>
+#include <QVBoxLayout>
 #include <QWindow>
 
-#include "app/files_behind.h"
+#include "app/settings.h"
+#include "app/start_up.h"
 #include "desktop/elided_label.h"
 #include "desktop/file_list.h"
 #include "desktop/legend_view.h"
@@ -27,6 +29,7 @@
 #include "desktop/map_widget.h"
 #include "desktop/pointer_override.h"
 #include "desktop/qt_text.h"
+#include "desktop/replay_bar.h"
 #include "desktop/side_panel.h"
 #include "desktop/summary_table.h"
 
@@ -34,12 +37,11 @@ namespace campora {
 
 namespace {
 
-constexpr std::string_view kGeometryKey = "WindowGeometry";
-constexpr std::string_view kSplitterKey = "WindowSplitter";
+constexpr int kPanelWidth = 320;
 constexpr double kMetresPerCanvasUnit = 0.0254 / 1440;
 
-QByteArray decoded(const std::optional<std::string>& setting) {
-    return QByteArray::fromBase64(QByteArray::fromStdString(setting.value_or("")));
+QByteArray decoded(const std::string& setting) {
+    return QByteArray::fromBase64(QByteArray::fromStdString(setting));
 }
 
 /// What the canvas shows, in steps of a scroll bar.
@@ -47,8 +49,15 @@ int pageSteps(float shownMetres, float metresPerStep) {
     return static_cast<int>(std::lround(shownMetres / metresPerStep));
 }
 
-QString degreesText(double degrees) {
-    return QString::number(degrees, 'f', 6) + QStringLiteral("º");
+MapTools::Button buttonOf(Qt::MouseButton button) {
+    switch (button) {
+    case Qt::RightButton:
+        return MapTools::Button::Right;
+    case Qt::MiddleButton:
+        return MapTools::Button::Middle;
+    default:
+        return MapTools::Button::Left;
+    }
 }
 
 }  // namespace
@@ -59,7 +68,9 @@ MainWindow::MainWindow(const Desktop& desktop, Language language, const std::str
       mapArea_(new MapArea),
       sidePanel_(new SidePanel),
       splitter_(new QSplitter),
+      replayBar_(new ReplayBar),
       position_(new QLabel),
+      toolText_(new QLabel),
       workStatus_(new ElidedLabel),
       scale_(new QLabel) {
     setMinimumSize(kMinimumSize);
@@ -71,12 +82,14 @@ MainWindow::MainWindow(const Desktop& desktop, Language language, const std::str
     actions_ = std::make_unique<ActionSet>(*this, *menuBar(), *tools_, sidePanel_->fileTools());
     arrange();
     makeStatusBar();
-    const Platform platform{mapArea_->map().canvas(), *this,          desktop.dialogs,
-                            desktop.settings,         desktop.locale, desktop.clipboard,
-                            desktop.clock,            desktop.classes};
+    const Platform platform{
+        mapArea_->map().canvas(), *this,         desktop.dialogs, desktop.settings, desktop.locale,
+        desktop.clipboard,        desktop.clock, desktop.classes};
     session_ = std::make_unique<Session>(platform, language, programFolder);
     connectMap();
     connectFileList();
+    connectReplay();
+    connectMenus();
     retranslate();
 }
 
@@ -88,22 +101,28 @@ void MainWindow::arrange() {
     splitter_->addWidget(sidePanel_);
     splitter_->setStretchFactor(0, 1);
     splitter_->setStretchFactor(1, 0);
-    setCentralWidget(splitter_);
+    auto* middle = new QWidget;
+    auto* column = new QVBoxLayout(middle);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(splitter_, 1);
+    column->addWidget(replayBar_);
+    setCentralWidget(middle);
     resize(kFirstSize.boundedTo(screen()->availableSize()));
-    splitter_->setSizes({width() - 320, 320});
-    restoreGeometry(decoded(desktop_.settings.read(kGeometryKey)));
-    splitter_->restoreState(decoded(desktop_.settings.read(kSplitterKey)));
+    splitter_->setSizes({width() - kPanelWidth, kPanelWidth});
+    restoreGeometry(decoded(readText(desktop_.settings, SettingId::WindowGeometry)));
+    splitter_->restoreState(decoded(readText(desktop_.settings, SettingId::WindowSplitter)));
     setTabOrder(&mapArea_->map(), &sidePanel_->files());
     mapArea_->map().setFocus();
-    actions_->showStates();
 }
 
 void MainWindow::makeStatusBar() {
-    for (QLabel* label : {position_, static_cast<QLabel*>(workStatus_), scale_}) {
+    for (QLabel* label : {position_, toolText_, static_cast<QLabel*>(workStatus_), scale_}) {
         label->setTextFormat(Qt::PlainText);
         label->setContentsMargins(6, 0, 6, 0);
     }
     statusBar()->addWidget(position_);
+    statusBar()->addWidget(toolText_);
     statusBar()->addWidget(workStatus_, 1);
     statusBar()->addPermanentWidget(scale_);
 }
@@ -111,25 +130,33 @@ void MainWindow::makeStatusBar() {
 void MainWindow::connectMap() {
     MapWidget& map = mapArea_->map();
     MapView& view = session_->view();
+    MapTools& tools = session_->tools();
     connect(&map, &MapWidget::canvasResized, this, [this] { session_->canvasResized(); });
     connect(&map, &MapWidget::zoomSteps, this, &MainWindow::zoomAt);
     connect(&map, &MapWidget::scrollAsked, this,
             [&view](double east, double north) { view.scrollBy(east, north); });
-    connect(&map, &MapWidget::panStarted, this, [this, &view](CanvasPoint at) {
-        grabbed_ = view.transform().screenToMap(static_cast<float>(at.x), static_cast<float>(at.y));
+    connect(&map, &MapWidget::pressed, this, [&tools](CanvasPoint at, Qt::MouseButton button) {
+        tools.press(buttonOf(button), at);
     });
-    connect(&map, &MapWidget::panMoved, this, &MainWindow::panTo);
-    connect(&map, &MapWidget::pointerMoved, this, &MainWindow::showPosition);
-    connect(&map, &MapWidget::pointerLeft, position_, &QLabel::clear);
+    connect(&map, &MapWidget::pointerMoved, this, [&tools](CanvasPoint at) { tools.move(at); });
+    connect(&map, &MapWidget::released, this,
+            [this, &tools](CanvasPoint at, Qt::MouseButton button) {
+                tools.release(buttonOf(button), at);
+                commandsChanged();
+            });
+    connect(&map, &MapWidget::pointerLeft, this, [&tools] { tools.leave(); });
+    connect(&map, &MapWidget::escaped, this, [this, &tools] {
+        tools.escape();
+        commandsChanged();
+    });
     connect(mapArea_, &MapArea::barsMoved, this,
             [&view](int horizontal, int vertical) { view.scrollBarsMoved(horizontal, vertical); });
     // Queued: the window is painted before files are read.
     connect(
         &map, &MapWidget::firstShown, this,
         [this] {
-            if (!pathsToOpen_.empty()) {
-                openPaths(std::exchange(pathsToOpen_, {}), true);
-            }
+            const PointerOverride busy(Qt::WaitCursor);
+            processCommandLine(*session_, std::exchange(startRequest_, {}));
         },
         Qt::QueuedConnection);
 }
@@ -139,9 +166,19 @@ void MainWindow::connectFileList() {
     files.setFileMenu(actions_->menu(MenuId::SelectedFile));
     connect(&files, &FileList::rowChosen, this, [this](std::optional<int> row) {
         session_->selectFile(row);
-        actions_->setEnabled(Needs::SelectedFile, row.has_value());
+        commandsChanged();
     });
-    connect(&files, &FileList::zoomAsked, this, &MainWindow::zoomToFile);
+    connect(&files, &FileList::zoomAsked, this, [this] { session_->zoomToCurrentFile(); });
+}
+
+void MainWindow::connectReplay() {
+    Replay& replay = session_->replay();
+    connect(replayBar_, &ReplayBar::playAsked, this, [&replay] { replay.play(); });
+    connect(replayBar_, &ReplayBar::stopAsked, this, [&replay] { replay.stop(); });
+    connect(replayBar_, &ReplayBar::seekAsked, this,
+            [&replay](int position) { replay.seek(position); });
+    connect(replayBar_, &ReplayBar::speedChosen, this,
+            [&replay](int speed) { replay.setSpeed(speed); });
 }
 
 void MainWindow::retranslate() {
@@ -149,87 +186,16 @@ void MainWindow::retranslate() {
     actions_->retranslate(texts);
     mapArea_->retranslate(texts);
     sidePanel_->retranslate(texts);
+    replayBar_->retranslate(texts);
     tools_->setAccessibleName(toQt(texts(TextId::MainTools)));
     showScale();
+    commandsChanged();
 }
 
-void MainWindow::start(std::vector<std::string> paths) {
-    session_->start();
-    retranslate();
-    pathsToOpen_ = std::move(paths);
-}
-
-void MainWindow::openPaths(const std::vector<std::string>& paths, bool inPlaceOfOthers) {
-    const PointerOverride busy(Qt::WaitCursor);
-    std::vector<std::string> files;
-    for (const std::string& path : paths) {
-        const std::vector<std::string> behind = filesBehind(path);
-        if (behind.empty()) {
-            const Texts& texts = session_->texts();
-            desktop_.dialogs.message(std::string(texts(TextId::FolderWithoutFiles)) + path,
-                                     MessageIcon::Exclamation, texts(TextId::ProgramName));
-        }
-        files.insert(files.end(), behind.begin(), behind.end());
-    }
-    session_->loadFiles(files, inPlaceOfOthers);
-}
-
-void MainWindow::openFile() {
-    const PointerOverride busy(Qt::WaitCursor);
-    session_->fileOpen();
-}
-
-void MainWindow::quit() {
-    close();
-}
-
-void MainWindow::copyData() {
-    session_->copyData();
-}
-
-void MainWindow::zoomIn() {
-    session_->view().zoomIn();
-}
-
-void MainWindow::zoomOut() {
-    session_->view().zoomOut();
-}
-
-void MainWindow::zoomFit() {
-    session_->view().ZoomUno();
-}
-
-void MainWindow::moveFileUp() {
-    session_->moveCurrentFile(Session::Move::Up);
-}
-
-void MainWindow::moveFileDown() {
-    session_->moveCurrentFile(Session::Move::Down);
-}
-
-void MainWindow::moveFileToTop() {
-    session_->moveCurrentFile(Session::Move::Top);
-}
-
-void MainWindow::moveFileToBottom() {
-    session_->moveCurrentFile(Session::Move::Bottom);
-}
-
-void MainWindow::zoomToFile() {
-    session_->zoomToCurrentFile();
-}
-
-void MainWindow::unloadFile() {
-    session_->removeCurrentFile();
-}
-
-void MainWindow::toggleSidePanel() {
-    sidePanel_->setVisible(sidePanel_->isHidden());
-    actions_->showStates();
-}
-
-bool MainWindow::sidePanelShown() const {
-    return !sidePanel_->isHidden();
+void MainWindow::start(const std::string& programPath, StartRequest request) {
+    loadMainWindow(*session_, programPath);
+    replayBar_->setSpeed(session_->replay().speed());
+    startRequest_ = std::move(request);
 }
 
 void MainWindow::zoomAt(CanvasPoint at, int steps) {
@@ -240,28 +206,6 @@ void MainWindow::zoomAt(CanvasPoint at, int steps) {
     for (; steps < 0; ++steps) {
         view.zoomOut(at);
     }
-    showPosition(at);
-}
-
-void MainWindow::panTo(CanvasPoint pointer) {
-    MapView& view = session_->view();
-    const CanvasPoint held = view.transform().mapToScreen(grabbed_.x, grabbed_.y);
-    const CanvasSize size = view.transform().canvas();
-    view.scrollBy(static_cast<double>(held.x - pointer.x) / size.width,
-                  static_cast<double>(pointer.y - held.y) / size.height);
-}
-
-void MainWindow::showPosition(CanvasPoint pointer) {
-    const ViewTransform view = session_->view().transform();
-    if (!view.isFitted()) {
-        position_->clear();
-        return;
-    }
-    const LonLat at =
-        view.screenToMap(static_cast<float>(pointer.x), static_cast<float>(pointer.y));
-    const Texts& texts = session_->texts();
-    position_->setText(toQt(texts(TextId::Longitude)) + " " + degreesText(at.x) + "   " +
-                       toQt(texts(TextId::Latitude)) + " " + degreesText(at.y));
 }
 
 void MainWindow::showScale() {
@@ -278,7 +222,7 @@ void MainWindow::setTitle(std::string_view title) {
 
 void MainWindow::setFileList(std::span<const FileListRow> rows, std::optional<int> selected) {
     sidePanel_->files().setRows(rows, selected);
-    actions_->setEnabled(Needs::SelectedFile, selected.has_value());
+    commandsChanged();
 }
 
 void MainWindow::setSummary(std::span<const SummaryRow> rows) {
@@ -297,26 +241,54 @@ void MainWindow::setViewControls(const ViewControls& controls) {
     showScale();
 }
 
-void MainWindow::active(bool enabled, bool /*replayControls*/) {
-    actions_->setEnabled(Needs::OpenFiles, enabled);
-    mapArea_->map().setMapShown(enabled);
+void MainWindow::active(bool enabled, bool replayControls) {
+    mapActive_ = enabled;
+    (replayControls ? replayActive_ : fileMenuActive_) = enabled;
+    const bool filesOpen = session_->plotCount() > 0;
+    MapWidget& map = mapArea_->map();
+    map.setMapShown(filesOpen);
+    map.setInteractive(enabled);
+    mapArea_->horizontalBar().setEnabled(enabled);
+    mapArea_->verticalBar().setEnabled(enabled);
+    sidePanel_->files().setEnabled(enabled || !filesOpen);
+    replayBar_->setActive(replayActive_);
+    commandsChanged();
+}
+
+Availability MainWindow::availability() const {
+    return {.fileMenu = fileMenuActive_,
+            .map = mapActive_,
+            .selectedFile = mapActive_ && session_->files().currentFile() != nullptr,
+            .replay = replayActive_ && session_->replay().shown().available};
 }
 
 void MainWindow::commandsChanged() {
-    actions_->showStates();
+    if (session_ == nullptr) {
+        return;
+    }
+    actions_->showStates(session_->texts(), availability());
+    replayBar_->setSpeedShown(session_->modes().isSpeedShown());
 }
 
-void MainWindow::setReplay(const ReplayState& /*state*/) {}
+void MainWindow::setReplay(const ReplayState& state) {
+    replayBar_->setState(state);
+}
 
-void MainWindow::setSpeedReadout(std::string_view /*text*/) {}
+void MainWindow::setSpeedReadout(std::string_view text) {
+    replayBar_->setSpeedReadout(toQt(text));
+}
 
-void MainWindow::setOverlay(const MapOverlay& /*overlay*/) {}
+void MainWindow::setOverlay(const MapOverlay& overlay) {
+    mapArea_->map().setToolOverlay(overlay);
+}
 
 void MainWindow::setPosition(std::string_view text) {
     position_->setText(toQt(text));
 }
 
-void MainWindow::setToolText(std::string_view /*text*/) {}
+void MainWindow::setToolText(std::string_view text) {
+    toolText_->setText(toQt(text));
+}
 
 void MainWindow::setWorkStatus(std::string_view text) {
     workStatus_->setText(toQt(text));
@@ -329,14 +301,18 @@ void MainWindow::showEvent(QShowEvent* event) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-    desktop_.settings.write(kGeometryKey, saveGeometry().toBase64().toStdString());
-    desktop_.settings.write(kSplitterKey, splitter_->saveState().toBase64().toStdString());
+    unloadMainWindow(*session_);
+    writeText(desktop_.settings, SettingId::WindowGeometry,
+              saveGeometry().toBase64().toStdString());
+    writeText(desktop_.settings, SettingId::WindowSplitter,
+              splitter_->saveState().toBase64().toStdString());
     QMainWindow::closeEvent(event);
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
     const QList<QUrl> urls = event->mimeData()->urls();
-    if (std::any_of(urls.begin(), urls.end(), [](const QUrl& url) { return url.isLocalFile(); })) {
+    if (fileMenuActive_ &&
+        std::any_of(urls.begin(), urls.end(), [](const QUrl& url) { return url.isLocalFile(); })) {
         event->acceptProposedAction();
     }
 }

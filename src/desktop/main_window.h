@@ -9,6 +9,7 @@
 
 #include <QMainWindow>
 
+#include "app/command_line.h"
 #include "app/session.h"
 #include "desktop/actions.h"
 
@@ -20,6 +21,7 @@ namespace campora {
 
 class ElidedLabel;
 class MapArea;
+class ReplayBar;
 class SidePanel;
 
 /// What the window takes from its desktop; all of it outlives the window.
@@ -45,32 +47,34 @@ public:
     ~MainWindow() override;
 
     [[nodiscard]] Session& session() { return *session_; }
+    [[nodiscard]] const Session& session() const { return *session_; }
     [[nodiscard]] MapArea& mapArea() const { return *mapArea_; }
     [[nodiscard]] SidePanel& sidePanel() const { return *sidePanel_; }
+    [[nodiscard]] ReplayBar& replayBar() const { return *replayBar_; }
 
-    /// Settings and registrations are read now; the paths are opened when the window stands on the
-    /// screen.
-    void start(std::vector<std::string> paths);
+    /// Settings and tables are read now; what the command line asks for is done when the window
+    /// stands on the screen. `programPath`: the running program.
+    void start(const std::string& programPath, StartRequest request);
     /// Opens files and the supported files of folders.
     void openPaths(const std::vector<std::string>& paths, bool inPlaceOfOthers);
     /// All texts of the window in the session's language.
     void retranslate() override;
+    /// Runs a command and shows what has changed with it.
+    void perform(const ActionRow& row);
 
-    // The commands of menus and tool bars.
+    // The commands that are more than a call of the session.
     void openFile();
-    void quit();
-    void copyData();
-    void zoomIn();
-    void zoomOut();
-    void zoomFit();
-    void moveFileUp();
-    void moveFileDown();
-    void moveFileToTop();
-    void moveFileToBottom();
-    void zoomToFile();
-    void unloadFile();
+    void openWorkOrders();
+    void editSummary();
+    void copyImage();
+    void goToCoordinate();
+    void useTool(MapTools::Tool tool);
     void toggleSidePanel();
     [[nodiscard]] bool sidePanelShown() const;
+    void toggleFullScreen();
+    void mnuHelpLangEsp();
+    void mnuHelpLangIng();
+    void mnuHelpLangPort();
 
     void setTitle(std::string_view title) override;
     void setFileList(std::span<const FileListRow> rows, std::optional<int> selected) override;
@@ -97,24 +101,33 @@ private:
     void makeStatusBar();
     void connectMap();
     void connectFileList();
+    void connectReplay();
+    void connectMenus();
+    void fillRecentMenu();
+    void fillChannelMenu();
+    void fillAlarmMenu();
     void zoomAt(CanvasPoint at, int steps);
-    void panTo(CanvasPoint pointer);
-    void showPosition(CanvasPoint pointer);
     void showScale();
+    [[nodiscard]] Availability availability() const;
 
     Desktop desktop_;
     QToolBar* tools_;
     MapArea* mapArea_;
     SidePanel* sidePanel_;
     QSplitter* splitter_;
+    ReplayBar* replayBar_;
     QLabel* position_;
+    QLabel* toolText_;
     ElidedLabel* workStatus_;
     QLabel* scale_;
     std::unique_ptr<ActionSet> actions_;
     std::unique_ptr<Session> session_;
-    std::vector<std::string> pathsToOpen_;
-    /// What the pointer took hold of when the middle button went down.
-    LonLat grabbed_;
+    StartRequest startRequest_;
+    bool mapActive_ = false;
+    bool replayActive_ = false;
+    bool fileMenuActive_ = true;
+    /// Alarm entries, which come after the commands of their menu.
+    std::vector<QAction*> alarmActions_;
 };
 
 }  // namespace campora

@@ -12,6 +12,7 @@
 
 #include "app/overlay_layout.h"
 #include "desktop/edge_arrow.h"
+#include "desktop/info_box.h"
 #include "desktop/qt_text.h"
 
 namespace campora {
@@ -22,6 +23,11 @@ constexpr int kUnits = RasterCanvas::kUnitsPerPixel;
 /// Parts of the canvas by which an arrow key and an edge arrow scroll.
 constexpr double kKeyScroll = 0.1;
 constexpr double kArrowScroll = 0.25;
+
+/// Milliseconds between two pictures of a running replay.
+constexpr int kFrame = 16;
+/// Half the side of the mark of a vertex, in pixels.
+constexpr double kMark = 4;
 
 /// In pixels.
 constexpr QRect kScaleBarPlate{2, 2, 84, 42};
@@ -71,12 +77,15 @@ QAccessibleInterface* describeMap(const QString& /*name*/, QObject* object) {
 
 }  // namespace
 
-MapWidget::MapWidget(QWidget* parent) : QWidget(parent), canvas_({kUnits, kUnits}) {
+MapWidget::MapWidget(QWidget* parent)
+    : QWidget(parent), canvas_({kUnits, kUnits}), info_(new InfoBox(this)) {
     QAccessible::installFactory(describeMap);
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
-    canvas_.onRefresh = [this] { update(); };
+    canvas_.onRefresh = [this] { repaintSoon(); };
+    nextPaint_.setSingleShot(true);
+    connect(&nextPaint_, &QTimer::timeout, this, qOverload<>(&QWidget::update));
     canvas_.onPointer = [this](PointerShape shape) { setCursor(cursorShape(shape)); };
     for (std::size_t i = 0; i < arrows_.size(); ++i) {
         const Direction& way = kDirections[i];
@@ -101,6 +110,22 @@ void MapWidget::setOverlay(const ViewControls& controls, Color ink) {
     update();
 }
 
+void MapWidget::setToolOverlay(const MapOverlay& overlay) {
+    if (overlay_.info != overlay.info) {
+        info_->showInfo(overlay.info, kUnits);
+    }
+    overlay_ = overlay;
+    update();
+}
+
+void MapWidget::repaintSoon() {
+    if (!sincePaint_.isValid() || sincePaint_.elapsed() >= kFrame) {
+        update();
+    } else if (!nextPaint_.isActive()) {
+        nextPaint_.start(kFrame - static_cast<int>(sincePaint_.elapsed()));
+    }
+}
+
 void MapWidget::setMapShown(bool shown) {
     mapShown_ = shown;
     setOverlay(controls_, ink_);
@@ -110,6 +135,7 @@ void MapWidget::retranslate(const Texts& texts) {
     hint_ = toQt(texts(TextId::EmptyMapHint));
     setAccessibleName(toQt(texts(TextId::MapName)));
     setAccessibleDescription(toQt(texts(TextId::MapKeys)));
+    info_->setAccessibleName(toQt(texts(TextId::PointInformation)));
     for (std::size_t i = 0; i < arrows_.size(); ++i) {
         const QString tip = toQt(texts(kDirections[i].tip));
         arrows_[i]->setToolTip(tip);
@@ -132,6 +158,7 @@ void MapWidget::fitCanvas() {
 }
 
 void MapWidget::paintEvent(QPaintEvent* /*event*/) {
+    sincePaint_.start();
     QPainter painter(this);
     painter.drawImage(0, 0, canvas_.image());
     if (!mapShown_) {
@@ -139,6 +166,7 @@ void MapWidget::paintEvent(QPaintEvent* /*event*/) {
     } else if (!controls_.scaleLabel.empty()) {
         paintScaleBar(painter);
     }
+    paintToolOverlay(painter);
     if (hasFocus()) {
         painter.setPen(palette().color(QPalette::Highlight));
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
@@ -168,6 +196,29 @@ void MapWidget::paintScaleBar(QPainter& painter) const {
                      toQt(controls_.scaleLabel));
 }
 
+void MapWidget::paintToolOverlay(QPainter& painter) const {
+    const QColor ink(ink_.red(), ink_.green(), ink_.blue());
+    painter.setBrush(Qt::NoBrush);
+    if (overlay_.selector) {
+        const auto& [corner, size] = *overlay_.selector;
+        painter.setPen(QPen(ink, 1, Qt::DashLine));
+        const QPointF extent = pixels({size.width, size.height});
+        painter.drawRect(QRectF(pixels(corner), QSizeF(extent.x(), extent.y())));
+    }
+    if (overlay_.ruler) {
+        painter.setPen(QPen(ink, 1));
+        painter.drawLine(pixels(overlay_.ruler->from), pixels(overlay_.ruler->to));
+    }
+    if (overlay_.vertex) {
+        const QPointF middle = pixels(*overlay_.vertex);
+        painter.setPen(QPen(Qt::white, 3));
+        painter.drawRect(QRectF(middle.x() - kMark, middle.y() - kMark, 2 * kMark, 2 * kMark));
+        painter.setPen(QPen(Qt::red, 1));
+        painter.drawRect(QRectF(middle.x() - kMark, middle.y() - kMark, 2 * kMark, 2 * kMark));
+        painter.drawPoint(middle);
+    }
+}
+
 void MapWidget::paintHint(QPainter& painter) const {
     painter.setPen(palette().color(QPalette::PlaceholderText));
     painter.drawText(rect().adjusted(24, 24, -24, -24), Qt::AlignCenter | Qt::TextWordWrap, hint_);
@@ -184,35 +235,28 @@ void MapWidget::wheelEvent(QWheelEvent* event) {
     wheelRest_ = (turned > 0) == (wheelRest_ > 0) ? wheelRest_ + turned : turned;
     const int steps = wheelRest_ / kStep;
     wheelRest_ %= kStep;
-    if (steps != 0) {
+    if (steps != 0 && interactive_) {
         emit zoomSteps(canvasPoint(event->position()), steps);
     }
     event->accept();
 }
 
 void MapWidget::mousePressEvent(QMouseEvent* event) {
-    if (event->button() != Qt::MiddleButton) {
-        QWidget::mousePressEvent(event);
-        return;
+    if (interactive_) {
+        emit pressed(canvasPoint(event->position()), event->button());
     }
-    setCursor(Qt::SizeAllCursor);
-    emit panStarted(canvasPoint(event->position()));
 }
 
 void MapWidget::mouseMoveEvent(QMouseEvent* event) {
-    const CanvasPoint at = canvasPoint(event->position());
-    if ((event->buttons() & Qt::MiddleButton) != 0) {
-        emit panMoved(at);
+    if (interactive_) {
+        emit pointerMoved(canvasPoint(event->position()));
     }
-    emit pointerMoved(at);
 }
 
 void MapWidget::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() != Qt::MiddleButton) {
-        QWidget::mouseReleaseEvent(event);
-        return;
+    if (interactive_) {
+        emit released(canvasPoint(event->position()), event->button());
     }
-    unsetCursor();
 }
 
 void MapWidget::leaveEvent(QEvent* /*event*/) {
@@ -220,8 +264,12 @@ void MapWidget::leaveEvent(QEvent* /*event*/) {
 }
 
 void MapWidget::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) {
+        emit escaped();
+        return;
+    }
     for (const Direction& way : kDirections) {
-        if (event->key() == way.key) {
+        if (event->key() == way.key && interactive_) {
             emit scrollAsked(way.east * kKeyScroll, way.north * kKeyScroll);
             return;
         }

@@ -5,7 +5,9 @@
 
 #include <array>
 
+#include <QElapsedTimer>
 #include <QString>
+#include <QTimer>
 #include <QWidget>
 
 #include "base/texts.h"
@@ -15,9 +17,10 @@
 namespace campora {
 
 class EdgeArrow;
+class InfoBox;
 
-/// Shows the canvas picture with scale bar and edge arrows over it, and says in canvas units what
-/// the user does on it.
+/// Shows the canvas picture with scale bar, edge arrows and what the tools lay over it, and says in
+/// canvas units what the user does on it.
 class MapWidget final : public QWidget {
     Q_OBJECT
 
@@ -28,8 +31,11 @@ public:
     [[nodiscard]] RasterCanvas& canvas() { return canvas_; }
     /// `ink`: colour of the scale bar.
     void setOverlay(const ViewControls& controls, Color ink);
+    void setToolOverlay(const MapOverlay& overlay);
     /// While there is no map the widget shows a hint instead of the scale bar.
     void setMapShown(bool shown);
+    /// While it is not, mouse and keys have no effect; the map keeps the focus all the same.
+    void setInteractive(bool interactive) { interactive_ = interactive; }
     void retranslate(const Texts& texts);
     /// Gives the canvas the widget's size and the screen's pixel ratio.
     void fitCanvas();
@@ -44,11 +50,11 @@ signals:
     void zoomSteps(CanvasPoint at, int steps);
     /// Scroll by parts of the canvas, positive is east and north.
     void scrollAsked(double east, double north);
-    /// The middle button went down at a point, and the pointer moved while it is down.
-    void panStarted(CanvasPoint at);
-    void panMoved(CanvasPoint to);
+    void pressed(CanvasPoint at, Qt::MouseButton button);
     void pointerMoved(CanvasPoint at);
+    void released(CanvasPoint at, Qt::MouseButton button);
     void pointerLeft();
+    void escaped();
     /// The window is on the screen for the first time.
     void firstShown();
 
@@ -63,7 +69,11 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    /// Asks for a repaint, but not more often than a screen shows them: a fast replay draws far
+    /// more often.
+    void repaintSoon();
     void paintScaleBar(QPainter& painter) const;
+    void paintToolOverlay(QPainter& painter) const;
     void paintHint(QPainter& painter) const;
 
     RasterCanvas canvas_;
@@ -72,8 +82,13 @@ private:
     Color ink_;
     /// Up, down, right, left.
     std::array<EdgeArrow*, 4> arrows_{};
+    MapOverlay overlay_;
+    InfoBox* info_;
+    QElapsedTimer sincePaint_;
+    QTimer nextPaint_;
     QString hint_;
     bool mapShown_ = false;
+    bool interactive_ = false;
     bool painted_ = false;
     int wheelRest_ = 0;
 };

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include <QApplication>
+#include <QDir>
 #include <QFileInfo>
 
 #include "app/data_folder.h"
@@ -16,24 +17,30 @@ namespace campora {
 
 namespace {
 
-std::vector<std::string> pathsOf(const QStringList& arguments) {
-    std::vector<std::string> paths;
-    for (const QString& argument : arguments.mid(1)) {
-        // Whole paths: the title shows them, and a file is known again whichever way it comes.
-        paths.push_back(toUtf8(QFileInfo(argument).absoluteFilePath()));
+/// The command line, with whole paths: the title shows them, and a file is known again whichever
+/// way it comes.
+StartRequest startRequest() {
+    std::vector<std::string> arguments;
+    for (const QString& argument : QApplication::arguments().mid(1)) {
+        const bool isPath = !argument.startsWith('-');
+        arguments.push_back(toUtf8(isPath ? QFileInfo(argument).absoluteFilePath() : argument));
     }
-    return paths;
+    return parseCommandLine(arguments);
+}
+
+std::string programPath() {
+    return toUtf8(QDir::toNativeSeparators(QApplication::applicationFilePath()));
 }
 
 }  // namespace
 
 Program::Program()
-    : window_({dialogs_, settings_, locale_, clipboard_, clock_, classes_}, locale_.language(),
+    : window_({dialogs_, settings_, locale_, clipboard_, clock_, classes_}, Language::Spanish,
               dataFolderOf(toUtf8(QApplication::applicationDirPath()))),
       widgetTexts_(window_.session().texts()) {
     dialogs_.attach(window_, window_.session().texts());
     QApplication::installTranslator(&widgetTexts_);
-    window_.start(pathsOf(QApplication::arguments()));
+    window_.start(programPath(), startRequest());
     window_.show();
 }
 

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "desktop/main_window.h"
 #include "desktop/freedesktop_classes.h"
+#include "desktop/main_window.h"
 #include "desktop/qt_clipboard.h"
 #include "desktop/qt_clock.h"
 #include "desktop/qt_dialogs.h"

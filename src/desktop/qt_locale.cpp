@@ -17,14 +17,18 @@ std::string QtLocale::shortDateForm() const {
     return digitsAlone ? toUtf8(form.toLower()) : "dd/mm/yyyy";
 }
 
-Language QtLocale::language() const {
+int QtLocale::languageNumber() const {
+    // The numbers of Windows ("Windows Language Code Identifier Reference"), with the country where
+    // the language is most at home; the toolkit gives names only.
     switch (locale_.language()) {
     case QLocale::Spanish:
-        return Language::Spanish;
+        return 0x2C0A;
     case QLocale::Portuguese:
-        return Language::Portuguese;
+        return 0x0416;
+    case QLocale::English:
+        return 0x0409;
     default:
-        return Language::English;
+        return 0;
     }
 }
 

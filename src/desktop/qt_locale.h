@@ -5,7 +5,6 @@
 
 #include <QLocale>
 
-#include "base/texts.h"
 #include "platform/user_locale.h"
 
 namespace campora {
@@ -18,8 +17,7 @@ public:
     [[nodiscard]] char decimalSymbol() const override;
     /// "dd/mm/yyyy" where the user's short form writes the month in letters.
     [[nodiscard]] std::string shortDateForm() const override;
-    /// The user's language, or English when the program does not speak it.
-    [[nodiscard]] Language language() const;
+    [[nodiscard]] int languageNumber() const override;
 
 private:
     QLocale locale_;

@@ -20,14 +20,14 @@ using Names = std::vector<std::string>;
 TEST(Session, StartsEmptyWithTheUsersSettings) {
     SessionDesk desk(Language::English);
     desk.folder.write("matriculas.txt", "6001:LV-XYZ\r\n");
-    desk.settings.values = {{"mapBackcolor", "255"}, {"DrawBorders", "False"}, {"language", "22"}};
+    desk.settings.values = {{"mapBackcolor", "255"}, {"DrawBorders", "False"}};
     desk.window.mapActive = true;
     desk.session.start();
     EXPECT_EQ(desk.window.title, "Campora 0.1.0");
     EXPECT_FALSE(desk.window.mapActive);
     EXPECT_EQ(desk.canvas.calls(), (Names{"clear 0x0000FF", "refresh"}));
     EXPECT_FALSE(desk.session.style().drawBorders);
-    EXPECT_EQ(desk.window.legend.reference.front().text, "Pulverizado");
+    EXPECT_EQ(desk.window.legend.reference.front().text, "Sprayed");
     ASSERT_TRUE(desk.session.loadFile(desk.track("log0001.nbr", 5), false, true));
     EXPECT_EQ(desk.listed(), Names{"log0001.nbr (LV-XYZ)"});
 }

@@ -41,7 +41,7 @@ protected:
     void openWindow(Language language) {
         window = std::make_unique<MainWindow>(Desktop{dialogs, settings, locale, clipboard, clock, classes},
                                               language, folder.path());
-        window->start({});
+        window->start("/opt/campora/campora", {});
         window->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
     }

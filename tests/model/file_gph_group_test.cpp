@@ -52,6 +52,7 @@ public:
     }
     void clearAlarmas() override { ++cleared; }
     void trocha(float /*metres*/) override {}
+    [[nodiscard]] float speedN(std::int32_t /*n*/) const override { return 0; }
 
 private:
     float hectares_;

@@ -75,6 +75,10 @@ public:
 
     [[nodiscard]] char decimalSymbol() const override { return symbol_; }
     [[nodiscard]] std::string shortDateForm() const override { return dateForm_; }
+    [[nodiscard]] int languageNumber() const override { return language; }
+
+    /// Spanish of Argentina.
+    int language = 0x2C0A;
 
 private:
     char symbol_;

@@ -1,0 +1,52 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/start_up.h"
+
+#include <charconv>
+
+#include "app/file_types.h"
+#include "app/session.h"
+#include "app/settings.h"
+#include "base/numbers.h"
+
+namespace campora {
+
+std::int32_t systemLanguage(const UserLocale& locale) {
+    const std::string digits = hexText(static_cast<std::uint32_t>(locale.languageNumber()), 4);
+    if (digits.size() != 4) {
+        return 0;
+    }
+    return static_cast<std::int32_t>(leadingHex(std::string_view(digits).substr(2)));
+}
+
+void loadMainWindow(Session& session, std::string_view programPath) {
+    const Platform& platform = session.platform();
+    session.setLanguage(languageOfCode(readNumber(platform.settings, SettingId::Language),
+                                       systemLanguage(platform.locale)));
+    writeText(platform.settings, SettingId::RunPath, programPath);
+    registerFileTypes(programPath, platform.classes);
+    session.start();
+}
+
+void processCommandLine(Session& session, const StartRequest& request) {
+    if (!request.paths.empty()) {
+        session.fileCommands().openPaths(request.paths, true);
+    }
+    Replay& replay = session.replay();
+    replay.repeat = request.repeat;
+    if (request.realtime) {
+        replay.setSpeed(Replay::kLongestPause);
+    }
+    if (request.anim) {
+        replay.play();
+    }
+}
+
+void unloadMainWindow(Session& session) {
+    SettingsStore& settings = session.platform().settings;
+    writeText(settings, SettingId::PrintDescription, session.printDescription);
+    session.replay().stopReplay();
+}
+
+}  // namespace campora

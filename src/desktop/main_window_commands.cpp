@@ -1,0 +1,157 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+// The commands of the window that open dialogs, and the menus whose entries follow the work.
+
+#include <utility>
+
+#include <QAction>
+#include <QMenu>
+
+#include "base/paths.h"
+#include "desktop/coord_dialog.h"
+#include "desktop/main_window.h"
+#include "desktop/map_area.h"
+#include "desktop/map_widget.h"
+#include "desktop/pointer_override.h"
+#include "desktop/qt_text.h"
+#include "desktop/side_panel.h"
+
+namespace campora {
+
+namespace {
+
+/// A file or folder name in a menu, where "&" marks a key.
+QString menuText(std::string_view text) {
+    return toQt(text).replace("&", "&&");
+}
+
+}  // namespace
+
+void MainWindow::perform(const ActionRow& row) {
+    row.run(*this);
+    commandsChanged();
+}
+
+void MainWindow::openFile() {
+    const PointerOverride busy(Qt::WaitCursor);
+    session_->fileCommands().fileOpen();
+}
+
+void MainWindow::openPaths(const std::vector<std::string>& paths, bool inPlaceOfOthers) {
+    const PointerOverride busy(Qt::WaitCursor);
+    session_->fileCommands().openPaths(paths, inPlaceOfOthers);
+}
+
+void MainWindow::openWorkOrders() {}
+
+void MainWindow::editSummary() {}
+
+void MainWindow::copyImage() {
+    session_->tools().copyImage(desktop_.clipboard);
+}
+
+void MainWindow::goToCoordinate() {
+    CoordDialog dialog(this, desktop_.dialogs, session_->texts(), desktop_.locale,
+                       session_->coordType());
+    if (const std::optional<LonLat> position = dialog.showInput()) {
+        session_->tools().goTo(*position);
+    }
+}
+
+void MainWindow::useTool(MapTools::Tool tool) {
+    session_->tools().toggleTool(tool);
+    mapArea_->map().setFocus();
+}
+
+void MainWindow::toggleSidePanel() {
+    sidePanel_->setVisible(sidePanel_->isHidden());
+}
+
+bool MainWindow::sidePanelShown() const {
+    return !sidePanel_->isHidden();
+}
+
+void MainWindow::toggleFullScreen() {
+    setWindowState(windowState() ^ Qt::WindowFullScreen);
+}
+
+void MainWindow::mnuHelpLangEsp() {
+    session_->setLanguage(Language::Spanish);
+}
+
+void MainWindow::mnuHelpLangIng() {
+    session_->setLanguage(Language::English);
+}
+
+void MainWindow::mnuHelpLangPort() {
+    session_->setLanguage(Language::Portuguese);
+}
+
+void MainWindow::connectMenus() {
+    connect(&actions_->menu(MenuId::Recent), &QMenu::aboutToShow, this,
+            &MainWindow::fillRecentMenu);
+    connect(&actions_->menu(MenuId::Channel), &QMenu::aboutToShow, this,
+            &MainWindow::fillChannelMenu);
+    connect(&actions_->menu(MenuId::Alarms), &QMenu::aboutToShow, this, &MainWindow::fillAlarmMenu);
+}
+
+void MainWindow::fillRecentMenu() {
+    QMenu& menu = actions_->menu(MenuId::Recent);
+    menu.clear();
+    int number = 0;
+    for (const std::string& path : session_->fileCommands().recentFiles()) {
+        QAction* entry =
+            menu.addAction(QString("&%1 ").arg(++number) + menuText(fileNamePart(path)));
+        entry->setToolTip(plainToolTip(toQt(path)));
+        connect(entry, &QAction::triggered, this, [this, path] {
+            const PointerOverride busy(Qt::WaitCursor);
+            session_->fileCommands().openRecent(path);
+        });
+    }
+    if (number == 0) {
+        menu.addAction(toQt(session_->texts()(TextId::NoRecentFiles)))->setEnabled(false);
+    }
+    menu.setToolTipsVisible(true);
+}
+
+void MainWindow::fillChannelMenu() {
+    QMenu& menu = actions_->menu(MenuId::Channel);
+    menu.clear();
+    MapModes& modes = session_->modes();
+    const auto add = [&](const QString& caption, int channel, auto choose) {
+        QAction* entry = menu.addAction(caption, this, choose);
+        entry->setCheckable(true);
+        entry->setChecked(modes.isChannel(channel));
+    };
+    add(toQt(session_->texts()(TextId::ChannelTotal)), -1,
+        [&modes] { modes.mnuColorScaleSelTotal(); });
+    for (int i = 0; i < modes.channelCount(); ++i) {
+        add(toQt(modes.channelCaption(i)), i, [&modes, i] { modes.mnuColorScaleSelCH(i); });
+    }
+}
+
+void MainWindow::fillAlarmMenu() {
+    QMenu& menu = actions_->menu(MenuId::Alarms);
+    if (alarmActions_.empty()) {
+        menu.addSeparator();
+    }
+    for (QAction* old : std::exchange(alarmActions_, {})) {
+        delete old;
+    }
+    const std::vector<AlarmEntry> entries = session_->modes().alarmEntries();
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        if (!entries[i].visible) {
+            continue;
+        }
+        QAction* entry = menu.addAction(toQt(entries[i].caption), this, [this, i] {
+            session_->modes().mnuAlarmsAlarm(static_cast<int>(i));
+        });
+        entry->setCheckable(true);
+        entry->setChecked(entries[i].checked);
+        entry->setEnabled(mapActive_);
+        alarmActions_.push_back(entry);
+    }
+}
+
+}  // namespace campora

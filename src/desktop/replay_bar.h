@@ -1,0 +1,61 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QElapsedTimer>
+#include <QTimer>
+#include <QWidget>
+
+#include "base/texts.h"
+#include "platform/main_window_controls.h"
+
+class QGroupBox;
+class QLabel;
+class QSlider;
+class QToolButton;
+
+namespace campora {
+
+/// The controls of the replay: play, stop, position, speed, and the read-out of the speed.
+class ReplayBar final : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit ReplayBar(QWidget* parent = nullptr);
+
+    void setState(const ReplayState& state);
+    /// Whether the controls that there is something for can be used.
+    void setActive(bool active);
+    /// Empty: nothing is read out.
+    void setSpeedReadout(const QString& text);
+    void setSpeedShown(bool shown);
+    void setSpeed(int speed);
+    void retranslate(const Texts& texts);
+
+signals:
+    void playAsked();
+    void stopAsked();
+    /// The user moved the position.
+    void seekAsked(int position);
+    void speedChosen(int speed);
+
+private:
+    void showPosition();
+    void enableControls();
+
+    QToolButton* play_;
+    QToolButton* stop_;
+    QSlider* position_;
+    QLabel* speedCaption_;
+    QLabel* speedValue_;
+    QGroupBox* speedFrame_;
+    QSlider* speed_;
+    ReplayState state_;
+    bool active_ = true;
+    /// A fast replay reports far more positions than a screen shows.
+    QElapsedTimer sinceShown_;
+    QTimer nextShown_;
+};
+
+}  // namespace campora
