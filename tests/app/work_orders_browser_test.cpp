@@ -1,0 +1,178 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/work_orders_browser.h"
+
+#include <filesystem>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "base/paths.h"
+#include "support/session_desk.h"
+
+namespace campora {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+using Names = std::vector<std::string>;
+
+/// A card with order 15 of two works and a work without a number, and an open report.
+class WorkOrdersBrowserTest : public ::testing::Test {
+protected:
+    SessionDesk desk;
+    std::string card = desk.folder.file("card");
+    std::vector<int> percents;
+    WorkOrdersBrowser::Step step = [this](int percent) {
+        percents.push_back(percent);
+        return true;
+    };
+
+    void SetUp() override {
+        desk.session.start();
+        ASSERT_TRUE(desk.session.loadFile(desk.report("abierto.rpt"), true, true));
+        writeTrack("card/log1.nbr", "15", "6001");
+        writeTrack("card/log2.nbr", "15", "6002");
+        writeTrack("card/log3.nbr", "0", "6003");
+    }
+    void writeTrack(const std::string& name, const std::string& order, const std::string& serial,
+                    int points = 3) const {
+        TrackText track;
+        track.order = order;
+        track.serial = serial;
+        for (int i = 0; i < points; ++i) {
+            track.addPoint(100U * static_cast<std::uint32_t>(i), 0, 5, 20);
+        }
+        desk.folder.write(name, track.bytes());
+    }
+};
+
+TEST_F(WorkOrdersBrowserTest, ListsTheOrdersOfAFolder) {
+    WorkOrdersBrowser browser(desk.session);
+    EXPECT_TRUE(browser.showFolder(card));
+    EXPECT_THAT(browser.rows(), ElementsAre(OrderRow{"Orden 15", "15/07/16", "18:03:32", "2"},
+                                            OrderRow{"Sin número", "15/07/16", "18:03:32", "1"}));
+    EXPECT_EQ(browser.selected(), std::nullopt);
+    browser.select(2);
+    EXPECT_EQ(browser.selected(), std::nullopt);
+    EXPECT_EQ(browser.open(step), 0);
+    browser.copy();
+    EXPECT_THAT(desk.dialogs.folders, IsEmpty());
+}
+
+TEST_F(WorkOrdersBrowserTest, StartsWhereAnOrderWasOpenedLast) {
+    WorkOrdersBrowser browser(desk.session);
+    EXPECT_EQ(browser.startFolder(), desk.folder.path());
+    browser.showFolder(card);
+    browser.select(1);
+    EXPECT_EQ(desk.settings.values.count("OpenZELPath"), 0U);
+    browser.open(step);
+    EXPECT_EQ(browser.startFolder(), card);
+    std::filesystem::remove_all(nativePath(card));
+    EXPECT_EQ(browser.startFolder(), desk.folder.path());
+}
+
+TEST_F(WorkOrdersBrowserTest, AScanGivesWayToTheNextFolder) {
+    desk.folder.write("leer/LEEME.TXT", "");
+    WorkOrdersBrowser browser(desk.session);
+    bool changed = false;
+    desk.clock.onEvents = [&](int) {
+        if (!std::exchange(changed, true)) {
+            EXPECT_TRUE(browser.showFolder(desk.folder.file("leer")));
+        }
+    };
+    EXPECT_FALSE(browser.showFolder(card));
+    EXPECT_EQ(browser.folder(), desk.folder.file("leer"));
+    EXPECT_THAT(browser.orders(), IsEmpty());
+    desk.clock.onEvents = [&](int) { browser.cancel(); };
+    EXPECT_FALSE(browser.showFolder(card));
+    EXPECT_THAT(browser.orders(), IsEmpty());
+}
+
+TEST_F(WorkOrdersBrowserTest, OpensTheFilesOfAnOrderBesideTheOthers) {
+    WorkOrdersBrowser browser(desk.session);
+    browser.showFolder(card);
+    browser.select(0);
+    const std::size_t redraws = desk.redraws();
+    EXPECT_EQ(browser.open(step), 2);
+    EXPECT_EQ(desk.listed(), (Names{"abierto.rpt", "15 - log1.nbr", "15 - log2.nbr"}));
+    EXPECT_THAT(percents, ElementsAre(50, 100));
+    EXPECT_EQ(desk.redraws(), redraws + 1);
+    browser.select(1);
+    EXPECT_EQ(browser.open([](int) { return false; }), 1);
+    browser.cancel();
+    EXPECT_EQ(desk.session.plotCount(), 4) << "what was opened stays";
+}
+
+TEST_F(WorkOrdersBrowserTest, APreviewComesAndGoesWithTheSelection) {
+    const Names open = {"abierto.rpt"};
+    const Names alone = {"15 - log1.nbr", "15 - log2.nbr"};
+    const Names adding = {"abierto.rpt", "15 - log1.nbr", "15 - log2.nbr"};
+    WorkOrdersBrowser browser(desk.session);
+    EXPECT_THAT(browser.previewChoices(),
+                ElementsAre(OrderPreview::None, OrderPreview::Alone, OrderPreview::Adding));
+    browser.showFolder(card);
+    browser.select(0);
+    EXPECT_EQ(desk.listed(), open);
+    browser.choosePreview(OrderPreview::Alone);
+    EXPECT_EQ(desk.listed(), alone);
+    browser.choosePreview(OrderPreview::Adding);
+    EXPECT_EQ(desk.listed(), adding);
+    browser.select(1);
+    EXPECT_EQ(desk.listed(), (Names{"abierto.rpt", "log3.nbr"}));
+    browser.select(std::nullopt);
+    EXPECT_EQ(desk.listed(), open);
+    browser.select(0);
+    browser.showFolder(card);
+    EXPECT_EQ(desk.listed(), open) << "another folder has no selection";
+    browser.select(0);
+    browser.choosePreview(OrderPreview::Alone);
+    EXPECT_EQ(browser.open(step), 2);
+    EXPECT_EQ(desk.listed(), adding);
+}
+
+TEST_F(WorkOrdersBrowserTest, CancellingPutsBackWhatAPreviewReplaced) {
+    writeTrack("menos.nbr", "15", "6001", 2);  // the work of log1.nbr, less complete
+    ASSERT_TRUE(desk.session.loadFile(desk.folder.file("menos.nbr"), false, true));
+    const Names before = desk.listed();
+    const std::string title = desk.window.title;
+    for (const OrderPreview preview : {OrderPreview::Alone, OrderPreview::Adding}) {
+        WorkOrdersBrowser browser(desk.session);
+        browser.showFolder(card);
+        browser.choosePreview(preview);
+        browser.select(0);
+        EXPECT_NE(desk.listed(), before);
+        browser.cancel();
+        EXPECT_EQ(desk.listed(), before);
+        EXPECT_EQ(desk.window.title, title);
+    }
+    EXPECT_THAT(desk.dialogs.questions, IsEmpty()) << "a preview asks nothing";
+    desk.session.reset();
+    EXPECT_EQ(WorkOrdersBrowser(desk.session).previewChoices().size(), 2U);
+}
+
+TEST_F(WorkOrdersBrowserTest, CopiesToAFolderThatItRemembers) {
+    WorkOrdersBrowser browser(desk.session);
+    browser.showFolder(card);
+    browser.select(0);
+    desk.dialogs.folderAnswers = {"", desk.folder.path(), ""};
+    for (int i = 0; i < 3; ++i) {
+        browser.copy();
+    }
+    ASSERT_EQ(desk.dialogs.folders.size(), 3U);
+    EXPECT_EQ(desk.dialogs.folders[0].caption, "Seleccionar carpeta");
+    EXPECT_EQ(desk.dialogs.folders[0].entry, "[Archivos de la orden]");
+    EXPECT_EQ(desk.dialogs.folders[0].folder, card);
+    EXPECT_EQ(desk.dialogs.folders[2].folder, desk.folder.path());
+    EXPECT_EQ(desk.settings.values["SelectFolder"], desk.folder.path());
+    EXPECT_THAT(desk.dialogs.messages, ElementsAre("Information|Campora| 2 archivos copiados"));
+    EXPECT_TRUE(std::filesystem::exists(nativePath(desk.folder.file("log2.nbr"))));
+}
+
+}  // namespace
+}  // namespace campora
