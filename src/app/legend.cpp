@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "app/summary_names.h"
+#include "app/typed_number.h"
 #include "base/dates.h"
 #include "base/numbers.h"
 
@@ -97,8 +98,7 @@ std::vector<LegendRow> referenceRows(const MapStyle& style, const Texts& texts,
         rows.push_back(row(colors.noAlarm, TextId::LegendNoAlarm));
     }
     if (style.mode == ColorMode::Error) {
-        std::string limit = numberText(style.errorLimit);
-        std::replace(limit.begin(), limit.end(), '.', locale.decimalSymbol());
+        const std::string limit = numberToType(style.errorLimit, locale.decimalSymbol());
         rows.push_back({style.errorSample, texts.format(TextId::LegendErrors, {limit})});
     }
     return rows;
@@ -115,6 +115,9 @@ LegendContent legendContent(const MapStyle& style, const Texts& texts, const Use
     const ColorScale& scale = *style.scale;
     const ClassTexts classTexts(scale, locale);
     legend.unit = shownUnit(scale.unit, texts);
+    legend.classesCanChange = scale.allowClassEdit;
+    legend.valuesCanChange = scale.allowValueChange;
+    legend.valueChangeCaption = texts(scale.valueChangeCaption);
     for (int i = 0; i < scale.count(); ++i) {
         legend.classes.push_back({scale.getClass(i).color, classTexts.text(i)});
     }

@@ -6,9 +6,9 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
-#include <string>
 #include <system_error>
 
+#include "base/numbers.h"
 #include "base/text.h"
 
 namespace campora {
@@ -29,6 +29,12 @@ std::optional<double> typedNumber(std::string_view text) {
     const bool isWhole = error == std::errc() && end == last && !typed.starts_with("+-");
     // Not-a-number and infinity have a text of their own, which the comparison refuses.
     return isWhole && std::abs(number) < kLimit ? std::optional(number) : std::nullopt;
+}
+
+std::string numberToType(double value, char decimalSymbol) {
+    std::string text = numberText(static_cast<float>(value));
+    std::replace(text.begin(), text.end(), '.', decimalSymbol);
+    return text;
 }
 
 }  // namespace campora

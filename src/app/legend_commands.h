@@ -1,0 +1,75 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+
+#include "base/color.h"
+#include "base/text_id.h"
+
+namespace campora {
+
+class ColorScale;
+class Session;
+
+/// A ramp to choose as a whole; without a middle it runs straight from start to end.
+struct ReadyRamp {
+    TextId name{};
+    Color start;
+    std::optional<Color> middle;
+    Color end;
+};
+
+/// The ramps that the legend offers, the first one being that of new scales. Those that people who
+/// are blind to some colours can read are viridis (S. van der Walt and N. Smith, 2015, in the
+/// public domain) and cividis (J. Nuñez, C. Anderton and R. Renslow, PLOS ONE 13(7), 2018), each
+/// by its first, middle and last colour.
+[[nodiscard]] std::span<const ReadyRamp> readyRamps();
+
+/// What the user does to the scale that the legend shows. Map and legend follow at once; a
+/// cancelled question changes nothing, an answer that makes no sense is refused with a message.
+class LegendCommands {
+public:
+    static constexpr int kMostClasses = 64;
+
+    /// `session` outlives this.
+    explicit LegendCommands(Session& session) : session_(session) {}
+
+    // Refused with a message on scales whose classes are fixed.
+    void addClass();
+    void removeClass();
+    /// Asks for 1 to `kMostClasses`.
+    void askClassNumber();
+    /// Asks for the lowest and the highest value.
+    void askExtremes();
+
+    void chooseRampStart();
+    void chooseRampMiddle();
+    void dropRampMiddle();
+    void chooseRampEnd();
+    /// `index`: in `readyRamps()`.
+    void useReadyRamp(int index);
+
+    // Classes that the scale does not have are ignored.
+    void chooseClassColor(int index);
+    /// Asks for the value of a single-value class; refused with a message on scales whose values
+    /// are fixed.
+    void askClassValue(int index);
+
+private:
+    [[nodiscard]] ColorScale& scale() const;
+    [[nodiscard]] bool hasClass(int index) const;
+    [[nodiscard]] bool classesMayChange() const;
+    void setClassNumber(double number);
+    /// The number typed; none when the user cancels or types something else, which is said.
+    [[nodiscard]] std::optional<double> ask(TextId prompt, TextId caption, double proposed) const;
+    [[nodiscard]] std::string typed(double value) const;
+    void refuse(const std::string& text) const;
+
+    Session& session_;
+};
+
+}  // namespace campora

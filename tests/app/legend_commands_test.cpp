@@ -1,0 +1,295 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/legend_commands.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <initializer_list>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "support/session_desk.h"
+
+namespace campora {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::SizeIs;
+
+using Bounds = std::vector<double>;
+
+/// A started session whose current file has a scale of its own, with classes from 0 to 100.
+struct LegendDesk : SessionDesk {
+    LegendDesk() {
+        session.start();
+        NamedFile& file = add("plan");
+        addScale(file, 100);
+        scale().setClassNumber(4);
+        session.selectFile(0);
+        canvas.forget();
+    }
+    [[nodiscard]] ColorScale& scale() { return *session.files().file(0).File_escalaColores(); }
+    /// The lower bounds and the last upper one.
+    [[nodiscard]] Bounds bounds() {
+        Bounds found;
+        for (const Clase& clase : scale().classes()) {
+            found.push_back(clase.lower);
+        }
+        found.push_back(scale().classes().back().upper);
+        return found;
+    }
+    void makeSingleValues(std::initializer_list<double> values) {
+        SetList set;
+        for (const double value : values) {
+            set.addDosis(value);
+        }
+        scale().loadFromSetList(set, 0);
+        scale().allowValueChange = true;
+        session.showLegend();
+        canvas.forget();
+    }
+
+    LegendCommands& commands = session.legend();
+};
+
+TEST(LegendCommands, WorkOnTheScaleThatIsShown) {
+    LegendDesk desk;
+    desk.commands.addClass();
+    EXPECT_EQ(desk.bounds(), (Bounds{0, 20, 40, 60, 80, 100}));
+    EXPECT_EQ(desk.window.legend.classes.size(), 5U);
+    EXPECT_FALSE(desk.canvas.calls().empty());
+    desk.session.selectFile(std::nullopt);
+    desk.commands.removeClass();
+    EXPECT_EQ(desk.session.defaultScale().count(), 5);
+    EXPECT_EQ(desk.scale().count(), 5) << "not the one in the legend";
+}
+
+TEST(LegendCommands, TheNumberOfClassesStaysWithinItsLimits) {
+    struct Row {
+        const char* typed;
+        int classes;
+        bool refused = false;
+    };
+    const Row rows[] = {
+        {"1", 1},
+        {"64", 64},
+        {" 7 ", 7},
+        {"0", 4, true},
+        {"65", 4, true},
+        {"", 4, false},
+        {"2,5", 4, true},
+        {"-1", 4, true},
+        {"muchas", 4, true},
+        {"999999999", 4, true},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.typed);
+        LegendDesk desk;
+        desk.dialogs.inputAnswers = {row.typed};
+        desk.commands.askClassNumber();
+        EXPECT_THAT(desk.dialogs.inputs, ElementsAre(HasSubstr("|Escala de colores|4")));
+        EXPECT_EQ(desk.scale().count(), row.classes);
+        EXPECT_THAT(desk.dialogs.messages, SizeIs(row.refused ? 1 : 0));
+    }
+    LegendDesk desk;
+    desk.scale().setClassNumber(64);
+    desk.commands.addClass();
+    EXPECT_EQ(desk.scale().count(), 64);
+    EXPECT_THAT(desk.dialogs.messages, ElementsAre(HasSubstr("1 a 64: 65")));
+    desk.scale().setClassNumber(1);
+    desk.commands.removeClass();
+    EXPECT_EQ(desk.scale().count(), 1);
+}
+
+TEST(LegendCommands, ExtremesAreTypedInAnyForm) {
+    struct Row {
+        const char* name;
+        std::vector<std::string> answers;
+        Bounds bounds;
+        const char* says = nullptr;
+    };
+    const Bounds before = {0, 25, 50, 75, 100};
+    const Row rows[] = {
+        {"with a comma", {"10,5", "12,5"}, {10.5, 11, 11.5, 12, 12.5}},
+        {"with a point", {"-1.5", "0.5"}, {-1.5, -1, -0.5, 0, 0.5}},
+        {"equal", {"7", "7"}, before, "menor que el máximo: 7 y 7"},
+        {"swapped", {"100", "50"}, before, "menor que el máximo"},
+        {"no number below", {"bajo"}, before, "bajo"},
+        {"no number above", {"1", "alto"}, before, "alto"},
+        {"cancelled at first", {""}, before},
+        {"cancelled later", {"1", ""}, before},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        LegendDesk desk;
+        desk.dialogs.inputAnswers.assign(row.answers.begin(), row.answers.end());
+        desk.commands.askExtremes();
+        EXPECT_EQ(desk.bounds(), row.bounds);
+        EXPECT_TRUE(desk.dialogs.inputAnswers.empty());
+        EXPECT_EQ(desk.dialogs.messages.size(), row.says == nullptr ? 0U : 1U);
+        if (row.says != nullptr) {
+            EXPECT_THAT(desk.dialogs.messages.front(), HasSubstr(row.says));
+        }
+    }
+}
+
+TEST(LegendCommands, QuestionsProposeWhatIsThere) {
+    LegendDesk desk;
+    desk.locale = FixedLocale(',');
+    desk.scale().calcRanges(static_cast<double>(100.4F), 200, true);
+    desk.dialogs.inputAnswers = {"1", ""};
+    desk.commands.askExtremes();
+    EXPECT_THAT(desk.dialogs.inputs, ElementsAre(HasSubstr("|100,4"), HasSubstr("|200")));
+}
+
+TEST(LegendCommands, FixedClassesAreNotTouched) {
+    using Command = void (LegendCommands::*)();
+    for (const Command command : {&LegendCommands::addClass, &LegendCommands::removeClass,
+                                  &LegendCommands::askClassNumber, &LegendCommands::askExtremes}) {
+        LegendDesk desk;
+        desk.scale().allowClassEdit = false;
+        (desk.commands.*command)();
+        EXPECT_EQ(desk.bounds(), (Bounds{0, 25, 50, 75, 100}));
+        EXPECT_THAT(
+            desk.dialogs.messages,
+            ElementsAre("Exclamation|Campora|Las clases de esta escala no se pueden cambiar"));
+        EXPECT_TRUE(desk.dialogs.inputs.empty());
+    }
+}
+
+TEST(LegendCommands, RampColoursAreChosenOneByOne) {
+    LegendDesk desk;
+    desk.scale().allowClassEdit = false;
+    desk.scale().setClassNumber(3);
+    const auto colors = [&desk] {
+        std::vector<std::uint32_t> found;
+        for (const LegendRow& row : desk.window.legend.classes) {
+            found.push_back(row.color.value);
+        }
+        return found;
+    };
+    desk.dialogs.colorAnswers = {std::nullopt, Color{0x000001}, Color{0x000002}, Color{0x000003}};
+    desk.commands.chooseRampStart();
+    EXPECT_THAT(colors(), ElementsAre(0x00FFFFU, 0x00FF00U, 0x0000FFU)) << "cancelled";
+    desk.commands.chooseRampStart();
+    desk.commands.chooseRampMiddle();
+    desk.commands.chooseRampEnd();
+    EXPECT_THAT(colors(), ElementsAre(1U, 2U, 3U));
+    EXPECT_THAT(desk.dialogs.colors,
+                ElementsAre(Color{0x00FFFF}, Color{0x00FFFF}, Color{0x00FF00}, Color{0x0000FF}));
+    desk.dialogs.colorAnswers = {Color{0x000009}};
+    desk.commands.chooseRampEnd();
+    desk.commands.dropRampMiddle();
+    EXPECT_THAT(colors(), ElementsAre(1U, 5U, 9U));
+    EXPECT_EQ(desk.scale().colorMiddle, std::nullopt);
+    desk.dialogs.colorAnswers = {std::nullopt, Color{0x000100}};
+    desk.commands.chooseRampMiddle();
+    desk.commands.chooseClassColor(1);
+    EXPECT_THAT(colors(), ElementsAre(1U, 0x100U, 9U));
+    EXPECT_EQ(desk.dialogs.colors.back(), Color{5});
+    desk.commands.chooseClassColor(3);
+    desk.commands.chooseClassColor(-1);
+    EXPECT_THAT(desk.dialogs.colors, SizeIs(7)) << "no such class";
+}
+
+/// Relative luminance of a colour, 0 to 1, by the definition of WCAG 2.
+double luminance(Color color) {
+    const auto linear = [](int component) {
+        const double c = component / 255.0;
+        return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.red()) + 0.7152 * linear(color.green()) +
+           0.0722 * linear(color.blue());
+}
+
+TEST(LegendCommands, ReadyRampsColourTheClasses) {
+    ASSERT_GE(readyRamps().size(), 4U);
+    int readableByLightness = 0;
+    for (std::size_t i = 0; i < readyRamps().size(); ++i) {
+        const ReadyRamp& ramp = readyRamps()[i];
+        LegendDesk desk;
+        SCOPED_TRACE(desk.session.texts()(ramp.name));
+        desk.scale().setClassNumber(7);
+        desk.commands.useReadyRamp(static_cast<int>(i));
+        const std::vector<LegendRow>& shown = desk.window.legend.classes;
+        EXPECT_EQ(shown.front().color, ramp.start);
+        EXPECT_EQ(shown.back().color, ramp.end);
+        EXPECT_EQ(desk.scale().colorMiddle, ramp.middle);
+        std::vector<double> light;
+        for (const LegendRow& row : shown) {
+            light.push_back(luminance(row.color));
+        }
+        const bool rises = std::is_sorted(light.begin(), light.end());
+        readableByLightness += rises || std::is_sorted(light.rbegin(), light.rend()) ? 1 : 0;
+    }
+    EXPECT_GE(readableByLightness, 3) << "those that do not depend on telling hues apart";
+    LegendDesk desk;
+    desk.commands.useReadyRamp(static_cast<int>(readyRamps().size()));
+    desk.commands.useReadyRamp(-1);
+    EXPECT_EQ(desk.scale().colorStart, ColorScale().colorStart);
+    desk.commands.useReadyRamp(0);
+    EXPECT_EQ(desk.scale().colorEnd, ColorScale().colorEnd);
+}
+
+TEST(LegendCommands, AValueIsTypedWhereItMayChange) {
+    struct Row {
+        const char* typed;
+        double value;  ///< of the second class, 150 before
+        bool refused = false;
+    };
+    for (const Row& row :
+         {Row{"160,0", 160}, Row{"160.0", 160}, Row{"", 150}, Row{"mucho", 150, true}}) {
+        SCOPED_TRACE(row.typed);
+        LegendDesk desk;
+        desk.makeSingleValues({100, 150, 200});
+        desk.scale().valueChangeCaption = TextId::AskClassNumber;
+        desk.dialogs.inputAnswers = {row.typed};
+        double told = 150;
+        const auto told_ = desk.scale().onClassValueChanged(
+            [&told](int index, double, double value) { told = index == 1 ? value : 0; });
+        desk.commands.askClassValue(1);
+        EXPECT_THAT(desk.dialogs.inputs,
+                    ElementsAre(std::to_string(static_cast<int>(TextId::AskClassValue)) +
+                                "|Cantidad de clases (1 a 64)|150"));
+        EXPECT_EQ(desk.bounds()[1], row.value);
+        EXPECT_EQ(told, row.value);
+        EXPECT_EQ(desk.redraws(), row.value == 150 ? 0U : 1U);
+        EXPECT_EQ(desk.window.legend.classes[1].text, row.value == 150 ? "150" : "160");
+        EXPECT_THAT(desk.dialogs.messages, SizeIs(row.refused ? 1 : 0));
+    }
+}
+
+TEST(LegendCommands, FixedValuesAndIntervalsKeepTheirs) {
+    LegendDesk desk;
+    desk.commands.askClassValue(0);
+    desk.scale().allowValueChange = true;
+    desk.dialogs.inputAnswers = {"5"};
+    desk.commands.askClassValue(0);
+    desk.commands.askClassValue(4);
+    EXPECT_EQ(desk.bounds(), (Bounds{0, 25, 50, 75, 100}));
+    EXPECT_THAT(desk.dialogs.messages,
+                ElementsAre("Exclamation|Campora|Los valores de esta escala no se pueden cambiar",
+                            "Exclamation|Campora|No se puede cambiar un intervalo"));
+}
+
+TEST(LegendCommands, TheLegendSaysWhatIsAllowed) {
+    LegendDesk desk;
+    EXPECT_TRUE(desk.window.legend.classesCanChange);
+    EXPECT_FALSE(desk.window.legend.valuesCanChange);
+    desk.makeSingleValues({1});
+    desk.scale().allowClassEdit = false;
+    desk.session.showLegend();
+    EXPECT_FALSE(desk.window.legend.classesCanChange);
+    EXPECT_TRUE(desk.window.legend.valuesCanChange);
+    EXPECT_EQ(desk.window.legend.valueChangeCaption, "Cambiar valor");
+}
+
+}  // namespace
+}  // namespace campora
