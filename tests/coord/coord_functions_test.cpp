@@ -41,18 +41,5 @@ TEST(CoordFunctions, DegreesGiveTheSign) {
     EXPECT_EQ(fromDegreesMinutesSeconds(34, -15, -36), 34.26);
 }
 
-TEST(CoordFunctions, PartsGoTogetherAgain) {
-    for (const double value : {-58.1234567, -34.0, 0.75, 34.999999, 179.5}) {
-        SCOPED_TRACE(value);
-        const DegreesMinutesSeconds parts = toDegreesMinutesSeconds(value);
-        EXPECT_NEAR(fromDegreesMinutesSeconds(parts.degrees, parts.minutes, parts.seconds), value,
-                    1e-12);
-        EXPECT_LT(parts.seconds, 60);
-        const DegreesMinutes two = toDegreesMinutes(value);
-        EXPECT_NEAR(fromDegreesMinutesSeconds(two.degrees, two.minutes, 0), value, 1e-12);
-        EXPECT_LT(two.minutes, 60);
-    }
-}
-
 }  // namespace
 }  // namespace campora
