@@ -12,7 +12,6 @@
 #include "app/file_commands.h"
 #include "app/file_loading.h"
 #include "app/legend_commands.h"
-#include "app/legend_commands.h"
 #include "app/map_modes.h"
 #include "app/map_tools.h"
 #include "app/map_view.h"
@@ -90,8 +89,6 @@ public:
 
     /// The scale of the legend: the current file's own or the default one.
     [[nodiscard]] ColorScale& shownScale();
-    /// The commands on that scale.
-    [[nodiscard]] LegendCommands& legend() { return legend_; }
     /// The commands on that scale.
     [[nodiscard]] LegendCommands& legend() { return legend_; }
     /// Kind of the machine of the report read last; none before the first.
@@ -183,7 +180,6 @@ private:
     /// What is put away during a preview.
     std::unique_ptr<SavedMap> saved_;
     ColorScale::Subscription scaleChanges_;
-    LegendCommands legend_{*this};
     LegendCommands legend_{*this};
     /// Whether a track file with a step without flow has been opened; none without track files.
     std::optional<bool> hasFlowStops_;
