@@ -109,6 +109,9 @@ TEST(MapTools, PanningMovesTheSnapshotAndRedrawsAtTheEnd) {
     EXPECT_EQ(d.view.scrollX(), 0);
     d.tools.move({-2000, 150});
     EXPECT_EQ(d.view.scrollX(), 5000);
+    d.tools.move({60, 2000});
+    EXPECT_EQ(d.view.scrollY(), 2500);
+    d.tools.release(Button::Middle, {60, 150});
     EXPECT_EQ(d.redraws(), 0U);
     d.tools.release(Button::Left, {60, 150});
     EXPECT_EQ(d.redraws(), 1U);

@@ -130,6 +130,17 @@ TEST(MapView, ZoomsInAboutTheCentre) {
     EXPECT_EQ(f.view.scrollY(), 183);  // a sixth of 1100
 }
 
+TEST(MapView, CentresOnAPosition) {
+    Fixture f;
+    f.view.zoomToBox(boxOf(100, 100, -59.99, -32.999));
+    const LonLat place{-59.993, -32.9995};
+    f.view.centreOn(place);
+    EXPECT_FLOAT_EQ(f.view.scaleX(), 0.22F);
+    const CanvasPoint at = f.view.transform().mapToScreen(place.x, place.y);
+    EXPECT_NEAR(at.x, 500, 3);  // scrolling goes by whole metres
+    EXPECT_NEAR(at.y, 250, 3);
+}
+
 TEST(MapView, ZoomingInEndsAtTheFinestScale) {
     struct Row {
         const char* name;

@@ -222,6 +222,13 @@ TEST(Replay, ASeekGivesWayToANewerOneAndIsFinishedBeforePlaying) {
     d.after(1, [&] { d.replay.play(); });
     d.replay.seek(0);
     EXPECT_EQ(d.drawn(), "| p a0 a1 a1 a2 b0 b1 b2 b3 b4 ");
+
+    d.after(1, [&] {
+        d.replay.play();
+        d.replay.stop();
+    });
+    d.replay.seek(5);
+    EXPECT_EQ(d.drawn(), "| p a b0 | map ");
     EXPECT_EQ(d.window.replay, d.at(0));
 }
 
