@@ -3,7 +3,11 @@
 
 #pragma once
 
+#ifdef Q_OS_WIN
+#include "desktop/windows_classes.h"
+#else
 #include "desktop/freedesktop_classes.h"
+#endif
 #include "desktop/main_window.h"
 #include "desktop/qt_clipboard.h"
 #include "desktop/qt_clock.h"
@@ -30,7 +34,11 @@ private:
     QtLocale locale_;
     QtClipboard clipboard_;
     QtClock clock_;
+#ifdef Q_OS_WIN
+    WindowsClasses classes_;
+#else
     FreedesktopClasses classes_;
+#endif
     QtDialogs dialogs_;
     MainWindow window_;
     WidgetTexts widgetTexts_;
