@@ -8,8 +8,8 @@
 #include <cstdlib>
 #include <utility>
 
+#include "app/info_box.h"
 #include "base/numbers.h"
-#include "base/text.h"
 
 namespace campora {
 
@@ -17,8 +17,6 @@ namespace {
 
 /// Sideways movement that makes a click a drag.
 constexpr std::int32_t kClickReach = 3;
-/// Room between the text of the information box and its frame.
-constexpr std::int32_t kInfoPadding = 90;
 /// Decimals of a measured distance, as a factor.
 constexpr double kHundredths = 100;
 
@@ -41,21 +39,6 @@ LonLat positionAt(const ViewTransform& view, CanvasPoint at) {
 
 bool holds(CanvasSize canvas, CanvasPoint at) {
     return at.x >= 0 && at.x <= canvas.width && at.y >= 0 && at.y <= canvas.height;
-}
-
-/// Of lines, one below the other.
-CanvasSize sizeOfLines(const MapCanvas& canvas, std::string_view text) {
-    if (text.ends_with("\r\n")) {
-        text.remove_suffix(2);
-    }
-    CanvasSize size;
-    const std::string lines = replaceAll(text, "\r", "");
-    for (const std::string_view line : split(lines, '\n')) {
-        const CanvasSize lineSize = canvas.textSize(line.empty() ? " " : line, false);
-        size.width = std::max(size.width, lineSize.width);
-        size.height += lineSize.height;
-    }
-    return size;
 }
 
 }  // namespace
@@ -268,7 +251,7 @@ void MapTools::finishInfo(CanvasPoint at) {
     }
     chooseFile_(hit->file);
     if (!hit->text.empty()) {
-        overlay_.info = infoBox(at, std::move(hit->text));
+        overlay_.info = infoBox(canvas_, at, std::move(hit->text));
         showOverlay();
     }
 }
@@ -286,16 +269,6 @@ std::optional<MapTools::Hit> MapTools::find(CanvasPoint at) const {
         }
     }
     return std::nullopt;
-}
-
-MapOverlay::Info MapTools::infoBox(CanvasPoint at, std::string text) const {
-    const CanvasSize canvas = canvas_.size();
-    CanvasSize size = sizeOfLines(canvas_, text);
-    size.width += 2 * kInfoPadding;
-    size.height += 2 * kInfoPadding;
-    const CanvasPoint corner{std::max(0, std::min(at.x, canvas.width - size.width)),
-                             std::max(0, std::min(at.y, canvas.height - size.height))};
-    return {{corner, size}, std::move(text)};
 }
 
 void MapTools::hideInfo() {

@@ -87,7 +87,6 @@ private:
     void finishRuler();
     void finishInfo(CanvasPoint at);
     [[nodiscard]] std::optional<Hit> find(CanvasPoint at) const;
-    [[nodiscard]] MapOverlay::Info infoBox(CanvasPoint at, std::string text) const;
     /// Gives up what the pressed button does.
     void cancelDrag();
     void placeMark();
