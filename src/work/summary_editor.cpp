@@ -139,6 +139,21 @@ bool SummaryEditor::accept() {
     return true;
 }
 
+SummaryRows rowsOf(const FileProperties& summary) {
+    std::vector<SummaryEntry> entries;
+    for (const FileProperty& row : summary.entries()) {
+        entries.push_back({row.property, row.value, row.unit});
+    }
+    return SummaryRows(std::move(entries));
+}
+
+void applyRows(const SummaryRows& rows, FileProperties& summary) {
+    summary.clear();
+    for (const SummaryEntry& row : rows.rows()) {
+        summary.addProperty(row.name, row.value, row.unit);
+    }
+}
+
 void askAndRemove(SummaryRows& rows, Dialogs& dialogs, const Texts& texts) {
     if (rows.selected() &&
         dialogs.askYesNoCancel(texts(TextId::AskRemoveEntries), MessageIcon::Exclamation,

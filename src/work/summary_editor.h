@@ -9,11 +9,12 @@
 #include <vector>
 
 #include "base/texts.h"
+#include "model/file_properties.h"
 #include "platform/dialogs.h"
 
 namespace campora {
 
-/// One row of a summary as it is edited: the name without the ":" at its end.
+/// One row of a summary as it is edited; of a summary file, the name without the ":" at its end.
 struct SummaryEntry {
     std::string name;
     std::string value;
@@ -82,6 +83,11 @@ private:
     /// What follows the rows and is no summary; it goes back as it was.
     std::string unread_;
 };
+
+/// The rows of a summary that has no file: names stand as they are.
+[[nodiscard]] SummaryRows rowsOf(const FileProperties& summary);
+/// Puts rows in place of a summary's entries.
+void applyRows(const SummaryRows& rows, FileProperties& summary);
 
 /// Asks before the selected row is taken out; nothing happens without one.
 void askAndRemove(SummaryRows& rows, Dialogs& dialogs, const Texts& texts);

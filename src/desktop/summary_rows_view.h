@@ -1,0 +1,54 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include <QWidget>
+
+#include "base/texts.h"
+#include "platform/dialogs.h"
+#include "work/summary_editor.h"
+
+class QLineEdit;
+class QPushButton;
+class QTreeWidget;
+
+namespace campora {
+
+/// Rows of a summary in a list, the fields of one row below it, and the buttons that change them.
+class SummaryRowsView final : public QWidget {
+public:
+    /// The arguments outlive the widget; the rows change only through it from now on.
+    SummaryRowsView(SummaryRows& rows, Dialogs& dialogs, const Texts& texts, QWidget* parent);
+
+private:
+    using Action = void (SummaryRowsView::*)();
+
+    [[nodiscard]] QWidget* makeFields();
+    [[nodiscard]] QWidget* makeButtons();
+    QPushButton* makeButton(const char* name, TextId text, TextId tip, Action action);
+    void add();
+    void quit();
+    void change();
+    void up();
+    void down();
+    void select();
+    /// Puts what is typed into the rows before they change.
+    void readFields();
+    /// Brings the widgets up to date with the rows.
+    void showRows();
+    void showFields();
+
+    SummaryRows& rows_;
+    Dialogs& dialogs_;
+    const Texts& texts_;
+    QTreeWidget* list_;
+    std::array<QLineEdit*, 3> fields_{};
+    /// Those that need a selected row.
+    std::vector<QPushButton*> rowButtons_;
+};
+
+}  // namespace campora
