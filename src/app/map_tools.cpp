@@ -93,6 +93,7 @@ void MapTools::press(Button button, CanvasPoint at) {
     hideInfo();
     button_ = button;
     pressed_ = at;
+    pointer_ = at;
     if (button == Button::Middle || tool_ == Tool::None) {
         moved_ = false;
         startPan(at);
@@ -201,7 +202,7 @@ void MapTools::panTo(CanvasPoint to) {
 void MapTools::finishPan() {
     view_.setView(view_.scaleX(), view_.scaleY(), view_.scrollX(), view_.scrollY());
     showPointer();
-    placeMark();
+    viewChanged();
 }
 
 void MapTools::spanSelector(CanvasPoint to) {
@@ -217,6 +218,7 @@ void MapTools::finishZoom() {
     overlay_.selector.reset();
     showOverlay();
     view_.zoomToRectangle(box.topLeft, box.size);
+    viewChanged();
 }
 
 void MapTools::stretchRuler(CanvasPoint to) {

@@ -37,12 +37,25 @@ private:
     std::int32_t count_;
 };
 
+/// A window whose slider reports what it is told as a movement by the user.
+class EchoingWindow : public ScriptedWindow {
+public:
+    Replay* replayTold = nullptr;
+    void setReplay(const ReplayState& state) override {
+        ScriptedWindow::setReplay(state);
+        if (replayTold != nullptr) {
+            replayTold->seek(state.position);
+        }
+    }
+};
+
 /// A prescription "p" between two tracks, "a" of 3 steps and "b" of 5.
 struct Desk {
     Desk() {
         layers.push_back(std::make_unique<Steps>("a", 3));
         layers.push_back(std::make_unique<Steps>("p", 0));
         layers.push_back(std::make_unique<Steps>("b", 5));
+        window.replayTold = &replay;
         replay.setSpeed(0);
         replay.prepareReplay();
     }
@@ -75,7 +88,7 @@ struct Desk {
     }
 
     RecordingCanvas canvas{{1000, 500}};
-    ScriptedWindow window;
+    EchoingWindow window;
     ScriptedClock clock;
     MapStyle style;
     Texts texts{Language::Spanish};
@@ -262,29 +275,6 @@ TEST(Replay, WaitsBetweenElementsWhileEventsAct) {
     d.clock.sleeps.clear();
     d.replay.waitMs(3);
     EXPECT_EQ(d.clock.sleeps, std::vector<std::uint32_t>(3, 1));
-}
-
-TEST(Replay, ASliderThatReportsItsOwnMovementStartsNothing) {
-    class Echo : public ScriptedWindow {
-    public:
-        Replay* replay = nullptr;
-        void setReplay(const ReplayState& state) override {
-            ScriptedWindow::setReplay(state);
-            if (replay != nullptr) {
-                replay->seek(state.position);
-            }
-        }
-    } window;
-    Desk d;
-    Replay replay(
-        d.canvas, window, d.clock, d.view, d.style, d.texts, d.locale,
-        [&] { return std::vector<Gph*>{d.layers[0].get()}; }, [] {});
-    window.replay = &replay;
-    replay.prepareReplay();
-    replay.setSpeed(0);
-    replay.seek(0);
-    replay.stopReplay();
-    EXPECT_EQ(d.drawn(), "| a0 a1 ");
 }
 
 TEST(Replay, ReadsOutTheSpeedOfTheElement) {
