@@ -5,9 +5,11 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMenu>
 #include <QVBoxLayout>
 
 #include "desktop/color_list.h"
+#include "desktop/legend_menu.h"
 #include "desktop/qt_text.h"
 #include "desktop/section_heading.h"
 
@@ -34,20 +36,50 @@ LegendView::LegendView(QWidget* parent)
     column->addWidget(classes_, 1);
     column->addWidget(referenceHeading_);
     column->addWidget(reference_);
+    connect(classes_, &ColorList::menuAsked, this, &LegendView::openMenu);
+    // Later: the answer rebuilds the rows, which the list must not be handling any more.
+    connect(classes_, &ColorList::rowOpened, this, &LegendView::openClass, Qt::QueuedConnection);
     setFocusProxy(classes_);
     setTabOrder(classes_, reference_);
 }
 
 void LegendView::setContent(const LegendContent& legend) {
-    classes_->setRows(legend.classes);
-    unit_->setText(toQt(legend.unit));
-    reference_->setRows(legend.reference);
-    reference_->setFixedHeight(reference_->fullHeight());
+    legend_ = legend;
+    showRows();
 }
 
 void LegendView::retranslate(const Texts& texts) {
+    texts_ = &texts;
     scaleHeading_->setTitle(toQt(texts(TextId::ScaleHeading)));
+    scaleHeading_->setToolTip(toQt(texts(TextId::LegendKeys)));
+    classes_->setAccessibleDescription(toQt(texts(TextId::LegendKeys)));
     referenceHeading_->setTitle(toQt(texts(TextId::ReferenceHeading)));
+    showRows();
+}
+
+void LegendView::showRows() {
+    const QString colorForm = texts_ != nullptr ? toQt((*texts_)(TextId::LegendColor)) : "%1";
+    classes_->setRows(legend_.classes, toQt(legend_.unit), colorForm);
+    unit_->setText(toQt(legend_.unit));
+    reference_->setRows(legend_.reference, {}, colorForm);
+    reference_->setFixedHeight(reference_->fullHeight());
+}
+
+void LegendView::openMenu(int row, QPoint place) {
+    if (commands_ != nullptr && texts_ != nullptr && !legend_.classes.empty()) {
+        makeLegendMenu(*this, legend_, row, *commands_, *texts_)->popup(place);
+    }
+}
+
+void LegendView::openClass(int row) {
+    if (commands_ == nullptr) {
+        return;
+    }
+    if (legend_.valuesCanChange && !legend_.classesCanChange) {
+        commands_->askClassValue(row);
+    } else {
+        commands_->chooseClassColor(row);
+    }
 }
 
 }  // namespace campora

@@ -5,6 +5,7 @@
 
 #include <QWidget>
 
+#include "app/legend_commands.h"
 #include "base/texts.h"
 #include "platform/main_window_controls.h"
 
@@ -16,18 +17,29 @@ class ColorList;
 class SectionHeading;
 
 /// What the colours of the map mean: the classes of the scale, while there is one, and the plain
-/// colours.
+/// colours. A menu and the rows themselves change the scale.
 class LegendView final : public QWidget {
 public:
     explicit LegendView(QWidget* parent = nullptr);
 
+    /// What the menu does; without commands there is no menu. They outlive this.
+    void setCommands(LegendCommands& commands) { commands_ = &commands; }
     void setContent(const LegendContent& legend);
+    /// `texts` outlives this.
     void retranslate(const Texts& texts);
 
     [[nodiscard]] const ColorList& classes() const { return *classes_; }
     [[nodiscard]] const ColorList& reference() const { return *reference_; }
 
 private:
+    void showRows();
+    void openMenu(int row, QPoint place);
+    /// A class changes its colour, or its value where nothing else may change.
+    void openClass(int row);
+
+    LegendContent legend_;
+    LegendCommands* commands_ = nullptr;
+    const Texts* texts_ = nullptr;
     ColorList* classes_;
     ColorList* reference_;
     SectionHeading* scaleHeading_;

@@ -162,6 +162,7 @@ void MainWindow::connectMap() {
 }
 
 void MainWindow::connectFileList() {
+    sidePanel_->legend().setCommands(session_->legend());
     FileList& files = sidePanel_->files();
     files.setFileMenu(actions_->menu(MenuId::SelectedFile));
     connect(&files, &FileList::rowChosen, this, [this](std::optional<int> row) {
