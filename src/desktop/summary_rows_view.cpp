@@ -23,6 +23,8 @@ constexpr std::array kCaptions = {TextId::SummaryProperty, TextId::SummaryValue,
                                   TextId::SummaryUnit};
 constexpr std::array kFieldNames = {"txtCampo1", "txtCampo2", "txtCampo3"};
 
+constexpr int kNarrowestColumn = 80;
+
 }  // namespace
 
 SummaryRowsView::SummaryRowsView(SummaryRows& rows, Dialogs& dialogs, const Texts& texts,
@@ -39,7 +41,10 @@ SummaryRowsView::SummaryRowsView(SummaryRows& rows, Dialogs& dialogs, const Text
     list_->setAllColumnsShowFocus(true);
     list_->setAlternatingRowColors(true);
     list_->header()->setSectionsMovable(false);
-    list_->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    list_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    list_->header()->setStretchLastSection(false);
+    list_->header()->setSectionResizeMode(1, QHeaderView::Stretch);
+    list_->header()->setMinimumSectionSize(kNarrowestColumn);
     auto* const upper = new QHBoxLayout;
     upper->addWidget(list_, 1);
     upper->addWidget(makeButtons());

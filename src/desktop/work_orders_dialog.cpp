@@ -114,8 +114,12 @@ QWidget* WorkOrdersDialog::makeFolders() {
     connect(drives_, &QComboBox::textActivated, this, &WorkOrdersDialog::goTo);
     connect(folders_->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& current) { showFolder(model_->filePath(current)); });
-    connect(model_, &QFileSystemModel::directoryLoaded, this,
-            [this] { folders_->scrollTo(folders_->currentIndex()); });
+    // The folders above the current one come later, and would push it out of sight.
+    connect(model_, &QFileSystemModel::directoryLoaded, this, [this](const QString& loaded) {
+        if (model_->filePath(folders_->currentIndex()).startsWith(loaded)) {
+            folders_->scrollTo(folders_->currentIndex(), QTreeView::PositionAtCenter);
+        }
+    });
     auto* const part = new QWidget(this);
     auto* const column = new QVBoxLayout(part);
     column->setContentsMargins(0, 0, 0, 0);
@@ -217,7 +221,7 @@ void WorkOrdersDialog::goTo(const QString& folder) {
     }
     folders_->setCurrentIndex(index);  // which shows it
     folders_->expand(index);
-    folders_->scrollTo(index);
+    folders_->scrollTo(index, QTreeView::PositionAtCenter);
 }
 
 void WorkOrdersDialog::showFolder(const QString& folder) {
