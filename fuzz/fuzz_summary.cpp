@@ -1,14 +1,16 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-// Work summaries.
+// Work summaries, read and written back.
 
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <string_view>
+#include <vector>
 
 #include "base/encoding.h"
+#include "work/summary_editor.h"
 #include "work/summary_file.h"
 
 using namespace campora;
@@ -20,6 +22,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         if (!isUtf8(entry.property) || !isUtf8(entry.value) || !isUtf8(entry.unit)) {
             std::abort();  // texts inside the program are UTF-8
         }
+    }
+    std::vector<SummaryEntry> rows;
+    for (const FileProperty& entry : summary.entries()) {
+        rows.push_back(
+            {entry.property.substr(0, entry.property.size() - 1), entry.value, entry.unit});
+    }
+    if (decodeSummary(encodeSummary(rows)).entries() != summary.entries()) {
+        std::abort();  // an entry was lost or changed on the way to disk and back
     }
     return 0;
 }
