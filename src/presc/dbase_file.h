@@ -1,0 +1,64 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "model/cell_value.h"
+#include "presc/code_page.h"
+
+namespace campora {
+
+/// A dBASE III table (also as dBASE IV and FoxPro write it). Rows and columns count from 0.
+/// The bytes must outlive it.
+class DbaseFile {
+public:
+    DbaseFile() = default;
+    /// `codePageName`: what the file beside the table says about its code page; empty when there is
+    /// none, the table's own byte then decides. Throws `FormatError` when the bytes are no such
+    /// table or the header is damaged.
+    explicit DbaseFile(std::span<const std::byte> bytes, std::string_view codePageName = {});
+
+    [[nodiscard]] int fieldCount() const { return static_cast<int>(columns_.size()); }
+    /// UTF-8; throws `std::out_of_range` for a bad column, as the others do.
+    [[nodiscard]] const std::string& fieldName(int column) const;
+    /// Whole rows that the file holds, at most as many as its header says.
+    [[nodiscard]] std::int32_t rowCount() const { return rowCount_; }
+    /// Whether the row is marked as deleted. No for rows that are not there, whose values are
+    /// empty.
+    [[nodiscard]] bool isDeleted(std::int32_t row) const;
+    /// Numbers (N and F columns) as 64-bit floats, dates (D) as such, everything else as UTF-8 text
+    /// without blanks around it. Empty where nothing stands and where a number or a date is none.
+    [[nodiscard]] CellValue value(std::int32_t row, int column) const;
+    /// The value as a number: one of a number column, or a text that is a number as a whole.
+    [[nodiscard]] std::optional<double> number(std::int32_t row, int column) const;
+
+private:
+    struct Column {
+        std::string name;
+        char type = 'C';
+        std::size_t offset = 0;  // from the start of the row
+        std::size_t width = 0;   // bytes
+    };
+
+    void readColumns(std::size_t headerSize);
+    /// Without blanks and zero bytes around it.
+    [[nodiscard]] std::string_view cell(std::int32_t row, const Column& column) const;
+    [[nodiscard]] const Column& at(int column) const;
+
+    std::span<const std::byte> bytes_;
+    std::vector<Column> columns_;
+    std::size_t firstRow_ = 0;
+    std::size_t rowSize_ = 0;
+    std::int32_t rowCount_ = 0;
+    CodePage codePage_ = CodePage::Windows1252;
+};
+
+}  // namespace campora

@@ -1,0 +1,49 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "presc/gph_polygon.h"
+
+namespace campora {
+
+/// One record of a map: several rings, some of which may be holes, with one dose and one colour.
+class GphPolygonMulti final : public Gph {
+public:
+    float dosis = 0;
+    /// Fill.
+    Color color = MapColors().shape;
+
+    /// Appends the ring and widens the box; a ring without points has no box.
+    void addPolygon(GphPolygon ring);
+    [[nodiscard]] const std::vector<GphPolygon>& rings() const { return rings_; }
+    /// Square metres: the rings in order, holes subtracted.
+    [[nodiscard]] float Area() const;
+    /// `Gph_mouseOver` for callers that have no view: the last ring that holds the position, -1 in
+    /// a hole or outside all.
+    [[nodiscard]] std::int32_t ringAt(LonLat position) const;
+
+    [[nodiscard]] std::string_view Gph_kind() const override { return "GphPolygonMulti"; }
+    [[nodiscard]] std::int32_t Gph_count() const override { return 1; }
+    /// Not set when no ring has a point.
+    [[nodiscard]] const BoundingBox& Gph_bound() const override { return bound_; }
+    [[nodiscard]] bool Gph_animable() const override { return false; }
+    /// All rings as one figure, outlined in the map's text colour; holes stay open. Draws nothing
+    /// when no part of it can show.
+    void Gph_plot(MapContext& context) const override;
+    bool Gph_plotN(MapContext& context, std::int32_t n) const override;
+    [[nodiscard]] float Gph_delayN(std::int32_t n) const override;
+    [[nodiscard]] std::int32_t Gph_mouseOver(const ViewTransform& view, const MapStyle& style,
+                                             LonLat position, std::int32_t start) const override;
+    [[nodiscard]] std::string Gph_getInfo(const InfoContext& context,
+                                          std::int32_t n) const override;
+
+private:
+    std::vector<GphPolygon> rings_;
+    BoundingBox bound_;
+};
+
+}  // namespace campora

@@ -1,0 +1,109 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "base/byte_reader.h"
+#include "base/lon_lat.h"
+
+namespace campora {
+
+/// Types of figures; the variants with Z and M values are 10 and 20 higher.
+enum class ShapeType : std::int32_t {
+    Null = 0,
+    Point = 1,
+    PolyLine = 3,
+    Polygon = 5,
+    MultiPoint = 8,
+};
+
+/// A run of vertices of a figure, both ends included.
+struct ShapePart {
+    std::int32_t first = 0;
+    std::int32_t last = 0;
+    bool isHole = false;
+
+    bool operator==(const ShapePart&) const = default;
+};
+
+/// One figure: a look into the bytes of its file.
+class Shape {
+public:
+    Shape() = default;
+    Shape(ShapeType type, std::span<const std::byte> partStarts,
+          std::span<const std::byte> vertices)
+        : type_(type), partStarts_(partStarts), vertices_(vertices) {}
+
+    /// Without its Z or M.
+    [[nodiscard]] ShapeType type() const { return type_; }
+    [[nodiscard]] std::int32_t vertexCount() const {
+        return static_cast<std::int32_t>(vertices_.size() / kVertexBytes);
+    }
+    /// Degrees; throws `std::out_of_range` for a bad index.
+    [[nodiscard]] LonLat vertex(std::int32_t index) const {
+        if (index < 0 || index >= vertexCount()) {
+            refuseIndex();
+        }
+        ByteReader reader(vertices_, static_cast<std::size_t>(index) * kVertexBytes);
+        const double x = reader.f64le();
+        return {x, reader.f64le()};
+    }
+    /// The parts that have vertices, in place of what `parts` holds. A figure without parts of its
+    /// own (points) is one part.
+    void collectParts(std::vector<ShapePart>& parts) const;
+
+private:
+    friend class ShapeFile;
+
+    static constexpr std::size_t kVertexBytes = 16;
+
+    [[noreturn]] static void refuseIndex();
+    [[nodiscard]] bool runsWithTheClock(const ShapePart& part) const;
+    [[nodiscard]] bool runsAgainstTheClock(const ShapePart& part) const;
+    [[nodiscard]] double twiceArea(const ShapePart& part) const;
+    void markHoles(std::vector<ShapePart>& parts) const;
+
+    ShapeType type_ = ShapeType::Null;
+    std::span<const std::byte> partStarts_;  // i32 each
+    std::span<const std::byte> vertices_;
+};
+
+/// The figures of a shapefile's main file ("ESRI Shapefile Technical Description", 1998).
+/// The bytes must outlive it.
+class ShapeFile {
+public:
+    ShapeFile() = default;
+    /// `index`: the bytes of the index file, left aside when it is not sound; may be empty.
+    /// Every record is looked at once. Throws `FormatError` with the record and the byte when one
+    /// is damaged or of a type that is not known, when a coordinate is no number, and when one
+    /// cannot be degrees. Boxes and the numbers of records are not believed, nor needed.
+    explicit ShapeFile(std::span<const std::byte> bytes, std::span<const std::byte> index = {});
+
+    [[nodiscard]] std::int32_t recordCount() const {
+        return static_cast<std::int32_t>(offsets_.size());
+    }
+    /// `record`: from 0; throws `std::out_of_range` for a bad one.
+    [[nodiscard]] Shape shape(std::int32_t record) const;
+
+private:
+    [[nodiscard]] bool takeIndex(std::span<const std::byte> index);
+    void walk(std::size_t declaredEnd);
+    /// `record`: from 0. Throws `FormatError` as the constructor.
+    [[nodiscard]] Shape decode(std::size_t record) const;
+    void check(std::size_t record) const;
+
+    std::span<const std::byte> bytes_;
+    std::vector<std::uint32_t> offsets_;  // of the records' headers
+};
+
+/// The type in a main file's header as it stands there (15 for polygons with Z); none when the
+/// bytes are no such header. Its first 36 bytes are enough.
+[[nodiscard]] std::optional<std::int32_t> shapeTypeOfHeader(std::span<const std::byte> bytes);
+
+}  // namespace campora

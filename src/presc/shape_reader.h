@@ -1,0 +1,97 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/failure.h"
+#include "base/files.h"
+#include "model/cell_value.h"
+#include "presc/dbase_file.h"
+#include "presc/shape_file.h"
+
+namespace campora {
+
+/// A shapefile and its table, read whole and stepped through record by record. Records, columns and
+/// parts count from 1, vertices of a record from 0; a bad number throws `std::out_of_range`.
+/// A record whose row is marked as deleted in the table has neither parts nor values.
+class ShapeReader {
+public:
+    /// Without records until something is opened.
+    ShapeReader();
+
+    /// Reads the set that `path` names (".shp"), companions in letters of either case: the index
+    /// when it is there and sound, the table when it is there. Positions on record 1. On failure,
+    /// which names the file and the place in it, the reader stays as it was.
+    [[nodiscard]] std::optional<Failure> open(std::string_view path);
+
+    /// Why the table beside the map was left out (it is damaged, not a table...), in a sentence
+    /// that stands alone; none when it was read or there is none.
+    [[nodiscard]] const std::optional<Failure>& tableWarning() const {
+        return files_->tableWarning;
+    }
+
+    [[nodiscard]] std::int32_t recordCount() const { return files_->shapes.recordCount(); }
+    void moveFirst() { place(1); }
+    /// Past the last record there are no parts and no values.
+    void moveNext();
+    void moveTo(std::int32_t record);
+    /// The record's number, from 1 to one more than `recordCount`.
+    [[nodiscard]] std::int32_t record() const { return record_; }
+
+    /// 0 without a table.
+    [[nodiscard]] int fieldCount() const { return files_->table.fieldCount(); }
+    /// UTF-8.
+    [[nodiscard]] const std::string& fieldName(int column) const;
+    /// The current record's value: a number (64-bit float), a text without blanks around it, or a
+    /// date. Empty where the cell is blank, "****" or no value of its column's type.
+    [[nodiscard]] CellValue fieldValue(int column) const;
+    /// The value as a number: a number, or a text that is one as a whole. Nothing is allocated.
+    [[nodiscard]] std::optional<double> fieldNumber(int column) const;
+
+    /// Parts with at least one vertex; a point or a set of points is one part.
+    [[nodiscard]] std::int32_t partCount() const {
+        return static_cast<std::int32_t>(parts_.size());
+    }
+    [[nodiscard]] std::int32_t partFirstVertex(std::int32_t part) const;
+    [[nodiscard]] std::int32_t partLastVertex(std::int32_t part) const;
+    /// 1 for a hole, 0 for any other part.
+    [[nodiscard]] int partRingCode(std::int32_t part) const { return partIsHole(part) ? 1 : 0; }
+    /// A ring of a polygon that runs against the clock while another of the record runs with it.
+    [[nodiscard]] bool partIsHole(std::int32_t part) const;
+    /// Degrees.
+    [[nodiscard]] double vertexX(std::int32_t vertex) const { return shape_.vertex(vertex).x; }
+    [[nodiscard]] double vertexY(std::int32_t vertex) const { return shape_.vertex(vertex).y; }
+    [[nodiscard]] LonLat vertex(std::int32_t vertex) const { return shape_.vertex(vertex); }
+
+private:
+    /// The decoders look into the bytes beside them, which therefore stay where they are.
+    struct Files {
+        FileBytes shapeBytes;
+        FileBytes tableBytes;
+        ShapeFile shapes;
+        DbaseFile table;
+        std::optional<Failure> tableWarning;
+    };
+
+    static void readTable(std::string_view base, Files& files);
+    void place(std::int32_t record);
+    [[nodiscard]] const ShapePart& part(std::int32_t part) const;
+
+    std::unique_ptr<const Files> files_;
+    std::int32_t record_ = 1;
+    Shape shape_;
+    std::vector<ShapePart> parts_;
+};
+
+/// What a shapefile holds, by its header alone: points, lines or polygons; none for other types and
+/// for a file that is no shapefile or cannot be read.
+[[nodiscard]] std::optional<TextId> readShapeKind(std::string_view path);
+
+}  // namespace campora
