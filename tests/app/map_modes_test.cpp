@@ -4,6 +4,7 @@
 #include "app/map_modes.h"
 
 #include <algorithm>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -81,29 +82,14 @@ struct ChannelsFile : NamedFile, MultiChannel {
 };
 
 TEST(TypedNumber, TakesEitherDecimalSymbolAndNothingElse) {
-    struct Row {
-        const char* typed;
-        std::optional<double> number;
-    };
-    const Row rows[] = {
-        {"12,5", 12.5},
-        {"12.5", 12.5},
-        {" 7 ", 7},
-        {"+3", 3},
-        {"-0,5", -0.5},
-        {".5", 0.5},
-        {"", std::nullopt},
-        {"doce", std::nullopt},
-        {"1.234,5", std::nullopt},
-        {"12 m", std::nullopt},
-        {"+-3", std::nullopt},
-        {"1e3", std::nullopt},
-        {"nan", std::nullopt},
-        {"inf", std::nullopt},
-        {"1000000000000000", std::nullopt},
-    };
-    for (const Row& row : rows) {
-        EXPECT_EQ(typedNumber(row.typed), row.number) << row.typed;
+    const std::map<std::string, double> numbers = {{"12,5", 12.5}, {"12.5", 12.5}, {" 7 ", 7},
+                                                   {"+3", 3},      {"-0,5", -0.5}, {".5", 0.5}};
+    for (const auto& [typed, number] : numbers) {
+        EXPECT_EQ(typedNumber(typed), number) << typed;
+    }
+    for (const char* typed :
+         {"", "doce", "1.234,5", "12 m", "+-3", "1e3", "nan", "inf", "1000000000000000"}) {
+        EXPECT_EQ(typedNumber(typed), std::nullopt) << typed;
     }
 }
 
@@ -142,34 +128,23 @@ TEST(MapModes, SelectedAlarmsColourThePointsThatHaveThem) {
     const std::string none = "0x00FF00";
     EXPECT_EQ(desk.fills(), Lines{alarm});
     EXPECT_EQ(desk.window.legend.reference.back().text, "Sin alarma");
-    struct Row {
-        const char* name;
-        int index;  ///< -1 all, -2 none
-        std::string fill;
-    };
-    const Row rows[] = {
-        {"none", -2, none},
-        {"of the seeders", 8, none},
-        {"of the sprayers", 40, alarm},
-        {"off again", 40, none},
-        {"all", -1, alarm},
-        {"beyond the menu", 64, ""},
-        {"before the menu", -5, ""},
-        {"another sprayer's", 32, alarm},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    const auto fillsAfter = [&desk](auto command) {
         desk.forget();
-        if (row.index == -1) {
-            desk.modes.mnuAlarmsAll();
-        } else if (row.index == -2) {
-            desk.modes.mnuAlarmsNone();
-        } else {
-            desk.modes.mnuAlarmsAlarm(row.index);
-        }
-        EXPECT_EQ(desk.fills(), row.fill.empty() ? Lines{} : Lines{row.fill});
-        EXPECT_EQ(desk.window.commandChanges, row.fill.empty() ? 0 : 1);
-    }
+        command(desk.modes);
+        EXPECT_EQ(desk.window.commandChanges, desk.fills().empty() ? 0 : 1);
+        return desk.fills();
+    };
+    const auto toggle = [&fillsAfter](int index) {
+        return fillsAfter([index](MapModes& modes) { modes.mnuAlarmsAlarm(index); });
+    };
+    EXPECT_EQ(fillsAfter([](MapModes& modes) { modes.mnuAlarmsNone(); }), Lines{none});
+    EXPECT_EQ(toggle(8), Lines{none}) << "of the seeders";
+    EXPECT_EQ(toggle(40), Lines{alarm}) << "of the sprayers";
+    EXPECT_EQ(toggle(40), Lines{none});
+    EXPECT_EQ(fillsAfter([](MapModes& modes) { modes.mnuAlarmsAll(); }), Lines{alarm});
+    EXPECT_EQ(toggle(64), Lines{}) << "beyond the menu";
+    EXPECT_EQ(toggle(-1), Lines{});
+    EXPECT_EQ(toggle(32), Lines{alarm}) << "another one of the sprayers";
     const std::vector<AlarmEntry> entries = desk.modes.alarmEntries();
     EXPECT_TRUE(entries[40].checked && entries[0].checked);
     EXPECT_FALSE(entries[32].checked);
