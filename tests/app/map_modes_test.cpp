@@ -294,17 +294,17 @@ TEST(MapModes, AsManyChannelsAreOfferedAsAFileHas) {
 
 TEST(MapModes, AFileWithoutTheChannelIsNamedAndKeepsItsOwn) {
     ModesDesk desk;
-    auto one = std::make_unique<ChannelsFile>("uno.pre", 1);
+    auto two = std::make_unique<ChannelsFile>("dos.pre", 2);
     auto three = std::make_unique<ChannelsFile>("tres.pre", 3);
-    const ChannelsFile& single = *one;
+    const ChannelsFile& fewer = *two;
     const ChannelsFile& several = *three;
-    desk.session.addFile(std::move(one), true, false);
+    desk.session.addFile(std::move(two), true, false);
     desk.session.addFile(std::move(three), true, false);
     desk.open("lote.rpt", 3);
     desk.modes.mnuColorScaleSelCH(2);
     EXPECT_THAT(desk.dialogs.messages,
-                ElementsAre("Exclamation|Campora|Advertencia: uno.pre no tiene un Canal 3"));
-    EXPECT_EQ(single.current, 0);
+                ElementsAre("Exclamation|Campora|Advertencia: dos.pre no tiene un Canal 3"));
+    EXPECT_EQ(fewer.current, 0);
     EXPECT_EQ(several.current, 2);
     EXPECT_EQ(desk.session.style().selectedChannel, 2);
     EXPECT_EQ(desk.window.legend.classes.front().text, "10") << "the doses of that channel";
