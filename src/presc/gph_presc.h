@@ -1,0 +1,137 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/texts.h"
+#include "colour/color_scale.h"
+#include "colour/set_list.h"
+#include "model/file.h"
+#include "platform/dialogs.h"
+#include "presc/gph_polygon_multi.h"
+#include "presc/shape_reader.h"
+#include "rtree/r2_tree.h"
+
+namespace campora {
+
+/// The zones of one shapefile, coloured by the dose that one of its columns gives them. It is its
+/// own file. Zones count from 0, columns from 1. Doses that change here are never written back.
+class GphPresc final : public Gph, public File {
+public:
+    static constexpr int kNoColumn = -1;
+
+    GphPresc();
+    GphPresc(const GphPresc&) = delete;
+    GphPresc& operator=(const GphPresc&) = delete;
+    ~GphPresc() override = default;
+
+    /// Told 0 to 100 while `loadFromFile` and `setColumnaDosis` work; may be empty.
+    std::function<void(int percent)> progress;
+
+    /// Fills an empty layer; call it once. What is wrong with the file is told through `dialogs`:
+    /// why it cannot be read, that its table was left out, that it has no polygons. False when it
+    /// cannot be read, or is not there, which is told by nobody; the layer is as before then.
+    bool loadFromFile(std::string_view path, Dialogs& dialogs, const Texts& texts);
+
+    [[nodiscard]] const std::string& name() const { return name_; }
+    [[nodiscard]] int columnCount() const { return static_cast<int>(columnNames_.size()); }
+    [[nodiscard]] const std::vector<std::string>& columnNames() const { return columnNames_; }
+    /// Whether every record has a number there; false for columns that are not there.
+    [[nodiscard]] bool columnaNumeric(int column) const;
+    /// The distinct values of a column, ascending, 0 always among them; empty for a column that is
+    /// not numeric.
+    [[nodiscard]] const std::vector<double>& dosisCollection(int column) const;
+    /// Makes a numeric column the one of the doses: a class a dose, and every zone its dose and
+    /// colour. Nothing for other columns.
+    void setColumnaDosis(int column);
+    [[nodiscard]] int columnaDosis() const { return column_; }
+    /// Null before a column is chosen.
+    [[nodiscard]] const SetList* currentDosisSet() const;
+
+    /// In the order of the records.
+    [[nodiscard]] const std::vector<GphPolygonMulti>& polygons() const { return polygons_; }
+    /// Gives a zone another dose and brings the scale, and with it every colour, up to date.
+    /// Nothing before a column is chosen. Throws `std::out_of_range` for a bad zone.
+    void setDosis(std::int32_t polygon, float dosis);
+    /// The set of the current column and the scale anew, from the doses that the zones have now.
+    void recalculateColorScale();
+
+    /// The zones in the order in which every search hands them out: where several hold a position,
+    /// the last of them in this order has it. Zones without a point are in no search.
+    [[nodiscard]] std::vector<std::int32_t> searchOrder() const;
+    /// -1 when no zone holds the position (degrees).
+    [[nodiscard]] std::int32_t polygonIndexAt(LonLat position) const;
+    /// As `polygonIndexAt`; null when there is none. Owned by the layer.
+    [[nodiscard]] const GphPolygonMulti* getPolygonAtPoint(double x, double y) const;
+    /// Hectares of all zones.
+    [[nodiscard]] double hectares() const;
+    /// Sum over the zones of dose times hectares.
+    [[nodiscard]] double totalProduct() const;
+    [[nodiscard]] ColorScale& escalaColor() { return scale_; }
+    [[nodiscard]] const ColorScale& escalaColor() const { return scale_; }
+
+    [[nodiscard]] std::string_view Gph_kind() const override { return "GphPresc"; }
+    [[nodiscard]] std::int32_t Gph_count() const override {
+        return static_cast<std::int32_t>(polygons_.size());
+    }
+    [[nodiscard]] const BoundingBox& Gph_bound() const override { return bound_; }
+    [[nodiscard]] bool Gph_animable() const override { return false; }
+    void Gph_plot(MapContext& context) const override;
+    bool Gph_plotN(MapContext& context, std::int32_t n) const override;
+    [[nodiscard]] float Gph_delayN(std::int32_t n) const override;
+    [[nodiscard]] std::int32_t Gph_mouseOver(const ViewTransform& view, const MapStyle& style,
+                                             LonLat position, std::int32_t start) const override;
+    /// The columns of zone n and its area. Throws `std::out_of_range` for a bad zone.
+    [[nodiscard]] std::string Gph_getInfo(const InfoContext& context,
+                                          std::int32_t n) const override;
+
+    [[nodiscard]] std::string File_name() const override { return name_; }
+    [[nodiscard]] std::string File_path() const override { return path_; }
+    [[nodiscard]] std::string File_diskPath() const override { return path_; }
+    [[nodiscard]] bool File_visible() const override { return true; }
+    [[nodiscard]] std::string File_icon() const override { return "shpfile"; }
+    [[nodiscard]] ColorScale* File_escalaColores() override { return &scale_; }
+    [[nodiscard]] FileProperties& File_resumen() override { return summary_; }
+    [[nodiscard]] const BoundingBox& File_bound() const override { return bound_; }
+    /// Itself.
+    [[nodiscard]] std::vector<Gph*> File_gphList() const override { return layers_; }
+    [[nodiscard]] std::string File_id() const override { return {}; }
+    [[nodiscard]] std::int32_t File_priority() const override { return 0; }
+
+private:
+    void readColumns();
+    void readRecords();
+    /// The values of the current record, once for each of its parts.
+    void collectDoses(std::int32_t parts);
+    void addPolygon(GphPolygonMulti polygon);
+    void changeValue(double oldValue, double newValue);
+    void colorAgain();
+    void report(std::int64_t done, std::int64_t all) const;
+    [[nodiscard]] const SetList* setOf(int column) const;
+
+    std::string name_;
+    std::string path_;
+    std::vector<std::string> columnNames_;
+    /// None for columns that are not numeric.
+    std::vector<std::optional<SetList>> sets_;
+    std::vector<GphPolygonMulti> polygons_;
+    BoundingBox bound_;
+    /// Steps through the records again for doses and information, which changes nothing that shows.
+    mutable ShapeReader reader_;
+    R2Tree tree_;
+    int column_ = kNoColumn;
+    FileProperties summary_;
+    std::vector<Gph*> layers_{this};
+    ColorScale scale_;
+    ColorScale::Subscription changes_;
+    ColorScale::Subscription valueChanges_;
+};
+
+}  // namespace campora
