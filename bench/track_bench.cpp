@@ -36,6 +36,7 @@ public:
         benchmark::DoNotOptimize(ring.data());
         points += ring.size();
     }
+    void polyPolygon(std::span<const std::span<const CanvasPoint>>) override {}
     void text(CanvasPoint, std::string_view, TextAnchor, bool) override {}
     [[nodiscard]] CanvasSize textSize(std::string_view, bool) const override { return {}; }
     void paintPicture(MapPicture, CanvasPoint, CanvasSize) override {}

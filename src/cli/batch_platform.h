@@ -119,6 +119,7 @@ public:
                    RectangleStyle /*style*/) override {}
     void point(CanvasPoint /*at*/, Color /*color*/) override {}
     void polygon(std::span<const CanvasPoint> /*ring*/) override {}
+    void polyPolygon(std::span<const std::span<const CanvasPoint>> /*rings*/) override {}
     void text(CanvasPoint /*at*/, std::string_view /*text*/, TextAnchor /*anchor*/,
               bool /*bold*/) override {}
     [[nodiscard]] CanvasSize textSize(std::string_view /*text*/, bool /*bold*/) const override {

@@ -123,9 +123,14 @@ void fillSpan(std::uint32_t* pixels, int width, double from, double to, std::uin
 
 }  // namespace
 
-void RingFiller::fill(const PixelGrid& grid, std::span<const PixelPoint> ring, std::uint32_t color,
-                      FillRule rule) {
-    collectEdges(grid, ring);
+void RingFiller::fill(const PixelGrid& grid, std::span<const std::span<const PixelPoint>> rings,
+                      std::uint32_t color, FillRule rule) {
+    edges_.clear();
+    top_ = grid.height;
+    bottom_ = 0;
+    for (const std::span<const PixelPoint> ring : rings) {
+        collectEdges(grid, ring);
+    }
     if (edges_.size() <= kFewEdges) {
         fillFewEdges(grid, color, rule);
         return;
@@ -178,9 +183,6 @@ void RingFiller::fillFewEdges(const PixelGrid& grid, std::uint32_t color, FillRu
 }
 
 void RingFiller::collectEdges(const PixelGrid& grid, std::span<const PixelPoint> ring) {
-    edges_.clear();
-    top_ = grid.height;
-    bottom_ = 0;
     if (ring.size() < 3) {
         return;
     }

@@ -40,7 +40,12 @@ class RingFiller {
 public:
     /// `ring`: closed, first point not repeated, of any size and anywhere.
     void fill(const PixelGrid& grid, std::span<const PixelPoint> ring, std::uint32_t color,
-              FillRule rule = FillRule::NonZero);
+              FillRule rule = FillRule::NonZero) {
+        fill(grid, std::span(&ring, 1), color, rule);
+    }
+    /// Several rings as one figure.
+    void fill(const PixelGrid& grid, std::span<const std::span<const PixelPoint>> rings,
+              std::uint32_t color, FillRule rule);
 
 private:
     struct Edge {

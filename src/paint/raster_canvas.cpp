@@ -77,23 +77,38 @@ LineDrawer::Pen RasterCanvas::pen(Color color) const {
     return {pixel(color), penPixels_, penStyle_ == PenStyle::Dotted};
 }
 
-void RasterCanvas::drawRing(std::span<const CanvasPoint> ring, std::optional<Color> fill,
-                            Color outline) {
-    if (ring.empty()) {
-        return;
+void RasterCanvas::drawRings(std::span<const std::span<const CanvasPoint>> rings,
+                             std::optional<Color> fill, FillRule rule, Color outline) {
+    points_.clear();
+    for (const std::span<const CanvasPoint> ring : rings) {
+        for (const CanvasPoint& point : ring) {
+            points_.push_back(toPixels(point));
+        }
     }
-    ring_.clear();
-    for (const CanvasPoint& point : ring) {
-        ring_.push_back(toPixels(point));
+    rings_.clear();
+    std::span<const PixelPoint> rest(points_);
+    for (const std::span<const CanvasPoint> ring : rings) {
+        rings_.push_back(rest.first(ring.size()));
+        rest = rest.subspan(ring.size());
     }
     const PixelGrid pixels = grid();
     if (fill) {
-        filler_.fill(pixels, ring_, pixel(*fill));
+        filler_.fill(pixels, rings_, pixel(*fill), rule);
     }
     const LineDrawer::Pen outlinePen = pen(outline);
-    const PixelPoint* previous = &ring_.back();
-    for (const PixelPoint& point : ring_) {
-        lines_.line(pixels, *previous, point, outlinePen);
+    for (const std::span<const PixelPoint> ring : rings_) {
+        outlineRing(pixels, ring, outlinePen);
+    }
+}
+
+void RasterCanvas::outlineRing(const PixelGrid& pixels, std::span<const PixelPoint> ring,
+                               const LineDrawer::Pen& pen) {
+    if (ring.empty()) {
+        return;
+    }
+    const PixelPoint* previous = &ring.back();
+    for (const PixelPoint& point : ring) {
+        lines_.line(pixels, *previous, point, pen);
         previous = &point;
     }
 }
@@ -104,10 +119,12 @@ void RasterCanvas::line(CanvasPoint from, CanvasPoint to, Color color) {
 
 void RasterCanvas::rectangle(CanvasPoint corner, CanvasPoint opposite, Color color,
                              RectangleStyle style) {
-    const std::array<CanvasPoint, 4> ring{
+    const std::array<CanvasPoint, 4> corners{
         corner, {opposite.x, corner.y}, opposite, {corner.x, opposite.y}};
+    const std::span<const CanvasPoint> ring(corners);
     const bool filled = style == RectangleStyle::Filled;
-    drawRing(ring, filled ? std::optional(color) : std::nullopt, color);
+    drawRings(std::span(&ring, 1), filled ? std::optional(color) : std::nullopt, FillRule::NonZero,
+              color);
 }
 
 void RasterCanvas::point(CanvasPoint at, Color color) {
@@ -116,7 +133,14 @@ void RasterCanvas::point(CanvasPoint at, Color color) {
 
 void RasterCanvas::polygon(std::span<const CanvasPoint> ring) {
     const bool filled = fillStyle_ == FillStyle::Solid;
-    drawRing(ring, filled ? std::optional(fillColor_) : std::nullopt, penColor_);
+    drawRings(std::span(&ring, 1), filled ? std::optional(fillColor_) : std::nullopt,
+              FillRule::NonZero, penColor_);
+}
+
+void RasterCanvas::polyPolygon(std::span<const std::span<const CanvasPoint>> rings) {
+    const bool filled = fillStyle_ == FillStyle::Solid;
+    drawRings(rings, filled ? std::optional(fillColor_) : std::nullopt, FillRule::EvenOdd,
+              penColor_);
 }
 
 void RasterCanvas::text(CanvasPoint at, std::string_view text, TextAnchor anchor, bool bold) {
@@ -154,7 +178,8 @@ Picture RasterCanvas::picture() const {
     picture.pixels.reserve(static_cast<std::size_t>(image_.width()) *
                            static_cast<std::size_t>(image_.height()));
     for (int row = 0; row < image_.height(); ++row) {
-        const auto* const pixels = reinterpret_cast<const std::uint32_t*>(image_.constScanLine(row));
+        const auto* const pixels =
+            reinterpret_cast<const std::uint32_t*>(image_.constScanLine(row));
         picture.pixels.insert(picture.pixels.end(), pixels, pixels + image_.width());
     }
     return picture;

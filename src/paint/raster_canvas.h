@@ -51,6 +51,7 @@ public:
                    RectangleStyle style) override;
     void point(CanvasPoint at, Color color) override;
     void polygon(std::span<const CanvasPoint> ring) override;
+    void polyPolygon(std::span<const std::span<const CanvasPoint>> rings) override;
     void text(CanvasPoint at, std::string_view text, TextAnchor anchor, bool bold) override;
     [[nodiscard]] CanvasSize textSize(std::string_view text, bool bold) const override;
     void paintPicture(MapPicture picture, CanvasPoint topLeft, CanvasSize size) override;
@@ -64,8 +65,11 @@ private:
     [[nodiscard]] PixelGrid grid();
     [[nodiscard]] PixelPoint toPixels(CanvasPoint point) const;
     [[nodiscard]] LineDrawer::Pen pen(Color color) const;
-    /// A closed ring, filled when there is a colour for it and then outlined.
-    void drawRing(std::span<const CanvasPoint> ring, std::optional<Color> fill, Color outline);
+    /// Closed rings as one figure, filled when there is a colour for it and then outlined.
+    void drawRings(std::span<const std::span<const CanvasPoint>> rings, std::optional<Color> fill,
+                   FillRule rule, Color outline);
+    void outlineRing(const PixelGrid& pixels, std::span<const PixelPoint> ring,
+                     const LineDrawer::Pen& pen);
 
     CanvasSize size_;
     double pixelsPerUnit_ = 0;
@@ -81,7 +85,8 @@ private:
     FillStyle fillStyle_ = FillStyle::Solid;
     RingFiller filler_;
     LineDrawer lines_;
-    std::vector<PixelPoint> ring_;
+    std::vector<PixelPoint> points_;  // of the rings that are being drawn, one after the other
+    std::vector<std::span<const PixelPoint>> rings_;
 };
 
 /// Draws one of the canvas's own pictures into a rectangle, in the painter's units.

@@ -64,8 +64,12 @@ public:
                            RectangleStyle style) = 0;
     virtual void point(CanvasPoint at, Color color) = 0;
     /// A closed ring (the first point is not repeated), outlined with the pen and filled with the
-    /// fill colour and style; what the ring goes round more than once is inside. Neighbours that share corners leave no seam.
+    /// fill colour and style; what the ring goes round more than once is inside. Neighbours that
+    /// share corners leave no seam.
     virtual void polygon(std::span<const CanvasPoint> ring) = 0;
+    /// Several closed rings as one figure, drawn as `polygon` but for the inside: what lies in an
+    /// odd number of turns, so that a ring within a ring is a hole.
+    virtual void polyPolygon(std::span<const std::span<const CanvasPoint>> rings) = 0;
 
     /// Text in the pen colour; `at` is its top left corner or the middle of its top edge.
     virtual void text(CanvasPoint at, std::string_view text, TextAnchor anchor, bool bold) = 0;

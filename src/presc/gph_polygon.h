@@ -35,6 +35,8 @@ public:
     [[nodiscard]] double getPointX(std::int32_t i) const;
     [[nodiscard]] double getPointY(std::int32_t i) const;
     [[nodiscard]] CanvasPoint pointToScreen(const ViewTransform& view, std::int32_t i) const;
+    /// Whether the position lies inside, by `pointInRing`.
+    [[nodiscard]] bool holds(LonLat position) const;
     /// Square metres, as `polygonArea`.
     [[nodiscard]] float Area() const;
 

@@ -3,6 +3,7 @@
 
 #include "paint/raster_canvas.h"
 
+#include <algorithm>
 #include <array>
 #include <vector>
 
@@ -67,6 +68,24 @@ TEST(RasterCanvas, OutlinesWithThePenAndFillsWithTheFillColour) {
     canvas.polygon(square(5, 5, 15, 15));
     EXPECT_EQ(colorAt(canvas, 5, 10), kBlack);
     EXPECT_EQ(colorAt(canvas, 10, 10), kBlue);
+}
+
+TEST(RasterCanvas, ARingWithinARingIsAHoleWhicheverWayItRuns) {
+    std::vector<CanvasPoint> hole = square(6, 6, 14, 14);
+    for (int turned = 0; turned < 2; ++turned) {
+        RasterCanvas canvas({20 * kUnits, 20 * kUnits});
+        canvas.setPenColor(kBlack);
+        canvas.setFillColor(kRed);
+        const std::vector<CanvasPoint> outer = square(2, 2, 18, 18);
+        const std::vector<CanvasPoint> island = square(8, 8, 12, 12);
+        const std::array<std::span<const CanvasPoint>, 4> rings{outer, hole, island, {}};
+        canvas.polyPolygon(rings);
+        EXPECT_EQ(colorAt(canvas, 4, 10), kRed);
+        EXPECT_EQ(colorAt(canvas, 6, 10), kBlack);
+        EXPECT_EQ(colorAt(canvas, 7, 10), Color::rgb(255, 255, 255));
+        EXPECT_EQ(colorAt(canvas, 10, 10), kRed);
+        std::reverse(hole.begin(), hole.end());
+    }
 }
 
 TEST(RasterCanvas, TheLaterPolygonLiesOnTop) {

@@ -28,6 +28,7 @@ namespace campora {
 ///     rectangle filled 0x0000FF: (1,2) (3,4)
 ///     point 0x0000FF width=1: (1,2)
 ///     polygon fill=0xFF8080 style=solid pen=0x000000 width=1 dotted: (1,2) (3,4) (5,6)
+///     polypolygon fill=0xFF8080 style=solid pen=0x000000 width=1 solid: (1,2) (3,4) / (5,6) (7,8)
 ///     text pen=0x000000 top-left: (1,2) "abc"
 ///     text pen=0x000000 top-centre bold: (1,2) "abc"
 ///     picture up: (1,2) 30x40
@@ -85,15 +86,18 @@ public:
         add("point " + hex(color) + " width=" + std::to_string(penWidth_) + ":" + place(at));
     }
     void polygon(std::span<const CanvasPoint> ring) override {
-        std::string call =
-            "polygon fill=" + hex(fill_) +
-            (fillStyle_ == FillStyle::Solid ? " style=solid" : " style=transparent") +
-            " pen=" + hex(pen_) + penForm() + ":";
-        for (const CanvasPoint& corner : ring) {
-            call += place(corner);
+        add("polygon" + fillForm() + ":" + corners(ring));
+        rings_.emplace_back(ring.begin(), ring.end());
+    }
+    void polyPolygon(std::span<const std::span<const CanvasPoint>> rings) override {
+        std::string call = "polypolygon" + fillForm() + ":";
+        const char* separator = "";
+        for (const std::span<const CanvasPoint> ring : rings) {
+            call += separator + corners(ring);
+            separator = " /";
+            rings_.emplace_back(ring.begin(), ring.end());
         }
         add(std::move(call));
-        rings_.emplace_back(ring.begin(), ring.end());
     }
     void text(CanvasPoint at, std::string_view text, TextAnchor anchor, bool bold) override {
         add("text pen=" + hex(pen_) +
@@ -123,6 +127,18 @@ private:
     [[nodiscard]] static std::string hex(Color color) { return "0x" + hexText(color.value, 6); }
     [[nodiscard]] static std::string place(CanvasPoint at) {
         return " (" + std::to_string(at.x) + "," + std::to_string(at.y) + ")";
+    }
+    [[nodiscard]] static std::string corners(std::span<const CanvasPoint> ring) {
+        std::string text;
+        for (const CanvasPoint& corner : ring) {
+            text += place(corner);
+        }
+        return text;
+    }
+    [[nodiscard]] std::string fillForm() const {
+        return " fill=" + hex(fill_) +
+               (fillStyle_ == FillStyle::Solid ? " style=solid" : " style=transparent") +
+               " pen=" + hex(pen_) + penForm();
     }
     [[nodiscard]] std::string penForm() const {
         return " width=" + std::to_string(penWidth_) +

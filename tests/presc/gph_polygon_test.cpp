@@ -1,0 +1,183 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "presc/gph_polygon.h"
+
+#include <stdexcept>
+
+#include <gtest/gtest.h>
+
+#include "presc/gph_poly_line.h"
+#include "presc/gph_polygon_multi.h"
+#include "support/recording_canvas.h"
+#include "support/scripted_platform.h"
+#include "support/work_records.h"
+
+namespace campora {
+
+namespace {
+
+/// A square with its lower left corner at (x, y).
+GphPolygon square(double x, double y, double side) {
+    GphPolygon ring(Color{0x112233});
+    ring.addPoint(x, y);
+    ring.addPoint(x, y + side);
+    ring.addPoint(x + side, y + side);
+    ring.addPoint(x + side, y);
+    return ring;
+}
+
+GphPolygon hole(double x, double y, double side) {
+    GphPolygon ring = square(x, y, side);
+    ring.isHole = true;
+    return ring;
+}
+
+/// 111.32 metres are a hundred units; (0, 0) is the lower left corner of 1000 x 1000 units.
+struct Drawing {
+    RecordingCanvas canvas{{1000, 1000}};
+    ViewTransform view{1.1132F, 1.1132F, {0, 0}, {1000, 1000}};
+    MapStyle style;
+    MapContext context{canvas, view, style};
+
+    std::vector<std::string> of(const Gph& layer) {
+        canvas.forget();
+        layer.Gph_plot(context);
+        return canvas.calls();
+    }
+};
+
+TEST(GphPolygon, AreaIsThatOfItsOwnLatitudes) {
+    EXPECT_NEAR(square(10, 0, 0.01).Area(), 1'239'214, 20);
+    EXPECT_NEAR(square(10, 60, 0.01).Area(), 1'239'214 / 2.0, 300);
+    EXPECT_EQ(GphPolygon().Area(), 0);
+}
+
+TEST(GphPolygon, IsClosedOnExport) {
+    GphPolygon ring = square(1, 2, 1);
+    const MapStyle style;
+    EXPECT_EQ(ring.ExportablePolygon_polygonNCount(style, 0), 5);
+    EXPECT_EQ(ring.ExportablePolygon_polygonNCount(style, 1), 0);
+    EXPECT_EQ(ring.ExportablePolygon_polygonNpoint(0, 2), (LonLat{2, 3}));
+    EXPECT_EQ(ring.ExportablePolygon_polygonNpoint(0, 4), (LonLat{1, 2}));
+    EXPECT_THROW((void)ring.ExportablePolygon_polygonNpoint(0, 5), std::out_of_range);
+    EXPECT_THROW((void)ring.ExportablePolygon_polygonNpoint(1, 0), std::out_of_range);
+    EXPECT_THROW((void)ring.getPointX(-1), std::out_of_range);
+    ring.clear();
+    EXPECT_FALSE(ring.Gph_bound().isSet);
+    EXPECT_EQ(ring.ExportablePolygon_polygonNCount(style, 0), 1);
+}
+
+TEST(GphPolygon, DrawsItselfFilled) {
+    Drawing drawing;
+    GphPolygon ring = square(0.001, 0.002, 0.001);
+    EXPECT_EQ(ring.pointToScreen(drawing.view, 2), (CanvasPoint{200, 700}));
+    EXPECT_EQ(drawing.of(ring),
+              std::vector<std::string>{"polygon fill=0x112233 style=solid pen=0x000000 width=1 "
+                                       "solid: (100,800) (100,700) (200,700) (200,800)"});
+    ring.isHole = true;
+    drawing.style.colors.back = {0xABCDEF};
+    EXPECT_TRUE(drawing.of(ring).at(0).starts_with("polygon fill=0xABCDEF"));
+    EXPECT_EQ(drawing.of(square(1, 1, 1)).size(), 0U) << "off the canvas";
+}
+
+TEST(GphPolygon, DrawsNoRingOfMoreThanItsLimit) {
+    Drawing drawing;
+    GphPolygon ring;
+    EXPECT_EQ(drawing.of(ring).size(), 0U);
+    for (int i = 0; i < 16'383; ++i) {
+        ring.addPoint(0.001 + i % 2 * 0.001, i * 1e-7);
+    }
+    EXPECT_EQ(drawing.of(ring).size(), 1U);
+    ring.addPoint(0.001, 0.002);
+    EXPECT_EQ(drawing.of(ring).size(), 0U);
+}
+
+TEST(GphPolygonMulti, KnowsItsHoles) {
+    GphPolygonMulti figure;
+    figure.addPolygon(square(0, 0, 10));
+    figure.addPolygon(hole(2, 2, 4));
+    figure.addPolygon(square(3, 3, 1));  // an island in the hole
+    figure.addPolygon(square(7, 7, 6));  // overlaps the first ring
+    figure.addPolygon(GphPolygon());
+    const struct Row {
+        const char* name;
+        LonLat position;
+        int ring;
+    } rows[] = {
+        {"between the rings", {1, 1}, 0},
+        {"in the hole", {5, 5}, -1},
+        {"on the island, in the hole", {3.5, 3.5}, -1},
+        {"in two rings", {8, 8}, 3},
+        {"outside", {20, 1}, -1},
+        {"on its level, beside it", {-1, 5}, -1},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(figure.Gph_mouseOver(ViewTransform(), MapStyle(), row.position, 0), row.ring);
+    }
+    EXPECT_EQ(figure.Area(), square(0, 0, 10).Area() - hole(2, 2, 4).Area() +
+                                 square(3, 3, 1).Area() + square(7, 7, 6).Area());
+    EXPECT_EQ(figure.Gph_bound().maxX, 13);
+    EXPECT_EQ(figure.Gph_bound().minX, 0);
+    EXPECT_FALSE(GphPolygonMulti().Gph_bound().isSet);
+}
+
+TEST(GphPolygonMulti, DrawsAllRingsAsOneFigure) {
+    Drawing drawing;
+    drawing.style.colors.fore = {0x0A0B0C};
+    GphPolygonMulti figure;
+    EXPECT_EQ(drawing.of(figure).size(), 0U);
+    figure.color = {0x445566};
+    figure.addPolygon(square(0.001, 0.001, 0.003));
+    figure.addPolygon(hole(0.002, 0.002, 0.001));
+    EXPECT_EQ(drawing.of(figure),
+              std::vector<std::string>{
+                  "polypolygon fill=0x445566 style=solid pen=0x0A0B0C width=1 solid: "
+                  "(100,900) (100,600) (400,600) (400,900) / "
+                  "(200,800) (200,700) (300,700) (300,800)"});
+    drawing.view = {};
+    EXPECT_EQ(drawing.of(figure).size(), 0U) << "nothing is fitted";
+}
+
+std::unique_ptr<TrackData> flow(float litres) {
+    return std::make_unique<TrackDataNBR>(loggerRecord(litres));
+}
+
+TEST(GphPolyLine, KeepsOnePointWhereItIsAddedTwice) {
+    GphPolyLine line;
+    EXPECT_EQ(line.Gph_count(), 0);
+    line.addPoint(1, 2, flow(11));
+    line.addPoint(1, 2, flow(22));
+    EXPECT_EQ(line.points().size(), 1U);
+    EXPECT_EQ(line.Gph_count(), 0);
+    line.addPoint(1, 3, nullptr);
+    EXPECT_EQ(line.Gph_count(), 1);
+    const Texts texts;
+    const FixedLocale locale;
+    const MapStyle style;
+    const InfoContext context{texts, locale, style};
+    EXPECT_EQ(line.Gph_getInfo(context, 0), flow(22)->resumen(context));
+    EXPECT_NE(line.Gph_getInfo(context, 0), flow(11)->resumen(context));
+    EXPECT_EQ(line.Gph_getInfo(context, 1), "");
+    EXPECT_THROW((void)line.Gph_getInfo(context, 2), std::out_of_range);
+}
+
+TEST(GphPolyLine, DrawsTheSegmentsThatShow) {
+    Drawing drawing;
+    drawing.canvas.setPenWidth(3);
+    GphPolyLine line;
+    line.color = {0x0000FF};
+    line.addPoint(0.001, 0.001, nullptr);
+    EXPECT_EQ(drawing.of(line).size(), 0U);
+    line.addPoint(0.002, 0.001, nullptr);
+    line.addPoint(0.002, 1, nullptr);
+    line.addPoint(3, 1, nullptr);
+    const std::vector<std::string> calls = drawing.of(line);
+    ASSERT_EQ(calls.size(), 2U);
+    EXPECT_EQ(calls[0], "line 0x0000FF width=1 solid: (100,900) (200,900)");
+}
+
+}  // namespace
+
+}  // namespace campora
