@@ -19,6 +19,10 @@ namespace {
 constexpr float kZoomStep = 1.5F;
 /// Metres a canvas unit where zooming in ends.
 constexpr float kFinestScale = 0.1F;
+/// Up to this scale of the whole map it is a map of fields, which are shown whole at about the
+/// finest scale already; there zooming in ends at a tenth of a metre a pixel.
+constexpr float kFieldScale = 1.0F;
+constexpr float kFinestFieldScale = kFinestScale / 15;
 /// Border of the tight axis, as a part of the box.
 constexpr double kBorder = 0.05;
 /// Room for a box that is zoomed to: itself and a border on either side.
@@ -154,7 +158,7 @@ void MapView::zoomOut(CanvasPoint fixed) {
 
 void MapView::zoomInAbout(double fromLeft, double fromBottom) {
     const float scale = x_.scale / kZoomStep;
-    if (!hasMap() || scale < kFinestScale) {
+    if (!hasMap() || scale < finestScale()) {
         return;
     }
     setView(scale, scale, x_.scrollKeeping(fromLeft, scale), y_.scrollKeeping(fromBottom, scale));
@@ -177,6 +181,10 @@ void MapView::zoomOutAbout(double fromLeft, double fromBottom) {
                                    static_cast<double>(scale) * height);
     setView(scale, scale, scrollX, scrollY);
     updateScrollBars();
+}
+
+float MapView::finestScale() const {
+    return maxScale_ > 0 && maxScale_ < kFieldScale ? kFinestFieldScale : kFinestScale;
 }
 
 void MapView::equalizeScales() {
@@ -295,7 +303,7 @@ void MapView::zoomToRectangle(CanvasPoint topLeft, CanvasSize size) {
     x_.scale = static_cast<float>(size.width) * x_.scale / static_cast<float>(width);
     y_.scale = static_cast<float>(size.height) * y_.scale / static_cast<float>(height);
     equalizeScales();
-    const float scale = std::max(x_.scale, kFinestScale);
+    const float scale = std::max(x_.scale, finestScale());
     const double widthM = static_cast<double>(scale) * width;
     const double heightM = static_cast<double>(scale) * height;
     setView(scale, scale, x_.within(scrollX, totalBound.widthM, widthM),

@@ -39,7 +39,8 @@ public:
     /// Shows a box with a border; one equal to `totalBound` as `ZoomUno` does.
     void zoomToBox(const BoundingBox& box);
     /// Steps of 1.5 about the middle of the canvas, or about a fixed point of it. Zooming in ends
-    /// at 0.1 metres a canvas unit, zooming out at the whole map.
+    /// at 0.1 metres a canvas unit (a fifteenth of that on maps of less than 1 metre a unit, which
+    /// hold a few fields), zooming out at the whole map.
     void zoomIn();
     void zoomOut();
     void zoomIn(CanvasPoint fixed);
@@ -132,6 +133,7 @@ private:
 
     [[nodiscard]] bool hasMap() const;
     [[nodiscard]] Fit fitOf(const BoundingBox& box, double room) const;
+    [[nodiscard]] float finestScale() const;
     void zoomInAbout(double fromLeft, double fromBottom);
     void zoomOutAbout(double fromLeft, double fromBottom);
     void showControls();

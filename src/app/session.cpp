@@ -76,8 +76,9 @@ Session::Session(const Platform& platform, Language language, std::string progra
             }),
       tools_(platform.canvas, platform.window, view_, style_, files_, texts_, platform.locale,
              [this](File* file) { selectFile(files_.indexOf(file)); }),
-      replay_(platform.canvas, platform.window, platform.clock, view_, style_, texts_,
-              platform.locale, [this] { return getGphList(); }, [this] { tools_.hideInfo(); }) {
+      replay_(
+          platform.canvas, platform.window, platform.clock, view_, style_, texts_, platform.locale,
+          [this] { return getGphList(); }, [this] { tools_.hideInfo(); }) {
     style_.scale = &defaultScale_;
 }
 
@@ -217,6 +218,9 @@ void Session::afterLoading(bool zoomAll) {
     raiseToZero(ranges_.litres);
     raiseToZero(ranges_.dose);
     refreshColorScale();
+    if (style_.mode == ColorMode::Error) {
+        recalcErrorAreas();
+    }
     if (zoomAll) {
         view_.ZoomUno();
     }

@@ -140,6 +140,8 @@ public:
     /// Builds the default scale anew for the current mode and shows it in the legend; does not
     /// redraw. The date map is left when nothing loaded has a date.
     void refreshColorScale();
+    /// Shows the summary of the current file as it is now.
+    void showSummary();
     /// Shows the scale and the plain colours as they are now.
     void showLegend();
     /// Draws the map again as it stands, in the user's background.
@@ -158,7 +160,6 @@ private:
     void showTitle(std::string title);
     /// Summary, title and legend.
     void showCurrentFile();
-    void showSummary();
     void showFlowStops();
 
     Platform platform_;

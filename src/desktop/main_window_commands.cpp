@@ -14,8 +14,12 @@
 #include "desktop/map_area.h"
 #include "desktop/map_widget.h"
 #include "desktop/pointer_override.h"
+#include "desktop/property_editor.h"
 #include "desktop/qt_text.h"
 #include "desktop/side_panel.h"
+#include "desktop/summary_editor_dialog.h"
+#include "desktop/work_orders_dialog.h"
+#include "work/summary_file.h"
 
 namespace campora {
 
@@ -29,6 +33,7 @@ QString menuText(std::string_view text) {
 }  // namespace
 
 void MainWindow::perform(const ActionRow& row) {
+    session_->tools().hideInfo();
     row.run(*this);
     commandsChanged();
 }
@@ -43,9 +48,26 @@ void MainWindow::openPaths(const std::vector<std::string>& paths, bool inPlaceOf
     session_->fileCommands().openPaths(paths, inPlaceOfOthers);
 }
 
-void MainWindow::openWorkOrders() {}
+void MainWindow::openWorkOrders() {
+    WorkOrdersDialog dialog(*session_, this);
+    dialog.showOpen();
+}
 
-void MainWindow::editSummary() {}
+void MainWindow::editSummary() {
+    File* const file = session_->files().currentFile();
+    if (file == nullptr) {
+        return;
+    }
+    FileProperties& summary = file->File_resumen();
+    const std::string source = summary.sourcePath;
+    if (source.empty()) {
+        static_cast<void>(editProperties(summary, desktop_.dialogs, session_->texts(), this));
+    } else {
+        editSummaryFile(source, desktop_.dialogs, session_->texts(), this);
+        loadSummaryFile(source, summary);
+    }
+    session_->showSummary();
+}
 
 void MainWindow::copyImage() {
     session_->tools().copyImage(desktop_.clipboard);
@@ -55,7 +77,11 @@ void MainWindow::goToCoordinate() {
     CoordDialog dialog(this, desktop_.dialogs, session_->texts(), desktop_.locale,
                        session_->coordType());
     if (const std::optional<LonLat> position = dialog.showInput()) {
-        session_->tools().goTo(*position);
+        if (!session_->tools().goTo(*position)) {
+            desktop_.dialogs.message(session_->texts()(TextId::PositionOffTheMap),
+                                     MessageIcon::Information,
+                                     session_->texts()(TextId::ProgramName));
+        }
     }
 }
 

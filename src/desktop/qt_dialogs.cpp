@@ -58,6 +58,14 @@ int showBox(QWidget* parent, std::string_view text, MessageIcon icon, std::strin
     return box.exec();
 }
 
+void prepare(QFileDialog& dialog) {
+    dialog.resize(kOpenDialogSize);
+#ifndef Q_OS_WIN
+    // A desktop's own dialog speaks the desktop's language, whatever the user has chosen here.
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+#endif
+}
+
 class QtProgress final : public Progress {
 public:
     QtProgress(QWidget* parent, const QString& caption, const QString& cancel)
@@ -147,7 +155,7 @@ std::vector<std::string> QtDialogs::openFiles(const OpenRequest& request) {
     QFileDialog dialog(window_, toQt(request.caption), toQt(request.folder));
     dialog.setFileMode(request.several ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
     dialog.setNameFilters(filterTexts(request.filters));
-    dialog.resize(kOpenDialogSize);
+    prepare(dialog);
     if (request.preview) {
         // After a moment of rest: stepping through a list must not open every file on the way.
         auto* rest = new QTimer(&dialog);
@@ -169,7 +177,7 @@ SaveAnswer QtDialogs::saveFile(const SaveRequest& request) {
     const QStringList filters = filterTexts(request.filters);
     dialog.setNameFilters(filters);
     dialog.selectFile(toQt(request.name));
-    dialog.resize(kOpenDialogSize);
+    prepare(dialog);
     const auto chosenFilter = [&] {
         return std::max(0, static_cast<int>(filters.indexOf(dialog.selectedNameFilter())));
     };
@@ -196,7 +204,7 @@ std::string QtDialogs::chooseFolder(const FolderRequest& request) {
     if (!request.entry.empty()) {
         dialog.setLabelText(QFileDialog::FileName, toQt(request.entry));
     }
-    dialog.resize(kOpenDialogSize);
+    prepare(dialog);
     return dialog.exec() == QDialog::Accepted ? toUtf8(dialog.selectedFiles().value(0))
                                               : std::string();
 }

@@ -161,6 +161,24 @@ TEST(MapView, ZoomingInEndsAtTheFinestScale) {
     }
 }
 
+TEST(MapView, AFieldCanBeLookedAtClosely) {
+    Fixture f;
+    f.view.totalBound = {};
+    f.view.totalBound.addPoint(-60, -33);
+    f.view.totalBound.addPoint(-59.99, -32.99);  // a kilometre
+    f.canvas.resize({13500, 10500});
+    f.view.fitView();
+    f.view.ZoomUno();
+    const float whole = f.view.scaleX();
+    for (int i = 0; i < 20; ++i) {
+        f.view.zoomIn();
+    }
+    EXPECT_LT(f.view.scaleX(), whole / 7);
+    EXPECT_GE(f.view.scaleX(), 0.1F / 15) << "a tenth of a metre a pixel";
+    f.view.zoomToRectangle({0, 0}, {});
+    EXPECT_FLOAT_EQ(f.view.scaleX(), 0.1F / 15);
+}
+
 TEST(MapView, ZoomStepsKeepTheirFixedPoint) {
     for (const CanvasPoint fixed : {CanvasPoint{500, 250}, {0, 0}, {1000, 500}, {730, 40}}) {
         SCOPED_TRACE(testing::Message() << fixed.x << ',' << fixed.y);

@@ -1,0 +1,160 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+// A contractor's day in the real window, with the program's own dialogs and settings.
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include <QAction>
+#include <QApplication>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QSlider>
+#include <QStatusBar>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+#include <gtest/gtest.h>
+
+#include "desktop/file_list.h"
+#include "desktop/map_area.h"
+#include "desktop/map_widget.h"
+#include "desktop/program.h"
+#include "desktop/qt_text.h"
+#include "desktop/side_panel.h"
+
+namespace campora {
+namespace {
+
+class WorkDay : public testing::Test {
+protected:
+    std::unique_ptr<Program> program;
+
+    void SetUp() override { start(); }
+
+    void start() {
+        program.reset();
+        program = std::make_unique<Program>();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+        ASSERT_TRUE(QTest::qWaitFor([this] { return map().hasFocus(); }));
+    }
+
+    [[nodiscard]] MainWindow& window() const { return program->window(); }
+    [[nodiscard]] Session& session() const { return window().session(); }
+    [[nodiscard]] MapWidget& map() const { return window().mapArea().map(); }
+
+    /// Does something in the next dialog that opens; the test fails when none does.
+    template <typename Dialog>
+    void inNextDialog(std::function<void(Dialog&)> act) {
+        auto* poll = new QTimer(&window());
+        QObject::connect(poll, &QTimer::timeout, poll, [poll, act] {
+            if (auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget())) {
+                poll->deleteLater();
+                act(*dialog);
+            }
+        });
+        poll->start(20);
+    }
+
+    void choose(const char* action) {
+        auto* found = window().findChild<QAction*>(action);
+        ASSERT_NE(found, nullptr) << action;
+        ASSERT_TRUE(found->isEnabled()) << action;
+        found->trigger();
+    }
+    void click(const char* button) {
+        auto* found = window().findChild<QAbstractButton*>(button);
+        ASSERT_NE(found, nullptr) << button;
+        QTest::mouseClick(found, Qt::LeftButton);
+    }
+    void drag(QPoint from, QPoint to) {
+        QTest::mousePress(&map(), Qt::LeftButton, {}, from);
+        QTest::mouseMove(&map(), (from + to) / 2);
+        QTest::mouseMove(&map(), to);
+        // The screen's own pointer may lag behind: the release carries the place.
+        QTest::mouseRelease(&map(), Qt::LeftButton, {}, to);
+    }
+    void openByDialog(const std::string& path) {
+        inNextDialog<QFileDialog>([path](QFileDialog& dialog) {
+            auto* name = dialog.findChild<QLineEdit*>();
+            name->setText(toQt(path));  // typing opens a list of names over the dialog
+            QTest::keyClick(name, Qt::Key_Return);
+        });
+        QTest::keyClick(&map(), Qt::Key_O, Qt::ControlModifier);
+    }
+    [[nodiscard]] bool statusShows(const QString& text) const {
+        for (const QLabel* label : window().statusBar()->findChildren<QLabel*>()) {
+            if (label->text().contains(text)) {
+                return true;
+            }
+        }
+        return false;
+    }
+};
+
+TEST_F(WorkDay, OpenZoomInformMeasureColourReplayAndStartAgain) {
+    choose("mnuHelpLangEsp");
+    openByDialog(CAMPORA_SOURCE_DIR "/samples/lote-demo.rpt");
+    ASSERT_EQ(session().plotCount(), 1);
+    EXPECT_TRUE(window().windowTitle().endsWith("lote-demo.rpt]"));
+
+    const float wholeScale = session().view().scaleX();
+    click("ZoomSelect");
+    const QPoint middle = map().rect().center();
+    drag(middle - QPoint(80, 60), middle + QPoint(80, 60));
+    const float closeScale = session().view().scaleX();
+    EXPECT_LT(closeScale, wholeScale / 3) << "the rectangle fills the map";
+
+    click("info");
+    QTest::mouseClick(&map(), Qt::LeftButton, {}, middle + QPoint(0, 120));
+    const auto* info = window().findChild<QLabel*>("txtInfo");
+    EXPECT_TRUE(info->isVisible());
+    EXPECT_TRUE(info->text().contains("Ancho de labor = ")) << toUtf8(info->text());
+
+    click("ruler");
+    EXPECT_FALSE(info->isVisible()) << "another tool takes the box away";
+    drag(middle, middle + QPoint(100, 0));
+    EXPECT_TRUE(statusShows("Dist:"));
+    QTest::mouseClick(&map(), Qt::RightButton, {}, middle);
+    EXPECT_FALSE(window().findChild<QAction*>("mnuToolRuler")->isChecked());
+
+    QTest::keyClick(&map(), Qt::Key_0, Qt::ControlModifier);
+    EXPECT_EQ(session().view().scaleX(), wholeScale);
+    session().modes().mnuColorScaleSelCH(0);
+    choose("mnuColorErrorMap");
+    EXPECT_EQ(session().style().mode, ColorMode::Error);
+    EXPECT_TRUE(window().findChild<QAction*>("mnuColorErrorMap")->isChecked());
+
+    choose("mnuHelpLangPort");
+    EXPECT_EQ(window().findChild<QMenu*>()->title(), "&Arquivo");
+    EXPECT_EQ(window().findChild<QAction*>("mnuColorErrorMap")->text(), "Mapa de &erro");
+
+    QTimer::singleShot(300, &window(), [this] { click("CmdPlay"); });
+    click("CmdPlay");  // returns when the other click has paused it
+    EXPECT_EQ(session().replay().state(), Replay::State::Paused);
+    const int paused = window().findChild<QSlider*>("animation")->value();
+    EXPECT_GT(paused, 0);
+    click("CmdStop");
+    EXPECT_EQ(session().replay().state(), Replay::State::Idle);
+
+    choose("mnuEditDoted");
+    choose("mnuEditCoordSex");
+    window().resize(900, 700);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return window().size() == QSize(900, 700); }));
+    QTest::keyClick(&map(), Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_FALSE(window().isVisible());
+
+    start();
+    EXPECT_EQ(session().texts().language(), Language::Portuguese);
+    EXPECT_TRUE(session().style().drawDotted);
+    EXPECT_EQ(session().coordType(), CoordType::DegreesMinutesSeconds);
+    EXPECT_EQ(window().size(), QSize(900, 700));
+    EXPECT_EQ(session().fileCommands().recentFiles().size(), 1U);
+}
+
+}  // namespace
+}  // namespace campora
