@@ -64,8 +64,7 @@ private:
     static constexpr std::size_t kVertexBytes = 16;
 
     [[noreturn]] static void refuseIndex();
-    [[nodiscard]] bool runsWithTheClock(const ShapePart& part) const;
-    [[nodiscard]] bool runsAgainstTheClock(const ShapePart& part) const;
+    /// Positive against the clock.
     [[nodiscard]] double twiceArea(const ShapePart& part) const;
     void markHoles(std::vector<ShapePart>& parts) const;
 
@@ -93,7 +92,7 @@ public:
 
 private:
     [[nodiscard]] bool takeIndex(std::span<const std::byte> index);
-    void walk(std::size_t declaredEnd);
+    void walk();
     /// `record`: from 0. Throws `FormatError` as the constructor.
     [[nodiscard]] Shape decode(std::size_t record) const;
     void check(std::size_t record) const;

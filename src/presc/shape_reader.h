@@ -80,7 +80,11 @@ private:
         std::optional<Failure> tableWarning;
     };
 
+    static constexpr std::int32_t kNoRow = -1;
+
     static void readTable(std::string_view base, Files& files);
+    /// Whether the current record is there and not deleted.
+    [[nodiscard]] bool hasValues() const;
     void place(std::int32_t record);
     [[nodiscard]] const ShapePart& part(std::int32_t part) const;
 

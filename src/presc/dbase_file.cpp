@@ -1,0 +1,190 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "presc/dbase_file.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+
+#include "base/byte_reader.h"
+#include "base/failure.h"
+#include "base/numbers.h"
+
+namespace campora {
+
+namespace {
+
+// Bytes from the start of the file, little-endian.
+namespace header {
+constexpr std::size_t kRowCount = 4;   // u32
+constexpr std::size_t kSize = 8;       // u16, of the header with its columns
+constexpr std::size_t kRowSize = 10;   // u16, the mark of deleted rows included
+constexpr std::size_t kLanguage = 29;  // u8
+constexpr std::size_t kColumns = 32;   // the columns begin
+constexpr std::size_t kLeast = 33;     // a header without columns
+constexpr std::uint8_t kColumnsEnd = 0x0D;
+}  // namespace header
+
+// Bytes from the start of a column's description.
+namespace column {
+constexpr std::size_t kNameSize = 11;  // ended by a zero byte when shorter
+constexpr std::size_t kType = 11;      // a letter
+constexpr std::size_t kWidth = 16;     // u8
+constexpr std::size_t kSize = 32;
+}  // namespace column
+
+constexpr char kDeleted = '*';
+
+std::string_view textOf(std::span<const std::byte> bytes) {
+    return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
+}
+
+/// dBASE III and later with the same layout, with and without memos, and FoxPro.
+bool isKnownVersion(std::uint8_t version) {
+    constexpr std::uint8_t kFoxPro = 0x30;
+    constexpr std::uint8_t kFoxPro2Memo = 0xF5;
+    return (version & 0x07U) == 3 || (version >= kFoxPro && version <= kFoxPro + 2) ||
+           version == kFoxPro2Memo;
+}
+
+/// Some programs pad with zero bytes instead of blanks.
+std::string_view withoutPadding(std::string_view text) {
+    constexpr std::string_view kPadding("\0 \t\r\n", 5);
+    const std::size_t first = text.find_first_not_of(kPadding);
+    if (first == std::string_view::npos) {
+        return {};
+    }
+    return text.substr(first, text.find_last_not_of(kPadding) - first + 1);
+}
+
+std::optional<double> wholeNumber(std::string_view text) {
+    if (text.size() > 1 && text[0] == '+' && text[1] != '-') {
+        text.remove_prefix(1);
+    }
+    double value = 0;
+    const char* const end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, value);
+    if (error != std::errc() || stop != end || !std::isfinite(value)) {
+        return std::nullopt;
+    }
+    return value;
+}
+
+CellValue dateOf(std::string_view text) {
+    constexpr std::size_t kDigits = 8;  // yyyymmdd
+    int number = 0;
+    const char* const end = text.data() + text.size();
+    if (text.size() != kDigits || std::from_chars(text.data(), end, number).ptr != end) {
+        return {};
+    }
+    const Date date{number / 10000, number / 100 % 100, number % 100};
+    if (number <= 0 || date.year == 0 || normalized(date) != date) {
+        return {};
+    }
+    return date;
+}
+
+bool isNumberColumn(char type) {
+    return type == 'N' || type == 'F';
+}
+
+[[noreturn]] void damagedAt(std::size_t offset) {
+    throw FormatError({TextId::TableDamaged, {numberText(offset)}, {}});
+}
+
+}  // namespace
+
+DbaseFile::DbaseFile(std::span<const std::byte> bytes, std::string_view codePageName)
+    : bytes_(bytes) {
+    if (bytes.size() < header::kColumns || !isKnownVersion(static_cast<std::uint8_t>(bytes[0]))) {
+        throw FormatError({TextId::TableNone, {}, {}});
+    }
+    ByteReader reader(bytes, header::kRowCount);
+    const std::uint32_t rows = reader.u32le();
+    firstRow_ = reader.u16le();
+    rowSize_ = reader.u16le();
+    if (firstRow_ < header::kLeast) {
+        damagedAt(header::kSize);
+    }
+    if (rowSize_ == 0) {
+        damagedAt(header::kRowSize);
+    }
+    reader.seek(firstRow_);
+    rowCount_ =
+        static_cast<std::int32_t>(std::min<std::size_t>(rows, reader.remaining() / rowSize_));
+    reader.seek(header::kLanguage);
+    const CodePage ofTable = codePageOfLanguage(reader.u8());
+    codePage_ = codePageOfName(codePageName).value_or(ofTable);
+    readColumns(firstRow_);
+}
+
+void DbaseFile::readColumns(std::size_t headerSize) {
+    std::size_t offset = 1;  // the mark of deleted rows
+    for (std::size_t at = header::kColumns; at + column::kSize <= headerSize; at += column::kSize) {
+        ByteReader reader(bytes_, at);
+        const std::string_view name = textOf(reader.take(column::kNameSize));
+        if (static_cast<std::uint8_t>(name[0]) == header::kColumnsEnd) {
+            break;
+        }
+        const char type = static_cast<char>(reader.u8());
+        reader.seek(at + column::kWidth);
+        const std::size_t width = reader.u8();
+        if (offset + width > rowSize_) {
+            damagedAt(at + column::kWidth);
+        }
+        columns_.push_back(
+            {decodeCodePage(withoutPadding(name.substr(0, name.find('\0'))), codePage_), type,
+             offset, width});
+        offset += width;
+    }
+}
+
+const DbaseFile::Column& DbaseFile::at(int column) const {
+    return columns_.at(static_cast<std::size_t>(column));
+}
+
+const std::string& DbaseFile::fieldName(int column) const {
+    return at(column).name;
+}
+
+bool DbaseFile::isDeleted(std::int32_t row) const {
+    return row >= 0 && row < rowCount_ &&
+           static_cast<char>(bytes_[firstRow_ + static_cast<std::size_t>(row) * rowSize_]) ==
+               kDeleted;
+}
+
+std::string_view DbaseFile::cell(std::int32_t row, const Column& column) const {
+    if (row < 0 || row >= rowCount_) {
+        return {};
+    }
+    const std::size_t at = firstRow_ + static_cast<std::size_t>(row) * rowSize_ + column.offset;
+    return withoutPadding(textOf(bytes_.subspan(at, column.width)));
+}
+
+std::optional<double> DbaseFile::number(std::int32_t row, int column) const {
+    const Column& of = at(column);
+    if (!isNumberColumn(of.type) && of.type != 'C') {
+        return std::nullopt;
+    }
+    return wholeNumber(cell(row, of));
+}
+
+CellValue DbaseFile::value(std::int32_t row, int column) const {
+    const Column& of = at(column);
+    if (isNumberColumn(of.type)) {
+        const std::optional<double> value = number(row, column);
+        return value ? CellValue(*value) : CellValue();
+    }
+    const std::string_view text = cell(row, of);
+    if (of.type == 'D') {
+        return dateOf(text);
+    }
+    const bool isText = of.type == 'C' || (of.type == 'L' && text != "?");
+    if (!isText || text.empty()) {
+        return {};
+    }
+    return decodeCodePage(text, codePage_);
+}
+
+}  // namespace campora
