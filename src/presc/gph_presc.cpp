@@ -1,0 +1,305 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "presc/gph_presc.h"
+
+#include <cstddef>
+#include <filesystem>
+#include <stdexcept>
+#include <utility>
+#include <variant>
+
+#include "base/dates.h"
+#include "base/numbers.h"
+#include "base/paths.h"
+#include "model/shown_number.h"
+#include "presc/shape_polygons.h"
+
+namespace campora {
+
+namespace {
+
+constexpr double kSquareMetresPerHectare = 10'000;
+/// Steps of the tree's whole numbers in a degree.
+constexpr double kTreeSteps = 10'000'000;
+constexpr std::string_view kLineEnd = "\r\n";
+
+std::int32_t toTree(double degrees) {
+    return roundToInt32(degrees * kTreeSteps);
+}
+
+/// A cell as the information box shows it.
+struct CellText {
+    const UserLocale& locale;
+
+    std::string operator()(std::monostate /*empty*/) const { return {}; }
+    std::string operator()(std::int64_t number) const { return numberText(number); }
+    std::string operator()(float number) const {
+        return numberText(static_cast<double>(number), locale.decimalSymbol());
+    }
+    std::string operator()(double number) const {
+        return numberText(number, locale.decimalSymbol());
+    }
+    std::string operator()(const std::string& text) const { return text; }
+    std::string operator()(const Date& date) const {
+        return dateText(date, locale.shortDateForm());
+    }
+};
+
+}  // namespace
+
+GphPresc::GphPresc() {
+    scale_.allowClassEdit = false;
+    scale_.allowValueChange = true;
+    scale_.valueChangeCaption = TextId::ChangeDose;
+    changes_ = scale_.onChanged([this] { colorAgain(); });
+    valueChanges_ =
+        scale_.onClassValueChanged([this](int /*index*/, double oldValue, double newValue) {
+            changeValue(oldValue, newValue);
+        });
+}
+
+bool GphPresc::loadFromFile(std::string_view path, Dialogs& dialogs, const Texts& texts) {
+    std::error_code unknown;
+    if (!std::filesystem::exists(nativePath(path), unknown)) {
+        return false;
+    }
+    const std::string_view caption = texts(TextId::ProgramName);
+    if (const std::optional<Failure> failure = reader_.open(path)) {
+        dialogs.message(texts.sentence(because(TextId::ShapeCannotOpen, {}, *failure)),
+                        MessageIcon::Plain, caption);
+        return false;
+    }
+    if (const std::optional<Failure>& warning = reader_.tableWarning()) {
+        dialogs.message(texts.sentence(*warning), MessageIcon::Exclamation, caption);
+    }
+    name_ = fileNamePart(path);
+    path_ = path;
+    readColumns();
+    readRecords();
+    if (!bound_.isSet) {
+        dialogs.message(texts.format(TextId::ShapeWithoutPolygons, {path_}),
+                        MessageIcon::Exclamation, caption);
+    }
+    return true;
+}
+
+void GphPresc::readColumns() {
+    columnNames_.clear();
+    SetList set;
+    set.addDosis(0);
+    for (int column = 1; column <= reader_.fieldCount(); ++column) {
+        columnNames_.push_back(reader_.fieldName(column));
+    }
+    sets_.assign(columnNames_.size(), set);
+}
+
+void GphPresc::readRecords() {
+    report(0, 1);
+    const std::int32_t records = reader_.recordCount();
+    polygons_.reserve(static_cast<std::size_t>(records));
+    for (reader_.moveFirst(); reader_.record() <= records; reader_.moveNext()) {
+        report(reader_.record(), records);
+        collectDoses(reader_.partCount());
+        addPolygon(readPolygon(reader_));
+    }
+    report(1, 1);
+}
+
+void GphPresc::collectDoses(std::int32_t parts) {
+    if (parts == 0) {
+        return;
+    }
+    for (std::size_t i = 0; i < sets_.size(); ++i) {
+        if (!sets_[i]) {
+            continue;
+        }
+        const std::optional<double> value = reader_.fieldNumber(static_cast<int>(i) + 1);
+        if (!value) {
+            sets_[i].reset();
+            continue;
+        }
+        for (std::int32_t part = 0; part < parts; ++part) {
+            sets_[i]->addDosis(*value);
+        }
+    }
+}
+
+void GphPresc::addPolygon(GphPolygonMulti polygon) {
+    const BoundingBox& box = polygon.Gph_bound();
+    if (box.isSet) {
+        bound_.addBoundingBox(box);
+        tree_.Insert(toTree(box.minX), toTree(box.minY), toTree(box.maxX), toTree(box.maxY),
+                     Gph_count());
+    }
+    polygons_.push_back(std::move(polygon));
+}
+
+void GphPresc::report(std::int64_t done, std::int64_t all) const {
+    if (progress) {
+        progress(static_cast<int>(
+            roundHalfEven(static_cast<double>(done) * 100 / static_cast<double>(all))));
+    }
+}
+
+const SetList* GphPresc::setOf(int column) const {
+    if (column < 1 || column > columnCount()) {
+        return nullptr;
+    }
+    const std::optional<SetList>& set = sets_[static_cast<std::size_t>(column) - 1];
+    return set ? &*set : nullptr;
+}
+
+bool GphPresc::columnaNumeric(int column) const {
+    return setOf(column) != nullptr;
+}
+
+const std::vector<double>& GphPresc::dosisCollection(int column) const {
+    static const std::vector<double> none;
+    const SetList* const set = setOf(column);
+    return set == nullptr ? none : set->getSet();
+}
+
+const SetList* GphPresc::currentDosisSet() const {
+    return setOf(column_);
+}
+
+void GphPresc::setColumnaDosis(int column) {
+    const SetList* const set = setOf(column);
+    if (set == nullptr) {
+        return;
+    }
+    column_ = column;
+    report(0, 1);
+    const std::int32_t count = Gph_count();
+    for (std::int32_t i = 0; i < count; ++i) {
+        report(i, count);
+        reader_.moveTo(i + 1);
+        // A record without parts has no say in whether the column is numeric.
+        polygons_[static_cast<std::size_t>(i)].dosis =
+            static_cast<float>(reader_.fieldNumber(column).value_or(0));
+    }
+    scale_.loadFromSetList(*set, 0);  // which colours the zones
+    report(1, 1);
+}
+
+void GphPresc::setDosis(std::int32_t polygon, float dosis) {
+    GphPolygonMulti& changed = polygons_.at(static_cast<std::size_t>(polygon));
+    if (column_ == kNoColumn) {
+        return;
+    }
+    changed.dosis = dosis;
+    recalculateColorScale();
+}
+
+void GphPresc::recalculateColorScale() {
+    if (column_ == kNoColumn) {
+        return;
+    }
+    SetList set;
+    set.addDosis(0);
+    for (const GphPolygonMulti& polygon : polygons_) {
+        set.addDosis(static_cast<double>(polygon.dosis));
+    }
+    std::optional<SetList>& current = sets_[static_cast<std::size_t>(column_) - 1];
+    current = std::move(set);
+    scale_.loadFromSetList(*current, 0);
+}
+
+void GphPresc::changeValue(double oldValue, double newValue) {
+    const auto before = static_cast<float>(oldValue);
+    for (GphPolygonMulti& polygon : polygons_) {
+        if (polygon.dosis == before) {
+            polygon.dosis = static_cast<float>(newValue);
+        }
+    }
+    recalculateColorScale();
+}
+
+void GphPresc::colorAgain() {
+    // In single precision, as doses and classes are: the value in the table may lie beside both.
+    for (GphPolygonMulti& polygon : polygons_) {
+        polygon.color = scale_.getColor(static_cast<double>(polygon.dosis));
+    }
+}
+
+std::vector<std::int32_t> GphPresc::searchOrder() const {
+    const std::optional<R2TreeFound> all =
+        tree_.Find(tree_.MinX(), tree_.MaxX(), tree_.MinY(), tree_.MaxY(), R2Tree::kOverlapping);
+    std::vector<std::int32_t> order;
+    order.reserve(all->entries.size());
+    for (const R2TreeEntry* entry : all->entries) {
+        order.push_back(entry->ChildID);
+    }
+    return order;
+}
+
+std::int32_t GphPresc::polygonIndexAt(LonLat position) const {
+    const std::int32_t x = toTree(position.x);
+    const std::int32_t y = toTree(position.y);
+    const std::optional<R2TreeFound> found = tree_.Find(x, x, y, y, R2Tree::kOverlapping);
+    for (auto entry = found->entries.rbegin(); entry != found->entries.rend(); ++entry) {
+        const std::int32_t index = (*entry)->ChildID;
+        if (polygons_[static_cast<std::size_t>(index)].ringAt(position) >= 0) {
+            return index;
+        }
+    }
+    return -1;
+}
+
+const GphPolygonMulti* GphPresc::getPolygonAtPoint(double x, double y) const {
+    const std::int32_t index = polygonIndexAt({x, y});
+    return index < 0 ? nullptr : &polygons_[static_cast<std::size_t>(index)];
+}
+
+double GphPresc::hectares() const {
+    double area = 0;
+    for (const GphPolygonMulti& polygon : polygons_) {
+        area += static_cast<double>(polygon.Area());
+    }
+    return area / kSquareMetresPerHectare;
+}
+
+double GphPresc::totalProduct() const {
+    double product = 0;
+    for (const GphPolygonMulti& polygon : polygons_) {
+        product += static_cast<double>(polygon.dosis) * static_cast<double>(polygon.Area());
+    }
+    return product / kSquareMetresPerHectare;
+}
+
+void GphPresc::Gph_plot(MapContext& context) const {
+    context.canvas.setPenColor(context.style.colors.fore);
+    for (const GphPolygonMulti& polygon : polygons_) {
+        polygon.Gph_plot(context);
+    }
+}
+
+bool GphPresc::Gph_plotN(MapContext& /*context*/, std::int32_t /*n*/) const {
+    return false;
+}
+
+float GphPresc::Gph_delayN(std::int32_t /*n*/) const {
+    return 0;
+}
+
+std::int32_t GphPresc::Gph_mouseOver(const ViewTransform& /*view*/, const MapStyle& /*style*/,
+                                     LonLat position, std::int32_t /*start*/) const {
+    return polygonIndexAt(position);
+}
+
+std::string GphPresc::Gph_getInfo(const InfoContext& context, std::int32_t n) const {
+    const GphPolygonMulti& polygon = polygons_.at(static_cast<std::size_t>(n));
+    reader_.moveTo(n + 1);
+    std::string text;
+    for (int column = 1; column <= columnCount(); ++column) {
+        text.append(reader_.fieldName(column)).append(": ");
+        text.append(std::visit(CellText{context.locale}, reader_.fieldValue(column)));
+        text.append(kLineEnd);
+    }
+    const double hectares = static_cast<double>(polygon.Area()) / kSquareMetresPerHectare;
+    text.append(context.texts.format(TextId::PolygonArea, {shownNumber(hectares, context.locale)}));
+    return text.append(kLineEnd);
+}
+
+}  // namespace campora
