@@ -1,0 +1,231 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "presc/gph_presc.h"
+
+#include <fstream>
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include "support/recording_canvas.h"
+#include "support/scripted_platform.h"
+#include "support/shared_samples.h"
+#include "support/zone_map.h"
+
+namespace campora {
+namespace {
+
+using Values = std::vector<double>;
+
+struct PrescTest : testing::Test {
+    std::string write(const ZoneMap& map) const { return map.write(folder, "lote"); }
+    bool load(const ZoneMap& map) { return presc.loadFromFile(write(map), dialogs, texts); }
+    /// Upper bounds of the classes.
+    [[nodiscard]] Values scale() const {
+        Values values;
+        for (const Clase& clase : presc.escalaColor().classes()) {
+            values.push_back(clase.upper);
+        }
+        return values;
+    }
+    [[nodiscard]] Values doses() const {
+        Values values;
+        for (const GphPolygonMulti& polygon : presc.polygons()) {
+            values.push_back(polygon.dosis);
+        }
+        return values;
+    }
+    /// Whether every zone has the colour of its class.
+    [[nodiscard]] bool isColoured() const {
+        for (const GphPolygonMulti& polygon : presc.polygons()) {
+            if (polygon.color != presc.escalaColor().getClassByValue(polygon.dosis)->color) {
+                return false;
+            }
+        }
+        return true;
+    }
+
+    TempFolder folder;
+    ScriptedDialogs dialogs;
+    Texts texts;
+    FixedLocale locale{','};
+    MapStyle style;
+    GphPresc presc;
+};
+
+TEST_F(PrescTest, CollectsTheDistinctDosesOfEveryNumericColumn) {
+    ASSERT_TRUE(load({{"DOSIS", "MIXTA", "VACIA"},
+                      {{{squareAt({0, 0}, 1)}, {" 5 ", "1", "1"}},
+                       {{squareAt({1, 0}, 1)}, {"3", "1e1", "2"}},
+                       {{squareAt({2, 0}, 1)}, {"5", "2x", ""}},
+                       {{squareAt({3, 0}, 1)}, {"4", "7", "3"}}}}));
+    EXPECT_EQ(presc.columnNames(), (std::vector<std::string>{"DOSIS", "MIXTA", "VACIA"}));
+    EXPECT_EQ(presc.dosisCollection(1), (Values{0, 3, 4, 5}));
+    for (const int column : {-1, 0, 2, 3, 4}) {
+        EXPECT_FALSE(presc.columnaNumeric(column)) << column;
+        EXPECT_TRUE(presc.dosisCollection(column).empty()) << column;
+        presc.setColumnaDosis(column);
+        EXPECT_EQ(presc.columnaDosis(), GphPresc::kNoColumn) << column;
+    }
+    EXPECT_EQ(presc.currentDosisSet(), nullptr);
+    EXPECT_EQ(presc.File_name(), "lote.shp");
+    EXPECT_EQ(presc.File_icon(), "shpfile");
+    EXPECT_EQ(presc.File_gphList(), std::vector<Gph*>{&presc});
+    EXPECT_TRUE(dialogs.messages.empty());
+}
+
+TEST_F(PrescTest, ARecordCountsOncePerPart) {
+    ASSERT_TRUE(load({{"DOSIS"},
+                      {{{squareAt({0, 0}, 1), holeAt({0.2, 0.2}, 0.1)}, {"10"}},
+                       {{squareAt({1, 0}, 1)}, {"40"}},
+                       {{}, {"no"}}}}));
+    presc.setColumnaDosis(1);
+    ASSERT_NE(presc.currentDosisSet(), nullptr);  // an empty record has no say
+    EXPECT_EQ(presc.currentDosisSet()->sum(), 60);
+    EXPECT_EQ(presc.currentDosisSet()->addedCount(), 4);
+    EXPECT_EQ(presc.Gph_count(), 3);
+    EXPECT_EQ(presc.searchOrder(), (std::vector<std::int32_t>{0, 1}));
+}
+
+TEST_F(PrescTest, AChosenColumnGivesDosesClassesAndColours) {
+    ASSERT_TRUE(load(rowOfZones({"0.7", "30", "0.7", "0.1"})));
+    presc.setColumnaDosis(2);
+    EXPECT_EQ(presc.columnaDosis(), GphPresc::kNoColumn);
+    presc.setColumnaDosis(1);
+    EXPECT_EQ(scale(), (Values{0, 0.1F, 0.7F, 30}));
+    EXPECT_EQ(doses(), (Values{0.7F, 30, 0.7F, 0.1F}));
+    EXPECT_TRUE(isColoured());
+    EXPECT_EQ(presc.polygons()[0].color, presc.escalaColor().getClass(2).color);
+    EXPECT_NE(presc.polygons()[0].color, presc.polygons()[1].color);
+    presc.escalaColor().setClassColor(2, Color::rgb(1, 2, 3));
+    EXPECT_EQ(presc.polygons()[0].color, Color::rgb(1, 2, 3));
+    EXPECT_FALSE(presc.escalaColor().allowClassEdit);
+    EXPECT_EQ(texts(presc.escalaColor().valueChangeCaption), "Cambiar Dosis");
+}
+
+TEST_F(PrescTest, DosesChangeByClassAndByZone) {
+    ASSERT_TRUE(load(rowOfZones({"100", "50", "100"})));
+    presc.setColumnaDosis(1);
+    presc.escalaColor().setClassValue(2, 120, dialogs, texts);
+    EXPECT_EQ(doses(), (Values{120, 50, 120}));
+    EXPECT_EQ(scale(), (Values{0, 50, 120}));
+    EXPECT_EQ(presc.dosisCollection(1), (Values{0, 50, 120}));
+    presc.setDosis(1, 77.5F);
+    EXPECT_EQ(doses(), (Values{120, 77.5, 120}));
+    EXPECT_EQ(scale(), (Values{0, 77.5, 120}));
+    EXPECT_TRUE(isColoured());
+    EXPECT_THROW(presc.setDosis(3, 1), std::out_of_range);
+    // 0.01 degrees are 1113.2 metres to the north, and at 33 degrees 933.6 to the east.
+    EXPECT_NEAR(presc.hectares(), 3 * 103.95, 0.2);
+    EXPECT_NEAR(presc.totalProduct(), 317.5 * 103.95, 20);
+}
+
+TEST_F(PrescTest, TheLastZoneOfTheSearchOrderHasThePlace) {
+    ASSERT_TRUE(load({{"DOSIS"},
+                      {{{squareAt({0, 0}, 2)}, {"1"}},
+                       {{squareAt({1, 1}, 2), holeAt({2.2, 2.2}, 0.5)}, {"2"}},
+                       {{squareAt({2.1, 2.1}, 0.05)}, {"3"}}}}));
+    EXPECT_EQ(presc.searchOrder(), (std::vector<std::int32_t>{0, 1, 2}));
+    const std::vector<std::pair<LonLat, std::int32_t>> cases{
+        {{0.5, 0.5}, 0}, {{1.5, 1.5}, 1}, {{2.12, 2.12}, 2}, {{2.4, 2.4}, -1}, {{5, 5}, -1}};
+    for (const auto& [at, zone] : cases) {
+        EXPECT_EQ(presc.polygonIndexAt(at), zone) << at.x;
+        EXPECT_EQ(presc.Gph_mouseOver({}, style, at, 0), zone) << at.x;
+        EXPECT_EQ(presc.getPolygonAtPoint(at.x, at.y),
+                  zone < 0 ? nullptr : &presc.polygons()[static_cast<std::size_t>(zone)]);
+    }
+}
+
+TEST_F(PrescTest, TellsTheColumnsAndTheAreaOfAZone) {
+    ASSERT_TRUE(load(rowOfZones({"0.5"}, {0, 0})));
+    EXPECT_EQ(presc.Gph_getInfo({texts, locale, style}, 0),
+              "DOSIS: 0.5\r\nNOMBRE: zona 0\r\nArea calculada: 124 Has\r\n");
+    EXPECT_THROW((void)presc.Gph_getInfo({texts, locale, style}, 1), std::out_of_range);
+}
+
+TEST_F(PrescTest, DrawsItsZonesInOrder) {
+    ASSERT_TRUE(load(rowOfZones({"1", "2"}, {0, 0})));
+    presc.setColumnaDosis(1);
+    RecordingCanvas canvas({1000, 500});
+    const ViewTransform view(10, 10, {-0.01, -0.01}, canvas.size());
+    style.colors.fore = Color::rgb(0, 0, 9);
+    MapContext context{canvas, view, style};
+    presc.Gph_plot(context);
+    const std::vector<std::string> calls = canvas.callsOf("polypolygon");
+    ASSERT_EQ(calls.size(), 2U);
+    EXPECT_TRUE(calls[0].starts_with("polypolygon fill=0x00FF00 style=solid pen=0x090000"))
+        << calls[0];
+    EXPECT_TRUE(calls[1].starts_with("polypolygon fill=0x0000FF")) << calls[1];
+}
+
+TEST_F(PrescTest, ReportsProgressFromZeroToHundred) {
+    std::vector<int> reports;
+    presc.progress = [&reports](int percent) { reports.push_back(percent); };
+    ASSERT_TRUE(load(rowOfZones({"1", "2", "3", "4", "5", "6", "7", "8"})));
+    EXPECT_EQ(reports, (std::vector<int>{0, 12, 25, 38, 50, 62, 75, 88, 100, 100}));
+    reports.clear();
+    presc.setColumnaDosis(1);
+    EXPECT_EQ(reports, (std::vector<int>{0, 0, 12, 25, 38, 50, 62, 75, 88, 100}));
+}
+
+TEST_F(PrescTest, SaysWhatIsWrongWithAFile) {
+    EXPECT_FALSE(presc.loadFromFile(folder.file("falta.shp"), dialogs, texts));
+    EXPECT_TRUE(dialogs.messages.empty());
+
+    const std::string bad = folder.write("malo.shp", "no es un mapa");
+    EXPECT_FALSE(presc.loadFromFile(bad, dialogs, texts));
+    ASSERT_EQ(dialogs.messages.size(), 1U);
+    EXPECT_TRUE(
+        dialogs.messages[0].starts_with("Plain|Campora|Error al intentar abrir el archivo Shape: "))
+        << dialogs.messages[0];
+    EXPECT_NE(dialogs.messages[0].find(bad), std::string::npos);
+    EXPECT_EQ(presc.name(), "");
+    EXPECT_EQ(presc.Gph_count(), 0);
+
+    const std::string empty = write({{"DOSIS"}, {{{}, {"1"}}}});
+    folder.write("lote.dbf", "no es una tabla");
+    EXPECT_TRUE(presc.loadFromFile(empty, dialogs, texts));
+    ASSERT_EQ(dialogs.messages.size(), 3U);
+    EXPECT_NE(dialogs.messages[1].find("lote.dbf"), std::string::npos) << dialogs.messages[1];
+    EXPECT_EQ(dialogs.messages[2],
+              "Exclamation|Campora|El archivo no contiene polígonos: " + empty);
+    EXPECT_EQ(presc.columnCount(), 0);
+    EXPECT_FALSE(presc.Gph_bound().isSet);
+}
+
+TEST(PrescSamples, AgreeWithWhatAnotherReaderSays) {
+    const std::optional<std::string> folder = sharedSample("samples/presc");
+    if (!folder) {
+        GTEST_SKIP();
+    }
+    const nlohmann::json expected =
+        nlohmann::json::parse(std::ifstream(*folder + "/expected.json"));
+    for (const auto& [name, answer] : expected["info"].items()) {
+        SCOPED_TRACE(name);
+        ScriptedDialogs dialogs;
+        GphPresc presc;
+        ASSERT_TRUE(presc.loadFromFile(*folder + "/" + name, dialogs, Texts()));
+        const nlohmann::json& layer = answer["files"][0]["layers"][0];
+        const BoundingBox& box = presc.Gph_bound();
+        EXPECT_EQ(presc.Gph_count(), layer["polygons"]);
+        EXPECT_EQ(layer["bound"], (nlohmann::json{{"minX", box.minX},
+                                                  {"minY", box.minY},
+                                                  {"maxX", box.maxX},
+                                                  {"maxY", box.maxY},
+                                                  {"widthM", box.widthM},
+                                                  {"heightM", box.heightM}}));
+        ASSERT_EQ(presc.columnCount(), layer["columns"].size());
+        for (int column = 1; column <= presc.columnCount(); ++column) {
+            const nlohmann::json& told = layer["columns"][static_cast<std::size_t>(column) - 1];
+            EXPECT_EQ(presc.columnNames()[static_cast<std::size_t>(column) - 1], told["name"]);
+            EXPECT_EQ(presc.columnaNumeric(column), told["numeric"]) << told["name"];
+            if (presc.columnaNumeric(column)) {
+                EXPECT_EQ(nlohmann::json(presc.dosisCollection(column)), told["values"]);
+            }
+        }
+    }
+}
+
+}  // namespace
+}  // namespace campora

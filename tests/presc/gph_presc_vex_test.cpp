@@ -1,0 +1,67 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "presc/gph_presc_vex.h"
+
+#include <gtest/gtest.h>
+
+#include "support/scripted_platform.h"
+#include "support/zone_map.h"
+
+namespace campora {
+namespace {
+
+struct PrescVexTest : testing::Test {
+    GphPresc& add(const std::string& name, const std::vector<std::string>& doses, LonLat corner) {
+        auto presc = std::make_unique<GphPresc>();
+        EXPECT_TRUE(
+            presc->loadFromFile(rowOfZones(doses, corner).write(folder, name), dialogs, Texts()));
+        presc->setColumnaDosis(1);
+        GphPresc& added = *presc;
+        vex.addChannel(std::move(presc));
+        return added;
+    }
+
+    TempFolder folder;
+    ScriptedDialogs dialogs;
+    GphPrescVex vex;
+};
+
+TEST_F(PrescVexTest, ShowsTheCurrentChannel) {
+    EXPECT_EQ(vex.File_escalaColores(), nullptr);
+    EXPECT_TRUE(vex.File_gphList().empty());
+    GphPresc& first = add("uno", {"10"}, {0, 0});
+    GphPresc& second = add("dos", {"20", "30"}, {0.02, 0.02});
+    EXPECT_EQ(vex.channelsCnt(), 2);
+    EXPECT_EQ(vex.File_gphList(), std::vector<Gph*>{&first});
+    vex.setCurrentChannel(1);
+    EXPECT_EQ(vex.File_gphList(), std::vector<Gph*>{&second});
+    EXPECT_EQ(vex.File_escalaColores(), &second.escalaColor());
+    EXPECT_THROW(vex.setCurrentChannel(2), std::out_of_range);
+    EXPECT_EQ(vex.currentChannel(), 1);
+    EXPECT_EQ(vex.File_bound().minX, 0);
+    EXPECT_EQ(vex.File_bound().maxX, 0.04);
+    EXPECT_EQ(vex.File_name(), "Prescripción");
+    EXPECT_EQ(vex.File_icon(), "dosis");
+}
+
+TEST_F(PrescVexTest, SumsUpItsChannelsByTheDosesOfNow) {
+    GphPresc& first = add("uno", {"10"}, {0, 0});
+    add("dos", {"20", "30"}, {0, 0});
+    const auto entries = [this] { return vex.File_resumen().entries(); };
+    // 0.01 degrees squared at the equator: 123.92 hectares.
+    EXPECT_EQ(entries(), (std::vector<FileProperty>{{"Archivo (C 1)", "uno.shp", ""},
+                                                    {"Columna (C 1)", "DOSIS", ""},
+                                                    {"Archivo (C 2)", "dos.shp", ""},
+                                                    {"Columna (C 2)", "DOSIS", ""},
+                                                    {"Superficie (C 1)", "123.92", "Has"},
+                                                    {"Producto total (C 1)", "1239.21", ""},
+                                                    {"Superficie (C 2)", "247.84", "Has"},
+                                                    {"Producto total (C 2)", "6196.07", ""}}));
+    first.setDosis(0, 100);
+    EXPECT_EQ(entries()[5].value, "12392.14");
+    EXPECT_EQ(entries().size(), 8U);
+}
+
+}  // namespace
+}  // namespace campora
