@@ -1,0 +1,201 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "presc/dbase_file.h"
+
+#include <random>
+#include <stdexcept>
+
+#include <gtest/gtest.h>
+
+#include "base/texts.h"
+#include "support/shape_bytes.h"
+
+namespace campora {
+
+namespace {
+
+const CellValue kEmpty;
+
+TEST(DbaseFile, ReadsCellsByTheTypeOfTheirColumn) {
+    const struct Row {
+        const char* name;
+        char type;
+        std::string cell;
+        CellValue value;
+        std::optional<double> number;
+    } rows[] = {
+        {"number", 'N', "12.50", 12.5, 12.5},
+        {"signs", 'N', "-3", -3.0, -3},
+        {"a plus", 'N', "+3", 3.0, 3},
+        {"exponent, as F columns have it", 'F', "1.25e+002", 125.0, 125},
+        {"no digits before the point", 'N', ".5", 0.5, 0.5},
+        {"blank number", 'N', "", kEmpty, {}},
+        {"stars where a number did not fit", 'N', "**********", kEmpty, {}},
+        {"padded with zero bytes", 'N', std::string("7\0\0\0", 4), 7.0, 7},
+        {"not a number", 'N', "nan", kEmpty, {}},
+        {"infinite", 'F', "-inf", kEmpty, {}},
+        {"too large", 'N', "1e999", kEmpty, {}},
+        {"two signs", 'N', "+-3", kEmpty, {}},
+        {"text", 'C', "  Lote 7", std::string("Lote 7"), {}},
+        {"text that is a number", 'C', "  72.5", std::string("72.5"), 72.5},
+        {"text that begins with one", 'C', "72.5 kg", std::string("72.5 kg"), {}},
+        {"blank text", 'C', "", kEmpty, {}},
+        {"Windows-1252",
+         'C',
+         "Ca\xF1"
+         "ada \x80",
+         std::string("Cañada €"),
+         {}},
+        {"date", 'D', "20240229", Date{2024, 2, 29}, {}},
+        {"no such day", 'D', "20230229", kEmpty, {}},
+        {"no such month", 'D', "20231301", kEmpty, {}},
+        {"blank date", 'D', "", kEmpty, {}},
+        {"zeros", 'D', "00000000", kEmpty, {}},
+        {"half a date", 'D', "2024", kEmpty, {}},
+        {"signed", 'D', "-2024010", kEmpty, {}},
+        {"logical", 'L', "T", std::string("T"), {}},
+        {"logical, unset", 'L', "?", kEmpty, {}},
+        {"memo", 'M', "12", kEmpty, {}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        DbaseBytes table({{"A", 'C', 3}, {"B", row.type, 10}});
+        table.addRow({"xyz", row.cell});
+        const std::string bytes = table.bytes();
+        const DbaseFile file(bytesOf(bytes));
+        EXPECT_EQ(file.value(0, 1), row.value);
+        EXPECT_EQ(file.number(0, 1), row.number);
+        EXPECT_EQ(file.value(0, 0), CellValue(std::string("xyz")));
+    }
+}
+
+TEST(DbaseFile, KnowsItsColumnsAndRows) {
+    DbaseBytes table({{"DOSIS", 'N', 6}, {"ELEVENCHARS", 'C', 4}});
+    table.addRow({"1", "a"});
+    table.addRow({"2", "b"}, true);
+    const std::string bytes = table.bytes();
+    const DbaseFile file(bytesOf(bytes));
+    ASSERT_EQ(file.fieldCount(), 2);
+    EXPECT_EQ(file.fieldName(0), "DOSIS");
+    EXPECT_EQ(file.fieldName(1), "ELEVENCHARS");
+    EXPECT_THROW((void)file.fieldName(2), std::out_of_range);
+    EXPECT_THROW((void)file.value(0, -1), std::out_of_range);
+    ASSERT_EQ(file.rowCount(), 2);
+    EXPECT_FALSE(file.isDeleted(0));
+    EXPECT_TRUE(file.isDeleted(1));
+    EXPECT_EQ(file.number(1, 0), 2);
+    for (const std::int32_t row : {-1, 2, 1'000'000'000}) {
+        EXPECT_FALSE(file.isDeleted(row));
+        EXPECT_EQ(file.value(row, 1), kEmpty);
+        EXPECT_EQ(file.number(row, 0), std::nullopt);
+    }
+    EXPECT_EQ(DbaseFile().fieldCount(), 0);
+}
+
+TEST(DbaseFile, CountsTheRowsThatAreThere) {
+    DbaseBytes table({{"A", 'C', 4}});
+    table.addRow({"abcd"});
+    table.addRow({"efgh"});
+    std::string bytes = table.bytes();
+    putLittle(bytes, 4, -1);
+    EXPECT_EQ(DbaseFile(bytesOf(bytes)).rowCount(), 2);
+    EXPECT_EQ(DbaseFile(bytesOf(bytes.substr(0, bytes.size() - 3))).rowCount(), 1);
+    putLittle(bytes, 4, 1);
+    EXPECT_EQ(DbaseFile(bytesOf(bytes)).rowCount(), 1) << "the header says how many";
+}
+
+TEST(DbaseFile, ReadsTextsInTheirCodePage) {
+    const struct Row {
+        const char* name;
+        std::string cpg;
+        int language;
+        std::string bytes;
+        std::string text;
+    } rows[] = {
+        {"nothing said", "", 0, "A\xF1o", "Año"},
+        {"the byte of Windows", "", 0x57, "A\xF1o", "Año"},
+        {"a page that is not known", "big5", 0xC9, "A\xF1o", "Año"},
+        {"DOS of the USA", "", 0x01, "A\xA4o", "Año"},
+        {"DOS of Europe", "", 0x02, "\xB5guas", "Águas"},
+        {"DOS of Portugal", "", 0x24, "\x86guas", "Águas"},
+        {"three bytes of UTF-8", "", 0x02, "\xB3", "│"},
+        {"UTF-8 by the file beside it", "UTF-8\r\n", 0x57, "A\xC3\xB1o", "Año"},
+        {"the same by number, with a mark",
+         "\xEF\xBB\xBF"
+         "65001",
+         0, "A\xC3\xB1o", "Año"},
+        {"not UTF-8 after all", "utf8", 0, "A\xF1o", "Año"},
+        {"UTF-16 is for no table", "UTF-16", 0, "A\xF1o", "Año"},
+        {"Latin by its ISO name", "ISO-8859-1", 0x02, "A\xF1o", "Año"},
+        {"the file goes before the byte", "cp850", 0x57, "A\xA4o", "Año"},
+        {"the byte, written out", "LDID/2", 0, "A\xA4o", "Año"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        DbaseBytes table({{row.bytes, 'C', 10}}, row.language);
+        table.addRow({row.bytes});
+        const std::string bytes = table.bytes();
+        const DbaseFile file(bytesOf(bytes), row.cpg);
+        EXPECT_EQ(file.fieldName(0), row.text);
+        EXPECT_EQ(file.value(0, 0), CellValue(row.text));
+    }
+}
+
+/// What the user reads about the table; empty when it is taken.
+std::string fault(const std::string& bytes) {
+    try {
+        const DbaseFile file(bytesOf(bytes));
+        for (std::int32_t row = 0; row < file.rowCount(); ++row) {
+            for (int column = 0; column < file.fieldCount(); ++column) {
+                (void)file.value(row, column);
+            }
+        }
+        return {};
+    } catch (const FormatError& error) {
+        return Texts(Language::English).sentence(error.failure());
+    }
+}
+
+TEST(DbaseFile, SaysWhatIsWrong) {
+    DbaseBytes table({{"A", 'N', 4}, {"B", 'D', 8}, {"C", 'L', 1}});
+    table.addRow({"1", "20240101", "T"});
+    table.addRow({"2", "20240102", "F"});
+    const std::string good = table.bytes();
+    const auto with = [&](std::size_t at, const std::string& change) {
+        return std::string(good).replace(at, change.size(), change);
+    };
+    const std::string damaged = "the header of the table is damaged, at byte ";
+    const struct Row {
+        const char* name;
+        std::string bytes;
+        std::string message;
+    } rows[] = {
+        {"sound", good, ""},
+        {"empty", "", "it is not a dBASE table"},
+        {"something else", std::string(900, 'x'), "it is not a dBASE table"},
+        {"FoxPro", with(0, "\x30"), ""},
+        {"a cut header", good.substr(0, 100), "it is cut short at byte 100"},
+        {"a header without room", with(8, {"\x20\0", 2}), damaged + "8"},
+        {"rows without bytes", with(10, {"\0\0", 2}), damaged + "10"},
+        {"columns wider than the row", with(32 + 16, "\xFF"), damaged + "48"},
+        {"without columns", with(32, "\r"), ""},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(fault(row.bytes), row.message);
+    }
+    std::mt19937 random(42);
+    for (std::size_t size = 0; size < good.size(); ++size) {
+        EXPECT_EQ(fault(good.substr(0, size)).empty(), size >= 129) << size;
+        std::string bytes = good;
+        for (int flips = 0; flips < 3; ++flips) {
+            bytes[random() % bytes.size()] ^= static_cast<char>(1U << random() % 8);
+        }
+        (void)fault(bytes);
+    }
+}
+
+}  // namespace
+
+}  // namespace campora

@@ -1,0 +1,275 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "presc/shape_file.h"
+
+#include <cmath>
+#include <limits>
+#include <random>
+#include <stdexcept>
+
+#include <gtest/gtest.h>
+
+#include "base/texts.h"
+#include "support/shape_bytes.h"
+
+namespace campora {
+
+namespace {
+
+using Ring = ShapeBytes::Ring;
+using Parts = std::vector<ShapePart>;
+
+const Ring kClockwise = {{0, 0}, {0, 9}, {9, 9}, {9, 0}, {0, 0}};
+const Ring kAgainst = {{2, 2}, {4, 2}, {4, 4}, {2, 4}, {2, 2}};
+const Ring kFlat = {{1, 1}, {2, 2}, {1, 1}};
+
+Parts partsOf(const Shape& shape) {
+    Parts parts{{7, 7, true}};
+    shape.collectParts(parts);
+    return parts;
+}
+
+/// What the user reads about the file; empty when it is taken.
+std::string fault(const std::string& bytes, const std::string& index = {}) {
+    try {
+        const ShapeFile file(bytesOf(bytes), bytesOf(index));
+        for (std::int32_t i = 0; i < file.recordCount(); ++i) {
+            (void)partsOf(file.shape(i));
+        }
+        return {};
+    } catch (const FormatError& error) {
+        return Texts(Language::English).sentence(error.failure());
+    }
+}
+
+ShapeBytes twoRecords() {
+    ShapeBytes shapes(5);
+    shapes.addPolygon({kClockwise, kAgainst});
+    shapes.addPolygon({kClockwise});
+    return shapes;
+}
+
+TEST(ShapeFile, ReadsEveryTypeAndSkipsItsZAndM) {
+    const struct Row {
+        const char* name;
+        std::int32_t type;
+        int tail;  // extra doubles
+    } rows[] = {
+        {"points", 1, 0},   {"points with Z", 11, 2},   {"points with M", 21, 1},
+        {"lines", 3, 0},    {"lines with Z", 13, 20},   {"lines with M", 23, 9},
+        {"polygons", 5, 0}, {"polygons with Z", 15, 9}, {"polygons with M", 25, 0},
+        {"sets", 8, 0},     {"sets with Z", 18, 12},    {"sets with M", 28, 7},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        ShapeBytes shapes(row.type);
+        const int plain = row.type % 10;
+        if (plain == 1) {
+            shapes.addPoint({-61.5, -33.25}, row.tail);
+        } else if (plain == 8) {
+            shapes.addPoints({{-61.5, -33.25}, {1, 2}}, row.tail);
+        } else {
+            shapes.addPolygon({{{-61.5, -33.25}, {1, 2}}, {{3, 4}}}, row.tail);
+        }
+        shapes.addNull();
+        const std::string bytes = shapes.bytes();
+        const ShapeFile file(bytesOf(bytes));
+        ASSERT_EQ(file.recordCount(), 2);
+        const Shape shape = file.shape(0);
+        EXPECT_EQ(static_cast<int>(shape.type()), plain);
+        EXPECT_EQ(shape.vertex(0), (LonLat{-61.5, -33.25}));
+        const Parts expected = plain == 1   ? Parts{{0, 0, false}}
+                               : plain == 8 ? Parts{{0, 1, false}}
+                                            : Parts{{0, 1, false}, {2, 2, false}};
+        EXPECT_EQ(partsOf(shape), expected);
+        EXPECT_THROW((void)shape.vertex(shape.vertexCount()), std::out_of_range);
+        EXPECT_EQ(partsOf(file.shape(1)), Parts());
+        EXPECT_THROW((void)file.shape(2), std::out_of_range);
+    }
+}
+
+TEST(ShapeFile, HolesRunAgainstTheClockBesideARingThatRunsWithIt) {
+    const Ring with(kAgainst.rbegin(), kAgainst.rend());
+    const struct Row {
+        const char* name;
+        std::int32_t type;
+        std::vector<Ring> rings;
+        std::vector<bool> holes;
+    } rows[] = {
+        {"outer and hole", 5, {kClockwise, kAgainst}, {false, true}},
+        {"hole first", 5, {kAgainst, kClockwise}, {true, false}},
+        {"two outer rings", 5, {kClockwise, with}, {false, false}},
+        {"all the wrong way round", 5, {kAgainst, kAgainst}, {false, false}},
+        {"alone", 5, {kAgainst}, {false}},
+        {"a ring without area", 5, {kFlat, kAgainst, kClockwise}, {false, true, false}},
+        {"not closed", 5, {{{0, 0}, {0, 9}, {9, 0}}, {{1, 1}, {2, 1}, {1, 2}}}, {false, true}},
+        {"with Z", 15, {kClockwise, kAgainst}, {false, true}},
+        {"lines have none", 3, {kClockwise, kAgainst}, {false, false}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        ShapeBytes shapes(row.type);
+        shapes.addPolygon(row.rings);
+        const std::string bytes = shapes.bytes();
+        std::vector<bool> holes;
+        for (const ShapePart& part : partsOf(ShapeFile(bytesOf(bytes)).shape(0))) {
+            holes.push_back(part.isHole);
+        }
+        EXPECT_EQ(holes, row.holes);
+    }
+}
+
+TEST(ShapeFile, LeavesOutPartsWithoutVertices) {
+    ShapeBytes shapes(5);
+    shapes.addPolygon({{}, kClockwise, {}, kAgainst, {}});
+    shapes.addPolygon({});
+    shapes.addPolygon({{}, {}});
+    const std::string bytes = shapes.bytes();
+    const ShapeFile file(bytesOf(bytes));
+    EXPECT_EQ(partsOf(file.shape(0)), (Parts{{0, 4, false}, {5, 9, true}}));
+    EXPECT_EQ(partsOf(file.shape(1)), Parts());
+    EXPECT_EQ(partsOf(file.shape(2)), Parts());
+}
+
+TEST(ShapeFile, TakesASoundIndexAndDoesWithoutAnyOther) {
+    const ShapeBytes shapes = twoRecords();
+    const std::string bytes = shapes.bytes();
+    std::string reversed = shapes.index();
+    const std::string first = reversed.substr(100, 8);
+    reversed = reversed.substr(0, 100) + reversed.substr(108) + first;
+    const ShapeFile file(bytesOf(bytes), bytesOf(reversed));
+    EXPECT_EQ(partsOf(file.shape(0)).size(), 1U) << "the order is that of the index";
+    EXPECT_EQ(partsOf(file.shape(1)).size(), 2U);
+
+    const auto broken = [&](std::size_t at, std::int32_t value) {
+        std::string index = reversed;
+        putBig(index, at, value);
+        return index;
+    };
+    const struct Row {
+        const char* name;
+        std::string index;
+    } rows[] = {
+        {"another code", broken(0, 9995)},
+        {"cut short", reversed.substr(0, 110)},
+        {"a header alone, cut", reversed.substr(0, 60)},
+        {"a length that lies", broken(24, 54)},
+        {"an offset into the header", broken(100, 10)},
+        {"an offset beyond the end", broken(100, 100'000)},
+        {"a negative offset", broken(108, -50)},
+        {"a length unlike the record's", broken(112, 6)},
+        {"one record twice", reversed.substr(0, 100) + first + first},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        const ShapeFile without(bytesOf(bytes), bytesOf(row.index));
+        ASSERT_EQ(without.recordCount(), 2);
+        EXPECT_EQ(partsOf(without.shape(0)).size(), 2U) << "the order of the file";
+    }
+}
+
+TEST(ShapeFile, ReadsPastALengthThatWasNeverFilledIn) {
+    std::string bytes = twoRecords().bytes();
+    for (const std::int32_t words : {0, 50, -1}) {
+        putBig(bytes, 24, words);
+        EXPECT_EQ(ShapeFile(bytesOf(bytes)).recordCount(), 2) << words;
+    }
+    bytes = twoRecords().bytes() + "whatever";
+    EXPECT_EQ(ShapeFile(bytesOf(bytes)).recordCount(), 2);
+}
+
+TEST(ShapeFile, SaysWhatIsWrongAndWhere) {
+    const ShapeBytes shapes = twoRecords();
+    const std::string good = shapes.bytes();
+    const std::size_t first = shapes.contentAt(0);
+    const std::size_t second = shapes.contentAt(1);
+    const auto with = [&](std::size_t at, std::int32_t value) {
+        std::string bytes = good;
+        putLittle(bytes, at, value);
+        return bytes;
+    };
+    const auto withVertex = [](double x, double y) {
+        ShapeBytes one(5);
+        one.addPolygon({{{0, 0}, {x, y}, {1, 1}}});
+        return one.bytes();
+    };
+    const auto withContent = [](const std::string& content) {
+        ShapeBytes one(5);
+        one.add(content);
+        return one.bytes();
+    };
+    const std::string record1 = "record 1 is damaged, at byte ";
+    const std::string record2 = "record 2 is damaged, at byte ";
+    const std::string at1 = record1 + std::to_string(first);
+    constexpr double kInfinite = std::numeric_limits<double>::infinity();
+    const std::string noNumber = "record 1 has a coordinate that is not a number, at byte 100";
+    const std::string geographic =
+        ". Save the map in geographic coordinates (longitude and latitude)";
+    const struct Row {
+        const char* name;
+        std::string bytes;
+        std::string message;
+    } rows[] = {
+        {"sound", good, ""},
+        {"empty", "", "it is not a shapefile"},
+        {"something else", std::string(500, 'x'), "it is not a shapefile"},
+        {"a cut header", good.substr(0, 40), "it is cut short at byte 40"},
+        {"cut between records", good.substr(0, second - 8),
+         "it is cut short at byte " + std::to_string(second - 8)},
+        {"type 31 in the header", with(32, 31), "shape type 31 cannot be read"},
+        {"a record of type 20", with(first, 20), "shape type 20 cannot be read"},
+        {"a record of type -5", with(first, -5), "shape type -5 cannot be read"},
+        {"parts beyond the record", with(first + 36, 1 << 30), at1},
+        {"a negative count of parts", with(first + 36, -1), at1},
+        {"points without parts", with(first + 36, 0), record1 + "100"},
+        {"points beyond the record", with(first + 40, 0x7FFFFFFF), at1},
+        {"a negative count of points", with(first + 40, -2), at1},
+        {"parts that do not begin", with(first + 44, 1), record1 + "100"},
+        {"parts that run backwards", with(first + 48, -1), record1 + "100"},
+        {"a part beyond the points", with(first + 48, 11), record1 + "100"},
+        {"a record beyond the end", with(second - 4, 0x7F), record2 + std::to_string(second - 8)},
+        {"a record of no length", with(second - 4, 0), record2 + std::to_string(second - 8)},
+        {"a point of no coordinates", withContent(std::string("\1\0\0\0", 4)), at1},
+        {"a polygon of no counts", withContent(std::string("\5\0\0\0", 4)), at1},
+        {"a set of points, cut",
+         withContent("\x8" + std::string(35, '\0') + std::string("\1\0\0\0", 4)), at1},
+        {"not a number", withVertex(std::nan(""), 0), noNumber},
+        {"infinite", withVertex(0, -kInfinite), noNumber},
+        {"metres", withVertex(5'456'000.5, 6'298'000),
+         "the coordinates are not degrees (5456000.5, "
+         "6298000 in record 1)" +
+             geographic},
+        {"beyond the pole", withVertex(0, 90.5),
+         "the coordinates are not degrees (0, 90.5 in record 1)" + geographic},
+        {"the corner of the world", withVertex(-180, -90), ""},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(fault(row.bytes), row.message);
+    }
+}
+
+TEST(ShapeFile, AnyDamageIsSaidOrHarmless) {
+    ShapeBytes shapes = twoRecords();
+    shapes.addNull();
+    const std::string good = shapes.bytes();
+    const std::string index = shapes.index();
+    for (std::size_t size = 0; size < good.size(); ++size) {
+        EXPECT_NE(fault(good.substr(0, size), index), "") << size;
+    }
+    std::mt19937 random(41);
+    for (int copy = 0; copy < 3000; ++copy) {
+        std::string bytes = good;
+        std::string entries = index;
+        for (int flips = 1 + copy % 6; flips > 0; --flips) {
+            std::string& one = flips % 3 == 0 ? entries : bytes;
+            one[random() % one.size()] ^= static_cast<char>(1U << random() % 8);
+        }
+        (void)fault(bytes, entries);
+    }
+}
+
+}  // namespace
+
+}  // namespace campora

@@ -1,0 +1,310 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "presc/shape_reader.h"
+
+#include <set>
+#include <stdexcept>
+
+#include <gtest/gtest.h>
+
+#include "base/texts.h"
+#include "presc/shape_polygons.h"
+#include "support/shape_bytes.h"
+#include "support/shared_samples.h"
+#include "support/temp_folder.h"
+
+namespace campora {
+
+namespace {
+
+ShapeBytes::Ring square(double x, double y, double side) {
+    return {{x, y}, {x, y + side}, {x + side, y + side}, {x + side, y}, {x, y}};
+}
+
+ShapeBytes::Ring hole(double x, double y, double side) {
+    const ShapeBytes::Ring ring = square(x, y, side);
+    return {ring.rbegin(), ring.rend()};
+}
+
+ShapeBytes threeZones() {
+    ShapeBytes shapes(5);
+    shapes.addPolygon({square(0, 0, 4), hole(1, 1, 1)});
+    shapes.addNull();
+    shapes.addPolygon({square(5, 5, 1)});
+    return shapes;
+}
+
+DbaseBytes doses(int rows) {
+    DbaseBytes table({{"DOSIS", 'N', 8}, {"NOMBRE", 'C', 10}});
+    for (int i = 1; i <= rows; ++i) {
+        table.addRow({std::to_string(10 * i), "zona " + std::to_string(i)});
+    }
+    return table;
+}
+
+std::string sentence(const std::optional<Failure>& failure) {
+    return failure ? Texts(Language::English).sentence(*failure) : std::string();
+}
+
+/// The numbers of the first column, -1 where there is none.
+std::vector<double> firstColumn(ShapeReader& reader) {
+    std::vector<double> values;
+    reader.moveFirst();
+    for (std::int32_t i = 0; i < reader.recordCount(); ++i, reader.moveNext()) {
+        values.push_back(reader.fieldNumber(1).value_or(-1));
+    }
+    return values;
+}
+
+TEST(ShapeReader, StepsThroughRecordsWithTheirRows) {
+    const TempFolder folder;
+    (void)folder.write("zonas.dbf", doses(3).bytes());
+    ShapeReader reader;
+    EXPECT_EQ(reader.recordCount(), 0);
+    ASSERT_EQ(reader.open(folder.write("zonas.shp", threeZones().bytes())), std::nullopt);
+    EXPECT_EQ(reader.tableWarning(), std::nullopt);
+    ASSERT_EQ(reader.recordCount(), 3);
+    ASSERT_EQ(reader.fieldCount(), 2);
+    EXPECT_EQ(reader.fieldName(2), "NOMBRE");
+    ASSERT_EQ(reader.partCount(), 2);
+    EXPECT_EQ(reader.partFirstVertex(2), 5);
+    EXPECT_EQ(reader.partLastVertex(2), 9);
+    EXPECT_EQ(reader.partRingCode(1), 0);
+    EXPECT_EQ(reader.partRingCode(2), 1);
+    EXPECT_EQ(reader.vertexX(2), 4);
+    EXPECT_EQ(reader.vertexY(1), 4);
+    EXPECT_EQ(reader.fieldValue(2), CellValue(std::string("zona 1")));
+    reader.moveNext();
+    EXPECT_EQ(reader.partCount(), 0);
+    EXPECT_EQ(reader.fieldNumber(1), 20);
+    reader.moveTo(3);
+    EXPECT_EQ(reader.partCount(), 1);
+    EXPECT_EQ(reader.vertex(0), (LonLat{5, 5}));
+    reader.moveNext();
+    reader.moveNext();
+    EXPECT_EQ(reader.record(), 4);
+    EXPECT_EQ(reader.partCount(), 0);
+    EXPECT_EQ(reader.fieldValue(1), CellValue());
+    EXPECT_THROW(reader.moveTo(4), std::out_of_range);
+    EXPECT_THROW(reader.moveTo(0), std::out_of_range);
+    reader.moveTo(1);
+    EXPECT_THROW((void)reader.partIsHole(3), std::out_of_range);
+    EXPECT_THROW((void)reader.partFirstVertex(0), std::out_of_range);
+    EXPECT_THROW((void)reader.vertexX(10), std::out_of_range);
+    EXPECT_THROW((void)reader.fieldValue(0), std::out_of_range);
+}
+
+TEST(ShapeReader, FindsCompanionsInLettersOfEitherCase) {
+    const struct Row {
+        const char* shapes;
+        const char* table;
+        const char* page;
+        const char* opened;
+    } rows[] = {
+        {"ZONAS.SHP", "zonas.dbf", "zonas.cpg", "ZONAS.SHP"},
+        {"zonas.shp", "ZONAS.DBF", "ZONAS.CPG", "zonas.shp"},
+        {"Zonas.Shp", "Zonas.dbf", "Zonas.cpg", "zonas.SHP"},
+        {"lote.2.shp", "lote.2.dbf", "lote.2.cpg", "lote.2.shp"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.shapes);
+        const TempFolder folder;
+        DbaseBytes table({{"A\xC3\xB1o", 'C', 4}});
+        (void)folder.write(row.table, table.bytes());
+        (void)folder.write(row.page, "UTF-8");
+        (void)folder.write(row.shapes, threeZones().bytes());
+        ShapeReader reader;
+        ASSERT_EQ(reader.open(folder.file(row.opened)), std::nullopt);
+        ASSERT_EQ(reader.fieldCount(), 1);
+        EXPECT_EQ(reader.fieldName(1), "Año");
+    }
+}
+
+TEST(ShapeReader, ATableOfAnotherLengthOrNone) {
+    DbaseBytes deleted({{"DOSIS", 'N', 8}});
+    deleted.addRow({"10"}, true);
+    deleted.addRow({"20"});
+    const struct Row {
+        const char* name;
+        std::optional<std::string> table;
+        int columns;
+        std::vector<double> values;
+        std::string warning;  // behind the path
+    } rows[] = {
+        {"fewer rows", doses(1).bytes(), 2, {10, -1, -1}, ""},
+        {"more rows", doses(5).bytes(), 2, {10, 20, 30}, ""},
+        {"no table", std::nullopt, 0, {}, ""},
+        {"an empty table", "", 0, {}, ": it is not a dBASE table"},
+        {"a table cut in its header",
+         doses(3).bytes().substr(0, 60),
+         0,
+         {},
+         ": it is cut short at byte 60"},
+        {"deleted rows", deleted.bytes(), 1, {-1, 20, -1}, ""},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        const TempFolder folder;
+        if (row.table) {
+            (void)folder.write("a.dbf", *row.table);
+        }
+        ShapeReader reader;
+        ASSERT_EQ(reader.open(folder.write("a.shp", threeZones().bytes())), std::nullopt);
+        EXPECT_EQ(reader.recordCount(), 3);
+        EXPECT_EQ(reader.fieldCount(), row.columns);
+        EXPECT_EQ(sentence(reader.tableWarning()),
+                  row.warning.empty()
+                      ? ""
+                      : "The map is shown without the data of its table. The file " +
+                            folder.file("a.dbf") + " cannot be read" + row.warning);
+        if (row.columns > 0) {
+            EXPECT_EQ(firstColumn(reader), row.values);
+        }
+        reader.moveFirst();
+        const bool isDeleted = std::string_view(row.name) == "deleted rows";
+        EXPECT_EQ(reader.partCount(), isDeleted ? 0 : 2) << "a deleted record is not shown";
+    }
+}
+
+TEST(ShapeReader, KeepsWhatItHadWhenAFileIsRefused) {
+    const TempFolder folder;
+    ShapeReader reader;
+    ASSERT_EQ(reader.open(folder.write("a.shp", threeZones().bytes())), std::nullopt);
+    ShapeBytes metres(5);
+    metres.addPolygon({square(500'000, 6'000'000, 10)});
+    const std::string path = folder.write("b.shp", metres.bytes());
+    EXPECT_EQ(sentence(reader.open(path)),
+              "The file " + path +
+                  " cannot be read: the coordinates are not degrees (500000, 6000000 in record 1). "
+                  "Save the map in geographic coordinates (longitude and latitude)");
+    EXPECT_NE(sentence(reader.open(folder.file("none.shp"))).find("none.shp"), std::string::npos);
+    EXPECT_EQ(reader.recordCount(), 3);
+    EXPECT_EQ(reader.partCount(), 2);
+}
+
+TEST(ReadPolygon, MarksHolesInRecordsOfSeveralParts) {
+    const TempFolder folder;
+    ShapeBytes shapes = threeZones();
+    shapes.addPolygon({hole(7, 7, 1)});
+    ShapeReader reader;
+    ASSERT_EQ(reader.open(folder.write("a.shp", shapes.bytes())), std::nullopt);
+    const GphPolygonMulti first = readPolygon(reader);
+    ASSERT_EQ(first.rings().size(), 2U);
+    EXPECT_EQ(first.rings()[1].points().size(), 5U);
+    EXPECT_EQ(first.ringAt({0.5, 0.5}), 0);
+    EXPECT_EQ(first.ringAt({1.5, 1.5}), -1);
+    reader.moveNext();
+    EXPECT_FALSE(readPolygon(reader).Gph_bound().isSet);
+    reader.moveTo(4);
+    EXPECT_FALSE(readPolygon(reader).rings().at(0).isHole);
+}
+
+TEST(ReadShapeKind, NamesPointsLinesAndPolygons) {
+    const TempFolder folder;
+    const struct Row {
+        const char* name;
+        std::string bytes;
+        std::string_view kind;
+    } rows[] = {
+        {"points", ShapeBytes(1).bytes(), "Puntos"},
+        {"lines", ShapeBytes(3).bytes(), "Lineas"},
+        {"polygons", ShapeBytes(5).bytes(), "Poligonos"},
+        {"a header alone", ShapeBytes(5).bytes().substr(0, 36), "Poligonos"},
+        {"polygons with Z", ShapeBytes(15).bytes(), ""},
+        {"sets of points", ShapeBytes(8).bytes(), ""},
+        {"half a header", ShapeBytes(5).bytes().substr(0, 35), ""},
+        {"another code", std::string(100, '\5'), ""},
+        {"empty", "", ""},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        const std::optional<TextId> kind = readShapeKind(folder.write("a.shp", row.bytes));
+        EXPECT_EQ(kind ? Texts()(*kind) : "", row.kind);
+    }
+    EXPECT_EQ(readShapeKind(folder.file("none.shp")), std::nullopt);
+}
+
+/// Every column's name and the number of its distinct values, 0 counted in; "-" for the latter
+/// when a record with parts has a value that is no number.
+std::string columnsOf(ShapeReader& reader) {
+    std::string columns;
+    for (int column = 1; column <= reader.fieldCount(); ++column) {
+        std::set<double> values{0};
+        bool isNumeric = true;
+        reader.moveFirst();
+        for (std::int32_t i = 0; i < reader.recordCount(); ++i, reader.moveNext()) {
+            const std::optional<double> value = reader.fieldNumber(column);
+            isNumeric = isNumeric && (value || reader.partCount() == 0);
+            values.insert(value.value_or(0));
+        }
+        columns += (column == 1 ? "" : " ") + reader.fieldName(column) + ":" +
+                   (isNumeric ? std::to_string(values.size()) : "-");
+    }
+    return columns;
+}
+
+/// What an independent reader gives for the shared samples.
+TEST(ShapeReader, ReadsRealMaps) {
+    const struct Row {
+        const char* file;
+        std::int32_t records;
+        const char* columns;
+        BoundingBox bound;
+    } rows[] = {
+        {"nulls.shp",
+         40,
+         "DOSIS:5 CON_NULO:- TODO_NULO:- ORDEN:41",
+         {-104.14440356011437, 50.17830691173104, -104.13396823383347, 50.18384781949512, 744.0,
+          617.0, true}},
+        {"overlap.shp",
+         150,
+         "DOSIS:16 ORDEN:151",
+         {-104.145136101, 50.177955724, -104.132519918, 50.184677618, 899.0, 748.0, true}},
+        {"seed.shp",
+         3,
+         "ZONA:4 SEMILLA:4 HAS:4",
+         {-61.252256423, -33.815752769, -61.242754993, -33.809333586, 879.0, 715.0, true}},
+        {"spreadmap.shp",
+         22439,
+         "rate:2 poly_area:275 zone:20 zone_area:19",
+         {-104.14504521629408, 50.16357893990543, -104.12179471771358, 50.19294908053462,
+          1658.057243748289, 3269.378616105943, true}},
+        {"spreadpart.shp",
+         1650,
+         "rate:2 poly_area:102 objecttype:- objectid:2 region:- object:- zone:15 zone_color:- "
+         "zone_area:15",
+         {-104.1450321797726, 50.17806351375399, -104.13268824574612, 50.18456982789822, 880.0,
+          724.0, true}},
+        {"texts.shp",
+         40,
+         "TXTNUM:5 TXTMIX:- NOMBRE:- DOSIS:5",
+         {-104.14440356011437, 50.17830691173104, -104.13396823383347, 50.18384781949512, 744.0,
+          617.0, true}},
+        {"zones.shp",
+         5,
+         "DOSIS:6 ZONA:6 AREA_HA:6 NOMBRE:-",
+         {-61.252256839, -33.815753157, -61.242743161, -33.809246843, 880.0, 724.0, true}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.file);
+        const auto path = sharedSample("samples/presc/" + std::string(row.file));
+        if (!path) {
+            GTEST_SKIP() << "the shared samples are not here";
+        }
+        ShapeReader reader;
+        ASSERT_EQ(reader.open(*path), std::nullopt);
+        ASSERT_EQ(reader.recordCount(), row.records);
+        EXPECT_EQ(columnsOf(reader), row.columns);
+        BoundingBox bound;
+        reader.moveFirst();
+        for (std::int32_t i = 0; i < reader.recordCount(); ++i, reader.moveNext()) {
+            bound.addGph(readPolygon(reader));
+        }
+        EXPECT_TRUE(bound.equals(row.bound));
+    }
+}
+
+}  // namespace
+
+}  // namespace campora
