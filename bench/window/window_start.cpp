@@ -19,7 +19,7 @@
 #include "desktop/program.h"
 #include "desktop/qt_text.h"
 #include "support/temp_folder.h"
-#include "support/work_files.h"
+#include "window/large_report.h"
 
 namespace {
 
@@ -44,22 +44,6 @@ public:
 private:
     MainWindow& window_;
 };
-
-/// Parallel passes of 1 km, a record every two metres, doses that differ.
-std::string reportBytes() {
-    constexpr int kPerPass = 500;
-    RptBytes report(1);
-    report.reserve(kRecords);
-    for (int i = 0; i < kRecords; ++i) {
-        const int pass = i / kPerPass;
-        const int along = pass % 2 == 0 ? i % kPerPass : kPerPass - 1 - i % kPerPass;
-        RptBytes::Record record;
-        record.position = fixAt(2.0 * along, 20.0 * pass);
-        record.realTenths[0] = 900 + i % 13 * 20;
-        report.add(record);
-    }
-    return report.bytes();
-}
 
 int showReport(int argc, char** argv) {
     QApplication application(argc, argv);
@@ -90,7 +74,8 @@ int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
     const TempFolder folder;
     qputenv("XDG_CONFIG_HOME", folder.path().c_str());
-    const QString report = toQt(folder.write("bench.rpt", reportBytes()));
+    qputenv("XDG_DATA_HOME", folder.path().c_str());
+    const QString report = toQt(folder.write("bench.rpt", largeReport(kRecords)));
     std::vector<double> runs;
     for (int i = 0; i < kRuns; ++i) {
         runs.push_back(runOnce(QCoreApplication::applicationFilePath(), report));

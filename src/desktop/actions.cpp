@@ -27,12 +27,14 @@ struct MenuRow {
     TextId text;
     /// The menu that holds it; the menu bar holds a menu that is its own parent.
     MenuId parent;
+    /// The command before which it stands; empty: where its own first command would.
+    std::string_view before = {};
 };
 
 /// In the order of the menu bar.
 constexpr MenuRow kMenus[] = {
     {MenuId::File, TextId::MenuFile, MenuId::File},
-    {MenuId::Recent, TextId::MenuRecent, MenuId::File},
+    {MenuId::Recent, TextId::MenuRecent, MenuId::File, "mnuFileReload"},
     {MenuId::SelectedFile, TextId::MenuSelectedFile, MenuId::File},
     {MenuId::Edit, TextId::MenuEdit, MenuId::Edit},
     {MenuId::Coordinates, TextId::MenuCoordinates, MenuId::Edit},
@@ -89,6 +91,11 @@ ActionSet::ActionSet(MainWindow& window, QMenuBar& menuBar, QToolBar& mainTools,
         }
     }
     for (const ActionRow& row : actionRows()) {
+        for (const MenuRow& submenu : kMenus) {
+            if (submenu.before == row.name) {
+                static_cast<void>(menu(submenu.id));
+            }
+        }
         QAction* made = makeAction(row);
         actions_.push_back(made);
         QMenu& holder = menu(row.menu);

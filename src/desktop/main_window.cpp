@@ -190,6 +190,7 @@ void MainWindow::retranslate() {
     replayBar_->retranslate(texts);
     tools_->setAccessibleName(toQt(texts(TextId::MainTools)));
     showScale();
+    fillMenus();
     commandsChanged();
 }
 
@@ -223,6 +224,7 @@ void MainWindow::setTitle(std::string_view title) {
 
 void MainWindow::setFileList(std::span<const FileListRow> rows, std::optional<int> selected) {
     sidePanel_->files().setRows(rows, selected);
+    fillMenus();
     commandsChanged();
 }
 

@@ -103,6 +103,7 @@ private:
     void connectFileList();
     void connectReplay();
     void connectMenus();
+    void fillMenus();
     void fillRecentMenu();
     void fillChannelMenu();
     void fillAlarmMenu();

@@ -122,6 +122,16 @@ void MainWindow::connectMenus() {
     connect(&actions_->menu(MenuId::Alarms), &QMenu::aboutToShow, this, &MainWindow::fillAlarmMenu);
 }
 
+void MainWindow::fillMenus() {
+    if (session_ == nullptr) {
+        return;
+    }
+    // Also while closed: a screen reader looks into menus that it does not open.
+    fillRecentMenu();
+    fillChannelMenu();
+    fillAlarmMenu();
+}
+
 void MainWindow::fillRecentMenu() {
     QMenu& menu = actions_->menu(MenuId::Recent);
     menu.clear();

@@ -27,7 +27,9 @@ constexpr Word kWords[] = {
     {"&Open", TextId::ButtonOpen},
     {"Open", TextId::Open},
     {"&Choose", TextId::ButtonChoose},
-    // Open dialog
+    // Open and save dialogs
+    {"&Save", TextId::ButtonSave},
+    {"%1 already exists.\nDo you want to replace it?", TextId::AskReplaceFile},
     {"Look in:", TextId::DialogLookIn},
     {"File &name:", TextId::DialogFileName},
     {"Files of type:", TextId::DialogFileType},
@@ -67,6 +69,19 @@ constexpr Word kWords[] = {
      TextId::DialogFileNotFound},
     {"%1\nDirectory not found.\nPlease verify the correct directory name was given.",
      TextId::DialogFolderNotFound},
+    {"Save As", TextId::SaveAsTitle},
+    // Colour dialog
+    {"&Basic colors", TextId::ColorBasic},
+    {"&Custom colors", TextId::ColorCustom},
+    {"&Add to Custom Colors", TextId::ColorAddCustom},
+    {"&Pick Screen Color", TextId::ColorPick},
+    {"Hu&e:", TextId::ColorHue},
+    {"&Sat:", TextId::ColorSaturation},
+    {"&Val:", TextId::ColorValue},
+    {"&Red:", TextId::ColorRed},
+    {"&Green:", TextId::ColorGreen},
+    {"Bl&ue:", TextId::ColorBlue},
+    {"&HTML:", TextId::ColorHtml},
     // Text fields
     {"&Undo", TextId::EditUndo},
     {"&Redo", TextId::EditRedo},

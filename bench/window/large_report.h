@@ -1,0 +1,29 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+#include "support/work_files.h"
+
+namespace campora {
+
+/// Parallel passes of 1 km, a record every two metres, doses that differ.
+inline std::string largeReport(int records) {
+    constexpr int kPerPass = 500;
+    RptBytes report(1);
+    report.reserve(static_cast<std::size_t>(records));
+    for (int i = 0; i < records; ++i) {
+        const int pass = i / kPerPass;
+        const int along = pass % 2 == 0 ? i % kPerPass : kPerPass - 1 - i % kPerPass;
+        RptBytes::Record record;
+        record.position = fixAt(2.0 * along, 20.0 * pass);
+        record.realTenths[0] = 900 + i % 13 * 20;
+        report.add(record);
+    }
+    return report.bytes();
+}
+
+}  // namespace campora
