@@ -309,12 +309,27 @@ TEST_P(WindowInLanguage, EveryTextIsFromTheTable) {
         table += QString(text).remove('&');
         table += QString(text).remove('&').remove("...");  // on tool buttons
     }
+    // "Canal %1", "Sodel - %1": a place filled with a number or with another text of the table.
+    QStringList beginnings;
+    for (const QString& text : table) {
+        if (text.endsWith("%1") && text.size() > 2) {
+            beginnings += text.chopped(2);
+        }
+    }
+    const auto isFilled = [&](const QString& text) {
+        return std::any_of(beginnings.begin(), beginnings.end(), [&](const QString& beginning) {
+            const QString rest = text.mid(beginning.size());
+            bool isNumber = false;
+            static_cast<void>(rest.toInt(&isNumber));
+            return text.startsWith(beginning) && (isNumber || table.contains(rest));
+        });
+    };
     const QMap<QString, QString> shown = shownTexts(*window);
     EXPECT_GT(shown.size(), 100);
     for (auto text = shown.begin(); text != shown.end(); ++text) {
         // Tooltips carry their keys behind them.
         const QString bare = QString(text.key()).remove(QRegularExpression(" \\([^()]+\\)$"));
-        EXPECT_TRUE(table.contains(text.key()) || table.contains(bare))
+        EXPECT_TRUE(table.contains(text.key()) || table.contains(bare) || isFilled(text.key()))
             << toUtf8(text.value() + ": " + text.key());
     }
 }
