@@ -1,0 +1,229 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/dose_columns.h"
+
+#include <gtest/gtest.h>
+
+#include "app/dose_choice.h"
+#include "support/session_desk.h"
+#include "support/zone_map.h"
+
+namespace campora {
+namespace {
+
+using Messages = std::vector<std::string>;
+
+struct DoseColumnsTest : testing::Test {
+    /// A map of these doses is chosen for the row.
+    void choose(int row, const std::vector<std::string>& doses, LonLat corner = {-60, -33}) {
+        const std::string name = "canal" + std::to_string(row);
+        desk.dialogs.openAnswers.push_back({rowOfZones(doses, corner).write(desk.folder, name)});
+        columns.chooseFile(row);
+    }
+    static std::vector<std::string> doses(int count) {
+        std::vector<std::string> texts;
+        for (int i = 1; i <= count; ++i) {
+            texts.push_back(std::to_string(i));
+        }
+        return texts;
+    }
+
+    SessionDesk desk;
+    DoseColumns columns{desk.session};
+};
+
+TEST_F(DoseColumnsTest, HasOneToFourChannels) {
+    for (int rows = 1; rows <= 4; ++rows) {
+        EXPECT_EQ(columns.rowCount(), rows);
+        EXPECT_EQ(columns.canRemove(), rows > 1);
+        EXPECT_EQ(columns.canAdd(), rows < 4);
+        columns.addChannel();
+    }
+    EXPECT_EQ(columns.rowCount(), 4);
+    EXPECT_EQ(columns.caption(3), "Canal 4:");
+    for (int i = 0; i < 5; ++i) {
+        columns.removeChannel();
+    }
+    EXPECT_EQ(columns.rowCount(), 1);
+    EXPECT_THROW(columns.chooseColumn(1, 1), std::out_of_range);
+}
+
+TEST_F(DoseColumnsTest, TellsWhatAColumnHolds) {
+    EXPECT_EQ(columns.doseLabel(0), "Archivo no cargado");
+    choose(0, {"10", "20", "30", "20"});
+    EXPECT_EQ(columns.columns(0), (std::vector<std::string>{"DOSIS", "NOMBRE"}));
+    EXPECT_EQ(columns.path(0), desk.folder.file("canal0.shp"));
+    EXPECT_EQ(columns.doseLabel(0), "");
+    columns.chooseColumn(0, 3);
+    EXPECT_EQ(columns.column(0), GphPresc::kNoColumn);
+    columns.chooseColumn(0, 2);
+    EXPECT_EQ(columns.doseLabel(0), "Invalido: Valores No Numericos");
+    columns.chooseColumn(0, 1);
+    EXPECT_EQ(columns.doseLabel(0), "4 dosis diferentes");
+    desk.dialogs.openAnswers.push_back({});
+    columns.chooseFile(0);  // cancelled
+    EXPECT_EQ(columns.column(0), 1);
+    choose(0, {"1"});  // another map has other columns
+    EXPECT_EQ(columns.column(0), GphPresc::kNoColumn);
+}
+
+TEST_F(DoseColumnsTest, AsksForAMapWhereTheLastOneWas) {
+    choose(0, {"1"});
+    choose(0, {"1"});
+    ASSERT_EQ(desk.dialogs.opens.size(), 2U);
+    EXPECT_EQ(desk.dialogs.opens[0].folder, desk.session.programFolder());
+    EXPECT_EQ(desk.dialogs.opens[1].folder, desk.folder.path() + "/");
+    EXPECT_EQ(desk.settings.values["PrescOpenPath"], desk.folder.path() + "/");
+    EXPECT_EQ(desk.dialogs.opens[0].filters[0].patterns, std::vector<std::string>{"*.shp"});
+}
+
+TEST_F(DoseColumnsTest, AMapThatCannotBeReadLeavesItsRowWithoutOne) {
+    choose(0, {"1"});
+    desk.dialogs.openAnswers.push_back({desk.folder.write("malo.shp", "nada")});
+    columns.chooseFile(0);
+    EXPECT_EQ(desk.dialogs.messages.size(), 1U);
+    EXPECT_EQ(columns.doseLabel(0), "Archivo no cargado");
+    EXPECT_TRUE(columns.columns(0).empty());
+    EXPECT_FALSE(columns.isBusy());
+}
+
+TEST_F(DoseColumnsTest, WarnsOfMapsThatLieFarApart) {
+    const struct {
+        double metres;
+        bool warned;
+    } cases[] = {{4000, false}, {6000, true}};
+    for (const auto& [metres, warned] : cases) {
+        desk.dialogs.messages.clear();
+        DoseColumns fresh(desk.session);
+        fresh.addChannel();
+        for (const int row : {0, 1}) {
+            desk.dialogs.openAnswers.push_back(
+                {rowOfZones({"1"}, {-60, -33 + row * metres / 111320}).write(desk.folder, "m")});
+            fresh.chooseFile(row);
+        }
+        EXPECT_EQ(desk.dialogs.messages,
+                  warned ? Messages{"Exclamation|Campora|CUIDADO: Los mapas que está cargando "
+                                    "parecen estar muy distanciados uno del otro"}
+                         : Messages{})
+            << metres;
+        EXPECT_EQ(fresh.columns(1).size(), 2U);
+    }
+}
+
+TEST_F(DoseColumnsTest, ConfirmsOnlyWhenEveryRowIsComplete) {
+    const auto refusal = [this] {
+        desk.dialogs.messages.clear();
+        EXPECT_FALSE(columns.confirm());
+        return desk.dialogs.messages.empty() ? std::string() : desk.dialogs.messages.front();
+    };
+    EXPECT_EQ(refusal(), "Exclamation|Campora|Canal 1: Debe cargar archivos shape para todos los "
+                         "canales");
+    choose(0, {"10", "20"});
+    EXPECT_EQ(refusal(), "Exclamation|Campora|Canal 1: Debe seleccionar una columna de dosis para "
+                         "todos los canales");
+    columns.chooseColumn(0, 2);
+    EXPECT_EQ(refusal(), "Exclamation|Campora|Canal 1: La columna no puede utilizarse porque "
+                         "contiene valores no numéricos");
+    columns.chooseColumn(0, 1);
+    columns.addChannel();
+    EXPECT_EQ(refusal(), "Exclamation|Campora|Canal 2: Debe cargar archivos shape para todos los "
+                         "canales");
+    choose(1, {"5"});
+    columns.chooseColumn(1, 1);
+
+    std::vector<std::pair<int, int>> progress;
+    columns.onProgress = [&](int row, int percent) {
+        EXPECT_TRUE(columns.isBusy());
+        progress.emplace_back(row, percent);
+    };
+    desk.dialogs.messages.clear();
+    ASSERT_TRUE(columns.confirm());
+    EXPECT_TRUE(desk.dialogs.messages.empty());
+    EXPECT_EQ(progress,
+              (std::vector<std::pair<int, int>>{{0, 0}, {0, 50}, {0, 100}, {1, 0}, {1, 100}}));
+    EXPECT_EQ(desk.clock.events, 5 + 3 + 2);  // while the maps were read too
+    const std::vector<std::unique_ptr<GphPresc>> channels = columns.getChannels();
+    ASSERT_EQ(channels.size(), 2U);
+    EXPECT_EQ(channels[0]->name(), "canal0.shp");
+    EXPECT_EQ(channels[0]->columnaDosis(), 1);
+    EXPECT_EQ(channels[1]->polygons()[0].dosis, 5);
+}
+
+TEST_F(DoseColumnsTest, AsksBeforeItTakesManyDoses) {
+    const struct {
+        int distinct;
+        std::optional<Answer> answer;
+        bool confirmed;
+    } cases[] = {{15, std::nullopt, true},
+                 {16, Answer::No, false},
+                 {16, Answer::Cancel, false},
+                 {16, Answer::Yes, true}};
+    for (const auto& [distinct, answer, confirmed] : cases) {
+        desk.dialogs.questions.clear();
+        choose(0, doses(distinct));
+        columns.chooseColumn(0, 1);
+        if (answer) {
+            desk.dialogs.answers.push_back(*answer);
+        }
+        EXPECT_EQ(columns.confirm(), confirmed) << distinct;
+        EXPECT_EQ(desk.dialogs.questions,
+                  answer
+                      ? Messages{"Exclamation|Campora|Canal 1: Posee más de 16 dosis diferentes, "
+                                 "y puede que no sea visualizada correctamente en algunas "
+                                 "consolas actuales.\n¿Desea continuar de todas formas?"}
+                      : Messages{});
+    }
+}
+
+struct DoseChoiceTest : testing::Test {
+    DoseChoiceTest() {
+        SetList set;
+        for (const double dose : {0.0, 50.0, 72.5}) {
+            set.addDosis(dose);
+        }
+        scale.loadFromSetList(set, 0);
+    }
+
+    SessionDesk desk;
+    ColorScale scale;
+};
+
+TEST_F(DoseChoiceTest, OffersTheDosesOfTheScale) {
+    DoseChoice choice(&scale, 50, desk.session);
+    ASSERT_EQ(choice.legend().classes.size(), 3U);
+    EXPECT_EQ(choice.legend().classes[2].color, scale.getClass(2).color);
+    EXPECT_EQ(choice.way(), DoseChoice::Way::Existing);
+    for (const std::optional<int> none : {std::optional<int>(), std::optional(3)}) {
+        choice.selectClass(none);
+        EXPECT_EQ(choice.accept(), std::nullopt);
+    }
+    EXPECT_EQ(desk.dialogs.messages,
+              (Messages(2, "Exclamation|Campora|Debe seleccionar una dosis")));
+    choice.setWay(DoseChoice::Way::New);
+    choice.selectClass(2);
+    EXPECT_EQ(choice.way(), DoseChoice::Way::Existing);
+    EXPECT_EQ(choice.accept(), 72.5F);
+}
+
+TEST_F(DoseChoiceTest, TakesANewDose) {
+    DoseChoice choice(nullptr, 12.5F, desk.session);
+    EXPECT_TRUE(choice.legend().classes.empty());
+    choice.setWay(DoseChoice::Way::Existing);  // there are none
+    EXPECT_EQ(choice.way(), DoseChoice::Way::New);
+    EXPECT_EQ(choice.text(), "12.5");
+    EXPECT_EQ(choice.accept(), 12.5F);
+    const std::vector<std::pair<std::string, std::optional<float>>> cases{
+        {" 80 ", 80.F}, {"7,25", 7.25F}, {"", std::nullopt}, {"cien", std::nullopt}, {"5x", {}}};
+    for (const auto& [text, dose] : cases) {
+        desk.dialogs.messages.clear();
+        choice.setText(text);
+        EXPECT_EQ(choice.accept(), dose) << text;
+        EXPECT_EQ(desk.dialogs.messages,
+                  dose ? Messages{}
+                       : Messages{"Exclamation|Campora|La dosis debe ser un valor numérico"});
+    }
+}
+
+}  // namespace
+}  // namespace campora
