@@ -127,6 +127,7 @@ void DbaseFile::readColumns(std::size_t headerSize) {
         if (static_cast<std::uint8_t>(name[0]) == header::kColumnsEnd) {
             break;
         }
+        reader.seek(at + column::kType);
         const char type = static_cast<char>(reader.u8());
         reader.seek(at + column::kWidth);
         const std::size_t width = reader.u8();

@@ -1,0 +1,41 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+// dBASE tables.
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <span>
+#include <string>
+#include <variant>
+
+#include "base/encoding.h"
+#include "base/failure.h"
+#include "presc/dbase_file.h"
+
+using namespace campora;
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    try {
+        const DbaseFile table(std::as_bytes(std::span(data, size)));
+        // One row before and one behind those that are there; a narrow row makes many of them.
+        constexpr std::int32_t kMost = 1000;
+        for (std::int32_t row = -1; row <= std::min(table.rowCount(), kMost); ++row) {
+            (void)table.isDeleted(row);
+            for (int column = 0; column < table.fieldCount(); ++column) {
+                const CellValue value = table.value(row, column);
+                const auto* const text = std::get_if<std::string>(&value);
+                const std::optional<double> number = table.number(row, column);
+                if ((text != nullptr && !isUtf8(*text)) || (number && !std::isfinite(*number))) {
+                    std::abort();  // neither text nor number
+                }
+            }
+        }
+    } catch (const FormatError&) {
+        // Said to the user; the map is shown without a table.
+    }
+    return 0;
+}
