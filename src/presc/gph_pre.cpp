@@ -1,0 +1,45 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "presc/gph_pre.h"
+
+#include <cmath>
+#include <utility>
+
+#include "base/numbers.h"
+#include "model/geodesy.h"
+#include "presc/grid_geometry.h"
+
+namespace campora {
+
+namespace {
+
+GridCells cellsOf(PreFile file) {
+    const PreHeader& header = file.header;
+    const double north = decodePreCoordinate(header.latitude);
+    const double west = decodePreCoordinate(header.longitude);
+    const double metres = header.cellSize;
+    const double perDegree = metresPerDegreeAt(north);
+    GridCells cells;
+    for (int column = 0; column < header.columns; ++column) {
+        cells.columnX.push_back(west + metres * column / perDegree);
+    }
+    for (int row = 0; row < header.rows; ++row) {
+        cells.rowY.push_back(north - metres * row / METERS_PER_DEGREE);
+    }
+    cells.metres = metres;
+    cells.channels = header.channels;
+    cells.doses = std::move(file.doses);
+    return cells;
+}
+
+}  // namespace
+
+GphPRE::GphPRE(std::string_view path, PreFile file, Color background, char symbol)
+    : GridLayer(path, cellsOf(std::move(file)), background) {
+    summary_.addProperty("Ancho Labor", summaryFigure(cellMetres(), symbol), "mts");
+    summary_.addProperty("Cant. de Canales", numberText(channelsCnt()), "");
+    addChannelEntries(symbol);
+}
+
+}  // namespace campora

@@ -1,0 +1,29 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "presc/grid_layer.h"
+#include "presc/vrt_file.h"
+
+namespace campora {
+
+/// The grid of a VRT file. A cell's stored corner is its south-west one.
+class GphVRT final : public GridLayer {
+public:
+    /// `path` names the file; `symbol`: decimal, of the figures in the summary.
+    GphVRT(std::string_view path, VrtFile file, Color background, char symbol);
+
+    [[nodiscard]] const VrtHeader& header() const { return header_; }
+
+    [[nodiscard]] std::string_view Gph_kind() const override { return "GphVRT"; }
+    [[nodiscard]] std::string File_icon() const override { return "vrtfile"; }
+
+private:
+    VrtHeader header_;
+};
+
+}  // namespace campora

@@ -1,0 +1,20 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cmath>
+#include <cstdint>
+
+#include "base/numbers.h"
+#include "model/geodesy.h"
+
+namespace campora {
+
+/// Metres in a degree of longitude as grids count them: whole, at one edge for all rows. 0 at a
+/// pole.
+[[nodiscard]] inline std::int32_t metresPerDegreeAt(double latitude) {
+    return roundToInt32(std::cos(latitude * kPi / 180) * METERS_PER_DEGREE);
+}
+
+}  // namespace campora

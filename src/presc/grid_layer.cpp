@@ -1,0 +1,204 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "presc/grid_layer.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <stdexcept>
+#include <utility>
+
+#include "base/numbers.h"
+#include "base/paths.h"
+#include "model/geodesy.h"
+
+namespace campora {
+
+namespace {
+
+constexpr double kSquareMetresPerHectare = 10'000;
+constexpr int kCorners = 4;
+
+std::string entryName(std::string_view what, std::size_t channel) {
+    return std::string(what) + " (C " + numberText(channel + 1) + ")";
+}
+
+}  // namespace
+
+std::string summaryFigure(double value, char symbol, int digits) {
+    std::array<char, 40> buffer;
+    const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                            std::chars_format::scientific, digits - 1);
+    double shortened = value;
+    if (error == std::errc()) {
+        std::from_chars(buffer.data(), end, shortened);
+    }
+    return numberText(shortened, symbol);
+}
+
+GridLayer::GridLayer(std::string_view path, GridCells cells, Color background)
+    : name_(fileNamePart(path)), path_(path), cells_(std::move(cells)) {
+    collectBound();
+    countDoses(background);
+}
+
+void GridLayer::collectBound() {
+    // Only the ends of a row can widen the box: what lies between them is nearer.
+    for (const double y : cells_.rowY) {
+        bound_.addPoint(cells_.columnX.front(), y);
+        bound_.addPoint(cells_.columnX.back(), y);
+    }
+}
+
+void GridLayer::countDoses(Color background) {
+    for (int channel = 0; channel < cells_.channels; ++channel) {
+        Channel& counted = channels_.emplace_back();
+        SetList set;
+        for (std::int32_t cell = 0; cell < cellCount(); ++cell) {
+            const std::int16_t dose = steps(cell, channel);
+            set.addDosis(inUnits(dose));
+            counted.dosed += dose != 0 ? 1 : 0;
+            counted.steps += dose;
+        }
+        counted.scale.loadFromSetList(set, 0);
+        const Clase& first = counted.scale.getClass(0);
+        if (first.lower == 0 && first.upper == 0) {
+            counted.scale.setClassColor(0, background);
+        }
+    }
+}
+
+void GridLayer::addChannelEntries(char symbol) {
+    const double hectares = cells_.metres * cells_.metres / kSquareMetresPerHectare;
+    for (std::size_t i = 0; i < channels_.size(); ++i) {
+        const double area =
+            cells_.metres * cells_.metres * channels_[i].dosed / kSquareMetresPerHectare;
+        summary_.addProperty(entryName("Superficie", i), summaryFigure(area, symbol), "Has");
+    }
+    for (std::size_t i = 0; i < channels_.size(); ++i) {
+        const double product =
+            static_cast<double>(channels_[i].steps) / cells_.doseSteps * hectares;
+        summary_.addProperty(entryName("Producto total", i), summaryFigure(product, symbol), "");
+    }
+}
+
+const GridLayer::Channel& GridLayer::at(int channel) const {
+    return channels_.at(static_cast<std::size_t>(channel));
+}
+
+void GridLayer::setCurrentChannel(int channel) {
+    static_cast<void>(at(channel));
+    current_ = channel;
+}
+
+ColorScale* GridLayer::File_escalaColores() {
+    return &channels_[static_cast<std::size_t>(current_)].scale;
+}
+
+void GridLayer::checkCell(std::int32_t cell) const {
+    if (cell < 0 || cell >= cellCount()) {
+        throw std::out_of_range("GphTrack.polygonNpoint: Numero de polygono fuera de rango");
+    }
+}
+
+float GridLayer::dose(std::int32_t cell, int channel) const {
+    checkCell(cell);
+    static_cast<void>(at(channel));
+    return static_cast<float>(inUnits(steps(cell, channel)));
+}
+
+LonLat GridLayer::corner(std::int32_t cell) const {
+    const auto column = static_cast<std::size_t>(cell % columns());
+    const auto row = static_cast<std::size_t>(cell / columns());
+    return {cells_.columnX[column], cells_.rowY[row]};
+}
+
+double GridLayer::cellWidth() const {
+    return cells_.metres / (std::cos(bound_.maxY * kPi / 180) * METERS_PER_DEGREE);
+}
+
+double GridLayer::cellRise() const {
+    const double height = cells_.metres / METERS_PER_DEGREE;
+    return cells_.northward ? height : -height;
+}
+
+std::int32_t GridLayer::Gph_mouseOver(const ViewTransform& /*view*/, const MapStyle& /*style*/,
+                                      LonLat position, std::int32_t /*start*/) const {
+    const std::vector<double>& xs = cells_.columnX;
+    const auto column = std::partition_point(
+        xs.begin(), xs.end(), [&](double x) { return x + cellWidth() < position.x; });
+    const std::vector<double>& ys = cells_.rowY;
+    const bool northward = cells_.northward;
+    const auto row = std::partition_point(ys.begin(), ys.end(), [&](double y) {
+        return northward ? y + cellRise() < position.y : y + cellRise() > position.y;
+    });
+    // The first cell that reaches as far as the position has it, unless it begins beyond it.
+    if (column == xs.end() || row == ys.end() || !(*column <= position.x) ||
+        !(northward ? *row <= position.y : *row >= position.y)) {
+        return -1;
+    }
+    return static_cast<std::int32_t>(row - ys.begin()) * columns() +
+           static_cast<std::int32_t>(column - xs.begin());
+}
+
+std::string GridLayer::Gph_getInfo(const InfoContext& context, std::int32_t n) const {
+    std::string number = numberText(dose(n, current_));
+    std::replace(number.begin(), number.end(), '.', context.locale.decimalSymbol());
+    return context.texts.format(TextId::GridCellDose, {number});
+}
+
+bool GridLayer::Gph_plotN(MapContext& /*context*/, std::int32_t /*n*/) const {
+    return false;
+}
+
+float GridLayer::Gph_delayN(std::int32_t /*n*/) const {
+    return 0;
+}
+
+std::int32_t GridLayer::ExportablePolygon_polygonNCount(const MapStyle& /*style*/,
+                                                        std::int32_t polygon) const {
+    return polygon >= 0 && polygon < cellCount() ? kCorners : 0;
+}
+
+LonLat GridLayer::ExportablePolygon_polygonNpoint(std::int32_t polygon, std::int32_t point) const {
+    if (point < 0 || point >= kCorners) {
+        throw std::out_of_range("GphTrack.polygonNpoint: Punto del polygono fuera de rango");
+    }
+    checkCell(polygon);
+    LonLat place = corner(polygon);
+    if (point == 1 || point == 2) {
+        place.x += cellWidth();
+    }
+    if (point >= 2) {
+        place.y += cellRise();
+    }
+    return place;
+}
+
+std::string GridLayer::ExportableData_getColumnNname(int column) const {
+    return column >= 0 && column < cells_.channels ? "Dosis" + numberText(column + 1) : "";
+}
+
+ColumnType GridLayer::ExportableData_getColumnNtype(int /*column*/) const {
+    return ColumnType::Integer;
+}
+
+CellValue GridLayer::ExportableData_getCell(std::int32_t row, int column,
+                                            const CellOptions& /*options*/) const {
+    if (row < 0 || row >= cellCount() || column < 0 || column >= cells_.channels) {
+        return {};
+    }
+    if (cells_.doseSteps == 1) {
+        return std::int64_t{steps(row, column)};
+    }
+    return dose(row, column);
+}
+
+LonLat GridLayer::ExportablePoint_pointN(std::int32_t point) const {
+    checkCell(point);
+    return corner(point);
+}
+
+}  // namespace campora

@@ -1,0 +1,53 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "presc/load_grid.h"
+
+#include <string>
+
+#include "presc/gph_pre.h"
+#include "presc/gph_vrt.h"
+
+namespace campora {
+
+namespace {
+
+void tell(const Failure& failure, const GridReaderContext& context) {
+    context.dialogs.message(context.texts.sentence(failure), MessageIcon::Error,
+                            context.texts(TextId::WrongFileFormat));
+}
+
+}  // namespace
+
+std::unique_ptr<GridLayer> readGrid(std::string_view path, const FileBytes& file,
+                                    const GridReaderContext& context) {
+    const char symbol = context.locale.decimalSymbol();
+    const Color background = context.colors.back;
+    if (isVrtFile(file.bytes())) {
+        return std::make_unique<GphVRT>(path, decodeVrt(file.bytes()), background, symbol);
+    }
+    if (isPreFile(file.bytes())) {
+        return std::make_unique<GphPRE>(path, decodePre(file.bytes()), background, symbol);
+    }
+    return nullptr;
+}
+
+std::unique_ptr<GridLayer> loadGrid(std::string_view path, const GridReaderContext& context) {
+    const Result<FileBytes> file = readFile(path);
+    if (!file) {
+        tell(file.failure(), context);
+        return nullptr;
+    }
+    try {
+        std::unique_ptr<GridLayer> layer = readGrid(path, *file, context);
+        if (!layer) {
+            tell({TextId::FileNotCompatibleNamed, {std::string(path)}}, context);
+        }
+        return layer;
+    } catch (const FormatError& error) {
+        tell(because(TextId::FileCannotBeRead, {std::string(path)}, error.failure()), context);
+        return nullptr;
+    }
+}
+
+}  // namespace campora

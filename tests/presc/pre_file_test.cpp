@@ -1,0 +1,134 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "presc/pre_file.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "base/failure.h"
+
+namespace campora {
+namespace {
+
+using Doses = std::vector<std::int16_t>;
+
+std::span<const std::byte> bytesOf(const std::string& text) {
+    return std::as_bytes(std::span(text.data(), text.size()));
+}
+
+PreHeader smallHeader(int channels) {
+    return {encodePreCoordinate(-34.5),
+            encodePreCoordinate(-58.2583333),
+            2,
+            1,
+            20,
+            1855,
+            1529,
+            channels};
+}
+
+TEST(PreFile, EveryByteHasItsPlace) {
+    using namespace std::string_literals;
+    const std::string expected =
+        "[LATITUD] = \xC0\x59\x51\x4A"s   // 3430000
+        "[LONGITUD] = \x44\x79\xB1\x4A"s  // 5815458
+        "[ANCHO] = \x02\x00[ALTO] = \x01\x00"s
+        "[CUADRADO] = \x14\x00[LAT] = \x3F\x07[LONG] = \xF9\x05\x00\x00\x00\x02"s
+        "\x01\x00\xFE\xFF\xFF\x7F\x00\x80"s;
+    PreHeader header = smallHeader(2);
+    header.longitude = 5815458.0F;
+    EXPECT_EQ(encodePre(header, Doses{1, -2, 32767, -32768}), expected);
+
+    const PreFile read = decodePre(bytesOf(expected));
+    EXPECT_EQ(read.header, header);
+    EXPECT_EQ(read.doses, (Doses{1, -2, 32767, -32768}));
+}
+
+TEST(PreFile, OneChannelIsWrittenAsNone) {
+    const std::string bytes = encodePre(smallHeader(1), Doses{5, 6});
+    EXPECT_EQ(bytes.at(95), '\0');
+    EXPECT_EQ(decodePre(bytesOf(bytes)).header.channels, 1);
+}
+
+TEST(PreFile, CoordinatesAreNegatedDegreesAndMinutes) {
+    struct Row {
+        double degrees;
+        float stored;
+        float read;
+    };
+    const Row rows[] = {
+        {-34.5, 3430000.0F, -34.5F},
+        {-58.258333, 5815500.0F, -58.25833F},
+        {0, 0.0F, 0.0F},
+        {-0.00001, 1.0F, -0.00002F},
+        {50.25, -5055000.0F, 50.25F},
+        {-61.2500083333, 6115000.0F, -61.25F},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.degrees);
+        EXPECT_EQ(encodePreCoordinate(row.degrees), row.stored);
+        EXPECT_EQ(decodePreCoordinate(row.stored), row.read);
+    }
+}
+
+TEST(PreFile, OnlyTheFirstFourLabelsTellIt) {
+    const std::string whole = encodePre(smallHeader(1), Doses{7, 8});
+    for (std::size_t i = 0; i < 96; ++i) {
+        SCOPED_TRACE(i);
+        const bool number = (i >= 12 && i < 16) || (i >= 29 && i < 33) || i == 43 || i == 44;
+        const bool checked = i < 54 && !number;
+        std::string damaged = whole;
+        damaged[i] = static_cast<char>(damaged[i] ^ 0x20);
+        EXPECT_EQ(isPreFile(bytesOf(damaged)), !checked);
+    }
+    EXPECT_FALSE(isPreFile(bytesOf(whole.substr(0, 53))));
+    EXPECT_FALSE(isPreFile({}));
+}
+
+TEST(PreFile, AFileThatLiesIsRefused) {
+    struct Row {
+        const char* name;
+        std::size_t at;
+        std::string bytes;
+        TextId text;
+    };
+    using namespace std::string_literals;
+    const Row rows[] = {
+        {"no columns", 43, "\x00\x00"s, TextId::GridImpossible},
+        {"rows below zero", 54, "\xFF\xFF"s, TextId::GridImpossible},
+        {"cells without a side", 69, "\x00\x00"s, TextId::GridImpossible},
+        {"latitude not a number", 12, "\x00\x00\xC0\x7F"s, TextId::GridImpossible},
+        {"latitude at the pole", 12, "\x40\x54\x09\xCB"s, TextId::GridImpossible},
+        {"longitude infinite", 29, "\x00\x00\x80\x7F"s, TextId::GridImpossible},
+        {"more columns than cells", 43, "\xFF\x7F"s, TextId::FileCutShort},
+        {"more channels than doses", 95, "\xFF"s, TextId::FileCutShort},
+    };
+    const std::string whole = encodePre(smallHeader(1), Doses{7, 8});
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        std::string lying = whole;
+        lying.replace(row.at, row.bytes.size(), row.bytes);
+        try {
+            static_cast<void>(decodePre(bytesOf(lying)));
+            FAIL() << "was read";
+        } catch (const FormatError& error) {
+            EXPECT_EQ(error.failure().text, row.text);
+        }
+    }
+}
+
+TEST(PreFile, ACutFileIsRefusedAndALongOneRead) {
+    const std::string whole = encodePre(smallHeader(2), Doses{1, 2, 3, 4});
+    for (std::size_t size = 54; size < whole.size(); ++size) {
+        EXPECT_THROW(static_cast<void>(decodePre(bytesOf(whole.substr(0, size)))), FormatError)
+            << size;
+    }
+    EXPECT_EQ(decodePre(bytesOf(whole + "more")).doses, (Doses{1, 2, 3, 4}));
+}
+
+}  // namespace
+}  // namespace campora

@@ -1,0 +1,104 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "presc/vrt_file.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "base/failure.h"
+
+namespace campora {
+namespace {
+
+using namespace std::string_literals;
+using Doses = std::vector<std::int16_t>;
+
+std::span<const std::byte> bytesOf(const std::string& text) {
+    return std::as_bytes(std::span(text.data(), text.size()));
+}
+
+VrtHeader smallHeader() {
+    return {-61.25F, -33.5F, 7.5F, 2, 1, 2, "Lote 7", "Maíz"};
+}
+
+TEST(VrtFile, EveryByteHasItsPlace) {
+    const std::string expected = "\x9B\x1A\x6F\x01"s +
+                                 "\x00\x00\x75\xC2"s
+                                 "\x00\x00\x06\xC2"s
+                                 "\x00\x00\xF0\x40"s +
+                                 "\x02\x00\x00\x00"s
+                                 "\x01\x00\x00\x00"s
+                                 "\x02"s +
+                                 "Lote 7"s + std::string(10, '\0') + "Ma\xEDz"s +
+                                 std::string(60, '\0') + std::string(4, '\0') +
+                                 "\xE2\x04\x00\x00\xFF\xFF\x00\x80"s;
+    EXPECT_EQ(encodeVrt(smallHeader(), Doses{1250, 0, -1, -32768}), expected);
+
+    ASSERT_TRUE(isVrtFile(bytesOf(expected)));
+    const VrtFile read = decodeVrt(bytesOf(expected));
+    EXPECT_EQ(read.header, smallHeader());
+    EXPECT_EQ(read.doses, (Doses{1250, 0, -1, -32768}));
+}
+
+TEST(VrtFile, TextsAreCutToTheirFields) {
+    VrtHeader header = smallHeader();
+    header.name = "Ñandú de veinte letras";
+    header.description = std::string(70, 'd');
+    const VrtFile read = decodeVrt(bytesOf(encodeVrt(header, Doses{1, 2, 3, 4})));
+    EXPECT_EQ(read.header.name, "Ñandú de veinte ");
+    EXPECT_EQ(read.header.description, std::string(64, 'd'));
+    EXPECT_EQ(read.doses, (Doses{1, 2, 3, 4}));
+}
+
+TEST(VrtFile, TheFirstFourBytesTellIt) {
+    EXPECT_FALSE(isVrtFile(bytesOf("\x9B\x1A\x6F"s)));
+    EXPECT_FALSE(isVrtFile(bytesOf("\x9B\x1A\x6F\x02"s)));
+    EXPECT_TRUE(isVrtFile(bytesOf("\x9B\x1A\x6F\x01"s)));
+}
+
+TEST(VrtFile, AFileThatLiesIsRefused) {
+    struct Row {
+        const char* name;
+        std::size_t at;
+        std::string bytes;
+        TextId text;
+    };
+    const Row rows[] = {
+        {"west edge not a number", 4, "\x00\x00\xC0\x7F"s, TextId::GridImpossible},
+        {"south edge at the pole", 8, "\x00\x00\xB4\x42"s, TextId::GridImpossible},
+        {"resolution 0", 12, "\x00\x00\x00\x00"s, TextId::GridImpossible},
+        {"resolution infinite", 12, "\x00\x00\x80\x7F"s, TextId::GridImpossible},
+        {"columns below zero", 16, "\xFF\xFF\xFF\xFF"s, TextId::GridImpossible},
+        {"no rows", 20, "\x00\x00\x00\x00"s, TextId::GridImpossible},
+        {"no channels", 24, "\x00"s, TextId::GridImpossible},
+        {"huge", 16, "\xFF\xFF\xFF\x7F\xFF\xFF\xFF\x7F\xFF"s, TextId::FileCutShort},
+        {"a row too many", 20, "\x02"s, TextId::FileCutShort},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        std::string lying = encodeVrt(smallHeader(), Doses{1, 2, 3, 4});
+        lying.replace(row.at, row.bytes.size(), row.bytes);
+        try {
+            static_cast<void>(decodeVrt(bytesOf(lying)));
+            FAIL() << "was read";
+        } catch (const FormatError& error) {
+            EXPECT_EQ(error.failure().text, row.text);
+        }
+    }
+}
+
+TEST(VrtFile, ACutFileIsRefusedAndALongOneRead) {
+    const std::string whole = encodeVrt(smallHeader(), Doses{1, 2, 3, 4});
+    for (std::size_t size = 4; size < whole.size(); ++size) {
+        EXPECT_THROW(static_cast<void>(decodeVrt(bytesOf(whole.substr(0, size)))), FormatError)
+            << size;
+    }
+    EXPECT_EQ(decodeVrt(bytesOf(whole + "more")).doses, (Doses{1, 2, 3, 4}));
+}
+
+}  // namespace
+}  // namespace campora
