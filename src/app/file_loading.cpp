@@ -6,17 +6,42 @@
 #include <algorithm>
 #include <iterator>
 #include <string>
+#include <utility>
 
 #include "base/paths.h"
+#include "presc/load_grid.h"
 
 namespace campora {
 
 namespace {
 
+using WorkLoader = std::optional<LoadedWork> (*)(std::string_view, const WorkReaderContext&);
+
+template <WorkLoader load>
+std::optional<OpenedFile> openWork(std::string_view path, const OpenContext& context) {
+    std::optional<LoadedWork> work = load(path, context);
+    if (!work) {
+        return std::nullopt;
+    }
+    return OpenedFile{std::move(work->group), work->ranges, work->kind, work->hasFlowStops};
+}
+
+std::optional<OpenedFile> openGrid(std::string_view path, const OpenContext& context) {
+    std::unique_ptr<File> grid =
+        loadGrid(path, {context.dialogs, context.locale, context.texts, context.colors});
+    if (!grid) {
+        return std::nullopt;
+    }
+    return OpenedFile{std::move(grid), context.ranges, std::nullopt, std::nullopt};
+}
+
 constexpr FileFormat kFormats[] = {
-    {".rpt", TextId::FilterReports, true, false, loadRptFile},
-    {".txt", TextId::FilterTextTables, true, false, loadRptTextTable},
-    {".nbr", TextId::FilterTrackFiles, false, true, loadTrackFile},
+    {".rpt", TextId::FilterReports, true, false, openWork<loadRptFile>},
+    {".txt", TextId::FilterTextTables, true, false, openWork<loadRptTextTable>},
+    {".nbr", TextId::FilterTrackFiles, false, true, openWork<loadTrackFile>},
+    {".vrt", TextId::FilterPrescriptions, false, false, openGrid},
+    // The last: files without an ending of the table are offered to its reader.
+    {".pre", TextId::FilterPrescriptions, false, false, openGrid},
 };
 
 std::string patternOf(const FileFormat& format) {
@@ -35,6 +60,11 @@ const FileFormat* formatOf(std::string_view path) {
         std::find_if(std::begin(kFormats), std::end(kFormats),
                      [&ending](const FileFormat& format) { return format.ending == ending; });
     return found == std::end(kFormats) ? nullptr : found;
+}
+
+const FileFormat& formatToOpen(std::string_view path) {
+    const FileFormat* const format = formatOf(path);
+    return format != nullptr ? *format : *std::rbegin(kFormats);
 }
 
 std::vector<FileFilter> openFilters(const Texts& texts) {

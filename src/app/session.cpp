@@ -173,20 +173,15 @@ bool Session::takeFile(std::string_view path, bool resetFirst, Dialogs& dialogs)
     if (!resetFirst && files_.isLoaded(found)) {
         return false;
     }
-    const FileFormat* const format = formatOf(found);
-    if (format == nullptr) {
-        dialogs.message(texts_.format(TextId::FileNotCompatibleNamed, {found}), MessageIcon::Error,
-                        texts_(TextId::WrongFileFormat));
-        return false;
-    }
-    return takeWork(found, *format, resetFirst, dialogs);
+    return takeWork(found, formatToOpen(found), resetFirst, dialogs);
 }
 
 bool Session::takeWork(std::string_view path, const FileFormat& format, bool resetFirst,
                        Dialogs& dialogs) {
     const ValueRanges loaded = resetFirst || files_.empty() ? ValueRanges{} : ranges_;
-    const WorkReaderContext context{dialogs, platform_.locale, texts_, registrations_, loaded};
-    std::optional<LoadedWork> work = format.read(path, context);
+    const OpenContext context{{dialogs, platform_.locale, texts_, registrations_, loaded},
+                              style_.colors};
+    std::optional<OpenedFile> work = format.read(path, context);
     if (!work) {
         return false;
     }
@@ -196,7 +191,7 @@ bool Session::takeWork(std::string_view path, const FileFormat& format, bool res
     if (files_.empty()) {
         hasFlowStops_.reset();
     }
-    if (!addToMap(std::move(work->group), true, false, dialogs)) {
+    if (!addToMap(std::move(work->file), true, false, dialogs)) {
         return false;
     }
     if (format.fromLogger) {

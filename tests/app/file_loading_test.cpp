@@ -17,10 +17,16 @@ TEST(FileLoading, TheEndingDecides) {
         const char* ending;
     };
     const Row rows[] = {
-        {R"(C:\A\B.RPT)", ".rpt"},       {"Parte 8 columnas.txt", ".txt"},
-        {"tarjeta/LOG0001.Nbr", ".nbr"}, {".rpt", ".rpt"},
-        {"trabajo.rpt.doc", nullptr},    {"rpt", nullptr},
-        {"trabajo.rpt/", nullptr},       {"", nullptr},
+        {R"(C:\A\B.RPT)", ".rpt"},
+        {"Parte 8 columnas.txt", ".txt"},
+        {"tarjeta/LOG0001.Nbr", ".nbr"},
+        {".rpt", ".rpt"},
+        {"lote.PRE", ".pre"},
+        {"lote.vrt", ".vrt"},
+        {"trabajo.rpt.doc", nullptr},
+        {"rpt", nullptr},
+        {"trabajo.rpt/", nullptr},
+        {"", nullptr},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.path);
@@ -32,11 +38,18 @@ TEST(FileLoading, TheEndingDecides) {
     }
 }
 
+TEST(FileLoading, WhatTheUserChoseIsOfferedToTheReaderOfPrescriptionsLast) {
+    EXPECT_EQ(formatToOpen("parte.txt").ending, ".txt");
+    EXPECT_EQ(formatToOpen("tarjeta/PRESC").ending, ".pre");
+    EXPECT_EQ(formatToOpen("lote.pre.bak").ending, ".pre");
+}
+
 TEST(FileLoading, EveryFormatHasItsFilter) {
     const std::vector<FileFilter> filters = openFilters(Texts(Language::English));
     ASSERT_EQ(filters.size(), fileFormats().size() + 3);
     EXPECT_EQ(filters.front().caption, "Supported files");
-    EXPECT_EQ(filters.front().patterns, (std::vector<std::string>{"*.rpt", "*.txt", "*.nbr", "*.fsp"}));
+    EXPECT_EQ(filters.front().patterns,
+              (std::vector<std::string>{"*.rpt", "*.txt", "*.nbr", "*.vrt", "*.pre", "*.fsp"}));
     EXPECT_EQ(filters[3].caption, "Work logs");
     EXPECT_EQ(filters[3].patterns, std::vector<std::string>{"*.nbr"});
     EXPECT_EQ(filters.back().patterns, std::vector<std::string>{"*"});
