@@ -45,8 +45,7 @@ public:
 private:
     void preview(const std::vector<std::string>& selected);
     /// The files that a path stands for: those of a project, those in a folder, itself.
-    [[nodiscard]] std::vector<std::string> filesOf(const std::string& path,
-                                                   Dialogs& dialogs) const;
+    [[nodiscard]] std::vector<std::string> filesOf(const std::string& path, Dialogs& dialogs) const;
     [[nodiscard]] bool overwriteAgreed(const std::string& target) const;
 
     Session& session_;

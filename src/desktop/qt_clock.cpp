@@ -13,8 +13,7 @@ namespace campora {
 std::uint32_t QtClock::ticks() const {
     using std::chrono::milliseconds;
     const auto sinceStart = std::chrono::steady_clock::now().time_since_epoch();
-    return static_cast<std::uint32_t>(
-        std::chrono::duration_cast<milliseconds>(sinceStart).count());
+    return static_cast<std::uint32_t>(std::chrono::duration_cast<milliseconds>(sinceStart).count());
 }
 
 void QtClock::sleep(std::uint32_t milliseconds) {

@@ -40,9 +40,7 @@ public:
         return {};
     }
     [[nodiscard]] SaveAnswer saveFile(const SaveRequest& /*request*/) override { return {}; }
-    [[nodiscard]] std::string chooseFolder(const FolderRequest& /*request*/) override {
-        return {};
-    }
+    [[nodiscard]] std::string chooseFolder(const FolderRequest& /*request*/) override { return {}; }
     [[nodiscard]] std::optional<Color> chooseColor(Color /*current*/) override {
         return std::nullopt;
     }

@@ -69,7 +69,7 @@ void LoadedFileList::askAboutOlder(File& lessComplete, File& moreComplete, Dialo
     const std::string lessPath = lessComplete.File_diskPath();
     const std::string morePath = moreComplete.File_diskPath();
     if (!dialogs.askYesNo(texts_.format(TextId::OlderCopyOfWork, {lessPath, morePath}),
-                           MessageIcon::Exclamation, texts_(TextId::ProgramName))) {
+                          MessageIcon::Exclamation, texts_(TextId::ProgramName))) {
         return;
     }
     for (const std::string& path : {lessPath, lessComplete.File_resumen().sourcePath}) {
@@ -78,7 +78,7 @@ void LoadedFileList::askAboutOlder(File& lessComplete, File& moreComplete, Dialo
         }
         if (const std::optional<Failure> failure = deleteFile(path)) {
             dialogs.message(texts_.sentence(*failure), MessageIcon::Error,
-                             texts_(TextId::ProgramName));
+                            texts_(TextId::ProgramName));
             return;
         }
     }

@@ -32,9 +32,9 @@ public:
     void setCurrentFile(File* file) { current_ = file; }
 
     /// Takes the file over. Of two files of the same work the more complete one stays, in its
-    /// place, and the user is asked through `dialogs` whether to delete the other from disk. False when the new file
-    /// was not added (it is gone then). The first file of an empty list becomes the current one; a
-    /// file that takes another's place takes its being current too.
+    /// place, and the user is asked through `dialogs` whether to delete the other from disk. False
+    /// when the new file was not added (it is gone then). The first file of an empty list becomes
+    /// the current one; a file that takes another's place takes its being current too.
     bool addFile(std::unique_ptr<File> file, bool atTop, Dialogs& dialogs);
     void removeFile(const File* file);
     void moveUp(const File* file);

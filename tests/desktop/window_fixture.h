@@ -39,8 +39,8 @@ protected:
     void SetUp() override { openWindow(Language::Spanish); }
 
     void openWindow(Language language) {
-        window = std::make_unique<MainWindow>(Desktop{dialogs, settings, locale, clipboard, clock, classes},
-                                              language, folder.path());
+        window = std::make_unique<MainWindow>(
+            Desktop{dialogs, settings, locale, clipboard, clock, classes}, language, folder.path());
         window->start("/opt/campora/campora", {});
         window->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));

@@ -115,8 +115,9 @@ TEST(LoadedFileList, OfTwoCopiesOfAWorkTheMoreCompleteStays) {
         disk.dialogs.yesNoAnswers = {true};
         disk.list.addFile(makeFile(old, "job", row.listed, oldSummary), false, disk.dialogs);
         disk.list.addFile(makeFile("other"), false, disk.dialogs);
-        EXPECT_EQ(disk.list.addFile(makeFile(fresh, "job", row.added, freshSummary), false, disk.dialogs),
-                  row.taken);
+        EXPECT_EQ(
+            disk.list.addFile(makeFile(fresh, "job", row.added, freshSummary), false, disk.dialogs),
+            row.taken);
         EXPECT_THAT(namesOf(disk.list), ElementsAre(row.taken ? fresh : old, "other"));
         EXPECT_EQ(disk.list.currentFile(), &disk.list.file(0));
         for (const std::string& path : {old, oldSummary}) {
@@ -159,7 +160,8 @@ TEST(LoadedFileList, OneFileUnderTwoSpellingsIsNotAskedAbout) {
     ListOnDisk disk;
     const std::string path = disk.written("log1.nbr");
     disk.list.addFile(makeFile(path, "job", 9), false, disk.dialogs);
-    EXPECT_FALSE(disk.list.addFile(makeFile(disk.folder.file("./log1.nbr"), "job", 9), false, disk.dialogs));
+    EXPECT_FALSE(
+        disk.list.addFile(makeFile(disk.folder.file("./log1.nbr"), "job", 9), false, disk.dialogs));
     EXPECT_TRUE(ListOnDisk::isThere(path));
 }
 
@@ -169,8 +171,8 @@ TEST(LoadedFileList, SaysWhyAFileCouldNotBeDeletedAndLeavesItsSummary) {
     const std::string summary = disk.written("folder.txt");
     disk.dialogs.yesNoAnswers = {true};
     disk.list.addFile(makeFile(disk.written("long.nbr"), "job", 9), false, disk.dialogs);
-    EXPECT_FALSE(
-        disk.list.addFile(makeFile(disk.folder.file("folder.nbr"), "job", 5, summary), false, disk.dialogs));
+    EXPECT_FALSE(disk.list.addFile(makeFile(disk.folder.file("folder.nbr"), "job", 5, summary),
+                                   false, disk.dialogs));
     ASSERT_EQ(disk.dialogs.messages.size(), 1U);
     EXPECT_THAT(disk.dialogs.messages.front(), ::testing::HasSubstr("folder.nbr"));
     EXPECT_TRUE(ListOnDisk::isThere(summary));
