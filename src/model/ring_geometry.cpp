@@ -50,8 +50,7 @@ bool pointInRing(std::span<const LonLat> ring, LonLat point) {
         if ((a.y > point.y) == (b.y > point.y)) {
             continue;
         }
-        const double crossingX = a.x + (point.y - a.y) / (b.y - a.y) * (b.x - a.x);
-        if (crossingX > point.x) {
+        if (crossingX(a, b, point.y) > point.x) {
             inside = !inside;
         }
     }

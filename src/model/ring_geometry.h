@@ -14,6 +14,12 @@ namespace campora {
 /// with each vertex's own cosine.
 [[nodiscard]] float polygonArea(std::span<const LonLat> ring);
 
+/// Longitude at which the edge from `a` to `b`, of which one end lies above `y` and the other does
+/// not, meets the parallel of `y`.
+[[nodiscard]] inline double crossingX(LonLat a, LonLat b, double y) {
+    return a.x + (y - a.y) * (b.x - a.x) / (b.y - a.y);
+}
+
 /// Even-odd test with a ray towards increasing x; horizontal edges do not count. `ring` as above.
 [[nodiscard]] bool pointInRing(std::span<const LonLat> ring, LonLat point);
 
