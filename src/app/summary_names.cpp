@@ -42,6 +42,11 @@ constexpr Name kNames[] = {
     {"Lote:", TextId::SummaryField},
     {"Viento:", TextId::SummaryWind},
     {"Operario:", TextId::SummaryOperator},
+    {"Ancho Labor", TextId::SummaryWorkingWidth},
+    {"Cant. de Canales", TextId::SummaryChannels},
+    {"Nombre", TextId::DialogName},
+    {"Descripcion", TextId::SummaryDescription},
+    {"Resolución", TextId::SummaryResolution},
 };
 
 /// Names with the number of a channel in the place %1.
@@ -49,6 +54,8 @@ constexpr Name kChannelNames[] = {
     {"Dosis Prom. (C %1):", TextId::SummaryChannelDose},
     {"Archivo (C %1)", TextId::SummaryChannelFile},
     {"Columna (C %1)", TextId::SummaryChannelColumn},
+    {"Superficie (C %1)", TextId::SummaryChannelArea},
+    {"Producto total (C %1)", TextId::SummaryChannelTotal},
 };
 
 constexpr Name kUnits[] = {
