@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "app/legend.h"
-#include "app/typed_number.h"
+#include "base/typed_number.h"
 
 namespace campora {
 

@@ -9,9 +9,9 @@
 #include <vector>
 
 #include "app/summary_names.h"
-#include "app/typed_number.h"
 #include "base/dates.h"
 #include "base/numbers.h"
+#include "base/typed_number.h"
 
 namespace campora {
 

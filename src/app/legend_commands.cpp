@@ -6,8 +6,8 @@
 #include <cmath>
 
 #include "app/session.h"
-#include "app/typed_number.h"
 #include "base/numbers.h"
+#include "base/typed_number.h"
 
 namespace campora {
 

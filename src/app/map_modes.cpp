@@ -10,9 +10,9 @@
 #include <variant>
 
 #include "app/session.h"
-#include "app/typed_number.h"
 #include "base/numbers.h"
 #include "base/text.h"
+#include "base/typed_number.h"
 #include "model/exportable.h"
 #include "model/work_layer.h"
 #include "work/gph_track.h"

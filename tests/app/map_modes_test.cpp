@@ -14,7 +14,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "app/typed_number.h"
+#include "base/typed_number.h"
 #include "model/exportable.h"
 #include "support/session_desk.h"
 #include "work/gph_track.h"

@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "app/typed_number.h"
+#include "base/typed_number.h"
 
 #include <algorithm>
 #include <charconv>
