@@ -53,7 +53,7 @@ public:
     Session(const Platform& platform, Language language, std::string programFolder);
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
-    ~Session();
+    ~Session() = default;
 
     /// Start-up: colours and switches from the settings, the registrations, the empty map.
     void start();
@@ -148,7 +148,18 @@ public:
     void redraw() { view_.refrescar("-1"); }
 
 private:
-    struct SavedMap;
+    /// What is put away during a preview.
+    struct SavedMap {
+        std::string title;
+        ValueRanges ranges;
+        LoadedFileList::Saved files;
+        BoundingBox totalBound;
+        std::optional<bool> hasFlowStops;
+        bool graduated = true;
+        std::string lastTrackFile;
+        ColorScale::Content scale;
+        MapView::Place place;
+    };
 
     [[nodiscard]] std::vector<File*> openFiles() const;
     /// Reads a file and adds it; neither list nor legend are shown anew yet.
@@ -178,8 +189,7 @@ private:
     CoordType coordType_ = CoordType::Degrees;
     std::string title_;
     std::string lastTrackFile_;
-    /// What is put away during a preview.
-    std::unique_ptr<SavedMap> saved_;
+    std::optional<SavedMap> saved_;
     ColorScale::Subscription scaleChanges_;
     LegendCommands legend_{*this};
     /// Whether a track file with a step without flow has been opened; none without track files.

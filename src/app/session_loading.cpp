@@ -1,0 +1,223 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+// How files come into a session, and how they are put away and brought back.
+
+#include <algorithm>
+#include <cstddef>
+#include <utility>
+
+#include "app/session.h"
+#include "base/paths.h"
+#include "platform/quiet_dialogs.h"
+
+namespace campora {
+
+namespace {
+
+/// Readers start from what is loaded; a scale that begins below 0 would waste classes.
+void raiseToZero(std::optional<ValueRange<float>>& range) {
+    if (range) {
+        range->least = std::max(range->least, 0.0F);
+    }
+}
+
+/// A file without points has no box, and takes no part in the extent of the map.
+void grow(BoundingBox& bound, const BoundingBox& other) {
+    if (other.isSet) {
+        bound.addBoundingBox(other);
+    }
+}
+
+}  // namespace
+
+bool Session::addFile(std::unique_ptr<File> file, bool updateView, bool atTop) {
+    return addToMap(std::move(file), updateView, atTop, platform_.dialogs);
+}
+
+bool Session::addToMap(std::unique_ptr<File> file, bool updateView, bool atTop, Dialogs& dialogs) {
+    if (!file) {
+        return false;
+    }
+    const BoundingBox bound = file->File_bound();
+    if (!files_.addFile(std::move(file), atTop, dialogs)) {
+        return false;
+    }
+    if (updateView) {
+        if (files_.loadedCount() == 1) {
+            view_.totalBound.clear();
+        }
+        grow(view_.totalBound, bound);
+        view_.fitView();
+    }
+    return true;
+}
+
+bool Session::recalcGphBound() {
+    BoundingBox bound;
+    for (const File* file : openFiles()) {
+        grow(bound, file->File_bound());
+    }
+    if (bound.equals(view_.totalBound)) {
+        return false;
+    }
+    view_.totalBound = bound;
+    view_.fitView();
+    return true;
+}
+
+bool Session::loadFile(std::string_view path, bool resetFirst, bool zoomAll) {
+    if (!takeFile(path, resetFirst, platform_.dialogs)) {
+        return false;
+    }
+    afterLoading(zoomAll);
+    return true;
+}
+
+bool Session::loadQuietly(std::string_view path) {
+    QuietDialogs quiet;
+    if (!takeFile(path, false, quiet)) {
+        return false;
+    }
+    afterLoading(false);
+    return true;
+}
+
+bool Session::takeFile(std::string_view path, bool resetFirst, Dialogs& dialogs) {
+    const std::string found = findIgnoringCase(path);
+    if (!resetFirst && files_.isLoaded(found)) {
+        return false;
+    }
+    return takeWork(found, formatToOpen(found), resetFirst, dialogs);
+}
+
+bool Session::takeWork(std::string_view path, const FileFormat& format, bool resetFirst,
+                       Dialogs& dialogs) {
+    const ValueRanges loaded = resetFirst || files_.empty() ? ValueRanges{} : ranges_;
+    const OpenContext context{{dialogs, platform_.locale, texts_, registrations_, loaded},
+                              style_.colors};
+    std::optional<OpenedFile> work = format.read(path, context);
+    if (!work) {
+        return false;
+    }
+    if (resetFirst) {
+        reset();  // only now: a file that is refused must not cost the open ones
+    }
+    if (files_.empty()) {
+        hasFlowStops_.reset();
+    }
+    if (!addToMap(std::move(work->file), true, false, dialogs)) {
+        return false;
+    }
+    if (format.fromLogger) {
+        lastTrackFile_ = path;
+    }
+    ranges_ = work->ranges;
+    style_.graduated = style_.graduated || format.graduates;
+    if (work->kind) {
+        lastKind_ = work->kind;
+    }
+    if (work->hasFlowStops) {
+        hasFlowStops_ = hasFlowStops_.value_or(false) || *work->hasFlowStops;
+    }
+    return true;
+}
+
+void Session::afterLoading(bool zoomAll) {
+    raiseToZero(ranges_.flow);
+    raiseToZero(ranges_.litres);
+    raiseToZero(ranges_.dose);
+    refreshColorScale();
+    if (style_.mode == ColorMode::Error) {
+        recalcErrorAreas();
+    }
+    if (zoomAll) {
+        view_.ZoomUno();
+    }
+    platform_.window.active(true, true);
+    replay_.prepareReplay();
+    loadFileList(true);
+    showCurrentFile();
+    showFlowStops();
+    platform_.window.commandsChanged();
+}
+
+std::vector<std::string> Session::loadFiles(const std::vector<std::string>& paths,
+                                            bool resetFirst) {
+    std::vector<std::string> taken;
+    const auto progress = platform_.dialogs.progress(texts_(TextId::OpeningFiles));
+    for (std::size_t i = 0; i < paths.size(); ++i) {
+        if (i > 0 && !progress->report(static_cast<int>(100 * i / paths.size()))) {
+            break;
+        }
+        if (takeFile(paths[i], resetFirst && taken.empty(), platform_.dialogs)) {
+            taken.push_back(paths[i]);
+        }
+    }
+    if (!taken.empty()) {
+        afterLoading(true);
+    }
+    return taken;
+}
+
+void Session::reloadFiles() {
+    if (files_.empty()) {
+        return;
+    }
+    const MapView::Place place = view_.place();
+    const BoundingBox bound = view_.totalBound;
+    const std::optional<int> current = files_.indexOf(files_.currentFile());
+    LoadedFileList::Saved old = files_.takeAll();
+    view_.totalBound = {};
+    ranges_ = {};
+    for (std::unique_ptr<File>& file : old.files) {
+        if (!takeFile(file->File_diskPath(), false, platform_.dialogs)) {
+            addFile(std::move(file), true, false);
+        }
+    }
+    if (current && *current < files_.loadedCount()) {
+        files_.setCurrentFile(&files_.file(*current));
+    }
+    const bool sameExtent = bound.equals(view_.totalBound);
+    afterLoading(!sameExtent);
+    if (sameExtent) {
+        view_.goBackTo(place);
+    }
+}
+
+void Session::plotPreview(bool save, bool zoomAll) {
+    if (save == saved_.has_value()) {
+        return;  // put away already, or nothing to bring back
+    }
+    if (save) {
+        saved_.emplace(SavedMap{title_, ranges_, files_.takeAll(), view_.totalBound, hasFlowStops_,
+                                style_.graduated, lastTrackFile_, defaultScale_.content(),
+                                view_.place()});
+        view_.totalBound = {};
+        return;
+    }
+    SavedMap saved = std::move(*saved_);
+    saved_.reset();
+    files_.putBack(std::move(saved.files));
+    style_.graduated = saved.graduated;
+    lastTrackFile_ = std::move(saved.lastTrackFile);
+    if (files_.empty()) {
+        reset();
+        return;
+    }
+    ranges_ = saved.ranges;
+    hasFlowStops_ = saved.hasFlowStops;
+    view_.totalBound = saved.totalBound;
+    view_.fitView();
+    afterLoading(zoomAll);
+    loading_ = true;
+    defaultScale_.setContent(std::move(saved.scale));  // with the classes that the user had made
+    loading_ = false;
+    showLegend();
+    if (!zoomAll) {
+        view_.goBackTo(saved.place);
+    }
+    showTitle(saved.title);
+}
+
+}  // namespace campora
