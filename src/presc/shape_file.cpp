@@ -194,7 +194,7 @@ bool ShapeFile::takeIndex(std::span<const std::byte> index) {
         rest -= *size + kRecordHeader;
         offsets_.push_back(static_cast<std::uint32_t>(frame.offset));
     }
-    return true;
+    return !offsets_.empty();  // one without entries may have been left behind unfinished
 }
 
 void ShapeFile::walk() {

@@ -154,6 +154,7 @@ TEST(ShapeFile, TakesASoundIndexAndDoesWithoutAnyOther) {
         {"another code", broken(0, 9995)},
         {"cut short", reversed.substr(0, 110)},
         {"a header alone, cut", reversed.substr(0, 60)},
+        {"without entries", ShapeBytes(5).index()},
         {"a length that lies", broken(24, 54)},
         {"an offset into the header", broken(100, 10)},
         {"an offset beyond the end", broken(100, 100'000)},
