@@ -95,7 +95,8 @@ void distribute(std::vector<R2TreeEntry>& entries, R2TreeNode& a, R2TreeNode& b)
             return;
         }
         R2TreeEntry next = taken(entries, pickNext(entries, a, b));
-        preferredNode(next.rectangle(), a, b).AddEntry(std::move(next));
+        R2TreeNode& node = preferredNode(next.rectangle(), a, b);
+        node.AddEntry(std::move(next));
     }
 }
 
@@ -243,7 +244,7 @@ std::unique_ptr<R2TreeNode> R2Tree::adjustTree(R2TreeNode& start,
         node->ParentEntry()->setRectangle(node->rectangle());
         parent.setRectangle(covering(parent.rectangle(), node->rectangle()));
         if (sibling) {
-            R2TreeEntry entry = entryOf(std::move(sibling));
+            R2TreeEntry entry = entryOf(std::exchange(sibling, nullptr));
             if (parent.Entries.size() < MaxNodeEntries) {
                 parent.AddEntry(std::move(entry));
             } else {

@@ -144,7 +144,7 @@ private:
     /// Splits what `node` holds and `extra` between `node` and a new node, which it hands back.
     [[nodiscard]] std::unique_ptr<R2TreeNode> splitNode(R2TreeNode& node, R2TreeEntry extra);
     /// From `node` up to the root; hands back the root's new sibling when the root was split.
-    [[nodiscard]] std::unique_ptr<R2TreeNode> adjustTree(R2TreeNode& node,
+    [[nodiscard]] std::unique_ptr<R2TreeNode> adjustTree(R2TreeNode& start,
                                                          std::unique_ptr<R2TreeNode> sibling);
     void growRoot(std::unique_ptr<R2TreeNode> sibling);
     void collectLeaves(const R2TreeNode& node, const Rectangle& window,
