@@ -1,0 +1,273 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "presc/generation.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <deque>
+#include <filesystem>
+#include <limits>
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "base/files.h"
+#include "presc/pre_file.h"
+#include "presc/vrt_file.h"
+#include "support/scripted_platform.h"
+#include "support/temp_folder.h"
+#include "support/zone_layers.h"
+
+namespace campora {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+constexpr double kDegree = 111320;
+
+/// A field at the equator, so that a degree is equally long both ways, of this size in metres and a
+/// millimetre more.
+std::vector<LonLat> field(double widthM, double heightM) {
+    return rectangleRing(10, 0, 10 + (widthM + 0.001) / kDegree, (heightM + 0.001) / kDegree);
+}
+
+/// Makes prescriptions in a folder of its own.
+struct Desk {
+    TempFolder folder;
+    ScriptedDialogs dialogs;
+    FixedLocale locale;
+    Texts texts;
+    std::string prePath = folder.file("lote.pre");
+    std::string vrtPath = folder.file("lote.vrt");
+
+    bool pre(const std::vector<ZoneLayer>& layers, int cellSize = 20) {
+        return generatePRE(prePath, cellSize, channels(layers), {dialogs, texts, locale});
+    }
+    bool vrt(const std::vector<ZoneLayer>& layers, float resolution = 20) {
+        return generateVRT(vrtPath, resolution, {"Norte", ""}, channels(layers),
+                           {dialogs, texts, locale});
+    }
+    [[nodiscard]] PreFile readPre() const {
+        const Result<FileBytes> file = readFile(prePath);
+        return file ? decodePre(file->bytes()) : PreFile();
+    }
+    [[nodiscard]] VrtFile readVrt() const {
+        const Result<FileBytes> file = readFile(vrtPath);
+        return file ? decodeVrt(file->bytes()) : VrtFile();
+    }
+    [[nodiscard]] std::vector<std::string> files() const {
+        std::vector<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(folder.path())) {
+            names.push_back(entry.path().filename().string());
+        }
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+
+private:
+    static std::vector<ChannelZones> channels(const std::vector<ZoneLayer>& layers) {
+        std::vector<ChannelZones> all;
+        for (const ZoneLayer& layer : layers) {
+            all.push_back(layer.channel());
+        }
+        return all;
+    }
+};
+
+ZoneLayer oneZone(float dose, double widthM = 1000, double heightM = 500) {
+    ZoneLayer layer;
+    layer.add(dose, {field(widthM, heightM)});
+    return layer;
+}
+
+TEST(Generation, AGridHasAMarginOfTwoCellsAndADoseWhereAZoneIs) {
+    Desk desk;
+    desk.dialogs.inputAnswers = {""};
+    ASSERT_TRUE(desk.pre({oneZone(85)}));
+    const PreFile file = desk.readPre();
+    EXPECT_EQ(file.header.columns, 54);
+    EXPECT_EQ(file.header.rows, 29);
+    EXPECT_EQ(file.header.cellSize, 20);
+    EXPECT_EQ(file.header.metresPerMinuteOfLatitude, 1855);
+    EXPECT_EQ(file.header.metresPerMinuteOfLongitude, 1855);
+    EXPECT_EQ(std::count(file.doses.begin(), file.doses.end(), 85), 50 * 25);
+    EXPECT_EQ(file.doses.at(2 * 54 + 2), 85) << "the north-west corner of the field";
+    EXPECT_EQ(file.doses.at(2 * 54 + 1), 0);
+    EXPECT_THAT(desk.files(), ElementsAre("lote.pre", "lote.rpt"));
+    EXPECT_EQ(std::filesystem::file_size(desk.folder.file("lote.rpt")), 54U * 29 * 32 - 2);
+    EXPECT_THAT(desk.dialogs.messages,
+                ElementsAre("Information|Campora|Se guardó " + desk.prePath +
+                            ": 1566 celdas, 62.64 ha\n"
+                            "Canal 1: 1250 celdas con dosis, 50 ha, 4250 de producto"));
+}
+
+TEST(Generation, EveryChannelHasItsFallbackDose) {
+    Desk desk;
+    desk.dialogs.inputAnswers = {"33", "", "-1,5"};
+    ZoneLayer layer = oneZone(12.5F);
+    layer.meanDose = 71.9F;
+    ASSERT_TRUE(desk.pre({layer, oneZone(13.5F), oneZone(1)}));
+    EXPECT_THAT(desk.dialogs.inputs,
+                ElementsAre("2150|Campora|71", "2151|Campora|0", "2152|Campora|0"));
+    const PreFile file = desk.readPre();
+    EXPECT_EQ(file.header.channels, 3);
+    ASSERT_EQ(file.doses.size(), 54U * 29 * 3);
+    EXPECT_THAT(std::vector(file.doses.begin(), file.doses.begin() + 3), ElementsAre(33, 0, -2));
+    const auto inside = file.doses.begin() + (2 * 54 + 2) * 3;
+    EXPECT_THAT(std::vector(inside, inside + 3), ElementsAre(12, 14, 1)) << "halves to even";
+}
+
+TEST(Generation, AVrtGoesNorthInHundredthsWithoutQuestions) {
+    Desk desk;
+    ZoneLayer layer = oneZone(12.34F);
+    layer.add(7, {field(20, 20)});
+    ASSERT_TRUE(desk.vrt({layer}));
+    const VrtFile file = desk.readVrt();
+    EXPECT_EQ(file.header.columns, 54);
+    EXPECT_EQ(file.header.rows, 29);
+    EXPECT_EQ(file.header.name, "Norte");
+    EXPECT_EQ(file.header.x0, static_cast<float>(10 - 40 / kDegree));
+    EXPECT_EQ(file.header.y0, static_cast<float>(-40 / kDegree));
+    EXPECT_EQ(file.doses.at(0), 0);
+    EXPECT_EQ(file.doses.at(2 * 54 + 2), 700) << "the south-west corner, laid last";
+    EXPECT_EQ(file.doses.at(2 * 54 + 3), 1234);
+    EXPECT_THAT(desk.dialogs.inputs, IsEmpty());
+    EXPECT_THAT(desk.files(), ElementsAre("lote.vrt"));
+}
+
+TEST(Generation, AGridTooLargeForConsolesIsAskedAbout) {
+    struct Row {
+        const char* name;
+        std::deque<Answer> answers;
+        std::deque<std::string> inputs;  ///< after the fallback dose
+        bool written;
+        int columns;
+        const char* names;
+        const char* proposes;
+    };
+    const Row rows[] = {
+        {"keep it", {Answer::No}, {}, true, 1004, "menor a 4\n", nullptr},
+        {"leave it", {Answer::Cancel}, {}, false, 0, "menor a 4\n", nullptr},
+        {"as proposed", {Answer::Yes, Answer::Yes}, {"4", "5"}, true, 404, "menor a 5\n", "5"},
+        {"wider", {Answer::Yes}, {"10"}, true, 204, "menor a 4\n", "4"},
+        {"no answer, then keep it",
+         {Answer::Yes, Answer::No},
+         {""},
+         true,
+         1004,
+         "menor a 4\n",
+         "4"},
+        {"no number", {Answer::Yes}, {"ancho"}, false, 0, "menor a 4\n", "4"},
+        {"nothing wide", {Answer::Yes}, {"0"}, false, 0, "menor a 4\n", "4"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        Desk desk;
+        desk.dialogs.answers = row.answers;
+        desk.dialogs.inputAnswers = row.inputs;
+        desk.dialogs.inputAnswers.push_front("0");
+        EXPECT_EQ(desk.pre({oneZone(5, 2000, 400)}, 2), row.written);
+        EXPECT_EQ(desk.readPre().header.columns, row.columns);
+        ASSERT_EQ(desk.dialogs.questions.size(), row.answers.size());
+        EXPECT_THAT(desk.dialogs.questions.back(), HasSubstr(row.names));
+        if (row.proposes != nullptr) {
+            EXPECT_EQ(desk.dialogs.inputs.back(), std::string("192|Campora|") + row.proposes);
+        }
+    }
+}
+
+TEST(Generation, AVrtTooLargeIsAskedAboutInItsOwnWords) {
+    Desk desk;
+    desk.dialogs.answers = {Answer::Yes};
+    desk.dialogs.inputAnswers = {"8.5"};
+    ASSERT_TRUE(desk.vrt({oneZone(5, 2000, 400)}, 7.5F));
+    EXPECT_THAT(desk.dialogs.questions, ElementsAre(HasSubstr("mayor a 8\n")));
+    EXPECT_EQ(desk.readVrt().header.resolution, 8.5F);
+}
+
+TEST(Generation, WhatNoFileCanHoldIsRefusedBeforeAnythingIsWritten) {
+    const float huge = std::numeric_limits<float>::infinity();
+    struct Row {
+        const char* name;
+        ZoneLayer layer;
+        double size;
+        bool vrt;
+        const char* says;
+    };
+    ZoneLayer far = oneZone(1);
+    far.add(32768, {rectangleRing(11, 0, 11, 0)});
+    ZoneLayer pole;
+    pole.add(1, {rectangleRing(10, 89, 11, 90)});
+    const Row rows[] = {
+        {"above 16 bits", oneZone(32767.5F), 20, false,
+         "la dosis 32767.5 de la zona 1 del canal 1"},
+        {"below 16 bits", oneZone(-32769), 20, false, "debe ser de -32768 a 32767"},
+        {"in a zone that no cell meets", far, 20, false, "la dosis 32768 de la zona 2"},
+        {"endless", oneZone(huge), 20, false, "la dosis 3402823"},
+        {"above hundredths", oneZone(327.68F), 20, true, "debe ser de -327.68 a 327.67"},
+        {"no zones", ZoneLayer(), 20, false, "no tiene ningún polígono"},
+        {"no width", oneZone(1), 0, false, "mayor que 0 y hasta 32767 metros: 0"},
+        {"negative", oneZone(1), -5, true, "mayor que 0 y hasta 32767 metros: -5"},
+        {"the pole", pole, 20, false, "el mapa llega hasta el polo"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        Desk desk;
+        EXPECT_FALSE(row.vrt ? desk.vrt({row.layer}, static_cast<float>(row.size))
+                             : desk.pre({row.layer}, static_cast<int>(row.size)));
+        EXPECT_THAT(desk.dialogs.messages, ElementsAre(HasSubstr(row.says)));
+        EXPECT_THAT(desk.dialogs.messages.front(), HasSubstr(row.vrt ? "lote.vrt" : "lote.pre"));
+        EXPECT_THAT(desk.files(), IsEmpty());
+    }
+    Desk fits;
+    fits.dialogs.inputAnswers = {""};
+    EXPECT_TRUE(fits.pre({oneZone(32767.4F)})) << "judged after rounding";
+}
+
+TEST(Generation, AGridBeyondTheFieldsOfTheFileIsRefused) {
+    Desk desk;
+    desk.dialogs.inputAnswers = {""};
+    desk.dialogs.answers = {Answer::No};
+    EXPECT_FALSE(desk.pre({oneZone(1, 33000, 100)}, 1));
+    EXPECT_THAT(desk.dialogs.messages, ElementsAre(HasSubstr("33004 columnas y 104 filas")));
+    EXPECT_THAT(desk.files(), IsEmpty());
+}
+
+TEST(Generation, AnEarlierPrescriptionOutlivesWhatFails) {
+    for (const int cancelAfter : {0, 1, 2, 3}) {
+        SCOPED_TRACE(cancelAfter);
+        Desk desk;
+        desk.folder.write("lote.pre", "earlier");
+        desk.dialogs.inputAnswers = {""};
+        desk.dialogs.cancelAfter = cancelAfter;
+        EXPECT_EQ(desk.pre({oneZone(1)}), cancelAfter > 2);
+        EXPECT_EQ(readFile(desk.prePath)->text() == "earlier", cancelAfter <= 2);
+        EXPECT_EQ(desk.files().size(), cancelAfter > 2 ? 2U : 1U);
+    }
+    Desk blocked;
+    blocked.folder.write("lote.pre", "earlier");
+    blocked.folder.write("lote.rpt/in the way", "");  // the companion's name is taken by a folder
+    blocked.dialogs.inputAnswers = {""};
+    EXPECT_FALSE(blocked.pre({oneZone(1)}));
+    EXPECT_THAT(blocked.dialogs.messages, ElementsAre(HasSubstr("lote.rpt")));
+    EXPECT_EQ(readFile(blocked.prePath)->text(), "earlier");
+}
+
+TEST(Generation, AFallbackThatIsNoDoseIsRefused) {
+    for (const char* const answer : {"mucho", "40000", "1e3"}) {
+        SCOPED_TRACE(answer);
+        Desk desk;
+        desk.dialogs.inputAnswers = {answer};
+        EXPECT_FALSE(desk.pre({oneZone(1)}));
+        EXPECT_THAT(desk.dialogs.messages, ElementsAre(HasSubstr(answer)));
+        EXPECT_THAT(desk.files(), IsEmpty());
+    }
+}
+
+}  // namespace
+}  // namespace campora
