@@ -109,7 +109,7 @@ void DoseColumns::chooseColumn(int row, int column) {
 }
 
 std::string DoseColumns::caption(int row) const {
-    return session_.texts().format(TextId::DosesChannel, {numberText(row + 1)});
+    return session_.texts().format(TextId::ReportPointChannel, {numberText(row + 1)}) + ":";
 }
 
 std::string DoseColumns::doseLabel(int row) const {

@@ -17,6 +17,7 @@
 #include "base/paths.h"
 #include "base/text.h"
 #include "platform/quiet_dialogs.h"
+#include "presc/shape_reader.h"
 #include "work/companion_names.h"
 
 namespace campora {
@@ -62,6 +63,7 @@ void FileCommands::fileOpen() {
     const std::vector<std::string> paths = platform.dialogs.openFiles(request);
     if (previewing_) {
         previewing_ = false;
+        platform.window.setToolText({});
         session_.plotPreview(false, false);
     }
     if (!paths.empty()) {
@@ -83,6 +85,13 @@ void FileCommands::preview(const std::vector<std::string>& selected) {
         }
     }
     session_.view().ZoomUno();
+    showShapeKind(selected);
+}
+
+void FileCommands::showShapeKind(const std::vector<std::string>& selected) {
+    const std::optional<TextId> kind =
+        selected.size() == 1 ? readShapeKind(selected.front()) : std::nullopt;
+    session_.platform().window.setToolText(kind ? session_.texts()(*kind) : "");
 }
 
 std::vector<std::string> FileCommands::filesOf(const std::string& path, Dialogs& dialogs) const {

@@ -44,6 +44,8 @@ public:
 
 private:
     void preview(const std::vector<std::string>& selected);
+    /// What a shapefile selected alone holds, in the status bar.
+    void showShapeKind(const std::vector<std::string>& selected);
     /// The files that a path stands for: those of a project, those in a folder, itself.
     [[nodiscard]] std::vector<std::string> filesOf(const std::string& path, Dialogs& dialogs) const;
     [[nodiscard]] bool overwriteAgreed(const std::string& target) const;

@@ -8,7 +8,9 @@
 #include <string>
 #include <utility>
 
+#include "base/files.h"
 #include "base/paths.h"
+#include "presc/gph_presc.h"
 #include "presc/load_grid.h"
 
 namespace campora {
@@ -35,10 +37,25 @@ std::optional<OpenedFile> openGrid(std::string_view path, const OpenContext& con
     return OpenedFile{std::move(grid), context.ranges, std::nullopt, std::nullopt};
 }
 
+std::optional<OpenedFile> openZones(std::string_view path, const OpenContext& context) {
+    if (!canOpen(path)) {
+        const Result<FileBytes> file = readFile(path);
+        context.dialogs.message(file ? "" : context.texts.sentence(file.failure()),
+                                MessageIcon::Error, context.texts(TextId::WrongFileFormat));
+        return std::nullopt;
+    }
+    auto zones = std::make_unique<GphPresc>(context.colors.shape);
+    if (!zones->loadFromFile(path, context.dialogs, context.texts)) {
+        return std::nullopt;
+    }
+    return OpenedFile{std::move(zones), context.ranges, std::nullopt, std::nullopt};
+}
+
 constexpr FileFormat kFormats[] = {
     {".rpt", TextId::FilterReports, true, false, openWork<loadRptFile>},
     {".txt", TextId::FilterTextTables, true, false, openWork<loadRptTextTable>},
     {".nbr", TextId::FilterTrackFiles, false, true, openWork<loadTrackFile>},
+    {".shp", TextId::FilterShapes, false, false, openZones},
     {".vrt", TextId::FilterPrescriptions, false, false, openGrid},
     // The last: files without an ending of the table are offered to its reader.
     {".pre", TextId::FilterPrescriptions, false, false, openGrid},

@@ -48,7 +48,7 @@ struct CellText {
 
 }  // namespace
 
-GphPresc::GphPresc() {
+GphPresc::GphPresc(Color plain) : plain_(plain) {
     scale_.allowClassEdit = false;
     scale_.allowValueChange = true;
     scale_.valueChangeCaption = TextId::ChangeDose;
@@ -126,6 +126,7 @@ void GphPresc::collectDoses(std::int32_t parts) {
 }
 
 void GphPresc::addPolygon(GphPolygonMulti polygon) {
+    polygon.color = plain_;
     const BoundingBox& box = polygon.Gph_bound();
     if (box.isSet) {
         bound_.addBoundingBox(box);

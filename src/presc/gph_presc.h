@@ -27,7 +27,8 @@ class GphPresc final : public Gph, public File {
 public:
     static constexpr int kNoColumn = -1;
 
-    GphPresc();
+    /// `plain`: fill of the zones while no column is chosen.
+    explicit GphPresc(Color plain = MapColors().shape);
     GphPresc(const GphPresc&) = delete;
     GphPresc& operator=(const GphPresc&) = delete;
     ~GphPresc() override = default;
@@ -116,6 +117,7 @@ private:
     void report(std::int64_t done, std::int64_t all) const;
     [[nodiscard]] const SetList* setOf(int column) const;
 
+    Color plain_;
     std::string name_;
     std::string path_;
     std::vector<std::string> columnNames_;

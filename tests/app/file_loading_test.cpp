@@ -48,8 +48,9 @@ TEST(FileLoading, EveryFormatHasItsFilter) {
     const std::vector<FileFilter> filters = openFilters(Texts(Language::English));
     ASSERT_EQ(filters.size(), fileFormats().size() + 3);
     EXPECT_EQ(filters.front().caption, "Supported files");
-    EXPECT_EQ(filters.front().patterns,
-              (std::vector<std::string>{"*.rpt", "*.txt", "*.nbr", "*.vrt", "*.pre", "*.fsp"}));
+    EXPECT_EQ(
+        filters.front().patterns,
+        (std::vector<std::string>{"*.rpt", "*.txt", "*.nbr", "*.shp", "*.vrt", "*.pre", "*.fsp"}));
     EXPECT_EQ(filters[3].caption, "Work logs");
     EXPECT_EQ(filters[3].patterns, std::vector<std::string>{"*.nbr"});
     EXPECT_EQ(filters.back().patterns, std::vector<std::string>{"*"});
