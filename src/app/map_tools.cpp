@@ -28,6 +28,7 @@ PointerShape pointerOf(MapTools::Tool tool) {
         return PointerShape::ZoomSelect;
     case MapTools::Tool::Ruler:
     case MapTools::Tool::Info:
+    case MapTools::Tool::PrescDosis:
         return PointerShape::Crosshair;
     }
     return PointerShape::Arrow;
@@ -114,6 +115,9 @@ void MapTools::press(Button button, CanvasPoint at) {
     case Tool::Info:
         drag_ = Drag::Info;
         return;
+    case Tool::PrescDosis:
+        drag_ = Drag::Dose;
+        return;
     }
     showOverlay();
 }
@@ -126,6 +130,7 @@ void MapTools::move(CanvasPoint to) {
     switch (drag_) {
     case Drag::None:
     case Drag::Info:
+    case Drag::Dose:
         break;
     case Drag::Pan:
         panTo(to);
@@ -171,6 +176,11 @@ void MapTools::release(Button button, CanvasPoint at) {
         break;
     case Drag::Info:
         finishInfo(at);
+        break;
+    case Drag::Dose:
+        if (onDose) {
+            onDose(positionAt(view_.transform(), at));
+        }
         break;
     }
 }

@@ -25,7 +25,7 @@ namespace campora {
 class MapTools {
 public:
     /// Without a tool the mouse pans.
-    enum class Tool { None, ZoomSelect, Ruler, Info };
+    enum class Tool { None, ZoomSelect, Ruler, Info, PrescDosis };
     enum class Button { Left, Middle, Right };
     /// Called with the file whose information is shown.
     using ChooseFile = std::function<void(File*)>;
@@ -37,6 +37,8 @@ public:
 
     /// A click of the left button without a tool and without dragging; may be empty.
     std::function<void(CanvasPoint)> onClick;
+    /// A click with the dose tool, at this position; may be empty.
+    std::function<void(LonLat)> onDose;
 
     [[nodiscard]] Tool tool() const { return tool_; }
     /// Takes up a tool in place of another. Tools other than None need an open file.
@@ -72,7 +74,7 @@ public:
 
 private:
     /// What the pressed button does.
-    enum class Drag { None, Pan, Zoom, Ruler, Info };
+    enum class Drag { None, Pan, Zoom, Ruler, Info, Dose };
     struct Hit {
         File* file;
         std::string text;

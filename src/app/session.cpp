@@ -52,6 +52,7 @@ Session::Session(const Platform& platform, Language language, std::string progra
           platform.canvas, platform.window, platform.clock, view_, style_, texts_, platform.locale,
           [this] { return getGphList(); }, [this] { tools_.hideInfo(); }) {
     style_.scale = &defaultScale_;
+    tools_.onDose = [this](LonLat position) { prescription_.changeDose(position); };
 }
 
 void Session::start() {
@@ -227,6 +228,7 @@ void Session::showLegend() {
     scaleChanges_ = scale.onChanged([this] {
         if (!loading_) {
             showLegend();
+            showSummary();  // a prescription's follows its doses
             redraw();
         }
     });

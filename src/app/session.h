@@ -15,6 +15,7 @@
 #include "app/map_modes.h"
 #include "app/map_tools.h"
 #include "app/map_view.h"
+#include "app/presc_commands.h"
 #include "app/replay.h"
 #include "base/texts.h"
 #include "colour/color_scale.h"
@@ -63,6 +64,8 @@ public:
     [[nodiscard]] const FileCommands& fileCommands() const { return fileCommands_; }
     [[nodiscard]] MapModes& modes() { return modes_; }
     [[nodiscard]] const MapModes& modes() const { return modes_; }
+    [[nodiscard]] PrescCommands& prescription() { return prescription_; }
+    [[nodiscard]] const PrescCommands& prescription() const { return prescription_; }
     [[nodiscard]] MapTools& tools() { return tools_; }
     [[nodiscard]] const MapTools& tools() const { return tools_; }
     [[nodiscard]] Replay& replay() { return replay_; }
@@ -97,6 +100,8 @@ public:
     [[nodiscard]] int plotCount() const { return files_.loadedCount(); }
     /// False when the duplicate rule kept the file out.
     bool addFile(std::unique_ptr<File> file, bool updateView, bool atTop);
+    /// Adds a file that was made here as the first and current one, and shows the whole map.
+    void showOnTop(std::unique_ptr<File> file);
     /// Collects the boxes of the open files anew and fits the view; false when nothing changed.
     bool recalcGphBound();
     void removeFile(const File* file);
@@ -186,6 +191,7 @@ private:
     Replay replay_;
     MapModes modes_{*this};
     FileCommands fileCommands_{*this};
+    PrescCommands prescription_{*this};
     CoordType coordType_ = CoordType::Degrees;
     std::string title_;
     std::string lastTrackFile_;

@@ -53,6 +53,14 @@ bool Session::addToMap(std::unique_ptr<File> file, bool updateView, bool atTop, 
     return true;
 }
 
+void Session::showOnTop(std::unique_ptr<File> file) {
+    File* const made = file.get();
+    if (addFile(std::move(file), true, true)) {
+        files_.setCurrentFile(made);
+        afterLoading(true);
+    }
+}
+
 bool Session::recalcGphBound() {
     BoundingBox bound;
     for (const File* file : openFiles()) {
@@ -171,7 +179,9 @@ void Session::reloadFiles() {
     view_.totalBound = {};
     ranges_ = {};
     for (std::unique_ptr<File>& file : old.files) {
-        if (!takeFile(file->File_diskPath(), false, platform_.dialogs)) {
+        const std::string path = file->File_diskPath();
+        // What was made here and is on no disk stays as it is.
+        if (path.empty() || !takeFile(path, false, platform_.dialogs)) {
             addFile(std::move(file), true, false);
         }
     }

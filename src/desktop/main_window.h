@@ -68,6 +68,8 @@ public:
     void editSummary();
     void copyImage();
     void goToCoordinate();
+    void savePrescription();
+    void saveVrt();
     void useTool(MapTools::Tool tool);
     void toggleSidePanel();
     [[nodiscard]] bool sidePanelShown() const;

@@ -10,12 +10,14 @@
 
 #include "base/paths.h"
 #include "desktop/coord_dialog.h"
+#include "desktop/dose_column_dialog.h"
 #include "desktop/main_window.h"
 #include "desktop/map_area.h"
 #include "desktop/map_widget.h"
 #include "desktop/pointer_override.h"
 #include "desktop/property_editor.h"
 #include "desktop/qt_text.h"
+#include "desktop/select_dose_dialog.h"
 #include "desktop/side_panel.h"
 #include "desktop/summary_editor_dialog.h"
 #include "desktop/work_orders_dialog.h"
@@ -85,6 +87,16 @@ void MainWindow::goToCoordinate() {
     }
 }
 
+void MainWindow::savePrescription() {
+    const PointerOverride busy(Qt::WaitCursor);
+    session_->prescription().mnuFileSavePrescript();
+}
+
+void MainWindow::saveVrt() {
+    const PointerOverride busy(Qt::WaitCursor);
+    session_->prescription().mnuFileSaveVrt();
+}
+
 void MainWindow::useTool(MapTools::Tool tool) {
     session_->tools().toggleTool(tool);
     mapArea_->map().setFocus();
@@ -115,6 +127,12 @@ void MainWindow::mnuHelpLangPort() {
 }
 
 void MainWindow::connectMenus() {
+    session_->prescription().chooseChannels = [this] {
+        return DoseColumnDialog(*session_, this).choose();
+    };
+    session_->prescription().askDose = [this](const ColorScale& scale, float current) {
+        return SelectDoseDialog(&scale, current, *session_, this).getDosis();
+    };
     connect(&actions_->menu(MenuId::Recent), &QMenu::aboutToShow, this,
             &MainWindow::fillRecentMenu);
     connect(&actions_->menu(MenuId::Channel), &QMenu::aboutToShow, this,

@@ -1,0 +1,166 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/presc_commands.h"
+
+#include <utility>
+
+#include "app/session.h"
+#include "app/settings.h"
+#include "base/numbers.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "base/typed_number.h"
+#include "presc/generation.h"
+
+namespace campora {
+
+namespace {
+
+constexpr std::string_view kShapeEnding = ".shp";
+/// Metres.
+constexpr std::string_view kProposedCell = "20";
+
+std::string folderOf(std::string_view path) {
+    return std::string(path.substr(0, path.size() - fileNamePart(path).size()));
+}
+
+/// The name of a file with another ending in place of ".shp".
+std::string withEnding(std::string name, std::string_view ending) {
+    if (pathEnding(name) == kShapeEnding) {
+        name.resize(name.size() - kShapeEnding.size());
+    }
+    return name.append(ending);
+}
+
+GenerationContext contextOf(const Session& session) {
+    return {session.platform().dialogs, session.texts(), session.platform().locale};
+}
+
+}  // namespace
+
+GphPrescVex* PrescCommands::prescription() const {
+    const LoadedFileList& files = session_.files();
+    for (int i = 0; i < files.loadedCount(); ++i) {
+        if (auto* const found = dynamic_cast<GphPrescVex*>(&files.file(i))) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+TextId PrescCommands::prescriptCaption() const {
+    return isOpen() ? TextId::ActionClosePrescription : TextId::ActionNewPrescription;
+}
+
+void PrescCommands::mnuFilePrescript() {
+    if (const GphPrescVex* const open = prescription()) {
+        if (session_.tools().tool() == MapTools::Tool::PrescDosis) {
+            session_.tools().setTool(MapTools::Tool::None);
+        }
+        session_.removeFile(open);
+        return;
+    }
+    std::vector<std::unique_ptr<GphPresc>> channels;
+    if (chooseChannels) {
+        channels = chooseChannels();
+    }
+    if (channels.empty()) {
+        return;
+    }
+    auto made = std::make_unique<GphPrescVex>();
+    for (std::unique_ptr<GphPresc>& channel : channels) {
+        made->addChannel(std::move(channel));
+    }
+    session_.showOnTop(std::move(made));
+}
+
+std::string PrescCommands::askTarget(TextId filter, std::string_view ending) const {
+    const Platform& platform = session_.platform();
+    const Texts& texts = session_.texts();
+    SaveRequest request{std::string(texts(TextId::SaveAsTitle)),
+                        readText(platform.settings, SettingId::SavePath),
+                        withEnding(prescription()->channel(0).name(), ending),
+                        {{std::string(texts(filter)), {std::string("*").append(ending)}}}};
+    if (request.folder.empty()) {
+        request.folder = session_.programFolder();
+    }
+    std::string path = platform.dialogs.saveFile(request).path;
+    if (!path.empty()) {
+        writeText(platform.settings, SettingId::SavePath, folderOf(path));
+    }
+    return path;
+}
+
+std::optional<double> PrescCommands::askCellSize() const {
+    const std::string answer = session_.platform().dialogs.inputBox(
+        TextId::AskSwath, session_.texts()(TextId::ProgramName), kProposedCell);
+    if (trim(answer).empty()) {
+        return std::nullopt;
+    }
+    const std::optional<double> metres = typedNumber(answer);
+    if (!metres) {
+        contextOf(session_).refuse({TextId::BadCellSize, {answer}});
+    }
+    return metres;
+}
+
+void PrescCommands::mnuFileSavePrescript() {
+    const GphPrescVex* const open = prescription();
+    if (open == nullptr) {
+        return;
+    }
+    const std::string path = askTarget(TextId::FilterPreFiles, ".pre");
+    if (path.empty()) {
+        return;
+    }
+    if (const std::optional<double> metres = askCellSize()) {
+        generatePRE(path, roundToInt32(*metres), zonesOf(*open), contextOf(session_));
+    }
+}
+
+void PrescCommands::mnuFileSaveVrt() {
+    const GphPrescVex* const open = prescription();
+    if (open == nullptr) {
+        return;
+    }
+    const std::string path = askTarget(TextId::FilterPrescriptions, ".vrt");
+    if (path.empty()) {
+        return;
+    }
+    const std::optional<double> metres = askCellSize();
+    if (!metres) {
+        return;
+    }
+    Dialogs& dialogs = session_.platform().dialogs;
+    const std::string_view caption = session_.texts()(TextId::ProgramName);
+    const std::string proposed = withEnding(open->channel(0).name(), "");
+    VrtTexts about;
+    about.name = dialogs.inputBox(TextId::DialogName, caption, proposed);
+    about.description = dialogs.inputBox(TextId::SummaryDescription, caption, "");
+    generateVRT(path, static_cast<float>(*metres), about, zonesOf(*open), contextOf(session_));
+}
+
+void PrescCommands::changeDose(LonLat position) {
+    GphPrescVex* const open = prescription();
+    if (open == nullptr || !askDose) {
+        return;
+    }
+    GphPresc& layer = open->channel(open->currentChannel());
+    const std::int32_t zone = layer.polygonIndexAt(position);
+    if (zone < 0) {
+        return;
+    }
+    const std::optional<float> dose =
+        askDose(layer.escalaColor(), layer.polygons()[static_cast<std::size_t>(zone)].dosis);
+    if (!dose) {
+        return;
+    }
+    layer.setDosis(zone, *dose);
+    if (&session_.shownScale() != &layer.escalaColor()) {
+        session_.redraw();  // a scale in the legend has done so already
+    }
+    session_.showSummary();
+}
+
+}  // namespace campora

@@ -1,0 +1,60 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/lon_lat.h"
+#include "base/text_id.h"
+#include "presc/gph_presc_vex.h"
+
+namespace campora {
+
+class Session;
+
+/// The commands of the prescription: there is one or none among the open files.
+class PrescCommands {
+public:
+    /// The maps of the channels with their dose columns; none when the user cancels.
+    using ChooseChannels = std::function<std::vector<std::unique_ptr<GphPresc>>()>;
+    /// A dose of the scale or a new one, from the present one; none when the user cancels.
+    using AskDose = std::function<std::optional<float>(const ColorScale& scale, float current)>;
+
+    /// `session` outlives this.
+    explicit PrescCommands(Session& session) : session_(session) {}
+
+    // Set by the window; without them the user cancels.
+    ChooseChannels chooseChannels;
+    AskDose askDose;
+
+    /// Null when there is none.
+    [[nodiscard]] GphPrescVex* prescription() const;
+    [[nodiscard]] bool isOpen() const { return prescription() != nullptr; }
+
+    /// Makes a prescription of maps that the user chooses, shown on top of the open files, or
+    /// closes the one that is open.
+    void mnuFilePrescript();
+    [[nodiscard]] TextId prescriptCaption() const;
+    /// Asks where to and for the swath width, and writes a PRE file.
+    void mnuFileSavePrescript();
+    /// Asks where to, for the resolution, a name and a description, and writes a VRT file.
+    void mnuFileSaveVrt();
+    /// Asks for the dose of the current channel's zone at the position; nothing where none is.
+    void changeDose(LonLat position);
+
+private:
+    /// Where the user wants the prescription; empty when the user cancels.
+    [[nodiscard]] std::string askTarget(TextId filter, std::string_view ending) const;
+    /// Metres; none when the user cancels or types something else, which is said.
+    [[nodiscard]] std::optional<double> askCellSize() const;
+
+    Session& session_;
+};
+
+}  // namespace campora
