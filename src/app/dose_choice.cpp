@@ -5,7 +5,7 @@
 
 #include <utility>
 
-#include "app/legend.h"
+#include "app/summary_names.h"
 #include "base/typed_number.h"
 
 namespace campora {
@@ -16,10 +16,14 @@ DoseChoice::DoseChoice(const ColorScale* scale, float currentDose, const Session
       way_(scale == nullptr ? Way::New : Way::Existing),
       text_(numberToType(static_cast<double>(currentDose),
                          session.platform().locale.decimalSymbol())) {
-    if (scale_ != nullptr) {
-        MapStyle style;
-        style.scale = scale_;
-        legend_ = legendContent(style, session_.texts(), session_.platform().locale);
+    if (scale_ == nullptr) {
+        return;
+    }
+    legend_.unit = shownUnit(scale_->unit, session_.texts());
+    for (const Clase& clase : scale_->classes()) {
+        // Whole, where the legend beside the map rounds: this is what the zone will get.
+        legend_.classes.push_back(
+            {clase.color, numberToType(clase.upper, session_.platform().locale.decimalSymbol())});
     }
 }
 

@@ -47,10 +47,17 @@ Session::Session(const Platform& platform, Language language, std::string progra
                 tools_.viewChanged();
             }),
       tools_(platform.canvas, platform.window, view_, style_, files_, texts_, platform.locale,
-             [this](File* file) { selectFile(files_.indexOf(file)); }),
+             [this](File* file) {
+                 selectFile(files_.indexOf(file));
+                 loadFileList(true);
+             }),
       replay_(
           platform.canvas, platform.window, platform.clock, view_, style_, texts_, platform.locale,
-          [this] { return getGphList(); }, [this] { tools_.hideInfo(); }) {
+          [this] { return getGphList(); },
+          [this] {
+              tools_.hideInfo();
+              tools_.cancelDrag();
+          }) {
     style_.scale = &defaultScale_;
     tools_.onDose = [this](LonLat position) { prescription_.changeDose(position); };
 }
@@ -58,6 +65,7 @@ Session::Session(const Platform& platform, Language language, std::string progra
 void Session::start() {
     const SettingsStore& settings = platform_.settings;
     readStyleSettings(settings, style_);
+    printDescription = readText(settings, SettingId::PrintDescription);
     coordType_ = static_cast<CoordType>(readNumber(settings, SettingId::CoordType));
     tools_.setCoordType(coordType_);
     registrations_ = loadRegistrations(programFolder_, platform_.dialogs, texts_);
@@ -81,6 +89,9 @@ void Session::removeFile(const File* file) {
     loadFileList(true);
     showCurrentFile();
     replay_.prepareReplay();
+    if (style_.mode == ColorMode::Date || style_.mode == ColorMode::Error) {
+        refreshColorScale();  // its classes are the days or doses of the files that are left
+    }
     if (recalcGphBound()) {
         view_.ZoomUno();
     } else {
@@ -234,6 +245,7 @@ void Session::showLegend() {
     });
     MapStyle shown = style_;
     shown.scale = &scale;
+    shown.graduated = shown.graduated || &scale != &defaultScale_;
     LegendContent legend = legendContent(shown, texts_, platform_.locale);
     if (files_.empty()) {
         legend.unit.clear();
@@ -284,11 +296,11 @@ void Session::plotAll(MapContext& context) const {
 }
 
 void Session::refreshColorScale() {
-    if (style_.mode == ColorMode::Date && !ranges_.date) {
-        style_.mode = ColorMode::Dose;
-    }
     loading_ = true;
-    setUpColorScale(defaultScale_, style_, ranges_, openFiles());
+    if (!setUpColorScale(defaultScale_, style_, ranges_, openFiles())) {
+        style_.mode = ColorMode::Dose;
+        setUpColorScale(defaultScale_, style_, ranges_, openFiles());
+    }
     loading_ = false;
     showLegend();
 }

@@ -192,7 +192,7 @@ struct DoseChoiceTest : testing::Test {
 TEST_F(DoseChoiceTest, OffersTheDosesOfTheScale) {
     DoseChoice choice(&scale, 50, desk.session);
     ASSERT_EQ(choice.legend().classes.size(), 3U);
-    EXPECT_EQ(choice.legend().classes[2].color, scale.getClass(2).color);
+    EXPECT_EQ(choice.legend().classes[2], (LegendRow{scale.getClass(2).color, "72.5"}));
     EXPECT_EQ(choice.way(), DoseChoice::Way::Existing);
     for (const std::optional<int> none : {std::optional<int>(), std::optional(3)}) {
         choice.selectClass(none);

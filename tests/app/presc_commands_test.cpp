@@ -168,6 +168,7 @@ TEST_F(PrescCommandsTest, ASaveThatIsCancelledOrNoNumberWritesNothing) {
 TEST_F(PrescCommandsTest, AMapOpensAsAFileOfItsOwn) {
     const std::string path = rowOfZones({"10", "20"}).write(desk.folder, "lote");
     desk.session.style().colors.shape = Color::rgb(1, 2, 3);
+    desk.session.style().graduated = false;  // which is about records, not about maps
     ASSERT_TRUE(desk.session.loadFile(path, true, true));
     EXPECT_EQ(desk.window.files, (std::vector<FileListRow>{{"lote.shp", "shpfile"}}));
     EXPECT_TRUE(desk.window.summary.empty());
