@@ -37,10 +37,6 @@ constexpr std::int64_t kMostInHeader = std::numeric_limits<std::int16_t>::max();
 constexpr DoseScale kPreDoses{1};
 constexpr DoseScale kVrtDoses{VrtFile::kDoseUnits};
 
-constexpr TextId kFallbackQuestions[kMostChannels] = {
-    TextId::AskFallbackDose1, TextId::AskFallbackDose2, TextId::AskFallbackDose3,
-    TextId::AskFallbackDose4};
-
 /// Where a grid lies and what is in it.
 struct Grid {
     double metres = 0;
@@ -111,8 +107,8 @@ Grid preGrid(const BoundingBox& bound, double metres, const GridSize& size) {
 Grid vrtGrid(const BoundingBox& bound, double metres, const GridSize& size) {
     Grid grid{metres, metresPerDegreeAt(bound.minY), {}, {}, {}};
     const double perDegree = grid.metresPerDegree;
-    const double west = static_cast<float>(bound.minX - kMargin * metres / perDegree);
-    const double south = static_cast<float>(bound.minY - kMargin * metres / METERS_PER_DEGREE);
+    const double west = inSinglePrecision(bound.minX - kMargin * metres / perDegree);
+    const double south = inSinglePrecision(bound.minY - kMargin * metres / METERS_PER_DEGREE);
     grid.origin = {west, south};
     for (std::int64_t column = 0; column < size.columns; ++column) {
         const double east = metres * static_cast<double>(column) + metres / 2;

@@ -3,9 +3,11 @@
 
 #pragma once
 
+#include <cstddef>
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "presc/channel_zones.h"
 #include "presc/gph_presc.h"
@@ -16,6 +18,10 @@ namespace campora {
 
 /// Most channels of a prescription.
 inline constexpr std::size_t kMostChannels = 4;
+/// The questions for the doses of cells without a zone, channel 1 first.
+inline constexpr TextId kFallbackQuestions[kMostChannels] = {
+    TextId::AskFallbackDose1, TextId::AskFallbackDose2, TextId::AskFallbackDose3,
+    TextId::AskFallbackDose4};
 
 /// A layer as grids are made of it, with the doses that its zones have now.
 [[nodiscard]] ChannelZones zonesOf(const GphPresc& presc);

@@ -17,4 +17,8 @@ namespace campora {
     return roundToInt32(std::cos(latitude * kPi / 180) * METERS_PER_DEGREE);
 }
 
+/// The nearest number of single precision. Not inline: GCC 12 leaves the rounding out where two
+/// casts to float and back stand side by side, when it puts them into one vector.
+[[nodiscard]] double inSinglePrecision(double value);
+
 }  // namespace campora

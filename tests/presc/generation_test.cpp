@@ -140,6 +140,23 @@ TEST(Generation, AVrtGoesNorthInHundredthsWithoutQuestions) {
     EXPECT_THAT(desk.files(), ElementsAre("lote.vrt"));
 }
 
+TEST(Generation, TheCentresOfAVrtCountFromItsOriginInSinglePrecision) {
+    // 104 degrees west single precision is steps of 0.85 m: the zone holds the centres that count
+    // from the rounded origin, and would miss those that count from the true one.
+    const double west = -104.00000286;
+    const double origin = static_cast<double>(-104.0000229F);
+    const double metre = 1 / kDegree;
+    const double centre = origin + 5.5 * metre;
+    ZoneLayer layer;
+    layer.add(1, {rectangleRing(west, 0, west + 20 * metre, 20 * metre)});
+    layer.add(2, {rectangleRing(centre - 0.05 * metre, 0, centre + 0.05 * metre, 20 * metre)});
+    Desk desk;
+    ASSERT_TRUE(desk.vrt({layer}, 1));
+    const VrtFile file = desk.readVrt();
+    ASSERT_EQ(file.header.x0, -104.0000229F);
+    EXPECT_EQ(std::count(file.doses.begin(), file.doses.end(), 200), 20);
+}
+
 TEST(Generation, AGridTooLargeForConsolesIsAskedAbout) {
     struct Row {
         const char* name;
