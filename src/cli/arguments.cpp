@@ -7,6 +7,7 @@
 #include <iterator>
 #include <string_view>
 
+#include "base/paths.h"
 #include "base/text.h"
 #include "cli/options.h"
 
@@ -23,6 +24,7 @@ struct CommandRow {
 constexpr CommandRow kCommands[] = {
     {Command::Info, "info", TextId::CliInfo},
     {Command::Render, "render", TextId::CliRender},
+    {Command::Prescribe, "prescribe", TextId::CliPrescribe},
     {Command::Orders, "orders", TextId::CliOrders},
     {Command::Project, "project", TextId::CliProject},
 };
@@ -60,6 +62,42 @@ std::optional<Failure> takeOption(Arguments& parsed, std::span<const std::string
     return std::nullopt;
 }
 
+/// What a command lacks, or has too much of.
+std::optional<Failure> checkFiles(const Arguments& parsed) {
+    if (parsed.command == Command::Prescribe) {
+        // Its files stand in its options.
+        return parsed.files.empty()
+                   ? std::nullopt
+                   : std::optional(Failure{TextId::CliUnknownOption, {parsed.files.front()}});
+    }
+    if (parsed.files.empty()) {
+        return Failure{TextId::CliMissingFile, {}};
+    }
+    const bool takesOne = parsed.command == Command::Orders || parsed.command == Command::Project;
+    if (takesOne && parsed.files.size() > 1) {
+        return Failure{TextId::CliUnknownOption, {parsed.files[1]}};
+    }
+    return std::nullopt;
+}
+
+std::optional<Failure> checkOptions(const Arguments& parsed) {
+    const bool prescribes = parsed.command == Command::Prescribe;
+    if (prescribes && parsed.prescription.channels.empty()) {
+        return Failure{TextId::CliMissingOption, {"--channel"}};
+    }
+    const bool isVrt = parsed.prescription.kind == GridKind::Vrt;
+    if (prescribes && isVrt && !parsed.prescription.resolution) {
+        return Failure{TextId::CliMissingOption, {"--resolution"}};
+    }
+    if ((prescribes || parsed.command == Command::Render) && parsed.output.empty()) {
+        return Failure{TextId::CliMissingOption, {"-o"}};
+    }
+    if (prescribes && pathEnding(parsed.output) != (isVrt ? ".vrt" : ".pre")) {
+        return Failure{TextId::CliBadValue, {"-o", parsed.output}};
+    }
+    return std::nullopt;
+}
+
 /// Names of options in a column, what they do in another.
 void describe(std::string& text, const Option& option, const Texts& texts) {
     constexpr std::size_t kColumn = 42;
@@ -91,15 +129,11 @@ Result<Arguments> parseArguments(std::span<const std::string> arguments) {
             return *failure;
         }
     }
-    if (parsed.files.empty()) {
-        return Failure{TextId::CliMissingFile, {}};
+    if (std::optional<Failure> failure = checkFiles(parsed)) {
+        return *failure;
     }
-    const bool takesOne = parsed.command == Command::Orders || parsed.command == Command::Project;
-    if (takesOne && parsed.files.size() > 1) {
-        return Failure{TextId::CliUnknownOption, {parsed.files[1]}};
-    }
-    if (parsed.command == Command::Render && parsed.output.empty()) {
-        return Failure{TextId::CliMissingOption, {"-o"}};
+    if (std::optional<Failure> failure = checkOptions(parsed)) {
+        return *failure;
     }
     return parsed;
 }

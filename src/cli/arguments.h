@@ -12,10 +12,12 @@
 #include "base/failure.h"
 #include "base/texts.h"
 #include "model/map_style.h"
+#include "platform/dialogs.h"
 
 namespace campora {
 
-enum class Command { Info, Render, Orders, Project };
+enum class Command { Info, Render, Prescribe, Orders, Project };
+enum class GridKind { Pre, Vrt };
 
 struct PixelSize {
     int width = 0;
@@ -30,6 +32,29 @@ struct OrderCopy {
     std::string destination;
 
     bool operator==(const OrderCopy&) const = default;
+};
+
+/// Where a channel of a prescription has its doses from.
+struct ChannelSource {
+    std::string file;
+    std::string column;
+    /// The answer to the question for the dose of cells without a zone; none: what the question
+    /// proposes.
+    std::optional<std::string> fallback;
+
+    bool operator==(const ChannelSource&) const = default;
+};
+
+/// What a prescription is made of.
+struct PrescriptionOrder {
+    GridKind kind = GridKind::Pre;
+    std::vector<ChannelSource> channels;
+    /// The answer to the question about a grid that is too large.
+    Answer oversize = Answer::No;
+    /// Metres, of a VRT file.
+    std::optional<float> resolution;
+    std::string name;
+    std::string description;
 };
 
 /// A command line of the batch program, taken apart.
@@ -52,6 +77,7 @@ struct Arguments {
     bool json = false;
 
     std::optional<OrderCopy> copy;
+    PrescriptionOrder prescription;
 
     std::string output;
     PixelSize size{1200, 900};

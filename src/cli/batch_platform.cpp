@@ -39,6 +39,14 @@ std::string BatchDialogs::inputBox(TextId prompt, std::string_view /*caption*/,
     }
 }
 
+std::vector<std::string> BatchDialogs::openFiles(const OpenRequest& /*request*/) {
+    const std::vector<ChannelSource>& channels = arguments_.prescription.channels;
+    if (nextChannel_ >= channels.size()) {
+        return {};
+    }
+    return {channels[nextChannel_++].file};
+}
+
 BatchSession::BatchSession(const Arguments& arguments, MapCanvas& canvas, std::ostream& boxes)
     : arguments_(arguments),
       dialogs_(arguments, boxes),

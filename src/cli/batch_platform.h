@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <ostream>
@@ -21,7 +22,7 @@ namespace campora {
 [[nodiscard]] std::string oneLine(std::string_view text);
 
 /// Boxes go to a stream, one a line, questions too; the answers come from the command line.
-class BatchDialogs final : public QuietDialogs {
+class BatchDialogs : public QuietDialogs {
 public:
     BatchDialogs(const Arguments& arguments, std::ostream& boxes)
         : arguments_(arguments), boxes_(boxes) {}
@@ -33,10 +34,16 @@ public:
                                         std::string_view caption) override;
     [[nodiscard]] std::string inputBox(TextId prompt, std::string_view caption,
                                        std::string_view proposed) override;
+    /// The maps of a prescription, one a question, in the order of its channels.
+    [[nodiscard]] std::vector<std::string> openFiles(const OpenRequest& request) override;
+
+protected:
+    [[nodiscard]] const Arguments& arguments() const { return arguments_; }
 
 private:
     const Arguments& arguments_;
     std::ostream& boxes_;
+    std::size_t nextChannel_ = 0;
 };
 
 class BatchLocale final : public UserLocale {

@@ -29,6 +29,8 @@ inline constexpr int kWrongCommandLine = 2;
 [[nodiscard]] int runInfo(const Arguments& arguments, const Console& console);
 /// The whole map as a picture. Without a map no picture is written.
 [[nodiscard]] int runRender(const Arguments& arguments, const Console& console);
+/// A grid for a console from the zones of shapefiles.
+[[nodiscard]] int runPrescribe(const Arguments& arguments, const Console& console);
 /// The work orders of a folder; copies the files of one when the command line says so.
 [[nodiscard]] int runOrders(const Arguments& arguments, const Console& console);
 /// As `runInfo` for the files that a project lists.

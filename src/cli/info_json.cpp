@@ -9,6 +9,8 @@
 #include "base/numbers.h"
 #include "cli/json_writer.h"
 #include "model/exportable.h"
+#include "presc/gph_presc.h"
+#include "presc/grid_layer.h"
 
 namespace campora {
 
@@ -43,6 +45,48 @@ void writeSummary(JsonWriter& json, const FileProperties& summary) {
     json.endArray();
 }
 
+void writeScale(JsonWriter& json, const ColorScale* scale);
+
+void writeGrid(JsonWriter& json, const GridLayer& grid) {
+    json.member("columns", grid.columns());
+    json.member("rows", grid.rows());
+    // As the file has it, so that reading it back gives the same number.
+    json.member("cell", static_cast<float>(grid.cellMetres()));
+    json.key("channels");
+    json.beginArray();
+    for (int channel = 0; channel < grid.channelsCnt(); ++channel) {
+        json.beginObject();
+        writeScale(json, &grid.channelScale(channel));
+        json.member("cells", grid.dosedCells(channel));
+        json.endObject();
+    }
+    json.endArray();
+}
+
+void writeColumns(JsonWriter& json, const GphPresc& presc) {
+    json.member("polygons", presc.Gph_count());
+    json.key("columns");
+    json.beginArray();
+    for (int column = 1; column <= presc.columnCount(); ++column) {
+        const bool numeric = presc.columnaNumeric(column);
+        json.beginObject();
+        json.member("name", presc.columnNames()[static_cast<std::size_t>(column) - 1]);
+        json.member("numeric", numeric);
+        json.key("values");
+        if (numeric) {
+            json.beginArray();
+            for (const double value : presc.dosisCollection(column)) {
+                json.value(value);
+            }
+            json.endArray();
+        } else {
+            json.null();
+        }
+        json.endObject();
+    }
+    json.endArray();
+}
+
 void writeLayers(JsonWriter& json, const File& file) {
     json.key("layers");
     json.beginArray();
@@ -57,6 +101,11 @@ void writeLayers(JsonWriter& json, const File& file) {
             json.null();
         }
         writeBound(json, layer->Gph_bound());
+        if (const auto* const grid = dynamic_cast<const GridLayer*>(layer)) {
+            writeGrid(json, *grid);
+        } else if (const auto* const presc = dynamic_cast<const GphPresc*>(layer)) {
+            writeColumns(json, *presc);
+        }
         json.endObject();
     }
     json.endArray();

@@ -64,6 +64,11 @@ void JsonWriter::value(float number) {
     out_ << numberText(number);
 }
 
+void JsonWriter::value(bool truth) {
+    separate();
+    out_ << (truth ? "true" : "false");
+}
+
 void JsonWriter::value(std::int32_t number) {
     separate();
     out_ << numberText(number);

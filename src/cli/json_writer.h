@@ -31,6 +31,7 @@ public:
     void value(double number);
     void value(float number);
     void value(std::int32_t number);
+    void value(bool truth);
     void null();
 
     template <typename Value>

@@ -19,6 +19,7 @@ namespace campora {
 
 namespace {
 
+constexpr std::size_t kMostProductChannels = 4;
 constexpr int kMostPixels = 16384;  // 1 GiB a picture
 
 /// The whole text as a number; "." is its decimal symbol.
@@ -125,6 +126,48 @@ bool setErrorLimit(Arguments& arguments, std::string_view value) {
     return limit && *limit >= 0 && *limit <= 100;
 }
 
+/// FILE.shp,COLUMN or FILE.shp,COLUMN,FALLBACK; the file's name may have commas, and so may the
+/// fallback.
+bool addChannel(Arguments& arguments, std::string_view value) {
+    constexpr std::string_view kEnding = ".shp,";
+    const std::size_t ending = lowerCase(value).find(kEnding);
+    std::vector<ChannelSource>& channels = arguments.prescription.channels;
+    if (ending == std::string::npos || channels.size() >= kMostProductChannels) {
+        return false;
+    }
+    const std::size_t fileEnd = ending + kEnding.size() - 1;
+    ChannelSource source{std::string(value.substr(0, fileEnd)), {}, std::nullopt};
+    const std::string_view rest = value.substr(fileEnd + 1);
+    const std::size_t comma = rest.find(',');
+    source.column = rest.substr(0, comma);
+    if (comma != std::string_view::npos) {
+        source.fallback = rest.substr(comma + 1);
+    }
+    channels.push_back(std::move(source));
+    return !channels.back().column.empty();
+}
+
+bool setGridOutput(Arguments& arguments, std::string_view value) {
+    arguments.output = value;
+    return !value.empty();
+}
+
+bool setOversize(Arguments& arguments, std::string_view value) {
+    return choose<Answer>(
+        arguments.prescription.oversize, value,
+        {{"keep", Answer::No}, {"cancel", Answer::Cancel}, {"change", Answer::Yes}});
+}
+
+bool setFormat(Arguments& arguments, std::string_view value) {
+    return choose<GridKind>(arguments.prescription.kind, value,
+                            {{"pre", GridKind::Pre}, {"vrt", GridKind::Vrt}});
+}
+
+bool setResolution(Arguments& arguments, std::string_view value) {
+    arguments.prescription.resolution = parse<float>(replaceAll(value, ",", "."));
+    return arguments.prescription.resolution.has_value();
+}
+
 constexpr auto kEvery = std::nullopt;
 
 constexpr Option kOptions[] = {
@@ -149,6 +192,22 @@ constexpr Option kOptions[] = {
      }},
     {kEvery, "--help", "", TextId::CliHelp, [](Arguments&, std::string_view) { return true; }},
     {Command::Info, "--json", "", TextId::CliJson, setJson},
+    {Command::Prescribe, "--channel", "FILE.shp,COLUMN[,FALLBACK]", TextId::CliPrescChannel,
+     addChannel},
+    {Command::Prescribe, "-o", "OUT.pre|OUT.vrt", TextId::SaveAsTitle, setGridOutput},
+    {Command::Prescribe, "--oversize", "keep|cancel|change", TextId::CliOversize, setOversize},
+    {Command::Prescribe, "--format", "pre|vrt", TextId::FilterPrescriptions, setFormat},
+    {Command::Prescribe, "--resolution", "R", TextId::SummaryResolution, setResolution},
+    {Command::Prescribe, "--name", "T", TextId::DialogName,
+     [](Arguments& a, std::string_view value) {
+         a.prescription.name = value;
+         return true;
+     }},
+    {Command::Prescribe, "--description", "T", TextId::SummaryDescription,
+     [](Arguments& a, std::string_view value) {
+         a.prescription.description = value;
+         return true;
+     }},
     {Command::Orders, "--json", "", TextId::CliJson, setJson},
     {Command::Orders, "--copy", "N DEST", TextId::CliCopyOrder, setCopy},
     {Command::Project, "--json", "", TextId::CliJson, setJson},

@@ -13,6 +13,8 @@ int runCommand(const Arguments& arguments, const Console& console) {
         return runInfo(arguments, console);
     case Command::Render:
         return runRender(arguments, console);
+    case Command::Prescribe:
+        return runPrescribe(arguments, console);
     case Command::Orders:
         return runOrders(arguments, console);
     case Command::Project:

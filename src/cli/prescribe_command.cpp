@@ -1,0 +1,130 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "app/dose_columns.h"
+#include "base/files.h"
+#include "base/numbers.h"
+#include "base/paths.h"
+#include "base/typed_number.h"
+#include "cli/batch_platform.h"
+#include "cli/commands.h"
+#include "presc/generation.h"
+
+namespace campora {
+
+namespace {
+
+/// Metres, when the command line names no swath width.
+constexpr std::string_view kUsualSwath = "20";
+
+/// The questions that the making of a grid asks, and no others.
+class GridDialogs final : public BatchDialogs {
+public:
+    using BatchDialogs::BatchDialogs;
+
+    [[nodiscard]] Answer askYesNoCancel(std::string_view text, MessageIcon icon,
+                                        std::string_view caption) override {
+        message(text, icon, caption);
+        return arguments().prescription.oversize;
+    }
+    [[nodiscard]] std::string inputBox(TextId prompt, std::string_view /*caption*/,
+                                       std::string_view proposed) override {
+        // The question for another size is answered as it proposes, those for doses by channel.
+        const auto* const question =
+            std::find(std::begin(kFallbackQuestions), std::end(kFallbackQuestions), prompt);
+        if (question == std::end(kFallbackQuestions)) {
+            return std::string(proposed);
+        }
+        const auto channel =
+            static_cast<std::size_t>(std::distance(std::begin(kFallbackQuestions), question));
+        return arguments().prescription.channels.at(channel).fallback.value_or(
+            std::string(proposed));
+    }
+};
+
+std::optional<Failure> whyNotOpen(const std::string& path) {
+    if (canOpen(path)) {
+        return std::nullopt;
+    }
+    const Result<FileBytes> file = readFile(path);
+    return file ? std::nullopt : std::optional(file.failure());
+}
+
+/// Reads the map of the next channel and chooses its column; false when that cannot be, which is
+/// said.
+bool addChannel(DoseColumns& columns, int row, const ChannelSource& source,
+                const Session& session) {
+    Dialogs& dialogs = session.platform().dialogs;
+    const Texts& texts = session.texts();
+    if (row > 0) {
+        columns.addChannel();
+    }
+    if (const std::optional<Failure> failure = whyNotOpen(source.file)) {
+        dialogs.message(texts.sentence(*failure), MessageIcon::Exclamation,
+                        texts(TextId::ProgramName));
+        return false;
+    }
+    columns.chooseFile(row);
+    const std::vector<std::string> names = columns.columns(row);
+    const auto name = std::find(names.begin(), names.end(), source.column);
+    if (name == names.end()) {
+        dialogs.message(
+            texts.format(TextId::CliBadValue, {"--channel", source.file + "," + source.column}),
+            MessageIcon::Exclamation, texts(TextId::ProgramName));
+        return false;
+    }
+    columns.chooseColumn(row, static_cast<int>(name - names.begin()) + 1);
+    return true;
+}
+
+bool write(const Arguments& arguments, std::span<const ChannelZones> channels,
+           const GenerationContext& context) {
+    const PrescriptionOrder& order = arguments.prescription;
+    if (order.kind == GridKind::Vrt) {
+        return generateVRT(arguments.output, *order.resolution, {order.name, order.description},
+                           channels, context);
+    }
+    const std::string swath = arguments.swath.value_or(std::string(kUsualSwath));
+    // An empty answer is that of a user who cancels.
+    return !swath.empty() &&
+           generatePRE(arguments.output, roundToInt32(typedNumber(swath).value_or(0)), channels,
+                       context);
+}
+
+}  // namespace
+
+int runPrescribe(const Arguments& arguments, const Console& console) {
+    NoCanvas canvas;
+    BatchSession batch(arguments, canvas, console.boxes);
+    const Session& session = batch.session();
+    DoseColumns columns(session);
+    int row = 0;
+    for (const ChannelSource& source : arguments.prescription.channels) {
+        if (!addChannel(columns, row++, source, session)) {
+            return exit_status::kRefused;
+        }
+    }
+    if (!columns.confirm()) {
+        return exit_status::kRefused;
+    }
+    const std::vector<std::unique_ptr<GphPresc>> layers = columns.getChannels();
+    std::vector<ChannelZones> channels;
+    for (const std::unique_ptr<GphPresc>& layer : layers) {
+        channels.push_back(zonesOf(*layer));
+    }
+    GridDialogs dialogs(arguments, console.boxes);
+    const bool written =
+        write(arguments, channels, {dialogs, session.texts(), session.platform().locale});
+    return written ? exit_status::kDone : exit_status::kRefused;
+}
+
+}  // namespace campora
