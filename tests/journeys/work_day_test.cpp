@@ -1,100 +1,20 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-// A contractor's day in the real window, with the program's own dialogs and settings.
+// A contractor's day in the real window.
 
-#include <functional>
-#include <memory>
 #include <string>
 
-#include <QAction>
-#include <QApplication>
-#include <QFileDialog>
-#include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
 #include <QSlider>
-#include <QStatusBar>
-#include <QTest>
-#include <QTimer>
 #include <QToolButton>
-#include <gtest/gtest.h>
 
-#include "desktop/file_list.h"
-#include "desktop/map_area.h"
-#include "desktop/map_widget.h"
-#include "desktop/program.h"
-#include "desktop/qt_text.h"
-#include "desktop/side_panel.h"
+#include "journeys/journey.h"
 
 namespace campora {
 namespace {
 
-class WorkDay : public testing::Test {
-protected:
-    std::unique_ptr<Program> program;
-
-    void SetUp() override { start(); }
-
-    void start() {
-        program.reset();
-        program = std::make_unique<Program>();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
-        ASSERT_TRUE(QTest::qWaitFor([this] { return map().hasFocus(); }));
-    }
-
-    [[nodiscard]] MainWindow& window() const { return program->window(); }
-    [[nodiscard]] Session& session() const { return window().session(); }
-    [[nodiscard]] MapWidget& map() const { return window().mapArea().map(); }
-
-    /// Does something in the next dialog that opens; the test fails when none does.
-    template <typename Dialog>
-    void inNextDialog(std::function<void(Dialog&)> act) {
-        auto* poll = new QTimer(&window());
-        QObject::connect(poll, &QTimer::timeout, poll, [poll, act] {
-            if (auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget())) {
-                poll->deleteLater();
-                act(*dialog);
-            }
-        });
-        poll->start(20);
-    }
-
-    void choose(const char* action) {
-        auto* found = window().findChild<QAction*>(action);
-        ASSERT_NE(found, nullptr) << action;
-        ASSERT_TRUE(found->isEnabled()) << action;
-        found->trigger();
-    }
-    void click(const char* button) {
-        auto* found = window().findChild<QAbstractButton*>(button);
-        ASSERT_NE(found, nullptr) << button;
-        QTest::mouseClick(found, Qt::LeftButton);
-    }
-    void drag(QPoint from, QPoint to) {
-        QTest::mousePress(&map(), Qt::LeftButton, {}, from);
-        QTest::mouseMove(&map(), (from + to) / 2);
-        QTest::mouseMove(&map(), to);
-        // The screen's own pointer may lag behind: the release carries the place.
-        QTest::mouseRelease(&map(), Qt::LeftButton, {}, to);
-    }
-    void openByDialog(const std::string& path) {
-        inNextDialog<QFileDialog>([path](QFileDialog& dialog) {
-            auto* name = dialog.findChild<QLineEdit*>();
-            name->setText(toQt(path));  // typing opens a list of names over the dialog
-            QTest::keyClick(name, Qt::Key_Return);
-        });
-        QTest::keyClick(&map(), Qt::Key_O, Qt::ControlModifier);
-    }
-    [[nodiscard]] bool statusShows(const QString& text) const {
-        for (const QLabel* label : window().statusBar()->findChildren<QLabel*>()) {
-            if (label->text().contains(text)) {
-                return true;
-            }
-        }
-        return false;
-    }
-};
+class WorkDay : public Journey {};
 
 TEST_F(WorkDay, OpenZoomInformMeasureColourReplayAndStartAgain) {
     choose("mnuHelpLangEsp");
