@@ -77,14 +77,15 @@ void FileCommands::preview(const std::vector<std::string>& selected) {
         previewing_ = true;
         session_.plotPreview(true, false);
     }
-    session_.reset();
     QuietDialogs quiet;
+    std::vector<std::string> files;
     for (const std::string& path : selected) {
-        for (const std::string& file : filesOf(path, quiet)) {
-            session_.loadQuietly(file);
+        if (!isFolder(path)) {  // to open one means to go into it
+            const std::vector<std::string> behind = filesOf(path, quiet);
+            files.insert(files.end(), behind.begin(), behind.end());
         }
     }
-    session_.view().ZoomUno();
+    session_.showQuietly(files);
     showShapeKind(selected);
 }
 
@@ -107,7 +108,7 @@ std::vector<std::string> FileCommands::filesOf(const std::string& path, Dialogs&
     return files;
 }
 
-void FileCommands::openPaths(const std::vector<std::string>& paths, bool resetFirst) {
+bool FileCommands::openPaths(const std::vector<std::string>& paths, bool resetFirst) {
     const Platform& platform = session_.platform();
     std::vector<std::string> files;
     std::vector<std::string> projects;
@@ -124,6 +125,7 @@ void FileCommands::openPaths(const std::vector<std::string>& paths, bool resetFi
         recent_.add(path);
     }
     platform.window.commandsChanged();
+    return !taken.empty();
 }
 
 void FileCommands::openRecent(std::string_view path) {
@@ -153,9 +155,11 @@ void FileCommands::stepInFolder(int step) {
     if (found == files.end()) {
         return;
     }
-    const std::ptrdiff_t next = found - files.begin() + step;
-    if (next >= 0 && next < static_cast<std::ptrdiff_t>(files.size())) {
-        openPaths({files[static_cast<std::size_t>(next)]}, true);
+    // One that is refused must not bar the way to those behind it.
+    const auto count = static_cast<std::ptrdiff_t>(files.size());
+    std::ptrdiff_t next = found - files.begin() + step;
+    while (next >= 0 && next < count && !openPaths({files[static_cast<std::size_t>(next)]}, true)) {
+        next += step;
     }
 }
 
@@ -179,24 +183,26 @@ void FileCommands::saveAs() {
     const Texts& texts = session_.texts();
     const std::string folder =
         !saveFolder_.empty() && isFolder(saveFolder_) ? saveFolder_ : session_.programFolder();
-    const std::string path =
+    const std::string chosen =
         platform.dialogs
             .saveFile({std::string(texts(TextId::SaveAsTitle)),
                        folder,
                        "",
                        {{std::string(texts(TextId::FilterNimbra)), {"*.nbr"}}}})
             .path;
-    if (path.empty()) {
+    if (chosen.empty()) {
         return;
     }
+    const std::string path = pathEnding(chosen) == ".nbr" ? chosen : chosen + ".nbr";
     saveFolder_ = folderOf(path);
     const CompanionNames source = companionNames(session_.lastTrackFile());
     const CompanionNames target = companionNames(path);
     session_.setTitle(false);
     const std::string summary = findIgnoringCase(source.summaryPath);
     const bool hasSummary = canOpen(summary);
-    // The save dialog has asked about the track itself; nobody has about its companion.
-    if (target.trackPath.empty() || (hasSummary && !overwriteAgreed(target.summaryPath))) {
+    // The save dialog has asked about the name that was chosen; nobody has about the others.
+    if ((path != chosen && !overwriteAgreed(target.trackPath)) ||
+        (hasSummary && !overwriteAgreed(target.summaryPath))) {
         return;
     }
     std::optional<Failure> failure = copyFile(source.trackPath, target.trackPath);

@@ -24,8 +24,9 @@ public:
     /// the others. Cancelling puts everything back.
     void fileOpen();
     /// Opens files, projects and the supported files of folders, showing progress when there are
-    /// several; with `resetFirst` the first that is taken replaces what is open.
-    void openPaths(const std::vector<std::string>& paths, bool resetFirst);
+    /// several; with `resetFirst` the first that is taken replaces what is open. False when none
+    /// was taken.
+    bool openPaths(const std::vector<std::string>& paths, bool resetFirst);
 
     [[nodiscard]] std::vector<std::string> recentFiles() const { return recent_.paths(); }
     /// Opens a recent file in place of the others; one that is gone leaves the list.

@@ -58,6 +58,8 @@ public:
     /// Lays the tool down; what was begun has no effect.
     void escape() { setTool(Tool::None); }
 
+    /// Gives up what the pressed button does.
+    void cancelDrag();
     void hideInfo();
     /// Marks a place on the canvas.
     void showVertex(float x, float y);
@@ -89,8 +91,6 @@ private:
     void finishRuler();
     void finishInfo(CanvasPoint at);
     [[nodiscard]] std::optional<Hit> find(CanvasPoint at) const;
-    /// Gives up what the pressed button does.
-    void cancelDrag();
     void placeMark();
     void showPosition();
     void setToolText(std::string text);

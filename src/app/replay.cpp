@@ -62,7 +62,7 @@ void Replay::prepareReplay() {
     }
     constexpr std::int64_t kMost = std::numeric_limits<std::int32_t>::max();
     stopReplay();
-    shown_ = {total > 0, false, static_cast<std::int32_t>(std::min(total, kMost)), 0};
+    shown_ = {total > 0, false, static_cast<std::int32_t>(std::min(total, kMost)), 0, speed_};
     show();
 }
 
@@ -110,6 +110,8 @@ void Replay::seek(std::int32_t position) {
 
 void Replay::setSpeed(int value) {
     speed_ = std::clamp(value, 0, kLongestPause);
+    shown_.speed = speed_;
+    show();
 }
 
 void Replay::setSpeedShown(bool shown) {

@@ -112,8 +112,8 @@ public:
     /// Opens several in order, until the user has enough, and shows the whole map; with
     /// `resetFirst` the first that is taken replaces what is open. Answers those that were taken.
     std::vector<std::string> loadFiles(const std::vector<std::string>& paths, bool resetFirst);
-    /// Opens a file beside the others without a message or question; draws nothing.
-    bool loadQuietly(std::string_view path);
+    /// Shows these files alone, without a message or question; for previews, after `plotPreview`.
+    void showQuietly(const std::vector<std::string>& paths);
     /// Reads every open file again; one that cannot be read stays as it was.
     void reloadFiles();
     /// The logger's track file opened last; empty when there was none.
@@ -161,14 +161,20 @@ private:
         BoundingBox totalBound;
         std::optional<bool> hasFlowStops;
         bool graduated = true;
+        ColorMode mode = ColorMode::Dose;
+        std::optional<WorkKind> lastKind;
         std::string lastTrackFile;
         ColorScale::Content scale;
         MapView::Place place;
+        MapTools::Tool tool = MapTools::Tool::None;
     };
 
     [[nodiscard]] std::vector<File*> openFiles() const;
     /// Reads a file and adds it; neither list nor legend are shown anew yet.
     bool takeFile(std::string_view path, bool resetFirst, Dialogs& dialogs);
+    /// Several in order, until the user has enough; answers those that were taken.
+    std::vector<std::string> takeFiles(const std::vector<std::string>& paths, bool resetFirst,
+                                       Dialogs& dialogs);
     bool takeWork(std::string_view path, const FileFormat& format, bool resetFirst,
                   Dialogs& dialogs);
     bool addToMap(std::unique_ptr<File> file, bool updateView, bool atTop, Dialogs& dialogs);

@@ -82,13 +82,12 @@ bool Session::loadFile(std::string_view path, bool resetFirst, bool zoomAll) {
     return true;
 }
 
-bool Session::loadQuietly(std::string_view path) {
+void Session::showQuietly(const std::vector<std::string>& paths) {
+    reset();
     QuietDialogs quiet;
-    if (!takeFile(path, false, quiet)) {
-        return false;
+    if (!takeFiles(paths, false, quiet).empty()) {
+        afterLoading(true);
     }
-    afterLoading(false);
-    return true;
 }
 
 bool Session::takeFile(std::string_view path, bool resetFirst, Dialogs& dialogs) {
@@ -150,18 +149,24 @@ void Session::afterLoading(bool zoomAll) {
     platform_.window.commandsChanged();
 }
 
-std::vector<std::string> Session::loadFiles(const std::vector<std::string>& paths,
-                                            bool resetFirst) {
+std::vector<std::string> Session::takeFiles(const std::vector<std::string>& paths, bool resetFirst,
+                                            Dialogs& dialogs) {
     std::vector<std::string> taken;
     const auto progress = platform_.dialogs.progress(texts_(TextId::OpeningFiles));
     for (std::size_t i = 0; i < paths.size(); ++i) {
         if (i > 0 && !progress->report(static_cast<int>(100 * i / paths.size()))) {
             break;
         }
-        if (takeFile(paths[i], resetFirst && taken.empty(), platform_.dialogs)) {
+        if (takeFile(paths[i], resetFirst && taken.empty(), dialogs)) {
             taken.push_back(paths[i]);
         }
     }
+    return taken;
+}
+
+std::vector<std::string> Session::loadFiles(const std::vector<std::string>& paths,
+                                            bool resetFirst) {
+    std::vector<std::string> taken = takeFiles(paths, resetFirst, platform_.dialogs);
     if (!taken.empty()) {
         afterLoading(true);
     }
@@ -176,6 +181,8 @@ void Session::reloadFiles() {
     const BoundingBox bound = view_.totalBound;
     const std::optional<int> current = files_.indexOf(files_.currentFile());
     LoadedFileList::Saved old = files_.takeAll();
+    const ValueRanges before = ranges_;
+    bool allRead = true;
     view_.totalBound = {};
     ranges_ = {};
     for (std::unique_ptr<File>& file : old.files) {
@@ -183,7 +190,11 @@ void Session::reloadFiles() {
         // What was made here and is on no disk stays as it is.
         if (path.empty() || !takeFile(path, false, platform_.dialogs)) {
             addFile(std::move(file), true, false);
+            allRead = false;
         }
+    }
+    if (!allRead) {
+        ranges_ = united(ranges_, before);
     }
     if (current && *current < files_.loadedCount()) {
         files_.setCurrentFile(&files_.file(*current));
@@ -201,8 +212,8 @@ void Session::plotPreview(bool save, bool zoomAll) {
     }
     if (save) {
         saved_.emplace(SavedMap{title_, ranges_, files_.takeAll(), view_.totalBound, hasFlowStops_,
-                                style_.graduated, lastTrackFile_, defaultScale_.content(),
-                                view_.place()});
+                                style_.graduated, style_.mode, lastKind_, lastTrackFile_,
+                                defaultScale_.content(), view_.place(), tools_.tool()});
         view_.totalBound = {};
         return;
     }
@@ -210,6 +221,8 @@ void Session::plotPreview(bool save, bool zoomAll) {
     saved_.reset();
     files_.putBack(std::move(saved.files));
     style_.graduated = saved.graduated;
+    style_.mode = saved.mode;
+    lastKind_ = saved.lastKind;
     lastTrackFile_ = std::move(saved.lastTrackFile);
     if (files_.empty()) {
         reset();
@@ -219,15 +232,18 @@ void Session::plotPreview(bool save, bool zoomAll) {
     hasFlowStops_ = saved.hasFlowStops;
     view_.totalBound = saved.totalBound;
     view_.fitView();
-    afterLoading(zoomAll);
+    afterLoading(false);
     loading_ = true;
     defaultScale_.setContent(std::move(saved.scale));  // with the classes that the user had made
     loading_ = false;
     showLegend();
-    if (!zoomAll) {
+    showTitle(saved.title);
+    tools_.setTool(saved.tool);
+    if (zoomAll) {
+        view_.ZoomUno();
+    } else {
         view_.goBackTo(saved.place);
     }
-    showTitle(saved.title);
 }
 
 }  // namespace campora

@@ -29,10 +29,13 @@ void loadMainWindow(Session& session, std::string_view programPath) {
     session.start();
 }
 
-void processCommandLine(Session& session, const StartRequest& request) {
+void openStartFiles(Session& session, const StartRequest& request) {
     if (!request.paths.empty()) {
         session.fileCommands().openPaths(request.paths, true);
     }
+}
+
+void applyReplaySwitches(Session& session, const StartRequest& request) {
     Replay& replay = session.replay();
     replay.repeat = request.repeat;
     if (request.realtime) {
@@ -41,6 +44,11 @@ void processCommandLine(Session& session, const StartRequest& request) {
     if (request.anim) {
         replay.play();
     }
+}
+
+void processCommandLine(Session& session, const StartRequest& request) {
+    openStartFiles(session, request);
+    applyReplaySwitches(session, request);
 }
 
 void unloadMainWindow(Session& session) {

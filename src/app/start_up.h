@@ -21,7 +21,11 @@ class Session;
 /// map. `programPath`: the running program, with its folder.
 void loadMainWindow(Session& session, std::string_view programPath);
 
-/// Opens what the command line names and starts the replay it asks for.
+/// Opens what the command line names.
+void openStartFiles(Session& session, const StartRequest& request);
+/// Sets the replay up as the command line asks and starts it; returns when it pauses or ends.
+void applyReplaySwitches(Session& session, const StartRequest& request);
+/// Both, one after the other.
 void processCommandLine(Session& session, const StartRequest& request);
 
 /// The last settings, and the end of a running replay.

@@ -100,17 +100,13 @@ void WorkOrdersBrowser::showPreview() {
     shown.insert(shown.end(), order->files.begin(), order->files.end());
     previewing_ = true;
     session_.plotPreview(true, false);
-    session_.reset();
-    for (const std::string& path : shown) {
-        session_.loadQuietly(path);
-    }
-    session_.view().ZoomUno();
+    session_.showQuietly(shown);
 }
 
 void WorkOrdersBrowser::endPreview() {
     if (previewing_) {
         previewing_ = false;
-        session_.plotPreview(false, true);
+        session_.plotPreview(false, false);
     }
 }
 

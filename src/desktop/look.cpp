@@ -19,9 +19,14 @@ public:
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* data) const override {
         // The desktop's pictures on buttons would not match the program's own.
-        return hint == SH_DialogButtonBox_ButtonsHaveIcons
-                   ? 0
-                   : QProxyStyle::styleHint(hint, option, widget, data);
+        if (hint == SH_DialogButtonBox_ButtonsHaveIcons) {
+            return 0;
+        }
+        // The toolkit's menu on scroll bars speaks another language and tells nobody anything.
+        if (hint == SH_ScrollBar_ContextMenu) {
+            return 0;
+        }
+        return QProxyStyle::styleHint(hint, option, widget, data);
     }
 };
 

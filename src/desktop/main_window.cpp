@@ -16,6 +16,7 @@
 #include <QScrollBar>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QTimer>
 #include <QToolBar>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -155,8 +156,12 @@ void MainWindow::connectMap() {
     connect(
         &map, &MapWidget::firstShown, this,
         [this] {
-            const PointerOverride busy(Qt::WaitCursor);
-            processCommandLine(*session_, std::exchange(startRequest_, {}));
+            const StartRequest request = std::exchange(startRequest_, {});
+            {
+                const PointerOverride busy(Qt::WaitCursor);
+                openStartFiles(*session_, request);
+            }
+            applyReplaySwitches(*session_, request);
         },
         Qt::QueuedConnection);
 }
@@ -196,7 +201,6 @@ void MainWindow::retranslate() {
 
 void MainWindow::start(const std::string& programPath, StartRequest request) {
     loadMainWindow(*session_, programPath);
-    replayBar_->setSpeed(session_->replay().speed());
     startRequest_ = std::move(request);
 }
 
@@ -328,7 +332,13 @@ void MainWindow::dropEvent(QDropEvent* event) {
         }
     }
     event->acceptProposedAction();
-    openPaths(paths, false);
+    // Afterwards: whoever holds the files waits for the answer to the drop. A replay may run by
+    // then.
+    QTimer::singleShot(0, this, [this, paths] {
+        if (fileMenuActive_) {
+            openPaths(paths, false);
+        }
+    });
 }
 
 }  // namespace campora

@@ -68,7 +68,7 @@ void MainWindow::editSummary() {
         editSummaryFile(source, desktop_.dialogs, session_->texts(), this);
         loadSummaryFile(source, summary);
     }
-    session_->showSummary();
+    session_->recalcErrorAreas();  // adds its entry again, and shows the summary
 }
 
 void MainWindow::copyImage() {
@@ -158,10 +158,14 @@ void MainWindow::fillRecentMenu() {
         QAction* entry =
             menu.addAction(QString("&%1 ").arg(++number) + menuText(fileNamePart(path)));
         entry->setToolTip(plainToolTip(toQt(path)));
-        connect(entry, &QAction::triggered, this, [this, path] {
-            const PointerOverride busy(Qt::WaitCursor);
-            session_->fileCommands().openRecent(path);
-        });
+        // Queued: opening fills this menu anew.
+        connect(
+            entry, &QAction::triggered, this,
+            [this, path] {
+                const PointerOverride busy(Qt::WaitCursor);
+                session_->fileCommands().openRecent(path);
+            },
+            Qt::QueuedConnection);
     }
     if (number == 0) {
         menu.addAction(toQt(session_->texts()(TextId::NoRecentFiles)))->setEnabled(false);

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+#include <QApplication>
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QGridLayout>
@@ -117,19 +118,24 @@ void QtDialogs::attach(QWidget& window, const Texts& texts) {
     texts_ = &texts;
 }
 
+QWidget* QtDialogs::owner() const {
+    QWidget* const top = QApplication::activeModalWidget();
+    return top != nullptr ? top : window_;
+}
+
 void QtDialogs::message(std::string_view text, MessageIcon icon, std::string_view caption) {
-    showBox(window_, text, icon, caption, QMessageBox::Ok, QMessageBox::Ok);
+    showBox(owner(), text, icon, caption, QMessageBox::Ok, QMessageBox::Ok);
 }
 
 bool QtDialogs::askYesNo(std::string_view text, MessageIcon icon, std::string_view caption) {
-    return showBox(window_, text, icon, caption, QMessageBox::Yes | QMessageBox::No,
+    return showBox(owner(), text, icon, caption, QMessageBox::Yes | QMessageBox::No,
                    QMessageBox::No) == QMessageBox::Yes;
 }
 
 std::string QtDialogs::inputBox(TextId prompt, std::string_view caption,
                                 std::string_view proposed) {
     const PointerOverride arrow(Qt::ArrowCursor);
-    QInputDialog dialog(window_);
+    QInputDialog dialog(owner());
     dialog.setWindowTitle(toQt(caption));
     dialog.setLabelText(toQt((*texts_)(prompt)));
     dialog.setTextValue(toQt(proposed));
@@ -138,7 +144,7 @@ std::string QtDialogs::inputBox(TextId prompt, std::string_view caption,
 
 Answer QtDialogs::askYesNoCancel(std::string_view text, MessageIcon icon,
                                  std::string_view caption) {
-    switch (showBox(window_, text, icon, caption,
+    switch (showBox(owner(), text, icon, caption,
                     QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel,
                     QMessageBox::Cancel)) {
     case QMessageBox::Yes:
@@ -152,7 +158,7 @@ Answer QtDialogs::askYesNoCancel(std::string_view text, MessageIcon icon,
 
 std::vector<std::string> QtDialogs::openFiles(const OpenRequest& request) {
     const PointerOverride arrow(Qt::ArrowCursor);
-    QFileDialog dialog(window_, toQt(request.caption), toQt(request.folder));
+    QFileDialog dialog(owner(), toQt(request.caption), toQt(request.folder));
     dialog.setFileMode(request.several ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
     dialog.setNameFilters(filterTexts(request.filters));
     prepare(dialog);
@@ -171,7 +177,7 @@ std::vector<std::string> QtDialogs::openFiles(const OpenRequest& request) {
 
 SaveAnswer QtDialogs::saveFile(const SaveRequest& request) {
     const PointerOverride arrow(Qt::ArrowCursor);
-    QFileDialog dialog(window_, toQt(request.caption), toQt(request.folder));
+    QFileDialog dialog(owner(), toQt(request.caption), toQt(request.folder));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     const QStringList filters = filterTexts(request.filters);
@@ -198,7 +204,7 @@ SaveAnswer QtDialogs::saveFile(const SaveRequest& request) {
 
 std::string QtDialogs::chooseFolder(const FolderRequest& request) {
     const PointerOverride arrow(Qt::ArrowCursor);
-    QFileDialog dialog(window_, toQt(request.caption), toQt(request.folder));
+    QFileDialog dialog(owner(), toQt(request.caption), toQt(request.folder));
     dialog.setFileMode(QFileDialog::Directory);
     dialog.setOption(QFileDialog::ShowDirsOnly);
     if (!request.entry.empty()) {
@@ -211,7 +217,7 @@ std::string QtDialogs::chooseFolder(const FolderRequest& request) {
 
 std::optional<Color> QtDialogs::chooseColor(Color current) {
     const PointerOverride arrow(Qt::ArrowCursor);
-    QColorDialog dialog(QColor(current.red(), current.green(), current.blue()), window_);
+    QColorDialog dialog(QColor(current.red(), current.green(), current.blue()), owner());
     dialog.setWindowTitle(toQt((*texts_)(TextId::ChooseColor)));
     // The program's words stand on its own dialog; the desktop's would be in another language.
     dialog.setOption(QColorDialog::DontUseNativeDialog);
@@ -223,7 +229,7 @@ std::optional<Color> QtDialogs::chooseColor(Color current) {
 }
 
 std::unique_ptr<Progress> QtDialogs::progress(std::string_view caption) {
-    return std::make_unique<QtProgress>(window_, toQt(caption),
+    return std::make_unique<QtProgress>(owner(), toQt(caption),
                                         toQt((*texts_)(TextId::ButtonCancel)));
 }
 

@@ -31,6 +31,9 @@ public:
     [[nodiscard]] std::unique_ptr<Progress> progress(std::string_view caption) override;
 
 private:
+    /// The window that a new box stands over: a dialog that is open already, else the main window.
+    [[nodiscard]] QWidget* owner() const;
+
     QWidget* window_ = nullptr;
     const Texts* texts_ = nullptr;
 };

@@ -75,7 +75,8 @@ ReplayBar::ReplayBar(QWidget* parent)
 void ReplayBar::setState(const ReplayState& state) {
     const bool moved = state.position != state_.position;
     const bool othersSame = state.available == state_.available &&
-                            state.playing == state_.playing && state.maximum == state_.maximum;
+                            state.playing == state_.playing && state.maximum == state_.maximum &&
+                            state.speed == state_.speed;
     state_ = state;
     if (othersSame && moved && sinceShown_.isValid() && sinceShown_.elapsed() < kFrame) {
         if (!nextShown_.isActive()) {
@@ -84,6 +85,8 @@ void ReplayBar::setState(const ReplayState& state) {
         return;
     }
     play_->setIcon(QIcon(state.playing ? ":/icons/pause.svg" : ":/icons/play.svg"));
+    const QSignalBlocker silent(speed_);
+    speed_->setValue(state.speed);
     enableControls();
     showPosition();
 }
@@ -116,10 +119,6 @@ void ReplayBar::setSpeedReadout(const QString& text) {
 void ReplayBar::setSpeedShown(bool shown) {
     speedCaption_->setVisible(shown);
     speedValue_->setVisible(shown);
-}
-
-void ReplayBar::setSpeed(int speed) {
-    speed_->setValue(speed);
 }
 
 void ReplayBar::retranslate(const Texts& texts) {

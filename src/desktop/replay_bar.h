@@ -30,7 +30,6 @@ public:
     /// Empty: nothing is read out.
     void setSpeedReadout(const QString& text);
     void setSpeedShown(bool shown);
-    void setSpeed(int speed);
     void retranslate(const Texts& texts);
 
 signals:

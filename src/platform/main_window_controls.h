@@ -88,6 +88,8 @@ struct ReplayState {
     /// In elements.
     std::int32_t maximum = 0;
     std::int32_t position = 0;
+    /// Position of the speed slider.
+    int speed = 0;
 
     bool operator==(const ReplayState&) const = default;
 };

@@ -60,15 +60,6 @@ std::optional<ValueRange<float>> channelDoses(std::size_t channel, std::span<Fil
     return range;
 }
 
-std::optional<ValueRange<float>> unite(std::optional<ValueRange<float>> range,
-                                       const std::optional<ValueRange<float>>& other) {
-    if (other) {
-        extend(range, other->least);
-        extend(range, other->greatest);
-    }
-    return range;
-}
-
 /// Whether the doses are seeds or the like: those of seeders and of machines that do not say what
 /// they are.
 bool countsUnits(const std::variant<GphTrack::RptRecords, GphTrack::NbrRecords>& records) {
@@ -93,7 +84,7 @@ void setUpDoses(ColorScale& scale, const MapStyle& style, const ValueRanges& ran
                            ? ranges.dose
                            : channelDoses(static_cast<std::size_t>(style.selectedChannel), files);
     const bool perMinute = style.by == GraduatedBy::Minute && ranges.flow.has_value();
-    const auto range = perMinute ? ranges.flow : unite(doses, ranges.litres);
+    const auto range = perMinute ? ranges.flow : united(doses, ranges.litres);
     scale.isDate = false;
     scale.allowClassEdit = true;
     scale.unit = perMinute ? kLitresPerMinute : doseUnit(files);
@@ -105,7 +96,7 @@ void setUpDoses(ColorScale& scale, const MapStyle& style, const ValueRanges& ran
     }
 }
 
-void setUpDates(ColorScale& scale, std::span<File* const> files) {
+bool setUpDates(ColorScale& scale, std::span<File* const> files) {
     SetList days;
     std::optional<std::int32_t> last;
     forEachReportRecord(files, [&](const TrackDataRPT& record) {
@@ -118,6 +109,9 @@ void setUpDates(ColorScale& scale, std::span<File* const> files) {
             last = day;
         }
     });
+    if (days.count() == 0) {
+        return false;
+    }
     scale.isDate = true;
     scale.allowClassEdit = false;
     scale.unit.clear();
@@ -126,6 +120,7 @@ void setUpDates(ColorScale& scale, std::span<File* const> files) {
     } else {
         scale.loadFromSetList(days, 0);
     }
+    return true;
 }
 
 /// The distinct specified doses in one channel, ascending.
@@ -143,9 +138,15 @@ std::vector<std::int32_t> specifiedDoses(std::size_t channel, std::span<File* co
     return specified;
 }
 
-void setUpErrors(ColorScale& scale, const MapStyle& style, std::span<File* const> files) {
+void setUpErrors(ColorScale& scale, const MapStyle& style, const ValueRanges& ranges,
+                 std::span<File* const> files) {
     const std::vector<std::int32_t> specified =
         specifiedDoses(static_cast<std::size_t>(style.selectedChannel), files);
+    if (specified.empty()) {
+        setUpDoses(scale, style, ranges, files);  // no record has that channel
+        scale.allowClassEdit = false;
+        return;
+    }
     scale.isDate = false;
     scale.allowClassEdit = false;
     scale.unit = doseUnit(files);
@@ -162,16 +163,18 @@ void setUpErrors(ColorScale& scale, const MapStyle& style, std::span<File* const
 
 }  // namespace
 
-void setUpColorScale(ColorScale& scale, const MapStyle& style, const ValueRanges& ranges,
+bool setUpColorScale(ColorScale& scale, const MapStyle& style, const ValueRanges& ranges,
                      std::span<File* const> files) {
     if (style.mode == ColorMode::Date) {
-        setUpDates(scale, files);
-    } else if (style.mode == ColorMode::Error && style.selectedChannel >= 0) {
-        setUpErrors(scale, style, files);
+        return setUpDates(scale, files);
+    }
+    if (style.mode == ColorMode::Error && style.selectedChannel >= 0) {
+        setUpErrors(scale, style, ranges, files);
     } else if (style.mode != ColorMode::Error || scale.isDate) {
         // The error map of the total keeps the classes that are there, unless they are days.
         setUpDoses(scale, style, ranges, files);
     }
+    return true;
 }
 
 }  // namespace campora

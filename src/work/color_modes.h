@@ -14,8 +14,9 @@ namespace campora {
 
 /// Sets a scale up for the colouring mode in `style`: classes of dose or flow from the least to the
 /// greatest loaded value, a class a day in the date map, a class a specified dose in the error map.
-/// Without loaded values the scale keeps its classes.
-void setUpColorScale(ColorScale& scale, const MapStyle& style, const ValueRanges& ranges,
+/// Without loaded values the scale keeps its classes. False, with the scale as it was, for a date
+/// map of work without dates.
+bool setUpColorScale(ColorScale& scale, const MapStyle& style, const ValueRanges& ranges,
                      std::span<File* const> files);
 
 }  // namespace campora

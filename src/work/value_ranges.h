@@ -36,10 +36,28 @@ void extend(std::optional<ValueRange<T>>& range, T value) {
         range = ValueRange<T>{value, value};
         return;
     }
-    if (value < range->least)
+    if (value < range->least) {
         range->least = value;
-    if (value > range->greatest)
+    }
+    if (value > range->greatest) {
         range->greatest = value;
+    }
+}
+
+/// The range that holds both; a range that is not set holds nothing.
+template <typename T>
+[[nodiscard]] std::optional<ValueRange<T>> united(std::optional<ValueRange<T>> range,
+                                                  const std::optional<ValueRange<T>>& other) {
+    if (other) {
+        extend(range, other->least);
+        extend(range, other->greatest);
+    }
+    return range;
+}
+
+[[nodiscard]] inline ValueRanges united(const ValueRanges& a, const ValueRanges& b) {
+    return {united(a.flow, b.flow), united(a.litres, b.litres), united(a.dose, b.dose),
+            united(a.date, b.date)};
 }
 
 }  // namespace campora

@@ -56,6 +56,8 @@ TEST(FileCommands, CancellingAPreviewPutsEverythingBack) {
     CommandDesk desk;
     desk.session.loadFile(desk.report("lote.rpt"), false, true);
     desk.session.style().graduated = false;
+    desk.session.modes().mnuColorDateMap();
+    desk.session.tools().setTool(MapTools::Tool::Ruler);
     desk.session.defaultScale().setClassNumber(3);
     desk.session.view().zoomIn();
     const ViewTransform view = desk.session.view().transform();
@@ -63,7 +65,8 @@ TEST(FileCommands, CancellingAPreviewPutsEverythingBack) {
     const ValueRanges ranges = desk.session.ranges();
 
     const std::string broken = desk.folder.write("roto.rpt", "no es un reporte");
-    desk.dialogs.openSelections = {{desk.report("nuevo.rpt", 9000)}, {broken}, {}};
+    desk.dialogs.openSelections = {
+        {desk.report("nuevo.rpt", 9000)}, {desk.track("log0001.nbr", 5)}, {broken}, {}};
     desk.dialogs.openAnswers = {{}};
     desk.commands.fileOpen();
 
@@ -71,6 +74,8 @@ TEST(FileCommands, CancellingAPreviewPutsEverythingBack) {
     EXPECT_EQ(desk.window.title, title);
     EXPECT_EQ(desk.session.ranges(), ranges);
     EXPECT_FALSE(desk.session.style().graduated);
+    EXPECT_EQ(desk.session.style().mode, ColorMode::Date) << "a track has no dates";
+    EXPECT_EQ(desk.session.tools().tool(), MapTools::Tool::Ruler);
     EXPECT_EQ(desk.session.defaultScale().count(), 3);
     EXPECT_EQ(desk.session.view().transform().mapToScreen(-60, -33), view.mapToScreen(-60, -33));
     EXPECT_TRUE(desk.dialogs.messages.empty()) << "a preview says nothing";
@@ -111,6 +116,7 @@ TEST(FileCommands, StepsThroughTheFilesOfTheFolder) {
     desk.commands.openPaths({desk.report("a.rpt")}, true);
     const std::pair<int, const char*> steps[] = {
         {-1, "a.rpt"}, {1, "B.rpt"}, {1, "c.rpt"}, {1, "c.rpt"}, {-1, "B.rpt"}};
+    desk.folder.write("bb.rpt", "roto: no debe cerrar el paso");
     for (const auto& [step, shown] : steps) {
         desk.commands.stepInFolder(step);
         EXPECT_EQ(desk.listed(), Names{shown});
@@ -130,6 +136,7 @@ TEST(FileCommands, ReloadKeepsWhatCannotBeReadAgain) {
     EXPECT_EQ(desk.window.selected, 1);
     EXPECT_EQ(desk.dialogs.messages.size(), 1U);
     EXPECT_NEAR(desk.session.ranges().dose->greatest, 502, 0.01);
+    EXPECT_EQ(desk.session.ranges().dose->least, 0) << "of the one that stayed";
 }
 
 TEST(FileCommands, CancellingSeveralKeepsThoseThatWereOpened) {
@@ -163,6 +170,12 @@ TEST(FileCommands, SavesTheTrackAndItsSummaryUnderAnotherName) {
     desk.dialogs.yesNoAnswers = {false};
     desk.commands.saveAs();
     EXPECT_EQ(contentOf(desk.folder.file("norte.txt")), "de otro") << "not replaced unasked";
+
+    const std::string other = desk.folder.write("Log0042.nbr", "de otro");
+    desk.dialogs.saveAnswers = {{desk.folder.file("Wrk0042.txt"), 0}};
+    desk.commands.saveAs();
+    EXPECT_EQ(contentOf(other), "de otro") << "the dialog asked about another name";
+    EXPECT_EQ(contentOf(desk.folder.file("Wrk0042.txt.nbr")), contentOf(track));
 
     desk.dialogs.saveAnswers = {{desk.folder.file("no/such/folder/x.nbr"), 0}};
     desk.commands.saveAs();

@@ -84,7 +84,7 @@ struct Desk {
         };
     }
     [[nodiscard]] ReplayState at(std::int32_t position, bool playing = false) const {
-        return {true, playing, 8, position};
+        return {true, playing, 8, position, replay.speed()};
     }
 
     RecordingCanvas canvas{{1000, 500}};

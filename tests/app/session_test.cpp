@@ -398,6 +398,32 @@ TEST(Session, APreviewOverAnEmptyMapEndsInAnEmptyMap) {
     EXPECT_EQ(desk.session.ranges(), ValueRanges{});
 }
 
+TEST(Session, InformationOnAPointSelectsItsFile) {
+    SessionDesk desk;
+    desk.session.start();
+    desk.session.loadFiles({desk.report("uno.rpt"), desk.track("log0001.nbr", 5)}, true);
+    desk.session.selectFile(1);
+    desk.session.loadFileList(true);
+    desk.session.tools().setTool(MapTools::Tool::Info);
+    const CanvasPoint middle{desk.canvas.size().width / 2, desk.canvas.size().height / 2};
+    desk.session.view().zoomToBox(desk.session.files().file(0).File_bound());
+    desk.session.tools().press(MapTools::Button::Left, middle);
+    desk.session.tools().release(MapTools::Button::Left, middle);
+    ASSERT_TRUE(desk.window.overlay.info.has_value());
+    EXPECT_EQ(desk.window.selected, 0);
+}
+
+TEST(Session, TheDateMapLeavesWithTheLastDate) {
+    SessionDesk desk;
+    desk.session.start();
+    desk.session.loadFiles({desk.report("uno.rpt"), desk.track("log0001.nbr", 5)}, true);
+    desk.session.modes().mnuColorDateMap();
+    desk.session.selectFile(0);
+    desk.session.removeCurrentFile();
+    EXPECT_EQ(desk.session.style().mode, ColorMode::Dose);
+    EXPECT_FALSE(desk.session.defaultScale().isDate);
+}
+
 TEST(Session, CopiesTheSummaryAsLines) {
     SessionDesk desk;
     desk.session.start();
