@@ -91,7 +91,7 @@ std::vector<FileFilter> openFilters(const Texts& texts) {
         filters.push_back({std::string(texts(format.filterCaption)), {patternOf(format)}});
     }
     // A project is known by its first line; this is the ending that they mostly have.
-    filters.front().patterns.push_back("*.fsp");
+    filters.front().patterns.emplace_back("*.fsp");
     filters.push_back({std::string(texts(TextId::FilterProjects)), {"*.fsp"}});
     filters.push_back({std::string(texts(TextId::FilterAllFiles)), {"*"}});
     return filters;

@@ -30,7 +30,7 @@ WorkKind kindOfEntry(int index) {
 
 /// The first entry is the plain text; the others name the console that reports the alarm.
 std::string alarmCaption(const Texts& texts, int index) {
-    const std::string text(alarmText(texts, kindOfEntry(index), index % kBits));
+    std::string text(alarmText(texts, kindOfEntry(index), index % kBits));
     if (text.empty() || index == 0) {
         return text;
     }

@@ -68,11 +68,8 @@ QPalette lightPalette() {
 }  // namespace
 
 void applyLook() {
-    // The application owns the style from here on, which the analyzer cannot see.
-    // NOLINTBEGIN(clang-analyzer-cplusplus.NewDeleteLeaks)
     QApplication::setStyle(new Style);
     QApplication::setPalette(lightPalette());
-    // NOLINTEND(clang-analyzer-cplusplus.NewDeleteLeaks)
     QApplication::setWindowIcon(QIcon(":/icons/campora.svg"));
 }
 

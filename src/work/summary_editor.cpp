@@ -128,7 +128,7 @@ bool SummaryEditor::accept() {
         return true;
     }
     const std::string text = encodeSummary(rows_.rows());
-    const bool marked = byteOrderMark_.size() > 0 && !unread_.starts_with(kByteOrderMark);
+    const bool marked = !byteOrderMark_.empty() && !unread_.starts_with(kByteOrderMark);
     const std::string bytes =
         (marked ? byteOrderMark_ : std::string()) + (utf8_ ? text : toWindows1252(text)) + unread_;
     if (const std::optional<Failure> failure =
