@@ -1,0 +1,212 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+// Prescriptions made by the batch program: of small maps, and of the shared samples, where they
+// are there, byte for byte as other makers have them.
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include <QByteArray>
+#include <QCryptographicHash>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include "base/files.h"
+#include "base/paths.h"
+#include "cli/arguments.h"
+#include "cli/program.h"
+#include "support/shape_bytes.h"
+#include "support/shared_samples.h"
+#include "support/temp_folder.h"
+
+namespace campora {
+namespace {
+
+using nlohmann::json;
+using testing::HasSubstr;
+using Words = std::vector<std::string>;
+
+struct Outcome {
+    int status = 0;
+    std::string out;
+    std::string boxes;
+};
+
+Outcome run(const Words& words) {
+    std::ostringstream out;
+    std::ostringstream boxes;
+    const int status = runProgram(words, "", {out, boxes});
+    return {status, out.str(), boxes.str()};
+}
+
+/// Two squares of 111 m at the equator side by side, doses 10 and 20; NOMBRE is no number.
+std::string writeMap(const TempFolder& folder, const std::string& name) {
+    ShapeBytes shapes(5);
+    DbaseBytes table({{"DOSIS", 'N', 10}, {"NOMBRE", 'C', 10}});
+    for (int i = 0; i < 2; ++i) {
+        const double x = -60 + 0.001 * i;
+        shapes.addPolygon({{{x, 0}, {x, 0.001}, {x + 0.001, 0.001}, {x + 0.001, 0}, {x, 0}}});
+        table.addRow({std::to_string(10 + 10 * i), "lote"});
+    }
+    folder.write(name + ".dbf", table.bytes());
+    return folder.write(name + ".shp", shapes.bytes());
+}
+
+TEST(Prescribe, TakesItsOrdersFromTheCommandLine) {
+    const Result<Arguments> parsed = parseArguments(
+        Words{"prescribe", "--channel", "a,b.SHP,DOSIS", "--channel", "c.shp,SEMILLA,12,5",
+              "--channel", "d.shp,X,", "--format", "vrt", "--resolution", "7,5", "--oversize",
+              "change", "--name", "N", "--description", "D", "-o", "out.vrt"});
+    ASSERT_TRUE(parsed);
+    const PrescriptionOrder& order = parsed->prescription;
+    EXPECT_EQ(order.channels, (std::vector<ChannelSource>{{"a,b.SHP", "DOSIS", std::nullopt},
+                                                          {"c.shp", "SEMILLA", "12,5"},
+                                                          {"d.shp", "X", ""}}));
+    EXPECT_EQ(order.kind, GridKind::Vrt);
+    EXPECT_EQ(order.resolution, 7.5F);
+    EXPECT_EQ(order.oversize, Answer::Yes);
+    EXPECT_EQ(order.name + order.description, "ND");
+}
+
+TEST(Prescribe, AWrongCommandLineIsRefused) {
+    const Words rows[] = {
+        {"prescribe", "-o", "a.pre"},
+        {"prescribe", "--channel", "a.shp,D"},
+        {"prescribe", "--channel", "a.shp", "-o", "a.pre"},
+        {"prescribe", "--channel", "a.dbf,D", "-o", "a.pre"},
+        {"prescribe", "--channel", "a.shp,,5", "-o", "a.pre"},
+        {"prescribe", "--channel", "a.shp,D", "-o", "a.rpt"},
+        {"prescribe", "--channel", "a.shp,D", "-o", "a.vrt"},
+        {"prescribe", "--channel", "a.shp,D", "-o", "a.vrt", "--format", "vrt"},
+        {"prescribe", "--channel", "a.shp,D", "-o", "a.pre", "b.shp"},
+        {"prescribe", "--channel", "a.shp,D", "-o", "a.pre", "--oversize", "no"},
+    };
+    for (const Words& words : rows) {
+        EXPECT_EQ(run(words).status, 2) << testing::PrintToString(words);
+    }
+}
+
+TEST(Prescribe, SaysWhatItWroteAndAnswersAsItIsTold) {
+    const TempFolder folder;
+    const std::string map = writeMap(folder, "mapa");
+    struct Row {
+        const char* name;
+        const char* channel;
+        const char* size;
+        const char* oversize;
+        int status;
+        const char* says;
+    };
+    const Row rows[] = {
+        {"as proposed", "DOSIS", "10", "keep", 0, "Canal 1: 390 celdas con dosis, 3.9 ha, "},
+        {"no fallback", "DOSIS,", "10", "keep", 0, "Canal 1: 242 celdas con dosis, 2.42 ha, "},
+        {"a size of 0", "DOSIS", "0", "keep", 1, "mayor que 0"},
+        {"no size", "DOSIS", "", "keep", 1, ""},
+        {"no such column", "dosis", "10", "keep", 1, "mapa.shp,dosis"},
+        {"texts", "NOMBRE", "10", "keep", 1, "contiene valores no numéricos"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        const std::string out = folder.file("out.pre");
+        const Outcome outcome = run({"prescribe", "--channel", map + "," + row.channel, "--swath",
+                                     row.size, "--oversize", row.oversize, "-o", out});
+        EXPECT_EQ(outcome.status, row.status);
+        EXPECT_THAT(outcome.boxes, HasSubstr(row.says));
+        EXPECT_EQ(std::filesystem::exists(out), row.status == 0);
+        std::filesystem::remove(out);
+    }
+    const Outcome missing =
+        run({"prescribe", "--channel", folder.file("no.shp") + ",D", "-o", folder.file("out.pre")});
+    EXPECT_EQ(missing.status, 1);
+    EXPECT_THAT(missing.boxes, HasSubstr("no.shp: no existe"));
+}
+
+TEST(Prescribe, TheSizeQuestionIsAnsweredAsItIsTold) {
+    const TempFolder folder;
+    const std::string map = writeMap(folder, "mapa");
+    for (const auto& [answer, resolution] :
+         {std::pair("keep", 0.5), std::pair("change", 1.0), std::pair("cancel", 0.0)}) {
+        SCOPED_TRACE(answer);
+        const std::string out = folder.file("out.vrt");
+        const Outcome made = run({"prescribe", "--format", "vrt", "--resolution", "0.5",
+                                  "--channel", map + ",DOSIS", "--oversize", answer, "-o", out});
+        EXPECT_EQ(made.status, resolution > 0 ? 0 : 1);
+        EXPECT_THAT(made.boxes, HasSubstr("demasiado grande. | En este caso"));
+        if (resolution > 0) {
+            const json info = json::parse(run({"info", "--json", out}).out);
+            EXPECT_EQ(info["files"][0]["layers"][0]["cell"], resolution);
+        }
+        std::filesystem::remove(out);
+    }
+}
+
+std::string sha256(const std::string& path) {
+    const Result<FileBytes> file = readFile(path);
+    if (!file) {
+        return "not there";
+    }
+    const std::string_view text = file->text();
+    return QCryptographicHash::hash(QByteArray(text.data(), static_cast<qsizetype>(text.size())),
+                                    QCryptographicHash::Sha256)
+        .toHex()
+        .toStdString();
+}
+
+/// What `info --json` says, with paths reduced to the names of files.
+json infoOf(const std::string& path) {
+    json info = json::parse(run({"info", "--json", path}).out);
+    for (json& file : info["files"]) {
+        file["path"] = fileNamePart(file["path"].get<std::string>());
+    }
+    return info;
+}
+
+TEST(SharedPrescriptions, AreMadeByteForByte) {
+    const auto folder = sharedSample("samples/presc");
+    if (!folder) {
+        GTEST_SKIP() << "no shared samples";
+    }
+    const json all = json::parse(std::ifstream(*folder + "/expected.json"));
+    for (const json& prescription : all["prescriptions"]) {
+        for (const std::string kind : {"pre", "vrt"}) {
+            SCOPED_TRACE(prescription["name"].get<std::string>() + " " + kind);
+            const json& expected = prescription[kind];
+            const TempFolder out;
+            Words words{"prescribe"};
+            for (const std::string word : expected["args"]) {
+                const bool isMap = words.back() == "--channel";
+                words.push_back(isMap ? *folder + "/" + word : word);
+            }
+            words.insert(words.end(), {"-o", out.file("out." + kind)});
+            EXPECT_EQ(run(words).status, expected["exit"]);
+            for (const auto& [ending, file] : expected["files"].items()) {
+                EXPECT_EQ(sha256(out.file("out." + ending)), file["sha256"]);
+            }
+            json info = infoOf(out.file("out." + kind));
+            json& summary = info["files"][0]["summary"];
+            const std::size_t channels = info["files"][0]["layers"][0]["channels"].size();
+            ASSERT_GT(summary.size(), channels);
+            summary.erase(summary.end() - static_cast<std::ptrdiff_t>(channels), summary.end());
+            EXPECT_EQ(info, expected["info"]);
+        }
+    }
+}
+
+TEST(SharedPrescriptions, MapsAreToldAsExpected) {
+    const auto folder = sharedSample("samples/presc");
+    if (!folder) {
+        GTEST_SKIP() << "no shared samples";
+    }
+    const json all = json::parse(std::ifstream(*folder + "/expected.json"));
+    for (const auto& [name, expected] : all["info"].items()) {
+        EXPECT_TRUE(infoOf(*folder + "/" + name) == expected) << name;
+    }
+}
+
+}  // namespace
+}  // namespace campora
