@@ -46,7 +46,11 @@ void drawMap(Session& session, const Arguments& arguments) {
     MapStyle style = arguments.style;
     style.scale = session.style().scale;
     session.style() = style;
-    session.refreshColorScale();
+    if (style.selectedChannel >= 0) {
+        session.modes().mnuColorScaleSelCH(style.selectedChannel);  // prescriptions turn to it too
+    } else {
+        session.refreshColorScale();
+    }
     session.view().ZoomUno();
     if (arguments.overlay) {
         session.view().DrawMap();

@@ -12,6 +12,8 @@
 
 #include <QByteArray>
 #include <QCryptographicHash>
+#include <QImage>
+#include <QPoint>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -124,6 +126,35 @@ TEST(Prescribe, SaysWhatItWroteAndAnswersAsItIsTold) {
         run({"prescribe", "--channel", folder.file("no.shp") + ",D", "-o", folder.file("out.pre")});
     EXPECT_EQ(missing.status, 1);
     EXPECT_THAT(missing.boxes, HasSubstr("no.shp: no existe"));
+}
+
+TEST(Prescribe, EveryChannelOfAPrescriptionCanBeDrawn) {
+    const TempFolder folder;
+    const std::string map = writeMap(folder, "mapa");
+    const std::string grid = folder.file("out.pre");
+    ASSERT_EQ(run({"prescribe", "--channel", map + ",DOSIS,", "--channel", map + ",DOSIS,7",
+                   "--swath", "10", "-o", grid})
+                  .status,
+              0);
+    const std::string picture = folder.file("mapa.png");
+    struct Row {
+        const char* channel;
+        bool margin;  ///< whether cells without a zone have a colour
+        const char* says;
+    };
+    for (const Row& row : {Row{"1", false, ""}, Row{"2", true, ""},
+                           Row{"3", false, "Advertencia: out.pre no tiene un Canal 3\n"}}) {
+        SCOPED_TRACE(row.channel);
+        const Outcome outcome = run({"render", grid, "--channel", row.channel, "--no-overlay",
+                                     "--size", "260x150", "-o", picture});
+        EXPECT_EQ(outcome.status, 0);
+        EXPECT_EQ(outcome.boxes, row.says);
+        const QImage image(QString::fromStdString(picture));
+        ASSERT_FALSE(image.isNull());
+        const QPoint corner(image.width() / 2, image.height() / 7);
+        EXPECT_EQ(image.pixel(corner) != qRgb(255, 255, 255), row.margin);
+        EXPECT_NE(image.pixel(image.rect().center()), qRgb(255, 255, 255));
+    }
 }
 
 TEST(Prescribe, TheSizeQuestionIsAnsweredAsItIsTold) {
