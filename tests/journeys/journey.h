@@ -13,6 +13,7 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QSettings>
 #include <QStatusBar>
 #include <QTest>
 #include <QTimer>
@@ -24,15 +25,22 @@
 #include "desktop/program.h"
 #include "desktop/qt_text.h"
 #include "desktop/side_panel.h"
+#include "support/temp_folder.h"
 
 namespace campora {
 
 /// The real window on a real screen, with the program's own dialogs and settings.
 class Journey : public testing::Test {
 protected:
+    /// Settings of its own for each journey.
+    TempFolder settingsFolder;
     std::unique_ptr<Program> program;
 
-    void SetUp() override { start(); }
+    void SetUp() override {
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
+                           toQt(settingsFolder.path()));
+        start();
+    }
 
     void start() {
         program.reset();
@@ -51,6 +59,7 @@ protected:
         auto* poll = new QTimer(&window());
         QObject::connect(poll, &QTimer::timeout, poll, [poll, act] {
             if (auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget())) {
+                poll->stop();
                 poll->deleteLater();
                 act(*dialog);
             }
