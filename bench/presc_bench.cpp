@@ -14,6 +14,7 @@
 #include "platform/quiet_dialogs.h"
 #include "presc/gph_presc.h"
 #include "support/shared_samples.h"
+#include "support/zone_map.h"
 
 namespace campora {
 
@@ -42,6 +43,26 @@ void openSpreadMap(benchmark::State& state) {
     }
 }
 BENCHMARK(openSpreadMap)->Unit(benchmark::kMillisecond);
+
+/// A field of square zones, so many in all.
+void openZones(benchmark::State& state) {
+    constexpr int kRow = 100;
+    constexpr double kSide = 0.0001;
+    ZoneMap map{{"DOSIS"}, {}};
+    for (int i = 0; i < state.range(0); ++i) {
+        map.zones.push_back({{squareAt({kSide * (i % kRow), kSide * (i / kRow)}, kSide)},
+                             {std::to_string(i % 20)}});
+    }
+    const TempFolder folder;
+    const std::string path = map.write(folder, "lote");
+    QuietDialogs dialogs;
+    for (auto _ : state) {
+        GphPresc presc;
+        benchmark::DoNotOptimize(presc.loadFromFile(path, dialogs, Texts()));
+    }
+    state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+BENCHMARK(openZones)->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMillisecond);
 
 void chooseDoseColumn(benchmark::State& state) {
     GphPresc presc;

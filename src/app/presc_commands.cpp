@@ -143,7 +143,11 @@ void PrescCommands::mnuFileSaveVrt() {
 
 void PrescCommands::changeDose(LonLat position) {
     GphPrescVex* const open = prescription();
-    if (open == nullptr || !askDose) {
+    if (open == nullptr) {
+        session_.tools().setTool(MapTools::Tool::None);  // it was removed from the list
+        return;
+    }
+    if (!askDose) {
         return;
     }
     GphPresc& layer = open->channel(open->currentChannel());

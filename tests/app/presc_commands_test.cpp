@@ -98,6 +98,12 @@ TEST_F(PrescCommandsTest, TheDoseToolChangesAZoneOfTheCurrentChannel) {
     const SummaryRow product = desk.window.summary.back();
     EXPECT_EQ(product.property, "Producto total (C 2)");
     EXPECT_NEAR(std::stod(product.value), 13.5 * 103.95, 1);
+
+    ASSERT_TRUE(desk.session.loadFile(desk.folder.file("canal1.shp"), false, true));
+    desk.session.removeFile(commands.prescription());
+    clickOn(0);
+    EXPECT_EQ(asked.size(), 2U);
+    EXPECT_EQ(desk.session.tools().tool(), MapTools::Tool::None);
 }
 
 TEST_F(PrescCommandsTest, TheLegendChangesADoseAndTheSummaryFollows) {
