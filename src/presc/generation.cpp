@@ -243,6 +243,7 @@ ChannelZones zonesOf(const GphPresc& presc) {
 
 std::vector<ChannelZones> zonesOf(const GphPrescVex& prescription) {
     std::vector<ChannelZones> channels;
+    channels.reserve(static_cast<std::size_t>(prescription.channelsCnt()));
     for (int i = 0; i < prescription.channelsCnt(); ++i) {
         channels.push_back(zonesOf(prescription.channel(i)));
     }
