@@ -24,7 +24,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         // One row before and one behind those that are there; a narrow row makes many of them.
         constexpr std::int32_t kMost = 1000;
         for (std::int32_t row = -1; row <= std::min(table.rowCount(), kMost); ++row) {
-            (void)table.isDeleted(row);
             for (int column = 0; column < table.fieldCount(); ++column) {
                 const CellValue value = table.value(row, column);
                 const auto* const text = std::get_if<std::string>(&value);

@@ -96,6 +96,11 @@ void DoseColumns::warnOfDistance() const {
     }
 }
 
+bool DoseColumns::isWhole(int row) const {
+    const Row& shown = at(row);
+    return shown.presc && shown.presc->isWhole();
+}
+
 std::vector<std::string> DoseColumns::columns(int row) const {
     const Row& shown = at(row);
     return shown.presc ? shown.presc->columnNames() : std::vector<std::string>();

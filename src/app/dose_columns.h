@@ -44,6 +44,8 @@ public:
     /// Asks for the row's map and reads it; warns of maps that lie far from each other. A map that
     /// cannot be read, which is said, leaves the row without one.
     void chooseFile(int row);
+    /// Whether the row has a map, and all of it: one that is damaged stays as far as it was read.
+    [[nodiscard]] bool isWhole(int row) const;
     /// The path chosen last; may be empty.
     [[nodiscard]] const std::string& path(int row) const { return at(row).path; }
     /// In the order of the table; none without a map.

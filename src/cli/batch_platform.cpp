@@ -4,6 +4,7 @@
 #include "cli/batch_platform.h"
 
 #include "base/text.h"
+#include "presc/gph_presc.h"
 
 namespace campora {
 
@@ -60,6 +61,11 @@ bool BatchSession::openFiles() {
     bool all = true;
     for (const std::string& path : arguments_.files) {
         all = session_.loadFile(path, false, false) && all;
+    }
+    const LoadedFileList& files = session_.files();
+    for (int i = 0; i < files.loadedCount(); ++i) {
+        const auto* const zones = dynamic_cast<const GphPresc*>(&files.file(i));
+        all = all && (zones == nullptr || zones->isWhole());
     }
     return all;
 }

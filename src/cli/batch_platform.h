@@ -149,7 +149,7 @@ public:
 
     [[nodiscard]] Session& session() { return session_; }
     /// Opens the files of the command line in order, without drawing them; false when one was not
-    /// taken.
+    /// taken, or only as far as it is sound.
     [[nodiscard]] bool openFiles();
 
 private:

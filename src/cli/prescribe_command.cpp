@@ -74,6 +74,9 @@ bool addChannel(DoseColumns& columns, int row, const ChannelSource& source,
         return false;
     }
     columns.chooseFile(row);
+    if (!columns.isWhole(row)) {
+        return false;
+    }
     const std::vector<std::string> names = columns.columns(row);
     const auto name = std::find(names.begin(), names.end(), source.column);
     if (name == names.end()) {

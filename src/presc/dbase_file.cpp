@@ -34,8 +34,6 @@ constexpr std::size_t kWidth = 16;     // u8
 constexpr std::size_t kSize = 32;
 }  // namespace column
 
-constexpr char kDeleted = '*';
-
 std::string_view textOf(std::span<const std::byte> bytes) {
     return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
 }
@@ -147,12 +145,6 @@ const DbaseFile::Column& DbaseFile::at(int column) const {
 
 const std::string& DbaseFile::fieldName(int column) const {
     return at(column).name;
-}
-
-bool DbaseFile::isDeleted(std::int32_t row) const {
-    return row >= 0 && row < rowCount_ &&
-           static_cast<char>(bytes_[firstRow_ + static_cast<std::size_t>(row) * rowSize_]) ==
-               kDeleted;
 }
 
 std::string_view DbaseFile::cell(std::int32_t row, const Column& column) const {

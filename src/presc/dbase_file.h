@@ -31,9 +31,8 @@ public:
     [[nodiscard]] const std::string& fieldName(int column) const;
     /// Whole rows that the file holds, at most as many as its header says.
     [[nodiscard]] std::int32_t rowCount() const { return rowCount_; }
-    /// Whether the row is marked as deleted. No for rows that are not there, whose values are
-    /// empty.
-    [[nodiscard]] bool isDeleted(std::int32_t row) const;
+    // Rows that are marked as deleted count like others; those that are not there are empty.
+
     /// Numbers (N and F columns) as 64-bit floats, dates (D) as such, everything else as UTF-8 text
     /// without blanks around it. Empty where nothing stands and where a number or a date is none.
     [[nodiscard]] CellValue value(std::int32_t row, int column) const;

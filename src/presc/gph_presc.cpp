@@ -65,9 +65,12 @@ bool GphPresc::loadFromFile(std::string_view path, Dialogs& dialogs, const Texts
         return false;
     }
     const std::string_view caption = texts(TextId::ProgramName);
-    if (const std::optional<Failure> failure = reader_.open(path)) {
-        dialogs.message(texts.sentence(because(TextId::ShapeCannotOpen, {}, *failure)),
+    const auto tellError = [&](const Failure& failure) {
+        dialogs.message(texts.sentence(because(TextId::ShapeCannotOpen, {}, failure)),
                         MessageIcon::Plain, caption);
+    };
+    if (const std::optional<Failure> failure = reader_.open(path)) {
+        tellError(*failure);
         return false;
     }
     if (const std::optional<Failure>& warning = reader_.tableWarning()) {
@@ -77,6 +80,9 @@ bool GphPresc::loadFromFile(std::string_view path, Dialogs& dialogs, const Texts
     path_ = path;
     readColumns();
     readRecords();
+    if (const std::optional<Failure>& damage = reader_.damage()) {
+        tellError(*damage);
+    }
     if (!bound_.isSet) {
         dialogs.message(texts.format(TextId::ShapeWithoutPolygons, {path_}),
                         MessageIcon::Exclamation, caption);

@@ -37,9 +37,12 @@ public:
     std::function<void(int percent)> progress;
 
     /// Fills an empty layer; call it once. What is wrong with the file is told through `dialogs`:
-    /// why it cannot be read, that its table was left out, that it has no polygons. False when it
-    /// cannot be read, or is not there, which is told by nobody; the layer is as before then.
+    /// why it cannot be read or only in part, that its table was left out, that it has no polygons.
+    /// False when it cannot be read, or is not there, which is told by nobody; the layer is as
+    /// before then.
     bool loadFromFile(std::string_view path, Dialogs& dialogs, const Texts& texts);
+    /// False when the file was read only up to where it is damaged.
+    [[nodiscard]] bool isWhole() const { return !reader_.damage(); }
 
     [[nodiscard]] const std::string& name() const { return name_; }
     [[nodiscard]] int columnCount() const { return static_cast<int>(columnNames_.size()); }

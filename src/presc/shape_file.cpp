@@ -7,7 +7,6 @@
 #include <cmath>
 #include <stdexcept>
 
-#include "base/failure.h"
 #include "base/numbers.h"
 
 namespace campora {
@@ -35,6 +34,9 @@ constexpr std::size_t kLeast = 4;        // the type
 constexpr std::size_t kRecordHeader = 8;  // number and length in words, i32 big-endian each
 constexpr std::size_t kIndexEntry = 8;    // offset and length in words, i32 big-endian each
 constexpr std::size_t kPartStartBytes = 4;
+/// A ring's area against the products of which it is the sum: below this only the last digits of
+/// its corners keep them off one line.
+constexpr double kNoArea = 1e-9;
 constexpr double kMostLongitude = 180;
 constexpr double kMostLatitude = 90;
 
@@ -61,8 +63,12 @@ std::optional<ShapeType> plainType(std::int32_t type) {
 }
 
 /// `record`: from 0; people count from 1.
+Failure recordFailure(TextId text, std::size_t record, std::size_t offset) {
+    return {text, {numberText(record + 1), numberText(offset)}};
+}
+
 [[noreturn]] void refuseRecord(TextId text, std::size_t record, std::size_t offset) {
-    throw FormatError({text, {numberText(record + 1), numberText(offset)}, {}});
+    throw FormatError(recordFailure(text, record, offset));
 }
 
 /// A length in 16-bit words as bytes; 0 for a negative one.
@@ -128,14 +134,16 @@ double Shape::twiceArea(const ShapePart& part) const {
     // About the first corner, so that small rings far from the origin keep their digits.
     const LonLat origin = vertex(part.first);
     double sum = 0;
+    double sizes = 0;
     LonLat from;
     for (std::int32_t i = part.first + 1; i <= part.last; ++i) {
         const LonLat corner = vertex(i);
         const LonLat to{corner.x - origin.x, corner.y - origin.y};
         sum += from.x * to.y - to.x * from.y;
+        sizes += std::abs(from.x * to.y) + std::abs(to.x * from.y);
         from = to;
     }
-    return sum;
+    return std::abs(sum) > kNoArea * sizes ? sum : 0;
 }
 
 void Shape::markHoles(std::vector<ShapePart>& parts) const {
@@ -168,7 +176,14 @@ ShapeFile::ShapeFile(std::span<const std::byte> bytes, std::span<const std::byte
         walk();
     }
     for (std::size_t record = 0; record < offsets_.size(); ++record) {
-        check(record);
+        try {
+            checkParts(record);
+        } catch (const FormatError& error) {
+            damage_ = error.failure();
+            offsets_.resize(record);
+            return;
+        }
+        checkVertices(record);
     }
 }
 
@@ -202,13 +217,16 @@ void ShapeFile::walk() {
     ByteReader reader(bytes_, header::kLength);
     const std::size_t declared = wordsToBytes(reader.i32be());
     if (declared > bytes_.size()) {
-        reader.seek(declared);  // throws
+        damage_ = Failure{TextId::FileCutShort, {numberText(bytes_.size())}};
     }
-    const std::size_t end = declared > header::kSize ? declared : bytes_.size();
+    const std::size_t end =
+        declared > header::kSize ? std::min(declared, bytes_.size()) : bytes_.size();
     for (std::size_t offset = header::kSize; offset < end;) {
         const std::optional<std::size_t> size = contentBytes(bytes_, offset, end);
         if (!size) {
-            refuseRecord(TextId::ShapeRecordDamaged, offsets_.size(), offset);
+            damage_ = damage_.value_or(
+                recordFailure(TextId::ShapeRecordDamaged, offsets_.size(), offset));
+            return;
         }
         offsets_.push_back(static_cast<std::uint32_t>(offset));
         offset += kRecordHeader + *size;
@@ -266,7 +284,7 @@ Shape ShapeFile::decode(std::size_t record) const {
     return {};
 }
 
-void ShapeFile::check(std::size_t record) const {
+void ShapeFile::checkParts(std::size_t record) const {
     const Shape shape = decode(record);
     const std::int32_t vertices = shape.vertexCount();
     const std::size_t offset = offsets_[record];
@@ -283,13 +301,18 @@ void ShapeFile::check(std::size_t record) const {
         }
         before = start;
     }
+}
+
+void ShapeFile::checkVertices(std::size_t record) const {
+    const Shape shape = decode(record);
+    const std::int32_t vertices = shape.vertexCount();
     for (std::int32_t i = 0; i < vertices; ++i) {
         const LonLat vertex = shape.vertex(i);
         if (std::abs(vertex.x) <= kMostLongitude && std::abs(vertex.y) <= kMostLatitude) {
             continue;
         }
         if (!std::isfinite(vertex.x) || !std::isfinite(vertex.y)) {
-            refuseRecord(TextId::ShapeBadCoordinate, record, offset);
+            refuseRecord(TextId::ShapeBadCoordinate, record, offsets_[record]);
         }
         throw FormatError({TextId::ShapeNotGeographic,
                            {numberText(record + 1), numberText(vertex.x), numberText(vertex.y)},

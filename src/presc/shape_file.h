@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "base/byte_reader.h"
+#include "base/failure.h"
 #include "base/lon_lat.h"
 
 namespace campora {
@@ -64,7 +65,7 @@ private:
     static constexpr std::size_t kVertexBytes = 16;
 
     [[noreturn]] static void refuseIndex();
-    /// Positive against the clock.
+    /// Positive against the clock; 0 when it is lost in the last digits of the coordinates.
     [[nodiscard]] double twiceArea(const ShapePart& part) const;
     void markHoles(std::vector<ShapePart>& parts) const;
 
@@ -79,26 +80,32 @@ class ShapeFile {
 public:
     ShapeFile() = default;
     /// `index`: the bytes of the index file, left aside when it is not sound; may be empty.
-    /// Every record is looked at once. Throws `FormatError` with the record and the byte when one
-    /// is damaged or of a type that is not known, when a coordinate is no number, and when one
-    /// cannot be degrees. Boxes and the numbers of records are not believed, nor needed.
+    /// Every record is looked at once; they end before the first that is damaged or of a type that
+    /// is not known. Throws `FormatError` when the bytes are no shapefile, and for a coordinate
+    /// that is no number or cannot be degrees, as the others are of no use either then. Boxes and
+    /// the numbers of records are not believed, nor needed.
     explicit ShapeFile(std::span<const std::byte> bytes, std::span<const std::byte> index = {});
 
     [[nodiscard]] std::int32_t recordCount() const {
         return static_cast<std::int32_t>(offsets_.size());
     }
+    /// Why the records end before the file does, with the place; none for a sound file.
+    [[nodiscard]] const std::optional<Failure>& damage() const { return damage_; }
     /// `record`: from 0; throws `std::out_of_range` for a bad one.
     [[nodiscard]] Shape shape(std::int32_t record) const;
 
 private:
     [[nodiscard]] bool takeIndex(std::span<const std::byte> index);
     void walk();
-    /// `record`: from 0. Throws `FormatError` as the constructor.
+    /// `record`: from 0. Throws `FormatError` for a damaged one.
     [[nodiscard]] Shape decode(std::size_t record) const;
-    void check(std::size_t record) const;
+    // Both throw `FormatError`, the first as `decode`.
+    void checkParts(std::size_t record) const;
+    void checkVertices(std::size_t record) const;
 
     std::span<const std::byte> bytes_;
     std::vector<std::uint32_t> offsets_;  // of the records' headers
+    std::optional<Failure> damage_;
 };
 
 /// The type in a main file's header as it stands there (15 for polygons with Z); none when the

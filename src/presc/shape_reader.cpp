@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "base/file_head.h"
+#include "base/numbers.h"
 #include "base/paths.h"
 
 namespace campora {
@@ -57,6 +58,11 @@ std::optional<Failure> ShapeReader::open(std::string_view path) {
     } catch (const FormatError& error) {
         return because(TextId::FileCannotBeRead, {std::string(path)}, error.failure());
     }
+    if (const std::optional<Failure>& damage = files->shapes.damage()) {
+        files->damage =
+            because(TextId::ShapeReadInPart,
+                    {std::string(path), numberText(files->shapes.recordCount())}, *damage);
+    }
     readTable(base, *files);
     files_ = std::move(files);
     moveFirst();
@@ -87,8 +93,7 @@ void ShapeReader::readTable(std::string_view base, Files& files) {
 
 void ShapeReader::place(std::int32_t record) {
     record_ = record;
-    const bool isGone = record > recordCount() || files_->table.isDeleted(record - 1);
-    shape_ = isGone ? Shape() : files_->shapes.shape(record - 1);
+    shape_ = record > recordCount() ? Shape() : files_->shapes.shape(record - 1);
     shape_.collectParts(parts_);
 }
 
@@ -107,16 +112,12 @@ const std::string& ShapeReader::fieldName(int column) const {
     return files_->table.fieldName(column - 1);
 }
 
-bool ShapeReader::hasValues() const {
-    return record_ <= recordCount() && !files_->table.isDeleted(record_ - 1);
-}
-
 CellValue ShapeReader::fieldValue(int column) const {
-    return files_->table.value(hasValues() ? record_ - 1 : kNoRow, column - 1);
+    return files_->table.value(row(), column - 1);
 }
 
 std::optional<double> ShapeReader::fieldNumber(int column) const {
-    return files_->table.number(hasValues() ? record_ - 1 : kNoRow, column - 1);
+    return files_->table.number(row(), column - 1);
 }
 
 const ShapePart& ShapeReader::part(std::int32_t part) const {

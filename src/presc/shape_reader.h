@@ -20,7 +20,6 @@ namespace campora {
 
 /// A shapefile and its table, read whole and stepped through record by record. Records, columns and
 /// parts count from 1, vertices of a record from 0; a bad number throws `std::out_of_range`.
-/// A record whose row is marked as deleted in the table has neither parts nor values.
 class ShapeReader {
 public:
     /// Without records until something is opened.
@@ -36,6 +35,9 @@ public:
     [[nodiscard]] const std::optional<Failure>& tableWarning() const {
         return files_->tableWarning;
     }
+
+    /// Why the records end before the map does, in words that follow others; none when it is whole.
+    [[nodiscard]] const std::optional<Failure>& damage() const { return files_->damage; }
 
     [[nodiscard]] std::int32_t recordCount() const { return files_->shapes.recordCount(); }
     void moveFirst() { place(1); }
@@ -77,15 +79,18 @@ private:
         FileBytes tableBytes;
         ShapeFile shapes;
         DbaseFile table;
+        std::optional<Failure> damage;
         std::optional<Failure> tableWarning;
     };
 
     static constexpr std::int32_t kNoRow = -1;
 
     static void readTable(std::string_view base, Files& files);
-    /// Whether the current record is there and not deleted.
-    [[nodiscard]] bool hasValues() const;
     void place(std::int32_t record);
+    /// Of the current record, from 0; none past the last, whatever the table holds.
+    [[nodiscard]] std::int32_t row() const {
+        return record_ > recordCount() ? kNoRow : record_ - 1;
+    }
     [[nodiscard]] const ShapePart& part(std::int32_t part) const;
 
     std::unique_ptr<const Files> files_;

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include "base/files.h"
 #include "support/recording_canvas.h"
 #include "support/scripted_platform.h"
 #include "support/shared_samples.h"
@@ -192,6 +193,22 @@ TEST_F(PrescTest, SaysWhatIsWrongWithAFile) {
               "Exclamation|Campora|El archivo no contiene polígonos: " + empty);
     EXPECT_EQ(presc.columnCount(), 0);
     EXPECT_FALSE(presc.Gph_bound().isSet);
+}
+
+TEST_F(PrescTest, HoldsADamagedFileAsFarAsItIsSound) {
+    const std::string path = write(rowOfZones({"1", "2", "3"}));
+    const Result<FileBytes> whole = readFile(path);
+    ASSERT_TRUE(whole);
+    folder.write("lote.shp", std::string(whole->text().substr(0, whole->text().size() - 1)));
+    EXPECT_TRUE(presc.loadFromFile(path, dialogs, texts));
+    EXPECT_FALSE(presc.isWhole());
+    EXPECT_EQ(presc.Gph_count(), 2);
+    EXPECT_EQ(presc.dosisCollection(1), (Values{0, 1, 2}));
+    ASSERT_EQ(dialogs.messages.size(), 1U);
+    EXPECT_TRUE(dialogs.messages[0].starts_with("Plain|Campora|Error al intentar abrir el archivo "
+                                                "Shape: se leyeron solo 2 registros de " +
+                                                path))
+        << dialogs.messages[0];
 }
 
 TEST(PrescSamples, AgreeWithWhatAnotherReaderSays) {

@@ -23,6 +23,8 @@ using Parts = std::vector<ShapePart>;
 const Ring kClockwise = {{0, 0}, {0, 9}, {9, 9}, {9, 0}, {0, 0}};
 const Ring kAgainst = {{2, 2}, {4, 2}, {4, 4}, {2, 4}, {2, 2}};
 const Ring kFlat = {{1, 1}, {2, 2}, {1, 1}};
+/// On one line but for the last digits, which turn it clockwise.
+const Ring kFlatInDegrees = {{-61.1, -33.1}, {-61.2, -33.2}, {-61.3, -33.3}, {-61.1, -33.1}};
 
 Parts partsOf(const Shape& shape) {
     Parts parts{{7, 7, true}};
@@ -30,16 +32,20 @@ Parts partsOf(const Shape& shape) {
     return parts;
 }
 
-/// What the user reads about the file; empty when it is taken.
+/// What the user reads about the file, behind the number of its records when only some are read;
+/// empty when it is taken whole.
 std::string fault(const std::string& bytes, const std::string& index = {}) {
+    const Texts texts(Language::English);
     try {
         const ShapeFile file(bytesOf(bytes), bytesOf(index));
         for (std::int32_t i = 0; i < file.recordCount(); ++i) {
             (void)partsOf(file.shape(i));
         }
-        return {};
+        return file.damage() ? std::to_string(file.recordCount()) + " of it: " +
+                                   texts.sentence(*file.damage())
+                             : "";
     } catch (const FormatError& error) {
-        return Texts(Language::English).sentence(error.failure());
+        return texts.sentence(error.failure());
     }
 }
 
@@ -103,6 +109,7 @@ TEST(ShapeFile, HolesRunAgainstTheClockBesideARingThatRunsWithIt) {
         {"all the wrong way round", 5, {kAgainst, kAgainst}, {false, false}},
         {"alone", 5, {kAgainst}, {false}},
         {"a ring without area", 5, {kFlat, kAgainst, kClockwise}, {false, true, false}},
+        {"none but one without area", 5, {kFlatInDegrees, kAgainst}, {false, false}},
         {"not closed", 5, {{{0, 0}, {0, 9}, {9, 0}}, {{1, 1}, {2, 1}, {1, 2}}}, {false, true}},
         {"with Z", 15, {kClockwise, kAgainst}, {false, true}},
         {"lines have none", 3, {kClockwise, kAgainst}, {false, false}},
@@ -200,8 +207,8 @@ TEST(ShapeFile, SaysWhatIsWrongAndWhere) {
         one.add(content);
         return one.bytes();
     };
-    const std::string record1 = "record 1 is damaged, at byte ";
-    const std::string record2 = "record 2 is damaged, at byte ";
+    const std::string record1 = "0 of it: record 1 is damaged, at byte ";
+    const std::string record2 = "1 of it: record 2 is damaged, at byte ";
     const std::string at1 = record1 + std::to_string(first);
     constexpr double kInfinite = std::numeric_limits<double>::infinity();
     const std::string noNumber = "record 1 has a coordinate that is not a number, at byte 100";
@@ -217,10 +224,12 @@ TEST(ShapeFile, SaysWhatIsWrongAndWhere) {
         {"something else", std::string(500, 'x'), "it is not a shapefile"},
         {"a cut header", good.substr(0, 40), "it is cut short at byte 40"},
         {"cut between records", good.substr(0, second - 8),
-         "it is cut short at byte " + std::to_string(second - 8)},
+         "1 of it: it is cut short at byte " + std::to_string(second - 8)},
+        {"cut in a record", good.substr(0, second + 9),
+         "1 of it: it is cut short at byte " + std::to_string(second + 9)},
         {"type 31 in the header", with(32, 31), "shape type 31 cannot be read"},
-        {"a record of type 20", with(first, 20), "shape type 20 cannot be read"},
-        {"a record of type -5", with(first, -5), "shape type -5 cannot be read"},
+        {"a record of type 20", with(second, 20), "1 of it: shape type 20 cannot be read"},
+        {"a record of type -5", with(first, -5), "0 of it: shape type -5 cannot be read"},
         {"parts beyond the record", with(first + 36, 1 << 30), at1},
         {"a negative count of parts", with(first + 36, -1), at1},
         {"points without parts", with(first + 36, 0), record1 + "100"},
