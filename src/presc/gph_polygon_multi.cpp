@@ -57,7 +57,7 @@ void GphPolygonMulti::Gph_plot(MapContext& context) const {
         for (const LonLat& point : ring.points()) {
             corners.push_back(context.view.mapToScreen(point.x, point.y));
         }
-        rings.push_back(std::span(corners).subspan(first));
+        rings.emplace_back(std::span(corners).subspan(first));
     }
     context.canvas.setFillColor(color);
     context.canvas.setPenColor(context.style.colors.fore);
