@@ -157,6 +157,19 @@ TEST(Prescribe, EveryChannelOfAPrescriptionCanBeDrawn) {
     }
 }
 
+TEST(Prescribe, ADamagedMapIsToldAsFarAsItIsSoundAndPrescribesNothing) {
+    const TempFolder folder;
+    const std::string map = writeMap(folder, "mapa");
+    std::filesystem::resize_file(map, std::filesystem::file_size(map) - 1);
+    const Outcome told = run({"info", "--json", map});
+    EXPECT_EQ(told.status, 1);
+    EXPECT_THAT(told.boxes, HasSubstr("se leyeron solo 1 registros de " + map));
+    EXPECT_EQ(json::parse(told.out)["files"][0]["layers"][0]["polygons"], 1);
+    const std::string out = folder.file("out.pre");
+    EXPECT_EQ(run({"prescribe", "--channel", map + ",DOSIS", "-o", out}).status, 1);
+    EXPECT_FALSE(std::filesystem::exists(out));
+}
+
 TEST(Prescribe, TheSizeQuestionIsAnsweredAsItIsTold) {
     const TempFolder folder;
     const std::string map = writeMap(folder, "mapa");
