@@ -121,6 +121,7 @@ int runPrescribe(const Arguments& arguments, const Console& console) {
     }
     const std::vector<std::unique_ptr<GphPresc>> layers = columns.getChannels();
     std::vector<ChannelZones> channels;
+    channels.reserve(layers.size());
     for (const std::unique_ptr<GphPresc>& layer : layers) {
         channels.push_back(zonesOf(*layer));
     }
