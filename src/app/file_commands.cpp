@@ -66,7 +66,7 @@ void FileCommands::fileOpen() {
         platform.window.setToolText({});
         session_.plotPreview(false, false);
     }
-    if (!paths.empty()) {
+    if (!paths.empty() && session_.prescription().mayClose()) {
         writeText(platform.settings, SettingId::OpenPath, folderOf(paths.front()));
         openPaths(paths, true);
     }
@@ -138,7 +138,9 @@ void FileCommands::openRecent(std::string_view path) {
         session_.platform().window.commandsChanged();
         return;
     }
-    openPaths({std::string(path)}, true);
+    if (session_.prescription().mayClose()) {
+        openPaths({std::string(path)}, true);
+    }
 }
 
 void FileCommands::stepInFolder(int step) {
@@ -152,7 +154,7 @@ void FileCommands::stepInFolder(int step) {
     const auto found = std::find_if(files.begin(), files.end(), [&path](const std::string& file) {
         return fileNamePart(file) == fileNamePart(path);
     });
-    if (found == files.end()) {
+    if (found == files.end() || !session_.prescription().mayClose()) {
         return;
     }
     // One that is refused must not bar the way to those behind it.

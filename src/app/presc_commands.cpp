@@ -53,8 +53,19 @@ TextId PrescCommands::prescriptCaption() const {
     return isOpen() ? TextId::ActionClosePrescription : TextId::ActionNewPrescription;
 }
 
+bool PrescCommands::mayClose() const {
+    const GphPrescVex* const open = prescription();
+    return open == nullptr || !open->dosesChanged() ||
+           session_.platform().dialogs.askYesNo(session_.texts()(TextId::AskLoseDoses),
+                                                MessageIcon::Exclamation,
+                                                session_.texts()(TextId::ProgramName));
+}
+
 void PrescCommands::mnuFilePrescript() {
     if (const GphPrescVex* const open = prescription()) {
+        if (!mayClose()) {
+            return;
+        }
         if (session_.tools().tool() == MapTools::Tool::PrescDosis) {
             session_.tools().setTool(MapTools::Tool::None);
         }
@@ -106,7 +117,7 @@ std::optional<double> PrescCommands::askCellSize() const {
 }
 
 void PrescCommands::mnuFileSavePrescript() {
-    const GphPrescVex* const open = prescription();
+    GphPrescVex* const open = prescription();
     if (open == nullptr) {
         return;
     }
@@ -115,12 +126,14 @@ void PrescCommands::mnuFileSavePrescript() {
         return;
     }
     if (const std::optional<double> metres = askCellSize()) {
-        generatePRE(path, roundToInt32(*metres), zonesOf(*open), contextOf(session_));
+        if (generatePRE(path, roundToInt32(*metres), zonesOf(*open), contextOf(session_))) {
+            open->dosesSaved();
+        }
     }
 }
 
 void PrescCommands::mnuFileSaveVrt() {
-    const GphPrescVex* const open = prescription();
+    GphPrescVex* const open = prescription();
     if (open == nullptr) {
         return;
     }
@@ -138,7 +151,10 @@ void PrescCommands::mnuFileSaveVrt() {
     VrtTexts about;
     about.name = dialogs.inputBox(TextId::DialogName, caption, proposed);
     about.description = dialogs.inputBox(TextId::SummaryDescription, caption, "");
-    generateVRT(path, static_cast<float>(*metres), about, zonesOf(*open), contextOf(session_));
+    if (generateVRT(path, static_cast<float>(*metres), about, zonesOf(*open),
+                    contextOf(session_))) {
+        open->dosesSaved();
+    }
 }
 
 void PrescCommands::changeDose(LonLat position) {

@@ -41,6 +41,8 @@ public:
     /// closes the one that is open.
     void mnuFilePrescript();
     [[nodiscard]] TextId prescriptCaption() const;
+    /// Whether the open prescription may go: asks when its doses were changed and not saved.
+    [[nodiscard]] bool mayClose() const;
     /// Asks where to and for the swath width, and writes a PRE file.
     void mnuFileSavePrescript();
     /// Asks where to, for the resolution, a name and a description, and writes a VRT file.

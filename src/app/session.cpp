@@ -215,6 +215,9 @@ void Session::moveCurrentFile(Move where) {
 }
 
 void Session::removeCurrentFile() {
+    if (files_.currentFile() == prescription_.prescription() && !prescription_.mayClose()) {
+        return;
+    }
     removeFile(files_.currentFile());
 }
 

@@ -308,6 +308,10 @@ void MainWindow::showEvent(QShowEvent* event) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
+    if (!session_->prescription().mayClose()) {
+        event->ignore();
+        return;
+    }
     unloadMainWindow(*session_);
     writeText(desktop_.settings, SettingId::WindowGeometry,
               saveGeometry().toBase64().toStdString());

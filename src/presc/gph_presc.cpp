@@ -196,6 +196,7 @@ void GphPresc::setDosis(std::int32_t polygon, float dosis) {
         return;
     }
     changed.dosis = dosis;
+    dosesChanged_ = true;
     recalculateColorScale();
 }
 
@@ -218,6 +219,7 @@ void GphPresc::changeValue(double oldValue, double newValue) {
     for (GphPolygonMulti& polygon : polygons_) {
         if (polygon.dosis == before) {
             polygon.dosis = static_cast<float>(newValue);
+            dosesChanged_ = true;
         }
     }
     recalculateColorScale();

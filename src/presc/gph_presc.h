@@ -64,6 +64,9 @@ public:
     /// Gives a zone another dose and brings the scale, and with it every colour, up to date.
     /// Nothing before a column is chosen. Throws `std::out_of_range` for a bad zone.
     void setDosis(std::int32_t polygon, float dosis);
+    /// Whether doses differ from those of the map, or from what was saved last.
+    [[nodiscard]] bool dosesChanged() const { return dosesChanged_; }
+    void dosesSaved() { dosesChanged_ = false; }
     /// The set of the current column and the scale anew, from the doses that the zones have now.
     void recalculateColorScale();
 
@@ -137,6 +140,7 @@ private:
     ColorScale scale_;
     ColorScale::Subscription changes_;
     ColorScale::Subscription valueChanges_;
+    bool dosesChanged_ = false;
 };
 
 }  // namespace campora

@@ -3,6 +3,7 @@
 
 #include "presc/gph_presc_vex.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <utility>
 
@@ -74,6 +75,17 @@ std::vector<Gph*> GphPrescVex::File_gphList() const {
         return {};
     }
     return {channels_[static_cast<std::size_t>(current_)].get()};
+}
+
+bool GphPrescVex::dosesChanged() const {
+    return std::any_of(channels_.begin(), channels_.end(),
+                       [](const auto& channel) { return channel->dosesChanged(); });
+}
+
+void GphPrescVex::dosesSaved() {
+    for (const std::unique_ptr<GphPresc>& channel : channels_) {
+        channel->dosesSaved();
+    }
 }
 
 }  // namespace campora

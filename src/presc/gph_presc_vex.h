@@ -28,6 +28,9 @@ public:
         return *channels_.at(static_cast<std::size_t>(i));
     }
     [[nodiscard]] int currentChannel() const { return current_; }
+    /// Whether a channel has doses that were changed and not saved.
+    [[nodiscard]] bool dosesChanged() const;
+    void dosesSaved();
 
     /// Throws `std::out_of_range` for a bad channel.
     void setCurrentChannel(int channel) override;

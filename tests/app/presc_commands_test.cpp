@@ -84,6 +84,26 @@ TEST_F(PrescCommandsTest, MakesAPrescriptionBesideWhatIsOpenAndClosesIt) {
     EXPECT_TRUE(desk.dialogs.messages.empty());
 }
 
+TEST_F(PrescCommandsTest, ChangedDosesAreNotLostUnasked) {
+    create({{"10", "20"}});
+    answer = 15.0F;
+    clickOn(0);
+    desk.dialogs.yesNoAnswers = {false, false, false};
+    commands.mnuFilePrescript();
+    desk.session.removeCurrentFile();
+    desk.dialogs.openAnswers = {{desk.report("a.rpt")}};
+    desk.session.fileCommands().fileOpen();
+    EXPECT_EQ(desk.dialogs.questions.size(), 3U);
+    ASSERT_TRUE(commands.isOpen());
+
+    desk.dialogs.saveAnswers = {{desk.folder.file("zonas.pre"), 0}};
+    desk.dialogs.inputAnswers = {"100", "0"};
+    commands.mnuFileSavePrescript();
+    ASSERT_FALSE(desk.dialogs.messages.empty()) << "what was written";
+    commands.mnuFilePrescript();
+    EXPECT_FALSE(commands.isOpen()) << "saved: nothing to ask";
+}
+
 TEST_F(PrescCommandsTest, TheDoseToolChangesAZoneOfTheCurrentChannel) {
     create({{"10", "20"}, {"5", "6"}});
     commands.prescription()->setCurrentChannel(1);
