@@ -3,6 +3,7 @@
 
 #include "presc/gph_presc.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <filesystem>
 #include <stdexcept>
@@ -247,13 +248,12 @@ std::int32_t GphPresc::polygonIndexAt(LonLat position) const {
     const std::int32_t x = toTree(position.x);
     const std::int32_t y = toTree(position.y);
     const std::optional<R2TreeFound> found = tree_.Find(x, x, y, y, R2Tree::kOverlapping);
-    for (auto entry = found->entries.rbegin(); entry != found->entries.rend(); ++entry) {
-        const std::int32_t index = (*entry)->ChildID;
-        if (polygons_[static_cast<std::size_t>(index)].ringAt(position) >= 0) {
-            return index;
-        }
-    }
-    return -1;
+    // The one that the search hands out last lies on top.
+    const auto hit =
+        std::find_if(found->entries.rbegin(), found->entries.rend(), [&](const R2TreeEntry* entry) {
+            return polygons_[static_cast<std::size_t>(entry->ChildID)].ringAt(position) >= 0;
+        });
+    return hit == found->entries.rend() ? -1 : (*hit)->ChildID;
 }
 
 const GphPolygonMulti* GphPresc::getPolygonAtPoint(double x, double y) const {
