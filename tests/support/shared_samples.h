@@ -9,7 +9,7 @@
 
 namespace campora {
 
-/// The path of a file or folder, such as "samples/work/expected.json", in the optional folder of
+/// The path of a file or folder, such as "samples/presc/zones.shp", in the optional folder of
 /// shared samples: the one that the environment variable CAMPORA_SHARED names, else "shared" beside
 /// the source folder. None when it is not there; the test then calls GTEST_SKIP.
 [[nodiscard]] std::optional<std::string> sharedSample(std::string_view relative);
