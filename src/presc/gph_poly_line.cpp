@@ -38,14 +38,6 @@ void GphPolyLine::Gph_plot(MapContext& context) const {
     }
 }
 
-bool GphPolyLine::Gph_plotN(MapContext& /*context*/, std::int32_t /*n*/) const {
-    return false;
-}
-
-float GphPolyLine::Gph_delayN(std::int32_t /*n*/) const {
-    return 0;
-}
-
 std::int32_t GphPolyLine::Gph_mouseOver(const ViewTransform& /*view*/, const MapStyle& /*style*/,
                                         LonLat /*position*/, std::int32_t /*start*/) const {
     return -1;

@@ -7,13 +7,13 @@
 #include <memory>
 #include <vector>
 
-#include "model/gph.h"
+#include "model/still_layer.h"
 #include "model/track_data.h"
 
 namespace campora {
 
 /// An open line whose points each carry a record.
-class GphPolyLine final : public Gph {
+class GphPolyLine final : public StillLayer {
 public:
     Color color = MapColors().shape;
 
@@ -26,10 +26,7 @@ public:
     /// Segments.
     [[nodiscard]] std::int32_t Gph_count() const override;
     [[nodiscard]] const BoundingBox& Gph_bound() const override { return bound_; }
-    [[nodiscard]] bool Gph_animable() const override { return false; }
     void Gph_plot(MapContext& context) const override;
-    bool Gph_plotN(MapContext& context, std::int32_t n) const override;
-    [[nodiscard]] float Gph_delayN(std::int32_t n) const override;
     [[nodiscard]] std::int32_t Gph_mouseOver(const ViewTransform& view, const MapStyle& style,
                                              LonLat position, std::int32_t start) const override;
     /// What the record of point n says; empty for a point without one. Throws `std::out_of_range`

@@ -50,14 +50,6 @@ void GphPolygon::Gph_plot(MapContext& context) const {
     context.canvas.polygon(corners);
 }
 
-bool GphPolygon::Gph_plotN(MapContext& /*context*/, std::int32_t /*n*/) const {
-    return false;
-}
-
-float GphPolygon::Gph_delayN(std::int32_t /*n*/) const {
-    return 0;
-}
-
 std::int32_t GphPolygon::Gph_mouseOver(const ViewTransform& /*view*/, const MapStyle& /*style*/,
                                        LonLat position, std::int32_t /*start*/) const {
     return holds(position) ? 0 : -1;

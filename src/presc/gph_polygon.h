@@ -8,12 +8,12 @@
 #include <vector>
 
 #include "model/exportable.h"
-#include "model/gph.h"
+#include "model/still_layer.h"
 
 namespace campora {
 
 /// One ring: its points in order, in degrees.
-class GphPolygon final : public Gph, public ExportablePolygon {
+class GphPolygon final : public StillLayer, public ExportablePolygon {
 public:
     /// A ring of more points is not drawn alone.
     static constexpr std::size_t kMostDrawn = 16'383;
@@ -43,11 +43,8 @@ public:
     [[nodiscard]] std::string_view Gph_kind() const override { return "GphPolygon"; }
     [[nodiscard]] std::int32_t Gph_count() const override { return 1; }
     [[nodiscard]] const BoundingBox& Gph_bound() const override { return bound_; }
-    [[nodiscard]] bool Gph_animable() const override { return false; }
     /// Filled with the map's background when it is a hole, with `color` otherwise.
     void Gph_plot(MapContext& context) const override;
-    bool Gph_plotN(MapContext& context, std::int32_t n) const override;
-    [[nodiscard]] float Gph_delayN(std::int32_t n) const override;
     /// 0 when the position lies inside the ring.
     [[nodiscard]] std::int32_t Gph_mouseOver(const ViewTransform& view, const MapStyle& style,
                                              LonLat position, std::int32_t start) const override;
