@@ -64,14 +64,6 @@ void GphPolygonMulti::Gph_plot(MapContext& context) const {
     context.canvas.polyPolygon(rings);
 }
 
-bool GphPolygonMulti::Gph_plotN(MapContext& /*context*/, std::int32_t /*n*/) const {
-    return false;
-}
-
-float GphPolygonMulti::Gph_delayN(std::int32_t /*n*/) const {
-    return 0;
-}
-
 std::int32_t GphPolygonMulti::Gph_mouseOver(const ViewTransform& /*view*/,
                                             const MapStyle& /*style*/, LonLat position,
                                             std::int32_t /*start*/) const {

@@ -6,12 +6,13 @@
 #include <cstdint>
 #include <vector>
 
+#include "model/still_layer.h"
 #include "presc/gph_polygon.h"
 
 namespace campora {
 
 /// One record of a map: several rings, some of which may be holes, with one dose and one colour.
-class GphPolygonMulti final : public Gph {
+class GphPolygonMulti final : public StillLayer {
 public:
     float dosis = 0;
     /// Fill.
@@ -30,12 +31,9 @@ public:
     [[nodiscard]] std::int32_t Gph_count() const override { return 1; }
     /// Not set when no ring has a point.
     [[nodiscard]] const BoundingBox& Gph_bound() const override { return bound_; }
-    [[nodiscard]] bool Gph_animable() const override { return false; }
     /// All rings as one figure, outlined in the map's text colour; holes stay open. Draws nothing
     /// when no part of it can show.
     void Gph_plot(MapContext& context) const override;
-    bool Gph_plotN(MapContext& context, std::int32_t n) const override;
-    [[nodiscard]] float Gph_delayN(std::int32_t n) const override;
     [[nodiscard]] std::int32_t Gph_mouseOver(const ViewTransform& view, const MapStyle& style,
                                              LonLat position, std::int32_t start) const override;
     [[nodiscard]] std::string Gph_getInfo(const InfoContext& context,

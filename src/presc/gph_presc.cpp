@@ -284,14 +284,6 @@ void GphPresc::Gph_plot(MapContext& context) const {
     }
 }
 
-bool GphPresc::Gph_plotN(MapContext& /*context*/, std::int32_t /*n*/) const {
-    return false;
-}
-
-float GphPresc::Gph_delayN(std::int32_t /*n*/) const {
-    return 0;
-}
-
 std::int32_t GphPresc::Gph_mouseOver(const ViewTransform& /*view*/, const MapStyle& /*style*/,
                                      LonLat position, std::int32_t /*start*/) const {
     return polygonIndexAt(position);

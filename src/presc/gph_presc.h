@@ -14,6 +14,7 @@
 #include "colour/color_scale.h"
 #include "colour/set_list.h"
 #include "model/file.h"
+#include "model/still_layer.h"
 #include "platform/dialogs.h"
 #include "presc/gph_polygon_multi.h"
 #include "presc/shape_reader.h"
@@ -23,7 +24,7 @@ namespace campora {
 
 /// The zones of one shapefile, coloured by the dose that one of its columns gives them. It is its
 /// own file. Zones count from 0, columns from 1. Doses that change here are never written back.
-class GphPresc final : public Gph, public File {
+class GphPresc final : public StillLayer, public File {
 public:
     static constexpr int kNoColumn = -1;
 
@@ -89,10 +90,7 @@ public:
         return static_cast<std::int32_t>(polygons_.size());
     }
     [[nodiscard]] const BoundingBox& Gph_bound() const override { return bound_; }
-    [[nodiscard]] bool Gph_animable() const override { return false; }
     void Gph_plot(MapContext& context) const override;
-    bool Gph_plotN(MapContext& context, std::int32_t n) const override;
-    [[nodiscard]] float Gph_delayN(std::int32_t n) const override;
     [[nodiscard]] std::int32_t Gph_mouseOver(const ViewTransform& view, const MapStyle& style,
                                              LonLat position, std::int32_t start) const override;
     /// The columns of zone n and its area. Throws `std::out_of_range` for a bad zone.

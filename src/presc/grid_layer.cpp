@@ -149,14 +149,6 @@ std::string GridLayer::Gph_getInfo(const InfoContext& context, std::int32_t n) c
     return context.texts.format(TextId::GridCellDose, {number});
 }
 
-bool GridLayer::Gph_plotN(MapContext& /*context*/, std::int32_t /*n*/) const {
-    return false;
-}
-
-float GridLayer::Gph_delayN(std::int32_t /*n*/) const {
-    return 0;
-}
-
 std::int32_t GridLayer::ExportablePolygon_polygonNCount(const MapStyle& /*style*/,
                                                         std::int32_t polygon) const {
     return polygon >= 0 && polygon < cellCount() ? kCorners : 0;

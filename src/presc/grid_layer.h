@@ -12,6 +12,7 @@
 #include "colour/color_scale.h"
 #include "model/exportable.h"
 #include "model/file.h"
+#include "model/still_layer.h"
 
 namespace campora {
 
@@ -34,7 +35,7 @@ struct GridCells {
 
 /// A prescription of square cells, opened from a file: what its formats have in common. It is its
 /// own file. Cells and channels count from 0.
-class GridLayer : public Gph,
+class GridLayer : public StillLayer,
                   public File,
                   public MultiChannel,
                   public ExportablePolygon,
@@ -68,12 +69,9 @@ public:
     [[nodiscard]] std::int32_t Gph_count() const override { return 1; }
     /// Of the cells' corners, not of the cells.
     [[nodiscard]] const BoundingBox& Gph_bound() const override { return bound_; }
-    [[nodiscard]] bool Gph_animable() const override { return false; }
     /// The current channel: cells without a dose in the map's background, the others in the
     /// colours of the scale. Cells of a pixel or less are points.
     void Gph_plot(MapContext& context) const override;
-    bool Gph_plotN(MapContext& context, std::int32_t n) const override;
-    [[nodiscard]] float Gph_delayN(std::int32_t n) const override;
     /// The first cell that holds the position, edges included.
     [[nodiscard]] std::int32_t Gph_mouseOver(const ViewTransform& view, const MapStyle& style,
                                              LonLat position, std::int32_t start) const override;
