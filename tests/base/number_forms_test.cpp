@@ -1,0 +1,45 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "base/number_forms.h"
+
+#include <limits>
+
+#include <gtest/gtest.h>
+
+namespace campora {
+namespace {
+
+TEST(SharpNumberText, ShowsDigitsOnlyWhereTheNumberHasThem) {
+    struct Row {
+        const char* name;
+        double value;
+        const char* text;
+    };
+    const Row rows[] = {
+        {"fraction", -58.3816, "-58.3816"},
+        {"whole", -58, "-58."},
+        {"zeros of a whole number stay", 100, "100."},
+        {"zero", 0, "."},
+        {"negative zero", -0.0, "."},
+        {"below one", 0.5, ".5"},
+        {"below one, negative", -0.05, "-.05"},
+        {"ten decimals", 34.1234567891, "34.1234567891"},
+        {"eleventh rounds down", 34.12345678914, "34.1234567891"},
+        {"a tie goes up, whatever binary digits follow", 0.12345678905, ".1234567891"},
+        {"a negative tie goes down", -0.00000000005, "-.0000000001"},
+        {"rounds to zero", -0.00000000004, "."},
+        {"carries over the point", 9.99999999999, "10."},
+        {"carries up to the point", 0.99999999999, "1."},
+        {"no zeros left behind after rounding", 1.29999999999, "1.3"},
+        {"large", 1e21, "1000000000000000000000."},
+        {"not a number", std::numeric_limits<double>::quiet_NaN(), "."},
+        {"infinite", -std::numeric_limits<double>::infinity(), "."},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(sharpNumberText(row.value), row.text) << row.name;
+    }
+}
+
+}  // namespace
+}  // namespace campora
