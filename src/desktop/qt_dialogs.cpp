@@ -32,6 +32,8 @@ QMessageBox::Icon iconOf(MessageIcon icon) {
         return QMessageBox::NoIcon;
     case MessageIcon::Information:
         return QMessageBox::Information;
+    case MessageIcon::Question:
+        return QMessageBox::Question;
     case MessageIcon::Exclamation:
         return QMessageBox::Warning;
     case MessageIcon::Error:

@@ -15,7 +15,7 @@
 
 namespace campora {
 
-enum class MessageIcon { Plain, Information, Exclamation, Error };
+enum class MessageIcon { Plain, Information, Question, Exclamation, Error };
 enum class Answer { Yes, No, Cancel };
 
 /// One row of the file-type box of an open dialog: its caption and the endings ("*.rpt").

@@ -13,7 +13,8 @@ namespace campora {
 namespace {
 
 std::string_view iconName(MessageIcon icon) {
-    constexpr std::array kNames = {"Plain", "Information", "Exclamation", "Error"};
+    constexpr std::array kNames = {"Plain", "Information", "Question", "Exclamation",
+                                      "Error"};
     return kNames.at(static_cast<std::size_t>(icon));
 }
 
