@@ -1,0 +1,25 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string_view>
+
+#include "base/failure.h"
+#include "model/gph.h"
+#include "model/map_style.h"
+
+namespace campora {
+
+/// A FeatureCollection (RFC 7946), in UTF-8: polygons when a layer has them, else points, with the
+/// columns of their layers as properties: numbers as numbers, dates as ISO 8601 texts, empty cells
+/// as null; "id" counts from 0 in every layer when one of them has no data. Outer rings run against
+/// the clock; what crosses itself becomes a MultiPolygon, what has no area is left out. At most
+/// nine decimals, a tenth of a millimetre. `path`: with its ending; an existing file is replaced.
+/// A map without anything to write is a failure and leaves no file.
+[[nodiscard]] std::optional<Failure> exportGeoJson(std::span<Gph* const> layers,
+                                                   std::string_view path, const MapStyle& style);
+
+}  // namespace campora
