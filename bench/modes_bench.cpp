@@ -50,7 +50,7 @@ std::string reportBytes(std::size_t steps) {
 
 struct Desk {
     explicit Desk(std::size_t steps)
-        : session({canvas, window, dialogs, settings, locale, clipboard, clock, classes},
+        : session({canvas, window, dialogs, settings, locale, clipboard, clock, classes, shell},
                   Language::English, folder.path()) {
         session.start();
         session.loadFile(folder.write("field.rpt", reportBytes(steps)), true, true);
@@ -63,6 +63,7 @@ struct Desk {
     NoSettings settings;
     FixedLocale locale;
     MemoryClipboard clipboard;
+    ScriptedShell shell;
     ScriptedClock clock;
     MemoryClasses classes;
     Session session;

@@ -27,6 +27,7 @@
 #include "platform/main_window_controls.h"
 #include "platform/map_canvas.h"
 #include "platform/settings_store.h"
+#include "platform/shell.h"
 #include "platform/user_locale.h"
 #include "work/loaded_file_list.h"
 #include "work/registrations.h"
@@ -44,6 +45,7 @@ struct Platform {
     Clipboard& clipboard;
     Clock& clock;
     ClassesRegistry& classes;
+    Shell& shell;
 };
 
 /// The one object behind a main window (or behind one run of the batch program): open files, view,
@@ -145,9 +147,11 @@ public:
     /// Builds the default scale anew for the current mode and shows it in the legend; does not
     /// redraw. The date map is left when nothing loaded has a date.
     void refreshColorScale();
-    /// Shows the summary of the current file as it is now.
+    /// The summary of the current file as it is now, in the user's words; none without a file.
+    [[nodiscard]] std::vector<SummaryRow> summaryRows() const;
     void showSummary();
-    /// Shows the scale and the plain colours as they are now.
+    /// The scale and the plain colours as they are now.
+    [[nodiscard]] LegendContent legendContent();
     void showLegend();
     /// Draws the map again as it stands, in the user's background.
     void redraw() { view_.refrescar("-1"); }

@@ -52,8 +52,9 @@ BatchSession::BatchSession(const Arguments& arguments, MapCanvas& canvas, std::o
     : arguments_(arguments),
       dialogs_(arguments, boxes),
       locale_(arguments),
-      session_({canvas, window_, dialogs_, settings_, locale_, clipboard_, clock_, classes_},
-               arguments.language, arguments.programFolder) {
+      session_(
+          {canvas, window_, dialogs_, settings_, locale_, clipboard_, clock_, classes_, shell_},
+          arguments.language, arguments.programFolder) {
     session_.start();
 }
 

@@ -100,6 +100,12 @@ public:
     void processEvents() override {}
 };
 
+/// A run shows nothing.
+class NoShell final : public Shell {
+public:
+    [[nodiscard]] bool open(std::string_view /*path*/) override { return true; }
+};
+
 /// A run registers nothing with the system.
 class NoClasses final : public ClassesRegistry {
 public:
@@ -160,6 +166,7 @@ private:
     NoClipboard clipboard_;
     NoClock clock_;
     NoClasses classes_;
+    NoShell shell_;
     NoWindow window_;
     Session session_;
 };

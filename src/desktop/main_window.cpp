@@ -85,7 +85,7 @@ MainWindow::MainWindow(const Desktop& desktop, Language language, const std::str
     makeStatusBar();
     const Platform platform{
         mapArea_->map().canvas(), *this,         desktop.dialogs, desktop.settings, desktop.locale,
-        desktop.clipboard,        desktop.clock, desktop.classes};
+        desktop.clipboard,        desktop.clock, desktop.classes, desktop.shell};
     session_ = std::make_unique<Session>(platform, language, programFolder);
     connectMap();
     connectFileList();

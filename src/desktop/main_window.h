@@ -32,6 +32,7 @@ struct Desktop {
     Clipboard& clipboard;
     Clock& clock;
     ClassesRegistry& classes;
+    Shell& shell;
 };
 
 /// The main window: shows what the session says and hands the user's commands to it.

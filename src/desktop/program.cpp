@@ -35,8 +35,8 @@ std::string programPath() {
 }  // namespace
 
 Program::Program()
-    : window_({dialogs_, settings_, locale_, clipboard_, clock_, classes_}, Language::Spanish,
-              dataFolderOf(toUtf8(QApplication::applicationDirPath()))),
+    : window_({dialogs_, settings_, locale_, clipboard_, clock_, classes_, shell_},
+              Language::Spanish, dataFolderOf(toUtf8(QApplication::applicationDirPath()))),
       widgetTexts_(window_.session().texts()) {
     dialogs_.attach(window_, window_.session().texts());
     QApplication::installTranslator(&widgetTexts_);

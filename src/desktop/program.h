@@ -14,6 +14,7 @@
 #include "desktop/qt_dialogs.h"
 #include "desktop/qt_locale.h"
 #include "desktop/qt_settings_store.h"
+#include "desktop/qt_shell.h"
 #include "desktop/widget_texts.h"
 
 namespace campora {
@@ -34,6 +35,7 @@ private:
     QtLocale locale_;
     QtClipboard clipboard_;
     QtClock clock_;
+    QtShell shell_;
 #ifdef Q_OS_WIN
     WindowsClasses classes_;
 #else

@@ -3,23 +3,12 @@
 
 #include "presc/dose_grid.h"
 
-#include <bit>
 #include <cstddef>
 
+#include "base/byte_writer.h"
 #include "base/numbers.h"
 
 namespace campora {
-
-namespace {
-
-template <typename Unsigned>
-void append(std::string& bytes, Unsigned value) {
-    for (unsigned shift = 0; shift < 8 * sizeof(Unsigned); shift += 8) {
-        bytes.push_back(static_cast<char>(static_cast<std::uint8_t>(value >> shift)));
-    }
-}
-
-}  // namespace
 
 Failure impossibleGrid(std::int64_t columns, std::int64_t rows, double cellM, LonLat origin) {
     return {TextId::GridImpossible,
@@ -41,21 +30,9 @@ std::vector<std::int16_t> readDoses(ByteReader& reader, std::int32_t columns, st
     return doses;
 }
 
-void appendI16(std::string& bytes, std::int16_t value) {
-    append(bytes, static_cast<std::uint16_t>(value));
-}
-
-void appendI32(std::string& bytes, std::int32_t value) {
-    append(bytes, static_cast<std::uint32_t>(value));
-}
-
-void appendF32(std::string& bytes, float value) {
-    append(bytes, std::bit_cast<std::uint32_t>(value));
-}
-
 void appendDoses(std::string& bytes, std::span<const std::int16_t> doses) {
     for (const std::int16_t dose : doses) {
-        appendI16(bytes, dose);
+        appendLittle(bytes, dose);
     }
 }
 

@@ -26,9 +26,6 @@ namespace campora {
 [[nodiscard]] std::vector<std::int16_t> readDoses(ByteReader& reader, std::int32_t columns,
                                                   std::int32_t rows, int channels);
 
-void appendI16(std::string& bytes, std::int16_t value);
-void appendI32(std::string& bytes, std::int32_t value);
-void appendF32(std::string& bytes, float value);
 void appendDoses(std::string& bytes, std::span<const std::int16_t> doses);
 
 }  // namespace campora

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <string_view>
 
+#include "base/byte_writer.h"
 #include "base/numbers.h"
 #include "presc/dose_grid.h"
 #include "presc/grid_geometry.h"
@@ -83,12 +84,12 @@ void put(std::string& bytes, const Label& label) {
 
 void put(std::string& bytes, const Label& label, std::int16_t value) {
     put(bytes, label);
-    appendI16(bytes, value);
+    appendLittle(bytes, value);
 }
 
 void put(std::string& bytes, const Label& label, float value) {
     put(bytes, label);
-    appendF32(bytes, value);
+    appendLittle(bytes, value);
 }
 
 }  // namespace

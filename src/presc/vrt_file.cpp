@@ -5,6 +5,7 @@
 
 #include <cmath>
 
+#include "base/byte_writer.h"
 #include "base/encoding.h"
 #include "presc/dose_grid.h"
 #include "presc/grid_geometry.h"
@@ -73,12 +74,12 @@ VrtFile decodeVrt(std::span<const std::byte> bytes) {
 std::string encodeVrt(const VrtHeader& header, std::span<const std::int16_t> doses) {
     std::string bytes;
     bytes.reserve(kCells + doses.size_bytes());
-    appendI32(bytes, static_cast<std::int32_t>(kMagic));
-    appendF32(bytes, header.x0);
-    appendF32(bytes, header.y0);
-    appendF32(bytes, header.resolution);
-    appendI32(bytes, header.columns);
-    appendI32(bytes, header.rows);
+    appendLittle(bytes, static_cast<std::int32_t>(kMagic));
+    appendLittle(bytes, header.x0);
+    appendLittle(bytes, header.y0);
+    appendLittle(bytes, header.resolution);
+    appendLittle(bytes, header.columns);
+    appendLittle(bytes, header.rows);
     bytes.push_back(static_cast<char>(header.channels));
     appendText(bytes, header.name, kNameSize);
     appendText(bytes, header.description, kDescriptionSize);

@@ -4,10 +4,10 @@
 #include "work/glg_points.h"
 
 #include <cmath>
-#include <cstddef>
-#include <vector>
+#include <string>
 
-#include "base/files.h"
+#include "base/byte_writer.h"
+#include "base/file_draft.h"
 #include "base/numbers.h"
 #include "model/geodesy.h"
 
@@ -18,12 +18,6 @@ namespace {
 constexpr double kUnitsPerRadian = 8388608;  // 2^23
 constexpr std::uint32_t kSignBit = 0x80000000U;
 
-void appendU32le(std::vector<std::byte>& bytes, std::uint32_t value) {
-    for (unsigned shift = 0; shift < 32; shift += 8) {
-        bytes.push_back(static_cast<std::byte>(value >> shift));
-    }
-}
-
 }  // namespace
 
 std::uint32_t toGLGCoordType(double degrees) {
@@ -32,13 +26,15 @@ std::uint32_t toGLGCoordType(double degrees) {
 }
 
 std::optional<Failure> exporttoglg(std::string_view path, std::span<const LonLat> points) {
-    std::vector<std::byte> bytes;
-    bytes.reserve(points.size() * 2 * sizeof(std::uint32_t));
+    FileDraft draft(path);
+    std::string pair;
     for (const LonLat& point : points) {
-        appendU32le(bytes, toGLGCoordType(point.y));
-        appendU32le(bytes, toGLGCoordType(point.x));
+        pair.clear();
+        appendLittle(pair, toGLGCoordType(point.y));
+        appendLittle(pair, toGLGCoordType(point.x));
+        draft.write(pair);
     }
-    return writeFile(path, bytes);
+    return draft.finish();
 }
 
 }  // namespace campora

@@ -33,6 +33,7 @@ protected:
     MemoryClipboard clipboard;
     ScriptedClock clock;
     MemoryClasses classes;
+    ScriptedShell shell;
     TempFolder folder;
     std::unique_ptr<MainWindow> window;
 
@@ -40,7 +41,7 @@ protected:
 
     void openWindow(Language language) {
         window = std::make_unique<MainWindow>(
-            Desktop{dialogs, settings, locale, clipboard, clock, classes}, language, folder.path());
+            Desktop{dialogs, settings, locale, clipboard, clock, classes, shell}, language, folder.path());
         window->start("/opt/campora/campora", {});
         window->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));

@@ -19,6 +19,7 @@
 #include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/settings_store.h"
+#include "platform/shell.h"
 #include "platform/user_locale.h"
 
 namespace campora {
@@ -39,7 +40,7 @@ public:
     /// Reports of progress after which the user cancels; none: never.
     std::optional<int> cancelAfter;
 
-    /// "icon|caption|text" with the icon's name: Plain, Information, Exclamation, Error.
+    /// "icon|caption|text" with the icon's name: Plain, Information, Question, Exclamation, Error.
     std::vector<std::string> messages;
     /// As `messages`.
     std::vector<std::string> questions;
@@ -123,6 +124,19 @@ public:
         if (onEvents) {
             onEvents(events);
         }
+    }
+};
+
+class ScriptedShell : public Shell {
+public:
+    /// What was opened, in order.
+    std::vector<std::string> opened;
+    /// Whether the system knows a program for it.
+    bool succeeds = true;
+
+    [[nodiscard]] bool open(std::string_view path) override {
+        opened.emplace_back(path);
+        return succeeds;
     }
 };
 

@@ -22,7 +22,7 @@ namespace campora {
 /// A session on a scripted desktop, with a folder for its files.
 struct SessionDesk {
     explicit SessionDesk(Language language = Language::Spanish)
-        : session({canvas, window, dialogs, settings, locale, clipboard, clock, classes}, language,
+        : session({canvas, window, dialogs, settings, locale, clipboard, clock, classes, shell}, language,
                   folder.path()) {}
 
     NamedFile& add(const std::string& name, double minX = -60) {
@@ -83,6 +83,7 @@ struct SessionDesk {
     MemorySettings settings;
     FixedLocale locale;
     MemoryClipboard clipboard;
+    ScriptedShell shell;
     ScriptedClock clock;
     MemoryClasses classes;
     Session session;

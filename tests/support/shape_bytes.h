@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -11,19 +10,13 @@
 #include <string_view>
 #include <vector>
 
+#include "base/byte_writer.h"
 #include "base/lon_lat.h"
 
 namespace campora {
 
 [[nodiscard]] inline std::span<const std::byte> bytesOf(std::string_view text) {
     return std::as_bytes(std::span(text.data(), text.size()));
-}
-
-template <typename Unsigned>
-void appendLittle(std::string& bytes, Unsigned value) {
-    for (std::size_t i = 0; i < sizeof(Unsigned); ++i) {
-        bytes += static_cast<char>((value >> (8 * i)) & 0xFFU);
-    }
 }
 
 /// Writes a 32-bit number over what stands at `at`.
@@ -82,8 +75,8 @@ public:
 
 private:
     static void put(std::string& bytes, LonLat at) {
-        appendLittle(bytes, std::bit_cast<std::uint64_t>(at.x));
-        appendLittle(bytes, std::bit_cast<std::uint64_t>(at.y));
+        appendLittle(bytes, at.x);
+        appendLittle(bytes, at.y);
     }
     void addFigure(const std::vector<Ring>& rings, bool withParts, int tail) {
         std::string starts;

@@ -1,0 +1,96 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "base/file_draft.h"
+
+#include <filesystem>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "base/files.h"
+#include "base/paths.h"
+#include "support/temp_folder.h"
+
+namespace campora {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string contentOf(const std::string& path) {
+    const auto file = readFile(path);
+    return file ? std::string(file->text()) : "none";
+}
+
+std::size_t entriesOf(const TempFolder& folder) {
+    const fs::directory_iterator entries(nativePath(folder.path()));
+    return static_cast<std::size_t>(std::distance(begin(entries), end(entries)));
+}
+
+TEST(FileDraft, AppendsAndWritesOver) {
+    const TempFolder folder;
+    const std::string path = folder.file("a.shp");
+    FileDraft draft(path);
+    const std::string much(100000, 'm');  // more than a buffer holds
+    draft.write("head");
+    draft.write(much);
+    draft.overwrite(1, "EA");
+    draft.write("tail");
+    draft.overwrite(draft.size() - 1, "L");
+    EXPECT_EQ(draft.size(), much.size() + 8);
+    EXPECT_EQ(contentOf(path), "none");
+    EXPECT_FALSE(draft.finish().has_value());
+    EXPECT_EQ(contentOf(path), "hEAd" + much + "taiL");
+    EXPECT_EQ(entriesOf(folder), 1U);
+}
+
+TEST(FileDraft, WithoutFinishNothingChanges) {
+    const TempFolder folder;
+    const std::string path = folder.write("a.shp", "old");
+    {
+        FileDraft draft(path);
+        draft.write("new");
+        const FileDraft moved = std::move(draft);
+        EXPECT_EQ(moved.size(), 3U);
+    }
+    EXPECT_EQ(contentOf(path), "old");
+    EXPECT_EQ(entriesOf(folder), 1U);
+}
+
+TEST(FinishTogether, ReplacesAll) {
+    const TempFolder folder;
+    const std::vector<std::string> paths = {folder.write("a.shp", "old"), folder.file("a.shx")};
+    std::vector<FileDraft> drafts;
+    for (const std::string& path : paths) {
+        drafts.emplace_back(path).write("new");
+    }
+    EXPECT_FALSE(finishTogether(drafts).has_value());
+    EXPECT_EQ(contentOf(paths[0]), "new");
+    EXPECT_EQ(contentOf(paths[1]), "new");
+    EXPECT_EQ(entriesOf(folder), 2U);
+}
+
+TEST(FinishTogether, ReplacesNoneWhenOneCannotTakeItsPlace) {
+    const TempFolder folder;
+    const std::vector<std::string> paths = {folder.write("a.shp", "old"), folder.file("a.shx"),
+                                            folder.file("a.dbf")};
+    std::vector<FileDraft> drafts;
+    for (const std::string& path : paths) {
+        drafts.emplace_back(path).write("new");
+    }
+    // A folder of that name appears while the files are being written.
+    fs::create_directory(nativePath(paths[2]));
+    const std::optional<Failure> failure = finishTogether(drafts);
+    drafts.clear();
+    ASSERT_TRUE(failure.has_value());
+    EXPECT_EQ(failure->text, TextId::FileCannotBeWritten);
+    EXPECT_EQ(failure->arguments.front(), paths[2]);
+    EXPECT_EQ(contentOf(paths[0]), "old");
+    EXPECT_EQ(contentOf(paths[1]), "none");
+    EXPECT_EQ(entriesOf(folder), 2U) << "the old file and the folder";
+}
+
+}  // namespace
+}  // namespace campora
