@@ -12,14 +12,6 @@
 
 namespace campora {
 
-namespace {
-
-std::string folderOf(std::string_view path) {
-    return std::string(path.substr(0, path.size() - fileNamePart(path).size()));
-}
-
-}  // namespace
-
 DoseColumns::DoseColumns(const Session& session) : session_(session) {}
 
 void DoseColumns::addChannel() {

@@ -26,10 +26,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string folderOf(std::string_view path) {
-    return std::string(path.substr(0, path.size() - fileNamePart(path).size()));
-}
-
 bool exists(std::string_view path) {
     std::error_code ignored;
     return fs::exists(nativePath(path), ignored);

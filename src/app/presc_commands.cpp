@@ -21,10 +21,6 @@ constexpr std::string_view kShapeEnding = ".shp";
 /// Metres.
 constexpr std::string_view kProposedCell = "20";
 
-std::string folderOf(std::string_view path) {
-    return std::string(path.substr(0, path.size() - fileNamePart(path).size()));
-}
-
 /// The name of a file with another ending in place of ".shp".
 std::string withEnding(std::string name, std::string_view ending) {
     if (pathEnding(name) == kShapeEnding) {

@@ -46,6 +46,10 @@ std::string_view folderPart(std::string_view path) {
     return path.substr(0, last + 1);
 }
 
+std::string folderOf(std::string_view path) {
+    return std::string(path.substr(0, path.size() - fileNamePart(path).size()));
+}
+
 std::string pathEnding(std::string_view path) {
     std::size_t begin = path.size();
     for (int characters = 0; begin > 0 && characters < 4; ++characters) {

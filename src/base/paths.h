@@ -18,6 +18,10 @@ namespace campora {
 /// the last "/"; empty when there is neither.
 [[nodiscard]] std::string_view folderPart(std::string_view path);
 
+/// Everything before `fileNamePart`: the folder with the separator behind it; empty when there is
+/// none.
+[[nodiscard]] std::string folderOf(std::string_view path);
+
 /// The last four characters in lower case (".rpt"); all of a shorter path.
 [[nodiscard]] std::string pathEnding(std::string_view path);
 

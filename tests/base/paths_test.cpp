@@ -32,6 +32,7 @@ TEST(Paths, PartsOfAPath) {
     for (const Row& row : rows) {
         EXPECT_EQ(folderPart(row.path), row.folder) << row.path;
         EXPECT_EQ(fileNamePart(row.path), row.name) << row.path;
+        EXPECT_EQ(folderOf(row.path) + std::string(row.name), row.path);
     }
 }
 

@@ -1,0 +1,192 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "export/txt_export.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstddef>
+#include <vector>
+
+#include "base/encoding.h"
+#include "base/file_draft.h"
+#include "base/numbers.h"
+#include "base/text.h"
+#include "model/exportable.h"
+
+namespace campora {
+
+namespace {
+
+constexpr int kMostDigits = 15;
+constexpr std::string_view kLineEnd = "\r\n";
+
+/// A layer as a table: its points, and its rows where the table has columns.
+struct TableLayer {
+    const ExportablePoint* points = nullptr;
+    const ExportableData* data = nullptr;
+};
+
+std::vector<TableLayer> tableLayers(std::span<const Gph* const> layers) {
+    std::vector<TableLayer> found;
+    for (const Gph* layer : layers) {
+        const auto* points = dynamic_cast<const ExportablePoint*>(layer);
+        if (points != nullptr && points->ExportablePoint_pointCount() > 0) {
+            found.push_back({points, dynamic_cast<const ExportableData*>(layer)});
+        }
+    }
+    const bool allHaveData = std::all_of(
+        found.begin(), found.end(), [](const TableLayer& layer) { return layer.data != nullptr; });
+    if (!allHaveData) {
+        for (TableLayer& layer : found) {
+            layer.data = nullptr;
+        }
+    }
+    return found;
+}
+
+/// At most 15 digits, "." as decimal point with a zero before it, never an exponent.
+void appendNumber(std::string& line, double value) {
+    std::array<char, 32> buffer;
+    char* const end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                    std::chars_format::general, kMostDigits)
+                          .ptr;
+    const std::string_view text(buffer.data(), static_cast<std::size_t>(end - buffer.data()));
+    const bool isPlain = text.find_first_not_of("-.0123456789") == std::string_view::npos;
+    if (isPlain && value != 0) {
+        line += text;
+    } else {
+        line += numberText(std::isfinite(value) ? leadingNumber(text).value_or(0) : 0.0);
+    }
+}
+
+/// With a blank in the place of the sign.
+void appendCoordinate(std::string& line, double degrees) {
+    if (!(degrees < 0)) {
+        line.push_back(' ');
+    }
+    appendNumber(line, degrees);
+}
+
+/// In the code page of the table, in one line and one field.
+void appendText(std::string& line, std::string_view text) {
+    const std::size_t begin = line.size();
+    const bool isAscii = std::all_of(text.begin(), text.end(), [](char letter) {
+        return static_cast<unsigned char>(letter) < 0x80;
+    });
+    line += isAscii ? std::string(text) : toWindows1252(text);
+    std::replace_if(
+        line.begin() + static_cast<std::ptrdiff_t>(begin), line.end(),
+        [](char letter) { return letter == '\t' || letter == '\r' || letter == '\n'; }, ' ');
+}
+
+/// Cells as the user's locale writes them.
+class CellTexts {
+public:
+    explicit CellTexts(const UserLocale& locale)
+        : symbol_(locale.decimalSymbol()), dateForm_(locale.shortDateForm()) {}
+
+    void append(std::string& line, const CellValue& cell) {
+        const std::size_t begin = line.size();
+        if (const auto* text = std::get_if<std::string>(&cell)) {
+            appendText(line, *text);
+        } else if (const auto* date = std::get_if<Date>(&cell)) {
+            appendText(line, dateText(*date));
+        } else if (const auto* whole = std::get_if<std::int64_t>(&cell)) {
+            line += numberText(*whole);
+        } else if (const auto* number = std::get_if<double>(&cell)) {
+            appendNumber(line, *number);
+            useSymbol(line, begin);
+        } else if (const auto* single = std::get_if<float>(&cell)) {
+            line += numberText(*single);
+            useSymbol(line, begin);
+        }
+    }
+
+private:
+    /// The points of a day come one after another.
+    const std::string& dateText(const Date& date) {
+        if (lastText_.empty() || !(date == lastDate_)) {
+            lastDate_ = date;
+            lastText_ = campora::dateText(date, dateForm_);
+        }
+        return lastText_;
+    }
+    void useSymbol(std::string& line, std::size_t begin) const {
+        std::replace(line.begin() + static_cast<std::ptrdiff_t>(begin), line.end(), '.', symbol_);
+    }
+
+    char symbol_;
+    std::string dateForm_;
+    Date lastDate_;
+    std::string lastText_;
+};
+
+std::string headingLine(std::span<const TableLayer> layers, const TextTableForm& form) {
+    std::string line = "Longitud" + form.separator + "Latitud";
+    const ExportableData* const data = layers.empty() ? nullptr : layers.front().data;
+    const int columns = data == nullptr ? 0 : data->ExportableData_getColumnCount();
+    for (int column = 0; column < columns; ++column) {
+        // A character is one byte in the code page of the table.
+        std::string name;
+        appendText(name, trim(data->ExportableData_getColumnNname(column)));
+        if (form.longestName != TextTableForm::kWholeNames) {
+            name.resize(std::min<std::size_t>(name.size(), form.longestName));
+        }
+        line.append(form.separator).append(name);
+    }
+    return line.append(kLineEnd);
+}
+
+/// The lines of a layer; false when the user has cancelled.
+bool writeLayer(const TableLayer& layer, const TextTableForm& form, char systemSymbol,
+                CellTexts& cells, FileDraft& file, ExportProgress& progress) {
+    constexpr CellOptions kOptions{.swathInCentimetres = true};
+    const int columns = layer.data == nullptr ? 0 : layer.data->ExportableData_getColumnCount();
+    const std::int32_t count = layer.points->ExportablePoint_pointCount();
+    std::string line;
+    for (std::int32_t point = 0; point < count; ++point) {
+        if (!progress.next()) {
+            return false;
+        }
+        const LonLat at = layer.points->ExportablePoint_pointN(point);
+        line.clear();
+        appendCoordinate(line, at.x);
+        line += form.separator;
+        appendCoordinate(line, at.y);
+        for (int column = 0; column < columns; ++column) {
+            line += form.separator;
+            cells.append(line, layer.data->ExportableData_getCell(point, column, kOptions));
+        }
+        std::replace(line.begin(), line.end(), systemSymbol, form.decimalSymbol);
+        line += kLineEnd;
+        file.write(line);
+    }
+    return true;
+}
+
+}  // namespace
+
+std::optional<Failure> txtExport(std::span<const Gph* const> layers, std::string_view path,
+                                 const TextTableForm& form, const UserLocale& locale,
+                                 ExportProgress& progress) {
+    const std::vector<TableLayer> table = tableLayers(layers);
+    std::int64_t points = 0;
+    for (const TableLayer& layer : table) {
+        points += layer.points->ExportablePoint_pointCount();
+    }
+    progress.expect(points);
+    FileDraft file(path);
+    file.write(headingLine(table, form));
+    CellTexts cells(locale);
+    for (const TableLayer& layer : table) {
+        if (!writeLayer(layer, form, locale.decimalSymbol(), cells, file, progress)) {
+            return std::nullopt;
+        }
+    }
+    return file.finish();
+}
+
+}  // namespace campora
