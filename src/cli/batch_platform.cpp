@@ -3,6 +3,8 @@
 
 #include "cli/batch_platform.h"
 
+#include <QDate>
+
 #include "base/text.h"
 #include "presc/gph_presc.h"
 
@@ -46,6 +48,11 @@ std::vector<std::string> BatchDialogs::openFiles(const OpenRequest& /*request*/)
         return {};
     }
     return {channels[nextChannel_++].file};
+}
+
+Date NoClock::today() const {
+    const QDate today = QDate::currentDate();
+    return {today.year(), today.month(), today.day()};
 }
 
 BatchSession::BatchSession(const Arguments& arguments, MapCanvas& canvas, std::ostream& boxes)

@@ -98,6 +98,7 @@ public:
     [[nodiscard]] std::uint32_t ticks() const override { return 0; }
     void sleep(std::uint32_t /*milliseconds*/) override {}
     void processEvents() override {}
+    [[nodiscard]] Date today() const override;
 };
 
 /// A run shows nothing.

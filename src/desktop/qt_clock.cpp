@@ -6,6 +6,7 @@
 #include <chrono>
 
 #include <QCoreApplication>
+#include <QDate>
 #include <QThread>
 
 namespace campora {
@@ -22,6 +23,11 @@ void QtClock::sleep(std::uint32_t milliseconds) {
 
 void QtClock::processEvents() {
     QCoreApplication::processEvents();
+}
+
+Date QtClock::today() const {
+    const QDate today = QDate::currentDate();
+    return {today.year(), today.month(), today.day()};
 }
 
 }  // namespace campora

@@ -12,6 +12,7 @@ public:
     [[nodiscard]] std::uint32_t ticks() const override;
     void sleep(std::uint32_t milliseconds) override;
     void processEvents() override;
+    [[nodiscard]] Date today() const override;
 };
 
 }  // namespace campora

@@ -5,9 +5,11 @@
 
 #include <cstdint>
 
+#include "base/dates.h"
+
 namespace campora {
 
-/// Time as the pacing of long work needs it.
+/// Time as the pacing of long work needs it, and the day.
 class Clock {
 public:
     virtual ~Clock() = default;
@@ -17,6 +19,8 @@ public:
     virtual void sleep(std::uint32_t milliseconds) = 0;
     /// Lets the user's clicks and keys, and paints, that have come up act now.
     virtual void processEvents() = 0;
+    /// The day where the user is.
+    [[nodiscard]] virtual Date today() const = 0;
 };
 
 }  // namespace campora
