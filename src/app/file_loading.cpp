@@ -10,6 +10,7 @@
 
 #include "base/files.h"
 #include "base/paths.h"
+#include "lots/load_lot.h"
 #include "presc/gph_presc.h"
 #include "presc/load_grid.h"
 
@@ -51,12 +52,21 @@ std::optional<OpenedFile> openZones(std::string_view path, const OpenContext& co
     return OpenedFile{std::move(zones), context.ranges, std::nullopt, std::nullopt};
 }
 
+std::optional<OpenedFile> openLot(std::string_view path, const OpenContext& context) {
+    std::unique_ptr<File> lot = loadLot(path, {context.dialogs, context.locale, context.texts});
+    if (!lot) {
+        return std::nullopt;
+    }
+    return OpenedFile{std::move(lot), context.ranges, std::nullopt, std::nullopt};
+}
+
 constexpr FileFormat kFormats[] = {
     {".rpt", TextId::FilterReports, true, false, openWork<loadRptFile>},
     {".txt", TextId::FilterTextTables, true, false, openWork<loadRptTextTable>},
     {".nbr", TextId::FilterTrackFiles, false, true, openWork<loadTrackFile>},
     {".shp", TextId::FilterShapes, false, false, openZones},
     {".vrt", TextId::FilterPrescriptions, false, false, openGrid},
+    {".lot", TextId::FilterLotes, false, false, openLot},
     // The last: files without an ending of the table are offered to its reader.
     {".pre", TextId::FilterPrescriptions, false, false, openGrid},
 };

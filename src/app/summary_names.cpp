@@ -50,6 +50,9 @@ constexpr Name kNames[] = {
     {"Nombre", TextId::DialogName},
     {"Descripcion", TextId::SummaryDescription},
     {"Resolución", TextId::SummaryResolution},
+    {"Superficie:", TextId::SummaryLoteArea},
+    {"Perímetro:", TextId::SummaryPerimeter},
+    {"Vértices:", TextId::SummaryVertices},
 };
 
 /// Names with the number of a channel in the place %1.

@@ -8,6 +8,7 @@
 #include "base/dates.h"
 #include "base/numbers.h"
 #include "cli/json_writer.h"
+#include "lots/gph_lote.h"
 #include "model/exportable.h"
 #include "presc/gph_presc.h"
 #include "presc/grid_layer.h"
@@ -87,7 +88,21 @@ void writeColumns(JsonWriter& json, const GphPresc& presc) {
     json.endArray();
 }
 
-void writeLayers(JsonWriter& json, const File& file) {
+void writeLot(JsonWriter& json, const GphLote& lot, const InfoContext& context) {
+    json.key("vertices");
+    json.beginArray();
+    for (const auto& [x, y] : lot.vertices()) {
+        json.beginArray();
+        json.value(x);
+        json.value(y);
+        json.endArray();
+    }
+    json.endArray();
+    json.member("info", lot.Gph_getInfo(context, 0));
+    json.member("description", lot.description);
+}
+
+void writeLayers(JsonWriter& json, const File& file, const InfoContext& context) {
     json.key("layers");
     json.beginArray();
     for (const Gph* layer : file.File_gphList()) {
@@ -105,6 +120,8 @@ void writeLayers(JsonWriter& json, const File& file) {
             writeGrid(json, *grid);
         } else if (const auto* const presc = dynamic_cast<const GphPresc*>(layer)) {
             writeColumns(json, *presc);
+        } else if (const auto* const lot = dynamic_cast<const GphLote*>(layer)) {
+            writeLot(json, *lot, context);
         }
         json.endObject();
     }
@@ -136,7 +153,7 @@ void writeScale(JsonWriter& json, const ColorScale* scale) {
     json.endArray();
 }
 
-void writeFile(JsonWriter& json, File& file) {
+void writeFile(JsonWriter& json, File& file, const InfoContext& context) {
     json.beginObject();
     json.member("name", file.File_name());
     json.member("path", file.File_path());
@@ -145,7 +162,7 @@ void writeFile(JsonWriter& json, File& file) {
     json.member("priority", file.File_priority());
     writeBound(json, file.File_bound());
     writeSummary(json, file.File_resumen());
-    writeLayers(json, file);
+    writeLayers(json, file, context);
     writeScale(json, file.File_escalaColores());
     json.endObject();
 }
@@ -174,12 +191,13 @@ void writeRange(JsonWriter& json, const std::string& name,
 }  // namespace
 
 void writeInfoJson(Session& session, std::ostream& out) {
+    const InfoContext context{session.texts(), session.platform().locale, session.style()};
     JsonWriter json(out);
     json.beginObject();
     json.key("files");
     json.beginArray();
     for (int i = 0; i < session.plotCount(); ++i) {
-        writeFile(json, session.files().file(i));
+        writeFile(json, session.files().file(i), context);
     }
     json.endArray();
     json.key("ranges");

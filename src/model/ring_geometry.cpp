@@ -40,6 +40,17 @@ float polygonArea(std::span<const LonLat> ring) {
     return std::abs(twiceArea / 2);
 }
 
+double ringPerimeter(std::span<const LonLat> ring) {
+    double metres = 0;
+    for (std::size_t i = 0; i < ring.size(); ++i) {
+        const LonLat& a = ring[i];
+        const LonLat& b = ring[i + 1 < ring.size() ? i + 1 : 0];
+        const double perDegree = METERS_PER_DEGREE * std::cos(toRadians((a.y + b.y) / 2));
+        metres += std::hypot((b.x - a.x) * perDegree, (b.y - a.y) * METERS_PER_DEGREE);
+    }
+    return metres;
+}
+
 bool pointInRing(std::span<const LonLat> ring, LonLat point) {
     bool inside = false;
     for (std::size_t i = 0; i < ring.size(); ++i) {

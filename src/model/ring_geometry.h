@@ -14,6 +14,10 @@ namespace campora {
 /// with each vertex's own cosine.
 [[nodiscard]] float polygonArea(std::span<const LonLat> ring);
 
+/// Length of a closed ring in metres, each edge on the flat by the cosine of its mean latitude.
+/// `ring` as above; a single point gives 0.
+[[nodiscard]] double ringPerimeter(std::span<const LonLat> ring);
+
 /// Longitude at which the edge from `a` to `b`, of which one end lies above `y` and the other does
 /// not, meets the parallel of `y`.
 [[nodiscard]] inline double crossingX(LonLat a, LonLat b, double y) {

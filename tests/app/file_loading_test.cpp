@@ -12,29 +12,19 @@ namespace campora {
 namespace {
 
 TEST(FileLoading, TheEndingDecides) {
-    struct Row {
-        const char* path;
-        const char* ending;
-    };
-    const Row rows[] = {
-        {R"(C:\A\B.RPT)", ".rpt"},
-        {"Parte 8 columnas.txt", ".txt"},
-        {"tarjeta/LOG0001.Nbr", ".nbr"},
-        {".rpt", ".rpt"},
-        {"lote.PRE", ".pre"},
-        {"lote.vrt", ".vrt"},
-        {"trabajo.rpt.doc", nullptr},
-        {"rpt", nullptr},
-        {"trabajo.rpt/", nullptr},
-        {"", nullptr},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.path);
-        const FileFormat* const format = formatOf(row.path);
-        ASSERT_EQ(format != nullptr, row.ending != nullptr);
-        if (format != nullptr) {
-            EXPECT_EQ(format->ending, row.ending);
-        }
+    const std::pair<const char*, const char*> rows[] = {{R"(C:\A\B.RPT)", ".rpt"},
+                                                        {"Parte 8 columnas.txt", ".txt"},
+                                                        {"tarjeta/LOG0001.Nbr", ".nbr"},
+                                                        {".rpt", ".rpt"},
+                                                        {"lote.PRE", ".pre"},
+                                                        {"lote.vrt", ".vrt"},
+                                                        {"trabajo.rpt.doc", ""},
+                                                        {"rpt", ""},
+                                                        {"trabajo.rpt/", ""},
+                                                        {"", ""}};
+    for (const auto& [path, ending] : rows) {
+        const FileFormat* const format = formatOf(path);
+        EXPECT_EQ(format != nullptr ? format->ending : "", ending) << path;
     }
 }
 
@@ -48,9 +38,9 @@ TEST(FileLoading, EveryFormatHasItsFilter) {
     const std::vector<FileFilter> filters = openFilters(Texts(Language::English));
     ASSERT_EQ(filters.size(), fileFormats().size() + 3);
     EXPECT_EQ(filters.front().caption, "Supported files");
-    EXPECT_EQ(
-        filters.front().patterns,
-        (std::vector<std::string>{"*.rpt", "*.txt", "*.nbr", "*.shp", "*.vrt", "*.pre", "*.fsp"}));
+    EXPECT_EQ(filters.front().patterns,
+              (std::vector<std::string>{"*.rpt", "*.txt", "*.nbr", "*.shp", "*.vrt", "*.lot",
+                                        "*.pre", "*.fsp"}));
     EXPECT_EQ(filters[3].caption, "Work logs");
     EXPECT_EQ(filters[3].patterns, std::vector<std::string>{"*.nbr"});
     EXPECT_EQ(filters.back().patterns, std::vector<std::string>{"*"});

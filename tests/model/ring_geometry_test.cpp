@@ -76,5 +76,23 @@ TEST(RingGeometry, PointInRing) {
     EXPECT_FALSE(pointInRing({}, {0, 0}));
 }
 
+TEST(RingPerimeter, GoesRoundEachEdgeAtItsOwnLatitude) {
+    struct Row {
+        const char* name;
+        std::vector<LonLat> ring;
+        double metres;
+    };
+    const Row rows[] = {
+        {"nothing", {}, 0},
+        {"a point", {{1, 1}}, 0},
+        {"there and back", {{0, 0}, {0.01, 0}}, 2226.4},
+        {"a square at the equator", {{0, 0}, {0.01, 0}, {0.01, 0.01}, {0, 0.01}}, 4452.8},
+        {"a square at 60 degrees", {{5, 60}, {5.01, 60}, {5.01, 60.01}, {5, 60.01}}, 3339.43},
+    };
+    for (const Row& row : rows) {
+        EXPECT_NEAR(ringPerimeter(row.ring), row.metres, 0.1) << row.name;
+    }
+}
+
 }  // namespace
 }  // namespace campora

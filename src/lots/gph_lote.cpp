@@ -1,0 +1,102 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "lots/gph_lote.h"
+
+#include <algorithm>
+#include <stdexcept>
+#include <utility>
+
+#include "base/number_forms.h"
+#include "model/ring_geometry.h"
+
+namespace campora {
+
+namespace {
+
+constexpr float kSquareMetresPerHectare = 10'000;
+
+/// The form "#.#": no zero before the point and none behind it.
+std::string areaText(float hectares, char decimalSymbol) {
+    std::string text = fixedNumberText(hectares, 1);
+    text.erase(text.find_last_not_of('0') + 1);
+    text.erase(0, text.find_first_not_of('0'));
+    std::replace(text.begin(), text.end(), '.', decimalSymbol);
+    return text;
+}
+
+}  // namespace
+
+GphLote::GphLote(std::vector<LonLat> vertices, std::string text)
+    : description(std::move(text)), vertices_(std::move(vertices)) {
+    for (const auto& [x, y] : vertices_) {
+        bound_.addPoint(x, y);
+    }
+}
+
+void GphLote::clear() {
+    vertices_.clear();
+    bound_.clear();
+}
+
+void GphLote::addPoint(double x, double y) {
+    vertices_.push_back({x, y});
+    bound_.addPoint(x, y);
+}
+
+double GphLote::getPointX(std::int32_t i) const {
+    return vertices_.at(static_cast<std::size_t>(i)).x;
+}
+
+double GphLote::getPointY(std::int32_t i) const {
+    return vertices_.at(static_cast<std::size_t>(i)).y;
+}
+
+float GphLote::hectares() const {
+    return polygonArea(vertices_) / kSquareMetresPerHectare;
+}
+
+void GphLote::Gph_plot(MapContext& context) const {
+    if (vertices_.empty() || !context.view.isFitted() || !context.view.mayTouch(bound_, 0)) {
+        return;
+    }
+    std::vector<CanvasPoint> corners;
+    corners.reserve(vertices_.size());
+    for (const auto& [x, y] : vertices_) {
+        corners.push_back(context.view.mapToScreen(x, y));
+    }
+    MapCanvas& canvas = context.canvas;
+    const Color pen = canvas.penColor();
+    const Color color = context.style.colors.lote;
+    canvas.setPenColor(color);
+    canvas.setPenWidth(1);
+    canvas.setFillStyle(FillStyle::Solid);
+    canvas.setFillColor(color);
+    canvas.polygon(corners);
+    canvas.setPenColor(pen);  // others outline with what they find
+}
+
+std::int32_t GphLote::Gph_mouseOver(const ViewTransform& /*view*/, const MapStyle& /*style*/,
+                                    LonLat position, std::int32_t /*start*/) const {
+    return pointInRing(vertices_, position) ? 0 : -1;
+}
+
+std::string GphLote::Gph_getInfo(const InfoContext& context, std::int32_t /*n*/) const {
+    return context.texts.format(TextId::LoteInfo,
+                                {areaText(hectares(), context.locale.decimalSymbol())});
+}
+
+std::int32_t GphLote::ExportablePolygon_polygonNCount(const MapStyle& /*style*/,
+                                                      std::int32_t polygon) const {
+    return polygon == 0 && !vertices_.empty() ? getPointCnt() + 1 : 0;
+}
+
+LonLat GphLote::ExportablePolygon_polygonNpoint(std::int32_t polygon, std::int32_t point) const {
+    if (polygon != 0) {
+        throw std::out_of_range("one polygon");
+    }
+    const auto index = static_cast<std::size_t>(point);
+    return vertices_.at(point >= getPointCnt() ? 0 : index);
+}
+
+}  // namespace campora

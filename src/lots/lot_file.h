@@ -1,0 +1,43 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/lon_lat.h"
+
+namespace campora {
+
+/// What a ".lot" file holds.
+struct LotFile {
+    /// The ring in order, in degrees; the first vertex is not repeated.
+    std::vector<LonLat> vertices;
+    /// Lines, each ended by CR LF.
+    std::string description;
+
+    bool operator==(const LotFile&) const = default;
+};
+
+/// Lines of a description that a file keeps.
+inline constexpr std::size_t kLotDescriptionLines = 10;
+
+/// The lines of a lot file: those whose first two pieces between commas are numbers are vertices
+/// (latitude first, both with their signs turned round), all others the description. Throws
+/// `FormatError` (with the line's number) for a vertex that is not on the globe; a file without
+/// vertices gives a lot without.
+[[nodiscard]] LotFile decodeLot(std::string_view bytes);
+
+/// The bytes of a lot file, in Windows-1252: the first ten lines of the description, with a "_"
+/// where one would be read back as a number or a vertex, then a line a vertex. Coordinates have ten
+/// decimals, a hundredth of a millimetre.
+[[nodiscard]] std::string encodeLot(std::span<const LonLat> vertices, std::string_view description);
+
+/// The lines of a text without their ends; CR LF, LF and CR end one. What stands after the last
+/// end is no line when it is empty.
+[[nodiscard]] std::vector<std::string> descriptionLines(std::string_view text);
+
+}  // namespace campora

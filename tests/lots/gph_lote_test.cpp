@@ -1,0 +1,79 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "lots/gph_lote.h"
+
+#include <gtest/gtest.h>
+
+#include "support/recording_canvas.h"
+#include "support/scripted_platform.h"
+
+namespace campora {
+namespace {
+
+/// So many degrees square at the equator.
+GphLote square(double side) {
+    return {{{0, 0}, {side, 0}, {side, side}, {0, side}}, ""};
+}
+
+TEST(GphLote, TellsItsHectares) {
+    struct Row {
+        double side;
+        Language language;
+        char symbol;
+        const char* text;
+    };
+    const Row rows[] = {
+        {0.01, Language::Spanish, '.', "Lote Virtual. V 1.0\r\n123.9Has"},
+        {0.0009, Language::Spanish, ',', "Lote Virtual. V 1.0\r\n1,Has"},
+        {0.0005, Language::Portuguese, ',', "Talhão virtual. V 1.0\r\n,3 ha"},
+        {0.00001, Language::English, '.', "Virtual lot. V 1.0\r\n. ha"},
+    };
+    for (const Row& row : rows) {
+        const FixedLocale locale(row.symbol);
+        const Texts texts(row.language);
+        EXPECT_EQ(square(row.side).Gph_getInfo({texts, locale, MapStyle()}, 0), row.text);
+    }
+}
+
+TEST(GphLote, IsExportedAsAClosedRing) {
+    const GphLote lot({{-58.5, -34.25}, {-58.4, -34.25}, {-58.4, -34.3}}, "");
+    const MapStyle style;
+    EXPECT_EQ(lot.ExportablePolygon_polygonNCount(style, 0), 4);
+    EXPECT_EQ(lot.ExportablePolygon_polygonNCount(style, 1), 0);
+    EXPECT_EQ(lot.ExportablePolygon_polygonNpoint(0, 2), (LonLat{-58.4, -34.3}));
+    EXPECT_EQ(lot.ExportablePolygon_polygonNpoint(0, 3), (LonLat{-58.5, -34.25}));
+    EXPECT_EQ(GphLote().ExportablePolygon_polygonNCount(style, 0), 0);
+}
+
+TEST(GphLote, IsDrawnInTheColourOfLotsAndLeavesThePen) {
+    RecordingCanvas canvas{{1000, 500}};
+    MapStyle style;
+    style.colors.lote = Color{0x123456};
+    canvas.setPenColor(Color{0xABCDEF});
+    const ViewTransform view(10, 10, {0, 0}, canvas.size());
+    MapContext context{canvas, view, style};
+    canvas.forget();
+    square(0.01).Gph_plot(context);
+    ASSERT_EQ(canvas.calls().size(), 1U);
+    EXPECT_TRUE(canvas.calls()[0].starts_with(
+        "polygon fill=0x123456 style=solid pen=0x123456 width=1 solid: (0,500) (111,500)"))
+        << canvas.calls()[0];
+    EXPECT_EQ(canvas.penColor(), Color{0xABCDEF});
+    canvas.forget();
+    GphLote({{50, 50}, {51, 50}, {50, 51}}, "").Gph_plot(context);
+    const ViewTransform unfitted;
+    MapContext without{canvas, unfitted, style};
+    square(0.01).Gph_plot(without);
+    EXPECT_TRUE(canvas.calls().empty());
+}
+
+TEST(GphLote, HoldsWhatLiesInside) {
+    const GphLote lot = square(0.01);
+    EXPECT_EQ(lot.Gph_mouseOver({}, {}, {0.005, 0.005}, 0), 0);
+    EXPECT_EQ(lot.Gph_mouseOver({}, {}, {0.015, 0.005}, 0), -1);
+    EXPECT_EQ(GphLote().Gph_mouseOver({}, {}, {0, 0}, 0), -1);
+}
+
+}  // namespace
+}  // namespace campora

@@ -1,0 +1,86 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "lots/load_lot.h"
+
+#include <filesystem>
+
+#include <gtest/gtest.h>
+
+#include "lots/gph_lote.h"
+#include "support/scripted_platform.h"
+#include "support/temp_folder.h"
+
+namespace campora {
+namespace {
+
+struct LoadLot : testing::Test {
+    TempFolder folder;
+    ScriptedDialogs dialogs;
+    FixedLocale locale{','};
+    Texts texts;
+
+    std::unique_ptr<FileGphGroup> load(const std::string& path) {
+        return loadLot(path, {dialogs, locale, texts});
+    }
+};
+
+TEST_F(LoadLot, MakesAnEntryOfTheList) {
+    const std::string path = folder.write(
+        "Lote Ñ.lot", "Campo 1\r\nSoja\r\n. , .\r\n. , -.01\r\n-.01 , -.01\r\n-.01 , .");
+    const auto file = load(path);
+    ASSERT_NE(file, nullptr);
+    EXPECT_EQ(file->name, "Lote Ñ.lot");
+    EXPECT_EQ(file->icon, "ruler");
+    EXPECT_EQ(file->File_diskPath(), path);
+    EXPECT_EQ(file->File_id(), "");
+    const std::vector<FileProperty> expected = {
+        {"Nombre Archivo:", "Lote Ñ.lot", ""}, {"Superficie:", "124", "Has"},
+        {"Perímetro:", "4453", "m"},           {"Vértices:", "4", ""},
+        {"Descripcion", "Campo 1", ""},        {"", "Soja", ""},
+    };
+    EXPECT_EQ(file->File_resumen().entries(), expected);
+    ASSERT_EQ(file->File_gphList().size(), 1U);
+    const auto& lot = dynamic_cast<const GphLote&>(*file->File_gphList().front());
+    EXPECT_EQ(lot.description, "Campo 1\r\nSoja\r\n");
+    EXPECT_EQ(lot.vertices()[2], (LonLat{0.01, 0.01}));
+    EXPECT_EQ(file->File_bound().maxX, 0.01);
+    EXPECT_TRUE(dialogs.messages.empty());
+}
+
+TEST_F(LoadLot, RefusesWhatIsNoLotWithAMessage) {
+    struct Row {
+        const char* name;
+        std::string bytes;
+        const char* reason;
+    };
+    const Row rows[] = {
+        {"empty", "", "no tiene ningún vértice"},
+        {"only words", "Campo 1\r\nSoja", "no tiene ningún vértice"},
+        {"no text at all", std::string("\0\xFF\x01,\0", 5), "no tiene ningún vértice"},
+        {"off the globe", "a\r\n1,2\r\n1,500\r\n",
+         "la línea 3 tiene una posición fuera del globo: 1,500"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        const std::string path = folder.write("x.lot", row.bytes);
+        dialogs.messages.clear();
+        EXPECT_EQ(load(path), nullptr);
+        EXPECT_EQ(dialogs.messages,
+                  std::vector<std::string>{"Error|" + std::string(texts(TextId::WrongFileFormat)) +
+                                           "|No se puede leer el archivo " + path + ": " +
+                                           row.reason});
+    }
+    dialogs.messages.clear();
+    EXPECT_EQ(load(folder.file("falta.lot")), nullptr);
+    EXPECT_EQ(dialogs.messages.size(), 1U);
+}
+
+TEST_F(LoadLot, ALotOfTwoVerticesIsShownAsItIs) {
+    const auto file = load(folder.write("dos.lot", "1,2\r\n3,4\r\n"));
+    ASSERT_NE(file, nullptr);
+    EXPECT_EQ(file->File_resumen().value_(1), "0");
+}
+
+}  // namespace
+}  // namespace campora

@@ -1,0 +1,143 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "lots/lot_file.h"
+
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "base/failure.h"
+
+namespace campora {
+
+void PrintTo(const LonLat& position, std::ostream* out) {
+    *out << position.x << ", " << position.y;
+}
+
+namespace {
+
+using Vertices = std::vector<LonLat>;
+
+const Vertices kTriangle = {{-58.5, -34.25}, {-58.4, -34.25}, {-58.4, -34.3}};
+
+TEST(LotFile, HoldsTheDescriptionAndTheVerticesWithTheirSignsTurnedRound) {
+    const std::string bytes = encodeLot(kTriangle, "Campo 1");
+    EXPECT_EQ(bytes, "Campo 1\r\n"
+                     "34.25 , 58.5\r\n"
+                     "34.25 , 58.4\r\n"
+                     "34.3 , 58.4\r\n");
+    EXPECT_EQ(decodeLot(bytes), (LotFile{kTriangle, "Campo 1\r\n"}));
+}
+
+TEST(LotFile, CoordinatesComeBackAsTheyWere) {
+    const Vertices vertices = {
+        {-58, 0}, {0, 12.3456789012}, {180, -90}, {0.0000000001, -0.5}, {-179.9999999999, 89.1}};
+    const std::string bytes = encodeLot(vertices, "");
+    EXPECT_TRUE(bytes.starts_with(". , 58.\r\n-12.3456789012 , .\r\n90. , -180.\r\n"));
+    EXPECT_EQ(decodeLot(bytes), (LotFile{vertices, ""}));
+}
+
+TEST(LotFile, ALineIsAVertexWhenItsFirstTwoPiecesAreNumbers) {
+    struct Row {
+        const char* name;
+        const char* line;
+        Vertices vertices;
+    };
+    const Row rows[] = {
+        {"as written", "34.25 , 58.5", {{-58.5, -34.25}}},
+        {"no blanks", "34.25,58.5", {{-58.5, -34.25}}},
+        {"blanks and a tab", "\t 34.25 ,  58.5 ", {{-58.5, -34.25}}},
+        {"a third piece", "34.25 , 58.5, alambrado", {{-58.5, -34.25}}},
+        {"signs", "-34.25,+58.5", {{-58.5, 34.25}}},
+        {"exponent", "1e1,5E-1", {{-0.5, -10}}},
+        {"a point is 0", ". , -.", {{0, 0}}},
+        {"too small for a double", "1e-400,1", {{-1, 0}}},
+        {"one piece", "34.25", {}},
+        {"empty second piece", "34.25 ,", {}},
+        {"empty first piece", " , 58.5", {}},
+        {"a unit", "34.25 , 58.5 m", {}},
+        {"a mark", "34.25 , 58.5_", {}},
+        {"words for numbers", "nan,inf", {}},
+        {"hexadecimal", "0x10,0x10", {}},
+        {"two points", "1.2.3,4", {}},
+        {"exponent without digits", "1e,4", {}},
+        {"a point with an exponent", ".e1,4", {}},
+        {"only signs", "-,+", {}},
+        {"empty", "", {}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        const LotFile lot = decodeLot(std::string(row.line) + "\r\n");
+        EXPECT_EQ(lot.vertices, row.vertices);
+        EXPECT_EQ(lot.description,
+                  row.vertices.empty() ? std::string(row.line) + "\r\n" : std::string());
+    }
+}
+
+TEST(LotFile, APositionOffTheGlobeIsRefusedWithItsLine) {
+    for (const char* line :
+         {"90.1,0", "0,-180.1", "1e400,0", "0,1e400", "-1e400,-1e400", "99999999999,5"}) {
+        SCOPED_TRACE(line);
+        try {
+            static_cast<void>(decodeLot("Campo\r\n1,1\r\n" + std::string(line)));
+            ADD_FAILURE() << "taken";
+        } catch (const FormatError& error) {
+            EXPECT_EQ(error.failure().text, TextId::LoteBadPosition);
+            EXPECT_EQ(error.failure().arguments, (std::vector<std::string>{"3", line}));
+        }
+    }
+}
+
+TEST(LotFile, LinesOfTheDescriptionStayDescription) {
+    struct Row {
+        const char* name;
+        const char* description;
+        const char* written;
+    };
+    const Row rows[] = {
+        {"a number", "12", "12_\r\n"},
+        {"a number with blanks", " 1.5 ", " 1.5 _\r\n"},
+        {"a point", ".", "._\r\n"},
+        {"a vertex", "34.25 , 58.5", "34.25 , 58.5_\r\n"},
+        {"a vertex with a remark", "3,4,norte", "3,4_,norte\r\n"},
+        {"no number", "12 ha", "12 ha\r\n"},
+        {"no line end", "a\nb", "a\r\nb\r\n"},
+        {"line end", "a\r\nb\r\n", "a\r\nb\r\n"},
+        {"an empty line", "a\n\nb\n", "a\r\n\r\nb\r\n"},
+        {"old line ends", "a\rb", "a\r\nb\r\n"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        const std::string bytes = encodeLot({}, row.description);
+        EXPECT_EQ(bytes, row.written);
+        EXPECT_EQ(decodeLot(bytes), (LotFile{{}, row.written}));
+    }
+}
+
+TEST(LotFile, KeepsTenLinesOfTheDescription) {
+    std::string eleven;
+    for (int i = 1; i <= 11; ++i) {
+        eleven += "línea " + std::to_string(i) + "\n";
+    }
+    const LotFile lot = decodeLot(encodeLot(kTriangle, eleven));
+    EXPECT_EQ(descriptionLines(lot.description).size(), 10U);
+    EXPECT_TRUE(lot.description.ends_with("línea 10\r\n"));
+    EXPECT_EQ(lot.vertices, kTriangle);
+}
+
+TEST(LotFile, IsWrittenInTheCodePageOfConsoles) {
+    EXPECT_EQ(encodeLot({}, "Ñandú \u4e00"), "\xD1"
+                                             "and\xFA ?\r\n");
+    EXPECT_EQ(decodeLot("\xD1"
+                        "and\xFA")
+                  .description,
+              "Ñandú\r\n");
+    EXPECT_EQ(decodeLot("\xEF\xBB\xBF"
+                        "1,2")
+                  .vertices,
+              (Vertices{{-2, -1}}));
+}
+
+}  // namespace
+}  // namespace campora
