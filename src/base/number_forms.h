@@ -14,4 +14,10 @@ namespace campora {
 /// infinities count as 0.
 [[nodiscard]] std::string sharpNumberText(double value);
 
+/// A figure of tables, the forms "0.000" and "#0.00": exactly `decimals` digits (1 to 15) behind
+/// the point and at least one before it. Ties, the sign and what is no number as above.
+[[nodiscard]] std::string fixedNumberText(double value, int decimals);
+/// The same decided on the digits of a 32-bit float.
+[[nodiscard]] std::string fixedNumberText(float value, int decimals);
+
 }  // namespace campora

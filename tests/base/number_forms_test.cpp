@@ -41,5 +41,30 @@ TEST(SharpNumberText, ShowsDigitsOnlyWhereTheNumberHasThem) {
     }
 }
 
+TEST(FixedNumberText, HasTheSameNumberOfDigitsAlways) {
+    struct Row {
+        const char* name;
+        std::string text;
+        const char* expected;
+    };
+    const Row rows[] = {
+        {"filled up", fixedNumberText(12.5, 3), "12.500"},
+        {"whole", fixedNumberText(-7.0, 2), "-7.00"},
+        {"below one", fixedNumberText(0.05, 2), "0.05"},
+        {"a tie goes away from zero", fixedNumberText(1.0005, 3), "1.001"},
+        {"a negative tie too", fixedNumberText(-1.0005, 3), "-1.001"},
+        {"below the tie", fixedNumberText(1.00049999, 3), "1.000"},
+        {"a float has its own digits", fixedNumberText(12.3F, 3), "12.300"},
+        {"a tie of a float", fixedNumberText(0.0125F, 3), "0.013"},
+        {"carries up to the front", fixedNumberText(99.9996, 3), "100.000"},
+        {"no zero with a sign", fixedNumberText(-0.0004, 3), "0.000"},
+        {"large", fixedNumberText(1e21, 2), "1000000000000000000000.00"},
+        {"no number", fixedNumberText(std::numeric_limits<float>::infinity(), 3), "0.000"},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(row.text, row.expected) << row.name;
+    }
+}
+
 }  // namespace
 }  // namespace campora

@@ -1,0 +1,179 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "export/dbf_file.h"
+
+#include <algorithm>
+#include <limits>
+#include <stdexcept>
+#include <type_traits>
+#include <utility>
+
+#include "base/byte_writer.h"
+#include "base/encoding.h"
+#include "base/numbers.h"
+
+namespace campora {
+
+namespace {
+
+constexpr Date kPlainDate{1999, 1, 30};
+constexpr std::size_t kCounts = 4;  // bytes from the start of the header
+constexpr std::size_t kHeaderReserved = 20;
+constexpr std::size_t kNameBytes = 11;
+constexpr std::size_t kFieldReserved = 14;
+constexpr std::size_t kFieldBytes = 32;  // a descriptor
+constexpr std::size_t kFrameBytes = 33;  // header and end of the descriptors
+constexpr std::size_t kMostBytes = std::numeric_limits<std::uint16_t>::max();
+constexpr int kMostLengthByte = 255;
+
+bool isAscii(std::string_view text) {
+    return std::all_of(text.begin(), text.end(),
+                       [](char c) { return static_cast<unsigned char>(c) < 0x80U; });
+}
+
+char typeLetter(DbfType type) {
+    switch (type) {
+    case DbfType::Numeric:
+        return 'N';
+    case DbfType::Character:
+        return 'C';
+    case DbfType::Date:
+        break;
+    }
+    return 'D';
+}
+
+std::string dateDigits(const Date& date) {
+    return dateText(date, "yyyymmdd");
+}
+
+std::string dateCell(const CellValue& value) {
+    const auto digits = [](const auto& cell) -> std::string {
+        using Cell = std::decay_t<decltype(cell)>;
+        if constexpr (std::is_same_v<Cell, Date>) {
+            return dateDigits(cell);
+        } else if constexpr (std::is_arithmetic_v<Cell>) {
+            return dateDigits(dateOfDayNumber(roundToInt32(static_cast<double>(cell))));
+        } else {
+            return {};
+        }
+    };
+    return std::visit(digits, value);
+}
+
+std::string plainCell(const CellValue& value) {
+    const auto text = [](const auto& cell) -> std::string {
+        using Cell = std::decay_t<decltype(cell)>;
+        if constexpr (std::is_same_v<Cell, Date>) {
+            return dateText(cell, "yyyy-mm-dd");
+        } else if constexpr (std::is_same_v<Cell, std::string>) {
+            return cell;
+        } else if constexpr (std::is_arithmetic_v<Cell>) {
+            return numberText(cell);
+        } else {
+            return {};
+        }
+    };
+    return std::visit(text, value);
+}
+
+}  // namespace
+
+DbfFile::DbfFile(std::optional<Date> today) : today_(std::move(today)) {}
+
+int DbfFile::addField(std::string_view name, DbfType type, int length, int decimals) {
+    const int bytes = type == DbfType::Date ? kDateLength : length;
+    if (bytes < 1 || bytes > kMostLengthByte) {
+        throw std::invalid_argument("DbfFile: length of a field");
+    }
+    const std::string letters = toWindows1252(name).substr(0, kNameBytes);
+    fields_.push_back({letters, type, record_.size(), static_cast<std::size_t>(bytes),
+                       type == DbfType::Numeric ? decimals : bytes});
+    record_.assign(record_.size() + fields_.back().length, ' ');
+    return static_cast<int>(fields_.size());
+}
+
+std::string DbfFile::header() const {
+    const Date date = normalized(today_.value_or(kPlainDate));
+    std::string bytes;
+    appendLittle(bytes, std::uint8_t{3});
+    for (const int part : {date.year - 1900, date.month, date.day}) {
+        appendLittle(bytes, static_cast<std::uint8_t>(part));
+    }
+    bytes.append(8 + kHeaderReserved, '\0');
+    for (const Field& field : fields_) {
+        bytes += field.name;
+        bytes.append(kNameBytes - field.name.size(), '\0');
+        bytes += typeLetter(field.type);
+        bytes.append(4, '\0');
+        appendLittle(bytes, static_cast<std::uint8_t>(field.length));
+        // Other programs take anything but 0 for the high byte of a text's length.
+        const bool isPlainNumber = field.type == DbfType::Numeric || !today_;
+        appendLittle(bytes, static_cast<std::uint8_t>(isPlainNumber ? field.decimals : 0));
+        bytes.append(kFieldReserved, '\0');
+    }
+    return bytes + '\r';
+}
+
+std::optional<Failure> DbfFile::createDBF(std::string_view basePath) {
+    const std::string path = std::string(basePath) + ".dbf";
+    if (kFrameBytes + kFieldBytes * fields_.size() > kMostBytes || record_.size() > kMostBytes) {
+        return because(TextId::FileCannotBeWritten, {path}, {TextId::TableTooWide, {}});
+    }
+    draft_.emplace(path);
+    records_ = 0;
+    draft_->write(header());
+    return draft_->failure();
+}
+
+void DbfFile::recordField(int field, const CellValue& value) {
+    if (field <= 0) {
+        return;
+    }
+    const Field& target = fields_.at(static_cast<std::size_t>(field) - 1);
+    if (target.type == DbfType::Date) {
+        put(target, dateCell(value));
+        return;
+    }
+    std::string text = plainCell(value);
+    if (!isAscii(text)) {
+        text = toWindows1252(text);
+    }
+    if (target.type == DbfType::Numeric || (text.size() >= target.length && !today_)) {
+        std::replace(text.begin(), text.end(), ',', '.');
+    }
+    put(target, text);
+}
+
+void DbfFile::put(const Field& field, std::string_view text) {
+    const std::size_t size = std::min(text.size(), field.length);
+    const std::size_t blanks = field.length - size;
+    const bool onRight = today_ && field.type == DbfType::Numeric;
+    const auto begin = record_.begin() + static_cast<std::ptrdiff_t>(field.offset);
+    const auto value = begin + static_cast<std::ptrdiff_t>(onRight ? blanks : 0);
+    std::fill_n(begin, field.length, ' ');
+    std::copy_n(text.begin(), size, value);
+}
+
+void DbfFile::writeRecord() {
+    draft_->write(record_);
+    ++records_;
+}
+
+FileDraft DbfFile::takeDraft() {
+    std::string counts;
+    appendLittle(counts, records_);
+    appendLittle(counts, static_cast<std::uint16_t>(kFieldBytes * fields_.size() + kFrameBytes));
+    appendLittle(counts, static_cast<std::uint16_t>(record_.size()));
+    draft_->overwrite(kCounts, counts);
+    FileDraft draft = std::move(*draft_);
+    draft_.reset();
+    return draft;
+}
+
+std::optional<Failure> DbfFile::closeDBF() {
+    return takeDraft().finish();
+}
+
+}  // namespace campora

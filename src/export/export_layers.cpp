@@ -1,0 +1,153 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "export/export_layers.h"
+
+#include <algorithm>
+#include <cmath>
+#include <type_traits>
+
+#include "base/numbers.h"
+
+namespace campora {
+
+namespace {
+
+const ExportableData* dataOf(const Gph& layer) {
+    const auto* const data = dynamic_cast<const ExportableData*>(&layer);
+    return data != nullptr && data->ExportableData_getColumnCount() > 0 ? data : nullptr;
+}
+
+bool hasFigures(const ExportLayer& layer) {
+    return layer.count > 0;
+}
+
+/// The layer's columns for `columns`, by name; `kNone` where it has none.
+std::vector<int> matchNames(const ExportableData& data, std::span<const ExportColumn> columns,
+                            int none) {
+    std::vector<int> matches;
+    for (const ExportColumn& column : columns) {
+        int match = none;
+        for (int i = 0; i < data.ExportableData_getColumnCount() && match == none; ++i) {
+            match = data.ExportableData_getColumnNname(i) == column.name ? i : none;
+        }
+        matches.push_back(match);
+    }
+    return matches;
+}
+
+void addColumns(const ExportableData& data, std::vector<ExportColumn>& columns) {
+    for (int i = 0; i < data.ExportableData_getColumnCount(); ++i) {
+        std::string name = data.ExportableData_getColumnNname(i);
+        const bool isNew = std::none_of(columns.begin(), columns.end(),
+                                        [&](const auto& column) { return column.name == name; });
+        if (isNew) {
+            columns.push_back({std::move(name), data.ExportableData_getColumnNtype(i)});
+        }
+    }
+}
+
+}  // namespace
+
+std::vector<ExportLayer> polygonLayers(std::span<Gph* const> layers) {
+    std::vector<ExportLayer> found;
+    for (const Gph* const gph : layers) {
+        if (const auto* const polygons = dynamic_cast<const ExportablePolygon*>(gph)) {
+            found.push_back(
+                {gph, polygons, nullptr, dataOf(*gph), polygons->ExportablePolygon_polygonCount()});
+        }
+    }
+    return found;
+}
+
+std::vector<ExportLayer> pointLayers(std::span<Gph* const> layers) {
+    std::vector<ExportLayer> found;
+    for (const Gph* const gph : layers) {
+        if (const auto* const points = dynamic_cast<const ExportablePoint*>(gph)) {
+            found.push_back(
+                {gph, nullptr, points, dataOf(*gph), points->ExportablePoint_pointCount()});
+        }
+    }
+    return found;
+}
+
+std::vector<ExportLayer> figureLayers(std::span<Gph* const> layers) {
+    std::vector<ExportLayer> polygons = polygonLayers(layers);
+    const bool hasPolygons = std::any_of(polygons.begin(), polygons.end(), hasFigures);
+    return hasPolygons ? polygons : pointLayers(layers);
+}
+
+BoundingBox boxOf(std::span<const ExportLayer> layers) {
+    BoundingBox box;
+    for (const ExportLayer& layer : layers) {
+        if (layer.gph->Gph_bound().isSet) {
+            box.addGph(*layer.gph);
+        }
+    }
+    return box;
+}
+
+ExportColumns ExportColumns::ofFirst(std::span<const ExportLayer> layers) {
+    return collect(layers, false);
+}
+
+ExportColumns ExportColumns::ofAll(std::span<const ExportLayer> layers) {
+    return collect(layers, true);
+}
+
+ExportColumns ExportColumns::collect(std::span<const ExportLayer> layers, bool all) {
+    ExportColumns table;
+    for (const ExportLayer& layer : layers) {
+        if (!hasFigures(layer)) {
+            continue;
+        }
+        if (layer.data == nullptr) {
+            return {};
+        }
+        if (all || table.columns_.empty()) {
+            addColumns(*layer.data, table.columns_);
+        }
+    }
+    for (const ExportLayer& layer : layers) {
+        Source source{layer.data, {}};
+        if (layer.data != nullptr) {
+            source.columns = matchNames(*layer.data, table.columns_, kNone);
+        }
+        table.sources_.push_back(std::move(source));
+    }
+    return table;
+}
+
+CellValue ExportColumns::cell(std::size_t layer, std::int32_t row, std::size_t column) const {
+    const Source& source = sources_[layer];
+    const int own = source.columns[column];
+    return own == kNone ? CellValue() : source.data->ExportableData_getCell(row, own, {});
+}
+
+std::optional<double> cellNumber(const CellValue& cell) {
+    const auto number = [](const auto& value) -> std::optional<double> {
+        using Cell = std::decay_t<decltype(value)>;
+        if constexpr (std::is_arithmetic_v<Cell>) {
+            return static_cast<double>(value);
+        } else if constexpr (std::is_same_v<Cell, std::string>) {
+            return leadingNumber(value);
+        } else {
+            return std::nullopt;
+        }
+    };
+    return std::visit(number, cell);
+}
+
+std::optional<std::int64_t> cellInteger(const CellValue& cell) {
+    if (const auto* const whole = std::get_if<std::int64_t>(&cell)) {
+        return *whole;
+    }
+    constexpr double kBeyond = 9223372036854775808.0;  // 2 to the 63
+    const std::optional<double> number = cellNumber(cell);
+    if (!number || !(std::abs(*number) < kBeyond)) {
+        return std::nullopt;
+    }
+    return static_cast<std::int64_t>(roundHalfEven(*number));
+}
+
+}  // namespace campora

@@ -1,0 +1,77 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "model/exportable.h"
+#include "model/gph.h"
+
+namespace campora {
+
+/// A layer that takes part in an export, by the faces that it shows there.
+struct ExportLayer {
+    const Gph* gph = nullptr;
+    /// One of the two, by what is exported.
+    const ExportablePolygon* polygons = nullptr;
+    const ExportablePoint* points = nullptr;
+    /// Null when it has no columns.
+    const ExportableData* data = nullptr;
+    /// Figures, those included that are left out under a style.
+    std::int32_t count = 0;
+};
+
+/// The layers that have polygons, or points, in their order.
+[[nodiscard]] std::vector<ExportLayer> polygonLayers(std::span<Gph* const> layers);
+[[nodiscard]] std::vector<ExportLayer> pointLayers(std::span<Gph* const> layers);
+/// Those with polygons when there are any figures among them, else those with points.
+[[nodiscard]] std::vector<ExportLayer> figureLayers(std::span<Gph* const> layers);
+
+/// The box that holds the boxes of all.
+[[nodiscard]] BoundingBox boxOf(std::span<const ExportLayer> layers);
+
+struct ExportColumn {
+    std::string name;
+    ColumnType type = ColumnType::Integer;
+};
+
+/// The columns of a table of several layers. Layers and columns count from 0.
+class ExportColumns {
+public:
+    /// Of the first layer; or of all, each name once. None when a layer with figures has no data.
+    [[nodiscard]] static ExportColumns ofFirst(std::span<const ExportLayer> layers);
+    [[nodiscard]] static ExportColumns ofAll(std::span<const ExportLayer> layers);
+
+    [[nodiscard]] bool empty() const { return columns_.empty(); }
+    [[nodiscard]] std::span<const ExportColumn> columns() const { return columns_; }
+    /// Empty in a layer that has no column of that name.
+    [[nodiscard]] CellValue cell(std::size_t layer, std::int32_t row, std::size_t column) const;
+
+private:
+    static constexpr int kNone = -1;
+
+    struct Source {
+        const ExportableData* data = nullptr;
+        std::vector<int> columns;  // the layer's for each of ours
+    };
+
+    static ExportColumns collect(std::span<const ExportLayer> layers, bool all);
+
+    std::vector<ExportColumn> columns_;
+    std::vector<Source> sources_;
+};
+
+/// A number cell, or one that a text begins with; none otherwise.
+[[nodiscard]] std::optional<double> cellNumber(const CellValue& cell);
+/// A cell of an integer column: its number rounded, halves to even. None without a number and for
+/// one that 64 bits do not hold.
+[[nodiscard]] std::optional<std::int64_t> cellInteger(const CellValue& cell);
+
+}  // namespace campora

@@ -1,0 +1,183 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "export/geojson_export.h"
+
+#include <algorithm>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+#include "base/file_draft.h"
+#include "base/json_text.h"
+#include "base/numbers.h"
+#include "export/export_layers.h"
+#include "export/valid_polygons.h"
+
+namespace campora {
+
+namespace {
+
+void appendPosition(std::string& json, LonLat point) {
+    const LonLat place = onFineGrid(point);
+    json += '[' + numberText(place.x) + ',' + numberText(place.y) + ']';
+}
+
+/// Outer rings run against the clock here, holes with it: the other way round from shapefiles.
+void appendRing(std::string& json, const ClosedRing& ring) {
+    json += '[';
+    for (auto point = ring.rbegin(); point != ring.rend(); ++point) {
+        json += point == ring.rbegin() ? "" : ",";
+        appendPosition(json, *point);
+    }
+    json += ']';
+}
+
+void appendRings(std::string& json, const ValidPolygon& polygon) {
+    json += '[';
+    appendRing(json, polygon.outer);
+    for (const ClosedRing& hole : polygon.holes) {
+        json += ',';
+        appendRing(json, hole);
+    }
+    json += ']';
+}
+
+void appendPolygons(std::string& json, const std::vector<ValidPolygon>& polygons) {
+    if (polygons.size() == 1) {
+        json += R"({"type":"Polygon","coordinates":)";
+        appendRings(json, polygons.front());
+        json += '}';
+        return;
+    }
+    json += R"({"type":"MultiPolygon","coordinates":[)";
+    for (std::size_t i = 0; i < polygons.size(); ++i) {
+        json += i == 0 ? "" : ",";
+        appendRings(json, polygons[i]);
+    }
+    json += "]}";
+}
+
+std::string cellText(const CellValue& cell) {
+    const auto text = [](const auto& value) -> std::string {
+        using Cell = std::decay_t<decltype(value)>;
+        if constexpr (std::is_same_v<Cell, std::string>) {
+            return value.empty() ? "null" : jsonText(value);
+        } else if constexpr (std::is_same_v<Cell, Date>) {
+            return jsonText(dateText(value, "yyyy-mm-dd"));
+        } else if constexpr (std::is_arithmetic_v<Cell>) {
+            return numberText(value);
+        } else {
+            return "null";
+        }
+    };
+    return std::visit(text, cell);
+}
+
+/// A value as the type of its column asks for it, whatever the layer gives.
+std::string propertyText(ColumnType type, const CellValue& cell) {
+    if (type == ColumnType::Integer) {
+        const std::optional<std::int64_t> number = cellInteger(cell);
+        return number ? numberText(*number) : "null";
+    }
+    if (type == ColumnType::Real && std::holds_alternative<std::string>(cell)) {
+        const std::optional<double> number = cellNumber(cell);
+        return number ? numberText(*number) : "null";
+    }
+    return cellText(cell);
+}
+
+/// One export: layers into a file.
+class Export {
+public:
+    Export(std::vector<ExportLayer> layers, std::string_view path)
+        : layers_(std::move(layers)), columns_(ExportColumns::ofAll(layers_)), file_(path) {
+        for (const ExportColumn& column : columns_.columns()) {
+            names_.push_back(jsonText(column.name) + ':');
+        }
+    }
+
+    std::optional<Failure> run(const MapStyle& style) {
+        file_.write("{\"type\":\"FeatureCollection\",\"features\":[");
+        for (std::size_t layer = 0; layer < layers_.size() && !file_.failure(); ++layer) {
+            if (layers_[layer].polygons != nullptr) {
+                writePolygons(layer, style);
+            } else {
+                writePoints(layer);
+            }
+        }
+        if (features_ == 0 && !file_.failure()) {
+            return Failure{TextId::NothingToExportGis, {}, {}};
+        }
+        file_.write("\n]}\n");
+        return file_.finish();
+    }
+
+private:
+    void writePolygons(std::size_t layer, const MapStyle& style) {
+        const ExportablePolygon& polygons = *layers_[layer].polygons;
+        for (std::int32_t polygon = 0; polygon < layers_[layer].count && !file_.failure();
+             ++polygon) {
+            ring_.clear();
+            const std::int32_t points = polygons.ExportablePolygon_polygonNCount(style, polygon);
+            for (std::int32_t point = 0; point < points; ++point) {
+                ring_.push_back(polygons.ExportablePolygon_polygonNpoint(polygon, point));
+            }
+            collectValidPolygons(ring_, Corners::OnFineGrid, valid_);
+            if (!valid_.empty()) {
+                beginFeature();
+                appendPolygons(json_, valid_);
+                endFeature(layer, polygon);
+            }
+        }
+    }
+
+    void writePoints(std::size_t layer) {
+        const ExportablePoint& points = *layers_[layer].points;
+        for (std::int32_t point = 0; point < layers_[layer].count && !file_.failure(); ++point) {
+            beginFeature();
+            json_ += R"({"type":"Point","coordinates":)";
+            appendPosition(json_, points.ExportablePoint_pointN(point));
+            json_ += '}';
+            endFeature(layer, point);
+        }
+    }
+
+    void beginFeature() {
+        json_ = features_ == 0 ? "\n" : ",\n";
+        json_ += R"({"type":"Feature","geometry":)";
+        ++features_;
+    }
+
+    void endFeature(std::size_t layer, std::int32_t row) {
+        json_ += R"(,"properties":{)";
+        if (columns_.empty()) {
+            json_ += "\"id\":" + numberText(row);
+        }
+        for (std::size_t i = 0; i < names_.size(); ++i) {
+            json_ += i == 0 ? "" : ",";
+            json_ += names_[i];
+            json_ += propertyText(columns_.columns()[i].type, columns_.cell(layer, row, i));
+        }
+        json_ += "}}";
+        file_.write(json_);
+    }
+
+    std::vector<ExportLayer> layers_;
+    ExportColumns columns_;
+    std::vector<std::string> names_;  // with quotes and colon
+    FileDraft file_;
+    std::string json_;  // of the feature at hand
+    std::int64_t features_ = 0;
+    std::vector<LonLat> ring_;
+    std::vector<ValidPolygon> valid_;
+};
+
+}  // namespace
+
+std::optional<Failure> exportGeoJson(std::span<Gph* const> layers, std::string_view path,
+                                     const MapStyle& style) {
+    return Export(figureLayers(layers), path).run(style);
+}
+
+}  // namespace campora

@@ -1,0 +1,166 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "export/shape_set.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include "base/byte_writer.h"
+
+namespace campora {
+
+namespace {
+
+// Bytes from the start of the main file and of the index, which begin alike.
+namespace header {
+constexpr std::int32_t kCode = 9994;  // i32 big-endian at 0, then five that mean nothing
+constexpr std::size_t kUnused = 20;
+constexpr std::uint64_t kLength = 24;  // i32 big-endian, of the file, 16-bit words
+constexpr std::int32_t kVersion = 1000;
+constexpr std::uint64_t kBox = 36;  // f64 each: least x and y, greatest x and y
+constexpr std::size_t kNoBox = 32;  // bytes of the box of Z and M values
+}  // namespace header
+
+constexpr std::uint64_t kRecordHeader = 8;
+constexpr std::uint64_t kMostBytes = 2 * std::uint64_t{std::numeric_limits<std::int32_t>::max()};
+
+constexpr std::string_view kReference =
+    R"(GEOGCS["GCS_WGS_1984",DATUM["D_WGS_1984",SPHEROID["WGS_1984",6378137.0,298.257223563]],)"
+    R"(PRIMEM["Greenwich",0.0],UNIT["Degree",0.0174532925199433]])";
+constexpr std::string_view kCodePage = "1252";
+
+std::int32_t words(std::uint64_t bytes) {
+    return static_cast<std::int32_t>(bytes / 2);
+}
+
+}  // namespace
+
+void ShapeSet::Box::add(LonLat point) {
+    minX = std::min(minX, point.x);
+    minY = std::min(minY, point.y);
+    maxX = std::max(maxX, point.x);
+    maxY = std::max(maxY, point.y);
+}
+
+void ShapeSet::Box::append(std::string& bytes) const {
+    for (const double limit : {minX, minY, maxX, maxY}) {
+        appendLittle(bytes, limit);
+    }
+}
+
+ShapeSet::ShapeSet(std::string_view basePath, FigureType type, std::optional<Date> today)
+    : basePath_(basePath),
+      type_(type),
+      table_(std::move(today)),
+      main_(basePath_ + ".shp"),
+      index_(basePath_ + ".shx") {}
+
+std::optional<Failure> ShapeSet::create(const BoundingBox& box) {
+    std::string bytes;
+    appendBig(bytes, header::kCode);
+    bytes.append(header::kUnused, '\0');
+    appendBig(bytes, 0);  // the length is known at the end
+    appendLittle(bytes, header::kVersion);
+    appendLittle(bytes, static_cast<std::int32_t>(type_));
+    const Box written = box.isSet ? Box{box.minX, box.minY, box.maxX, box.maxY} : Box{0, 0, 0, 0};
+    written.append(bytes);
+    bytes.append(header::kNoBox, '\0');
+    main_.write(bytes);
+    index_.write(bytes);
+    for (const FileDraft* file : {&main_, &index_}) {
+        if (auto failure = file->failure()) {
+            return failure;
+        }
+    }
+    return table_.createDBF(basePath_);
+}
+
+void ShapeSet::addPolygon(std::span<const std::span<const LonLat>> parts) {
+    Box box;
+    std::size_t points = 0;
+    for (const auto& part : parts) {
+        std::for_each(part.begin(), part.end(), [&](LonLat point) { box.add(point); });
+        points += part.size();
+    }
+    content_.clear();
+    appendLittle(content_, static_cast<std::int32_t>(type_));
+    box.append(content_);
+    appendLittle(content_, static_cast<std::int32_t>(parts.size()));
+    appendLittle(content_, static_cast<std::int32_t>(points));
+    std::int32_t start = 0;
+    for (const auto& part : parts) {
+        appendLittle(content_, start);
+        start += static_cast<std::int32_t>(part.size());
+    }
+    for (const auto& part : parts) {
+        for (const LonLat& point : part) {
+            appendLittle(content_, point.x);
+            appendLittle(content_, point.y);
+        }
+    }
+    covered_.add({box.minX, box.minY});
+    covered_.add({box.maxX, box.maxY});
+    writeRecord();
+}
+
+void ShapeSet::addPoint(LonLat point) {
+    content_.clear();
+    appendLittle(content_, static_cast<std::int32_t>(type_));
+    appendLittle(content_, point.x);
+    appendLittle(content_, point.y);
+    covered_.add(point);
+    writeRecord();
+}
+
+void ShapeSet::writeRecord() {
+    const std::uint64_t offset = main_.size();
+    isTooLarge_ = isTooLarge_ || offset + kRecordHeader + content_.size() > kMostBytes;
+    if (isTooLarge_) {
+        return;
+    }
+    const std::int32_t length = words(content_.size());
+    heading_.clear();
+    appendBig(heading_, ++records_);
+    appendBig(heading_, length);
+    main_.write(heading_);
+    main_.write(content_);
+    heading_.clear();
+    appendBig(heading_, words(offset));
+    appendBig(heading_, length);
+    index_.write(heading_);
+}
+
+bool ShapeSet::hasFailed() const {
+    return isTooLarge_ || main_.failure() || index_.failure();
+}
+
+void ShapeSet::writeLength(FileDraft& file) {
+    std::string length;
+    appendBig(length, words(file.size()));
+    file.overwrite(header::kLength, length);
+    if (usesCoveredBox_ && records_ > 0) {
+        std::string box;
+        covered_.append(box);
+        file.overwrite(header::kBox, box);
+    }
+}
+
+std::optional<Failure> ShapeSet::finish() {
+    if (isTooLarge_) {
+        return because(TextId::FileCannotBeWritten, {basePath_ + ".shp"},
+                       {TextId::FileTooLarge, {}});
+    }
+    writeLength(main_);
+    writeLength(index_);
+    std::vector<FileDraft> files;
+    files.push_back(std::move(main_));
+    files.push_back(std::move(index_));
+    files.push_back(table_.takeDraft());
+    files.emplace_back(basePath_ + ".prj").write(kReference);
+    files.emplace_back(basePath_ + ".cpg").write(kCodePage);
+    return finishTogether(files);
+}
+
+}  // namespace campora

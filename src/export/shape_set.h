@@ -1,0 +1,76 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cstdint>
+#include <limits>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "base/dates.h"
+#include "base/failure.h"
+#include "base/file_draft.h"
+#include "base/lon_lat.h"
+#include "export/dbf_file.h"
+#include "model/bounding_box.h"
+
+namespace campora {
+
+/// Types of figures that are written.
+enum class FigureType : std::int32_t { Point = 1, Polygon = 5 };
+
+/// Writes a main file, its index, its table and the notes on reference system and code page beside
+/// them ("ESRI Shapefile Technical Description", 1998). Figures and records of the table are
+/// written in step by the caller.
+class ShapeSet {
+public:
+    /// `basePath`: without ending. `today`: as for `DbfFile`.
+    ShapeSet(std::string_view basePath, FigureType type, std::optional<Date> today = std::nullopt);
+
+    /// Its fields are added before `create`, its records after it.
+    [[nodiscard]] DbfFile& table() { return table_; }
+    /// `box`: of the header.
+    [[nodiscard]] std::optional<Failure> create(const BoundingBox& box);
+    /// `parts`: one span of points, in degrees, for every ring.
+    void addPolygon(std::span<const std::span<const LonLat>> parts);
+    void addPoint(LonLat point);
+    [[nodiscard]] std::int32_t recordCount() const { return records_; }
+    /// Whether it is of no use to go on.
+    [[nodiscard]] bool hasFailed() const;
+
+    /// From now on the header's box is what the figures cover.
+    void useCoveredBox() { usesCoveredBox_ = true; }
+    /// All files of the set take their places, or none.
+    [[nodiscard]] std::optional<Failure> finish();
+
+private:
+    struct Box {
+        double minX = std::numeric_limits<double>::infinity();
+        double minY = std::numeric_limits<double>::infinity();
+        double maxX = -std::numeric_limits<double>::infinity();
+        double maxY = -std::numeric_limits<double>::infinity();
+
+        void add(LonLat point);
+        void append(std::string& bytes) const;
+    };
+
+    void writeRecord();
+    void writeLength(FileDraft& file);
+
+    std::string basePath_;
+    FigureType type_;
+    DbfFile table_;
+    FileDraft main_;
+    FileDraft index_;
+    std::int32_t records_ = 0;
+    std::string content_;  // of the record at hand
+    std::string heading_;
+    Box covered_;
+    bool usesCoveredBox_ = false;
+    bool isTooLarge_ = false;
+};
+
+}  // namespace campora

@@ -1,0 +1,310 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "export/shp_export.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "base/encoding.h"
+#include "base/number_forms.h"
+#include "base/numbers.h"
+#include "export/export_layers.h"
+#include "export/shape_set.h"
+#include "export/valid_polygons.h"
+
+namespace campora {
+
+namespace {
+
+constexpr std::size_t kNameLetters = 10;
+constexpr int kRealDecimals = 3;
+
+struct FieldForm {
+    DbfType type;
+    int length;
+    int decimals;
+};
+
+FieldForm formOf(ColumnType type) {
+    switch (type) {
+    case ColumnType::Integer:
+        return {DbfType::Numeric, 6, 0};
+    case ColumnType::Real:
+        return {DbfType::Numeric, 15, kRealDecimals};
+    case ColumnType::Text:
+        return {DbfType::Character, 10, 0};
+    case ColumnType::Date:
+        break;
+    }
+    return {DbfType::Date, DbfFile::kDateLength, 0};
+}
+
+constexpr FieldForm kIdForm{DbfType::Numeric, 5, 0};
+
+/// The first letters of a UTF-8 name.
+std::string shortName(std::string_view name) {
+    return fromWindows1252(toWindows1252(name).substr(0, kNameLetters));
+}
+
+/// "0.000" in the digits that the cell has; blank without a number.
+std::string realText(const CellValue& cell) {
+    if (const auto* const single = std::get_if<float>(&cell)) {
+        return fixedNumberText(*single, kRealDecimals);
+    }
+    if (const auto* const whole = std::get_if<std::int64_t>(&cell)) {
+        return numberText(*whole) + ".000";
+    }
+    const std::optional<double> number = cellNumber(cell);
+    return number ? fixedNumberText(*number, kRealDecimals) : std::string();
+}
+
+std::string integerText(const CellValue& cell) {
+    const std::optional<std::int64_t> number = cellInteger(cell);
+    return number ? numberText(*number) : std::string();
+}
+
+bool fits16Bits(const CellValue& cell) {
+    const std::optional<double> number = cellNumber(cell);
+    return !number || std::abs(roundHalfEven(*number) + 0.5) < 32768;
+}
+
+/// The columns of the layers, or their "id", as fields of the table.
+class AttributeTable {
+public:
+    AttributeTable(std::span<const ExportLayer> layers, bool forGis)
+        : layers_(layers),
+          columns_(forGis ? ExportColumns::ofAll(layers) : ExportColumns::ofFirst(layers)),
+          forGis_(forGis) {}
+
+    /// What a cell cannot hold, as a failure without a path.
+    [[nodiscard]] const std::optional<Failure>& failure() const { return failure_; }
+
+    void addFields(DbfFile& table) {
+        if (columns_.empty()) {
+            table.addField("id", kIdForm.type, widthOfIds(), kIdForm.decimals);
+            return;
+        }
+        for (std::size_t i = 0; i < columns_.columns().size(); ++i) {
+            const ExportColumn& column = columns_.columns()[i];
+            const FieldForm form = formOf(column.type);
+            const int length = forGis_ ? widthOfCells(i, form) : form.length;
+            table.addField(shortName(column.name), form.type, length, form.decimals);
+        }
+    }
+
+    void writeRecord(DbfFile& table, std::size_t layer, std::int32_t row) {
+        if (columns_.empty()) {
+            table.recordField(1, numberText(row));
+        }
+        for (std::size_t i = 0; i < columns_.columns().size(); ++i) {
+            record(table, static_cast<int>(i) + 1, columns_.columns()[i],
+                   columns_.cell(layer, row, i));
+        }
+        table.writeRecord();
+    }
+
+private:
+    void record(DbfFile& table, int field, const ExportColumn& column, const CellValue& cell) {
+        switch (column.type) {
+        case ColumnType::Integer:
+            if (!forGis_ && !fits16Bits(cell)) {
+                refuse(column, integerText(cell));
+            }
+            table.recordField(field, integerText(cell));
+            break;
+        case ColumnType::Real:
+            table.recordField(field, realText(cell));
+            break;
+        case ColumnType::Text:
+        case ColumnType::Date:
+            table.recordField(field, cell);
+            break;
+        }
+    }
+
+    void refuse(const ExportColumn& column, std::string text) {
+        if (!failure_) {
+            failure_ = Failure{TextId::CellDoesNotFit, {column.name, std::move(text)}, {}};
+        }
+    }
+
+    /// Bytes of the cell in the table.
+    [[nodiscard]] static std::size_t width(const ExportColumn& column, const CellValue& cell) {
+        if (column.type == ColumnType::Real) {
+            return realText(cell).size();
+        }
+        if (column.type == ColumnType::Integer) {
+            return integerText(cell).size();
+        }
+        const auto* const text = std::get_if<std::string>(&cell);
+        return text != nullptr ? toWindows1252(*text).size() : 0;
+    }
+
+    /// Wide enough for all cells; texts may be longer than any field.
+    [[nodiscard]] int widthOfCells(std::size_t index, const FieldForm& form) {
+        const ExportColumn& column = columns_.columns()[index];
+        if (form.type == DbfType::Date) {
+            return form.length;
+        }
+        auto widest = static_cast<std::size_t>(form.length);
+        for (std::size_t layer = 0; layer < layers_.size(); ++layer) {
+            for (std::int32_t row = 0; row < layers_[layer].count; ++row) {
+                const CellValue cell = columns_.cell(layer, row, index);
+                widest = std::max(widest, width(column, cell));
+                if (widest > DbfFile::kMostLength && form.type == DbfType::Numeric) {
+                    refuse(column, realText(cell));
+                }
+            }
+        }
+        return static_cast<int>(std::min<std::size_t>(widest, DbfFile::kMostLength));
+    }
+
+    [[nodiscard]] int widthOfIds() const {
+        std::int32_t most = 1;
+        for (const ExportLayer& layer : layers_) {
+            most = std::max(most, layer.count);
+        }
+        const int widest = static_cast<int>(numberText(most - 1).size());
+        return forGis_ ? std::max(widest, kIdForm.length) : kIdForm.length;
+    }
+
+    std::span<const ExportLayer> layers_;
+    ExportColumns columns_;
+    bool forGis_;
+    std::optional<Failure> failure_;
+};
+
+/// One export: layers into a set.
+class Export {
+public:
+    Export(std::vector<ExportLayer> layers, std::string_view basePath, FigureType type,
+           std::optional<Date> today)
+        : basePath_(basePath),
+          layers_(std::move(layers)),
+          forGis_(today.has_value()),
+          set_(basePath, type, std::move(today)),
+          attributes_(layers_, forGis_) {}
+
+    /// `nothing`: what is told when there is not one figure to write.
+    std::optional<Failure> run(const MapStyle& style, TextId nothing) {
+        attributes_.addFields(set_.table());
+        if (auto failure = set_.create(boxOf(layers_))) {
+            return failure;
+        }
+        for (std::size_t layer = 0; layer < layers_.size() && !isLost(); ++layer) {
+            if (layers_[layer].polygons != nullptr) {
+                writePolygons(layer, style);
+            } else {
+                writePoints(layer);
+            }
+        }
+        if (attributes_.failure()) {
+            return because(TextId::FileCannotBeWritten, {basePath_ + ".dbf"},
+                           *attributes_.failure());
+        }
+        if (set_.recordCount() == 0 && !set_.hasFailed()) {
+            return Failure{nothing, {}, {}};
+        }
+        if (forGis_) {
+            set_.useCoveredBox();
+        }
+        return set_.finish();
+    }
+
+private:
+    [[nodiscard]] bool isLost() const { return attributes_.failure() || set_.hasFailed(); }
+
+    void writePolygons(std::size_t layer, const MapStyle& style) {
+        const ExportablePolygon& polygons = *layers_[layer].polygons;
+        for (std::int32_t polygon = 0; polygon < layers_[layer].count && !isLost(); ++polygon) {
+            ring_.clear();
+            const std::int32_t points = polygons.ExportablePolygon_polygonNCount(style, polygon);
+            for (std::int32_t point = 0; point < points; ++point) {
+                ring_.push_back(polygons.ExportablePolygon_polygonNpoint(polygon, point));
+            }
+            if (!ring_.empty() && (forGis_ ? writeValid() : writeAsGiven())) {
+                attributes_.writeRecord(set_.table(), layer, polygon);
+            }
+        }
+    }
+
+    bool writeAsGiven() {
+        const std::array parts = {std::span<const LonLat>(ring_)};
+        set_.addPolygon(parts);
+        return true;
+    }
+
+    /// False when nothing of it remains.
+    bool writeValid() {
+        collectValidPolygons(ring_, Corners::Anywhere, valid_);
+        parts_.clear();
+        for (const ValidPolygon& polygon : valid_) {
+            parts_.emplace_back(polygon.outer);
+            parts_.insert(parts_.end(), polygon.holes.begin(), polygon.holes.end());
+        }
+        if (!parts_.empty()) {
+            set_.addPolygon(parts_);
+        }
+        return !parts_.empty();
+    }
+
+    void writePoints(std::size_t layer) {
+        const ExportablePoint& points = *layers_[layer].points;
+        for (std::int32_t point = 0; point < layers_[layer].count && !isLost(); ++point) {
+            set_.addPoint(points.ExportablePoint_pointN(point));
+            attributes_.writeRecord(set_.table(), layer, point);
+        }
+    }
+
+    std::string basePath_;
+    std::vector<ExportLayer> layers_;
+    bool forGis_;
+    ShapeSet set_;
+    AttributeTable attributes_;
+    std::vector<LonLat> ring_;
+    std::vector<ValidPolygon> valid_;
+    std::vector<std::span<const LonLat>> parts_;
+};
+
+bool areWithoutFigures(std::span<const ExportLayer> layers) {
+    return std::all_of(layers.begin(), layers.end(),
+                       [](const ExportLayer& layer) { return layer.count == 0; });
+}
+
+}  // namespace
+
+std::optional<Failure> exportShpPolygons(std::span<Gph* const> layers, std::string_view basePath,
+                                         const MapStyle& style) {
+    std::vector<ExportLayer> found = polygonLayers(layers);
+    if (areWithoutFigures(found)) {
+        return Failure{TextId::NoPolygonsToExport, {}, {}};
+    }
+    return Export(std::move(found), basePath, FigureType::Polygon, std::nullopt)
+        .run(style, TextId::NoPolygonsToExport);
+}
+
+std::optional<Failure> exportShpPoints(std::span<Gph* const> layers, std::string_view basePath) {
+    std::vector<ExportLayer> found = pointLayers(layers);
+    if (areWithoutFigures(found)) {
+        return Failure{TextId::NoPointsToExport, {}, {}};
+    }
+    return Export(std::move(found), basePath, FigureType::Point, std::nullopt)
+        .run(MapStyle(), TextId::NoPointsToExport);
+}
+
+std::optional<Failure> exportShpGis(std::span<Gph* const> layers, std::string_view basePath,
+                                    const MapStyle& style, const Date& today) {
+    std::vector<ExportLayer> found = figureLayers(layers);
+    if (areWithoutFigures(found)) {
+        return Failure{TextId::NothingToExportGis, {}, {}};
+    }
+    const FigureType type =
+        found.front().polygons != nullptr ? FigureType::Polygon : FigureType::Point;
+    return Export(std::move(found), basePath, type, today).run(style, TextId::NothingToExportGis);
+}
+
+}  // namespace campora
