@@ -1,0 +1,44 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "lots/save_lots.h"
+
+#include "base/files.h"
+#include "base/numbers.h"
+#include "base/paths.h"
+
+namespace campora {
+
+namespace {
+
+constexpr std::string_view kEnding = ".lot";
+
+}  // namespace
+
+std::vector<std::string> lotPaths(std::string_view path, std::size_t lots) {
+    if (lots == 1) {
+        return {std::string(path)};
+    }
+    const bool ended = pathEnding(path) == kEnding;
+    const std::string_view ending = ended ? path.substr(path.size() - kEnding.size()) : kEnding;
+    const std::string_view base = path.substr(0, path.size() - (ended ? kEnding.size() : 0));
+    std::vector<std::string> paths;
+    for (std::size_t i = 1; i <= lots; ++i) {
+        paths.push_back(std::string(base).append("-").append(numberText(i)).append(ending));
+    }
+    return paths;
+}
+
+Result<std::vector<std::string>> saveLots(std::span<const LotFile> lots, std::string_view path) {
+    std::vector<std::string> paths = lotPaths(path, lots.size());
+    for (std::size_t i = 0; i < lots.size(); ++i) {
+        const std::string bytes = encodeLot(lots[i].vertices, lots[i].description);
+        const auto content = std::as_bytes(std::span(bytes.data(), bytes.size()));
+        if (std::optional<Failure> failure = writeFile(paths[i], content)) {
+            return *failure;
+        }
+    }
+    return paths;
+}
+
+}  // namespace campora

@@ -1,0 +1,25 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/failure.h"
+#include "lots/lot_file.h"
+
+namespace campora {
+
+/// The files into which lots go: `path` for a single one, else numbered from 1 before the ending
+/// ("campo-1.lot", "campo-2.lot").
+[[nodiscard]] std::vector<std::string> lotPaths(std::string_view path, std::size_t lots);
+
+/// Writes each lot into its file and answers the files. A failure names the file that could not be
+/// written; those before it stay.
+[[nodiscard]] Result<std::vector<std::string>> saveLots(std::span<const LotFile> lots,
+                                                        std::string_view path);
+
+}  // namespace campora

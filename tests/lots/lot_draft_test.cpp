@@ -1,0 +1,174 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "lots/lot_draft.h"
+
+#include <functional>
+
+#include <gtest/gtest.h>
+
+namespace campora {
+namespace {
+
+using Vertices = std::vector<LonLat>;
+using Index = std::optional<std::size_t>;
+
+const Vertices kTriangle = {{0, 0}, {4, 0}, {0, 4}};
+
+LotDraft triangle() {
+    LotDraft draft;
+    draft.start({kTriangle, "Campo 1"});
+    return draft;
+}
+
+TEST(LotDraft, EveryChangeIsUndoneAndDoneAgain) {
+    struct Row {
+        const char* name;
+        std::function<void(LotDraft&)> change;
+        Vertices vertices;
+        Index selected;
+    };
+    const Row rows[] = {
+        {"append",
+         [](LotDraft& d) {
+             d.append({9, 9});
+         },
+         {{0, 0}, {4, 0}, {0, 4}, {9, 9}},
+         3},
+        {"move",
+         [](LotDraft& d) {
+             d.moveTo(1, {5, 1});
+         },
+         {{0, 0}, {5, 1}, {0, 4}},
+         {}},
+        {"insert", [](LotDraft& d) { d.insertAfter(0); }, {{0, 0}, {2, 0}, {4, 0}, {0, 4}}, 1},
+        {"insert behind the last",
+         [](LotDraft& d) { d.insertAfter(2); },
+         {{0, 0}, {4, 0}, {0, 4}, {0, 2}},
+         3},
+        {"remove", [](LotDraft& d) { d.remove(1); }, {{0, 0}, {0, 4}}, 0},
+        {"remove the first", [](LotDraft& d) { d.remove(0); }, {{4, 0}, {0, 4}}, 0},
+        {"clear", [](LotDraft& d) { d.clear(); }, {}, {}},
+        {"drag",
+         [](LotDraft& d) {
+             d.beginMove(2);
+             d.move({1, 1});
+             d.move({2, 2});
+             d.endMove(true);
+         },
+         {{0, 0}, {4, 0}, {2, 2}},
+         2},
+        {"drag out of a side",
+         [](LotDraft& d) {
+             d.beginInsert(1);
+             d.move({3, 3});
+             d.endMove(true);
+         },
+         {{0, 0}, {4, 0}, {3, 3}, {0, 4}},
+         2},
+        {"a drag ended by another change",
+         [](LotDraft& d) {
+             d.beginMove(0);
+             d.select(1);
+         },
+         kTriangle, 1},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        LotDraft draft = triangle();
+        row.change(draft);
+        EXPECT_EQ(draft.vertices(), row.vertices);
+        EXPECT_EQ(draft.selected(), row.selected);
+        EXPECT_FALSE(draft.isMoving());
+        const bool changed = row.vertices != kTriangle;
+        EXPECT_EQ(draft.canUndo(), changed);
+        if (!changed) {
+            continue;
+        }
+        draft.undo();
+        EXPECT_EQ(draft.vertices(), kTriangle);
+        EXPECT_EQ(draft.description(), "Campo 1");
+        EXPECT_FALSE(draft.canUndo());
+        draft.redo();
+        EXPECT_EQ(draft.vertices(), row.vertices);
+        EXPECT_EQ(draft.selected(), row.selected);
+        EXPECT_FALSE(draft.canRedo());
+    }
+}
+
+TEST(LotDraft, WhatChangesNothingIsNoStep) {
+    LotDraft draft = triangle();
+    draft.moveTo(1, {4, 0});
+    draft.moveTo(3, {4, 0});
+    draft.remove(3);
+    draft.insertAfter(3);
+    draft.beginMove(3);
+    draft.move({1, 1});
+    draft.beginMove(1);
+    draft.move({9, 9});
+    draft.endMove(false);
+    draft.beginInsert(0);
+    draft.endMove(false);
+    draft.select(7);
+    EXPECT_EQ(draft.vertices(), kTriangle);
+    EXPECT_EQ(draft.selected(), Index());
+    EXPECT_FALSE(draft.canUndo());
+    LotDraft empty;
+    empty.clear();
+    EXPECT_FALSE(empty.canUndo());
+}
+
+TEST(LotDraft, ANewChangeEndsWhatCouldBeDoneAgain) {
+    LotDraft draft = triangle();
+    draft.append({1, 1});
+    draft.undo();
+    draft.append({2, 2});
+    EXPECT_FALSE(draft.canRedo());
+}
+
+TEST(LotDraft, OnlyTheClearingOfADescriptionIsAStepOfItsOwn) {
+    LotDraft draft = triangle();
+    draft.append({1, 1});
+    draft.setDescription("Soja");
+    draft.undo();
+    EXPECT_EQ(draft.description(), "Soja");
+    draft.clear();
+    EXPECT_EQ(draft.description(), "");
+    draft.setDescription("Maíz");
+    draft.undo();
+    EXPECT_EQ(draft.description(), "Soja");
+    draft.redo();
+    EXPECT_EQ(draft.description(), "Maíz");
+}
+
+TEST(LotDraft, KnowsWhatWouldBeLost) {
+    LotDraft draft;
+    EXPECT_FALSE(draft.isChanged());
+    draft.setDescription("sin vértices");
+    EXPECT_FALSE(draft.isChanged());
+    draft.append({1, 1});
+    EXPECT_TRUE(draft.isChanged());
+    draft.markSaved();
+    EXPECT_FALSE(draft.isChanged());
+    draft.setDescription("otra");
+    EXPECT_TRUE(draft.isChanged());
+    draft.clear();
+    EXPECT_FALSE(draft.isChanged());
+    draft.undo();
+    EXPECT_TRUE(draft.isChanged());
+    EXPECT_FALSE(triangle().isChanged());
+}
+
+TEST(LotDraft, ForgetsTheOldestSteps) {
+    LotDraft draft;
+    for (std::size_t i = 0; i < LotDraft::kMostSteps + 5; ++i) {
+        draft.append({0, static_cast<double>(i)});
+    }
+    while (draft.canUndo()) {
+        draft.undo();
+    }
+    EXPECT_EQ(draft.vertices().size(), 5U);
+}
+
+}  // namespace
+}  // namespace campora
