@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 #include <type_traits>
 
 #include "base/numbers.h"
@@ -85,6 +86,12 @@ BoundingBox boxOf(std::span<const ExportLayer> layers) {
         }
     }
     return box;
+}
+
+std::int64_t figureCount(std::span<const ExportLayer> layers) {
+    return std::accumulate(
+        layers.begin(), layers.end(), std::int64_t{0},
+        [](std::int64_t sum, const ExportLayer& layer) { return sum + layer.count; });
 }
 
 ExportColumns ExportColumns::ofFirst(std::span<const ExportLayer> layers) {

@@ -37,6 +37,9 @@ struct ExportLayer {
 /// The box that holds the boxes of all.
 [[nodiscard]] BoundingBox boxOf(std::span<const ExportLayer> layers);
 
+/// Figures of all of them.
+[[nodiscard]] std::int64_t figureCount(std::span<const ExportLayer> layers);
+
 struct ExportColumn {
     std::string name;
     ColumnType type = ColumnType::Integer;

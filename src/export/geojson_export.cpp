@@ -90,21 +90,28 @@ std::string propertyText(ColumnType type, const CellValue& cell) {
 /// One export: layers into a file.
 class Export {
 public:
-    Export(std::vector<ExportLayer> layers, std::string_view path)
-        : layers_(std::move(layers)), columns_(ExportColumns::ofAll(layers_)), file_(path) {
+    Export(std::vector<ExportLayer> layers, std::string_view path, ExportProgress& progress)
+        : layers_(std::move(layers)),
+          columns_(ExportColumns::ofAll(layers_)),
+          file_(path),
+          progress_(progress) {
         for (const ExportColumn& column : columns_.columns()) {
             names_.push_back(jsonText(column.name) + ':');
         }
     }
 
     std::optional<Failure> run(const MapStyle& style) {
+        progress_.expect(figureCount(layers_));
         file_.write("{\"type\":\"FeatureCollection\",\"features\":[");
-        for (std::size_t layer = 0; layer < layers_.size() && !file_.failure(); ++layer) {
+        for (std::size_t layer = 0; layer < layers_.size() && !isOver(); ++layer) {
             if (layers_[layer].polygons != nullptr) {
                 writePolygons(layer, style);
             } else {
                 writePoints(layer);
             }
+        }
+        if (progress_.cancelled()) {
+            return std::nullopt;
         }
         if (features_ == 0 && !file_.failure()) {
             return Failure{TextId::NothingToExportGis, {}, {}};
@@ -114,10 +121,14 @@ public:
     }
 
 private:
+    /// Whether it is of no use to go on.
+    [[nodiscard]] bool isOver() const { return progress_.cancelled() || file_.failure(); }
+    /// Whether the next figure is to be written.
+    [[nodiscard]] bool goesOn() { return progress_.next() && !isOver(); }
+
     void writePolygons(std::size_t layer, const MapStyle& style) {
         const ExportablePolygon& polygons = *layers_[layer].polygons;
-        for (std::int32_t polygon = 0; polygon < layers_[layer].count && !file_.failure();
-             ++polygon) {
+        for (std::int32_t polygon = 0; polygon < layers_[layer].count && goesOn(); ++polygon) {
             ring_.clear();
             const std::int32_t points = polygons.ExportablePolygon_polygonNCount(style, polygon);
             for (std::int32_t point = 0; point < points; ++point) {
@@ -134,7 +145,7 @@ private:
 
     void writePoints(std::size_t layer) {
         const ExportablePoint& points = *layers_[layer].points;
-        for (std::int32_t point = 0; point < layers_[layer].count && !file_.failure(); ++point) {
+        for (std::int32_t point = 0; point < layers_[layer].count && goesOn(); ++point) {
             beginFeature();
             json_ += R"({"type":"Point","coordinates":)";
             appendPosition(json_, points.ExportablePoint_pointN(point));
@@ -167,6 +178,7 @@ private:
     ExportColumns columns_;
     std::vector<std::string> names_;  // with quotes and colon
     FileDraft file_;
+    ExportProgress& progress_;
     std::string json_;  // of the feature at hand
     std::int64_t features_ = 0;
     std::vector<LonLat> ring_;
@@ -176,8 +188,8 @@ private:
 }  // namespace
 
 std::optional<Failure> exportGeoJson(std::span<Gph* const> layers, std::string_view path,
-                                     const MapStyle& style) {
-    return Export(figureLayers(layers), path).run(style);
+                                     const MapStyle& style, ExportProgress& progress) {
+    return Export(figureLayers(layers), path, progress).run(style);
 }
 
 }  // namespace campora

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "base/failure.h"
+#include "export/export_progress.h"
 #include "model/gph.h"
 #include "model/map_style.h"
 
@@ -18,8 +19,10 @@ namespace campora {
 /// as null; "id" counts from 0 in every layer when one of them has no data. Outer rings run against
 /// the clock; what crosses itself becomes a MultiPolygon, what has no area is left out. At most
 /// nine decimals, a tenth of a millimetre. `path`: with its ending; an existing file is replaced.
-/// A map without anything to write is a failure and leaves no file.
+/// A map without anything to write is a failure and leaves no file; `progress` may cancel the
+/// export, which leaves none either.
 [[nodiscard]] std::optional<Failure> exportGeoJson(std::span<Gph* const> layers,
-                                                   std::string_view path, const MapStyle& style);
+                                                   std::string_view path, const MapStyle& style,
+                                                   ExportProgress& progress);
 
 }  // namespace campora

@@ -182,25 +182,30 @@ private:
 class Export {
 public:
     Export(std::vector<ExportLayer> layers, std::string_view basePath, FigureType type,
-           std::optional<Date> today)
+           std::optional<Date> today, ExportProgress& progress)
         : basePath_(basePath),
           layers_(std::move(layers)),
           forGis_(today.has_value()),
           set_(basePath, type, std::move(today)),
-          attributes_(layers_, forGis_) {}
+          attributes_(layers_, forGis_),
+          progress_(progress) {}
 
     /// `nothing`: what is told when there is not one figure to write.
     std::optional<Failure> run(const MapStyle& style, TextId nothing) {
         attributes_.addFields(set_.table());
+        progress_.expect(figureCount(layers_));
         if (auto failure = set_.create(boxOf(layers_))) {
             return failure;
         }
-        for (std::size_t layer = 0; layer < layers_.size() && !isLost(); ++layer) {
+        for (std::size_t layer = 0; layer < layers_.size() && !isOver(); ++layer) {
             if (layers_[layer].polygons != nullptr) {
                 writePolygons(layer, style);
             } else {
                 writePoints(layer);
             }
+        }
+        if (progress_.cancelled()) {
+            return std::nullopt;
         }
         if (attributes_.failure()) {
             return because(TextId::FileCannotBeWritten, {basePath_ + ".dbf"},
@@ -216,11 +221,16 @@ public:
     }
 
 private:
-    [[nodiscard]] bool isLost() const { return attributes_.failure() || set_.hasFailed(); }
+    /// Whether it is of no use to go on.
+    [[nodiscard]] bool isOver() const {
+        return progress_.cancelled() || attributes_.failure() || set_.hasFailed();
+    }
+    /// Whether the next figure is to be written.
+    [[nodiscard]] bool goesOn() { return progress_.next() && !isOver(); }
 
     void writePolygons(std::size_t layer, const MapStyle& style) {
         const ExportablePolygon& polygons = *layers_[layer].polygons;
-        for (std::int32_t polygon = 0; polygon < layers_[layer].count && !isLost(); ++polygon) {
+        for (std::int32_t polygon = 0; polygon < layers_[layer].count && goesOn(); ++polygon) {
             ring_.clear();
             const std::int32_t points = polygons.ExportablePolygon_polygonNCount(style, polygon);
             for (std::int32_t point = 0; point < points; ++point) {
@@ -254,7 +264,7 @@ private:
 
     void writePoints(std::size_t layer) {
         const ExportablePoint& points = *layers_[layer].points;
-        for (std::int32_t point = 0; point < layers_[layer].count && !isLost(); ++point) {
+        for (std::int32_t point = 0; point < layers_[layer].count && goesOn(); ++point) {
             set_.addPoint(points.ExportablePoint_pointN(point));
             attributes_.writeRecord(set_.table(), layer, point);
         }
@@ -265,46 +275,45 @@ private:
     bool forGis_;
     ShapeSet set_;
     AttributeTable attributes_;
+    ExportProgress& progress_;
     std::vector<LonLat> ring_;
     std::vector<ValidPolygon> valid_;
     std::vector<std::span<const LonLat>> parts_;
 };
 
-bool areWithoutFigures(std::span<const ExportLayer> layers) {
-    return std::all_of(layers.begin(), layers.end(),
-                       [](const ExportLayer& layer) { return layer.count == 0; });
-}
-
 }  // namespace
 
 std::optional<Failure> exportShpPolygons(std::span<Gph* const> layers, std::string_view basePath,
-                                         const MapStyle& style) {
+                                         const MapStyle& style, ExportProgress& progress) {
     std::vector<ExportLayer> found = polygonLayers(layers);
-    if (areWithoutFigures(found)) {
+    if (figureCount(found) == 0) {
         return Failure{TextId::NoPolygonsToExport, {}, {}};
     }
-    return Export(std::move(found), basePath, FigureType::Polygon, std::nullopt)
+    return Export(std::move(found), basePath, FigureType::Polygon, std::nullopt, progress)
         .run(style, TextId::NoPolygonsToExport);
 }
 
-std::optional<Failure> exportShpPoints(std::span<Gph* const> layers, std::string_view basePath) {
+std::optional<Failure> exportShpPoints(std::span<Gph* const> layers, std::string_view basePath,
+                                       ExportProgress& progress) {
     std::vector<ExportLayer> found = pointLayers(layers);
-    if (areWithoutFigures(found)) {
+    if (figureCount(found) == 0) {
         return Failure{TextId::NoPointsToExport, {}, {}};
     }
-    return Export(std::move(found), basePath, FigureType::Point, std::nullopt)
+    return Export(std::move(found), basePath, FigureType::Point, std::nullopt, progress)
         .run(MapStyle(), TextId::NoPointsToExport);
 }
 
 std::optional<Failure> exportShpGis(std::span<Gph* const> layers, std::string_view basePath,
-                                    const MapStyle& style, const Date& today) {
+                                    const MapStyle& style, const Date& today,
+                                    ExportProgress& progress) {
     std::vector<ExportLayer> found = figureLayers(layers);
-    if (areWithoutFigures(found)) {
+    if (figureCount(found) == 0) {
         return Failure{TextId::NothingToExportGis, {}, {}};
     }
     const FigureType type =
         found.front().polygons != nullptr ? FigureType::Polygon : FigureType::Point;
-    return Export(std::move(found), basePath, type, today).run(style, TextId::NothingToExportGis);
+    return Export(std::move(found), basePath, type, today, progress)
+        .run(style, TextId::NothingToExportGis);
 }
 
 }  // namespace campora

@@ -9,6 +9,7 @@
 
 #include "base/dates.h"
 #include "base/failure.h"
+#include "export/export_progress.h"
 #include "model/gph.h"
 #include "model/map_style.h"
 
@@ -21,16 +22,19 @@ namespace campora {
 /// Layers that lack what the format needs are left out. The table has the columns of the first
 /// layer when every exported layer has data, a cell of another layer being the one of the same
 /// name, and a column "id" otherwise, which begins at 0 in every layer. A map without anything to
-/// write is a failure and leaves no file.
+/// write is a failure and leaves no file; `progress` may cancel an export, which leaves none
+/// either.
 
 /// A record a polygon, its points as the layer gives them: open or closed, either way round. Under
 /// `style`, steps without flow may be left out.
-[[nodiscard]] std::optional<Failure>
-exportShpPolygons(std::span<Gph* const> layers, std::string_view basePath, const MapStyle& style);
+[[nodiscard]] std::optional<Failure> exportShpPolygons(std::span<Gph* const> layers,
+                                                       std::string_view basePath,
+                                                       const MapStyle& style,
+                                                       ExportProgress& progress);
 
 /// A record a point.
-[[nodiscard]] std::optional<Failure> exportShpPoints(std::span<Gph* const> layers,
-                                                     std::string_view basePath);
+[[nodiscard]] std::optional<Failure>
+exportShpPoints(std::span<Gph* const> layers, std::string_view basePath, ExportProgress& progress);
 
 /// The form that other programs take without complaint: polygons when a layer has them, else
 /// points; rings closed and clockwise, what crosses itself divided into parts, without what has no
@@ -38,6 +42,6 @@ exportShpPolygons(std::span<Gph* const> layers, std::string_view basePath, const
 /// the date of the table.
 [[nodiscard]] std::optional<Failure> exportShpGis(std::span<Gph* const> layers,
                                                   std::string_view basePath, const MapStyle& style,
-                                                  const Date& today);
+                                                  const Date& today, ExportProgress& progress);
 
 }  // namespace campora
