@@ -54,7 +54,7 @@ std::optional<TextId> wrongKind(const fs::file_status& status) {
 
 }  // namespace
 
-FileStream openFileStream(const fs::path& path, FileMode mode) {
+FileStream openStream(const fs::path& path, FileMode mode) {
     const auto index = static_cast<std::size_t>(mode);
 #ifdef _WIN32
     constexpr std::array<const wchar_t*, 3> kModes = {L"rb", L"r+b", L"wbx"};
