@@ -40,6 +40,14 @@ std::int32_t borderMargin(double extentM) {
 
 }  // namespace
 
+void beginMap(MapCanvas& canvas, const MapColors& colors) {
+    canvas.setPenWidth(1);
+    canvas.clear();
+    canvas.setFillStyle(FillStyle::Solid);
+    canvas.setFillColor(colors.draw);
+    canvas.setPenColor(colors.fore);
+}
+
 struct MapView::Fit {
     float scale = 0;
     std::int32_t marginX = 0;
@@ -197,11 +205,7 @@ void MapView::setView(float scaleX, float scaleY, std::int32_t scrollX, std::int
     y_.scale = scaleY;
     x_.scroll = scrollX;
     y_.scroll = scrollY;
-    canvas_.setPenWidth(1);
-    canvas_.clear();
-    canvas_.setFillStyle(FillStyle::Solid);
-    canvas_.setFillColor(style_.colors.draw);
-    canvas_.setPenColor(style_.colors.fore);
+    beginMap(canvas_, style_.colors);
     computeOrigin();
     const ViewTransform view = transform();
     MapContext context{canvas_, view, style_};

@@ -10,10 +10,14 @@
 #include "base/lon_lat.h"
 #include "model/bounding_box.h"
 #include "model/gph.h"
+#include "model/map_style.h"
 #include "platform/main_window_controls.h"
 #include "platform/map_canvas.h"
 
 namespace campora {
+
+/// The pen, fill and empty canvas with which every drawing of the map begins.
+void beginMap(MapCanvas& canvas, const MapColors& colors);
 
 /// Where the map stands and how large it is: scale, scroll, margins, origin, and the rules that
 /// fit, zoom and scroll it. Metres unless said otherwise; positions on the canvas in canvas units.

@@ -21,18 +21,6 @@ namespace {
 /// Image of files without one of their own.
 constexpr std::string_view kPlainIcon = "copy";
 
-/// As the user reads them: names and units are stored in Spanish.
-std::vector<SummaryRow> summaryRows(File* file, const Texts& texts) {
-    std::vector<SummaryRow> rows;
-    if (file != nullptr) {
-        for (const auto& [property, value, unit] : file->File_resumen().entries()) {
-            rows.push_back(
-                {shownSummaryName(property, texts), value + " " + shownUnit(unit, texts)});
-        }
-    }
-    return rows;
-}
-
 }  // namespace
 
 Session::Session(const Platform& platform, Language language, std::string programFolder)
@@ -227,8 +215,19 @@ void Session::showCurrentFile() {
     showLegend();
 }
 
+std::vector<SummaryRow> Session::summaryRows() const {
+    std::vector<SummaryRow> rows;
+    if (File* const file = files_.currentFile()) {
+        for (const auto& [property, value, unit] : file->File_resumen().entries()) {
+            rows.push_back(
+                {shownSummaryName(property, texts_), value + " " + shownUnit(unit, texts_)});
+        }
+    }
+    return rows;
+}
+
 void Session::showSummary() {
-    platform_.window.setSummary(summaryRows(files_.currentFile(), texts_));
+    platform_.window.setSummary(summaryRows());
 }
 
 ColorScale& Session::shownScale() {
@@ -246,15 +245,20 @@ void Session::showLegend() {
             redraw();
         }
     });
+    platform_.window.setLegend(legendContent());
+}
+
+LegendContent Session::legendContent() {
+    const ColorScale& scale = shownScale();
     MapStyle shown = style_;
     shown.scale = &scale;
     shown.graduated = shown.graduated || &scale != &defaultScale_;
-    LegendContent legend = legendContent(shown, texts_, platform_.locale);
+    LegendContent legend = campora::legendContent(shown, texts_, platform_.locale);
     if (files_.empty()) {
         legend.unit.clear();
         legend.classes.clear();
     }
-    platform_.window.setLegend(legend);
+    return legend;
 }
 
 void Session::showFlowStops() {
@@ -273,7 +277,7 @@ void Session::recalcErrorAreas() {
 
 void Session::copyData() {
     std::string text;
-    for (const SummaryRow& row : summaryRows(files_.currentFile(), texts_)) {
+    for (const SummaryRow& row : summaryRows()) {
         text.append(row.property).append(" ").append(row.value).append("\r\n");
     }
     if (!text.empty()) {
@@ -290,12 +294,32 @@ void Session::canvasResized() {
     view_.ZoomUno();
 }
 
-void Session::plotAll(MapContext& context) const {
+std::vector<const Gph*> Session::layersFromBelow() const {
+    std::vector<const Gph*> all;
     for (int i = files_.loadedCount() - 1; i >= 0; --i) {
-        for (const Gph* layer : files_.file(i).File_gphList()) {
-            layer->Gph_plot(context);
-        }
+        const std::vector<Gph*> layers = files_.file(i).File_gphList();
+        all.insert(all.end(), layers.begin(), layers.end());
     }
+    return all;
+}
+
+void Session::plotAll(MapContext& context) const {
+    for (const Gph* layer : layersFromBelow()) {
+        layer->Gph_plot(context);
+    }
+}
+
+bool Session::plotAll(MapContext& context, Progress& progress) const {
+    const std::vector<const Gph*> layers = layersFromBelow();
+    int reported = -1;
+    for (std::size_t i = 0; i < layers.size(); ++i) {
+        const int percent = static_cast<int>(100 * i / layers.size());
+        if (percent != std::exchange(reported, percent) && !progress.report(percent)) {
+            return false;
+        }
+        layers[i]->Gph_plot(context);
+    }
+    return true;
 }
 
 void Session::refreshColorScale() {

@@ -9,9 +9,12 @@
 #include <string_view>
 #include <vector>
 
+#include "app/export_commands.h"
 #include "app/file_commands.h"
 #include "app/file_loading.h"
 #include "app/legend_commands.h"
+#include "app/lot_commands.h"
+#include "app/lot_editor.h"
 #include "app/map_modes.h"
 #include "app/map_tools.h"
 #include "app/map_view.h"
@@ -68,6 +71,12 @@ public:
     [[nodiscard]] const MapModes& modes() const { return modes_; }
     [[nodiscard]] PrescCommands& prescription() { return prescription_; }
     [[nodiscard]] const PrescCommands& prescription() const { return prescription_; }
+    [[nodiscard]] ExportCommands& exports() { return exports_; }
+    [[nodiscard]] const ExportCommands& exports() const { return exports_; }
+    [[nodiscard]] LotCommands& lots() { return lots_; }
+    [[nodiscard]] const LotCommands& lots() const { return lots_; }
+    [[nodiscard]] LotEditor& lotEditor() { return lotEditor_; }
+    [[nodiscard]] const LotEditor& lotEditor() const { return lotEditor_; }
     [[nodiscard]] MapTools& tools() { return tools_; }
     [[nodiscard]] const MapTools& tools() const { return tools_; }
     [[nodiscard]] Replay& replay() { return replay_; }
@@ -83,6 +92,7 @@ public:
     /// The text that printed pages carry.
     std::string printDescription;
     [[nodiscard]] const std::string& programFolder() const { return programFolder_; }
+    [[nodiscard]] const Registrations& registrations() const { return registrations_; }
     [[nodiscard]] LoadedFileList& files() { return files_; }
     /// Widened by every file that is added; unset again when the map is empty.
     [[nodiscard]] const ValueRanges& ranges() const { return ranges_; }
@@ -104,6 +114,11 @@ public:
     bool addFile(std::unique_ptr<File> file, bool updateView, bool atTop);
     /// Adds a file that was made here as the first and current one, and shows the whole map.
     void showOnTop(std::unique_ptr<File> file);
+    /// Adds a file that was made here as the last and current one; the view stays where it is
+    /// unless the map has grown.
+    void showBelow(std::unique_ptr<File> file);
+    /// Shows another file in the place of an open one, as the current file.
+    void replaceFile(const File* old, std::unique_ptr<File> file);
     /// Collects the boxes of the open files anew and fits the view; false when nothing changed.
     bool recalcGphBound();
     void removeFile(const File* file);
@@ -144,6 +159,8 @@ public:
     void canvasResized();
     /// Draws the files from the last to the first.
     void plotAll(MapContext& context) const;
+    /// The same with a word on how far it is between layers; false when the user has had enough.
+    [[nodiscard]] bool plotAll(MapContext& context, Progress& progress) const;
     /// Builds the default scale anew for the current mode and shows it in the legend; does not
     /// redraw. The date map is left when nothing loaded has a date.
     void refreshColorScale();
@@ -174,6 +191,8 @@ private:
     };
 
     [[nodiscard]] std::vector<File*> openFiles() const;
+    /// In the order in which they are drawn.
+    [[nodiscard]] std::vector<const Gph*> layersFromBelow() const;
     /// Reads a file and adds it; neither list nor legend are shown anew yet.
     bool takeFile(std::string_view path, bool resetFirst, Dialogs& dialogs);
     /// Several in order, until the user has enough; answers those that were taken.
@@ -202,6 +221,9 @@ private:
     MapModes modes_{*this};
     FileCommands fileCommands_{*this};
     PrescCommands prescription_{*this};
+    LotCommands lots_{*this};
+    LotEditor lotEditor_{*this};
+    ExportCommands exports_{*this};
     CoordType coordType_ = CoordType::Degrees;
     std::string title_;
     std::string lastTrackFile_;

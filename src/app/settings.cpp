@@ -39,6 +39,11 @@ constexpr SettingRow text(SettingId id, std::string_view key) {
     return {id, key, SettingType::Text};
 }
 
+/// Of a printed page, in millimetres; narrow enough that even the smallest paper keeps a page.
+constexpr SettingRow margin(SettingId id, std::string_view key) {
+    return number(id, key, 10, 0, 30);
+}
+
 constexpr std::array kRows = {
     number(SettingId::Language, "language", kFollowSystem, std::numeric_limits<std::int32_t>::min(),
            std::numeric_limits<std::int32_t>::max()),
@@ -65,6 +70,18 @@ constexpr std::array kRows = {
     text(SettingId::RecentFiles, "RecentFiles"),
     text(SettingId::WindowGeometry, "WindowGeometry"),
     text(SettingId::WindowSplitter, "WindowSplitter"),
+    text(SettingId::PrintPaper, "printPaper"),
+    onOff(SettingId::PrintLandscape, "printLandscape", true),
+    margin(SettingId::PrintMarginLeft, "printMarginLeft"),
+    margin(SettingId::PrintMarginTop, "printMarginTop"),
+    margin(SettingId::PrintMarginRight, "printMarginRight"),
+    margin(SettingId::PrintMarginBottom, "printMarginBottom"),
+    onOff(SettingId::PrintLegend, "printLegend", true),
+    onOff(SettingId::PrintSummary, "printSummary", true),
+    onOff(SettingId::PrintsDescription, "printsDescription", true),
+    text(SettingId::Printer, "printer"),
+    number(SettingId::PrintResolution, "printResolution", 600, 150, 600),
+    text(SettingId::PrintPath, "printPath"),
 };
 
 constexpr bool rowsAreInOrder() {

@@ -41,6 +41,18 @@ enum class SettingId {
     RecentFiles,
     WindowGeometry,
     WindowSplitter,
+    PrintPaper,
+    PrintLandscape,
+    PrintMarginLeft,
+    PrintMarginTop,
+    PrintMarginRight,
+    PrintMarginBottom,
+    PrintLegend,
+    PrintSummary,
+    PrintsDescription,
+    Printer,
+    PrintResolution,
+    PrintPath,
 };
 
 enum class SettingType { Number, Color, Switch, Text };

@@ -50,12 +50,9 @@ constexpr MenuRow kMenus[] = {
     {MenuId::Language, TextId::MenuLanguage, MenuId::Help},
 };
 
-QList<QKeySequence> keysOf(const ActionRow& row) {
-    QList<QKeySequence> keys;
-    for (const QString& key : QString(row.shortcuts).split(' ', Qt::SkipEmptyParts)) {
-        keys += QKeySequence(key, QKeySequence::PortableText);
-    }
-    return keys;
+const MenuRow& menuRow(MenuId id) {
+    return *std::find_if(std::begin(kMenus), std::end(kMenus),
+                         [id](const MenuRow& row) { return row.id == id; });
 }
 
 void addLine(QWidget& bar) {
@@ -65,6 +62,18 @@ void addLine(QWidget& bar) {
 }
 
 }  // namespace
+
+QList<QKeySequence> keysOf(const ActionRow& row) {
+    QList<QKeySequence> keys;
+    for (const QString& key : QString(row.shortcuts).split(' ', Qt::SkipEmptyParts)) {
+        keys += QKeySequence(key, QKeySequence::PortableText);
+    }
+    return keys;
+}
+
+TextId menuText(MenuId id) {
+    return menuRow(id).text;
+}
 
 bool Availability::fulfils(Needs needs) const {
     switch (needs) {
@@ -157,10 +166,9 @@ QMenu& ActionSet::menu(MenuId id) {
     if (const auto found = menus_.find(id); found != menus_.end()) {
         return *found->second;
     }
-    const auto* const row = std::find_if(std::begin(kMenus), std::end(kMenus),
-                                         [id](const MenuRow& r) { return r.id == id; });
+    const MenuRow& row = menuRow(id);
     QMenu* made =
-        row->parent == id ? menuBar_.addMenu(QString()) : menu(row->parent).addMenu(QString());
+        row.parent == id ? menuBar_.addMenu(QString()) : menu(row.parent).addMenu(QString());
     menus_[id] = made;
     return *made;
 }

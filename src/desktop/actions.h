@@ -9,6 +9,8 @@
 #include <utility>
 #include <vector>
 
+#include <QKeySequence>
+#include <QList>
 #include <QString>
 
 #include "base/texts.h"
@@ -92,6 +94,11 @@ struct ToolRow {
 
 [[nodiscard]] std::span<const ToolRow> mainToolRows();
 [[nodiscard]] std::span<const ToolRow> fileToolRows();
+
+/// The keys of a command, the one that is shown first.
+[[nodiscard]] QList<QKeySequence> keysOf(const ActionRow& row);
+/// The title of a menu.
+[[nodiscard]] TextId menuText(MenuId id);
 
 /// What the window allows at the moment.
 struct Availability {

@@ -69,9 +69,19 @@ public:
     void editSummary();
     void copyImage();
     void goToCoordinate();
+    void exportMap();
+    void exportReport();
+    void exportGlg();
     void savePrescription();
     void saveVrt();
+    void setUpPage();
+    void printPreview();
+    void print();
     void useTool(MapTools::Tool tool);
+    /// Back to moving the map by dragging it.
+    void leaveTool();
+    void showKeys();
+    void showAbout();
     void toggleSidePanel();
     [[nodiscard]] bool sidePanelShown() const;
     void toggleFullScreen();

@@ -9,18 +9,23 @@
 #include <QMenu>
 
 #include "base/paths.h"
+#include "desktop/about_dialog.h"
 #include "desktop/coord_dialog.h"
 #include "desktop/dose_column_dialog.h"
+#include "desktop/keys_dialog.h"
 #include "desktop/main_window.h"
 #include "desktop/map_area.h"
 #include "desktop/map_widget.h"
 #include "desktop/pointer_override.h"
+#include "desktop/printing.h"
 #include "desktop/property_editor.h"
 #include "desktop/qt_text.h"
 #include "desktop/select_dose_dialog.h"
+#include "desktop/shp_export_dialog.h"
 #include "desktop/side_panel.h"
 #include "desktop/summary_editor_dialog.h"
 #include "desktop/work_orders_dialog.h"
+#include "paint/picture_file.h"
 #include "work/summary_file.h"
 
 namespace campora {
@@ -87,6 +92,21 @@ void MainWindow::goToCoordinate() {
     }
 }
 
+void MainWindow::exportMap() {
+    const PointerOverride busy(Qt::WaitCursor);
+    session_->exports().mnuFileExport();
+}
+
+void MainWindow::exportReport() {
+    const PointerOverride busy(Qt::WaitCursor);
+    session_->exports().mnuFileExportRpt();
+}
+
+void MainWindow::exportGlg() {
+    const PointerOverride busy(Qt::WaitCursor);
+    session_->exports().mnuFileExportGlg();
+}
+
 void MainWindow::savePrescription() {
     const PointerOverride busy(Qt::WaitCursor);
     session_->prescription().mnuFileSavePrescript();
@@ -95,6 +115,31 @@ void MainWindow::savePrescription() {
 void MainWindow::saveVrt() {
     const PointerOverride busy(Qt::WaitCursor);
     session_->prescription().mnuFileSaveVrt();
+}
+
+void MainWindow::setUpPage() {
+    static_cast<void>(Printing(*session_, this).setUpPage());
+}
+
+void MainWindow::printPreview() {
+    Printing(*session_, this).preview();
+}
+
+void MainWindow::print() {
+    Printing(*session_, this).print();
+}
+
+void MainWindow::leaveTool() {
+    session_->tools().escape();
+    mapArea_->map().setFocus();
+}
+
+void MainWindow::showKeys() {
+    KeysDialog(session_->texts(), this).exec();
+}
+
+void MainWindow::showAbout() {
+    AboutDialog(session_->texts(), desktop_.clipboard, this).exec();
 }
 
 void MainWindow::useTool(MapTools::Tool tool) {
@@ -132,6 +177,15 @@ void MainWindow::connectMenus() {
     };
     session_->prescription().askDose = [this](const ColorScale& scale, float current) {
         return SelectDoseDialog(&scale, current, *session_, this).getDosis();
+    };
+    session_->exports().savePicture = savePicture;
+    session_->exports().showTrackExport = [this](const std::vector<std::string>& paths) {
+        ShpExportDialog dialog(*session_, this);
+        if (paths.size() == 1) {
+            dialog.exportFiles(paths.front());
+        } else {
+            dialog.exportList(paths);
+        }
     };
     connect(&actions_->menu(MenuId::Recent), &QMenu::aboutToShow, this,
             &MainWindow::fillRecentMenu);

@@ -1,0 +1,139 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/page_columns.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace campora {
+
+namespace {
+
+/// A heading with the row under it.
+constexpr int kLeastRows = 2;
+/// A block a column may be this much higher than blocks one after the other.
+constexpr double kWorth = 1.35;
+
+/// Sets rows into columns of a given height.
+class Flow {
+public:
+    Flow(int columns, int lines) : columns_(columns), lines_(lines) {}
+
+    /// False when there is no room for the block.
+    bool add(const PageBlock& block, bool inNewColumn) {
+        if (line_ > 0) {
+            const bool startsAnew =
+                (inNewColumn && !block.joinsPrevious) || line_ + 1 + kLeastRows > lines_;
+            startsAnew ? nextColumn() : static_cast<void>(++line_);
+        }
+        for (const PageRow& row : block.rows) {
+            if (line_ >= lines_) {
+                nextColumn();
+            }
+            if (column_ >= columns_ || lines_ < kLeastRows) {
+                return false;
+            }
+            placed_.rows.push_back({row, column_, line_++});
+            placed_.lines = std::max(placed_.lines, line_);
+        }
+        return true;
+    }
+    [[nodiscard]] PlacedBlocks take() { return std::move(placed_); }
+
+private:
+    void nextColumn() {
+        ++column_;
+        line_ = 0;
+    }
+
+    int columns_;
+    int lines_;
+    int column_ = 0;
+    int line_ = 0;
+    PlacedBlocks placed_;
+};
+
+std::optional<PlacedBlocks> tryFlow(const std::vector<PageBlock>& blocks, int columns, int lines,
+                                    bool columnABlock) {
+    Flow flow(columns, lines);
+    for (const PageBlock& block : blocks) {
+        if (!flow.add(block, columnABlock)) {
+            return std::nullopt;
+        }
+    }
+    return flow.take();
+}
+
+/// The lowest that holds all blocks; none within `mostLines`.
+std::optional<PlacedBlocks> lowest(const std::vector<PageBlock>& blocks, int columns, int mostLines,
+                                   bool columnABlock) {
+    for (int lines = kLeastRows; lines <= mostLines; ++lines) {
+        if (std::optional<PlacedBlocks> placed = tryFlow(blocks, columns, lines, columnABlock)) {
+            return placed;
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<PlacedBlocks> best(const std::vector<PageBlock>& blocks, int columns, int mostLines) {
+    std::optional<PlacedBlocks> apart = lowest(blocks, columns, mostLines, true);
+    std::optional<PlacedBlocks> running = lowest(blocks, columns, mostLines, false);
+    const bool worthIt = apart && running && apart->lines <= running->lines * kWorth;
+    return worthIt ? std::move(apart) : std::move(running);
+}
+
+/// Blocks of which the ends are left out.
+class ShortBlocks {
+public:
+    ShortBlocks(std::vector<PageBlock> blocks, const MoreText& more)
+        : blocks_(std::move(blocks)), more_(more), left_(blocks_.size(), 0) {}
+
+    [[nodiscard]] const std::vector<PageBlock>& blocks() const { return blocks_; }
+
+    /// Leaves one more row out of the longest block; false when every block is at its shortest.
+    bool shorten() {
+        const auto longest = std::max_element(
+            blocks_.begin(), blocks_.end(),
+            [](const PageBlock& a, const PageBlock& b) { return a.rows.size() < b.rows.size(); });
+        if (longest == blocks_.end() || longest->rows.size() <= kLeastRows) {
+            return false;
+        }
+        int& left = left_[static_cast<std::size_t>(longest - blocks_.begin())];
+        longest->rows.pop_back();  // the row that tells of it, or the one whose place that takes
+        left += left == 0 ? 2 : 1;
+        longest->rows.pop_back();
+        longest->rows.push_back({PageRow::Kind::Line, more_(left)});
+        return true;
+    }
+    void dropLast() { blocks_.pop_back(); }
+
+private:
+    std::vector<PageBlock> blocks_;
+    const MoreText& more_;
+    std::vector<int> left_;
+};
+
+}  // namespace
+
+PlacedBlocks placeBlocks(std::vector<PageBlock> blocks, int columns, int mostLines,
+                         const MoreText& more) {
+    std::erase_if(blocks, [](const PageBlock& block) { return block.rows.size() < kLeastRows; });
+    if (std::optional<PlacedBlocks> all = best(blocks, columns, mostLines)) {
+        return std::move(*all);
+    }
+    ShortBlocks rest(std::move(blocks), more);
+    while (!rest.blocks().empty()) {
+        if (std::optional<PlacedBlocks> placed =
+                tryFlow(rest.blocks(), columns, mostLines, false)) {
+            placed->cut = true;
+            return std::move(*placed);
+        }
+        if (!rest.shorten()) {
+            rest.dropLast();
+        }
+    }
+    return {};
+}
+
+}  // namespace campora

@@ -1,0 +1,49 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <memory>
+
+#include <QDialog>
+
+#include "desktop/printing.h"
+
+class QAction;
+class QPrintPreviewWidget;
+class QToolBar;
+
+namespace campora {
+
+/// Shows the page as it will be printed.
+class PrintPreview final : public QDialog {
+public:
+    PrintPreview(Session& session, QWidget* parent);
+    ~PrintPreview() override;
+
+private:
+    QAction* addCommand(QToolBar& bar, const char* name, TextId text, const char* icon,
+                        const char* key, void (PrintPreview::*run)());
+    void fillBar(QToolBar& bar);
+    void setUpPage();
+    void print();
+    void turnPortrait() { turn(false); }
+    void turnLandscape() { turn(true); }
+    void turn(bool landscape);
+    void showWholePage();
+    void showWholeWidth();
+    void zoomIn();
+    void zoomOut();
+    void leave() { reject(); }
+    /// The page has changed.
+    void showAnew();
+
+    const Texts& texts_;
+    Printing printing_;
+    std::unique_ptr<QPrinter> printer_;
+    QPrintPreviewWidget* view_;
+    QAction* portrait_ = nullptr;
+    QAction* landscape_ = nullptr;
+};
+
+}  // namespace campora
