@@ -11,6 +11,7 @@
 #include "app/files_behind.h"
 #include "app/load_project.h"
 #include "app/project_file.h"
+#include "app/save_target.h"
 #include "app/session.h"
 #include "app/settings.h"
 #include "base/files.h"
@@ -31,11 +32,6 @@ bool exists(std::string_view path) {
     return fs::exists(nativePath(path), ignored);
 }
 
-bool isFolder(std::string_view path) {
-    std::error_code ignored;
-    return fs::is_directory(nativePath(path), ignored);
-}
-
 std::optional<Failure> copyFile(const std::string& source, const std::string& target) {
     const Result<FileBytes> content = readFile(source);
     return content ? writeFile(target, content->bytes()) : std::optional(content.failure());
@@ -49,11 +45,8 @@ FileCommands::FileCommands(Session& session)
 void FileCommands::fileOpen() {
     const Platform& platform = session_.platform();
     OpenRequest request{std::string(session_.texts()(TextId::Open)),
-                        readText(platform.settings, SettingId::OpenPath),
+                        startFolder(session_, SettingId::OpenPath),
                         openFilters(session_.texts())};
-    if (!isFolder(request.folder)) {
-        request.folder = session_.programFolder();
-    }
     request.several = true;
     request.preview = [this](const std::vector<std::string>& selected) { preview(selected); };
     const std::vector<std::string> paths = platform.dialogs.openFiles(request);
@@ -169,13 +162,6 @@ bool FileCommands::canSaveAs() const {
     return !session_.lastTrackFile().empty();
 }
 
-bool FileCommands::overwriteAgreed(const std::string& target) const {
-    const Texts& texts = session_.texts();
-    return !exists(target) || session_.platform().dialogs.askYesNo(
-                                  texts.format(TextId::AskOverwrite, {target}),
-                                  MessageIcon::Exclamation, texts(TextId::ProgramName));
-}
-
 void FileCommands::saveAs() {
     const Platform& platform = session_.platform();
     const Texts& texts = session_.texts();
@@ -199,8 +185,8 @@ void FileCommands::saveAs() {
     const std::string summary = findIgnoringCase(source.summaryPath);
     const bool hasSummary = canOpen(summary);
     // The save dialog has asked about the name that was chosen; nobody has about the others.
-    if ((path != chosen && !overwriteAgreed(target.trackPath)) ||
-        (hasSummary && !overwriteAgreed(target.summaryPath))) {
+    if ((path != chosen && !overwriteAgreed(session_, target.trackPath)) ||
+        (hasSummary && !overwriteAgreed(session_, target.summaryPath))) {
         return;
     }
     std::optional<Failure> failure = copyFile(source.trackPath, target.trackPath);

@@ -49,7 +49,6 @@ private:
     void showShapeKind(const std::vector<std::string>& selected);
     /// The files that a path stands for: those of a project, those in a folder, itself.
     [[nodiscard]] std::vector<std::string> filesOf(const std::string& path, Dialogs& dialogs) const;
-    [[nodiscard]] bool overwriteAgreed(const std::string& target) const;
 
     Session& session_;
     RecentFiles recent_;

@@ -24,6 +24,10 @@ struct CommandRow {
 constexpr CommandRow kCommands[] = {
     {Command::Info, "info", TextId::CliInfo},
     {Command::Render, "render", TextId::CliRender},
+    {Command::Export, "export", TextId::CliExport},
+    {Command::ExportTrack, "export-track", TextId::CliExportTrack},
+    {Command::ReportToText, "report-to-text", TextId::CliReportToText},
+    {Command::Glg, "glg", TextId::CliGlg},
     {Command::Prescribe, "prescribe", TextId::CliPrescribe},
     {Command::Orders, "orders", TextId::CliOrders},
     {Command::Project, "project", TextId::CliProject},
@@ -73,11 +77,19 @@ std::optional<Failure> checkFiles(const Arguments& parsed) {
     if (parsed.files.empty()) {
         return Failure{TextId::CliMissingFile, {}};
     }
-    const bool takesOne = parsed.command == Command::Orders || parsed.command == Command::Project;
+    const bool takesOne = parsed.command == Command::Orders || parsed.command == Command::Project ||
+                          parsed.command == Command::ReportToText;
     if (takesOne && parsed.files.size() > 1) {
         return Failure{TextId::CliUnknownOption, {parsed.files[1]}};
     }
     return std::nullopt;
+}
+
+bool needsOutput(Command command) {
+    constexpr Command kCommandsWithOne[] = {Command::Render, Command::Export, Command::Glg,
+                                            Command::ReportToText, Command::Prescribe};
+    return std::find(std::begin(kCommandsWithOne), std::end(kCommandsWithOne), command) !=
+           std::end(kCommandsWithOne);
 }
 
 std::optional<Failure> checkOptions(const Arguments& parsed) {
@@ -89,10 +101,17 @@ std::optional<Failure> checkOptions(const Arguments& parsed) {
     if (prescribes && isVrt && !parsed.prescription.resolution) {
         return Failure{TextId::CliMissingOption, {"--resolution"}};
     }
-    if ((prescribes || parsed.command == Command::Render) && parsed.output.empty()) {
+    if (parsed.command == Command::Export && parsed.exportFormat == nullptr) {
+        return Failure{TextId::CliMissingOption, {"--format"}};
+    }
+    if (parsed.output.empty() && needsOutput(parsed.command)) {
         return Failure{TextId::CliMissingOption, {"-o"}};
     }
     if (prescribes && pathEnding(parsed.output) != (isVrt ? ".vrt" : ".pre")) {
+        return Failure{TextId::CliBadValue, {"-o", parsed.output}};
+    }
+    const bool isBatch = parsed.command == Command::ExportTrack && parsed.files.size() > 1;
+    if (isBatch && !parsed.output.empty()) {
         return Failure{TextId::CliBadValue, {"-o", parsed.output}};
     }
     return std::nullopt;

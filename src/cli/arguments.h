@@ -9,6 +9,8 @@
 #include <string>
 #include <vector>
 
+#include "app/export_formats.h"
+#include "app/track_export.h"
 #include "base/failure.h"
 #include "base/texts.h"
 #include "model/map_style.h"
@@ -16,7 +18,17 @@
 
 namespace campora {
 
-enum class Command { Info, Render, Prescribe, Orders, Project };
+enum class Command {
+    Info,
+    Render,
+    Export,
+    ExportTrack,
+    ReportToText,
+    Glg,
+    Prescribe,
+    Orders,
+    Project
+};
 enum class GridKind { Pre, Vrt };
 
 struct PixelSize {
@@ -78,6 +90,12 @@ struct Arguments {
 
     std::optional<OrderCopy> copy;
     PrescriptionOrder prescription;
+
+    /// Of an export; not null then.
+    const ExportFormat* exportFormat = nullptr;
+    TrackExportOptions trackExport;
+    /// The decimal symbol of a report's text table.
+    bool comma = false;
 
     std::string output;
     PixelSize size{1200, 900};

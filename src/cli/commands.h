@@ -29,6 +29,14 @@ inline constexpr int kWrongCommandLine = 2;
 [[nodiscard]] int runInfo(const Arguments& arguments, const Console& console);
 /// The whole map as a picture. Without a map no picture is written.
 [[nodiscard]] int runRender(const Arguments& arguments, const Console& console);
+/// The map in another format. Without a map nothing is written.
+[[nodiscard]] int runExport(const Arguments& arguments, const Console& console);
+/// Track files as polygon shapefiles, one after another.
+[[nodiscard]] int runExportTrack(const Arguments& arguments, const Console& console);
+/// A report as a text table.
+[[nodiscard]] int runReportToText(const Arguments& arguments, const Console& console);
+/// The points of all tracks in the GLG point format.
+[[nodiscard]] int runGlg(const Arguments& arguments, const Console& console);
 /// A grid for a console from the zones of shapefiles.
 [[nodiscard]] int runPrescribe(const Arguments& arguments, const Console& console);
 /// The work orders of a folder; copies the files of one when the command line says so.

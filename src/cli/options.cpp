@@ -147,7 +147,7 @@ bool addChannel(Arguments& arguments, std::string_view value) {
     return !channels.back().column.empty();
 }
 
-bool setGridOutput(Arguments& arguments, std::string_view value) {
+bool setPath(Arguments& arguments, std::string_view value) {
     arguments.output = value;
     return !value.empty();
 }
@@ -166,6 +166,17 @@ bool setFormat(Arguments& arguments, std::string_view value) {
 bool setResolution(Arguments& arguments, std::string_view value) {
     arguments.prescription.resolution = parse<float>(replaceAll(value, ",", "."));
     return arguments.prescription.resolution.has_value();
+}
+
+bool setExportFormat(Arguments& arguments, std::string_view value) {
+    arguments.exportFormat = exportFormatOf(value);
+    return arguments.exportFormat != nullptr;
+}
+
+bool setPolygonLength(Arguments& arguments, std::string_view value) {
+    const auto points = parse<int>(value);
+    arguments.trackExport.polygonLength = points.value_or(0);
+    return points && *points >= kShortestPolygon && *points <= kLongestPolygon;
 }
 
 constexpr auto kEvery = std::nullopt;
@@ -192,9 +203,26 @@ constexpr Option kOptions[] = {
      }},
     {kEvery, "--help", "", TextId::CliHelp, [](Arguments&, std::string_view) { return true; }},
     {Command::Info, "--json", "", TextId::CliJson, setJson},
+    {Command::Export, "--format", "shp-polygon|shp-point|bmp|kml|txt|txt-comma|shp-gis|geojson|png",
+     TextId::CliExportFormat, setExportFormat},
+    {Command::Export, "-o", "PATH", TextId::CliExportOutput, setPath},
+    {Command::ExportTrack, "--polygon-length", "N", TextId::CliPolygonLength, setPolygonLength},
+    {Command::ExportTrack, "--only-sprayed", "", TextId::CliOnlySprayed,
+     [](Arguments& a, std::string_view) {
+         a.trackExport.onlySprayed = true;
+         return true;
+     }},
+    {Command::ExportTrack, "-o", "BASE", TextId::CliTrackOutput, setPath},
+    {Command::ReportToText, "-o", "OUT.txt", TextId::CliExportOutput, setPath},
+    {Command::ReportToText, "--comma", "", TextId::CliComma,
+     [](Arguments& a, std::string_view) {
+         a.comma = true;
+         return true;
+     }},
+    {Command::Glg, "-o", "OUT.glg", TextId::CliExportOutput, setPath},
     {Command::Prescribe, "--channel", "FILE.shp,COLUMN[,FALLBACK]", TextId::CliPrescChannel,
      addChannel},
-    {Command::Prescribe, "-o", "OUT.pre|OUT.vrt", TextId::SaveAsTitle, setGridOutput},
+    {Command::Prescribe, "-o", "OUT.pre|OUT.vrt", TextId::SaveAsTitle, setPath},
     {Command::Prescribe, "--oversize", "keep|cancel|change", TextId::CliOversize, setOversize},
     {Command::Prescribe, "--format", "pre|vrt", TextId::FilterPrescriptions, setFormat},
     {Command::Prescribe, "--resolution", "R", TextId::SummaryResolution, setResolution},

@@ -13,6 +13,14 @@ int runCommand(const Arguments& arguments, const Console& console) {
         return runInfo(arguments, console);
     case Command::Render:
         return runRender(arguments, console);
+    case Command::Export:
+        return runExport(arguments, console);
+    case Command::ExportTrack:
+        return runExportTrack(arguments, console);
+    case Command::ReportToText:
+        return runReportToText(arguments, console);
+    case Command::Glg:
+        return runGlg(arguments, console);
     case Command::Prescribe:
         return runPrescribe(arguments, console);
     case Command::Orders:

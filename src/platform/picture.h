@@ -15,4 +15,7 @@ struct Picture {
     std::vector<std::uint32_t> pixels;
 };
 
+/// How a picture is kept in a file.
+enum class PictureForm { Bmp, Png };
+
 }  // namespace campora

@@ -1,0 +1,148 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/export_formats.h"
+
+#include <algorithm>
+#include <cstddef>
+
+#include "app/session.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "export/geojson_export.h"
+#include "export/kml_export.h"
+#include "export/shp_export.h"
+#include "export/txt_export.h"
+#include "model/exportable.h"
+
+namespace campora {
+
+namespace {
+
+/// The writers of sets of files add the endings themselves.
+std::string_view basePath(const ExportJob& job) {
+    constexpr std::size_t kEnding = 4;
+    return std::string_view(job.path).substr(0, job.path.size() - kEnding);
+}
+
+std::optional<Failure> writeShpPolygons(const ExportJob& job) {
+    return exportShpPolygons(job.layers, basePath(job), job.session.style(), job.progress);
+}
+
+std::optional<Failure> writeShpPoints(const ExportJob& job) {
+    return exportShpPoints(job.layers, basePath(job), job.progress);
+}
+
+std::optional<Failure> writeShpGis(const ExportJob& job) {
+    return exportShpGis(job.layers, basePath(job), job.session.style(),
+                        job.session.platform().clock.today(), job.progress);
+}
+
+std::optional<Failure> writeGeoJson(const ExportJob& job) {
+    return exportGeoJson(job.layers, job.path, job.session.style(), job.progress);
+}
+
+std::optional<Failure> writeKml(const ExportJob& job) {
+    return kmlExport(job.layers, job.path, job.session.programFolder(), job.session.style(),
+                     job.progress);
+}
+
+template <char kDecimalSymbol>
+std::optional<Failure> writeText(const ExportJob& job) {
+    TextTableForm form;
+    form.decimalSymbol = kDecimalSymbol;
+    return txtExport(job.layers, job.path, form, job.session.platform().locale, job.progress);
+}
+
+template <PictureForm kForm>
+std::optional<Failure> writePicture(const ExportJob& job) {
+    return job.savePicture(job.session.platform().canvas.picture(), job.path, kForm);
+}
+
+// clang-format off
+constexpr ExportFormat kFormats[] = {
+    {"shp-polygon", ".shp", TextId::FilterShapePolygons, ExportNeeds::Polygons,
+     AfterExport::Nothing, writeShpPolygons},
+    {"shp-point", ".shp", TextId::FilterShapePoints, ExportNeeds::Points,
+     AfterExport::Nothing, writeShpPoints},
+    {"bmp", ".bmp", TextId::FilterBitmap, ExportNeeds::Picture,
+     AfterExport::Nothing, writePicture<PictureForm::Bmp>},
+    {"kml", ".kml", TextId::FilterKml, ExportNeeds::Polygons,
+     AfterExport::AskToOpen, writeKml},
+    {"txt", ".txt", TextId::FilterText, ExportNeeds::Points,
+     AfterExport::Open, writeText<'.'>},
+    {"txt-comma", ".txt", TextId::FilterTextComma, ExportNeeds::Points,
+     AfterExport::Open, writeText<','>},
+    {"shp-gis", ".shp", TextId::FilterShapeGis, ExportNeeds::Nothing,
+     AfterExport::Nothing, writeShpGis},
+    {"geojson", ".geojson", TextId::FilterGeoJson, ExportNeeds::Nothing,
+     AfterExport::Nothing, writeGeoJson},
+    {"png", ".png", TextId::FilterPng, ExportNeeds::Picture,
+     AfterExport::Nothing, writePicture<PictureForm::Png>},
+};
+// clang-format on
+
+constexpr std::size_t kFirstText = 4;
+static_assert(kFormats[kFirstText].word == "txt" && kFormats[kFirstText + 1].word == "txt-comma");
+
+bool hasPolygons(const Gph* layer) {
+    const auto* const polygons = dynamic_cast<const ExportablePolygon*>(layer);
+    return polygons != nullptr && polygons->ExportablePolygon_polygonCount() > 0;
+}
+
+bool hasPoints(const Gph* layer) {
+    const auto* const points = dynamic_cast<const ExportablePoint*>(layer);
+    return points != nullptr && points->ExportablePoint_pointCount() > 0;
+}
+
+}  // namespace
+
+std::span<const ExportFormat> exportFormats() {
+    return kFormats;
+}
+
+const ExportFormat* exportFormatOf(std::string_view word) {
+    const auto* const found =
+        std::find_if(std::begin(kFormats), std::end(kFormats),
+                     [word](const ExportFormat& format) { return format.word == word; });
+    return found == std::end(kFormats) ? nullptr : found;
+}
+
+std::span<const ExportFormat> textFormats() {
+    return exportFormats().subspan(kFirstText, 2);
+}
+
+std::vector<FileFilter> exportFilters(std::span<const ExportFormat> formats, const Texts& texts) {
+    std::vector<FileFilter> filters;
+    for (const ExportFormat& format : formats) {
+        filters.push_back(
+            {std::string(texts(format.caption)), {std::string("*").append(format.ending)}});
+    }
+    return filters;
+}
+
+std::optional<Failure> whyNothingToExport(std::span<Gph* const> layers, ExportNeeds needs) {
+    if (needs == ExportNeeds::Polygons && std::none_of(layers.begin(), layers.end(), hasPolygons)) {
+        return Failure{TextId::NoPolygonsToExport, {}};
+    }
+    if (needs == ExportNeeds::Points && std::none_of(layers.begin(), layers.end(), hasPoints)) {
+        return Failure{TextId::NoPointsToExport, {}};
+    }
+    return std::nullopt;
+}
+
+std::string pathForFormat(std::string_view path, std::string_view ending) {
+    const std::string name = lowerCase(fileNamePart(path));
+    if (name.ends_with(ending)) {
+        return std::string(path);
+    }
+    for (const ExportFormat& format : kFormats) {
+        if (name.ends_with(format.ending) && name.size() > format.ending.size()) {
+            path.remove_suffix(format.ending.size());
+            break;
+        }
+    }
+    return std::string(path).append(ending);
+}
+
+}  // namespace campora

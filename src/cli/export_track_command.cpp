@@ -1,0 +1,28 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/track_batch.h"
+#include "cli/batch_platform.h"
+#include "cli/commands.h"
+
+namespace campora {
+
+int runExportTrack(const Arguments& arguments, const Console& console) {
+    NoCanvas canvas;
+    BatchSession batch(arguments, canvas, console.boxes);
+    TrackBatch tracks(batch.session());
+    tracks.options = arguments.trackExport;
+    tracks.onBegin = [](const std::string& /*line*/) {};
+    tracks.onDone = [&console](const std::string& line, const TrackExportOutcome& outcome) {
+        console.out << line << '\n';
+        if (!outcome.remark.empty()) {
+            console.boxes << oneLine(outcome.remark) << '\n';
+        }
+    };
+    const bool written = arguments.output.empty()
+                             ? tracks.exportList(arguments.files)
+                             : tracks.exportFiles(arguments.files.front(), arguments.output);
+    return written ? exit_status::kDone : exit_status::kRefused;
+}
+
+}  // namespace campora

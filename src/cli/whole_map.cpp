@@ -1,0 +1,36 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "cli/whole_map.h"
+
+#include "paint/raster_canvas.h"
+
+namespace campora {
+
+OffscreenApplication::OffscreenApplication() {
+    if (QCoreApplication::instance() == nullptr) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        application_.emplace(count_, names_);
+    }
+}
+
+CanvasSize canvasSize(PixelSize size) {
+    return {size.width * RasterCanvas::kUnitsPerPixel, size.height * RasterCanvas::kUnitsPerPixel};
+}
+
+void drawWholeMap(Session& session, const Arguments& arguments) {
+    MapStyle style = arguments.style;
+    style.scale = session.style().scale;
+    session.style() = style;
+    if (style.selectedChannel >= 0) {
+        session.modes().mnuColorScaleSelCH(style.selectedChannel);  // prescriptions turn to it too
+    } else {
+        session.refreshColorScale();
+    }
+    session.view().ZoomUno();
+    if (arguments.overlay) {
+        session.view().DrawMap();
+    }
+}
+
+}  // namespace campora
