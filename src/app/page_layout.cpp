@@ -17,7 +17,7 @@ namespace {
 // Millimetres on A4; larger and smaller paper has all of it larger and smaller.
 constexpr double kTitleEm = 5.0;
 constexpr double kHeadingEm = 3.0;
-constexpr double kTextEm = 2.9;
+constexpr double kTextEm = 2.7;
 constexpr double kSmallEm = 2.5;
 constexpr double kPadding = 2.5;
 constexpr double kGap = 4;
@@ -147,7 +147,7 @@ private:
         }
         if (setup_.description) {
             PageBlock block{
-                {{PageRow::Kind::Heading, std::string(texts_(TextId::SummaryDescription))}}};
+                {{PageRow::Kind::Heading, std::string(texts_(TextId::PageDescription))}}};
             for (std::string& line :
                  wrapped(content_.description, font(kTextEm), width, textWidth_)) {
                 block.rows.push_back({PageRow::Kind::Line, std::move(line)});
@@ -196,7 +196,7 @@ private:
         const double band = rowsHeight + scaleHeight() + (placed.lines > 0 ? mm(kPadding) : 0);
         setMap({body.x, body.y, body.width, body.height - band - mm(kPadding)});
         const double top = page_.map.bottom() + mm(kPadding);
-        placeScale({body.x, top, std::min(body.width, mm(kLongestBar * 1.6)), scaleHeight()});
+        placeScale({body.x, top, body.width, scaleHeight()});
         drawRows(placed, {body.x, body.bottom() - rowsHeight, body.width, rowsHeight}, columns);
     }
 
