@@ -73,7 +73,18 @@ void MapTools::setTool(Tool tool) {
     showPointer();
 }
 
+void MapTools::setVertexOwner(VertexOwner* owner) {
+    if (owner != vertices_) {
+        cancelDrag();
+        vertices_ = owner;
+        showPointer();
+    }
+}
+
 void MapTools::reset() {
+    if (drag_ == Drag::Vertex) {
+        cancelDrag();
+    }
     drag_ = Drag::None;  // there is nothing left to draw
     setTool(Tool::None);
     overlay_ = {};
@@ -95,6 +106,10 @@ void MapTools::press(Button button, CanvasPoint at) {
     button_ = button;
     pressed_ = at;
     pointer_ = at;
+    if (vertices_ != nullptr && vertices_->pickVertex(at)) {
+        drag_ = Drag::Vertex;
+        return;
+    }
     if (button == Button::Middle || tool_ == Tool::None) {
         moved_ = false;
         startPan(at);
@@ -141,12 +156,23 @@ void MapTools::move(CanvasPoint to) {
     case Drag::Ruler:
         stretchRuler(to);
         break;
+    case Drag::Vertex:
+        vertices_->moveVertex(to);
+        break;
     }
     showPosition();
 }
 
 void MapTools::release(Button button, CanvasPoint at) {
     if (files_.empty()) {
+        return;
+    }
+    if (drag_ == Drag::Vertex) {  // whatever the button
+        if (pointer_ != at) {
+            move(at);
+        }
+        drag_ = Drag::None;
+        vertices_->dropVertex(true);
         return;
     }
     if (button == Button::Right) {
@@ -161,6 +187,7 @@ void MapTools::release(Button button, CanvasPoint at) {
     }
     switch (std::exchange(drag_, Drag::None)) {
     case Drag::None:
+    case Drag::Vertex:
         break;
     case Drag::Pan:
         finishPan();
@@ -207,12 +234,12 @@ void MapTools::panTo(CanvasPoint to) {
     canvas_.paintSnapshot(offset);
     canvas_.refresh();
     placeMark();
+    tellOwner();
 }
 
 void MapTools::finishPan() {
     view_.setView(view_.scaleX(), view_.scaleY(), view_.scrollX(), view_.scrollY());
     showPointer();
-    viewChanged();
 }
 
 void MapTools::spanSelector(CanvasPoint to) {
@@ -228,7 +255,6 @@ void MapTools::finishZoom() {
     overlay_.selector.reset();
     showOverlay();
     view_.zoomToRectangle(box.topLeft, box.size);
-    viewChanged();
 }
 
 void MapTools::stretchRuler(CanvasPoint to) {
@@ -321,7 +347,21 @@ void MapTools::viewChanged() {
         startPan(*pointer_);  // from where the view is now
     }
     placeMark();
+    tellOwner();
     showPosition();
+}
+
+void MapTools::tellOwner() {
+    if (vertices_ != nullptr) {
+        vertices_->viewChanged();
+    }
+}
+
+void MapTools::showLot(std::optional<MapOverlay::Lot> lot) {
+    if (lot != overlay_.lot) {
+        overlay_.lot = std::move(lot);
+        showOverlay();
+    }
 }
 
 void MapTools::placeMark() {
@@ -349,6 +389,8 @@ void MapTools::cancelDrag() {
     const Drag drag = std::exchange(drag_, Drag::None);
     if (drag == Drag::Pan) {
         finishPan();
+    } else if (drag == Drag::Vertex) {
+        vertices_->dropVertex(false);
     }
     if (overlay_.selector || overlay_.ruler) {
         overlay_.selector.reset();
@@ -374,7 +416,9 @@ void MapTools::setToolText(std::string text) {
 }
 
 void MapTools::showPointer() {
-    canvas_.setPointer(drag_ == Drag::Pan ? PointerShape::Move : pointerOf(tool_));
+    const bool draws = vertices_ != nullptr && tool_ == Tool::None;
+    const PointerShape shape = draws ? PointerShape::Crosshair : pointerOf(tool_);
+    canvas_.setPointer(drag_ == Drag::Pan ? PointerShape::Move : shape);
 }
 
 }  // namespace campora

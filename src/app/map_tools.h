@@ -21,6 +21,20 @@
 
 namespace campora {
 
+/// Someone who has vertices on the map that the mouse moves.
+class VertexOwner {
+public:
+    virtual ~VertexOwner() = default;
+
+    /// A button was pressed here: picks the vertex that it was meant for. False when there is none.
+    virtual bool pickVertex(CanvasPoint at) = 0;
+    virtual void moveVertex(CanvasPoint to) = 0;
+    /// `keep`: false when the move is given up.
+    virtual void dropVertex(bool keep) = 0;
+    /// The map was drawn or moved to elsewhere.
+    virtual void viewChanged() = 0;
+};
+
 /// What the mouse does on the map. Positions are canvas units.
 class MapTools {
 public:
@@ -39,6 +53,10 @@ public:
     std::function<void(CanvasPoint)> onClick;
     /// A click with the dose tool, at this position; may be empty.
     std::function<void(LonLat)> onDose;
+
+    /// Whose vertices the mouse moves from now on, with every tool; null: nobody's. It outlives the
+    /// tools or is taken away before.
+    void setVertexOwner(VertexOwner* owner);
 
     [[nodiscard]] Tool tool() const { return tool_; }
     /// Takes up a tool in place of another. Tools other than None need an open file.
@@ -64,6 +82,10 @@ public:
     /// Marks a place on the canvas.
     void showVertex(float x, float y);
     void hideVertex();
+    /// Whether the mark is that of `goTo`.
+    [[nodiscard]] bool isPositionMarked() const { return mark_.has_value(); }
+    /// Lays a lot that is being drawn over the map, or takes it away.
+    void showLot(std::optional<MapOverlay::Lot> lot);
     /// Brings the position to the middle of the canvas, as far as the map reaches, and marks it
     /// until the next tool. False when it is not on the canvas even so.
     bool goTo(LonLat position);
@@ -76,7 +98,7 @@ public:
 
 private:
     /// What the pressed button does.
-    enum class Drag { None, Pan, Zoom, Ruler, Info, Dose };
+    enum class Drag { None, Pan, Zoom, Ruler, Info, Dose, Vertex };
     struct Hit {
         File* file;
         std::string text;
@@ -92,6 +114,7 @@ private:
     void finishInfo(CanvasPoint at);
     [[nodiscard]] std::optional<Hit> find(CanvasPoint at) const;
     void placeMark();
+    void tellOwner();
     void showPosition();
     void setToolText(std::string text);
     void showPointer();
@@ -105,6 +128,7 @@ private:
     const Texts& texts_;
     const UserLocale& locale_;
     ChooseFile chooseFile_;
+    VertexOwner* vertices_ = nullptr;
 
     Tool tool_ = Tool::None;
     CoordType coordType_ = CoordType::Degrees;

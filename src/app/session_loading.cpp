@@ -61,6 +61,34 @@ void Session::showOnTop(std::unique_ptr<File> file) {
     }
 }
 
+void Session::showBelow(std::unique_ptr<File> file) {
+    File* const made = file.get();
+    const MapView::Place place = view_.place();
+    const BoundingBox bound = view_.totalBound;
+    const bool isFirst = files_.empty();
+    if (!addFile(std::move(file), true, false)) {
+        return;
+    }
+    files_.setCurrentFile(made);
+    const bool hasGrown = isFirst || !bound.equals(view_.totalBound);
+    afterLoading(hasGrown);
+    if (!hasGrown) {
+        view_.goBackTo(place);
+    }
+}
+
+void Session::replaceFile(const File* old, std::unique_ptr<File> file) {
+    File* const shown = file.get();
+    files_.replaceFile(old, std::move(file));
+    selectFile(files_.indexOf(shown));
+    loadFileList(true);
+    if (recalcGphBound()) {
+        view_.ZoomUno();
+    } else {
+        redraw();
+    }
+}
+
 bool Session::recalcGphBound() {
     BoundingBox bound;
     for (const File* file : openFiles()) {

@@ -17,6 +17,12 @@ constexpr std::size_t kBoxesAnAxis = 3;
 /// In degrees.
 constexpr double kPole = 90;
 constexpr double kDateLine = 180;
+/// Parts of a degree, and of a minute or second, that are typed at the finest: hundredths of a
+/// millimetre.
+constexpr double kFinestDegree = 1e10;
+constexpr double kFinestMinute = 1e8;
+/// In degrees. Keeps a whole minute from coming out as 59.99999999 seconds of the one before.
+constexpr double kNudge = 5e-13;
 
 bool isDigit(char c) {
     return c >= '0' && c <= '9';
@@ -41,6 +47,11 @@ std::optional<double> wholeNumber(std::string_view text, char decimalSymbol) {
     return leadingNumber(text, decimalSymbol);
 }
 
+/// Without the digits that taking degrees apart leaves behind the last one that counts.
+std::string shortText(double value, double finest, char decimalSymbol) {
+    return numberText(roundHalfEven(value * finest) / finest, decimalSymbol);
+}
+
 }  // namespace
 
 CoordEntry::CoordEntry(const Texts& texts, const UserLocale& locale, CoordType form)
@@ -52,6 +63,29 @@ CoordEntry::CoordEntry(const Texts& texts, const UserLocale& locale, CoordType f
 void CoordEntry::setForm(CoordType form) {
     form_ = form;
     update();
+}
+
+void CoordEntry::setPoint(LonLat position) {
+    negativeLat_ = position.y < 0;
+    negativeLong_ = position.x < 0;
+    fill(0, std::fabs(position.y));
+    fill(kBoxesAnAxis, std::fabs(position.x));
+    update();
+}
+
+void CoordEntry::fill(std::size_t first, double degrees) {
+    std::array<double, kBoxesAnAxis> parts{degrees, 0, 0};
+    if (form_ == CoordType::DegreesMinutes) {
+        const DegreesMinutes split = toDegreesMinutes(degrees + kNudge);
+        parts = {split.degrees, split.minutes, 0};
+    } else if (form_ == CoordType::DegreesMinutesSeconds) {
+        const DegreesMinutesSeconds split = toDegreesMinutesSeconds(degrees + kNudge);
+        parts = {split.degrees, split.minutes, split.seconds};
+    }
+    for (std::size_t i = 0; i < kBoxesAnAxis; ++i) {
+        texts_[first + i] =
+            shortText(parts[i], i == 0 ? kFinestDegree : kFinestMinute, locale_.decimalSymbol());
+    }
 }
 
 void CoordEntry::setText(Box box, std::string_view text) {

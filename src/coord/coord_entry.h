@@ -30,11 +30,17 @@ public:
     [[nodiscard]] CoordType form() const { return form_; }
     /// Boxes that the form hides are set to 0.
     void setForm(CoordType form);
+    /// Fills boxes and signs with a position, in the present form.
+    void setPoint(LonLat position);
     /// "." and "," become the user's decimal symbol; otherwise the text is kept as it is.
     void setText(Box box, std::string_view text);
     [[nodiscard]] const std::string& text(Box box) const { return texts_[index(box)]; }
     /// The negative sign turns the typed value round.
     void setNegative(Axis axis, bool negative);
+
+    [[nodiscard]] bool isNegative(Axis axis) const {
+        return axis == Axis::Latitude ? negativeLat_ : negativeLong_;
+    }
 
     [[nodiscard]] bool isShown(Box box) const;
     /// Whether the box holds no number, or degrees that make the position lie outside of the globe.
@@ -47,6 +53,7 @@ public:
 private:
     [[nodiscard]] static std::size_t index(Box box) { return static_cast<std::size_t>(box); }
     void update();
+    void fill(std::size_t first, double degrees);
     /// The value of the three boxes from `first` on.
     [[nodiscard]] std::optional<double> value(std::size_t first, bool negative, double limit);
 

@@ -69,13 +69,16 @@ constexpr std::array<SignRow, 4> kSignRows{{
 }  // namespace
 
 CoordDialog::CoordDialog(QWidget* parent, Dialogs& dialogs, const Texts& texts,
-                         const UserLocale& locale, CoordType form)
+                         const UserLocale& locale, CoordType form, std::optional<LonLat> position)
     : QDialog(parent),
       dialogs_(dialogs),
       texts_(texts),
       entry_(texts, locale, form),
       lblShowLat_(new QLabel(this)),
       lblShowLong_(new QLabel(this)) {
+    if (position) {
+        entry_.setPoint(*position);
+    }
     setObjectName("frmCoord");
     setWindowTitle(word(TextId::CoordForms));
     auto* const grid = new QGridLayout;
@@ -164,7 +167,7 @@ QLayout* CoordDialog::makeSigns(Axis axis) {
         }
         auto* const button = new QRadioButton(word(sign.words), this);
         button->setObjectName(sign.name);
-        button->setChecked(!sign.negative);
+        button->setChecked(sign.negative == entry_.isNegative(axis));
         group->addButton(button);
         connect(button, &QRadioButton::toggled, this, [this, &sign](bool on) {
             if (on) {

@@ -23,9 +23,10 @@ class CoordDialog final : public QDialog {
     Q_OBJECT
 
 public:
-    /// `dialogs`, `texts` and `locale` outlive the dialog; `form` is the one it opens with.
+    /// `dialogs`, `texts` and `locale` outlive the dialog; `form` and `position` are what it opens
+    /// with.
     CoordDialog(QWidget* parent, Dialogs& dialogs, const Texts& texts, const UserLocale& locale,
-                CoordType form);
+                CoordType form, std::optional<LonLat> position = std::nullopt);
 
     /// Opens the dialog modally; none when the user cancels.
     [[nodiscard]] std::optional<LonLat> showInput();

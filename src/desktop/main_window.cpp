@@ -26,6 +26,7 @@
 #include "desktop/elided_label.h"
 #include "desktop/file_list.h"
 #include "desktop/legend_view.h"
+#include "desktop/lot_panel.h"
 #include "desktop/map_area.h"
 #include "desktop/map_widget.h"
 #include "desktop/pointer_override.h"
@@ -87,6 +88,7 @@ MainWindow::MainWindow(const Desktop& desktop, Language language, const std::str
         mapArea_->map().canvas(), *this,         desktop.dialogs, desktop.settings, desktop.locale,
         desktop.clipboard,        desktop.clock, desktop.classes, desktop.shell};
     session_ = std::make_unique<Session>(platform, language, programFolder);
+    makeLotPanel();
     connectMap();
     connectFileList();
     connectReplay();
@@ -106,7 +108,10 @@ void MainWindow::arrange() {
     auto* column = new QVBoxLayout(middle);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
-    column->addWidget(splitter_, 1);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(0);
+    row->addWidget(splitter_, 1);
+    column->addLayout(row, 1);
     column->addWidget(replayBar_);
     setCentralWidget(middle);
     resize(kFirstSize.boundedTo(screen()->availableSize()));
@@ -193,6 +198,7 @@ void MainWindow::retranslate() {
     mapArea_->retranslate(texts);
     sidePanel_->retranslate(texts);
     replayBar_->retranslate(texts);
+    lotPanel_->retranslate();
     tools_->setAccessibleName(toQt(texts(TextId::MainTools)));
     showScale();
     fillMenus();
@@ -258,6 +264,7 @@ void MainWindow::active(bool enabled, bool replayControls) {
     mapArea_->horizontalBar().setEnabled(enabled);
     mapArea_->verticalBar().setEnabled(enabled);
     sidePanel_->files().setEnabled(enabled || !filesOpen);
+    lotPanel_->setEnabled(enabled || !filesOpen);
     replayBar_->setActive(replayActive_);
     commandsChanged();
 }
@@ -270,9 +277,10 @@ Availability MainWindow::availability() const {
 }
 
 void MainWindow::commandsChanged() {
-    if (session_ == nullptr) {
+    if (session_ == nullptr || lotPanel_ == nullptr) {
         return;
     }
+    showLotPanel();
     actions_->showStates(session_->texts(), availability());
     replayBar_->setSpeedShown(session_->modes().isSpeedShown());
 }
@@ -307,8 +315,13 @@ void MainWindow::showEvent(QShowEvent* event) {
             Qt::UniqueConnection);
 }
 
+void MainWindow::resizeEvent(QResizeEvent* event) {
+    QMainWindow::resizeEvent(event);
+    arrangePanels();
+}
+
 void MainWindow::closeEvent(QCloseEvent* event) {
-    if (!session_->prescription().mayClose()) {
+    if (!session_->prescription().mayClose() || !session_->lotEditor().mayClose()) {
         event->ignore();
         return;
     }

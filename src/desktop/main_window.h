@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -20,6 +21,7 @@ class QToolBar;
 namespace campora {
 
 class ElidedLabel;
+class LotPanel;
 class MapArea;
 class ReplayBar;
 class SidePanel;
@@ -52,6 +54,7 @@ public:
     [[nodiscard]] MapArea& mapArea() const { return *mapArea_; }
     [[nodiscard]] SidePanel& sidePanel() const { return *sidePanel_; }
     [[nodiscard]] ReplayBar& replayBar() const { return *replayBar_; }
+    [[nodiscard]] LotPanel& lotPanel() const { return *lotPanel_; }
 
     /// Settings and tables are read now; what the command line asks for is done when the window
     /// stands on the screen. `programPath`: the running program.
@@ -84,6 +87,8 @@ public:
     void showAbout();
     void toggleSidePanel();
     [[nodiscard]] bool sidePanelShown() const;
+    /// A narrow window has no room for it while a lot is drawn.
+    [[nodiscard]] bool hasRoomForSidePanel() const;
     void toggleFullScreen();
     void mnuHelpLangEsp();
     void mnuHelpLangIng();
@@ -105,6 +110,7 @@ public:
 
 protected:
     void showEvent(QShowEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
@@ -112,10 +118,16 @@ protected:
 private:
     void arrange();
     void makeStatusBar();
+    void makeLotPanel();
     void connectMap();
     void connectFileList();
     void connectReplay();
     void connectMenus();
+    /// Shows or hides the panel beside the map as the editor of lots is open or not.
+    void showLotPanel();
+    void arrangePanels();
+    /// Does something that gives the map another size; what it shows stays in its middle.
+    void keepingPlace(const std::function<void()>& change);
     void fillMenus();
     void fillRecentMenu();
     void fillChannelMenu();
@@ -130,6 +142,9 @@ private:
     SidePanel* sidePanel_;
     QSplitter* splitter_;
     ReplayBar* replayBar_;
+    /// Made when there is a session.
+    LotPanel* lotPanel_ = nullptr;
+    bool sidePanelWanted_ = true;
     QLabel* position_;
     QLabel* toolText_;
     ElidedLabel* workStatus_;

@@ -148,7 +148,8 @@ void MainWindow::useTool(MapTools::Tool tool) {
 }
 
 void MainWindow::toggleSidePanel() {
-    sidePanel_->setVisible(sidePanel_->isHidden());
+    sidePanelWanted_ = sidePanel_->isHidden();
+    arrangePanels();
 }
 
 bool MainWindow::sidePanelShown() const {

@@ -29,6 +29,11 @@ constexpr int kFrame = 16;
 /// Half the side of the mark of a vertex, in pixels.
 constexpr double kMark = 4;
 
+/// Halves of the marks of a lot's vertices and of the middles of its sides, in pixels.
+constexpr double kVertex = 3;
+constexpr double kHandle = 3.5;
+constexpr QColor kLotEdge(0x3C, 0x4A, 0x50);
+
 /// In pixels.
 constexpr QRect kScaleBarPlate{2, 2, 84, 42};
 
@@ -196,9 +201,41 @@ void MapWidget::paintScaleBar(QPainter& painter) const {
                      toQt(controls_.scaleLabel));
 }
 
+void MapWidget::paintLot(QPainter& painter, const MapOverlay::Lot& lot) const {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor color(lot.color.red(), lot.color.green(), lot.color.blue());
+    QPolygonF ring;
+    for (const CanvasPoint& vertex : lot.vertices) {
+        ring << pixels(vertex);
+    }
+    // Dark below the colour: either shows on every background.
+    painter.setPen(QPen(kLotEdge, 4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setBrush(lot.filled ? QBrush(color) : QBrush(Qt::NoBrush));
+    painter.drawPolygon(ring, Qt::WindingFill);
+    painter.setPen(QPen(color, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawPolygon(ring);
+    painter.setPen(QPen(kLotEdge, 1));
+    painter.setBrush(QColor(255, 255, 255, 170));
+    for (const CanvasPoint& handle : lot.handles) {
+        painter.drawEllipse(pixels(handle), kHandle, kHandle);
+    }
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setBrush(Qt::white);
+    for (const QPointF& middle : ring) {
+        painter.drawRect(
+            QRectF(middle.x() - kVertex, middle.y() - kVertex, 2 * kVertex, 2 * kVertex));
+    }
+    painter.restore();
+}
+
 void MapWidget::paintToolOverlay(QPainter& painter) const {
     const QColor ink(ink_.red(), ink_.green(), ink_.blue());
     painter.setBrush(Qt::NoBrush);
+    if (overlay_.lot) {
+        paintLot(painter, *overlay_.lot);
+    }
     if (overlay_.selector) {
         const auto& [corner, size] = *overlay_.selector;
         painter.setPen(QPen(ink, 1, Qt::DashLine));

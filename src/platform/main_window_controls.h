@@ -115,6 +115,18 @@ struct MapOverlay {
 
         bool operator==(const Info&) const = default;
     };
+    /// The lot that is being drawn.
+    struct Lot {
+        std::vector<CanvasPoint> vertices;
+        /// In the middle of its sides, where a new vertex can be pulled out.
+        std::vector<CanvasPoint> handles;
+        Color color;
+        /// Filled with the colour; else only outlined.
+        bool filled = false;
+
+        bool operator==(const Lot&) const = default;
+    };
+    std::optional<Lot> lot;
     /// Rectangle of the zoom.
     std::optional<Box> selector;
     std::optional<Line> ruler;

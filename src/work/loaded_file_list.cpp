@@ -65,6 +65,17 @@ bool LoadedFileList::addFile(std::unique_ptr<File> file, bool atTop, Dialogs& di
     return true;
 }
 
+void LoadedFileList::replaceFile(const File* old, std::unique_ptr<File> file) {
+    const std::optional<int> index = indexOf(old);
+    if (!index) {
+        return;
+    }
+    if (current_ == old) {
+        current_ = file.get();
+    }
+    files_[static_cast<std::size_t>(*index)] = std::move(file);
+}
+
 void LoadedFileList::askAboutOlder(File& lessComplete, File& moreComplete, Dialogs& dialogs) {
     const std::string lessPath = lessComplete.File_diskPath();
     const std::string morePath = moreComplete.File_diskPath();
@@ -149,13 +160,14 @@ File* LoadedFileList::ownerOf(const Gph* gph) const {
     return owner == files_.end() ? nullptr : owner->get();
 }
 
-bool LoadedFileList::isLoaded(std::string_view path) const {
-    return std::any_of(files_.begin(), files_.end(), [path](const auto& file) {
+File* LoadedFileList::findFile(std::string_view path) const {
+    const auto found = std::find_if(files_.begin(), files_.end(), [path](const auto& file) {
         const std::string onDisk = file->File_diskPath();
         return equalIgnoringCase(file->File_path(), path) ||
                (equalIgnoringCase(fileNamePart(onDisk), fileNamePart(path)) &&
                 isSameFile(onDisk, path));
     });
+    return found == files_.end() ? nullptr : found->get();
 }
 
 LoadedFileList::Saved LoadedFileList::takeAll() {

@@ -36,6 +36,8 @@ public:
     /// when the new file was not added (it is gone then). The first file of an empty list becomes
     /// the current one; a file that takes another's place takes its being current too.
     bool addFile(std::unique_ptr<File> file, bool atTop, Dialogs& dialogs);
+    /// Another file in the place of one of the list.
+    void replaceFile(const File* old, std::unique_ptr<File> file);
     void removeFile(const File* file);
     void moveUp(const File* file);
     void moveDown(const File* file);
@@ -45,9 +47,10 @@ public:
 
     /// The first file that holds this layer, or null.
     [[nodiscard]] File* ownerOf(const Gph* gph) const;
-    /// Whether a listed file has this path, without regard to case, or is the same file on disk
-    /// under the same name.
-    [[nodiscard]] bool isLoaded(std::string_view path) const;
+    /// The listed file that has this path, without regard to case, or is the same file on disk
+    /// under the same name; or null.
+    [[nodiscard]] File* findFile(std::string_view path) const;
+    [[nodiscard]] bool isLoaded(std::string_view path) const { return findFile(path) != nullptr; }
 
     /// Hands all files out (for a preview) and takes them back.
     struct Saved {

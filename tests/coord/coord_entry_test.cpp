@@ -109,5 +109,41 @@ TEST(CoordEntry, ReadsBackWhatItUnderstood) {
     EXPECT_EQ(f.entry.readBack(Axis::Latitude), "Lat:");
 }
 
+TEST(CoordEntry, IsFilledWithAPositionInItsForm) {
+    struct Row {
+        const char* name;
+        CoordType form;
+        LonLat position;
+        std::vector<std::string> texts;
+    };
+    const Row rows[] = {
+        {"degrees",
+         CoordType::Degrees,
+         {-58.123456789, 34.25},
+         {"34,25", "0", "0", "58,123456789", "0", "0"}},
+        {"minutes", CoordType::DegreesMinutes, {-58.3, -0.5}, {"0", "30", "0", "58", "18", "0"}},
+        {"seconds",
+         CoordType::DegreesMinutesSeconds,
+         {0.3, -34.2601},
+         {"34", "15", "36,36", "0", "18", "0"}},
+        {"corner of the globe",
+         CoordType::DegreesMinutesSeconds,
+         {180, -90},
+         {"90", "0", "0", "180", "0", "0"}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        Fixture f(row.form, ',');
+        f.entry.setPoint(row.position);
+        for (std::size_t i = 0; i < CoordEntry::kBoxes; ++i) {
+            EXPECT_EQ(f.entry.text(static_cast<Box>(i)), row.texts[i]) << i;
+        }
+        const auto point = f.entry.getPoint();
+        ASSERT_TRUE(point);
+        EXPECT_NEAR(point->x, row.position.x, 1e-10);
+        EXPECT_NEAR(point->y, row.position.y, 1e-10);
+    }
+}
+
 }  // namespace
 }  // namespace campora

@@ -1,0 +1,238 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/lot_commands.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <iterator>
+#include <memory>
+#include <optional>
+#include <utility>
+
+#include "app/lot_editor.h"
+#include "app/save_target.h"
+#include "app/session.h"
+#include "base/numbers.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "lots/gph_lote.h"
+#include "lots/load_lot.h"
+#include "lots/merge_lots.h"
+#include "lots/save_lots.h"
+
+namespace campora {
+
+namespace {
+
+constexpr int kLotNumbers = 100;
+constexpr std::string_view kStem = "lote";
+constexpr std::string_view kEnding = ".lot";
+
+std::optional<int> numberInName(std::string_view path) {
+    const std::string name = lowerCase(fileNamePart(path));
+    int number = 0;
+    for (; number < kLotNumbers; ++number) {
+        if (name == lotFileName(number)) {
+            return number;
+        }
+    }
+    return std::nullopt;
+}
+
+bool isThere(const std::string& path) {
+    std::error_code ignored;
+    return std::filesystem::exists(nativePath(path), ignored);
+}
+
+std::string inFolder(const std::string& folder, const std::string& name) {
+    return pathText(nativePath(folder) / nativePath(name));
+}
+
+/// A result of merging that is on no disk yet.
+bool isUnsaved(const File& file) {
+    return file.File_diskPath().empty() && !lotsOf(file).empty();
+}
+
+}  // namespace
+
+std::vector<LotFile> lotsOf(const File& file) {
+    std::vector<LotFile> lots;
+    for (const Gph* layer : file.File_gphList()) {
+        const auto* const lot = dynamic_cast<const GphLote*>(layer);
+        if (lot == nullptr) {
+            return {};
+        }
+        lots.push_back({lot->vertices(), lot->description});
+    }
+    return lots;
+}
+
+bool isOneLot(const File& file) {
+    return lotsOf(file).size() == 1;
+}
+
+std::string lotFileName(int number) {
+    std::string digits = numberText(number);
+    digits.insert(0, digits.size() < 2 ? 1 : 0, '0');
+    return std::string(kStem).append(digits).append(kEnding);
+}
+
+std::string proposedLotNumber(const Session& session, std::string_view path) {
+    if (const std::optional<int> number = numberInName(path)) {
+        return numberText(*number);
+    }
+    const std::string folder = startFolder(session, SettingId::LotesPath);
+    for (int number = 1; number < kLotNumbers; ++number) {
+        if (!isThere(inFolder(folder, lotFileName(number)))) {
+            return numberText(number);
+        }
+    }
+    return {};
+}
+
+std::string askLotTarget(const Session& session, const std::string& name) {
+    const Texts& texts = session.texts();
+    const SaveRequest request{std::string(texts(TextId::ExportTitle)),
+                              startFolder(session, SettingId::LotesPath),
+                              name,
+                              {{std::string(texts(TextId::FilterLote)), {"*.lot"}}}};
+    std::string path = session.platform().dialogs.saveFile(request).path;
+    if (path.empty()) {
+        return {};
+    }
+    const std::string_view folder =
+        std::string_view(path).substr(0, path.size() - fileNamePart(path).size());
+    writeText(session.platform().settings, SettingId::LotesPath, folder);
+    if (pathEnding(path) != kEnding) {
+        path.append(kEnding);  // by its ending it is known again
+        if (!overwriteAgreed(session, path)) {
+            return {};
+        }
+    }
+    return path;
+}
+
+const File* putLotOnMap(Session& session, const std::string& path, const File* untitled) {
+    const Platform& platform = session.platform();
+    std::unique_ptr<File> lot = loadLot(path, {platform.dialogs, platform.locale, session.texts()});
+    const File* const shown = lot.get();
+    if (shown == nullptr) {
+        return nullptr;
+    }
+    const File* const old = untitled != nullptr ? untitled : session.files().findFile(path);
+    if (old != nullptr) {
+        session.replaceFile(old, std::move(lot));
+    } else {
+        session.showBelow(std::move(lot));
+    }
+    return shown;
+}
+
+void LotCommands::tell(const std::string& text) const {
+    session_.platform().dialogs.message(text, MessageIcon::Exclamation,
+                                        session_.texts()(TextId::LoteTitle));
+}
+
+void LotCommands::mnuLote() {
+    LotEditor& editor = session_.lotEditor();
+    if (editor.isOpen()) {
+        editor.close();
+    } else {
+        editor.open();
+    }
+}
+
+bool LotCommands::canEdit() const {
+    const File* const current = session_.files().currentFile();
+    return current != nullptr && isOneLot(*current);
+}
+
+void LotCommands::mnuLoteEdit() {
+    if (canEdit()) {
+        session_.lotEditor().edit(*session_.files().currentFile());
+    }
+}
+
+bool LotCommands::canSave() const {
+    const File* const current = session_.files().currentFile();
+    return current != nullptr && !lotsOf(*current).empty();
+}
+
+void LotCommands::mnuLoteSave() {
+    if (!canSave()) {
+        return;
+    }
+    const File& file = *session_.files().currentFile();
+    const bool unsaved = isUnsaved(file);
+    const std::vector<LotFile> lots = lotsOf(file);
+    std::string name = file.File_name();
+    if (pathEnding(name) != kEnding) {
+        name.append(kEnding);
+    }
+    const std::string target = askLotTarget(session_, name);
+    if (target.empty()) {
+        return;
+    }
+    const std::vector<std::string> paths = lotPaths(target, lots.size());
+    for (const std::string& path : paths) {
+        if (path != target && !overwriteAgreed(session_, path)) {
+            return;
+        }
+    }
+    const Result<std::vector<std::string>> saved = saveLots(lots, target);
+    if (!saved) {
+        tell(session_.texts().sentence(saved.failure()));
+        return;
+    }
+    if (unsaved) {
+        const File* untitled = &file;
+        for (const std::string& path : *saved) {
+            putLotOnMap(session_, path, untitled);
+            untitled = nullptr;
+        }
+    }
+    session_.platform().window.setToolText(
+        session_.texts().format(TextId::LoteSaved, {std::string(fileNamePart(paths.front()))}));
+}
+
+std::vector<LotFile> LotCommands::openLots() const {
+    std::vector<LotFile> all;
+    for (int i = 0; i < session_.files().loadedCount(); ++i) {
+        std::vector<LotFile> lots = lotsOf(session_.files().file(i));
+        std::move(lots.begin(), lots.end(), std::back_inserter(all));
+    }
+    return all;
+}
+
+bool LotCommands::canMerge() const {
+    return openLots().size() > 1;
+}
+
+void LotCommands::mnuLoteMerge() {
+    if (!canMerge()) {
+        return;
+    }
+    const Texts& texts = session_.texts();
+    const MergedLots merged = mergeLots(openLots());
+    if (merged.lots.empty()) {
+        tell(std::string(texts(TextId::MergeWithoutArea)));
+        return;
+    }
+    LoadedFileList& files = session_.files();
+    for (int i = files.loadedCount(); i-- > 0;) {
+        if (isUnsaved(files.file(i))) {
+            files.removeFile(&files.file(i));
+        }
+    }
+    session_.showOnTop(
+        makeLotGroup(merged.lots, "", texts(TextId::MergedName), session_.platform().locale));
+    if (merged.lots.size() > 1) {
+        tell(texts.format(TextId::MergeApart, {numberText(merged.lots.size())}));
+    }
+    if (merged.holes > 0) {
+        tell(texts.format(TextId::MergeHoles, {numberText(merged.holes)}));
+    }
+}
+
+}  // namespace campora

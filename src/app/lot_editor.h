@@ -1,0 +1,114 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "app/map_tools.h"
+#include "app/temporary_folder.h"
+#include "lots/lot_draft.h"
+
+namespace campora {
+
+class Session;
+
+/// Draws a lot on the map: a click appends a vertex, vertices are dragged, new ones pulled out of
+/// the middle of a side. While it is open the lot lies over whatever the map shows.
+class LotEditor final : private VertexOwner {
+public:
+    /// `session` outlives this.
+    explicit LotEditor(Session& session) : session_(session) {}
+    LotEditor(const LotEditor&) = delete;
+    LotEditor& operator=(const LotEditor&) = delete;
+    ~LotEditor() override = default;
+
+    /// Called when what the editor shows has changed; may be empty.
+    std::function<void()> onChanged;
+
+    [[nodiscard]] bool isOpen() const { return isOpen_; }
+    /// Opens with nothing drawn or, when a lot is the selected file and the user agrees, with that.
+    void open();
+    /// Opens with the lot of a file of the list, in place of what is drawn if the user agrees.
+    void edit(const File& file);
+    /// False when the user wants to keep what is not saved; the editor stays open then.
+    bool close();
+    /// Whether what is drawn may be lost: asks when it is not saved.
+    [[nodiscard]] bool mayClose() const;
+
+    [[nodiscard]] const LotDraft& draft() const { return draft_; }
+    /// The file that holds the lot; empty for a new one.
+    [[nodiscard]] const std::string& path() const { return path_; }
+
+    // Changes; those of the selected vertex do nothing without one.
+    void select(std::optional<std::size_t> index);
+    void add(LonLat position);
+    void moveSelected(LonLat position);
+    void insertAfterSelected();
+    void removeSelected();
+    /// Begins another lot; what is there can be brought back.
+    void clear();
+    void undo();
+    void redo();
+    /// At most ten lines count.
+    void setDescription(std::string text);
+
+    /// Whether the inside stays open, so that the work under it shows.
+    [[nodiscard]] bool isTransparent() const { return transparent_; }
+    void setTransparent(bool transparent);
+
+    /// Hectares and perimeter in words.
+    [[nodiscard]] std::string figures() const;
+    [[nodiscard]] bool crossesItself() const { return crosses_; }
+    /// Whether there are vertices enough for a lot.
+    [[nodiscard]] bool isWhole() const;
+
+    /// Asks for the lot's number and where to, and writes it; the lot is then on the map.
+    void save();
+    /// Writes the lot into the file that it came from.
+    void saveBack();
+    /// Hands the lot to the program that opens KML documents.
+    void viewInEarth();
+
+private:
+    bool pickVertex(CanvasPoint at) override;
+    void moveVertex(CanvasPoint to) override;
+    void dropVertex(bool keep) override;
+    void viewChanged() override;
+
+    void click(CanvasPoint at);
+    void start(const File* file);
+    /// Everything that follows the vertices.
+    void changed();
+    void showMark();
+    [[nodiscard]] LonLat positionAt(CanvasPoint at) const;
+    [[nodiscard]] std::optional<std::size_t> vertexAt(CanvasPoint at) const;
+    /// The vertex before the side whose handle is there.
+    [[nodiscard]] std::optional<std::size_t> handleAt(CanvasPoint at) const;
+    /// The middles of the sides that are long enough to have a handle; none for the others.
+    [[nodiscard]] std::vector<std::optional<CanvasPoint>> handles() const;
+    [[nodiscard]] bool refuseFewVertices() const;
+    /// The answer to the question for the lot's number; none when it is not good or not given.
+    [[nodiscard]] std::optional<int> askNumber() const;
+    void write(const std::string& path);
+    void tell(const Failure& failure) const;
+
+    Session& session_;
+    bool isOpen_ = false;
+    LotDraft draft_;
+    std::string path_;
+    /// What is edited, while it is in the list.
+    const File* edited_ = nullptr;
+    bool transparent_ = true;
+    bool crosses_ = false;
+    bool marked_ = false;
+    CanvasPoint pressed_;
+    /// From the pointer to the vertex that it picked.
+    CanvasPoint grip_;
+    std::optional<LonLat> picked_;
+    TemporaryFolder documents_;
+};
+
+}  // namespace campora

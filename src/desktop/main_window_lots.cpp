@@ -1,0 +1,70 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+// The panel that stands beside the map while a lot is drawn.
+
+#include <algorithm>
+
+#include <QLayout>
+
+#include "desktop/lot_panel.h"
+#include "desktop/main_window.h"
+#include "desktop/map_area.h"
+#include "desktop/map_widget.h"
+#include "desktop/side_panel.h"
+
+namespace campora {
+
+namespace {
+
+/// Width from which the window has room for both panels beside the map, in logical pixels.
+constexpr int kRoomForBoth = 900;
+
+}  // namespace
+
+void MainWindow::makeLotPanel() {
+    lotPanel_ = new LotPanel(*session_, mapArea_->map(), this);
+    lotPanel_->hide();
+    centralWidget()->layout()->itemAt(0)->layout()->addWidget(lotPanel_);
+}
+
+bool MainWindow::hasRoomForSidePanel() const {
+    return lotPanel_ == nullptr || lotPanel_->isHidden() || width() >= kRoomForBoth;
+}
+
+void MainWindow::arrangePanels() {
+    sidePanel_->setVisible(sidePanelWanted_ && hasRoomForSidePanel());
+}
+
+void MainWindow::showLotPanel() {
+    const bool open = session_->lotEditor().isOpen();
+    if (open != lotPanel_->isHidden()) {
+        if (open) {
+            lotPanel_->refresh();  // the form of coordinates may have changed
+        }
+        return;
+    }
+    keepingPlace([this, open] {
+        lotPanel_->setVisible(open);
+        arrangePanels();
+    });
+    mapArea_->map().setFocus();
+}
+
+void MainWindow::keepingPlace(const std::function<void()>& change) {
+    MapView& view = session_->view();
+    const CanvasSize size = mapArea_->map().canvas().size();
+    const LonLat middle = view.transform().screenToMap(static_cast<float>(size.width) / 2,
+                                                       static_cast<float>(size.height) / 2);
+    const float scale = view.scaleX();
+    const bool isWhole = scale >= view.maxScale();
+    change();
+    centralWidget()->layout()->activate();  // the map has its new size now and shows all
+    if (!isWhole && session_->plotCount() > 0) {
+        const float kept = std::min(scale, view.maxScale());
+        view.setView(kept, kept, view.scrollX(), view.scrollY());
+        view.centreOn(middle);
+    }
+}
+
+}  // namespace campora

@@ -1,0 +1,50 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "lots/merge_lots.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+#include "lots/merge_outlines.h"
+
+namespace campora {
+
+namespace {
+
+std::string mergedDescription(std::span<const LotFile> lots) {
+    std::vector<std::string> kept;
+    for (const LotFile& lot : lots) {
+        for (std::string& line : descriptionLines(lot.description)) {
+            const bool isNew = std::find(kept.begin(), kept.end(), line) == kept.end();
+            if (isNew && kept.size() < kLotDescriptionLines) {
+                kept.push_back(std::move(line));
+            }
+        }
+    }
+    std::string text;
+    for (const std::string& line : kept) {
+        text.append(line).append("\r\n");
+    }
+    return text;
+}
+
+}  // namespace
+
+MergedLots mergeLots(std::span<const LotFile> lots) {
+    std::vector<Ring> rings;
+    for (const LotFile& lot : lots) {
+        rings.push_back(lot.vertices);
+    }
+    MergedOutlines outlines = mergeOutlines(rings);
+    MergedLots merged;
+    merged.holes = outlines.holes;
+    const std::string description = mergedDescription(lots);
+    for (Ring& ring : outlines.rings) {
+        merged.lots.push_back({std::move(ring), description});
+    }
+    return merged;
+}
+
+}  // namespace campora
