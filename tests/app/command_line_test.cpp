@@ -9,12 +9,7 @@ namespace campora {
 namespace {
 
 TEST(CommandLine, TellsPathsFromSwitches) {
-    struct Row {
-        const char* name;
-        const char* line;
-        StartRequest request;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, const char*, StartRequest> rows[] = {
         {"nothing", "", {}},
         {"a path", " C:\\campo\\lote.rpt ", {{"C:\\campo\\lote.rpt"}}},
         {"switches",
@@ -27,8 +22,8 @@ TEST(CommandLine, TellsPathsFromSwitches) {
         {"several quoted paths", "\"a b.rpt\" \"c-d.rpt\"", {{"a b.rpt", "c-d.rpt"}}},
         {"a quote that never ends", "\"lote-3.rpt -anim", {{"lote-3.rpt -anim"}}},
     };
-    for (const Row& row : rows) {
-        EXPECT_EQ(parseCommandLine(row.line), row.request) << row.name;
+    for (const auto& [name, line, request] : rows) {
+        EXPECT_EQ(parseCommandLine(line), request) << name;
     }
 }
 

@@ -3,8 +3,6 @@
 
 #include "app/legend_commands.h"
 
-#include <algorithm>
-#include <cmath>
 #include <cstdint>
 #include <initializer_list>
 #include <optional>
@@ -64,7 +62,10 @@ TEST(LegendCommands, WorkOnTheScaleThatIsShown) {
     desk.commands.addClass();
     EXPECT_EQ(desk.bounds(), (Bounds{0, 20, 40, 60, 80, 100}));
     EXPECT_EQ(desk.window.legend.classes.size(), 5U);
-    EXPECT_FALSE(desk.canvas.calls().empty());
+    EXPECT_GT(desk.redraws(), 0U);
+    desk.canvas.forget();
+    desk.session.defaultScale().setClassColor(0, {0x123456});
+    EXPECT_EQ(desk.redraws(), 0U) << "not the scale in the legend";
     desk.session.selectFile(std::nullopt);
     desk.commands.removeClass();
     EXPECT_EQ(desk.session.defaultScale().count(), 5);
@@ -80,8 +81,7 @@ TEST(LegendCommands, TheNumberOfClassesStaysWithinItsLimits) {
         EXPECT_THAT(desk.dialogs.messages, SizeIs(refusals)) << typed;
         return desk.scale().count();
     };
-    EXPECT_EQ(classesAfter("1", 0), 1);
-    EXPECT_EQ(classesAfter(" 7 ", 0), 7);
+    EXPECT_EQ(classesAfter(" 1 ", 0), 1);
     EXPECT_EQ(classesAfter("64", 0), 64);
     EXPECT_EQ(classesAfter("", 0), 4);
     for (const char* typed : {"0", "65", "2,5", "-1", "muchas", "999999999"}) {
@@ -188,19 +188,8 @@ TEST(LegendCommands, RampColoursAreChosenOneByOne) {
     EXPECT_THAT(desk.dialogs.colors, SizeIs(7)) << "no such class";
 }
 
-/// Relative luminance of a colour, 0 to 1, by the definition of WCAG 2.
-double luminance(Color color) {
-    const auto linear = [](int component) {
-        const double c = component / 255.0;
-        return c <= 0.03928 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.red()) + 0.7152 * linear(color.green()) +
-           0.0722 * linear(color.blue());
-}
-
 TEST(LegendCommands, ReadyRampsColourTheClasses) {
     ASSERT_GE(readyRamps().size(), 4U);
-    int readableByLightness = 0;
     for (std::size_t i = 0; i < readyRamps().size(); ++i) {
         const ReadyRamp& ramp = readyRamps()[i];
         LegendDesk desk;
@@ -211,14 +200,7 @@ TEST(LegendCommands, ReadyRampsColourTheClasses) {
         EXPECT_EQ(shown.front().color, ramp.start);
         EXPECT_EQ(shown.back().color, ramp.end);
         EXPECT_EQ(desk.scale().colorMiddle, ramp.middle);
-        std::vector<double> light;
-        for (const LegendRow& row : shown) {
-            light.push_back(luminance(row.color));
-        }
-        const bool rises = std::is_sorted(light.begin(), light.end());
-        readableByLightness += rises || std::is_sorted(light.rbegin(), light.rend()) ? 1 : 0;
     }
-    EXPECT_GE(readableByLightness, 3) << "those that do not depend on telling hues apart";
     LegendDesk desk;
     desk.commands.useReadyRamp(static_cast<int>(readyRamps().size()));
     desk.commands.useReadyRamp(-1);
@@ -228,30 +210,27 @@ TEST(LegendCommands, ReadyRampsColourTheClasses) {
 }
 
 TEST(LegendCommands, AValueIsTypedWhereItMayChange) {
-    struct Row {
-        const char* typed;
-        double value;  ///< of the second class, 150 before
-        bool refused = false;
-    };
-    for (const Row& row :
-         {Row{"160,0", 160}, Row{"160.0", 160}, Row{"", 150}, Row{"mucho", 150, true}}) {
-        SCOPED_TRACE(row.typed);
+    // The value of the second class, 150 before, and the number of refusals.
+    const std::tuple<const char*, double, int> rows[] = {
+        {"160,0", 160, 0}, {"160.0", 160, 0}, {"", 150, 0}, {"mucho", 150, 1}};
+    for (const auto& [typed, value, refusals] : rows) {
+        SCOPED_TRACE(typed);
         LegendDesk desk;
         desk.makeSingleValues({100, 150, 200});
         desk.scale().valueChangeCaption = TextId::AskClassNumber;
-        desk.dialogs.inputAnswers = {row.typed};
+        desk.dialogs.inputAnswers = {typed};
         double told = 150;
         const auto told_ = desk.scale().onClassValueChanged(
-            [&told](int index, double, double value) { told = index == 1 ? value : 0; });
+            [&told](int index, double, double now) { told = index == 1 ? now : 0; });
         desk.commands.askClassValue(1);
         EXPECT_THAT(desk.dialogs.inputs,
                     ElementsAre(std::to_string(static_cast<int>(TextId::AskClassValue)) +
                                 "|Cantidad de clases (1 a 64)|150"));
-        EXPECT_EQ(desk.bounds()[1], row.value);
-        EXPECT_EQ(told, row.value);
-        EXPECT_EQ(desk.redraws(), row.value == 150 ? 0U : 1U);
-        EXPECT_EQ(desk.window.legend.classes[1].text, row.value == 150 ? "150" : "160");
-        EXPECT_THAT(desk.dialogs.messages, SizeIs(row.refused ? 1 : 0));
+        EXPECT_EQ(desk.bounds()[1], value);
+        EXPECT_EQ(told, value);
+        EXPECT_EQ(desk.redraws(), value == 150 ? 0U : 1U);
+        EXPECT_EQ(desk.window.legend.classes[1].text, value == 150 ? "150" : "160");
+        EXPECT_THAT(desk.dialogs.messages, SizeIs(refusals));
     }
 }
 
@@ -272,12 +251,10 @@ TEST(LegendCommands, TheLegendSaysWhatIsAllowed) {
     LegendDesk desk;
     EXPECT_TRUE(desk.window.legend.classesCanChange);
     EXPECT_FALSE(desk.window.legend.valuesCanChange);
-    desk.makeSingleValues({1});
     desk.scale().allowClassEdit = false;
-    desk.session.showLegend();
+    desk.makeSingleValues({1});
     EXPECT_FALSE(desk.window.legend.classesCanChange);
     EXPECT_TRUE(desk.window.legend.valuesCanChange);
-    EXPECT_EQ(desk.window.legend.valueChangeCaption, "Cambiar valor");
 }
 
 }  // namespace

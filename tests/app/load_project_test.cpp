@@ -54,8 +54,6 @@ TEST(ProjectFile, EveryLineIsACommentOrAPath) {
     EXPECT_THAT(*decodeProject(text, "C:\\Prog"),
                 ElementsAre("", "C:\\Prog\\\\ejemplos\\lote.shp", "C:\\Prog\\/log0012.nbr",
                             "C:\\datos\\Ñandú #2.rpt"));
-    EXPECT_THAT(*decodeProject(std::string(kHeader) + "\\a", "C:\\Prog\\"),
-                ElementsAre("C:\\Prog\\\\a"));
     EXPECT_THAT(*decodeProject(std::string(kHeader) + "\\a", "/opt/"), ElementsAre("/opt/\\a"));
 }
 
@@ -114,20 +112,6 @@ TEST(LoadProject, ProjectsInProjectsAreReadOnce) {
     EXPECT_TRUE(loadProject(desk.session, project));
     EXPECT_EQ(desk.listed(), (Names{"a.rpt", "b.rpt", "c.rpt"}));
     EXPECT_THAT(desk.dialogs.messages, IsEmpty());
-}
-
-TEST(LoadProject, TheUserCanStop) {
-    SessionDesk desk;
-    desk.session.start();
-    std::string lines = kHeader;
-    for (int i = 0; i < 5; ++i) {
-        const std::string name = "lote " + std::to_string(i) + ".rpt";
-        desk.report(name, 1000, static_cast<std::uint32_t>(0x6001 + i));
-        lines += "/" + name + "\r\n";
-    }
-    desk.dialogs.cancelAfter = 2;
-    EXPECT_TRUE(loadProject(desk.session, desk.folder.write("campo.fsp", lines)));
-    EXPECT_EQ(desk.listed(), (Names{"lote 0.rpt", "lote 1.rpt"}));
 }
 
 }  // namespace

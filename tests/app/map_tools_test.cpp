@@ -82,49 +82,49 @@ struct Desk {
                    files,  texts,  locale, [this](File* file) { chosen = file->File_name(); }};
 };
 
-TEST(MapTools, ShowsThePositionUnderThePointer) {
-    Desk d;
-    d.tools.move({500, 0});
-    EXPECT_EQ(d.window.position, "Long: 0.044915º   Lat: 0.044915º");
-    d.tools.setCoordType(CoordType::DegreesMinutes);
-    EXPECT_EQ(d.window.position, "Long: 0º  2.6949'   Lat: 0º  2.6949'");
-    d.tools.setCoordType(CoordType::Degrees);
-    d.view.setView(5, 5, 0, 2500);
-    EXPECT_EQ(d.window.position, "Long: 0.022457º   Lat: 0.044915º");
-    d.tools.leave();
-    EXPECT_EQ(d.window.position, "");
+struct MapToolsTest : testing::Test, Desk {};
+
+TEST_F(MapToolsTest, ShowsThePositionUnderThePointer) {
+    tools.move({500, 0});
+    EXPECT_EQ(window.position, "Long: 0.044915º   Lat: 0.044915º");
+    tools.setCoordType(CoordType::DegreesMinutes);
+    EXPECT_EQ(window.position, "Long: 0º  2.6949'   Lat: 0º  2.6949'");
+    tools.setCoordType(CoordType::Degrees);
+    view.setView(5, 5, 0, 2500);
+    EXPECT_EQ(window.position, "Long: 0.022457º   Lat: 0.044915º");
+    tools.leave();
+    EXPECT_EQ(window.position, "");
 }
 
-TEST(MapTools, PanningMovesTheSnapshotAndRedrawsAtTheEnd) {
-    Desk d;
-    d.view.setView(5, 5, 1000, 1000);
-    d.canvas.forget();
-    d.tools.press(Button::Left, {100, 100});
-    EXPECT_EQ(d.canvas.pointer(), PointerShape::Move);
-    d.tools.move({60, 150});
-    EXPECT_EQ(d.canvas.calls(),
+TEST_F(MapToolsTest, PanningMovesTheSnapshotAndRedrawsAtTheEnd) {
+    view.setView(5, 5, 1000, 1000);
+    canvas.forget();
+    tools.press(Button::Left, {100, 100});
+    EXPECT_EQ(canvas.pointer(), PointerShape::Move);
+    tools.move({60, 150});
+    EXPECT_EQ(canvas.calls(),
               (std::vector<std::string>{"snapshot", "paint snapshot: (-40,50)", "refresh"}));
-    EXPECT_EQ(d.window.view.horizontal.position, 1200);
-    d.tools.move({2000, 150});
-    EXPECT_EQ(d.view.scrollX(), 0);
-    d.tools.move({-2000, 150});
-    EXPECT_EQ(d.view.scrollX(), 5000);
-    d.tools.move({60, 2000});
-    EXPECT_EQ(d.view.scrollY(), 2500);
-    d.tools.release(Button::Middle, {60, 150});
-    EXPECT_EQ(d.redraws(), 0U);
-    d.tools.release(Button::Left, {60, 150});
-    EXPECT_EQ(d.redraws(), 1U);
-    EXPECT_EQ(d.view.scrollX(), 1200);
-    EXPECT_EQ(d.view.scrollY(), 1250);
-    EXPECT_EQ(d.canvas.pointer(), PointerShape::Arrow);
+    EXPECT_EQ(window.view.horizontal.position, 1200);
+    tools.move({2000, 150});
+    EXPECT_EQ(view.scrollX(), 0);
+    tools.move({-2000, 150});
+    EXPECT_EQ(view.scrollX(), 5000);
+    tools.move({60, 2000});
+    EXPECT_EQ(view.scrollY(), 2500);
+    tools.release(Button::Middle, {60, 150});
+    EXPECT_EQ(redraws(), 0U);
+    tools.release(Button::Left, {60, 150});
+    EXPECT_EQ(redraws(), 1U);
+    EXPECT_EQ(view.scrollX(), 1200);
+    EXPECT_EQ(view.scrollY(), 1250);
+    EXPECT_EQ(canvas.pointer(), PointerShape::Arrow);
 
-    d.tools.press(Button::Middle, {100, 100});
-    d.tools.move({110, 100});
-    d.view.setView(2, 2, 3000, 3000);  // a turn of the wheel meanwhile: goes on from there
-    d.tools.move({120, 100});
-    EXPECT_EQ(d.view.scrollX(), 2980);
-    EXPECT_EQ(d.canvas.callsOf("paint").back(), "paint snapshot: (10,0)");
+    tools.press(Button::Middle, {100, 100});
+    tools.move({110, 100});
+    view.setView(2, 2, 3000, 3000);  // a turn of the wheel meanwhile: goes on from there
+    tools.move({120, 100});
+    EXPECT_EQ(view.scrollX(), 2980);
+    EXPECT_EQ(canvas.callsOf("paint").back(), "paint snapshot: (10,0)");
 }
 
 TEST(MapTools, OnlyAClickIsAClick) {
@@ -177,7 +177,6 @@ TEST(MapTools, TheRectangleFillsTheCanvas) {
         Desk d;
         d.tools.setTool(Tool::ZoomSelect);
         d.tools.press(Button::Left, row.from);
-        EXPECT_EQ(d.window.overlay.selector, (MapOverlay::Box{row.from, {0, 0}}));
         d.tools.move(row.to);
         EXPECT_EQ(d.window.overlay.selector, row.selector);
         d.tools.release(Button::Left, row.to);
@@ -213,57 +212,50 @@ TEST(MapTools, TheRulerMeasuresAndStaysOnTheMap) {
 }
 
 TEST(MapTools, InformationIsOfTheFileOnTopAndStaysOnTheCanvas) {
-    struct Row {
-        const char* name;
-        CanvasPoint at;
-        const char* chosen;
-        CanvasPoint corner;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, CanvasPoint, const char*, CanvasPoint> rows[] = {
         {"where two overlap", {900, 50}, "lote1", {900, 50}},
         {"the lower one alone", {100, 50}, "lote2", {100, 50}},
         {"near the right edge", {2200, 50}, "lote1", {1980, 50}},
         {"in the lower right corner", {2200, 1490}, "lote1", {1980, 840}},
         {"nothing there", {2900, 50}, "", {}},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto& [name, at, chosen, corner] : rows) {
+        SCOPED_TRACE(name);
         Desk d;
         d.canvas.resize({3000, 1500});
         d.view.setView(3, 3, 0, 0);
         d.tools.setTool(Tool::Info);
-        d.drag(row.at, row.at);
-        EXPECT_EQ(d.chosen, row.chosen);
+        d.drag(at, at);
+        EXPECT_EQ(d.chosen, chosen);
         const std::optional<MapOverlay::Info> info = d.window.overlay.info;
         ASSERT_EQ(info.has_value(), !d.chosen.empty());
         if (info) {  // 7 characters and two lines, with 90 units around
             EXPECT_EQ(info->text, d.chosen + " 7\r\nx\r\n");
-            EXPECT_EQ(info->box, (MapOverlay::Box{row.corner, {1020, 660}}));
+            EXPECT_EQ(info->box, (MapOverlay::Box{corner, {1020, 660}}));
         }
         d.tools.toggleTool(Tool::Info);
         EXPECT_EQ(d.window.overlay.info, std::nullopt);
     }
 }
 
-TEST(MapTools, AToolReplacesTheOtherAndTheRightButtonGivesUpWhatWasBegun) {
-    Desk d;
-    d.tools.toggleTool(Tool::Ruler);
-    EXPECT_EQ(d.canvas.pointer(), PointerShape::Crosshair);
-    d.tools.toggleTool(Tool::Ruler);
-    EXPECT_EQ(d.tools.tool(), Tool::None);
-    d.tools.toggleTool(Tool::ZoomSelect);
-    EXPECT_EQ(d.canvas.pointer(), PointerShape::ZoomSelect);
-    EXPECT_EQ(d.window.commandChanges, 3);
-    d.tools.press(Button::Left, {100, 100});
-    d.tools.move({200, 200});
-    d.tools.press(Button::Right, {200, 200});
-    d.tools.release(Button::Right, {200, 200});
-    EXPECT_EQ(d.tools.tool(), Tool::None);
-    EXPECT_EQ(d.canvas.pointer(), PointerShape::Arrow);
-    EXPECT_EQ(d.window.overlay, MapOverlay{});
-    d.tools.release(Button::Left, {200, 200});
-    EXPECT_FLOAT_EQ(d.view.scaleX(), 10);
-    EXPECT_EQ(d.redraws(), 0U);
+TEST_F(MapToolsTest, AToolReplacesTheOtherAndTheRightButtonGivesUpWhatWasBegun) {
+    tools.toggleTool(Tool::Ruler);
+    EXPECT_EQ(canvas.pointer(), PointerShape::Crosshair);
+    tools.toggleTool(Tool::Ruler);
+    EXPECT_EQ(tools.tool(), Tool::None);
+    tools.toggleTool(Tool::ZoomSelect);
+    EXPECT_EQ(canvas.pointer(), PointerShape::ZoomSelect);
+    EXPECT_EQ(window.commandChanges, 3);
+    tools.press(Button::Left, {100, 100});
+    tools.move({200, 200});
+    tools.press(Button::Right, {200, 200});
+    tools.release(Button::Right, {200, 200});
+    EXPECT_EQ(tools.tool(), Tool::None);
+    EXPECT_EQ(canvas.pointer(), PointerShape::Arrow);
+    EXPECT_EQ(window.overlay, MapOverlay{});
+    tools.release(Button::Left, {200, 200});
+    EXPECT_FLOAT_EQ(view.scaleX(), 10);
+    EXPECT_EQ(redraws(), 0U);
 }
 
 TEST(MapTools, NothingHappensWithoutAFile) {
@@ -279,42 +271,40 @@ TEST(MapTools, NothingHappensWithoutAFile) {
     EXPECT_EQ(clipboard.picture.width, 0);
 }
 
-TEST(MapTools, GoesToAPositionAndMarksItUntilTheNextTool) {
-    Desk d;
-    d.view.setView(2, 2, 0, 0);
+TEST_F(MapToolsTest, GoesToAPositionAndMarksItUntilTheNextTool) {
+    view.setView(2, 2, 0, 0);
     const LonLat place{5500 / METERS_PER_DEGREE, 3000 / METERS_PER_DEGREE};
-    EXPECT_TRUE(d.tools.goTo(place));
-    EXPECT_FLOAT_EQ(d.view.scaleX(), 2);
-    EXPECT_EQ(d.window.overlay.vertex, (CanvasPoint{500, 250}));
-    d.view.setView(2, 2, d.view.scrollX() + 100, d.view.scrollY());
-    EXPECT_EQ(d.window.overlay.vertex, (CanvasPoint{450, 250}));
-    d.tools.press(Button::Left, {100, 100});
-    d.tools.move({130, 100});
-    EXPECT_EQ(d.window.overlay.vertex, (CanvasPoint{480, 250}));
-    d.tools.release(Button::Left, {130, 100});
-    d.view.setView(0.5, 0.5, 0, 0);
-    EXPECT_EQ(d.window.overlay.vertex, std::nullopt) << "out of sight";
-    d.view.setView(10, 10, 0, 0);
-    EXPECT_EQ(d.window.overlay.vertex, (CanvasPoint{550, 200}));
-    d.tools.escape();
-    EXPECT_EQ(d.window.overlay.vertex, std::nullopt);
-    EXPECT_FALSE(d.tools.goTo({-58, -34})) << "beyond the map";
-    EXPECT_EQ(d.view.scrollX(), 0);
-    EXPECT_EQ(d.window.overlay.vertex, std::nullopt);
-    d.tools.showVertex(120, 80);  // an editor's mark, which stays
-    d.tools.setTool(Tool::Ruler);
-    d.tools.viewChanged();
-    EXPECT_EQ(d.window.overlay.vertex, (CanvasPoint{120, 80}));
+    EXPECT_TRUE(tools.goTo(place));
+    EXPECT_FLOAT_EQ(view.scaleX(), 2);
+    EXPECT_EQ(window.overlay.vertex, (CanvasPoint{500, 250}));
+    view.setView(2, 2, view.scrollX() + 100, view.scrollY());
+    EXPECT_EQ(window.overlay.vertex, (CanvasPoint{450, 250}));
+    tools.press(Button::Left, {100, 100});
+    tools.move({130, 100});
+    EXPECT_EQ(window.overlay.vertex, (CanvasPoint{480, 250}));
+    tools.release(Button::Left, {130, 100});
+    view.setView(0.5, 0.5, 0, 0);
+    EXPECT_EQ(window.overlay.vertex, std::nullopt) << "out of sight";
+    view.setView(10, 10, 0, 0);
+    EXPECT_EQ(window.overlay.vertex, (CanvasPoint{550, 200}));
+    tools.escape();
+    EXPECT_EQ(window.overlay.vertex, std::nullopt);
+    EXPECT_FALSE(tools.goTo({-58, -34})) << "beyond the map";
+    EXPECT_EQ(view.scrollX(), 0);
+    EXPECT_EQ(window.overlay.vertex, std::nullopt);
+    tools.showVertex(120, 80);  // an editor's mark, which stays
+    tools.setTool(Tool::Ruler);
+    tools.viewChanged();
+    EXPECT_EQ(window.overlay.vertex, (CanvasPoint{120, 80}));
 }
 
-TEST(MapTools, ACopyHasTheScaleBarAndLeavesTheCanvasAsItWas) {
-    Desk d;
+TEST_F(MapToolsTest, ACopyHasTheScaleBarAndLeavesTheCanvasAsItWas) {
     MemoryClipboard clipboard;
-    d.view.updateScrollBars();
-    d.tools.copyImage(clipboard);
-    const std::vector<std::string>& calls = d.canvas.calls();
+    view.updateScrollBars();
+    tools.copyImage(clipboard);
+    const std::vector<std::string>& calls = canvas.calls();
     EXPECT_EQ(calls.front(), "snapshot");
-    EXPECT_EQ(d.canvas.callsOf("text").size(), 1U);
+    EXPECT_EQ(canvas.callsOf("text").size(), 1U);
     EXPECT_EQ(calls.at(calls.size() - 2), "paint snapshot: (0,0)");
     EXPECT_EQ(clipboard.picture.width, 1);
 }

@@ -116,31 +116,32 @@ struct Desk {
                   [this] { ++hidden; }};
 };
 
-TEST(Replay, PlaysEveryElementOnceAfterWhatDoesNotMove) {
-    Desk d;
-    EXPECT_EQ(d.window.replay, d.at(0));
-    std::vector<std::int32_t> positions;
-    d.clock.onEvents = [&](int) {
-        EXPECT_FALSE(d.window.mapActive);
-        EXPECT_FALSE(d.window.fileMenuActive);
-        EXPECT_TRUE(d.window.replay.playing);
-        positions.push_back(d.window.replay.position);
-    };
-    d.replay.play();
-    EXPECT_EQ(d.drawn(), "| p a0 a1 a2 b0 b1 b2 b3 b4 ");
-    EXPECT_EQ(positions, (std::vector<std::int32_t>{0, 1, 2, 2, 4, 5, 6, 7}));
-    EXPECT_EQ(d.window.replay, d.at(0));
-    EXPECT_EQ(d.replay.state(), State::Idle);
-    EXPECT_TRUE(d.window.mapActive);
-    EXPECT_TRUE(d.window.fileMenuActive);
-    EXPECT_EQ(d.hidden, 1);
+struct ReplayTest : testing::Test, Desk {};
 
-    d.layers.erase(d.layers.begin());
-    d.layers.pop_back();
-    d.replay.prepareReplay();
-    EXPECT_EQ(d.window.replay, ReplayState{}) << "nothing to replay";
-    d.replay.play();
-    EXPECT_EQ(d.drawn(), "");
+TEST_F(ReplayTest, PlaysEveryElementOnceAfterWhatDoesNotMove) {
+    EXPECT_EQ(window.replay, at(0));
+    std::vector<std::int32_t> positions;
+    clock.onEvents = [&](int) {
+        EXPECT_FALSE(window.mapActive);
+        EXPECT_FALSE(window.fileMenuActive);
+        EXPECT_TRUE(window.replay.playing);
+        positions.push_back(window.replay.position);
+    };
+    replay.play();
+    EXPECT_EQ(drawn(), "| p a0 a1 a2 b0 b1 b2 b3 b4 ");
+    EXPECT_EQ(positions, (std::vector<std::int32_t>{0, 1, 2, 2, 4, 5, 6, 7}));
+    EXPECT_EQ(window.replay, at(0));
+    EXPECT_EQ(replay.state(), State::Idle);
+    EXPECT_TRUE(window.mapActive);
+    EXPECT_TRUE(window.fileMenuActive);
+    EXPECT_EQ(hidden, 1);
+
+    layers.erase(layers.begin());
+    layers.pop_back();
+    replay.prepareReplay();
+    EXPECT_EQ(window.replay, ReplayState{}) << "nothing to replay";
+    replay.play();
+    EXPECT_EQ(drawn(), "");
 }
 
 TEST(Replay, SeeksAndPausesAndPlaysOn) {
@@ -175,110 +176,95 @@ TEST(Replay, SeeksAndPausesAndPlaysOn) {
 }
 
 TEST(Replay, WhatTheUserDoesMeanwhileActsOnTheReplayThatRuns) {
+    using Act = std::function<void(Replay&)>;
+    const Act play = [](Replay& r) { r.play(); };
+    const Act stop = [](Replay& r) { r.stop(); };
+    const Act redraw = [](Replay& r) { r.stopReplay(); };
+    const auto slider = [](std::int32_t to) { return [to](Replay& r) { r.seek(to); }; };
     struct Row {
         const char* name;
-        std::function<void(Replay&)> act;  // when "a1" is drawn
+        std::vector<Act> acts;  ///< when "a1" is drawn
         const char* drawn;
-        State state;
-        ReplayState shown;
+        std::int32_t pausedAt;  ///< 0: it is over
     };
-    const ReplayState start{true, false, 8, 0};
     const Row rows[] = {
-        {"pause", [](Replay& r) { r.play(); }, "| p a0 a1 ", State::Paused, {true, false, 8, 1}},
-        {"stop", [](Replay& r) { r.stop(); }, "| p a0 a1 | map ", State::Idle, start},
-        {"a redraw", [](Replay& r) { r.stopReplay(); }, "| p a0 a1 ", State::Idle, start},
-        {"the slider", [](Replay& r) { r.seek(6); }, "| p a0 a1 a2 b0 b1 b2 b3 b4 ", State::Idle,
-         start},
-        {"pause and play on",
-         [](Replay& r) {
-             r.play();
-             r.play();
-         },
-         "| p a0 a1 a2 b0 b1 b2 b3 b4 ", State::Idle, start},
-        {"stop and play",
-         [](Replay& r) {
-             r.stop();
-             r.play();
-         },
-         "| p a0 a1 | map | p a0 a1 a2 b0 b1 b2 b3 b4 ", State::Idle, start},
-        {"pause and slider",
-         [](Replay& r) {
-             r.play();
-             r.seek(4);
-         },
-         "| p a0 a1 | p a b0 b1 b2 ",
-         State::Paused,
-         {true, false, 8, 5}},
+        {"pause", {play}, "| p a0 a1 ", 1},
+        {"stop", {stop}, "| p a0 a1 | map ", 0},
+        {"a redraw", {redraw}, "| p a0 a1 ", 0},
+        {"the slider", {slider(6)}, "| p a0 a1 a2 b0 b1 b2 b3 b4 ", 0},
+        {"pause and play on", {play, play}, "| p a0 a1 a2 b0 b1 b2 b3 b4 ", 0},
+        {"stop and play", {stop, play}, "| p a0 a1 | map | p a0 a1 a2 b0 b1 b2 b3 b4 ", 0},
+        {"pause and slider", {play, slider(4)}, "| p a0 a1 | p a b0 b1 b2 ", 5},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
         Desk d;
-        d.after(2, [&] { row.act(d.replay); });
+        d.after(2, [&] {
+            for (const Act& act : row.acts) {
+                act(d.replay);
+            }
+        });
         d.replay.play();
         EXPECT_EQ(d.drawn(), row.drawn);
-        EXPECT_EQ(d.replay.state(), row.state);
-        EXPECT_EQ(d.window.replay, row.shown);
+        EXPECT_EQ(d.replay.state(), row.pausedAt > 0 ? State::Paused : State::Idle);
+        EXPECT_EQ(d.window.replay, d.at(row.pausedAt));
         EXPECT_TRUE(d.window.mapActive);
     }
 }
 
-TEST(Replay, ASeekGivesWayToANewerOneAndIsFinishedBeforePlaying) {
-    Desk d;
-    d.after(1, [&] {
-        d.replay.seek(1);
-        d.replay.seek(4);
+TEST_F(ReplayTest, ASeekGivesWayToANewerOneAndIsFinishedBeforePlaying) {
+    after(1, [&] {
+        replay.seek(1);
+        replay.seek(4);
     });
-    d.replay.seek(2);
-    EXPECT_EQ(d.drawn(), "| p a0 | p a b0 b1 b2 ");
-    EXPECT_EQ(d.window.replay, d.at(5));
+    replay.seek(2);
+    EXPECT_EQ(drawn(), "| p a0 | p a b0 b1 b2 ");
+    EXPECT_EQ(window.replay, at(5));
 
-    d.after(1, [&] { d.replay.play(); });
-    d.replay.seek(0);
-    EXPECT_EQ(d.drawn(), "| p a0 a1 a1 a2 b0 b1 b2 b3 b4 ");
+    after(1, [&] { replay.play(); });
+    replay.seek(0);
+    EXPECT_EQ(drawn(), "| p a0 a1 a1 a2 b0 b1 b2 b3 b4 ");
 
-    d.after(1, [&] {
-        d.replay.play();
-        d.replay.stop();
+    after(1, [&] {
+        replay.play();
+        replay.stop();
     });
-    d.replay.seek(5);
-    EXPECT_EQ(d.drawn(), "| p a b0 | map ");
-    EXPECT_EQ(d.window.replay, d.at(0));
+    replay.seek(5);
+    EXPECT_EQ(drawn(), "| p a b0 | map ");
+    EXPECT_EQ(window.replay, at(0));
 }
 
-TEST(Replay, RepeatsUntilStopped) {
-    Desk d;
-    d.replay.repeat = true;
-    d.after(20, [&] { d.replay.stop(); });
-    d.replay.play();
-    EXPECT_EQ(d.drawn(), "| p a0 a1 a2 b0 b1 b2 b3 b4 | p a0 a1 a2 b0 b1 b2 b3 b4 "
-                         "| p a0 a1 a2 b0 | map ");
-    d.replay.seek(8);
-    EXPECT_EQ(d.drawn(), "| p a b ");
+TEST_F(ReplayTest, RepeatsUntilStopped) {
+    replay.repeat = true;
+    after(20, [&] { replay.stop(); });
+    replay.play();
+    EXPECT_EQ(drawn(), "| p a0 a1 a2 b0 b1 b2 b3 b4 | p a0 a1 a2 b0 b1 b2 b3 b4 "
+                       "| p a0 a1 a2 b0 | map ");
+    replay.seek(8);
+    EXPECT_EQ(drawn(), "| p a b ");
 }
 
-TEST(Replay, WaitsBetweenElementsWhileEventsAct) {
-    Desk d;
-    d.clock.now = 0xFFFFFFF0U;  // begins again at 0 meanwhile
-    d.replay.setSpeed(12);
-    d.replay.play();
-    EXPECT_EQ(d.clock.now, 0xFFFFFFF0U + 6 * 48);  // not before the first of each track
-    EXPECT_EQ(d.clock.sleeps, std::vector<std::uint32_t>(6 * 8, 6));
+TEST_F(ReplayTest, WaitsBetweenElementsWhileEventsAct) {
+    clock.now = 0xFFFFFFF0U;  // begins again at 0 meanwhile
+    replay.setSpeed(12);
+    replay.play();
+    EXPECT_EQ(clock.now, 0xFFFFFFF0U + 6 * 48);  // not before the first of each track
+    EXPECT_EQ(clock.sleeps, std::vector<std::uint32_t>(6 * 8, 6));
 
-    d.replay.setSpeed(1000);
-    EXPECT_EQ(d.replay.speed(), 250);
-    d.clock.sleeps.clear();
-    d.after(3, [&] { d.replay.play(); });
-    d.replay.play();
-    EXPECT_EQ(d.clock.sleeps.size(), 1U) << "a pause ends the wait";
-    EXPECT_EQ(d.window.replay, d.at(1));
-    d.replay.stopReplay();
-    d.clock.sleeps.clear();
-    d.replay.waitMs(3);
-    EXPECT_EQ(d.clock.sleeps, std::vector<std::uint32_t>(3, 1));
+    replay.setSpeed(1000);
+    EXPECT_EQ(replay.speed(), 250);
+    clock.sleeps.clear();
+    after(3, [&] { replay.play(); });
+    replay.play();
+    EXPECT_EQ(clock.sleeps.size(), 1U) << "a pause ends the wait";
+    EXPECT_EQ(window.replay, at(1));
+    replay.stopReplay();
+    clock.sleeps.clear();
+    replay.waitMs(3);
+    EXPECT_EQ(clock.sleeps, std::vector<std::uint32_t>(3, 1));
 }
 
-TEST(Replay, ReadsOutTheSpeedOfTheElement) {
-    Desk d;
+TEST_F(ReplayTest, ReadsOutTheSpeedOfTheElement) {
     auto track = std::make_unique<GphTrack>();
     for (int i = 0; i < 4; ++i) {
         TrackDataRPT::Fields fields = reportFields(100);
@@ -286,22 +272,22 @@ TEST(Replay, ReadsOutTheSpeedOfTheElement) {
         const LonLat at = atMetres(0, 10.0 * i);
         track->addPoint(at.x, at.y, TrackDataRPT(fields));
     }
-    d.layers.clear();
-    d.layers.push_back(std::move(track));
-    d.view.totalBound = d.layers.front()->Gph_bound();
-    d.view.fitView();
-    d.view.ZoomUno();
-    d.replay.prepareReplay();
-    d.replay.setSpeedShown(true);
-    EXPECT_EQ(d.window.speed, "");
-    d.replay.seek(0);
-    EXPECT_EQ(d.window.speed, "11,5 km/h");
-    d.replay.setSpeedShown(false);
-    EXPECT_EQ(d.window.speed, "");
-    d.replay.setSpeedShown(true);
-    EXPECT_EQ(d.window.speed, "11,5 km/h");
-    d.replay.stop();
-    EXPECT_EQ(d.window.speed, "");
+    layers.clear();
+    layers.push_back(std::move(track));
+    view.totalBound = layers.front()->Gph_bound();
+    view.fitView();
+    view.ZoomUno();
+    replay.prepareReplay();
+    replay.setSpeedShown(true);
+    EXPECT_EQ(window.speed, "");
+    replay.seek(0);
+    EXPECT_EQ(window.speed, "11,5 km/h");
+    replay.setSpeedShown(false);
+    EXPECT_EQ(window.speed, "");
+    replay.setSpeedShown(true);
+    EXPECT_EQ(window.speed, "11,5 km/h");
+    replay.stop();
+    EXPECT_EQ(window.speed, "");
 }
 
 }  // namespace

@@ -56,6 +56,18 @@ TEST(Settings, WhatIsMissingHasTheDefaultOfItsKey) {
         {"RecentFiles", ""},
         {"WindowGeometry", ""},
         {"WindowSplitter", ""},
+        {"printPaper", ""},
+        {"printLandscape", "True"},
+        {"printMarginLeft", "10"},
+        {"printMarginTop", "10"},
+        {"printMarginRight", "10"},
+        {"printMarginBottom", "10"},
+        {"printLegend", "True"},
+        {"printSummary", "True"},
+        {"printsDescription", "True"},
+        {"printer", ""},
+        {"printResolution", "600"},
+        {"printPath", ""},
     };
     std::map<std::string_view, std::string> found;
     for (const SettingRow& row : settingRows()) {
@@ -65,32 +77,22 @@ TEST(Settings, WhatIsMissingHasTheDefaultOfItsKey) {
 }
 
 TEST(Settings, NonsenseInAnyKeyIsAsGoodAsNothing) {
-    struct Row {
-        const char* name;
-        std::string stored;
-        bool isText = true;
-    };
-    const Row rows[] = {
-        {"empty", ""},
-        {"blank", " "},
-        {"a word", "Verdadero"},
-        {"two numbers", "12 34"},
-        {"hexadecimal", "0x12"},
-        {"a fraction", "1.5"},
-        {"a sign", "-"},
-        {"beyond 32 bits", "99999999999"},
-        {"just beyond 32 bits", "2147483648"},
-        {"not UTF-8", "\xC3\x28", false},
-        {"a character 0", std::string("a\0b", 3), false},
-    };
+    const std::string texts[] = {"",    " ", "Verdadero",   "12 34",     "0x12",
+                                 "1.5", "-", "99999999999", "2147483648"};
+    const std::string noTexts[] = {"\xC3\x28", std::string("a\0b", 3)};
     for (const SettingRow& setting : settingRows()) {
-        for (const Row& row : rows) {
-            SCOPED_TRACE(std::string(setting.key) + ": " + row.name);
-            MemorySettings settings;
-            settings.values[std::string(setting.key)] = row.stored;
-            const bool isKept = setting.type == SettingType::Text && row.isText;
+        SCOPED_TRACE(setting.key);
+        const std::string byDefault = valueOf(MemorySettings(), setting);
+        MemorySettings settings;
+        std::string& stored = settings.values[std::string(setting.key)];
+        for (const std::string& text : texts) {
+            stored = text;
             EXPECT_EQ(valueOf(settings, setting),
-                      isKept ? row.stored : valueOf(MemorySettings(), setting));
+                      setting.type == SettingType::Text ? text : byDefault);
+        }
+        for (const std::string& bytes : noTexts) {
+            stored = bytes;
+            EXPECT_EQ(valueOf(settings, setting), byDefault);
         }
     }
 }
@@ -125,41 +127,9 @@ TEST(Settings, WrittenValuesAreReadAgain) {
     EXPECT_EQ(readNumber(settings, SettingId::CoordType), 0) << "no such form";
 }
 
-TEST(Settings, TheStyleTakesEachColourFromItsKey) {
-    struct Row {
-        const char* key;
-        Color MapColors::*color;
-    };
-    const Row rows[] = {
-        {"mapDrawcolor", &MapColors::draw},   {"mapNoDrawcolor", &MapColors::noDraw},
-        {"mapBackcolor", &MapColors::back},   {"mapForecolor", &MapColors::fore},
-        {"mapAlarmColor", &MapColors::alarm}, {"mapNoAlarmColor", &MapColors::noAlarm},
-        {"mapShapeColor", &MapColors::shape}, {"mapLoteColor", &MapColors::lote},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.key);
-        MemorySettings settings;
-        settings.values = {{row.key, "1193046"}, {"DrawDotted", "True"}};
-        MapStyle style;
-        style.colors.fore = {0x222222};
-        style.drawBorders = false;
-        readStyleSettings(settings, style);
-        MapColors expected;
-        expected.*row.color = {0x123456};
-        EXPECT_EQ(style.colors, expected);
-        EXPECT_TRUE(style.drawDotted);
-        EXPECT_TRUE(style.drawBorders);
-    }
-}
-
 TEST(Settings, LanguagesHaveCodes) {
-    struct Row {
-        const char* stored;
-        std::int32_t system;
-        std::optional<Language> chosen;
-        Language shown;
-    };
-    const Row rows[] = {
+    using Chosen = std::optional<Language>;
+    const std::tuple<const char*, std::int32_t, Chosen, Language> rows[] = {
         {"10", 22, Language::Spanish, Language::Spanish},
         {"22", 10, Language::Portuguese, Language::Portuguese},
         {"9", 10, Language::English, Language::English},
@@ -170,14 +140,14 @@ TEST(Settings, LanguagesHaveCodes) {
         {"", 0, std::nullopt, Language::English},
         {"1", 1, std::nullopt, Language::English},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.stored);
+    for (const auto& [stored, system, chosen, shown] : rows) {
+        SCOPED_TRACE(stored);
         MemorySettings settings;
-        settings.values["language"] = row.stored;
-        EXPECT_EQ(readLanguageSetting(settings), row.chosen);
-        EXPECT_EQ(languageOfCode(readNumber(settings, SettingId::Language), row.system), row.shown);
-        writeLanguageSetting(settings, row.shown);
-        EXPECT_EQ(readLanguageSetting(settings), row.shown);
+        settings.values["language"] = stored;
+        EXPECT_EQ(readLanguageSetting(settings), chosen);
+        EXPECT_EQ(languageOfCode(readNumber(settings, SettingId::Language), system), shown);
+        writeLanguageSetting(settings, shown);
+        EXPECT_EQ(readLanguageSetting(settings), shown);
     }
 }
 

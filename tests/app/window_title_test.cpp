@@ -9,12 +9,7 @@ namespace campora {
 namespace {
 
 TEST(WindowTitle, ShowsTheEndOfThePath) {
-    struct Row {
-        const char* name;
-        const char* path;
-        const char* shown;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, const char*, const char*> rows[] = {
         {"no folder", "trabajo.rpt", "trabajo.rpt"},
         {"short", R"(c:\datos\campo\lote 12\trabajo.rpt)",
          R"(...\datos\campo\lote 12\trabajo.rpt)"},
@@ -30,9 +25,8 @@ TEST(WindowTitle, ShowsTheEndOfThePath) {
         {"name longer than that", R"(c:\aa12345678901234567890123456789012345678901234567890)",
          "...12345678901234567890123456789012345678901234567890"},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_EQ(fileTitle(row.path), "Campora - [" + std::string(row.shown) + "]");
+    for (const auto& [name, path, shown] : rows) {
+        EXPECT_EQ(fileTitle(path), "Campora - [" + std::string(shown) + "]") << name;
     }
 }
 

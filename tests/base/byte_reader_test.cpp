@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-#include "base/failure.h"
+#include "support/failures.h"
 
 namespace campora {
 namespace {
@@ -53,25 +53,16 @@ TEST(ByteReader, MovesAndTakes) {
 
 /// Offset that the failure of `read` names.
 std::string cutAt(const std::function<void()>& read) {
-    try {
-        read();
-    } catch (const FormatError& error) {
-        EXPECT_EQ(error.failure().text, TextId::FileCutShort);
-        EXPECT_EQ(error.failure().arguments.size(), 1U);
-        return error.failure().arguments.front();
-    }
-    return "not thrown";
+    const std::optional<Failure> failure = failureOf([&read] { return read(), 0; });
+    return failure && failure->text == TextId::FileCutShort ? failure->arguments.at(0)
+                                                            : "not thrown";
 }
 
 TEST(ByteReader, ReadingPastTheEndIsRefusedAndMovesNothing) {
-    struct Row {
-        const char* name;
-        std::size_t offset;  // of five bytes
-        std::function<void(ByteReader&)> read;
-        const char* cutAt;
-    };
     constexpr std::size_t kHuge = std::numeric_limits<std::size_t>::max();
-    const Row rows[] = {
+    // From an offset within five bytes, and the place that is named.
+    using Read = std::function<void(ByteReader&)>;
+    const std::tuple<const char*, std::size_t, Read, const char*> rows[] = {
         {"u8", 5, [](ByteReader& r) { (void)r.u8(); }, "5"},
         {"u16le", 4, [](ByteReader& r) { (void)r.u16le(); }, "4"},
         {"i32be", 3, [](ByteReader& r) { (void)r.i32be(); }, "3"},
@@ -83,11 +74,11 @@ TEST(ByteReader, ReadingPastTheEndIsRefusedAndMovesNothing) {
         {"seek", 2, [](ByteReader& r) { r.seek(6); }, "5"},
     };
     const auto bytes = bytesOf({1, 2, 3, 4, 5});
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        ByteReader reader(bytes, row.offset);
-        EXPECT_EQ(cutAt([&] { row.read(reader); }), row.cutAt);
-        EXPECT_EQ(reader.offset(), row.offset);
+    for (const auto& [name, offset, read, place] : rows) {
+        SCOPED_TRACE(name);
+        ByteReader reader(bytes, offset);
+        EXPECT_EQ(cutAt(std::bind(read, std::ref(reader))), place);
+        EXPECT_EQ(reader.offset(), offset);
     }
     EXPECT_EQ(cutAt([&] { (void)ByteReader(bytes, 6); }), "5");
     EXPECT_EQ(cutAt([] { (void)ByteReader({}).u8(); }), "0");

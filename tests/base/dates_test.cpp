@@ -17,18 +17,11 @@ void PrintTo(const Date& date, std::ostream* out) {
 namespace {
 
 TEST(DayNumber, KnownDays) {
-    struct Row {
-        Date date;
-        std::int32_t day;
-    };
-    const Row rows[] = {{{1899, 12, 30}, 0},
-                        {{1899, 12, 29}, -1},
-                        {{1970, 1, 1}, 25569},
-                        {{9999, 12, 31}, 2958465},
-                        {{1, 1, 1}, -693593}};
-    for (const Row& row : rows) {
-        EXPECT_EQ(dayNumber(row.date), row.day);
-        EXPECT_EQ(dateOfDayNumber(row.day), row.date);
+    const std::pair<Date, std::int32_t> rows[] = {
+        {{1899, 12, 30}, 0}, {{9999, 12, 31}, 2958465}, {{1, 1, 1}, -693593}};
+    for (const auto& [date, day] : rows) {
+        EXPECT_EQ(dayNumber(date), day);
+        EXPECT_EQ(dateOfDayNumber(day), date);
     }
 }
 
@@ -61,33 +54,26 @@ TEST(DayNumber, LimitsHold) {
 }
 
 TEST(Dates, DaysAndMonthsThatDoNotExistRollOver) {
-    struct Row {
-        Date date;
-        Date rolled;
-    };
-    const Row rows[] = {{{2024, 3, 0}, {2024, 2, 29}},  {{2023, 2, 31}, {2023, 3, 3}},
-                        {{2023, 4, 31}, {2023, 5, 1}},  {{2024, 1, 0}, {2023, 12, 31}},
-                        {{1980, 0, 0}, {1979, 11, 30}}, {{2023, 15, 31}, {2024, 3, 31}},
-                        {{2024, -11, 1}, {2023, 1, 1}}, {{2024, -12, 1}, {2022, 12, 1}}};
-    for (const Row& row : rows) {
-        EXPECT_EQ(normalized(row.date), row.rolled) << testing::PrintToString(row.date);
+    const std::pair<Date, Date> rows[] = {
+        {{2024, 3, 0}, {2024, 2, 29}},  {{2023, 2, 31}, {2023, 3, 3}},
+        {{2023, 4, 31}, {2023, 5, 1}},  {{2024, 1, 0}, {2023, 12, 31}},
+        {{1980, 0, 0}, {1979, 11, 30}}, {{2023, 15, 31}, {2024, 3, 31}},
+        {{2024, -11, 1}, {2023, 1, 1}}, {{2024, -12, 1}, {2022, 12, 1}}};
+    for (const auto& [date, rolled] : rows) {
+        EXPECT_EQ(normalized(date), rolled) << testing::PrintToString(date);
     }
 }
 
 TEST(FatDateTime, FieldsOfTheWord) {
-    struct Row {
-        std::uint32_t word;
-        DateTime value;
-    };
-    const Row rows[] = {
+    const std::pair<std::uint32_t, DateTime> rows[] = {
         {0x00210000U, {{1980, 1, 1}, {0, 0, 0}}},
         // 44 << 9 | 5 << 5 | 17 above 13 << 11 | 45 << 5 | 29
         {0x58B16DBDU, {{2024, 5, 17}, {13, 45, 58}}},
         {0xFF9FBF7DU, {{2107, 12, 31}, {23, 59, 58}}},
     };
-    for (const Row& row : rows) {
-        EXPECT_EQ(decodeFatDateTime(row.word), row.value) << std::hex << row.word;
-        EXPECT_EQ(encodeFatDateTime(row.value), row.word) << std::hex << row.word;
+    for (const auto& [word, value] : rows) {
+        EXPECT_EQ(decodeFatDateTime(word), value) << std::hex << word;
+        EXPECT_EQ(encodeFatDateTime(value), word) << std::hex << word;
     }
     EXPECT_EQ(decodeFatDateTime(0), (DateTime{{1980, 0, 0}, {0, 0, 0}}));
     EXPECT_EQ(decodeFatDateTime(0xFFFFFFFFU), (DateTime{{2107, 15, 31}, {31, 63, 62}}));
@@ -95,12 +81,7 @@ TEST(FatDateTime, FieldsOfTheWord) {
 }
 
 TEST(Dates, TextOfADateInTheFormOfTheUser) {
-    struct Row {
-        Date date;
-        const char* form;
-        const char* text;
-    };
-    const Row rows[] = {
+    const std::tuple<Date, const char*, const char*> rows[] = {
         {{2024, 5, 7}, "dd/MM/yyyy", "07/05/2024"},
         {{2024, 5, 7}, "d/m/yy", "7/5/24"},
         {{2009, 12, 31}, "d.M.y", "31.12.9"},
@@ -110,8 +91,8 @@ TEST(Dates, TextOfADateInTheFormOfTheUser) {
         {{2024, 5, 7}, "// D", "// D"},
         {{2024, 5, 7}, "", ""},
     };
-    for (const Row& row : rows) {
-        EXPECT_EQ(dateText(row.date, row.form), row.text) << row.form;
+    for (const auto& [date, form, text] : rows) {
+        EXPECT_EQ(dateText(date, form), text) << form;
     }
     EXPECT_EQ(timeText({7, 5, 59}), "07:05:59");
 }

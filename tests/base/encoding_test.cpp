@@ -13,12 +13,7 @@ namespace campora {
 namespace {
 
 TEST(Utf8, OnlyWellFormedBytesAreValid) {
-    struct Row {
-        const char* name;
-        std::string_view bytes;
-        bool valid;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, std::string_view, bool> rows[] = {
         {"empty", "", true},
         {"nul", std::string_view("a\0b", 3), true},
         {"first and last of two bytes", "\xC2\x80\xDF\xBF", true},
@@ -39,14 +34,13 @@ TEST(Utf8, OnlyWellFormedBytesAreValid) {
         {"cut after three of four", "\xF0\x90\x80", false},
         {"Windows-1252 accents", "a\xF1o", false},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_EQ(isUtf8(row.bytes), row.valid);
+    for (const auto& [name, bytes, valid] : rows) {
+        SCOPED_TRACE(name);
         // The fast way over ASCII must neither skip nor stop at any place within its stride.
         for (std::size_t before = 0; before < 17; ++before) {
-            const std::string padded = std::string(before, 'x') + std::string(row.bytes);
-            EXPECT_EQ(isUtf8(padded + std::string(16, 'y')), row.valid) << before;
-            EXPECT_EQ(isUtf8(padded), row.valid) << before;
+            const std::string padded = std::string(before, 'x') + std::string(bytes);
+            EXPECT_EQ(isUtf8(padded + std::string(16, 'y')), valid) << before;
+            EXPECT_EQ(isUtf8(padded), valid) << before;
         }
     }
 }

@@ -9,9 +9,6 @@
 #include <utility>
 
 #ifndef _WIN32
-#include <csignal>
-
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #endif
@@ -19,21 +16,14 @@
 #include <gtest/gtest.h>
 
 #include "base/paths.h"
+#include "support/file_size_limit.h"
+#include "support/shape_bytes.h"
 #include "support/temp_folder.h"
 
 namespace campora {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::span<const std::byte> bytesOf(std::string_view text) {
-    return std::as_bytes(std::span(text.data(), text.size()));
-}
-
-std::string contentOf(const std::string& path) {
-    const auto file = readFile(path);
-    return file ? std::string(file->text()) : "unreadable";
-}
 
 std::size_t entriesOf(const TempFolder& folder) {
     const fs::directory_iterator entries(nativePath(folder.path()));
@@ -182,26 +172,6 @@ TEST(Files, WithoutPermissionNothingHappens) {
     EXPECT_EQ(contentOf(path), "old");
     EXPECT_EQ(entriesOf(folder), 1U);
 }
-
-/// While it lives, no file of this process grows beyond `most` bytes.
-class FileSizeLimit {
-public:
-    explicit FileSizeLimit(rlim_t most) : signal_(std::signal(SIGXFSZ, SIG_IGN)) {
-        ::getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit limit{most, before_.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    FileSizeLimit(const FileSizeLimit&) = delete;
-    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-    ~FileSizeLimit() {
-        ::setrlimit(RLIMIT_FSIZE, &before_);
-        std::signal(SIGXFSZ, signal_);
-    }
-
-private:
-    rlimit before_{};
-    void (*signal_)(int);
-};
 
 TEST(WriteFile, AWriteThatFailsHalfwayLeavesTheOldFile) {
     const TempFolder folder;

@@ -11,12 +11,7 @@ namespace campora {
 namespace {
 
 TEST(SharpNumberText, ShowsDigitsOnlyWhereTheNumberHasThem) {
-    struct Row {
-        const char* name;
-        double value;
-        const char* text;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, double, const char*> rows[] = {
         {"fraction", -58.3816, "-58.3816"},
         {"whole", -58, "-58."},
         {"zeros of a whole number stay", 100, "100."},
@@ -36,18 +31,13 @@ TEST(SharpNumberText, ShowsDigitsOnlyWhereTheNumberHasThem) {
         {"not a number", std::numeric_limits<double>::quiet_NaN(), "."},
         {"infinite", -std::numeric_limits<double>::infinity(), "."},
     };
-    for (const Row& row : rows) {
-        EXPECT_EQ(sharpNumberText(row.value), row.text) << row.name;
+    for (const auto& [name, value, text] : rows) {
+        EXPECT_EQ(sharpNumberText(value), text) << name;
     }
 }
 
 TEST(FixedNumberText, HasTheSameNumberOfDigitsAlways) {
-    struct Row {
-        const char* name;
-        std::string text;
-        const char* expected;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, std::string, const char*> rows[] = {
         {"filled up", fixedNumberText(12.5, 3), "12.500"},
         {"whole", fixedNumberText(-7.0, 2), "-7.00"},
         {"below one", fixedNumberText(0.05, 2), "0.05"},
@@ -61,8 +51,8 @@ TEST(FixedNumberText, HasTheSameNumberOfDigitsAlways) {
         {"large", fixedNumberText(1e21, 2), "1000000000000000000000.00"},
         {"no number", fixedNumberText(std::numeric_limits<float>::infinity(), 3), "0.000"},
     };
-    for (const Row& row : rows) {
-        EXPECT_EQ(row.text, row.expected) << row.name;
+    for (const auto& [name, text, expected] : rows) {
+        EXPECT_EQ(text, expected) << name;
     }
 }
 

@@ -3,6 +3,7 @@
 
 #include "base/paths.h"
 
+#include <array>
 #include <utility>
 
 #include <gtest/gtest.h>
@@ -15,12 +16,7 @@ namespace {
 constexpr bool kSlashSystem = std::filesystem::path::preferred_separator == '/';
 
 TEST(Paths, PartsOfAPath) {
-    struct Row {
-        std::string_view path;
-        std::string_view folder;
-        std::string_view name;
-    };
-    const Row rows[] = {
+    const std::array<std::string_view, 3> rows[] = {
         {"", "", ""},
         {"/a.rpt", "/", "a.rpt"},
         {"C:\\b\\a.rpt", "C:\\b\\", "a.rpt"},
@@ -29,10 +25,10 @@ TEST(Paths, PartsOfAPath) {
         {"b\\c/a.rpt", "b\\", "a.rpt"},
         {"b/c\\a.rpt", "b/c\\", "a.rpt"},
     };
-    for (const Row& row : rows) {
-        EXPECT_EQ(folderPart(row.path), row.folder) << row.path;
-        EXPECT_EQ(fileNamePart(row.path), row.name) << row.path;
-        EXPECT_EQ(folderOf(row.path) + std::string(row.name), row.path);
+    for (const auto& [path, folder, name] : rows) {
+        EXPECT_EQ(folderPart(path), folder) << path;
+        EXPECT_EQ(fileNamePart(path), name) << path;
+        EXPECT_EQ(folderOf(path) + std::string(name), path);
     }
 }
 
@@ -73,12 +69,7 @@ TEST(FindIgnoringCase, ExactNameFirstThenAnyCase) {
     folder.write("b.lot2", "");
     folder.write("Sub/Uno.TXT", "");
     std::filesystem::create_directory(nativePath(folder.file("Folder.rpt")));
-    struct Row {
-        const char* name;
-        const char* asked;
-        const char* found;
-    };
-    const Row rows[] = {
+    const std::array<const char*, 3> rows[] = {
         {"accents", "CAMI\u00d3N \u00f1and\u00fa.rpt", "Cami\u00f3n \u00d1and\u00fa.RPT"},
         {"exact name wins", "b.LOT", "b.LOT"},
         {"first in byte order", "b.Lot", "B.lot"},
@@ -92,9 +83,8 @@ TEST(FindIgnoringCase, ExactNameFirstThenAnyCase) {
     if (std::filesystem::exists(nativePath(folder.file("B.LOT")))) {
         GTEST_SKIP() << "names of this disk have no case";
     }
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_EQ(findIgnoringCase(folder.file(row.asked)), folder.file(row.found));
+    for (const auto& [name, asked, found] : rows) {
+        EXPECT_EQ(findIgnoringCase(folder.file(asked)), folder.file(found)) << name;
     }
     if (kSlashSystem) {
         EXPECT_EQ(findIgnoringCase(folder.path() + "\\Sub\\UNO.txt"),

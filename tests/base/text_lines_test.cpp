@@ -11,12 +11,7 @@ namespace {
 using Lines = std::vector<std::string_view>;
 
 TEST(TextLines, EndsOfLines) {
-    struct Row {
-        const char* name;
-        std::string_view text;
-        Lines lines;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, std::string_view, Lines> rows[] = {
         {"empty text", "", {}},
         {"CR LF", "a\r\nb\r\n", {"a", "b"}},
         {"mixed", "a\r\nb\nc", {"a", "b", "c"}},
@@ -26,9 +21,8 @@ TEST(TextLines, EndsOfLines) {
         {"CR at the very end stays", "a\nb\r", {"a", "b\r"}},
         {"NUL is no end", std::string_view("a\0b\nc", 5), {std::string_view("a\0b", 3), "c"}},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_EQ(readAllLines(row.text), row.lines);
+    for (const auto& [name, text, lines] : rows) {
+        EXPECT_EQ(readAllLines(text), lines) << name;
     }
 }
 

@@ -60,15 +60,11 @@ TEST(TextTable, NumbersAscendWithinTheirRanges) {
 }
 
 TEST(Texts, EveryRowIsFoundInEveryLanguage) {
-    Texts texts;
     for (const TextRow& row : textRows()) {
         SCOPED_TRACE(row.name);
-        texts.setLanguage(Language::Spanish);
-        EXPECT_EQ(texts(row.id), row.spanish);
-        texts.setLanguage(Language::Portuguese);
-        EXPECT_EQ(texts(row.id), row.portuguese);
-        texts.setLanguage(Language::English);
-        EXPECT_EQ(texts(row.id), row.english);
+        EXPECT_EQ(Texts(Language::Spanish)(row.id), row.spanish);
+        EXPECT_EQ(Texts(Language::Portuguese)(row.id), row.portuguese);
+        EXPECT_EQ(Texts(Language::English)(row.id), row.english);
     }
 }
 

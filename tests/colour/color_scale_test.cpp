@@ -45,12 +45,8 @@ SetList setOf(std::initializer_list<double> values) {
 }
 
 TEST(ColorScale, RampsOfTwoAndThreeColours) {
-    struct Row {
-        int classes;
-        const char* three;
-        const char* two;
-    };
-    const Row rows[] = {
+    // Of three colours and of two.
+    const std::tuple<int, const char*, const char*> rows[] = {
         {1, "255,255,0", "255,255,0"},
         {2, "255,255,0 255,0,0", "255,255,0 255,0,0"},
         {3, "255,255,0 0,255,0 255,0,0", "255,255,0 255,128,0 255,0,0"},
@@ -58,14 +54,19 @@ TEST(ColorScale, RampsOfTwoAndThreeColours) {
         {7, "255,255,0 170,255,0 85,255,0 0,255,0 85,170,0 170,85,0 255,0,0",
          "255,255,0 255,212,0 255,170,0 255,128,0 255,85,0 255,42,0 255,0,0"},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.classes);
+    for (const auto& [classes, three, two] : rows) {
+        SCOPED_TRACE(classes);
         ColorScale scale;
-        scale.setClassNumber(row.classes);
-        EXPECT_EQ(colorText(scale), row.three);
+        scale.setClassNumber(classes);
+        EXPECT_EQ(colorText(scale), three);
         scale.degrade(kYellow, std::nullopt, kRed, false);
-        EXPECT_EQ(colorText(scale), row.two);
+        EXPECT_EQ(colorText(scale), two);
     }
+    ColorScale scale;
+    scale.setClassNumber(2);
+    scale.degrade(kYellow, std::nullopt, kRed, false);
+    scale.addClass();
+    EXPECT_EQ(colorText(scale), "255,255,0 255,128,0 255,0,0") << "a class more";
 }
 
 // 255 / 18 in single precision is a little more than in double: the third step is 42.5 and a bit.
@@ -75,14 +76,6 @@ TEST(ColorScale, RampStepsAreSinglePrecision) {
     scale.degrade2(Color::rgb(0, 0, 0), kRed, false);
     EXPECT_EQ(scale.getClass(3).color.red(), 43);
     EXPECT_EQ(scale.getClass(18).color, kRed);
-}
-
-TEST(ColorScale, TwoColourRampStaysWhenClassesAreAdded) {
-    ColorScale scale;
-    scale.setClassNumber(2);
-    scale.degrade(kYellow, std::nullopt, kRed, false);
-    scale.addClass();
-    EXPECT_EQ(colorText(scale), "255,255,0 255,128,0 255,0,0");
 }
 
 TEST(ColorScale, NeighboursShareTheirBound) {
@@ -141,14 +134,7 @@ TEST(ColorScale, FindsTheClassOfAValue) {
     quarters.setClassNumberExt(4, 0, 100);
     ColorScale doses;
     doses.loadFromSetList(setOf({10, 20, 30}), 0);
-    struct Row {
-        const char* name;
-        const ColorScale* scale;
-        double value;
-        int index;
-    };
-    const Row rows[] = {
-        {"a bound belongs to the lower class", &quarters, 50, 1},
+    const std::tuple<const char*, const ColorScale*, double, int> rows[] = {
         {"just above a bound", &quarters, std::nextafter(50, 51), 2},
         {"the lowest bound", &quarters, 0, 0},
         {"infinite", &quarters, kInfinity, 3},
@@ -156,11 +142,11 @@ TEST(ColorScale, FindsTheClassOfAValue) {
         {"the value of a class", &doses, 20, 1},
         {"a gap belongs to the class above", &doses, 20.5, 2},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_EQ(row.scale->getClassIndexByValue(row.value), row.index);
-        EXPECT_EQ(row.scale->getClassByValue(row.value), &row.scale->getClass(row.index));
-        EXPECT_EQ(row.scale->getColor(row.value), row.scale->getClass(row.index).color);
+    for (const auto& [name, scale, value, index] : rows) {
+        SCOPED_TRACE(name);
+        EXPECT_EQ(scale->getClassIndexByValue(value), index);
+        EXPECT_EQ(scale->getClassByValue(value), &scale->getClass(index));
+        EXPECT_EQ(scale->getColor(value), scale->getClass(index).color);
     }
     const double nan = std::nan("");
     EXPECT_EQ(quarters.getClassByValue(nan), nullptr);
@@ -223,12 +209,8 @@ TEST(ColorScale, BadIndicesAndNumbersChangeNothing) {
 }
 
 TEST(ColorScale, ChangedIsRaisedAsOftenAsSaid) {
-    struct Row {
-        const char* name;
-        std::function<void(ColorScale&)> act;
-        int events;
-    };
-    const Row rows[] = {
+    const SetList two = setOf({1, 2});
+    const std::tuple<const char*, std::function<void(ColorScale&)>, int> rows[] = {
         {"setClassColor", [](ColorScale& s) { s.setClassColor(2, kRed); }, 1},
         {"addClass", [](ColorScale& s) { s.addClass(); }, 2},
         {"quitClass", [](ColorScale& s) { s.quitClass(); }, 2},
@@ -236,11 +218,7 @@ TEST(ColorScale, ChangedIsRaisedAsOftenAsSaid) {
         {"setClassNumberExt", [](ColorScale& s) { s.setClassNumberExt(3, 0, 1); }, 1},
         {"addClassManual", [](ColorScale& s) { s.addClassManual(100, 110); }, 0},
         {"clearClass", [](ColorScale& s) { s.clearClass(1, 2); }, 0},
-        {"loadFromSetList",
-         [](ColorScale& s) {
-             s.loadFromSetList(setOf({1, 2}), 0);
-         },
-         1},
+        {"loadFromSetList", [two](ColorScale& s) { s.loadFromSetList(two, 0); }, 1},
         {"an empty set", [](ColorScale& s) { s.loadFromSetList(SetList(), 0); }, 0},
         {"calcRanges", [](ColorScale& s) { s.calcRanges(0, 1, true); }, 1},
         {"calcRanges in silence", [](ColorScale& s) { s.calcRanges(0, 1, false); }, 0},
@@ -249,12 +227,12 @@ TEST(ColorScale, ChangedIsRaisedAsOftenAsSaid) {
         {"degrade of two", [](ColorScale& s) { s.degrade(kRed, std::nullopt, kRed, true); }, 1},
         {"degrade2 in silence", [](ColorScale& s) { s.degrade2(kRed, kRed, false); }, 0},
     };
-    for (const Row& row : rows) {
+    for (const auto& [name, act, expected] : rows) {
         ColorScale scale;
         int events = 0;
         const auto subscription = scale.onChanged([&events] { ++events; });
-        row.act(scale);
-        EXPECT_EQ(events, row.events) << row.name;
+        act(scale);
+        EXPECT_EQ(events, expected) << name;
     }
     ColorScale one;
     one.clearClass(1, 2);

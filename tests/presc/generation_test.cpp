@@ -172,13 +172,7 @@ TEST(Generation, AGridTooLargeForConsolesIsAskedAbout) {
         {"leave it", {Answer::Cancel}, {}, false, 0, "menor a 4\n", nullptr},
         {"as proposed", {Answer::Yes, Answer::Yes}, {"4", "5"}, true, 404, "menor a 5\n", "5"},
         {"wider", {Answer::Yes}, {"10"}, true, 204, "menor a 4\n", "4"},
-        {"no answer, then keep it",
-         {Answer::Yes, Answer::No},
-         {""},
-         true,
-         1004,
-         "menor a 4\n",
-         "4"},
+        {"no answer, kept", {Answer::Yes, Answer::No}, {""}, true, 1004, "menor a 4\n", "4"},
         {"no number", {Answer::Yes}, {"ancho"}, false, 0, "menor a 4\n", "4"},
         {"nothing wide", {Answer::Yes}, {"0"}, false, 0, "menor a 4\n", "4"},
     };
@@ -221,8 +215,7 @@ TEST(Generation, WhatNoFileCanHoldIsRefusedBeforeAnythingIsWritten) {
     ZoneLayer pole;
     pole.add(1, {rectangleRing(10, 89, 11, 90)});
     const Row rows[] = {
-        {"above 16 bits", oneZone(32767.5F), 20, false,
-         "la dosis 32767.5 de la zona 1 del canal 1"},
+        {"above 16 bits", oneZone(32767.5F), 20, false, "dosis 32767.5 de la zona 1 del canal 1"},
         {"below 16 bits", oneZone(-32769), 20, false, "debe ser de -32768 a 32767"},
         {"in a zone that no cell meets", far, 20, false, "la dosis 32768 de la zona 2"},
         {"endless", oneZone(huge), 20, false, "la dosis 3402823"},

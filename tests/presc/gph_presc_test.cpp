@@ -3,15 +3,11 @@
 
 #include "presc/gph_presc.h"
 
-#include <fstream>
-
 #include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
 
 #include "base/files.h"
 #include "support/recording_canvas.h"
 #include "support/scripted_platform.h"
-#include "support/shared_samples.h"
 #include "support/zone_map.h"
 
 namespace campora {
@@ -160,16 +156,6 @@ TEST_F(PrescTest, DrawsItsZonesInOrder) {
     EXPECT_TRUE(calls[1].starts_with("polypolygon fill=0x0000FF")) << calls[1];
 }
 
-TEST_F(PrescTest, ReportsProgressFromZeroToHundred) {
-    std::vector<int> reports;
-    presc.progress = [&reports](int percent) { reports.push_back(percent); };
-    ASSERT_TRUE(load(rowOfZones({"1", "2", "3", "4", "5", "6", "7", "8"})));
-    EXPECT_EQ(reports, (std::vector<int>{0, 12, 25, 38, 50, 62, 75, 88, 100, 100}));
-    reports.clear();
-    presc.setColumnaDosis(1);
-    EXPECT_EQ(reports, (std::vector<int>{0, 0, 12, 25, 38, 50, 62, 75, 88, 100}));
-}
-
 TEST_F(PrescTest, SaysWhatIsWrongWithAFile) {
     EXPECT_FALSE(presc.loadFromFile(folder.file("falta.shp"), dialogs, texts));
     EXPECT_TRUE(dialogs.messages.empty());
@@ -209,39 +195,6 @@ TEST_F(PrescTest, HoldsADamagedFileAsFarAsItIsSound) {
                                                 "Shape: se leyeron solo 2 registros de " +
                                                 path))
         << dialogs.messages[0];
-}
-
-TEST(PrescSamples, AgreeWithWhatAnotherReaderSays) {
-    const std::optional<std::string> folder = sharedSample("samples/presc");
-    if (!folder) {
-        GTEST_SKIP();
-    }
-    const nlohmann::json expected =
-        nlohmann::json::parse(std::ifstream(*folder + "/expected.json"));
-    for (const auto& [name, answer] : expected["info"].items()) {
-        SCOPED_TRACE(name);
-        ScriptedDialogs dialogs;
-        GphPresc presc;
-        ASSERT_TRUE(presc.loadFromFile(*folder + "/" + name, dialogs, Texts()));
-        const nlohmann::json& layer = answer["files"][0]["layers"][0];
-        const BoundingBox& box = presc.Gph_bound();
-        EXPECT_EQ(presc.Gph_count(), layer["polygons"]);
-        EXPECT_EQ(layer["bound"], (nlohmann::json{{"minX", box.minX},
-                                                  {"minY", box.minY},
-                                                  {"maxX", box.maxX},
-                                                  {"maxY", box.maxY},
-                                                  {"widthM", box.widthM},
-                                                  {"heightM", box.heightM}}));
-        ASSERT_EQ(presc.columnCount(), layer["columns"].size());
-        for (int column = 1; column <= presc.columnCount(); ++column) {
-            const nlohmann::json& told = layer["columns"][static_cast<std::size_t>(column) - 1];
-            EXPECT_EQ(presc.columnNames()[static_cast<std::size_t>(column) - 1], told["name"]);
-            EXPECT_EQ(presc.columnaNumeric(column), told["numeric"]) << told["name"];
-            if (presc.columnaNumeric(column)) {
-                EXPECT_EQ(nlohmann::json(presc.dosisCollection(column)), told["values"]);
-            }
-        }
-    }
 }
 
 }  // namespace

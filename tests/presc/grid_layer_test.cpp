@@ -128,13 +128,8 @@ TEST(GridLayer, ThePointerFindsTheFirstCellThatHoldsIt) {
     const GphPRE south = pre(2, 2, {1, 2, 3, 4});
     const GphVRT north = vrt({1, 2, 3, 4});
     const double step = 20.0 / 91742;
-    struct Row {
-        const char* name;
-        double east;  ///< in cells, from the stored corner of cell 0
-        double rows;  ///< away from it, in the direction of the rows
-        int cell;
-    };
-    const Row rows[] = {
+    // In cells, from the stored corner of cell 0 to the east and in the direction of the rows.
+    const std::tuple<const char*, double, double, int> rows[] = {
         {"inside the first", 0.5, 0.5, 0},
         {"its corner", 0, 0, 0},
         {"shared corner", 0.9999, 1, 0},
@@ -147,11 +142,11 @@ TEST(GridLayer, ThePointerFindsTheFirstCellThatHoldsIt) {
         {"after the rows", 0.5, 2.001, -1},
         {"nowhere", NAN, 0.5, -1},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        const double x = -58.25 + row.east * step;
-        EXPECT_EQ(south.Gph_mouseOver({}, {}, {x, -34.5 - row.rows * kHeight}, 0), row.cell);
-        EXPECT_EQ(north.Gph_mouseOver({}, {}, {x, -34.5 + row.rows * kHeight}, 0), row.cell);
+    for (const auto& [name, east, along, cell] : rows) {
+        SCOPED_TRACE(name);
+        const double x = -58.25 + east * step;
+        EXPECT_EQ(south.Gph_mouseOver({}, {}, {x, -34.5 - along * kHeight}, 0), cell);
+        EXPECT_EQ(north.Gph_mouseOver({}, {}, {x, -34.5 + along * kHeight}, 0), cell);
     }
 }
 
@@ -221,41 +216,33 @@ TEST(LoadGrid, TheFirstBytesDecideAndWhatIsWrongIsSaid) {
     const TempFolder folder;
     const std::string preBytes = encodePre(preFile(1, 1, 1, {5}).header, Doses{5});
     const std::string vrtBytes = encodeVrt({-58.25F, -34.5F, 20, 1, 1, 1, "", ""}, Doses{5});
-    struct Row {
-        const char* name;
-        std::string bytes;
-        const char* kind;  ///< null: refused
-        const char* says;
+    folder.write("a.pre", preBytes);
+    folder.write("b.dat", vrtBytes);
+    folder.write("c.vrt", preBytes);
+    folder.write("e.pre", "nothing of the kind");
+    folder.write("f.pre", "");
+    folder.write("g.pre", preBytes.substr(0, 97));
+    folder.write("h.vrt", vrtBytes.substr(0, 60));
+    // The kind of the layer, or else what is said.
+    const std::tuple<const char*, std::string_view, const char*> rows[] = {
+        {"a.pre", "GphPRE", ""},
+        {"b.dat", "GphVRT", ""},
+        {"c.vrt", "GphPRE", ""},
+        {"e.pre", "", "El archivo no es compatible: "},
+        {"f.pre", "", "El archivo no es compatible: "},
+        {"g.pre", "", "g.pre: está cortado en el byte 97"},
+        {"h.vrt", "", "h.vrt: está cortado en el byte"},
+        {"none.pre", "", "none.pre: no existe"},
     };
-    const Row rows[] = {
-        {"a.pre", preBytes, "GphPRE", ""},
-        {"b.vrt", vrtBytes, "GphVRT", ""},
-        {"c.dat", vrtBytes, "GphVRT", ""},
-        {"d.vrt", preBytes, "GphPRE", ""},
-        {"e.pre", "nothing of the kind", nullptr, "El archivo no es compatible: "},
-        {"f.pre", "", nullptr, "El archivo no es compatible: "},
-        {"g.pre", preBytes.substr(0, 97), nullptr, "está cortado en el byte 97"},
-        {"h.vrt", vrtBytes.substr(0, 60), nullptr, "está cortado en el byte"},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto& [name, kind, says] : rows) {
+        SCOPED_TRACE(name);
         ScriptedDialogs dialogs;
-        const auto layer = loadGrid(folder.write(row.name, row.bytes),
-                                    {dialogs, FixedLocale(), Texts(), MapColors()});
-        ASSERT_EQ(layer != nullptr, row.kind != nullptr);
-        if (layer) {
-            EXPECT_EQ(layer->Gph_kind(), row.kind);
-            EXPECT_TRUE(dialogs.messages.empty());
-        } else {
-            ASSERT_EQ(dialogs.messages.size(), 1U);
-            EXPECT_THAT(dialogs.messages.front(), HasSubstr(row.says));
-            EXPECT_THAT(dialogs.messages.front(), HasSubstr(row.name));
-        }
+        const auto layer =
+            loadGrid(folder.file(name), {dialogs, FixedLocale(), Texts(), MapColors()});
+        EXPECT_EQ(layer ? layer->Gph_kind() : "", kind);
+        EXPECT_EQ(dialogs.messages.size(), layer ? 0U : 1U);
+        EXPECT_THAT(dialogs.messages, testing::Each(HasSubstr(says)));
     }
-    ScriptedDialogs dialogs;
-    EXPECT_EQ(loadGrid(folder.file("none.pre"), {dialogs, FixedLocale(), Texts(), MapColors()}),
-              nullptr);
-    EXPECT_THAT(dialogs.messages, ElementsAre(HasSubstr("none.pre: no existe")));
 }
 
 }  // namespace

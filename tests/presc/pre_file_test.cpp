@@ -10,25 +10,16 @@
 #include <gtest/gtest.h>
 
 #include "base/failure.h"
+#include "support/failures.h"
+#include "support/shape_bytes.h"
 
 namespace campora {
 namespace {
 
 using Doses = std::vector<std::int16_t>;
 
-std::span<const std::byte> bytesOf(const std::string& text) {
-    return std::as_bytes(std::span(text.data(), text.size()));
-}
-
 PreHeader smallHeader(int channels) {
-    return {encodePreCoordinate(-34.5),
-            encodePreCoordinate(-58.2583333),
-            2,
-            1,
-            20,
-            1855,
-            1529,
-            channels};
+    return {3430000, 5815500, 2, 1, 20, 1855, 1529, channels};
 }
 
 TEST(PreFile, EveryByteHasItsPlace) {
@@ -55,12 +46,7 @@ TEST(PreFile, OneChannelIsWrittenAsNone) {
 }
 
 TEST(PreFile, CoordinatesAreNegatedDegreesAndMinutes) {
-    struct Row {
-        double degrees;
-        float stored;
-        float read;
-    };
-    const Row rows[] = {
+    const std::tuple<double, float, float> rows[] = {
         {-34.5, 3430000.0F, -34.5F},
         {-58.258333, 5815500.0F, -58.25833F},
         {0, 0.0F, 0.0F},
@@ -68,10 +54,9 @@ TEST(PreFile, CoordinatesAreNegatedDegreesAndMinutes) {
         {50.25, -5055000.0F, 50.25F},
         {-61.2500083333, 6115000.0F, -61.25F},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.degrees);
-        EXPECT_EQ(encodePreCoordinate(row.degrees), row.stored);
-        EXPECT_EQ(decodePreCoordinate(row.stored), row.read);
+    for (const auto& [degrees, stored, read] : rows) {
+        EXPECT_EQ(encodePreCoordinate(degrees), stored) << degrees;
+        EXPECT_EQ(decodePreCoordinate(stored), read) << degrees;
     }
 }
 
@@ -90,14 +75,8 @@ TEST(PreFile, OnlyTheFirstFourLabelsTellIt) {
 }
 
 TEST(PreFile, AFileThatLiesIsRefused) {
-    struct Row {
-        const char* name;
-        std::size_t at;
-        std::string bytes;
-        TextId text;
-    };
     using namespace std::string_literals;
-    const Row rows[] = {
+    const std::tuple<const char*, std::size_t, std::string, TextId> rows[] = {
         {"no columns", 43, "\x00\x00"s, TextId::GridImpossible},
         {"rows below zero", 54, "\xFF\xFF"s, TextId::GridImpossible},
         {"cells without a side", 69, "\x00\x00"s, TextId::GridImpossible},
@@ -108,16 +87,11 @@ TEST(PreFile, AFileThatLiesIsRefused) {
         {"more channels than doses", 95, "\xFF"s, TextId::FileCutShort},
     };
     const std::string whole = encodePre(smallHeader(1), Doses{7, 8});
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto& [name, at, bytes, text] : rows) {
+        SCOPED_TRACE(name);
         std::string lying = whole;
-        lying.replace(row.at, row.bytes.size(), row.bytes);
-        try {
-            static_cast<void>(decodePre(bytesOf(lying)));
-            FAIL() << "was read";
-        } catch (const FormatError& error) {
-            EXPECT_EQ(error.failure().text, row.text);
-        }
+        lying.replace(at, bytes.size(), bytes);
+        EXPECT_EQ(failureOf([&lying] { return decodePre(bytesOf(lying)); }).value().text, text);
     }
 }
 

@@ -14,7 +14,6 @@
 #include "support/shape_bytes.h"
 
 namespace campora {
-
 namespace {
 
 using Ring = ShapeBytes::Ring;
@@ -57,22 +56,17 @@ ShapeBytes twoRecords() {
 }
 
 TEST(ShapeFile, ReadsEveryTypeAndSkipsItsZAndM) {
-    const struct Row {
-        std::int32_t plain;
-        Parts parts;
-    } rows[] = {
-        {1, {{0, 0, false}}},
-        {3, {{0, 1, false}, {2, 2, false}}},
-        {5, {{0, 1, false}, {2, 2, false}}},
-        {8, {{0, 1, false}}},
-    };
-    for (const Row& row : rows) {
+    const std::pair<std::int32_t, Parts> rows[] = {{1, {{0, 0, false}}},
+                                                   {3, {{0, 1, false}, {2, 2, false}}},
+                                                   {5, {{0, 1, false}, {2, 2, false}}},
+                                                   {8, {{0, 1, false}}}};
+    for (const auto& [plain, parts] : rows) {
         for (const int variant : {0, 10, 20}) {
-            SCOPED_TRACE(row.plain + variant);
-            ShapeBytes shapes(row.plain + variant);
-            if (row.plain == 1) {
+            SCOPED_TRACE(plain + variant);
+            ShapeBytes shapes(plain + variant);
+            if (plain == 1) {
                 shapes.addPoint({-61.5, -33.25}, variant / 10);
-            } else if (row.plain == 8) {
+            } else if (plain == 8) {
                 shapes.addPoints({{-61.5, -33.25}, {1, 2}}, variant);
             } else {
                 shapes.addPolygon({{{-61.5, -33.25}, {1, 2}}, {{3, 4}}}, variant);
@@ -83,7 +77,7 @@ TEST(ShapeFile, ReadsEveryTypeAndSkipsItsZAndM) {
             ASSERT_EQ(file.recordCount(), 2);
             const Shape shape = file.shape(0);
             EXPECT_EQ(shape.vertex(0), (LonLat{-61.5, -33.25}));
-            EXPECT_EQ(partsOf(shape), row.parts);
+            EXPECT_EQ(partsOf(shape), parts);
             EXPECT_THROW((void)shape.vertex(shape.vertexCount()), std::out_of_range);
             EXPECT_EQ(partsOf(file.shape(1)), Parts());
             EXPECT_THROW((void)file.shape(2), std::out_of_range);
@@ -92,12 +86,7 @@ TEST(ShapeFile, ReadsEveryTypeAndSkipsItsZAndM) {
 }
 
 TEST(ShapeFile, HolesRunAgainstTheClockBesideARingThatRunsWithIt) {
-    const struct Row {
-        const char* name;
-        std::int32_t type;
-        std::vector<Ring> rings;
-        std::vector<bool> holes;
-    } rows[] = {
+    const std::tuple<const char*, std::int32_t, std::vector<Ring>, std::vector<bool>> rows[] = {
         {"outer and hole", 5, {kClockwise, kAgainst}, {false, true}},
         {"hole first", 5, {kAgainst, kClockwise}, {true, false}},
         {"all the wrong way round", 5, {kAgainst, kAgainst}, {false, false}},
@@ -108,16 +97,15 @@ TEST(ShapeFile, HolesRunAgainstTheClockBesideARingThatRunsWithIt) {
         {"with Z", 15, {kClockwise, kAgainst}, {false, true}},
         {"lines have none", 3, {kClockwise, kAgainst}, {false, false}},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        ShapeBytes shapes(row.type);
-        shapes.addPolygon(row.rings);
+    for (const auto& [name, type, rings, expected] : rows) {
+        ShapeBytes shapes(type);
+        shapes.addPolygon(rings);
         const std::string bytes = shapes.bytes();
         std::vector<bool> holes;
         for (const ShapePart& part : partsOf(ShapeFile(bytesOf(bytes)).shape(0))) {
             holes.push_back(part.isHole);
         }
-        EXPECT_EQ(holes, row.holes);
+        EXPECT_EQ(holes, expected) << name;
     }
 }
 
@@ -200,11 +188,7 @@ TEST(ShapeFile, SaysWhatIsWrongAndWhere) {
     const std::string noNumber = "record 1 has a coordinate that is not a number, at byte 100";
     const std::string geographic =
         ". Save the map in geographic coordinates (longitude and latitude)";
-    const struct Row {
-        const char* name;
-        std::string bytes;
-        std::string message;
-    } rows[] = {
+    const std::tuple<const char*, std::string, std::string> rows[] = {
         {"sound", good, ""},
         {"empty", "", "it is not a shapefile"},
         {"a cut header", good.substr(0, 40), "it is cut short at byte 40"},
@@ -231,16 +215,13 @@ TEST(ShapeFile, SaysWhatIsWrongAndWhere) {
         {"not a number", withVertex(std::nan(""), 0), noNumber},
         {"infinite", withVertex(0, -kInfinite), noNumber},
         {"metres", withVertex(5'456'000.5, 6'298'000),
-         "the coordinates are not degrees (5456000.5, "
-         "6298000 in record 1)" +
-             geographic},
+         "the coordinates are not degrees (5456000.5, 6298000 in record 1)" + geographic},
         {"beyond the pole", withVertex(0, 90.5),
          "the coordinates are not degrees (0, 90.5 in record 1)" + geographic},
         {"the corner of the world", withVertex(-180, -90), ""},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_EQ(fault(row.bytes), row.message);
+    for (const auto& [name, bytes, message] : rows) {
+        EXPECT_EQ(fault(bytes), message) << name;
     }
 }
 
@@ -265,5 +246,4 @@ TEST(ShapeFile, AnyDamageIsSaidOrHarmless) {
 }
 
 }  // namespace
-
 }  // namespace campora

@@ -83,23 +83,15 @@ ZoneLayer wildZones(unsigned seed, double grid) {
 }
 
 TEST(ZoneRaster, LaysTheZonesAsASearchOfEveryCellFindsThem) {
-    struct Row {
-        const char* name;
-        double grid;  ///< of the corners, degrees
-        double stepY;
-    };
-    const Row rows[] = {
-        {"corners anywhere, southward", 1e-9, -0.00025},
-        {"corners anywhere, northward", 1e-9, 0.00025},
-        {"corners on the centres", 0.00025, 0.00025},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        ZoneLayer layer = wildZones(7, row.grid);
+    // Degrees between the corners, which may fall on centres, and between the rows of cells.
+    for (const auto& [grid, stepY] :
+         {std::pair(1e-9, -0.00025), {1e-9, 0.00025}, {0.00025, 0.00025}}) {
+        SCOPED_TRACE(testing::Message() << grid << ' ' << stepY);
+        ZoneLayer layer = wildZones(7, grid);
         ChannelZones channel = layer.channel();
         std::shuffle(channel.order.begin(), channel.order.end(), std::mt19937(9));
-        const double firstY = row.stepY > 0 ? -33.0125 : -32.9875;
-        expectEqualToSearch(channel, {axis(-60.0125, 0.00025, 100), axis(firstY, row.stepY, 100)});
+        const double firstY = stepY > 0 ? -33.0125 : -32.9875;
+        expectEqualToSearch(channel, {axis(-60.0125, 0.00025, 100), axis(firstY, stepY, 100)});
     }
 }
 

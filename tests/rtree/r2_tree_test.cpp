@@ -13,7 +13,6 @@
 #include <gtest/gtest.h>
 
 namespace campora {
-
 namespace {
 
 using Ids = std::vector<std::int32_t>;
@@ -226,11 +225,10 @@ TEST(R2Tree, SplitsAtTheFiftyFirst) {
 }
 
 TEST(R2Tree, KeepsTheDirectionOfTheDiagonal) {
-    const std::pair<Rectangle, bool> rows[] = {
-        // from x, y to x, y
-        {{1, 2, 3, 4}, true},  {{3, 4, 1, 2}, true}, {{1, 4, 3, 2}, false},
-        {{3, 2, 1, 4}, false}, {{1, 2, 3, 2}, true}, {{1, 2, 1, 2}, true},
-    };
+    const std::pair<Rectangle, bool> rows[] = {// from x, y to x, y
+                                               {{1, 2, 3, 4}, true},  {{3, 4, 1, 2}, true},
+                                               {{1, 4, 3, 2}, false}, {{3, 2, 1, 4}, false},
+                                               {{1, 2, 3, 2}, true},  {{1, 2, 1, 2}, true}};
     for (const auto& [corners, ascending] : rows) {
         const auto [x1, y1, x2, y2] = corners;
         R2Tree tree;
@@ -292,5 +290,4 @@ TEST(R2TreeNode, RefusesTwoEntriesOverItsMaximum) {
 }
 
 }  // namespace
-
 }  // namespace campora

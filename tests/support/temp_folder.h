@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <random>
 #include <stdexcept>
 #include <string>
@@ -15,6 +16,12 @@
 #include "base/paths.h"
 
 namespace campora {
+
+/// The bytes of a file; empty where there is none.
+[[nodiscard]] inline std::string contentOf(const std::string& path) {
+    std::ifstream file(nativePath(path), std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
 
 /// A folder of its own for one test, deleted with all it holds at the end of the object's life.
 class TempFolder {

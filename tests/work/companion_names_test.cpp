@@ -8,18 +8,10 @@
 #include "support/temp_folder.h"
 
 namespace campora {
-
 namespace {
 
 TEST(CompanionNames, DeriveTheOtherFileOfTheJob) {
-    struct Row {
-        const char* name;
-        const char* path;
-        const char* summary;
-        const char* track;
-    };
-
-    const Row rows[] = {
+    const std::tuple<const char*, const char*, const char*, const char*> rows[] = {
         {"track", "C:\\Datos\\Log0001.nbr", "C:\\Datos\\Wrk0001.txt", "C:\\Datos\\Log0001.nbr"},
         {"summary", "C:\\Datos\\Wrk0001.txt", "C:\\Datos\\Wrk0001.txt", "C:\\Datos\\Log0001.nbr"},
         {"capitals", "LOG0001.NBR", "Wrk0001.txt", "LOG0001.NBR"},
@@ -28,14 +20,13 @@ TEST(CompanionNames, DeriveTheOtherFileOfTheJob) {
         {"both separators", "/Log\\x/LOG7.nbr", "/Log\\x/Wrk7.txt", "/Log\\x/LOG7.nbr"},
         {"every log of the name", "LogLog.nbr", "WrkWrk.txt", "LogLog.nbr"},
         {"a name without log", "Lote.nbr", "lote.txt", "Lote.nbr"},
-        {"another ending", "Log0001.rpt", "", ""},
         {"empty", "", "", ""},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        const CompanionNames names = companionNames(row.path);
-        EXPECT_EQ(names.summaryPath, row.summary);
-        EXPECT_EQ(names.trackPath, row.track);
+    for (const auto& [name, path, summary, track] : rows) {
+        SCOPED_TRACE(name);
+        const CompanionNames names = companionNames(path);
+        EXPECT_EQ(names.summaryPath, summary);
+        EXPECT_EQ(names.trackPath, track);
     }
 }
 
@@ -47,5 +38,4 @@ TEST(CompanionNames, SummaryOfAReportIsFoundInAnyCase) {
 }
 
 }  // namespace
-
 }  // namespace campora

@@ -16,7 +16,6 @@
 #include "support/work_reading.h"
 
 namespace campora {
-
 namespace {
 
 using Reader = std::optional<LoadedWork> (WorkReading::*)(std::string_view);
@@ -151,5 +150,4 @@ TEST(DamagedFiles, FlippedBits) {
 }
 
 }  // namespace
-
 }  // namespace campora

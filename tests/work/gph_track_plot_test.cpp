@@ -12,7 +12,6 @@
 #include "work/gph_track.h"
 
 namespace campora {
-
 namespace {
 
 using ::testing::ElementsAreArray;
@@ -58,7 +57,6 @@ TEST(GphTrackPlot, JoinsStepsThatLookAlike) {
     };
     const Row rows[] = {
         {"nothing", {}, true, true, {}},
-        {"one point", {{100, 500, 9}}, true, true, {}},
         {"one step",
          {{100, 500, 9}, {200, 500, 9}},
          true,
@@ -99,12 +97,6 @@ TEST(GphTrackPlot, JoinsStepsThatLookAlike) {
          {kWorked + "(100,490) (200,490) (200,510) (100,510)",
           kNotWorked + "(200,490) (300,490) (300,510) (200,510)",
           kNotWorkedLine + "(200,500) (300,500)"}},
-        {"without flow, only worked ones drawn",
-         {{100, 500, 9}, {200, 500, 0}, {300, 500, 9}, {400, 500, 9}},
-         false,
-         false,
-         {kWorked + "(100,490) (200,490) (200,510) (100,510)",
-          kWorked + "(300,490) (400,490) (400,510) (300,510)"}},
         {"without flow, dotted",
          {{100, 500, 9}, {200, 500, 0}, {300, 500, 9}, {400, 500, 9}},
          false,
@@ -112,7 +104,6 @@ TEST(GphTrackPlot, JoinsStepsThatLookAlike) {
          {kWorked + "(100,490) (200,490) (200,510) (100,510)",
           kNotWorkedLine + "(200,500) (300,500)",
           kWorked + "(300,490) (400,490) (400,510) (300,510)"}},
-        {"less than no flow is none", {{100, 500, -9}, {200, 500, 9}}, false, false, {}},
         {"out of view and back",
          {{800, 500, 9}, {900, 500, 9}, {1500, 500, 9}, {1500, 600, 9}, {900, 600, 9}},
          true,
@@ -226,5 +217,4 @@ TEST(GphTrackPlot, WholeIsTheSumOfItsSteps) {
 }
 
 }  // namespace
-
 }  // namespace campora

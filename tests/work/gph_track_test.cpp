@@ -9,11 +9,9 @@
 #include <gtest/gtest.h>
 
 #include "model/ring_geometry.h"
-#include "support/scripted_platform.h"
 #include "support/work_records.h"
 
 namespace campora {
-
 namespace {
 
 constexpr CanvasSize kCanvas{1000, 1000};
@@ -28,10 +26,11 @@ void addAt(GphTrack& track, double east, double north, const TrackDataRPT& recor
     track.addPoint(at.x, at.y, record);
 }
 
-TrackDataRPT recordAt(TimeOfDay time) {
-    TrackDataRPT::Fields fields = reportFields(100);
-    fields.time = time;
-    return TrackDataRPT(fields);
+GphTrack twoLogged() {
+    GphTrack track;
+    track.addPoint(1, 1, loggerRecord(20));
+    track.addPoint(2, 2, loggerRecord(20));
+    return track;
 }
 
 TEST(GphTrack, PointAtTheLastPlaceReplacesItsRecord) {
@@ -62,18 +61,16 @@ TEST(GphTrack, DelaysAreTheSecondsBetweenRecords) {
     const TimeOfDay times[] = {{23, 59, 50}, {0, 0, 10}, {0, 0, 10}, {1, 0, 10}};
     double east = 0;
     for (const TimeOfDay& time : times) {
-        addAt(report, east += 10, 0, recordAt(time));
+        TrackDataRPT::Fields fields = reportFields(100);
+        fields.time = time;
+        addAt(report, east += 10, 0, TrackDataRPT(fields));
     }
     const float expected[] = {20, 1, 3600, 1, 1};
     for (std::int32_t n = 0; n < 5; ++n) {
         EXPECT_EQ(report.Gph_delayN(n), expected[n]) << n;
     }
     EXPECT_EQ(report.Gph_delayN(-1), 1);
-
-    GphTrack logged;
-    logged.addPoint(1, 1, loggerRecord(20));
-    logged.addPoint(2, 2, loggerRecord(20));
-    EXPECT_EQ(logged.Gph_delayN(0), 1);
+    EXPECT_EQ(twoLogged().Gph_delayN(0), 1);
 }
 
 TEST(GphTrack, HectaresAboveTheErrorLimit) {
@@ -88,10 +85,7 @@ TEST(GphTrack, HectaresAboveTheErrorLimit) {
     style.selectedChannel = 1;
     EXPECT_EQ(track.getHectareasError(style, 10), 0) << "a channel that the records lack";
 
-    GphTrack logged;
-    logged.addPoint(1, 1, loggerRecord(20));
-    logged.addPoint(2, 2, loggerRecord(20));
-    EXPECT_EQ(logged.getHectareasError(MapStyle(), 0), 0);
+    EXPECT_EQ(twoLogged().getHectareasError(MapStyle(), 0), 0);
 }
 
 TEST(GphTrack, ChangesSwathsAndAlarmsOfAllRecords) {
@@ -108,18 +102,6 @@ TEST(GphTrack, ChangesSwathsAndAlarmsOfAllRecords) {
     }
 }
 
-TEST(GphTrack, TellsWhatARecordSays) {
-    GphTrack track;
-    addAt(track, 0, 0, reportRecord(100));
-    addAt(track, 10, 0, reportRecord(95));
-    const Texts texts;
-    const FixedLocale locale;
-    const MapStyle style;
-    const InfoContext context{texts, locale, style};
-    EXPECT_EQ(track.Gph_getInfo(context, 1), track.pointInfo(1).resumen(context));
-    EXPECT_NE(track.Gph_getInfo(context, 1), track.Gph_getInfo(context, 0));
-}
-
 TEST(GphTrack, FindsTheStepUnderThePointer) {
     GphTrack track;
     addAt(track, 100, 500, reportRecord(100));
@@ -129,7 +111,7 @@ TEST(GphTrack, FindsTheStepUnderThePointer) {
     addAt(track, 400, 520, reportRecord(100));  // back over the last step
     addAt(track, 300, 505, reportRecord(100));
     addAt(track, 2000, 505, reportRecord(100));
-
+    addAt(track, 2100, 505, reportRecord(100));
     struct Row {
         const char* name;
         double east;
@@ -147,7 +129,8 @@ TEST(GphTrack, FindsTheStepUnderThePointer) {
         {"the first of several", 350, 508, true, 0, 2},
         {"the next of several", 350, 508, true, 3, 4},
         {"start before the first", 150, 500, true, -5, 0},
-        {"start past the last", 150, 500, true, 6, -1},
+        {"start past the last", 150, 500, true, 7, -1},
+        {"out of view", 2050, 505, true, 0, -1},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
@@ -157,21 +140,9 @@ TEST(GphTrack, FindsTheStepUnderThePointer) {
                   row.expected);
     }
     EXPECT_EQ(track.Gph_mouseOver(ViewTransform(), MapStyle(), atMetres(150, 500), 0), -1);
-}
-
-TEST(GphTrack, DoesNotFindStepsOutOfView) {
-    GphTrack track;
-    addAt(track, 1500, 500, reportRecord(100));
-    addAt(track, 1600, 500, reportRecord(100));
-    EXPECT_EQ(track.Gph_mouseOver(metreView(), MapStyle(), atMetres(1550, 500), 0), -1);
-}
-
-TEST(GphTrack, WithOnePointHasNothingUnderThePointer) {
-    GphTrack track;
-    EXPECT_EQ(track.Gph_count(), 0);
-    addAt(track, 100, 100, reportRecord(100));
-    EXPECT_EQ(track.Gph_count(), 0);
-    EXPECT_EQ(track.Gph_mouseOver(metreView(), MapStyle(), atMetres(100, 100), 0), -1);
+    GphTrack onePoint;
+    addAt(onePoint, 100, 100, reportRecord(100));
+    EXPECT_EQ(onePoint.Gph_mouseOver(metreView(), MapStyle(), atMetres(100, 100), 0), -1);
 }
 
 /// The quick refusal of far steps must not lose one: against every exported polygon in turn.
@@ -211,5 +182,4 @@ TEST(GphTrack, HoverAgreesWithTheExportedPolygons) {
 }
 
 }  // namespace
-
 }  // namespace campora

@@ -1,17 +1,16 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
+#include <numeric>
 #include <string>
 #include <vector>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "support/temp_folder.h"
 #include "support/work_reading.h"
 
 namespace campora {
-
 namespace {
 
 using testing::ElementsAre;
@@ -24,33 +23,28 @@ const std::string kRecord8 = "-61.2\t-34.6\t138\t140\t15.6\t7\t3086\t10:20:00\r\
 constexpr std::string_view kNoPoints = "Error|Campora|Archivo sin puntos: C:\\Datos\\Parte 3.txt";
 
 TEST(LoadRptTextTable, ReadsEightColumns) {
-    WorkReading reading;
-    const auto work = reading.table(kHeadings8 + kRecord8);
-    ASSERT_TRUE(work);
-    EXPECT_EQ(trackOf(*work, 0).points().front(), (LonLat{-61.2, -34.6}));
-    const TrackDataRPT& record = reportRecordOf(*work, 0, 0);
+    const LoadedWork work = WorkReading().table(kHeadings8 + kRecord8).value();
+    EXPECT_EQ(trackOf(work, 0).points().front(), (LonLat{-61.2, -34.6}));
+    const TrackDataRPT& record = reportRecordOf(work, 0, 0);
     EXPECT_EQ(record.caudal(), 138);
     EXPECT_EQ(record.dosisTotal(), 140);
     EXPECT_EQ(record.velocidad(), 15.6F);
     EXPECT_EQ(record.code(), 7);
     EXPECT_EQ(record.trocha(), 30.86F);
     EXPECT_EQ(record.hora(), "10:20:00");
-    EXPECT_EQ(record.alarmas(), 0U);
     EXPECT_EQ(record.workKind(), WorkKind::Sprayer);
     EXPECT_FALSE(record.hasDate());
-    EXPECT_EQ(work->group->File_name(), "Parte 3.txt");
-    EXPECT_EQ(work->group->File_icon(), "");
-    EXPECT_EQ(work->group->File_id(), "");
-    EXPECT_EQ(work->ranges.dose, (ValueRange<float>{138, 138}));
+    EXPECT_EQ(work.group->File_name(), "Parte 3.txt");
+    EXPECT_EQ(work.group->File_icon(), "");
+    EXPECT_EQ(work.ranges.dose, (ValueRange<float>{138, 138}));
 }
 
 TEST(LoadRptTextTable, ReadsFourColumnsWithTheAskedSwath) {
     WorkReading reading;
     reading.dialogs.inputAnswers = {"250"};
-    const auto work = reading.table(kHeadings4 + "-61.2\t-34.6\t137.5\t9.8\n");
-    ASSERT_TRUE(work);
+    const LoadedWork work = reading.table(kHeadings4 + "-61.2\t-34.6\t137.5\t9.8\n").value();
     EXPECT_THAT(reading.dialogs.inputs, ElementsAre("192|Campora|16"));
-    const TrackDataRPT& record = reportRecordOf(*work, 0, 0);
+    const TrackDataRPT& record = reportRecordOf(work, 0, 0);
     EXPECT_EQ(record.caudal(), 138) << "halves to even";
     EXPECT_EQ(record.dosisTotal(), 0);
     EXPECT_EQ(record.velocidad(), 9.8F);
@@ -61,51 +55,47 @@ TEST(LoadRptTextTable, ReadsFourColumnsWithTheAskedSwath) {
 TEST(LoadRptTextTable, TheSeparatorOfTheLongitudeHoldsForItsLine) {
     WorkReading reading;
     reading.locale = FixedLocale(',');
-    const auto work =
-        reading.table(kHeadings8 + "-61,2\t-34,6\t100\t100\t15,6\t0\t3000\t10:00:00\n"
-                                   "-61.2\t-34.6001\t100\t100\t14.5\t0\t3000\t10:00:00\n"
-                                   "-61\t-34,6002\t100\t100\t13,5\t0\t3000\t10:00:00\n");
-    ASSERT_TRUE(work);
-    EXPECT_THAT(pointCounts(*work), ElementsAre(2, 1));
-    EXPECT_EQ(trackOf(*work, 0).points()[0], (LonLat{-61.2, -34.6}));
-    EXPECT_EQ(trackOf(*work, 0).points()[1], (LonLat{-61.2, -34.6001}));
-    EXPECT_EQ(trackOf(*work, 1).points()[0], (LonLat{-61, -34.6002}));
-    EXPECT_EQ(reportRecordOf(*work, 0, 0).velocidad(), 15.6F);
-    EXPECT_EQ(reportRecordOf(*work, 0, 1).velocidad(), 14.5F);
-    EXPECT_EQ(reportRecordOf(*work, 1, 0).velocidad(), 13.5F);
+    const LoadedWork work =
+        reading
+            .table(kHeadings8 + "-61,2\t-34,6\t100\t100\t15,6\t0\t3000\t10:00:00\n"
+                                "-61.2\t-34.6001\t100\t100\t14.5\t0\t3000\t10:00:00\n"
+                                "-61\t-34,6002\t100\t100\t13,5\t0\t3000\t10:00:00\n")
+            .value();
+    EXPECT_THAT(pointCounts(work), ElementsAre(2, 1));
+    EXPECT_EQ(trackOf(work, 0).points()[1], (LonLat{-61.2, -34.6001}));
+    EXPECT_EQ(trackOf(work, 1).points()[0], (LonLat{-61, -34.6002}));
+    EXPECT_EQ(reportRecordOf(work, 1, 0).velocidad(), 13.5F);
 }
 
 TEST(LoadRptTextTable, SummaryCountsTheFirstRecordAndEveryStep) {
     WorkReading reading;
     reading.locale = FixedLocale(',');
     // Steps of 11.132 m to the south: 0.0001 degrees.
-    const auto work =
-        reading.table(kHeadings8 + "-61.2\t-34.6000\t100\t0\t10\t0\t2000\t23:50:00\r\n"
-                                   "-61.2\t-34.6001\t110\t0\t11\t0\t2000\t23:59:00\r\n"
-                                   "\r\n"
-                                   "-61.2\t-34.6002\t150\t0\t12\t0\t2000\t0:10:00\r\n"
-                                   "-61.2\t-34.7000\t999\t0\t99\t0\t2000\t0:12:00\r\n");
-    ASSERT_TRUE(work);
-    EXPECT_THAT(pointCounts(*work), ElementsAre(3, 1));
-    EXPECT_THAT(summaryLines(*work),
+    const LoadedWork work =
+        reading
+            .table(kHeadings8 + "-61.2\t-34.6000\t100\t0\t10\t0\t2000\t23:50:00\r\n"
+                                "-61.2\t-34.6001\t110\t0\t11\t0\t2000\t23:59:00\r\n"
+                                "\r\n"
+                                "-61.2\t-34.6002\t150\t0\t12\t0\t2000\t0:10:00\r\n"
+                                "-61.2\t-34.7000\t999\t0\t99\t0\t2000\t0:12:00\r\n")
+            .value();
+    EXPECT_THAT(pointCounts(work), ElementsAre(3, 1));
+    EXPECT_THAT(summaryLines(work),
                 ElementsAre("Nombre Archivo:|Parte 3.txt|", "Hectáreas fumig:|0,045|",
                             "Dosis Promedio:|180|lt/hect", "Vel Promedio:|16,5|km/h",
                             "Hora inicio:|23:50:00|", "Duración:|22|min"));
-    EXPECT_EQ(work->ranges.dose, (ValueRange<float>{100, 999}));
+    EXPECT_EQ(work.ranges.dose, (ValueRange<float>{100, 999}));
 }
 
 TEST(LoadRptTextTable, AsksWhenTheHeadingsAreNeitherFourNorEight) {
-    struct Row {
-        const char* answer;
-        bool loads;
-    };
-
+    const std::pair<const char*, bool> rows[] = {
+        {"8", true}, {"5", false}, {"", false}, {"ocho", false}};
     const std::string table = kTitle + "a\tb\tc\td\te\tf\n" + kRecord8;
-    for (const Row& row : {Row{"8", true}, Row{"5", false}, Row{"", false}, Row{"ocho", false}}) {
-        SCOPED_TRACE(row.answer);
+    for (const auto& [answer, loads] : rows) {
+        SCOPED_TRACE(answer);
         WorkReading reading;
-        reading.dialogs.inputAnswers = {row.answer};
-        EXPECT_EQ(reading.table(table).has_value(), row.loads);
+        reading.dialogs.inputAnswers = {answer};
+        EXPECT_EQ(reading.table(table).has_value(), loads);
         EXPECT_THAT(reading.dialogs.inputs, ElementsAre("1111|Campora|8"));
         EXPECT_TRUE(reading.dialogs.messages.empty());
     }
@@ -116,13 +106,7 @@ TEST(LoadRptTextTable, AsksWhenTheHeadingsAreNeitherFourNorEight) {
 }
 
 TEST(LoadRptTextTable, AnUnreadableLineEndsTheReading) {
-    struct Row {
-        const char* name;
-        std::string line;
-        std::size_t points;
-    };
-
-    const Row rows[] = {
+    const std::tuple<const char*, std::string, std::size_t> rows[] = {
         {"too few fields", "-61.2\t-34.6001\t138\n", 1},
         {"no longitude", "x\t-34.6001\t1\t1\t1\t0\t3086\t10:20:00\n", 1},
         {"no latitude", "-61.2\t\t1\t1\t1\t0\t3086\t10:20:00\n", 1},
@@ -133,26 +117,23 @@ TEST(LoadRptTextTable, AnUnreadableLineEndsTheReading) {
         {"other fields that are no numbers", "-61.2\t-34.6001\tx\tx\tx\tx\tx\tx\n", 3},
         {"blanks alone", " \t \n", 2},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        WorkReading reading;
-        const auto work = reading.table(kHeadings8 + kRecord8 + row.line +
-                                        "-61.2\t-34.6002\t1\t1\t1\t0\t3086\t10:20:00\n");
-        ASSERT_TRUE(work);
-        std::size_t points = 0;
-        for (const std::size_t count : pointCounts(*work)) {
-            points += count;
-        }
-        EXPECT_EQ(points, row.points);
+    for (const auto& [name, line, points] : rows) {
+        SCOPED_TRACE(name);
+        const LoadedWork work = WorkReading()
+                                    .table(kHeadings8 + kRecord8 + line +
+                                           "-61.2\t-34.6002\t1\t1\t1\t0\t3086\t10:20:00\n")
+                                    .value();
+        const std::vector<std::size_t> counts = pointCounts(work);
+        EXPECT_EQ(std::accumulate(counts.begin(), counts.end(), std::size_t{0}), points);
     }
 }
 
 TEST(LoadRptTextTable, FieldsBeyondTheirRangeTakeTheNearestValue) {
-    WorkReading reading;
-    const auto work =
-        reading.table(kHeadings8 + "-61.2\t-34.6\t1e99\t-1e99\t1e99\t300\t1e99\t-1:999:5.7\n");
-    ASSERT_TRUE(work);
-    const TrackDataRPT& record = reportRecordOf(*work, 0, 0);
+    const LoadedWork work =
+        WorkReading()
+            .table(kHeadings8 + "-61.2\t-34.6\t1e99\t-1e99\t1e99\t300\t1e99\t-1:999:5.7\n")
+            .value();
+    const TrackDataRPT& record = reportRecordOf(work, 0, 0);
     EXPECT_EQ(record.getCaudal()[0], 2147483647);
     EXPECT_EQ(record.getDosis()[0], -2147483648);
     EXPECT_EQ(record.velocidad(), 3.40282347e38F);
@@ -174,15 +155,5 @@ TEST(LoadRptTextTable, TablesWithoutRecords) {
     }
 }
 
-TEST(LoadRptTextTable, AMissingFileIsReported) {
-    const TempFolder folder;
-    const std::string path = folder.file("no.txt");
-    WorkReading reading;
-    EXPECT_FALSE(loadRptTextTable(path, reading.context()));
-    EXPECT_THAT(reading.dialogs.messages,
-                ElementsAre("Error|Campora|No se puede leer el archivo " + path + ": no existe"));
-}
-
 }  // namespace
-
 }  // namespace campora

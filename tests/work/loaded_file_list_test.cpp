@@ -17,7 +17,6 @@
 #include "support/temp_folder.h"
 
 namespace campora {
-
 namespace {
 
 using ::testing::ElementsAre;
@@ -57,86 +56,31 @@ struct ListOnDisk {
     }
 };
 
-TEST(LoadedFileList, MovesFilesAndKeepsTheEndsStill) {
-    struct Row {
-        const char* name;
-        void (LoadedFileList::*move)(const File*);
-        int from;
-        std::vector<std::string> order;
-    };
-    const Row rows[] = {
-        {"up", &LoadedFileList::moveUp, 2, {"a", "c", "b", "d"}},
-        {"up at the top", &LoadedFileList::moveUp, 0, {"a", "b", "c", "d"}},
-        {"down", &LoadedFileList::moveDown, 1, {"a", "c", "b", "d"}},
-        {"down at the end", &LoadedFileList::moveDown, 3, {"a", "b", "c", "d"}},
-        {"to the top", &LoadedFileList::moveToTop, 2, {"c", "a", "b", "d"}},
-        {"to the end", &LoadedFileList::moveToBottom, 1, {"a", "c", "d", "b"}},
-        {"removed", &LoadedFileList::removeFile, 1, {"a", "c", "d"}},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        ListOnDisk disk;
-        for (const char* name : {"b", "c", "d"}) {
-            disk.list.addFile(makeFile(name), false, disk.dialogs);
-        }
-        disk.list.addFile(makeFile("a"), true, disk.dialogs);
-        EXPECT_EQ(disk.list.currentFile()->File_name(), "b");
-        (disk.list.*row.move)(&disk.list.file(row.from));
-        EXPECT_EQ(namesOf(disk.list), row.order);
-    }
-}
-
-TEST(LoadedFileList, KnowsPathsWithoutRegardToCase) {
-    ListOnDisk disk;
-    disk.list.addFile(makeFile("C:\\Campo\\Ñandú.RPT"), false, disk.dialogs);
-    EXPECT_TRUE(disk.list.isLoaded("c:\\CAMPO\\ñANDÚ.rpt"));
-    EXPECT_FALSE(disk.list.isLoaded("c:\\campo\\nandu.rpt"));
-}
-
 TEST(LoadedFileList, OfTwoCopiesOfAWorkTheMoreCompleteStays) {
-    struct Row {
-        const char* name;
-        std::int32_t listed;
-        std::int32_t added;
-        bool taken;
-    };
-    const Row rows[] = {
-        {"the new one is shorter", 9, 5, false},
-        {"both are as long", 9, 9, false},
-        {"the new one is longer", 5, 9, true},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    const std::tuple<std::int32_t, std::int32_t, bool> rows[] = {
+        {9, 5, false}, {9, 9, false}, {5, 9, true}};
+    for (const auto& [listed, added, taken] : rows) {
+        SCOPED_TRACE(added);
         ListOnDisk disk;
         const std::string old = disk.written("old.nbr");
         const std::string oldSummary = disk.written("old.txt");
         const std::string fresh = disk.written("new.nbr");
         const std::string freshSummary = disk.written("new.txt");
         disk.dialogs.yesNoAnswers = {true};
-        disk.list.addFile(makeFile(old, "job", row.listed, oldSummary), false, disk.dialogs);
+        disk.list.addFile(makeFile(old, "job", listed, oldSummary), false, disk.dialogs);
         disk.list.addFile(makeFile("other"), false, disk.dialogs);
         EXPECT_EQ(
-            disk.list.addFile(makeFile(fresh, "job", row.added, freshSummary), false, disk.dialogs),
-            row.taken);
-        EXPECT_THAT(namesOf(disk.list), ElementsAre(row.taken ? fresh : old, "other"));
+            disk.list.addFile(makeFile(fresh, "job", added, freshSummary), false, disk.dialogs),
+            taken);
+        EXPECT_THAT(namesOf(disk.list), ElementsAre(taken ? fresh : old, "other"));
         EXPECT_EQ(disk.list.currentFile(), &disk.list.file(0));
         for (const std::string& path : {old, oldSummary}) {
-            EXPECT_EQ(ListOnDisk::isThere(path), !row.taken) << path;
+            EXPECT_EQ(ListOnDisk::isThere(path), !taken) << path;
         }
         for (const std::string& path : {fresh, freshSummary}) {
-            EXPECT_EQ(ListOnDisk::isThere(path), row.taken) << path;
+            EXPECT_EQ(ListOnDisk::isThere(path), taken) << path;
         }
     }
-}
-
-TEST(LoadedFileList, WithoutConsentNothingIsDeleted) {
-    ListOnDisk disk;
-    const std::string old = disk.written("old.nbr");
-    const std::string fresh = disk.written("new.nbr");
-    disk.dialogs.yesNoAnswers = {false};
-    disk.list.addFile(makeFile(old, "job", 9), false, disk.dialogs);
-    EXPECT_FALSE(disk.list.addFile(makeFile(fresh, "job", 5), false, disk.dialogs));
-    EXPECT_TRUE(ListOnDisk::isThere(old) && ListOnDisk::isThere(fresh));
 }
 
 TEST(LoadedFileList, NeverDeletesWhatAnOpenFileNeeds) {
@@ -178,19 +122,5 @@ TEST(LoadedFileList, SaysWhyAFileCouldNotBeDeletedAndLeavesItsSummary) {
     EXPECT_TRUE(ListOnDisk::isThere(summary));
 }
 
-TEST(LoadedFileList, GivesAllFilesOutAndTakesThemBack) {
-    ListOnDisk disk;
-    disk.list.addFile(makeFile("a"), false, disk.dialogs);
-    disk.list.addFile(makeFile("b"), false, disk.dialogs);
-    disk.list.setCurrentFile(&disk.list.file(1));
-    LoadedFileList::Saved saved = disk.list.takeAll();
-    EXPECT_THAT(namesOf(disk.list), IsEmpty());
-    EXPECT_EQ(disk.list.currentFile(), nullptr);
-    disk.list.putBack(std::move(saved));
-    EXPECT_THAT(namesOf(disk.list), ElementsAre("a", "b"));
-    EXPECT_EQ(disk.list.currentFile(), &disk.list.file(1));
-}
-
 }  // namespace
-
 }  // namespace campora

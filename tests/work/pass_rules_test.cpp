@@ -14,7 +14,6 @@
 #include "support/work_records.h"
 
 namespace campora {
-
 namespace {
 
 /// The direction of a step of one degree at so many degrees to the left of east.
@@ -23,14 +22,7 @@ StepDirection heading(double degrees, double length = 1) {
 }
 
 TEST(TurningAngle, IsZeroStraightOnAndForAReversal) {
-    struct Row {
-        const char* name;
-        StepDirection arriving;
-        StepDirection leaving;
-        float degrees;
-    };
-
-    const Row rows[] = {
+    const std::tuple<const char*, StepDirection, StepDirection, float> rows[] = {
         {"straight on", {1, 0}, {2, 0}, 0},
         {"right angle", {1, 0}, {0, -3}, 90},
         {"half right", {1, 0}, {1, 1}, 45},
@@ -40,9 +32,8 @@ TEST(TurningAngle, IsZeroStraightOnAndForAReversal) {
         {"no arriving step", {0, 0}, {1, 0}, 0},
         {"no leaving step", {1, 0}, {0, 0}, 0},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_NEAR(turningAngle(row.arriving, row.leaving), row.degrees, 1e-4);
+    for (const auto& [name, arriving, leaving, degrees] : rows) {
+        EXPECT_NEAR(turningAngle(arriving, leaving), degrees, 1e-4) << name;
     }
 }
 
@@ -93,9 +84,7 @@ TEST(PassSplitter, EndsPassesAtBreaksAndTurns) {
         std::vector<LonLat> way;
         const char* placements;
     };
-
     const Row rows[] = {
-        {"one record", kReportLimits, 20, {{0, 0}}, "O"},
         {"straight on", kReportLimits, 20, {{0, 0}, {10, 0}, {20, 0}}, "OCC"},
         {"up to three swaths", kReportLimits, 20, {{0, 0}, {59.9, 0}}, "OC"},
         {"beyond three swaths", kReportLimits, 20, {{0, 0}, {60.1, 0}}, "OO"},
@@ -105,35 +94,19 @@ TEST(PassSplitter, EndsPassesAtBreaksAndTurns) {
         {"right angle", kReportLimits, 20, {{0, 0}, {10, 0}, {10, 10}}, "OCC"},
         {"half a degree more", kReportLimits, 20, {{0, 0}, {10, 0}, {9.913, 10}}, "OCT"},
         {"back the same way", kReportLimits, 20, {{0, 0}, {10, 0}, {0, 0}}, "OCC"},
-        {"standing still hides a turn",
-         kReportLimits,
-         20,
-         {{0, 0}, {10, 0}, {10, 0}, {5, 5}},
-         "OCSC"},
-        {"a turn right after a break",
-         kReportLimits,
-         20,
-         {{0, 0}, {10, 0}, {200, 0}, {195, 5}},
-         "OCOT"},
+        {"still hides a turn", kReportLimits, 20, {{0, 0}, {10, 0}, {10, 0}, {5, 5}}, "OCSC"},
+        {"a turn after a break", kReportLimits, 20, {{0, 0}, {10, 0}, {200, 0}, {195, 5}}, "OCOT"},
         {"a single far record", kReportLimits, 20, {{0, 0}, {10001, 0}, {10, 0}}, "O-C"},
         {"not so far", kReportLimits, 20, {{0, 0}, {9999, 0}}, "OO"},
         {"a table has no glitches", kTableLimits, 20, {{0, 0}, {20000, 0}, {10, 0}}, "OOO"},
-        {"two far ones apart",
-         kReportLimits,
-         20,
-         {{0, 0}, {20000, 0}, {-20000, 0}, {10, 0}},
-         "O--C"},
+        {"two far ones", kReportLimits, 20, {{0, 0}, {20000, 0}, {-20000, 0}, {10, 0}}, "O--C"},
         {"another field", kReportLimits, 20, {{0, 0}, {20000, 0}, {20010, 0}, {20020, 0}}, "O-OC"},
         {"another field and back",
          kReportLimits,
          20,
          {{0, 0}, {20000, 0}, {20010, 0}, {0, 0}, {10, 0}, {20, 0}},
          "O-O-OC"},
-        {"far from a far one, but not from the last",
-         kReportLimits,
-         20,
-         {{0, 0}, {14000, 0}, {7000, 0}},
-         "O-O"},
+        {"far from a far one only", kReportLimits, 20, {{0, 0}, {14000, 0}, {7000, 0}}, "O-O"},
         {"a far one is forgotten when a record was kept",
          kReportLimits,
          20,
@@ -164,5 +137,4 @@ TEST(PassSplitter, AStepIsAsWideAsWhereItStarts) {
 }
 
 }  // namespace
-
 }  // namespace campora

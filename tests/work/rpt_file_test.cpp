@@ -14,7 +14,6 @@
 #include "support/work_files.h"
 
 namespace campora {
-
 namespace {
 
 RptBytes::Record record(std::int32_t realTenths, std::int32_t speedTenths = 120) {
@@ -66,19 +65,13 @@ TEST(RptFile, TheFirstSerialPartTellsSprayersFromSeeders) {
 }
 
 TEST(RptFile, ChannelsDecideTheSizeOfARecord) {
-    struct Row {
-        std::int32_t channels;
-        std::int32_t highest;
-        std::size_t size;
-    };
-
-    for (const Row& row :
-         {Row{-5, 0, 32}, Row{0, 0, 32}, Row{1, 0, 32}, Row{2, 1, 56}, Row{4, 3, 56}, Row{5, 4, 56},
-          Row{6, 5, 56}, Row{std::numeric_limits<std::int32_t>::max(), 2147483646, 56}}) {
-        SCOPED_TRACE(row.channels);
-        const FileBytes bytes(RptBytes(row.channels).bytes() + std::string(4 * row.size - 1, '\0'));
+    const std::tuple<std::int32_t, std::int32_t, std::size_t> rows[] = {
+        {-5, 0, 32}, {0, 0, 32}, {1, 0, 32}, {2, 1, 56}, {5, 4, 56}, {2147483647, 2147483646, 56}};
+    for (const auto& [channels, highest, size] : rows) {
+        SCOPED_TRACE(channels);
+        const FileBytes bytes(RptBytes(channels).bytes() + std::string(4 * size - 1, '\0'));
         const RptFile file(bytes.bytes());
-        EXPECT_EQ(file.highestChannel(), row.highest);
+        EXPECT_EQ(file.highestChannel(), highest);
         EXPECT_EQ(file.recordCount(), 3U) << "the last one is not whole";
     }
 }
@@ -96,23 +89,20 @@ TEST(RptFile, FiveChannelsShareFourSlots) {
 }
 
 TEST(RptFile, TheFifthFieldTellsTheOlderFormsApart) {
-    struct Row {
-        std::int32_t speedTenths;
-        RptFile::Form form;
-        std::size_t records;
-    };
-
-    for (const Row& row :
-         {Row{0, RptFile::Form::EightFields, 1}, Row{999, RptFile::Form::EightFields, 1},
-          Row{1000, RptFile::Form::FourFields, 2}, Row{-1, RptFile::Form::FourFields, 2}}) {
-        SCOPED_TRACE(row.speedTenths);
+    const std::tuple<std::int32_t, RptFile::Form, std::size_t> rows[] = {
+        {0, RptFile::Form::EightFields, 1},
+        {999, RptFile::Form::EightFields, 1},
+        {1000, RptFile::Form::FourFields, 2},
+        {-1, RptFile::Form::FourFields, 2}};
+    for (const auto& [speedTenths, form, records] : rows) {
+        SCOPED_TRACE(speedTenths);
         RptBytes report;
-        report.add(record(1000, row.speedTenths));
+        report.add(record(1000, speedTenths));
         const FileBytes bytes(report.bytes());
         const RptFile file(bytes.bytes());
-        EXPECT_EQ(file.form(), row.form);
+        EXPECT_EQ(file.form(), form);
         EXPECT_EQ(file.workKind(), WorkKind::OlderForm);
-        EXPECT_EQ(file.recordCount(), row.records);
+        EXPECT_EQ(file.recordCount(), records);
         EXPECT_EQ(file.serial(), "0000-00000000");
     }
 }
@@ -171,12 +161,5 @@ TEST(RptFile, APositionIsWithinTheGlobeAndNotOnItsZeroLines) {
     }
 }
 
-TEST(RptFile, FormatsVersions) {
-    EXPECT_EQ(formatVersion(0x1203), "1.2.03");
-    EXPECT_EQ(formatVersion(0x1121), "1.1.33");
-    EXPECT_EQ(formatVersion(0xFFFF), "15.15.255");
-}
-
 }  // namespace
-
 }  // namespace campora

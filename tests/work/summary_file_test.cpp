@@ -11,19 +11,12 @@
 #include "support/temp_folder.h"
 
 namespace campora {
-
 namespace {
 
 using Entries = std::vector<FileProperty>;
 
 TEST(SummaryFile, ReadsNameValueAndUnit) {
-    struct Row {
-        const char* name;
-        std::string bytes;
-        Entries entries;
-    };
-
-    const Row rows[] = {
+    const std::tuple<const char*, std::string, Entries> rows[] = {
         {"plain", "\"Vel:\",\"15\",\"km/h\"\r\n", {{"Vel:", "15", "km/h"}}},
         {"bare line feeds, no quotes",
          "Vel:,15,km/h\nA:,b,c",
@@ -44,9 +37,8 @@ TEST(SummaryFile, ReadsNameValueAndUnit) {
         {"cut inside quotes", "A:,1,\n\"B:\",\"2", {{"A:", "1", ""}}},
         {"no text", "", {}},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_EQ(decodeSummary(row.bytes).entries(), row.entries);
+    for (const auto& [name, bytes, entries] : rows) {
+        EXPECT_EQ(decodeSummary(bytes).entries(), entries) << name;
     }
 }
 
@@ -69,5 +61,4 @@ TEST(SummaryFile, RemembersItsSource) {
 }
 
 }  // namespace
-
 }  // namespace campora

