@@ -84,14 +84,31 @@ private:
     double step_;
 };
 
-std::vector<LegendRow> referenceRows(const MapStyle& style, const Texts& texts,
+struct WorkNames {
+    TextId done;
+    TextId notDone;
+};
+
+WorkNames workNames(WorkKind kind) {
+    switch (kind) {
+    case WorkKind::Seeder:
+        return {TextId::LegendSown, TextId::LegendNotSown};
+    case WorkKind::OlderForm:
+        return {TextId::LegendWorked, TextId::LegendNotWorked};
+    case WorkKind::Sprayer:
+        break;
+    }
+    return {TextId::LegendSprayed, TextId::LegendNotSprayed};
+}
+
+std::vector<LegendRow> referenceRows(const MapStyle& style, WorkKind kind, const Texts& texts,
                                      const UserLocale& locale) {
     const MapColors& colors = style.colors;
     const auto row = [&texts](Color color, TextId id) {
         return LegendRow{color, std::string(texts(id))};
     };
-    std::vector<LegendRow> rows{row(colors.draw, TextId::LegendWorked),
-                                row(colors.noDraw, TextId::LegendNotWorked),
+    const WorkNames work = workNames(kind);
+    std::vector<LegendRow> rows{row(colors.draw, work.done), row(colors.noDraw, work.notDone),
                                 row(colors.back, TextId::LegendBackground)};
     if (style.mode == ColorMode::Alarm) {
         rows.push_back(row(colors.alarm, TextId::LegendAlarm));
@@ -106,9 +123,10 @@ std::vector<LegendRow> referenceRows(const MapStyle& style, const Texts& texts,
 
 }  // namespace
 
-LegendContent legendContent(const MapStyle& style, const Texts& texts, const UserLocale& locale) {
+LegendContent legendContent(const MapStyle& style, WorkKind kind, const Texts& texts,
+                            const UserLocale& locale) {
     LegendContent legend;
-    legend.reference = referenceRows(style, texts, locale);
+    legend.reference = referenceRows(style, kind, texts, locale);
     if (!style.scaleShown()) {
         return legend;
     }

@@ -13,8 +13,9 @@ namespace campora {
 
 /// The rows of the legend for the current style: the classes with their bounds (dates for a date
 /// scale, one value for a single-value class) while a scale is shown, the two alarm colours in the
-/// alarm map, the error sample in the error map, and the plain colours of the map.
-[[nodiscard]] LegendContent legendContent(const MapStyle& style, const Texts& texts,
+/// alarm map, the error sample in the error map, and the plain colours of the map, named after
+/// the kind of work.
+[[nodiscard]] LegendContent legendContent(const MapStyle& style, WorkKind kind, const Texts& texts,
                                           const UserLocale& locale);
 
 }  // namespace campora

@@ -253,7 +253,8 @@ LegendContent Session::legendContent() {
     MapStyle shown = style_;
     shown.scale = &scale;
     shown.graduated = shown.graduated || &scale != &defaultScale_;
-    LegendContent legend = campora::legendContent(shown, texts_, platform_.locale);
+    LegendContent legend = campora::legendContent(shown, lastKind_.value_or(WorkKind::Sprayer),
+                                                  texts_, platform_.locale);
     if (files_.empty()) {
         legend.unit.clear();
         legend.classes.clear();

@@ -26,66 +26,47 @@ std::vector<std::string> textsOf(const std::vector<LegendRow>& rows) {
 LegendContent legendOf(const ColorScale& scale, const UserLocale& locale = FixedLocale()) {
     MapStyle style;
     style.scale = &scale;
-    return legendContent(style, Texts(), locale);
+    return legendContent(style, WorkKind::Sprayer, Texts(), locale);
+}
+
+SetList setOf(const std::vector<double>& values) {
+    SetList set;
+    for (const double value : values) {
+        set.addDosis(value);
+    }
+    return set;
 }
 
 using Rows = std::vector<std::string>;
 
 TEST(Legend, IntervalsAreShownWithDigitsThatTellThemApart) {
-    struct Row {
-        const char* name;
-        int classes;
-        double least, greatest;
-        char symbol;
-        Rows texts;
+    // The extremes and what is shown of as many classes.
+    const std::tuple<double, double, Rows> rows[] = {
+        {0, 100, {"0 - 17", "17 - 33", "33 - 50", "50 - 67", "67 - 83", "83 - 100"}},
+        {0, 3, {"0 - 1,5", "1,5 - 3"}},
+        {0.12, 0.44, {"0,12 - 0,28", "0,28 - 0,44"}},
+        {1000000, 1000000.4, {"1000000 - 1000000,2", "1000000,2 - 1000000,4"}},
+        {14, 3649, {"14 - 1832", "1832 - 3649"}},
+        {-2, 2, {"-2 - 0", "0 - 2"}},
     };
-    const Row rows[] = {
-        {"whole numbers",
-         6,
-         0,
-         100,
-         '.',
-         {"0 - 17", "17 - 33", "33 - 50", "50 - 67", "67 - 83", "83 - 100"}},
-        {"tenths", 2, 0, 3, '.', {"0 - 1.5", "1.5 - 3"}},
-        {"hundredths with a comma", 2, 0.12, 0.44, ',', {"0,12 - 0,28", "0,28 - 0,44"}},
-        {"narrow and far from 0",
-         2,
-         1000000,
-         1000000.4,
-         '.',
-         {"1000000 - 1000000.2", "1000000.2 - 1000000.4"}},
-        {"thousands", 2, 14, 3649, '.', {"14 - 1832", "1832 - 3649"}},
-        {"below 0", 2, -2, 2, '.', {"-2 - 0", "0 - 2"}},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto& [least, greatest, texts] : rows) {
         ColorScale scale;
-        scale.setClassNumberExt(row.classes, row.least, row.greatest);
-        EXPECT_EQ(textsOf(legendOf(scale, FixedLocale(row.symbol)).classes), row.texts);
+        scale.setClassNumberExt(static_cast<int>(texts.size()), least, greatest);
+        EXPECT_EQ(textsOf(legendOf(scale, FixedLocale(',')).classes), texts);
     }
 }
 
 TEST(Legend, SingleValuesStandAlone) {
-    struct Row {
-        const char* name;
-        std::vector<double> values;
-        Rows texts;
+    const std::pair<std::vector<double>, Rows> rows[] = {
+        {{80, 150, 200}, {"80", "150", "200"}},
+        {{100, 100.5, 250}, {"100", "100.5", "250"}},
+        {{151.25}, {"151.3"}},
+        {{0}, {"0"}},
     };
-    const Row rows[] = {
-        {"whole", {80, 150, 200}, {"80", "150", "200"}},
-        {"close together", {100, 100.5, 250}, {"100", "100.5", "250"}},
-        {"one alone", {151.25}, {"151.3"}},
-        {"zero alone", {0}, {"0"}},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        SetList set;
-        for (const double value : row.values) {
-            set.addDosis(value);
-        }
+    for (const auto& [values, texts] : rows) {
         ColorScale scale;
-        scale.loadFromSetList(set, 0);
-        EXPECT_EQ(textsOf(legendOf(scale).classes), row.texts);
+        scale.loadFromSetList(setOf(values), 0);
+        EXPECT_EQ(textsOf(legendOf(scale).classes), texts);
     }
 }
 
@@ -101,11 +82,8 @@ TEST(Legend, ColoursAndUnitAreThoseOfTheScale) {
 }
 
 TEST(Legend, ADayIsShownAsADate) {
-    SetList days;
-    days.addDosis(43164);
-    days.addDosis(43166);
     ColorScale scale;
-    scale.loadFromSetList(days, 0);
+    scale.loadFromSetList(setOf({43164, 43166}), 0);
     scale.isDate = true;
     EXPECT_EQ(textsOf(legendOf(scale).classes), (Rows{"05/03/2018", "07/03/2018"}));
     EXPECT_EQ(textsOf(legendOf(scale, FixedLocale('.', "yyyy-m-d")).classes),
@@ -143,23 +121,14 @@ TEST(Legend, TellsWhatThePlainColoursMean) {
         ColorMode mode;
         bool graduated;
         std::size_t classes;
-        Rows reference;
+        Rows added;  ///< to the reference of every map
     };
-    const Rows plain = {"Fumigado", "No fumigado", "Fondo"};
     const Row rows[] = {
-        {"dose", ColorMode::Dose, true, 6, plain},
-        {"not graduated", ColorMode::Dose, false, 0, plain},
-        {"date", ColorMode::Date, false, 6, plain},
-        {"alarm",
-         ColorMode::Alarm,
-         false,
-         6,
-         {"Fumigado", "No fumigado", "Fondo", "Con alarma", "Sin alarma"}},
-        {"error",
-         ColorMode::Error,
-         false,
-         6,
-         {"Fumigado", "No fumigado", "Fondo", "Errores > 12,5%"}},
+        {"dose", ColorMode::Dose, true, 6, {}},
+        {"not graduated", ColorMode::Dose, false, 0, {}},
+        {"date", ColorMode::Date, false, 6, {}},
+        {"alarm", ColorMode::Alarm, false, 6, {"Con alarma", "Sin alarma"}},
+        {"error", ColorMode::Error, false, 6, {"Errores > 12,5%"}},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
@@ -170,10 +139,24 @@ TEST(Legend, TellsWhatThePlainColoursMean) {
         style.mode = row.mode;
         style.graduated = row.graduated;
         style.errorLimit = 12.5F;
-        const LegendContent legend = legendContent(style, Texts(), FixedLocale(','));
+        const LegendContent legend =
+            legendContent(style, WorkKind::Sprayer, Texts(), FixedLocale(','));
         EXPECT_EQ(legend.classes.size(), row.classes);
         EXPECT_EQ(legend.unit.empty(), row.classes == 0);
-        EXPECT_EQ(textsOf(legend.reference), row.reference);
+        Rows expected = {"Fumigado", "No fumigado", "Fondo"};
+        expected.insert(expected.end(), row.added.begin(), row.added.end());
+        EXPECT_EQ(textsOf(legend.reference), expected);
+    }
+}
+
+TEST(Legend, PlainColoursAreNamedAfterTheWork) {
+    const std::pair<WorkKind, Rows> rows[] = {
+        {WorkKind::Sprayer, {"Fumigado", "No fumigado", "Fondo"}},
+        {WorkKind::Seeder, {"Sembrado", "No sembrado", "Fondo"}},
+        {WorkKind::OlderForm, {"Trabajado", "No trabajado", "Fondo"}},
+    };
+    for (const auto& [kind, names] : rows) {
+        EXPECT_EQ(textsOf(legendContent({}, kind, Texts(), FixedLocale()).reference), names);
     }
 }
 
@@ -181,7 +164,8 @@ TEST(Legend, ReferenceColoursAreTheUsersOwn) {
     MapStyle style;
     style.mode = ColorMode::Alarm;
     style.colors = {.draw = {1}, .noDraw = {2}, .back = {3}, .alarm = {4}, .noAlarm = {5}};
-    const LegendContent legend = legendContent(style, Texts(Language::English), FixedLocale());
+    const LegendContent legend =
+        legendContent(style, WorkKind::Sprayer, Texts(Language::English), FixedLocale());
     EXPECT_EQ(legend.reference, (std::vector<LegendRow>{{{1}, "Sprayed"},
                                                         {{2}, "Not sprayed"},
                                                         {{3}, "Background"},

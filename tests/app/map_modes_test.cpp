@@ -34,7 +34,7 @@ constexpr std::uint32_t kSeeder = 0x2104;
 
 /// A started session with its modes.
 struct ModesDesk : SessionDesk {
-    explicit ModesDesk(Language language = Language::Spanish) : SessionDesk(language) {
+    ModesDesk() {
         session.start();
         forget();
     }
@@ -94,30 +94,16 @@ TEST(TypedNumber, TakesEitherDecimalSymbolAndNothingElse) {
 }
 
 TEST(MapModes, TheAlarmMenuNamesTheAlarmsOfBothMachines) {
-    struct Row {
-        Language language;
-        const char* first;
-        const char* seeder;
-        const char* sprayer;
-    };
-    const Row rows[] = {
-        {Language::Spanish, "Falla de siembra", "Sodel - Falla de eje", "Ondel - Presión Máxima"},
-        {Language::Portuguese, "Falha de plantio", "Sodel - Falha de eixo",
-         "Ondel - Pressão máxima"},
-        {Language::English, "Seeding failure", "Sodel - Shaft failure", "Ondel - Maximum pressure"},
-    };
-    for (const Row& row : rows) {
-        const ModesDesk desk(row.language);
-        const std::vector<AlarmEntry> entries = desk.modes.alarmEntries();
-        ASSERT_EQ(entries.size(), 64U);
-        EXPECT_EQ(entries[0], (AlarmEntry{row.first, true, true}));
-        EXPECT_EQ(entries[4], (AlarmEntry{row.seeder, true, true}));
-        EXPECT_EQ(entries[32], (AlarmEntry{row.sprayer, true, true}));
-        EXPECT_FALSE(entries[2].visible);
-        EXPECT_EQ(std::count_if(entries.begin(), entries.end(),
-                                [](const AlarmEntry& entry) { return entry.visible; }),
-                  20 + 5);
-    }
+    const ModesDesk desk;
+    const std::vector<AlarmEntry> entries = desk.modes.alarmEntries();
+    ASSERT_EQ(entries.size(), 64U);
+    EXPECT_EQ(entries[0], (AlarmEntry{"Falla de siembra", true, true}));
+    EXPECT_EQ(entries[4], (AlarmEntry{"Sodel - Falla de eje", true, true}));
+    EXPECT_EQ(entries[32], (AlarmEntry{"Ondel - Presión Máxima", true, true}));
+    EXPECT_FALSE(entries[2].visible);
+    EXPECT_EQ(std::count_if(entries.begin(), entries.end(),
+                            [](const AlarmEntry& entry) { return entry.visible; }),
+              20 + 5);
 }
 
 TEST(MapModes, SelectedAlarmsColourThePointsThatHaveThem) {
@@ -215,33 +201,28 @@ TEST(MapModes, TheErrorMapTellsColoursAndHectares) {
 }
 
 TEST(MapModes, TheAllowedErrorIsTakenAsTyped) {
-    struct Row {
-        const char* answer;
-        std::optional<float> limit;
-        const char* legend;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, std::optional<float>, const char*> rows[] = {
         {"12,5", 12.5F, "Errores > 12,5%"}, {"12.5", 12.5F, "Errores > 12,5%"},
         {"20%", 20.0F, "Errores > 20%"},    {"150", 150.0F, "Errores > 150%"},
         {"mucho", std::nullopt, nullptr},   {"1.2.3", std::nullopt, nullptr},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.answer);
+    for (const auto& [answer, limit, legend] : rows) {
+        SCOPED_TRACE(answer);
         ModesDesk desk;
         desk.locale = FixedLocale(',');
         desk.open("lote.rpt");
         desk.session.style().errorLimit = 2.5F;
-        desk.dialogs.inputAnswers = {row.answer};
+        desk.dialogs.inputAnswers = {answer};
         desk.modes.mnuColorErrorMapMin();
         EXPECT_THAT(desk.dialogs.inputs,
                     ElementsAre(std::to_string(static_cast<int>(TextId::AskErrorLimit)) +
                                 "|Mapa de Error|2,5"));
-        EXPECT_EQ(desk.session.style().errorLimit, row.limit.value_or(2.5F));
-        EXPECT_EQ(desk.modes.isOn(ColorMode::Error), row.limit.has_value());
-        if (row.limit) {
-            EXPECT_EQ(desk.window.legend.reference.back().text, row.legend);
+        EXPECT_EQ(desk.session.style().errorLimit, limit.value_or(2.5F));
+        EXPECT_EQ(desk.modes.isOn(ColorMode::Error), limit.has_value());
+        if (limit) {
+            EXPECT_EQ(desk.window.legend.reference.back().text, legend);
         } else {
-            EXPECT_THAT(desk.dialogs.messages, ElementsAre(HasSubstr(row.answer)));
+            EXPECT_THAT(desk.dialogs.messages, ElementsAre(HasSubstr(answer)));
         }
     }
     ModesDesk desk;
@@ -312,32 +293,24 @@ TEST(MapModes, AFileWithoutTheChannelIsNamedAndKeepsItsOwn) {
 }
 
 TEST(MapModes, DrawingOptionsAreSeenAndSomeAreKept) {
-    struct Row {
-        const char* name;
-        Handler handler;
-        bool (MapModes::*isOn)() const;
-        const char* key;  ///< null: not kept
+    using Stored = decltype(MemorySettings::values);
+    const std::tuple<Handler, bool (MapModes::*)() const, std::string> rows[] = {
+        {&MapModes::mnuEditDrawAll, &MapModes::isOnlyWorked, ""},  // not kept
+        {&MapModes::mnuEditDoted, &MapModes::isDotted, "DrawDotted"},
+        {&MapModes::mnuEditDrawBorder, &MapModes::isBordered, "DrawBorders"},
     };
-    const Row rows[] = {
-        {"only worked", &MapModes::mnuEditDrawAll, &MapModes::isOnlyWorked, nullptr},
-        {"dotted", &MapModes::mnuEditDoted, &MapModes::isDotted, "DrawDotted"},
-        {"borders", &MapModes::mnuEditDrawBorder, &MapModes::isBordered, "DrawBorders"},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto& [handler, isOn, key] : rows) {
+        SCOPED_TRACE(key);
         ModesDesk desk;
-        const bool before = (desk.modes.*row.isOn)();
+        const bool before = (desk.modes.*isOn)();
         for (const bool expected : {!before, before}) {
             desk.forget();
-            (desk.modes.*row.handler)();
-            EXPECT_EQ((desk.modes.*row.isOn)(), expected);
+            (desk.modes.*handler)();
+            EXPECT_EQ((desk.modes.*isOn)(), expected);
             EXPECT_EQ(desk.redraws(), 1U);
             EXPECT_EQ(desk.window.commandChanges, 1);
-            if (row.key == nullptr) {
-                EXPECT_TRUE(desk.settings.values.empty());
-            } else {
-                EXPECT_EQ(desk.settings.values.at(row.key), expected ? "True" : "False");
-            }
+            const Stored kept = {{key, expected ? "True" : "False"}};
+            EXPECT_EQ(desk.settings.values, key.empty() ? Stored() : kept);
         }
     }
 }
@@ -350,6 +323,7 @@ TEST(MapModes, TheMachineReadLastNamesItsWork) {
     EXPECT_EQ(caption(), "Ver solo fumigado");
     desk.open("siembra.rpt", 1, kSeeder);
     EXPECT_EQ(caption(), "Ver solo sembrado");
+    EXPECT_EQ(desk.window.legend.reference.front().text, "Sembrado");
     desk.session.loadFile(desk.track("log0001.nbr", 5), false, true);
     EXPECT_EQ(caption(), "Ver solo sembrado") << "a track file is no report";
     RptBytes older;
@@ -407,12 +381,7 @@ TEST(MapModes, ASwathWidthIsGivenToAllWork) {
 }
 
 TEST(MapModes, AChosenColourIsKeptAndSeen) {
-    struct Row {
-        Handler handler;
-        const char* key;
-        Color MapColors::*color;
-    };
-    const Row rows[] = {
+    const std::tuple<Handler, const char*, Color MapColors::*> rows[] = {
         {&MapModes::mnuEditColorFum, "mapDrawcolor", &MapColors::draw},
         {&MapModes::mnuEditColorNofum, "mapNoDrawcolor", &MapColors::noDraw},
         {&MapModes::mnuEditColorBack, "mapBackcolor", &MapColors::back},
@@ -422,28 +391,29 @@ TEST(MapModes, AChosenColourIsKeptAndSeen) {
         {&MapModes::mnuEditColorShapes, "mapShapeColor", &MapColors::shape},
         {&MapModes::mnuEditColorLotes, "mapLoteColor", &MapColors::lote},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.key);
+    for (const auto& [handler, key, color] : rows) {
+        SCOPED_TRACE(key);
         ModesDesk desk;
         desk.dialogs.colorAnswers = {std::nullopt, Color{0x0000AB}};
-        (desk.modes.*row.handler)();
+        (desk.modes.*handler)();
         EXPECT_TRUE(desk.settings.values.empty()) << "cancelled";
         EXPECT_EQ(desk.redraws(), 0U);
-        (desk.modes.*row.handler)();
+        (desk.modes.*handler)();
         MapColors expected;
-        EXPECT_THAT(desk.dialogs.colors, Each(expected.*row.color));
-        expected.*row.color = {0x0000AB};
+        EXPECT_THAT(desk.dialogs.colors, Each(expected.*color));
+        expected.*color = {0x0000AB};
         EXPECT_EQ(desk.session.style().colors, expected);
-        EXPECT_EQ(desk.settings.values, (decltype(desk.settings.values){{row.key, "171"}}));
+        EXPECT_EQ(desk.settings.values, (decltype(desk.settings.values){{key, "171"}}));
+        MapStyle stored;
+        readStyleSettings(desk.settings, stored);
+        EXPECT_EQ(stored.colors, expected);
         EXPECT_THAT(desk.canvas.calls().front(),
-                    row.color == &MapColors::back ? "clear 0x0000AB" : "clear 0xFFFFFF");
+                    color == &MapColors::back ? "clear 0x0000AB" : "clear 0xFFFFFF");
         EXPECT_EQ(desk.window.legend.reference[2].color, expected.back);
 
         desk.modes.mnuEditColorDefect();
         EXPECT_EQ(desk.session.style().colors, MapColors{});
         EXPECT_EQ(desk.settings.values.size(), 8U);
-        MapStyle stored;
-        stored.colors.*row.color = {0x123456};
         readStyleSettings(desk.settings, stored);
         EXPECT_EQ(stored.colors, MapColors{});
     }
