@@ -3,10 +3,14 @@
 
 #include "app/files_behind.h"
 
+#include <cstddef>
 #include <filesystem>
+#include <optional>
+#include <string>
 #include <system_error>
 
 #include "app/file_loading.h"
+#include "base/file_head.h"
 #include "base/folder_files.h"
 #include "base/paths.h"
 #include "base/text.h"
@@ -19,14 +23,29 @@ namespace {
 
 namespace fs = std::filesystem;
 
+/// Zeros at the start of a report that tell it as blank: more than a header and a record.
+constexpr std::size_t kBlankReport = 4096;
+
+bool isThere(const std::string& path) {
+    std::error_code ignored;
+    return fs::exists(nativePath(findIgnoringCase(path)), ignored);
+}
+
+/// The report that is written beside a prescription holds zeros until the console has worked.
+bool isBlankReport(const std::string& path) {
+    if (pathEnding(path) != ".rpt" || !isThere(path.substr(0, path.size() - 3) + "pre")) {
+        return false;
+    }
+    const std::optional<std::string> head = readFileHead(path, kBlankReport);
+    return head && head->find_first_not_of('\0') == std::string::npos;
+}
+
 bool accompanies(const std::string& path) {
-    if (equalIgnoringCase(fileNamePart(path), kRegistrationsFile)) {
+    if (equalIgnoringCase(fileNamePart(path), kRegistrationsFile) || isBlankReport(path)) {
         return true;
     }
     const std::string track = companionNames(path).trackPath;
-    std::error_code ignored;
-    return !track.empty() && track != path &&
-           fs::exists(nativePath(findIgnoringCase(track)), ignored);
+    return !track.empty() && track != path && isThere(track);
 }
 
 }  // namespace

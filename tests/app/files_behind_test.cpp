@@ -40,6 +40,18 @@ TEST(FilesBehind, TextsThatGoWithOtherFilesAreLeftOut) {
     EXPECT_THAT(names(filesBehind(folder.path())), ElementsAre("LOG0001.NBR", "Wrk0002.txt"));
 }
 
+TEST(FilesBehind, ABlankReportBesideItsPrescriptionIsLeftOut) {
+    const TempFolder folder;
+    const std::string blank(6000, '\0');
+    folder.write("Lote.PRE", "x");
+    folder.write("lote.rpt", blank);
+    folder.write("hecho.pre", "x");
+    folder.write("hecho.rpt", blank.substr(0, 40) + "x" + blank);
+    folder.write("solo.rpt", blank);
+    EXPECT_THAT(names(filesBehind(folder.path())),
+                ElementsAre("hecho.pre", "hecho.rpt", "Lote.PRE", "solo.rpt"));
+}
+
 TEST(FilesBehind, AnyOtherPathStandsForItself) {
     const TempFolder folder;
     const std::string file = folder.write("leeme.doc", "x");
