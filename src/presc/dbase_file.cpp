@@ -63,10 +63,11 @@ std::optional<double> wholeNumber(std::string_view text) {
     double value = 0;
     const char* const end = text.data() + text.size();
     const auto [stop, error] = std::from_chars(text.data(), end, value);
-    if (error != std::errc() || stop != end || !std::isfinite(value)) {
+    if (stop != end || error == std::errc::invalid_argument || !std::isfinite(value)) {
         return std::nullopt;
     }
-    return value;
+    // Out of range is what is too large, which is no number, and what is too small, which is 0.
+    return error == std::errc() ? value : leadingNumber(text);
 }
 
 CellValue dateOf(std::string_view text) {
