@@ -140,7 +140,8 @@ void WorkOrdersBrowser::copy() {
     const std::string last = readText(platform.settings, SettingId::SelectFolder);
     const std::string destination = platform.dialogs.chooseFolder(
         {std::string(texts(TextId::ChooseFolder)), isFolder(last) ? last : folder_,
-         std::string(texts(TextId::FilesOfOrder))});
+         std::string(texts(TextId::FilesOfOrder)),
+         {std::string(texts(TextId::FilterLogs)), {"*.nbr"}}});
     if (!destination.empty()) {
         writeText(platform.settings, SettingId::SelectFolder, destination);
         copyOrder(order, destination, platform.dialogs, texts);

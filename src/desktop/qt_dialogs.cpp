@@ -208,7 +208,11 @@ std::string QtDialogs::chooseFolder(const FolderRequest& request) {
     const PointerOverride arrow(Qt::ArrowCursor);
     QFileDialog dialog(owner(), toQt(request.caption), toQt(request.folder));
     dialog.setFileMode(QFileDialog::Directory);
-    dialog.setOption(QFileDialog::ShowDirsOnly);
+    if (request.files.patterns.empty()) {
+        dialog.setOption(QFileDialog::ShowDirsOnly);
+    } else {
+        dialog.setNameFilter(filterText(request.files));
+    }
     if (!request.entry.empty()) {
         dialog.setLabelText(QFileDialog::FileName, toQt(request.entry));
     }

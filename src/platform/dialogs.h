@@ -55,6 +55,8 @@ struct FolderRequest {
     std::string folder;
     /// What the chosen folder is for, in a line of its own; may be empty.
     std::string entry;
+    /// The files that are shown in the folders; none without a pattern.
+    FileFilter files;
 };
 
 /// A window that shows how far long work is; it closes when it is destroyed.

@@ -23,10 +23,8 @@ using ::testing::IsEmpty;
 using Names = std::vector<std::string>;
 
 /// A card with order 15 of two works and a work without a number, and an open report.
-class WorkOrdersBrowserTest : public ::testing::Test {
-protected:
-    SessionDesk desk;
-    std::string card = desk.folder.file("card");
+struct WorkOrdersBrowserTest : testing::Test, SessionDesk {
+    std::string card = folder.file("card");
     std::vector<int> percents;
     WorkOrdersBrowser::Step step = [this](int percent) {
         percents.push_back(percent);
@@ -34,8 +32,8 @@ protected:
     };
 
     void SetUp() override {
-        desk.session.start();
-        ASSERT_TRUE(desk.session.loadFile(desk.report("abierto.rpt"), true, true));
+        session.start();
+        ASSERT_TRUE(session.loadFile(report("abierto.rpt"), true, true));
         writeTrack("card/log1.nbr", "15", "6001");
         writeTrack("card/log2.nbr", "15", "6002");
         writeTrack("card/log3.nbr", "0", "6003");
@@ -48,12 +46,12 @@ protected:
         for (int i = 0; i < points; ++i) {
             track.addPoint(100U * static_cast<std::uint32_t>(i), 0, 5, 20);
         }
-        desk.folder.write(name, track.bytes());
+        folder.write(name, track.bytes());
     }
 };
 
 TEST_F(WorkOrdersBrowserTest, ListsTheOrdersOfAFolder) {
-    WorkOrdersBrowser browser(desk.session);
+    WorkOrdersBrowser browser(session);
     EXPECT_TRUE(browser.showFolder(card));
     EXPECT_THAT(browser.rows(), ElementsAre(OrderRow{"Orden 15", "15/07/16", "18:03:32", "2"},
                                             OrderRow{"Sin número", "15/07/16", "18:03:32", "1"}));
@@ -62,116 +60,117 @@ TEST_F(WorkOrdersBrowserTest, ListsTheOrdersOfAFolder) {
     EXPECT_EQ(browser.selected(), std::nullopt);
     EXPECT_EQ(browser.open(step), 0);
     browser.copy();
-    EXPECT_THAT(desk.dialogs.folders, IsEmpty());
+    EXPECT_THAT(dialogs.folders, IsEmpty());
 }
 
 TEST_F(WorkOrdersBrowserTest, StartsWhereAnOrderWasOpenedLast) {
-    WorkOrdersBrowser browser(desk.session);
-    EXPECT_EQ(browser.startFolder(), desk.folder.path());
+    WorkOrdersBrowser browser(session);
+    EXPECT_EQ(browser.startFolder(), folder.path());
     browser.showFolder(card);
     browser.select(1);
-    EXPECT_EQ(desk.settings.values.count("OpenZELPath"), 0U);
+    EXPECT_EQ(settings.values.count("OpenZELPath"), 0U);
     browser.open(step);
     EXPECT_EQ(browser.startFolder(), card);
     std::filesystem::remove_all(nativePath(card));
-    EXPECT_EQ(browser.startFolder(), desk.folder.path());
+    EXPECT_EQ(browser.startFolder(), folder.path());
 }
 
 TEST_F(WorkOrdersBrowserTest, AScanGivesWayToTheNextFolder) {
-    desk.folder.write("leer/LEEME.TXT", "");
-    WorkOrdersBrowser browser(desk.session);
+    folder.write("leer/LEEME.TXT", "");
+    WorkOrdersBrowser browser(session);
     bool changed = false;
-    desk.clock.onEvents = [&](int) {
+    clock.onEvents = [&](int) {
         if (!std::exchange(changed, true)) {
-            EXPECT_TRUE(browser.showFolder(desk.folder.file("leer")));
+            EXPECT_TRUE(browser.showFolder(folder.file("leer")));
         }
     };
     EXPECT_FALSE(browser.showFolder(card));
-    EXPECT_EQ(browser.folder(), desk.folder.file("leer"));
+    EXPECT_EQ(browser.folder(), folder.file("leer"));
     EXPECT_THAT(browser.orders(), IsEmpty());
-    desk.clock.onEvents = [&](int) { browser.cancel(); };
+    clock.onEvents = [&](int) { browser.cancel(); };
     EXPECT_FALSE(browser.showFolder(card));
     EXPECT_THAT(browser.orders(), IsEmpty());
 }
 
 TEST_F(WorkOrdersBrowserTest, OpensTheFilesOfAnOrderBesideTheOthers) {
-    WorkOrdersBrowser browser(desk.session);
+    WorkOrdersBrowser browser(session);
     browser.showFolder(card);
     browser.select(0);
-    const std::size_t redraws = desk.redraws();
+    const std::size_t before = redraws();
     EXPECT_EQ(browser.open(step), 2);
-    EXPECT_EQ(desk.listed(), (Names{"abierto.rpt", "15 - log1.nbr", "15 - log2.nbr"}));
+    EXPECT_EQ(listed(), (Names{"abierto.rpt", "15 - log1.nbr", "15 - log2.nbr"}));
     EXPECT_THAT(percents, ElementsAre(50, 100));
-    EXPECT_EQ(desk.redraws(), redraws + 1);
+    EXPECT_EQ(redraws(), before + 1);
     browser.select(1);
     EXPECT_EQ(browser.open([](int) { return false; }), 1);
     browser.cancel();
-    EXPECT_EQ(desk.session.plotCount(), 4) << "what was opened stays";
+    EXPECT_EQ(session.plotCount(), 4) << "what was opened stays";
 }
 
 TEST_F(WorkOrdersBrowserTest, APreviewComesAndGoesWithTheSelection) {
     const Names open = {"abierto.rpt"};
     const Names alone = {"15 - log1.nbr", "15 - log2.nbr"};
     const Names adding = {"abierto.rpt", "15 - log1.nbr", "15 - log2.nbr"};
-    WorkOrdersBrowser browser(desk.session);
+    WorkOrdersBrowser browser(session);
     EXPECT_THAT(browser.previewChoices(),
                 ElementsAre(OrderPreview::None, OrderPreview::Alone, OrderPreview::Adding));
     browser.showFolder(card);
     browser.select(0);
-    EXPECT_EQ(desk.listed(), open);
+    EXPECT_EQ(listed(), open);
     browser.choosePreview(OrderPreview::Alone);
-    EXPECT_EQ(desk.listed(), alone);
+    EXPECT_EQ(listed(), alone);
     browser.choosePreview(OrderPreview::Adding);
-    EXPECT_EQ(desk.listed(), adding);
+    EXPECT_EQ(listed(), adding);
     browser.select(1);
-    EXPECT_EQ(desk.listed(), (Names{"abierto.rpt", "log3.nbr"}));
+    EXPECT_EQ(listed(), (Names{"abierto.rpt", "log3.nbr"}));
     browser.select(std::nullopt);
-    EXPECT_EQ(desk.listed(), open);
+    EXPECT_EQ(listed(), open);
     browser.select(0);
     browser.showFolder(card);
-    EXPECT_EQ(desk.listed(), open) << "another folder has no selection";
+    EXPECT_EQ(listed(), open) << "another folder has no selection";
     browser.select(0);
     browser.choosePreview(OrderPreview::Alone);
     EXPECT_EQ(browser.open(step), 2);
-    EXPECT_EQ(desk.listed(), adding);
+    EXPECT_EQ(listed(), adding);
 }
 
 TEST_F(WorkOrdersBrowserTest, CancellingPutsBackWhatAPreviewReplaced) {
     writeTrack("menos.nbr", "15", "6001", 2);  // the work of log1.nbr, less complete
-    ASSERT_TRUE(desk.session.loadFile(desk.folder.file("menos.nbr"), false, true));
-    const Names before = desk.listed();
-    const std::string title = desk.window.title;
+    ASSERT_TRUE(session.loadFile(folder.file("menos.nbr"), false, true));
+    const Names before = listed();
+    const std::string title = window.title;
     for (const OrderPreview preview : {OrderPreview::Alone, OrderPreview::Adding}) {
-        WorkOrdersBrowser browser(desk.session);
+        WorkOrdersBrowser browser(session);
         browser.showFolder(card);
         browser.choosePreview(preview);
         browser.select(0);
-        EXPECT_NE(desk.listed(), before);
+        EXPECT_NE(listed(), before);
         browser.cancel();
-        EXPECT_EQ(desk.listed(), before);
-        EXPECT_EQ(desk.window.title, title);
+        EXPECT_EQ(listed(), before);
+        EXPECT_EQ(window.title, title);
     }
-    EXPECT_THAT(desk.dialogs.questions, IsEmpty()) << "a preview asks nothing";
-    desk.session.reset();
-    EXPECT_EQ(WorkOrdersBrowser(desk.session).previewChoices().size(), 2U);
+    EXPECT_THAT(dialogs.questions, IsEmpty()) << "a preview asks nothing";
+    session.reset();
+    EXPECT_EQ(WorkOrdersBrowser(session).previewChoices().size(), 2U);
 }
 
 TEST_F(WorkOrdersBrowserTest, CopiesToAFolderThatItRemembers) {
-    WorkOrdersBrowser browser(desk.session);
+    WorkOrdersBrowser browser(session);
     browser.showFolder(card);
     browser.select(0);
-    desk.dialogs.folderAnswers = {"", desk.folder.path(), ""};
+    dialogs.folderAnswers = {"", folder.path(), ""};
     for (int i = 0; i < 3; ++i) {
         browser.copy();
     }
-    ASSERT_EQ(desk.dialogs.folders.size(), 3U);
-    EXPECT_EQ(desk.dialogs.folders[0].caption, "Seleccionar carpeta");
-    EXPECT_EQ(desk.dialogs.folders[0].entry, "[Archivos de la orden]");
-    EXPECT_EQ(desk.dialogs.folders[0].folder, card);
-    EXPECT_EQ(desk.dialogs.folders[2].folder, desk.folder.path());
-    EXPECT_EQ(desk.settings.values["SelectFolder"], desk.folder.path());
-    EXPECT_THAT(desk.dialogs.messages, ElementsAre("Information|Campora| 2 archivos copiados"));
-    EXPECT_TRUE(std::filesystem::exists(nativePath(desk.folder.file("log2.nbr"))));
+    ASSERT_EQ(dialogs.folders.size(), 3U);
+    EXPECT_EQ(dialogs.folders[0].caption, "Seleccionar carpeta");
+    EXPECT_EQ(dialogs.folders[0].entry, "[Archivos de la orden]");
+    EXPECT_EQ(dialogs.folders[0].folder, card);
+    EXPECT_EQ(dialogs.folders[0].files.patterns, Names{"*.nbr"});
+    EXPECT_EQ(dialogs.folders[2].folder, folder.path());
+    EXPECT_EQ(settings.values["SelectFolder"], folder.path());
+    EXPECT_THAT(dialogs.messages, ElementsAre("Information|Campora| 2 archivos copiados"));
+    EXPECT_TRUE(std::filesystem::exists(nativePath(folder.file("log2.nbr"))));
 }
 
 }  // namespace
