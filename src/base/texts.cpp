@@ -31,10 +31,6 @@ constexpr auto kPlaces = [] {
 
 }  // namespace
 
-int textOffset(Language language) {
-    return 300 * static_cast<int>(language);
-}
-
 std::string_view Texts::operator()(TextId id) const {
     const auto number = static_cast<std::size_t>(id);
     const std::uint16_t place = number < kEndOfIds ? kPlaces[number] : std::uint16_t{0};

@@ -15,9 +15,6 @@ namespace campora {
 
 enum class Language { Spanish, Portuguese, English };
 
-/// Offset of a language's texts in the table: 0, 300 or 600.
-[[nodiscard]] int textOffset(Language language);
-
 /// The interface texts in one language, which can be changed while the program runs.
 class Texts {
 public:
