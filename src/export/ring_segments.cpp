@@ -159,7 +159,9 @@ private:
 /// Keeps one of each that is there an odd number of times.
 void dropPairs(std::vector<Edge>& edges) {
     for (Edge& edge : edges) {
-        edge = std::minmax(edge.first, edge.second);
+        if (edge.second < edge.first) {
+            std::swap(edge.first, edge.second);
+        }
     }
     std::sort(edges.begin(), edges.end());
     std::vector<Edge> kept;

@@ -1,0 +1,34 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "base/json_text.h"
+
+#include <gtest/gtest.h>
+
+namespace campora {
+namespace {
+
+TEST(JsonText, EscapesWhatAStringCannotHold) {
+    struct Row {
+        const char* name;
+        std::string text;
+        const char* json;
+    };
+    const Row rows[] = {
+        {"empty", "", "\"\""},
+        {"quotes and backslashes", R"(c:\datos\"a")", R"("c:\\datos\\\"a\"")"},
+        {"line ends and tabs", "a\r\n\tb", R"("a\r\n\tb")"},
+        {"other control characters", std::string("\0\x1F\x7F", 3), "\"\\u0000\\u001F\x7F\""},
+        {"letters stay", "\u00d1and\u00fa \u4e2d", "\"\u00d1and\u00fa \u4e2d\""},
+        {"bytes of another code page",
+         "Ca\xF1"
+         "ada",
+         "\"Ca\u00f1ada\""},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(jsonText(row.text), row.json) << row.name;
+    }
+}
+
+}  // namespace
+}  // namespace campora

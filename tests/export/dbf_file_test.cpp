@@ -1,0 +1,183 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "export/dbf_file.h"
+
+#include <stdexcept>
+
+#include <gtest/gtest.h>
+
+#include "support/hex_bytes.h"
+#include "support/temp_folder.h"
+
+namespace campora {
+namespace {
+
+constexpr Date kToday{2026, 11, 3};
+
+struct DbfTest : testing::Test {
+    /// The file's bytes behind its header of one field; the test fails when it is not that long.
+    std::string recordsOf(DbfFile& table) {
+        EXPECT_EQ(table.closeDBF(), std::nullopt);
+        const std::string bytes = contentOf(path);
+        EXPECT_GE(bytes.size(), 65U);
+        return bytes.substr(std::min<std::size_t>(bytes.size(), 65));
+    }
+
+    TempFolder folder;
+    std::string base = folder.file("tabla");
+    std::string path = base + ".dbf";
+};
+
+TEST_F(DbfTest, WholeFileByteForByte) {
+    DbfFile table;
+    EXPECT_EQ(table.addField("id", DbfType::Numeric, 5, 0), 1);
+    EXPECT_EQ(table.addField("Descripci\u00f3n larga", DbfType::Character, 10, 3), 2);
+    EXPECT_EQ(table.addField("Fecha", DbfType::Date, 4, 1), 3);
+    EXPECT_EQ(table.addField("Dosis", DbfType::Numeric, 15, 3), 4);
+    ASSERT_EQ(table.createDBF(base), std::nullopt);
+    table.recordField(1, std::int64_t{7});
+    table.recordField(2, std::string("Ca\u00f1ada"));
+    table.recordField(3, Date{2011, 3, 5});
+    table.recordField(4, std::string("12,5"));
+    table.writeRecord();
+    EXPECT_EQ(table.recordCount(), 1);
+    ASSERT_EQ(table.closeDBF(), std::nullopt);
+    EXPECT_EQ(hexDump(contentOf(path)), hexDump(hexBytes(R"(
+        03 63 01 1E  01 00 00 00  A1 00  27 00  00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00
+                                                00 00 00 00
+        'id' 00 00 00 00 00 00 00 00 00  'N'  00 00 00 00  05 00
+                                                00 00 00 00 00 00 00 00 00 00 00 00 00 00
+        'Descripci' F3 'n'  'C'  00 00 00 00  0A 0A
+                                                00 00 00 00 00 00 00 00 00 00 00 00 00 00
+        'Fecha' 00 00 00 00 00 00  'D'  00 00 00 00  08 08
+                                                00 00 00 00 00 00 00 00 00 00 00 00 00 00
+        'Dosis' 00 00 00 00 00 00  'N'  00 00 00 00  0F 03
+                                                00 00 00 00 00 00 00 00 00 00 00 00 00 00
+        0D
+        ' ' '7    ' 'Ca' F1 'ada    ' '20110305' '12.5           ')")));
+}
+
+TEST_F(DbfTest, CountsStandInTheHeaderWhenTheTableIsClosed) {
+    DbfFile table;
+    table.addField("id", DbfType::Numeric, 5, 0);
+    ASSERT_EQ(table.createDBF(base), std::nullopt);
+    for (std::int64_t row = 0; row < 300; ++row) {
+        table.recordField(1, row);
+        table.writeRecord();
+    }
+    ASSERT_EQ(table.closeDBF(), std::nullopt);
+    const std::string bytes = contentOf(path);
+    EXPECT_EQ(hexDump(bytes.substr(4, 8)), hexDump(hexBytes("2C 01 00 00  41 00  06 00")));
+    ASSERT_EQ(bytes.size(), 65U + 300 * 6);
+    EXPECT_EQ(bytes.substr(65 + 12 * 6, 6), " 12   ");
+    EXPECT_EQ(bytes.substr(bytes.size() - 6), " 299  ") << "nothing ends the file";
+}
+
+TEST_F(DbfTest, ValuesByTheTypeOfTheirField) {
+    struct Row {
+        const char* name;
+        DbfType type;
+        CellValue value;
+        const char* plain;
+        const char* gis;
+    };
+    const Row rows[] = {
+        {"whole", DbfType::Numeric, std::int64_t{-12}, "-12     ", "     -12"},
+        {"single", DbfType::Numeric, 12.3F, "12.3    ", "    12.3"},
+        {"double", DbfType::Numeric, 0.1, "0.1     ", "     0.1"},
+        {"decimal comma", DbfType::Numeric, std::string("1,25"), "1.25    ", "    1.25"},
+        {"too long", DbfType::Numeric, std::string("123456789"), "12345678", "12345678"},
+        {"no number", DbfType::Numeric, {}, "        ", "        "},
+        {"text", DbfType::Character, std::string("a,b"), "a,b     ", "a,b     "},
+        {"text that fills the field", DbfType::Character, std::string("a,b.c,de"), "a.b.c.de",
+         "a,b.c,de"},
+        {"text that is cut", DbfType::Character, std::string("12345678,"), "12345678", "12345678"},
+        {"letters that take two bytes elsewhere", DbfType::Character,
+         std::string("\u00e1\u00e1\u00e1,\u00e1\u00e1\u00e1"), "\xE1\xE1\xE1,\xE1\xE1\xE1 ",
+         "\xE1\xE1\xE1,\xE1\xE1\xE1 "},
+        {"letters that the code page lacks", DbfType::Character, std::string("\u4e2d\u20ac"),
+         "?\x80      ", "?\x80      "},
+        {"number as text", DbfType::Character, 1.5, "1.5     ", "1.5     "},
+        {"date", DbfType::Date, Date{2011, 3, 5}, "20110305", "20110305"},
+        {"day before the first", DbfType::Date, Date{2011, 3, 0}, "20110228", "20110228"},
+        {"date by its number", DbfType::Date, std::int64_t{40607}, "20110305", "20110305"},
+        {"no date", DbfType::Date, {}, "        ", "        "},
+        {"text for a date", DbfType::Date, std::string("ayer"), "        ", "        "},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        for (const bool forGis : {false, true}) {
+            DbfFile table(forGis ? std::optional(kToday) : std::nullopt);
+            table.addField("c", row.type, 8, 2);
+            ASSERT_EQ(table.createDBF(base), std::nullopt);
+            table.recordField(1, row.value);
+            table.writeRecord();
+            EXPECT_EQ(recordsOf(table), std::string(" ") + (forGis ? row.gis : row.plain));
+        }
+    }
+}
+
+TEST_F(DbfTest, AFieldThatIsNotSetRepeatsItsValue) {
+    DbfFile table;
+    table.addField("c", DbfType::Character, 3, 0);
+    ASSERT_EQ(table.createDBF(base), std::nullopt);
+    table.recordField(0, std::string("xxx"));
+    table.recordField(-1, std::string("xxx"));
+    table.writeRecord();
+    table.recordField(1, std::string("abc"));
+    table.writeRecord();
+    table.writeRecord();
+    table.recordField(1, std::string("d"));
+    table.writeRecord();
+    EXPECT_THROW(table.recordField(2, std::string("x")), std::out_of_range);
+    EXPECT_EQ(recordsOf(table), "     abc abc d  ");
+}
+
+TEST_F(DbfTest, ForOtherProgramsTheHeaderHasTheDay) {
+    DbfFile table(kToday);
+    table.addField("nota", DbfType::Character, 10, 0);
+    table.addField("dia", DbfType::Date, 8, 0);
+    ASSERT_EQ(table.createDBF(base), std::nullopt);
+    ASSERT_EQ(table.closeDBF(), std::nullopt);
+    const std::string bytes = contentOf(path);
+    EXPECT_EQ(hexDump(bytes.substr(0, 4)), hexDump(hexBytes("03 7E 0B 03")));
+    EXPECT_EQ(hexDump(bytes.substr(32 + 16, 2)), hexDump(hexBytes("0A 00")));
+    EXPECT_EQ(hexDump(bytes.substr(64 + 16, 2)), hexDump(hexBytes("08 00")));
+}
+
+TEST_F(DbfTest, WhatTheHeaderCannotCountIsRefused) {
+    const std::string old = folder.write("tabla.dbf", "old");
+    struct Row {
+        const char* name;
+        int fields;
+        int length;
+        bool isFine;
+    };
+    const Row rows[] = {
+        {"longest record", 257, 254, true},    // 1 + 65,278 bytes
+        {"record too long", 259, 254, false},  // 65,787 bytes
+        {"most fields", 2046, 1, true},
+        {"too many fields", 2047, 1, false},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        DbfFile table;
+        for (int i = 0; i < row.fields; ++i) {
+            table.addField("c", DbfType::Character, row.length, 0);
+        }
+        const auto failure = table.createDBF(base);
+        EXPECT_EQ(!failure, row.isFine);
+        if (failure) {
+            EXPECT_EQ(failure->arguments, std::vector{old});
+            EXPECT_EQ(failure->cause.at(0).text, TextId::TableTooWide);
+        }
+        EXPECT_EQ(contentOf(path), "old") << "nothing is closed yet";
+    }
+    DbfFile table;
+    EXPECT_THROW(table.addField("c", DbfType::Numeric, 0, 0), std::invalid_argument);
+    EXPECT_THROW(table.addField("c", DbfType::Character, 256, 0), std::invalid_argument);
+}
+
+}  // namespace
+}  // namespace campora

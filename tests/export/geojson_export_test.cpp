@@ -1,0 +1,147 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "export/geojson_export.h"
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include "support/attribute_layer.h"
+#include "support/file_size_limit.h"
+#include "support/temp_folder.h"
+
+namespace campora {
+namespace {
+
+struct GeoJsonTest : testing::Test {
+    std::optional<Failure> write(const std::vector<Gph*>& layers) {
+        return exportGeoJson(layers, path, MapStyle(), progress);
+    }
+    nlohmann::json written(const std::vector<Gph*>& layers) {
+        EXPECT_EQ(write(layers), std::nullopt);
+        return nlohmann::json::parse(contentOf(path));
+    }
+
+    TempFolder folder;
+    std::string path = folder.file("campo \u00f1 & \"1\".geojson");
+    NoProgress silent;
+    ExportProgress progress{silent};
+};
+
+TEST_F(GeoJsonTest, WholeFile) {
+    AttributeLayer layer(
+        {{{1, 2}, {1, 3}, {2.5, 2}}, {{0, 0}, {2, 2}, {2, 0}, {0, 2}}},
+        {{"Dosis \"a\"", ColumnType::Real, {12.3F, CellValue()}},
+         {"Nota", ColumnType::Text, {std::string("\u00d1and\u00fa\n"), std::string()}},
+         {"Fecha", ColumnType::Date, {Date{2018, 3, 5}, CellValue()}}});
+    ASSERT_EQ(write({&layer}), std::nullopt);
+    EXPECT_EQ(contentOf(path), R"({"type":"FeatureCollection","features":[
+{"type":"Feature","geometry":{"type":"Polygon","coordinates":[[[1,2],[2.5,2],[1,3],[1,2]]]},)"
+                               R"("properties":{"Dosis \"a\"":12.3,"Nota":"Ñandú\n",)"
+                               R"("Fecha":"2018-03-05"}},
+{"type":"Feature","geometry":{"type":"MultiPolygon","coordinates":[)"
+                               R"([[[2,2],[1,1],[2,0],[2,2]]],[[[0,0],[1,1],[0,2],[0,0]]]]},)"
+                               R"("properties":{"Dosis \"a\"":null,"Nota":null,"Fecha":null}}
+]}
+)");
+}
+
+TEST_F(GeoJsonTest, PropertiesByTheTypeOfTheirColumn) {
+    struct Row {
+        const char* name;
+        ColumnType type;
+        CellValue cell;
+        const char* json;
+    };
+    const Row rows[] = {
+        {"integer", ColumnType::Integer, std::int64_t{-7}, "-7"},
+        {"integer, halves to even", ColumnType::Integer, 2.5F, "2"},
+        {"integer in a text", ColumnType::Integer, std::string("12"), "12"},
+        {"no integer", ColumnType::Integer, std::string("x"), "null"},
+        {"more than a shapefile holds", ColumnType::Integer, std::int64_t{123456789012},
+         "123456789012"},
+        {"single", ColumnType::Real, 0.1F, "0.1"},
+        {"double", ColumnType::Real, 1e-9, "0.000000001"},
+        {"large", ColumnType::Real, 1e21, "1000000000000000000000"},
+        {"whole", ColumnType::Real, std::int64_t{4294967295}, "4294967295"},
+        {"real in a text", ColumnType::Real, std::string("1.5 l"), "1.5"},
+        {"text", ColumnType::Text, std::string("a\\b"), R"("a\\b")"},
+        {"text of another code page", ColumnType::Text, std::string("Ca\xF1"), "\"Ca\u00f1\""},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        AttributeLayer layer({squareAt(0, 0)}, {{"c", row.type, {row.cell}}});
+        ASSERT_EQ(write({&layer}), std::nullopt);
+        EXPECT_NE(contentOf(path).find(std::string("{\"c\":") + row.json + "}}"), std::string::npos)
+            << contentOf(path);
+    }
+}
+
+TEST_F(GeoJsonTest, ColumnsOfAllLayers) {
+    AttributeLayer one({squareAt(0, 0)}, {{"A", ColumnType::Integer, {std::int64_t{1}}}});
+    AttributeLayer two({squareAt(3, 0), squareAt(5, 0)},
+                       {{"B", ColumnType::Text, {std::string("x"), std::string("y")}}});
+    AttributeLayer none({squareAt(9, 0)}, {});
+    const nlohmann::json both = written({&one, &two})["features"];
+    ASSERT_EQ(both.size(), 3U);
+    EXPECT_EQ(both[0]["properties"], nlohmann::json::parse(R"({"A":1,"B":null})"));
+    EXPECT_EQ(both[2]["properties"], nlohmann::json::parse(R"({"A":null,"B":"y"})"));
+    const nlohmann::json numbered = written({&two, &none})["features"];
+    EXPECT_EQ(numbered[1]["properties"], nlohmann::json::parse(R"({"id":1})"));
+    EXPECT_EQ(numbered[2]["properties"], nlohmann::json::parse(R"({"id":0})"));
+}
+
+TEST_F(GeoJsonTest, AHoleRunsWithTheClock) {
+    RingLayer layer(
+        {{{0, 0}, {6, 0}, {6, 6}, {0, 6}, {0, 0}, {2, 2}, {2, 4}, {4, 4}, {4, 2}, {2, 2}}});
+    const nlohmann::json rings = written({&layer})["features"][0]["geometry"]["coordinates"];
+    ASSERT_EQ(rings.size(), 2U);
+    const auto turns = [](const nlohmann::json& ring) {
+        double sum = 0;
+        for (std::size_t i = 0; i + 1 < ring.size(); ++i) {
+            sum += ring[i][0].get<double>() * ring[i + 1][1].get<double>() -
+                   ring[i + 1][0].get<double>() * ring[i][1].get<double>();
+        }
+        return sum / 2;
+    };
+    EXPECT_EQ(turns(rings[0]), 36);
+    EXPECT_EQ(turns(rings[1]), -4);
+}
+
+TEST_F(GeoJsonTest, PointsWhereThereAreNoPolygons) {
+    PointLayer layer({{-58.12345678949, 34}, {0.1 + 0.2, -0.0}});
+    const nlohmann::json features = written({&layer})["features"];
+    ASSERT_EQ(features.size(), 2U);
+    EXPECT_EQ(features[0]["geometry"].dump(),
+              R"({"coordinates":[-58.123456789,34],"type":"Point"})");
+    EXPECT_EQ(features[1]["geometry"]["coordinates"].dump(), "[0.3,0]");
+}
+
+TEST_F(GeoJsonTest, FailuresAndCancellingLeaveTheOldFile) {
+    const std::string old = folder.write("old.geojson", "old");
+    path = old;
+    AttributeLayer empty({}, {});
+    EXPECT_EQ(write({&empty})->text, TextId::NothingToExportGis);
+    AttributeLayer line({{{0, 0}, {1, 1}}}, {});
+    EXPECT_EQ(write({&line})->text, TextId::NothingToExportGis);
+    RingLayer layer(std::vector<RingLayer::Ring>(5000, squareAt(0, 0)));
+    CancellingProgress enough;
+    ExportProgress cancelled(enough);
+    const std::vector<Gph*> layers = {&layer};
+    EXPECT_EQ(exportGeoJson(layers, path, MapStyle(), cancelled), std::nullopt);
+#ifndef _WIN32
+    std::optional<Failure> failure;
+    {
+        const FileSizeLimit limit(10000);
+        failure = write(layers);
+    }
+    ASSERT_TRUE(failure.has_value());
+    EXPECT_EQ(failure->cause.at(0).text, TextId::FileTooLarge);
+#endif
+    EXPECT_EQ(contentOf(path), "old");
+    path = folder.path();
+    EXPECT_EQ(write(layers)->cause.at(0).text, TextId::FileIsFolder);
+}
+
+}  // namespace
+}  // namespace campora

@@ -1,0 +1,394 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "export/shp_export.h"
+
+#include <filesystem>
+
+#include <gtest/gtest.h>
+
+#include "presc/shape_reader.h"
+#include "support/attribute_layer.h"
+#include "support/file_size_limit.h"
+#include "support/hex_bytes.h"
+#include "support/temp_folder.h"
+#include "support/work_records.h"
+#include "work/gph_track.h"
+
+namespace campora {
+namespace {
+
+using Column = AttributeLayer::Column;
+
+constexpr Date kToday{2026, 11, 3};
+const CellValue kNothing;
+
+std::int64_t whole(std::int64_t value) {
+    return value;
+}
+
+struct ShpTest : testing::Test {
+    std::optional<Failure> polygons(const std::vector<Gph*>& layers) {
+        return exportShpPolygons(layers, base, style, progress);
+    }
+    std::optional<Failure> points(const std::vector<Gph*>& layers) {
+        return exportShpPoints(layers, base, progress);
+    }
+    std::optional<Failure> gis(const std::vector<Gph*>& layers) {
+        return exportShpGis(layers, base, style, kToday, progress);
+    }
+    [[nodiscard]] std::string content(const char* ending) const { return contentOf(base + ending); }
+    /// The table without its header.
+    [[nodiscard]] std::string records(std::size_t fields) const {
+        return content(".dbf").substr(33 + 32 * fields);
+    }
+    [[nodiscard]] std::size_t fileCount() const {
+        const std::filesystem::directory_iterator entries(nativePath(folder.path()));
+        return static_cast<std::size_t>(std::distance(begin(entries), end(entries)));
+    }
+
+    TempFolder folder;
+    std::string base = folder.file("campo");
+    MapStyle style;
+    NoProgress silent;
+    ExportProgress progress{silent};
+};
+
+TEST_F(ShpTest, PolygonsByteForByte) {
+    // An open triangle and a closed one, against the clock; nothing in between.
+    AttributeLayer layer({{{1, 2}, {3, 2}, {1, 4}}, {}, {{0, 0}, {1, 0}, {0, 1}, {0, 0}}}, {});
+    ASSERT_EQ(polygons({&layer}), std::nullopt);
+    const std::string box = hexBytes(R"(
+        00 00 00 00 00 00 F0 BF  00 00 00 00 00 00 F0 BF
+        00 00 00 00 00 00 10 40  00 00 00 00 00 00 14 40)");  // -1 -1 4 5
+    const std::string noBox(32, '\0');
+    const std::string head = hexBytes(R"(
+        00 00 27 0A  00 00 00 00  00 00 00 00  00 00 00 00  00 00 00 00  00 00 00 00)");
+    const std::string type = hexBytes("E8 03 00 00  05 00 00 00");
+    EXPECT_EQ(hexDump(content(".shp")),
+              hexDump(head + hexBytes("00 00 00 A2") + type + box + noBox + hexBytes(R"(
+        00 00 00 01  00 00 00 30
+        05 00 00 00
+        00 00 00 00 00 00 F0 3F  00 00 00 00 00 00 00 40
+        00 00 00 00 00 00 08 40  00 00 00 00 00 00 10 40
+        01 00 00 00  03 00 00 00  00 00 00 00
+        00 00 00 00 00 00 F0 3F  00 00 00 00 00 00 00 40
+        00 00 00 00 00 00 08 40  00 00 00 00 00 00 00 40
+        00 00 00 00 00 00 F0 3F  00 00 00 00 00 00 10 40
+        00 00 00 02  00 00 00 38
+        05 00 00 00
+        00 00 00 00 00 00 00 00  00 00 00 00 00 00 00 00
+        00 00 00 00 00 00 F0 3F  00 00 00 00 00 00 F0 3F
+        01 00 00 00  04 00 00 00  00 00 00 00
+        00 00 00 00 00 00 00 00  00 00 00 00 00 00 00 00
+        00 00 00 00 00 00 F0 3F  00 00 00 00 00 00 00 00
+        00 00 00 00 00 00 00 00  00 00 00 00 00 00 F0 3F
+        00 00 00 00 00 00 00 00  00 00 00 00 00 00 00 00)")));
+    EXPECT_EQ(hexDump(content(".shx")),
+              hexDump(head + hexBytes("00 00 00 3A") + type + box + noBox + hexBytes(R"(
+        00 00 00 32  00 00 00 30
+        00 00 00 66  00 00 00 38)")));
+    EXPECT_EQ(records(1), " 0     2    ") << "the number in its layer";
+}
+
+TEST_F(ShpTest, PointsByteForByte) {
+    AttributeLayer first({squareAt(1, 2), squareAt(-3, 4)}, {});
+    AttributeLayer second({squareAt(5, 6)}, {});
+    ASSERT_EQ(points({&first, &second}), std::nullopt);
+    const std::string shapes = content(".shp");
+    ASSERT_EQ(shapes.size(), 184U);
+    EXPECT_EQ(hexDump(shapes.substr(24, 12)),
+              hexDump(hexBytes("00 00 00 5C E8 03 00 00 01 00 00 00")));
+    EXPECT_EQ(hexDump(shapes.substr(100)), hexDump(hexBytes(R"(
+        00 00 00 01  00 00 00 0A  01 00 00 00
+            00 00 00 00 00 00 F0 3F  00 00 00 00 00 00 00 40
+        00 00 00 02  00 00 00 0A  01 00 00 00
+            00 00 00 00 00 00 08 C0  00 00 00 00 00 00 10 40
+        00 00 00 03  00 00 00 0A  01 00 00 00
+            00 00 00 00 00 00 14 40  00 00 00 00 00 00 18 40)")));
+    EXPECT_EQ(hexDump(content(".shx").substr(100)), hexDump(hexBytes(R"(
+        00 00 00 32 00 00 00 0A  00 00 00 40 00 00 00 0A  00 00 00 4E 00 00 00 0A)")));
+    EXPECT_EQ(records(1), " 0     1     0    ") << "from 0 in every layer";
+}
+
+TEST_F(ShpTest, ReferenceAndCodePageStandBeside) {
+    AttributeLayer layer({squareAt(0, 0)}, {});
+    ASSERT_EQ(polygons({&layer}), std::nullopt);
+    EXPECT_EQ(content(".cpg"), "1252");
+    EXPECT_TRUE(content(".prj").starts_with("GEOGCS[\"GCS_WGS_1984\",DATUM["));
+    EXPECT_EQ(fileCount(), 5U);
+}
+
+TEST_F(ShpTest, CellsByTheTypeOfTheirColumn) {
+    struct Row {
+        const char* name;
+        ColumnType type;
+        CellValue cell;
+        const char* plain;
+        const char* gis;
+    };
+    const Row rows[] = {
+        {"integer", ColumnType::Integer, whole(42), "42    ", "    42"},
+        {"tie to even", ColumnType::Integer, 2.5F, "2     ", "     2"},
+        {"negative tie to even", ColumnType::Integer, -3.5, "-4    ", "    -4"},
+        {"number in a text", ColumnType::Integer, std::string("7 l"), "7     ", "     7"},
+        {"nothing", ColumnType::Integer, {}, "      ", "      "},
+        {"most of 16 bits", ColumnType::Integer, 32767.5F - 0.5F, "32767 ", " 32767"},
+        {"least of 16 bits", ColumnType::Integer, whole(-32768), "-32768", "-32768"},
+        {"real", ColumnType::Real, 12.3F, "12.300         ", "         12.300"},
+        {"rounded", ColumnType::Real, 0.0005, "0.001          ", "          0.001"},
+        {"whole number in a real column", ColumnType::Real, whole(4294967295), "4294967295.000 ",
+         " 4294967295.000"},
+        {"no real", ColumnType::Real, std::string("-"), "               ", "               "},
+        {"text", ColumnType::Text, std::string("Ca\u00f1ada"),
+         "Ca\xF1"
+         "ada    ",
+         "Ca\xF1"
+         "ada    "},
+        {"date", ColumnType::Date, Date{2018, 3, 5}, "20180305", "20180305"},
+        {"no date", ColumnType::Date, {}, "        ", "        "},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        AttributeLayer layer({squareAt(0, 0)}, {{"c", row.type, {row.cell}}});
+        ASSERT_EQ(polygons({&layer}), std::nullopt);
+        EXPECT_EQ(records(1), std::string(" ") + row.plain);
+        ASSERT_EQ(gis({&layer}), std::nullopt);
+        EXPECT_EQ(records(1), std::string(" ") + row.gis);
+    }
+}
+
+TEST_F(ShpTest, FieldsByTheTypeOfTheirColumn) {
+    AttributeLayer layer({squareAt(0, 0)}, {{"LitrosHectarea", ColumnType::Integer, {whole(1)}},
+                                            {"Caudal", ColumnType::Real, {1.0F}},
+                                            {"Hora", ColumnType::Text, {std::string("a")}},
+                                            {"Fecha", ColumnType::Date, {Date{2018, 1, 1}}}});
+    ASSERT_EQ(points({&layer}), std::nullopt);
+    const std::string table = content(".dbf");
+    const char* const expected[] = {
+        "'LitrosHect' 00 'N' 00 00 00 00 06 00",
+        "'Caudal' 00 00 00 00 00 'N' 00 00 00 00 0F 03",
+        "'Hora' 00 00 00 00 00 00 00 'C' 00 00 00 00 0A 0A",
+        "'Fecha' 00 00 00 00 00 00 'D' 00 00 00 00 08 08",
+    };
+    for (std::size_t i = 0; i < std::size(expected); ++i) {
+        EXPECT_EQ(hexDump(table.substr(32 + 32 * i, 18)), hexDump(hexBytes(expected[i]))) << i;
+    }
+}
+
+TEST_F(ShpTest, ColumnsOfLayersThatDiffer) {
+    AttributeLayer one({squareAt(0, 0)}, {{"A", ColumnType::Integer, {whole(1)}},
+                                          {"B", ColumnType::Integer, {whole(2)}}});
+    AttributeLayer two({squareAt(5, 0)}, {{"B", ColumnType::Integer, {whole(3)}},
+                                          {"C", ColumnType::Integer, {whole(4)}}});
+    AttributeLayer none({squareAt(9, 0)}, {});
+    AttributeLayer empty({}, {});
+    ASSERT_EQ(polygons({&one, &empty, &two}), std::nullopt);
+    EXPECT_EQ(records(2), " 1     2     "
+                          "       3     ")
+        << "those of the first, found by name";
+    ASSERT_EQ(gis({&one, &empty, &two}), std::nullopt);
+    EXPECT_EQ(records(3), "      1     2      "
+                          "            3     4")
+        << "all of them";
+    ASSERT_EQ(polygons({&one, &none}), std::nullopt);
+    EXPECT_EQ(records(1), " 0     0    ") << "a layer without columns leaves the number alone";
+}
+
+TEST_F(ShpTest, LayersThatLackTheFiguresAreLeftOut) {
+    NamedLayer picture("");
+    PointLayer pointsOnly({{7, 8}});
+    RingLayer ringsOnly({squareAt(0, 0)});
+    ASSERT_EQ(polygons({&picture, &pointsOnly, &ringsOnly}), std::nullopt);
+    EXPECT_EQ(records(1), " 0    ");
+    ASSERT_EQ(points({&picture, &pointsOnly, &ringsOnly}), std::nullopt);
+    EXPECT_EQ(records(1), " 0    ");
+    EXPECT_EQ(hexDump(content(".shp").substr(32, 36)),
+              hexDump(hexBytes("01 00 00 00") + std::string(32, '\0')))
+        << "no layer has a box";
+    ASSERT_EQ(gis({&picture, &pointsOnly}), std::nullopt);
+    EXPECT_EQ(content(".shp")[32], 1) << "points where there are no polygons";
+}
+
+TEST_F(ShpTest, NothingToWriteIsAFailureAndLeavesNoFile) {
+    NamedLayer picture("");
+    AttributeLayer empty({}, {});
+    AttributeLayer hollow({{}, {}}, {});
+    AttributeLayer line({{{0, 0}, {1, 1}}}, {});
+    for (const std::vector<Gph*>& layers : {std::vector<Gph*>{}, {&picture}, {&empty}}) {
+        EXPECT_EQ(polygons(layers)->text, TextId::NoPolygonsToExport);
+        EXPECT_EQ(points(layers)->text, TextId::NoPointsToExport);
+        EXPECT_EQ(gis(layers)->text, TextId::NothingToExportGis);
+    }
+    EXPECT_EQ(polygons({&hollow})->text, TextId::NoPolygonsToExport);
+    EXPECT_EQ(gis({&line})->text, TextId::NothingToExportGis) << "without area";
+    EXPECT_EQ(fileCount(), 0U);
+}
+
+TEST_F(ShpTest, StepsWithoutFlowFollowTheStyle) {
+    GphTrack track;
+    for (int i = 0; i < 4; ++i) {
+        const LonLat at = atMetres(10 * i, 0);
+        track.addPoint(at.x, at.y, loggerRecord(i == 1 ? 0.0F : 5.0F));
+    }
+    ASSERT_EQ(polygons({&track}), std::nullopt);
+    EXPECT_EQ(content(".shx").size(), 124U);
+    style.drawAll = false;
+    ASSERT_EQ(polygons({&track}), std::nullopt);
+    ShapeReader reader;
+    ASSERT_EQ(reader.open(base + ".shp"), std::nullopt);
+    EXPECT_EQ(reader.recordCount(), 2);
+    EXPECT_EQ(reader.fieldNumber(1), 5);
+}
+
+TEST_F(ShpTest, OwnReaderFindsWhatWasWritten) {
+    AttributeLayer layer({squareAt(-58.25, -34.5, 0.5), squareAt(10, 20)},
+                         {{"Dosis", ColumnType::Real, {12.3F, 99.0F}},
+                          {"Nota", ColumnType::Text, {std::string("\u00d1and\u00fa"), kNothing}},
+                          {"Fecha", ColumnType::Date, {Date{2018, 3, 5}, kNothing}}});
+    for (const bool forGis : {false, true}) {
+        SCOPED_TRACE(forGis);
+        ASSERT_EQ(forGis ? gis({&layer}) : polygons({&layer}), std::nullopt);
+        ShapeReader reader;
+        ASSERT_EQ(reader.open(base + ".shp"), std::nullopt);
+        EXPECT_FALSE(reader.damage() || reader.tableWarning());
+        ASSERT_EQ(reader.recordCount(), 2);
+        EXPECT_EQ(reader.partCount(), 1);
+        EXPECT_EQ(reader.partLastVertex(1), forGis ? 4 : 3);
+        EXPECT_EQ(reader.vertex(0), (LonLat{-58.25, -34.5}));
+        EXPECT_EQ(reader.fieldName(1), "Dosis");
+        EXPECT_EQ(reader.fieldValue(1), CellValue(12.3));
+        EXPECT_EQ(reader.fieldValue(2), CellValue(std::string("\u00d1and\u00fa")));
+        EXPECT_EQ(reader.fieldValue(3), (CellValue(Date{2018, 3, 5})));
+        reader.moveNext();
+        EXPECT_EQ(reader.fieldValue(3), CellValue());
+    }
+}
+
+TEST_F(ShpTest, GisRingsAreClosedClockwiseAndWithoutCrossings) {
+    AttributeLayer layer({squareAt(0, 0), {{0, 0}, {2, 2}, {2, 0}, {0, 2}}, {{0, 0}, {1, 1}}},
+                         {{"n", ColumnType::Integer, {whole(0), whole(1), whole(2)}}});
+    ASSERT_EQ(gis({&layer}), std::nullopt);
+    const std::string shapes = content(".shp");
+    EXPECT_EQ(hexDump(shapes.substr(36, 32)), hexDump(hexBytes(R"(
+        00 00 00 00 00 00 00 00  00 00 00 00 00 00 00 00
+        00 00 00 00 00 00 00 40  00 00 00 00 00 00 00 40)")))
+        << "what the polygons cover";
+    EXPECT_EQ(hexDump(content(".shx").substr(36, 32)), hexDump(shapes.substr(36, 32)));
+    ShapeReader reader;
+    ASSERT_EQ(reader.open(base + ".shp"), std::nullopt);
+    ASSERT_EQ(reader.recordCount(), 2) << "what has no area is left out with its row";
+    const LonLat square[] = {{0, 0}, {0, 1}, {1, 1}, {1, 0}, {0, 0}};
+    for (std::int32_t i = 0; i < 5; ++i) {
+        EXPECT_EQ(reader.vertex(i), square[i]) << i;
+    }
+    reader.moveNext();
+    EXPECT_EQ(reader.partCount(), 2) << "a bow tie is two triangles";
+    EXPECT_EQ(reader.partLastVertex(2), 7);
+    EXPECT_FALSE(reader.partIsHole(1) || reader.partIsHole(2));
+    EXPECT_EQ(reader.fieldNumber(1), 1);
+}
+
+TEST_F(ShpTest, GisColumnsAreWideEnoughForEveryCell) {
+    AttributeLayer layer(
+        {squareAt(0, 0), squareAt(5, 0)},
+        {{"i", ColumnType::Integer, {whole(-123456789), whole(1)}},
+         {"r", ColumnType::Real, {1.0F, 1e20}},
+         {"t", ColumnType::Text, {std::string("una, nota larga"), std::string("x")}}});
+    ASSERT_EQ(gis({&layer}), std::nullopt);
+    EXPECT_EQ(records(3), " -123456789"
+                          "                    1.000"
+                          "una, nota larga"
+                          "          1"
+                          "100000000000000000000.000"
+                          "x              ");
+    AttributeLayer beyond({squareAt(0, 0)}, {{"r", ColumnType::Real, {1e300}}});
+    const auto failure = gis({&beyond});
+    ASSERT_TRUE(failure.has_value());
+    EXPECT_EQ(failure->cause.at(0).text, TextId::CellDoesNotFit);
+    EXPECT_EQ(failure->cause.at(0).arguments.at(0), "r");
+}
+
+TEST_F(ShpTest, AnIntegerBeyond16BitsIsRefusedInThePlainForm) {
+    for (const std::int64_t value : {32768, -32769}) {
+        AttributeLayer layer({squareAt(0, 0)}, {{"Dosis", ColumnType::Integer, {value}}});
+        const auto failure = polygons({&layer});
+        ASSERT_TRUE(failure.has_value());
+        EXPECT_EQ(failure->arguments, std::vector{base + ".dbf"});
+        EXPECT_EQ(failure->cause.at(0).text, TextId::CellDoesNotFit);
+        EXPECT_EQ(fileCount(), 0U);
+    }
+}
+
+TEST_F(ShpTest, ExistingFilesAreReplacedTogetherOrNotAtAll) {
+    AttributeLayer layer({squareAt(0, 0)}, {});
+    (void)folder.write("campo.shp", "old");
+    (void)folder.write("campo.prj", "old");
+    ASSERT_EQ(polygons({&layer}), std::nullopt);
+    EXPECT_NE(content(".shp"), "old");
+    EXPECT_NE(content(".prj"), "old");
+    const std::string before = content(".shp");
+    std::filesystem::remove(nativePath(base + ".dbf"));
+    std::filesystem::create_directory(nativePath(base + ".dbf"));
+    AttributeLayer other({squareAt(7, 7)}, {});
+    for (const auto& failure : {polygons({&other}), points({&other}), gis({&other})}) {
+        ASSERT_TRUE(failure.has_value());
+        EXPECT_EQ(failure->arguments, std::vector{base + ".dbf"});
+        EXPECT_EQ(failure->cause.at(0).text, TextId::FileIsFolder);
+    }
+    EXPECT_EQ(content(".shp"), before);
+    EXPECT_EQ(fileCount(), 5U);
+}
+
+TEST_F(ShpTest, NamesMayHoldAnything) {
+    AttributeLayer layer({squareAt(0, 0)}, {});
+    const std::string odd =
+        folder.file("Lote \u00d1and\u00fa & \"4\" 'b' " + std::string(170, 'x'));
+    ASSERT_EQ(exportShpPolygons(std::vector<Gph*>{&layer}, odd, style, progress), std::nullopt);
+    ShapeReader reader;
+    EXPECT_EQ(reader.open(odd + ".shp"), std::nullopt);
+    EXPECT_EQ(reader.recordCount(), 1);
+    base = folder.file(std::string(300, 'x'));
+    EXPECT_EQ(polygons({&layer})->text, TextId::FileCannotBeWritten);
+    base = folder.file("none/campo");
+    EXPECT_EQ(polygons({&layer})->cause.at(0).text, TextId::FolderNotFound);
+    EXPECT_EQ(fileCount(), 5U);
+}
+
+TEST_F(ShpTest, CancellingLeavesTheOldFiles) {
+    AttributeLayer layer({squareAt(0, 0), squareAt(1, 1)}, {});
+    (void)folder.write("campo.shp", "old");
+    CancellingProgress enough;
+    ExportProgress cancelled(enough);
+    const std::vector<Gph*> layers = {&layer};
+    EXPECT_EQ(exportShpPoints(layers, base, cancelled), std::nullopt);
+    EXPECT_EQ(exportShpPolygons(layers, base, style, cancelled), std::nullopt);
+    EXPECT_EQ(exportShpGis(layers, base, style, kToday, cancelled), std::nullopt);
+    EXPECT_TRUE(cancelled.cancelled());
+    EXPECT_EQ(content(".shp"), "old");
+    EXPECT_EQ(fileCount(), 1U);
+}
+
+#ifndef _WIN32
+
+TEST_F(ShpTest, AFullDiskLeavesTheOldFiles) {
+    std::vector<RingLayer::Ring> squares(2000, squareAt(0, 0));
+    AttributeLayer layer(squares, {});
+    (void)folder.write("campo.shx", "old");
+    for (const bool forGis : {false, true}) {
+        std::optional<Failure> failure;
+        {
+            const FileSizeLimit limit(100000);
+            failure = forGis ? gis({&layer}) : polygons({&layer});
+        }
+        ASSERT_TRUE(failure.has_value());
+        EXPECT_EQ(failure->arguments, std::vector{base + ".shp"});
+        EXPECT_EQ(content(".shx"), "old");
+        EXPECT_EQ(fileCount(), 1U);
+    }
+}
+
+#endif
+
+}  // namespace
+}  // namespace campora

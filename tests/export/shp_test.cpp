@@ -1,0 +1,102 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "export/shp.h"
+
+#include <gtest/gtest.h>
+
+#include "support/hex_bytes.h"
+#include "support/temp_folder.h"
+
+namespace campora {
+namespace {
+
+struct ShpTrackTest : testing::Test {
+    static SwathFigure figure(double sumSpeed, double sumFlow, std::int32_t points, float swath) {
+        static constexpr LonLat kRing[] = {{0, 0}, {0, 1}, {1, 1}, {1, 0}, {0, 0}};
+        return {kRing, sumSpeed, sumFlow, points, swath};
+    }
+    /// The rows of the table, in one.
+    std::string rows(const std::vector<SwathFigure>& figures) {
+        Shp shapes(base, {});
+        for (const SwathFigure& one : figures) {
+            shapes.add(one);
+        }
+        EXPECT_EQ(shapes.finish(), std::nullopt);
+        return contentOf(base + ".dbf").substr(33 + 3 * 32);
+    }
+
+    TempFolder folder;
+    std::string base = folder.file("log0105");
+};
+
+TEST_F(ShpTrackTest, AveragesAndLitresPerHectare) {
+    struct Row {
+        const char* name;
+        SwathFigure figure;
+        const char* row;
+    };
+    const Row table[] = {
+        {"one point", figure(200, 100, 1, 15), " 200 100 20.00 "},
+        {"averages", figure(600, 330, 3, 20), " 200 110 16.50 "},
+        {"halves to even", figure(401, 101, 2, 20), " 200 50  7.50  "},
+        {"halves to even, upwards", figure(403, 103, 2, 20), " 202 52  7.72  "},
+        {"width in whole metres", figure(200, 100, 1, 14.5F), " 200 100 21.43 "},
+        {"less than one", figure(900, 1, 1, 20), " 900 1   0.03  "},
+        {"cut to the field", figure(12000, 99999 * 0.2, 1, 1), " 120020001000.0"},
+        {"no speed", figure(0.4, 100, 1, 15), " 0   100       "},
+        {"no width", figure(200, 100, 1, 0.5F), " 200 100       "},
+    };
+    for (const Row& row : table) {
+        EXPECT_EQ(rows({row.figure}), row.row) << row.name;
+    }
+}
+
+TEST_F(ShpTrackTest, ARecordWithoutSpeedKeepsTheLitresBeforeIt) {
+    EXPECT_EQ(rows({figure(0, 100, 1, 15), figure(200, 100, 1, 15), figure(0, 50, 1, 15)}),
+              " 0   100       "
+              " 200 100 20.00 "
+              " 0   50  20.00 ");
+}
+
+TEST_F(ShpTrackTest, FilesOfTheTrack) {
+    BoundingBox extent;
+    extent.addPoint(-1, 0);
+    extent.addPoint(2, 4);
+    Shp shapes(base, extent);
+    shapes.add(figure(200, 100, 1, 15));
+    EXPECT_EQ(shapes.recordCount(), 1);
+    ASSERT_EQ(shapes.finish(), std::nullopt);
+    const std::string main = contentOf(base + ".shp");
+    EXPECT_EQ(hexDump(main.substr(24, 44)), hexDump(hexBytes(R"(
+        00 00 00 76  E8 03 00 00  05 00 00 00
+        00 00 00 00 00 00 F0 BF  00 00 00 00 00 00 00 00
+        00 00 00 00 00 00 00 40  00 00 00 00 00 00 10 40)")));
+    EXPECT_EQ(hexDump(main.substr(100, 12)),
+              hexDump(hexBytes("00 00 00 01 00 00 00 40 05 00 00 00")));
+    const std::string table = contentOf(base + ".dbf");
+    const char* const expected[] = {
+        "'Velocidad' 00 00 'N' 00 00 00 00 04 00",
+        "'Caudal' 00 00 00 00 00 'N' 00 00 00 00 04 00",
+        "'LitroHect' 00 00 'N' 00 00 00 00 06 02",
+    };
+    for (std::size_t i = 0; i < std::size(expected); ++i) {
+        EXPECT_EQ(hexDump(table.substr(32 + 32 * i, 18)), hexDump(hexBytes(expected[i]))) << i;
+    }
+}
+
+TEST_F(ShpTrackTest, AnAverageBeyond16BitsIsAFailure) {
+    const std::string old = folder.write("log0105.shp", "old");
+    for (const SwathFigure& bad : {figure(32768, 0, 1, 15), figure(0, -65600, 2, 15)}) {
+        Shp shapes(base, {});
+        shapes.add(bad);
+        EXPECT_TRUE(shapes.hasFailed());
+        const auto failure = shapes.finish();
+        ASSERT_TRUE(failure.has_value());
+        EXPECT_EQ(failure->cause.at(0).text, TextId::CellDoesNotFit);
+        EXPECT_EQ(contentOf(old), "old");
+    }
+}
+
+}  // namespace
+}  // namespace campora

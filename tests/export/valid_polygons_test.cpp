@@ -1,0 +1,205 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "export/valid_polygons.h"
+
+#include <cmath>
+#include <limits>
+#include <random>
+
+#include <gtest/gtest.h>
+
+#include "export/ring_segments.h"
+#include "model/ring_geometry.h"
+
+namespace campora {
+namespace {
+
+using Ring = std::vector<LonLat>;
+
+std::vector<ValidPolygon> valid(const Ring& ring, Corners corners = Corners::Anywhere) {
+    std::vector<ValidPolygon> polygons;
+    collectValidPolygons(ring, corners, polygons);
+    return polygons;
+}
+
+/// Every edge of all rings of the polygons.
+std::vector<std::pair<LonLat, LonLat>> edgesOf(const std::vector<ValidPolygon>& polygons) {
+    std::vector<std::pair<LonLat, LonLat>> edges;
+    const auto add = [&](const ClosedRing& ring) {
+        for (std::size_t i = 0; i + 1 < ring.size(); ++i) {
+            edges.emplace_back(ring[i], ring[i + 1]);
+        }
+    };
+    for (const ValidPolygon& polygon : polygons) {
+        add(polygon.outer);
+        std::for_each(polygon.holes.begin(), polygon.holes.end(), add);
+    }
+    return edges;
+}
+
+/// Two edges that share more than an end.
+bool cross(const std::pair<LonLat, LonLat>& one, const std::pair<LonLat, LonLat>& other) {
+    const int a = turnOf(one.first, one.second, other.first);
+    const int b = turnOf(one.first, one.second, other.second);
+    const int c = turnOf(other.first, other.second, one.first);
+    const int d = turnOf(other.first, other.second, one.second);
+    return a * b < 0 && c * d < 0;
+}
+
+/// Rings closed, of four points or more, wound the right way, no node twice, no crossings.
+void expectSimple(const std::vector<ValidPolygon>& polygons) {
+    const auto expectRing = [](const ClosedRing& ring, bool isHole) {
+        ASSERT_GE(ring.size(), 4U);
+        EXPECT_EQ(ring.front(), ring.back());
+        EXPECT_EQ(twiceArea(ring) > 0, isHole);
+        for (std::size_t i = 0; i + 1 < ring.size(); ++i) {
+            EXPECT_EQ(std::count(ring.begin() + 1, ring.end(), ring[i]), 1);
+        }
+    };
+    for (const ValidPolygon& polygon : polygons) {
+        expectRing(polygon.outer, false);
+        for (const ClosedRing& hole : polygon.holes) {
+            expectRing(hole, true);
+        }
+    }
+    const auto edges = edgesOf(polygons);
+    for (std::size_t i = 0; i < edges.size(); ++i) {
+        for (std::size_t j = i + 1; j < edges.size(); ++j) {
+            EXPECT_FALSE(cross(edges[i], edges[j])) << i << ' ' << j;
+        }
+    }
+}
+
+bool holds(const std::vector<ValidPolygon>& polygons, LonLat point) {
+    const auto inside = [&](const ClosedRing& ring) {
+        return pointInRing(std::span(ring).first(ring.size() - 1), point);
+    };
+    return std::any_of(polygons.begin(), polygons.end(), [&](const ValidPolygon& polygon) {
+        return inside(polygon.outer) &&
+               std::none_of(polygon.holes.begin(), polygon.holes.end(), inside);
+    });
+}
+
+TEST(ValidPolygons, GiveWhatTheRingEncloses) {
+    struct Row {
+        const char* name;
+        Ring ring;
+        std::size_t polygons;
+        std::size_t holes;
+        double area;
+    };
+    const Row rows[] = {
+        {"open square against the clock", {{0, 0}, {1, 0}, {1, 1}, {0, 1}}, 1, 0, 1},
+        {"closed square, clockwise", {{0, 0}, {0, 1}, {1, 1}, {1, 0}, {0, 0}}, 1, 0, 1},
+        {"repeated points",
+         {{0, 0}, {0, 0}, {1, 0}, {1, 1}, {1, 1}, {0, 1}, {0, 0}, {0, 0}},
+         1,
+         0,
+         1},
+        {"triangle", {{0, 0}, {2, 0}, {0, 2}}, 1, 0, 2},
+        {"hollow corner", {{0, 0}, {2, 0}, {0.5, 0.5}, {0, 2}}, 1, 0, 1},
+        {"corner within an edge", {{0, 0}, {1, 0}, {2, 0}, {2, 2}, {0, 2}}, 1, 0, 4},
+        {"bow tie", {{0, 0}, {2, 2}, {2, 0}, {0, 2}}, 2, 0, 2},
+        {"bow tie the other way", {{0, 0}, {2, 0}, {0, 2}, {2, 2}}, 2, 0, 2},
+        {"corner on the edge opposite", {{0, 0}, {4, 0}, {4, 2}, {2, 0}, {0, 2}}, 2, 0, 4},
+        {"spike outside", {{0, 0}, {2, 0}, {2, 1}, {5, 1}, {2, 1}, {2, 2}, {0, 2}}, 1, 0, 4},
+        {"spike inside", {{0, 0}, {2, 0}, {2, 1}, {1, 1}, {2, 1}, {2, 2}, {0, 2}}, 1, 0, 4},
+        {"spike along an edge", {{0, 0}, {4, 0}, {2, 0}, {2, 2}, {0, 2}}, 1, 0, 4},
+        {"a hole reached by a cut",
+         {{0, 0}, {6, 0}, {6, 6}, {0, 6}, {0, 0}, {2, 2}, {2, 4}, {4, 4}, {4, 2}, {2, 2}},
+         1,
+         1,
+         32},
+        {"a hole that touches a corner",
+         {{0, 0}, {6, 0}, {6, 6}, {0, 6}, {0, 0}, {1, 3}, {3, 1}},
+         1,
+         1,
+         32},
+        {"star of five, its middle counted twice",
+         {{0, 3}, {1.8, -2.4}, {-2.9, 0.9}, {2.9, 0.9}, {-1.8, -2.4}},
+         5,
+         0,
+         0},
+        {"there and back", {{0, 0}, {1, 1}, {2, 2}, {1, 1}}, 0, 0, 0},
+        {"twice round", {{0, 0}, {1, 0}, {1, 1}, {0, 0}, {1, 0}, {1, 1}}, 0, 0, 0},
+        {"on a line", {{0, 0}, {1, 1}, {3, 3}, {2, 2}}, 0, 0, 0},
+        {"two points", {{0, 0}, {1, 1}, {0, 0}}, 0, 0, 0},
+        {"one point", {{5, 5}, {5, 5}, {5, 5}}, 0, 0, 0},
+        {"nothing", {}, 0, 0, 0},
+        {"no number", {{0, 0}, {1, 0}, {1, std::nan("")}, {0, 1}}, 0, 0, 0},
+        {"infinite", {{0, 0}, {1, 0}, {std::numeric_limits<double>::infinity(), 1}}, 0, 0, 0},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        const std::vector<ValidPolygon> polygons = valid(row.ring);
+        expectSimple(polygons);
+        EXPECT_EQ(polygons.size(), row.polygons);
+        std::size_t holes = 0;
+        double area = 0;
+        for (const ValidPolygon& polygon : polygons) {
+            holes += polygon.holes.size();
+            area -= twiceArea(polygon.outer) / 2;
+            for (const ClosedRing& hole : polygon.holes) {
+                area -= twiceArea(hole) / 2;
+            }
+        }
+        EXPECT_EQ(holes, row.holes);
+        if (row.area > 0) {
+            EXPECT_NEAR(area, row.area, 1e-12);
+        }
+    }
+}
+
+TEST(ValidPolygons, AnyScribbleBecomesSimpleAndKeepsItsSurface) {
+    std::mt19937 random(5);
+    std::uniform_real_distribution<double> somewhere(0, 1);
+    for (int round = 0; round < 60; ++round) {
+        SCOPED_TRACE(round);
+        Ring ring(static_cast<std::size_t>(4 + round / 4));
+        for (LonLat& point : ring) {
+            // Every third scribble has its corners on a coarse grid, where much coincides.
+            const double grid = round % 3 == 0 ? 4 : 1e6;
+            point = {-58 + std::round(somewhere(random) * grid) / grid * 1e-3,
+                     -34 + std::round(somewhere(random) * grid) / grid * 1e-3};
+        }
+        for (const Corners corners : {Corners::Anywhere, Corners::OnFineGrid}) {
+            const std::vector<ValidPolygon> polygons = valid(ring, corners);
+            expectSimple(polygons);
+            for (int i = 0; i < 50; ++i) {
+                const LonLat point{-58 + somewhere(random) * 1e-3, -34 + somewhere(random) * 1e-3};
+                EXPECT_EQ(holds(polygons, point), pointInRing(ring, point)) << i;
+            }
+        }
+    }
+}
+
+TEST(ValidPolygons, OnTheGridEveryCornerIsOnIt) {
+    const Ring ring = {{-58.1234567891234, -34.1},
+                       {-58.1, -34.1234567894999},
+                       {-58.1, -34.1},
+                       {-58.12345, -34.12345678}};
+    const std::vector<ValidPolygon> polygons = valid(ring, Corners::OnFineGrid);
+    ASSERT_EQ(polygons.size(), 2U);
+    for (const auto& [from, to] : edgesOf(polygons)) {
+        EXPECT_EQ(from, onFineGrid(from));
+    }
+    EXPECT_EQ(onFineGrid({-58.1234567891234, 34.1234567895001}),
+              (LonLat{-58.123456789, 34.12345679}));
+    EXPECT_TRUE(valid({{0, 0}, {1e-10, 0}, {0, 1}}, Corners::OnFineGrid).empty())
+        << "too thin for the grid";
+}
+
+TEST(ValidPolygons, ALongRingTakesNoLongTime) {
+    Ring ring;
+    for (int i = 0; i < 20000; ++i) {
+        const double angle = i * 6.283185307179586 / 20000;
+        const double radius = i % 2 == 0 ? 1 : 0.9999;
+        ring.push_back({radius * std::cos(angle), radius * std::sin(angle)});
+    }
+    ASSERT_EQ(valid(ring).size(), 1U);
+    EXPECT_EQ(valid(ring).front().outer.size(), 20001U);
+}
+
+}  // namespace
+}  // namespace campora

@@ -1,0 +1,114 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "work/swath_groups.h"
+
+#include <gtest/gtest.h>
+
+#include "model/ring_geometry.h"
+#include "support/work_records.h"
+#include "work/swath_geometry.h"
+
+namespace campora {
+namespace {
+
+/// A point every 10 m on a bend to the north.
+GphTrack bend(const std::vector<TrackDataNBR>& records) {
+    GphTrack track;
+    for (std::size_t i = 0; i < records.size(); ++i) {
+        const auto x = static_cast<double>(i) * 10;
+        const LonLat at = atMetres(x, x * x / 400);
+        track.addPoint(at.x, at.y, records[i]);
+    }
+    return track;
+}
+
+/// "first+steps" of every group.
+std::string groupsOf(const GphTrack& pass, std::size_t most, bool onlySprayed) {
+    std::string text;
+    std::size_t step = 0;
+    while (const auto group = nextSwathGroup(pass, step, most, onlySprayed)) {
+        text += (text.empty() ? "" : " ") + std::to_string(group->first) + "+" +
+                std::to_string(group->steps);
+        step = group->first + group->steps;
+    }
+    return text;
+}
+
+TEST(SwathGroups, DivideAPass) {
+    struct Row {
+        const char* name;
+        std::vector<float> flows;
+        std::vector<float> widths;  // 20 where there is none
+        std::size_t most;
+        const char* all;
+        const char* sprayed;
+    };
+    const Row rows[] = {
+        {"none", {}, {}, 10, "", ""},
+        {"one point", {5}, {}, 10, "", ""},
+        {"two points", {5, 5}, {}, 10, "0+1", "0+1"},
+        {"whole groups", {5, 5, 5, 5, 5}, {}, 2, "0+2 2+2", "0+2 2+2"},
+        {"a rest", {5, 5, 5, 5}, {}, 2, "0+2 2+1", "0+2 2+1"},
+        {"one step each", {5, 5, 5}, {}, 1, "0+1 1+1", "0+1 1+1"},
+        {"a stop ends a group", {5, 5, 0, 0, 5, 5, 5}, {}, 3, "0+3 3+3", "0+2 4+2"},
+        {"stops at the ends", {0, 5, 5, 0, 5}, {}, 10, "0+4", "1+2"},
+        {"nothing sprayed", {0, 0, 0}, {}, 10, "0+2", ""},
+        {"flow of the last point", {0, 0, 5}, {}, 10, "0+2", ""},
+        {"another width ends a group", {5, 5, 5, 5}, {20, 20, 15}, 10, "0+2 2+1", "0+2 2+1"},
+        {"width of the last point", {5, 5, 5}, {20, 20, 15}, 10, "0+2", "0+2"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        std::vector<TrackDataNBR> records;
+        for (std::size_t i = 0; i < row.flows.size(); ++i) {
+            const float width = i < row.widths.size() ? row.widths[i] : 20;
+            records.push_back(loggerRecord(row.flows[i], 200, width));
+        }
+        const GphTrack pass = bend(records);
+        EXPECT_EQ(groupsOf(pass, row.most, false), row.all);
+        EXPECT_EQ(groupsOf(pass, row.most, true), row.sprayed);
+    }
+}
+
+TEST(SwathGroups, SumsAreOverThePointsWhereStepsBegin) {
+    const GphTrack pass = bend({loggerRecord(10, 100), loggerRecord(20, 110), loggerRecord(40, 130),
+                                loggerRecord(80, 170)});
+    const auto first = nextSwathGroup(pass, 0, 2, false);
+    ASSERT_TRUE(first.has_value());
+    EXPECT_EQ(first->sumFlow, 30);
+    EXPECT_EQ(first->sumSpeed, 210);
+    EXPECT_EQ(first->swathMetres, 20);
+    const auto second = nextSwathGroup(pass, 2, 2, false);
+    ASSERT_TRUE(second.has_value());
+    EXPECT_EQ(second->sumFlow, 40) << "no step begins at the last point";
+}
+
+TEST(SwathGroups, RingsHaveTheCornersOfTheMapAndTile) {
+    const GphTrack pass = bend(std::vector<TrackDataNBR>(6, loggerRecord(5)));
+    std::vector<LonLat> one;
+    std::vector<LonLat> other;
+    collectSwathRing(pass, *nextSwathGroup(pass, 0, 3, false), one);
+    collectSwathRing(pass, *nextSwathGroup(pass, 3, 3, false), other);
+    ASSERT_EQ(one.size(), 9U);
+    ASSERT_EQ(other.size(), 7U);
+    EXPECT_EQ(one.front(), one.back());
+    for (std::size_t i = 0; i < 4; ++i) {
+        const SwathCorners corners = swathCorners(pass.points(), i, 20);
+        EXPECT_EQ(one[i], corners.left) << i;
+        EXPECT_EQ(one[7 - i], corners.right) << i;
+    }
+    EXPECT_EQ(one[3], other[0]);
+    EXPECT_EQ(one[4], other[5]) << "neighbours share an edge";
+    float quads = 0;
+    for (std::size_t step = 0; step < 5; ++step) {
+        quads += polygonArea(swathQuad(pass.points(), step, 20));
+    }
+    const auto area = [](const std::vector<LonLat>& ring) {
+        return polygonArea(std::span(ring).first(ring.size() - 1));
+    };
+    EXPECT_NEAR(area(one) + area(other), quads, 0.5) << "square metres of about 1000";
+}
+
+}  // namespace
+}  // namespace campora
