@@ -57,19 +57,20 @@ struct LegendDesk : SessionDesk {
     LegendCommands& commands = session.legend();
 };
 
-TEST(LegendCommands, WorkOnTheScaleThatIsShown) {
-    LegendDesk desk;
-    desk.commands.addClass();
-    EXPECT_EQ(desk.bounds(), (Bounds{0, 20, 40, 60, 80, 100}));
-    EXPECT_EQ(desk.window.legend.classes.size(), 5U);
-    EXPECT_GT(desk.redraws(), 0U);
-    desk.canvas.forget();
-    desk.session.defaultScale().setClassColor(0, {0x123456});
-    EXPECT_EQ(desk.redraws(), 0U) << "not the scale in the legend";
-    desk.session.selectFile(std::nullopt);
-    desk.commands.removeClass();
-    EXPECT_EQ(desk.session.defaultScale().count(), 5);
-    EXPECT_EQ(desk.scale().count(), 5) << "not the one in the legend";
+struct LegendCommandsTest : testing::Test, LegendDesk {};
+
+TEST_F(LegendCommandsTest, WorkOnTheScaleThatIsShown) {
+    commands.addClass();
+    EXPECT_EQ(bounds(), (Bounds{0, 20, 40, 60, 80, 100}));
+    EXPECT_EQ(window.legend.classes.size(), 5U);
+    EXPECT_GT(redraws(), 0U);
+    canvas.forget();
+    session.defaultScale().setClassColor(0, {0x123456});
+    EXPECT_EQ(redraws(), 0U) << "not the scale in the legend";
+    session.selectFile(std::nullopt);
+    commands.removeClass();
+    EXPECT_EQ(session.defaultScale().count(), 5);
+    EXPECT_EQ(scale().count(), 5) << "not the one in the legend";
 }
 
 TEST(LegendCommands, TheNumberOfClassesStaysWithinItsLimits) {
@@ -129,13 +130,12 @@ TEST(LegendCommands, ExtremesAreTypedInAnyForm) {
     }
 }
 
-TEST(LegendCommands, QuestionsProposeWhatIsThere) {
-    LegendDesk desk;
-    desk.locale = FixedLocale(',');
-    desk.scale().calcRanges(static_cast<double>(100.4F), 200, true);
-    desk.dialogs.inputAnswers = {"1", ""};
-    desk.commands.askExtremes();
-    EXPECT_THAT(desk.dialogs.inputs, ElementsAre(HasSubstr("|100,4"), HasSubstr("|200")));
+TEST_F(LegendCommandsTest, QuestionsProposeWhatIsThere) {
+    locale = FixedLocale(',');
+    scale().calcRanges(static_cast<double>(100.4F), 200, true);
+    dialogs.inputAnswers = {"1", ""};
+    commands.askExtremes();
+    EXPECT_THAT(dialogs.inputs, ElementsAre(HasSubstr("|100,4"), HasSubstr("|200")));
 }
 
 TEST(LegendCommands, FixedClassesAreNotTouched) {
@@ -234,27 +234,25 @@ TEST(LegendCommands, AValueIsTypedWhereItMayChange) {
     }
 }
 
-TEST(LegendCommands, FixedValuesAndIntervalsKeepTheirs) {
-    LegendDesk desk;
-    desk.commands.askClassValue(0);
-    desk.scale().allowValueChange = true;
-    desk.dialogs.inputAnswers = {"5"};
-    desk.commands.askClassValue(0);
-    desk.commands.askClassValue(4);
-    EXPECT_EQ(desk.bounds(), (Bounds{0, 25, 50, 75, 100}));
-    EXPECT_THAT(desk.dialogs.messages,
+TEST_F(LegendCommandsTest, FixedValuesAndIntervalsKeepTheirs) {
+    commands.askClassValue(0);
+    scale().allowValueChange = true;
+    dialogs.inputAnswers = {"5"};
+    commands.askClassValue(0);
+    commands.askClassValue(4);
+    EXPECT_EQ(bounds(), (Bounds{0, 25, 50, 75, 100}));
+    EXPECT_THAT(dialogs.messages,
                 ElementsAre("Exclamation|Campora|Los valores de esta escala no se pueden cambiar",
                             "Exclamation|Campora|No se puede cambiar un intervalo"));
 }
 
-TEST(LegendCommands, TheLegendSaysWhatIsAllowed) {
-    LegendDesk desk;
-    EXPECT_TRUE(desk.window.legend.classesCanChange);
-    EXPECT_FALSE(desk.window.legend.valuesCanChange);
-    desk.scale().allowClassEdit = false;
-    desk.makeSingleValues({1});
-    EXPECT_FALSE(desk.window.legend.classesCanChange);
-    EXPECT_TRUE(desk.window.legend.valuesCanChange);
+TEST_F(LegendCommandsTest, TheLegendSaysWhatIsAllowed) {
+    EXPECT_TRUE(window.legend.classesCanChange);
+    EXPECT_FALSE(window.legend.valuesCanChange);
+    scale().allowClassEdit = false;
+    makeSingleValues({1});
+    EXPECT_FALSE(window.legend.classesCanChange);
+    EXPECT_TRUE(window.legend.valuesCanChange);
 }
 
 }  // namespace

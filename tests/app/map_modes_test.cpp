@@ -157,47 +157,46 @@ TEST(MapModes, TheThreeMapsExcludeEachOther) {
     }
 }
 
-TEST(MapModes, TheDateMapNeedsADate) {
-    ModesDesk desk;
-    ASSERT_TRUE(desk.session.loadFile(desk.track("log0001.nbr", 5), false, true));
-    EXPECT_FALSE(desk.modes.canShowDates());
-    desk.modes.mnuColorDateMap();
-    EXPECT_EQ(desk.mode(), ColorMode::Dose);
-    desk.open("lote.rpt");
-    EXPECT_TRUE(desk.modes.canShowDates());
-    desk.modes.mnuColorDateMap();
-    EXPECT_TRUE(desk.session.defaultScale().isDate);
-    EXPECT_EQ(desk.window.legend.classes.front().text, "05/03/2018");
-    desk.modes.mnuColorDateMap();
-    EXPECT_FALSE(desk.session.defaultScale().isDate);
+struct MapModesTest : testing::Test, ModesDesk {};
+
+TEST_F(MapModesTest, TheDateMapNeedsADate) {
+    ASSERT_TRUE(session.loadFile(track("log0001.nbr", 5), false, true));
+    EXPECT_FALSE(modes.canShowDates());
+    modes.mnuColorDateMap();
+    EXPECT_EQ(mode(), ColorMode::Dose);
+    open("lote.rpt");
+    EXPECT_TRUE(modes.canShowDates());
+    modes.mnuColorDateMap();
+    EXPECT_TRUE(session.defaultScale().isDate);
+    EXPECT_EQ(window.legend.classes.front().text, "05/03/2018");
+    modes.mnuColorDateMap();
+    EXPECT_FALSE(session.defaultScale().isDate);
 }
 
-TEST(MapModes, LeavingTheAlarmMapKeepsTheUsersClasses) {
-    ModesDesk desk;
-    desk.open("lote.rpt");
-    desk.modes.mnuAlarmsPaint();
-    desk.session.defaultScale().setClassNumber(3);
-    desk.modes.mnuAlarmsPaint();
-    EXPECT_EQ(desk.window.legend.classes.size(), 3U);
-    EXPECT_EQ(desk.window.legend.reference.back().text, "Fondo");
+TEST_F(MapModesTest, LeavingTheAlarmMapKeepsTheUsersClasses) {
+    open("lote.rpt");
+    modes.mnuAlarmsPaint();
+    session.defaultScale().setClassNumber(3);
+    modes.mnuAlarmsPaint();
+    EXPECT_EQ(window.legend.classes.size(), 3U);
+    EXPECT_EQ(window.legend.reference.back().text, "Fondo");
 }
 
-TEST(MapModes, TheErrorMapTellsColoursAndHectares) {
-    ModesDesk desk;
-    desk.open("lote.rpt", 2);
-    desk.modes.mnuColorErrorMap();
-    EXPECT_EQ(desk.fills(), Lines{"0xFF00FF"}) << "15 % in total";
-    EXPECT_EQ(desk.window.summary.back(), (SummaryRow{"Hectareas Error", "0.04 Has"}));
-    desk.dialogs.inputAnswers = {"16"};
-    desk.modes.mnuColorErrorMapMin();
-    EXPECT_EQ(desk.window.summary.back().value, "0 Has");
-    desk.modes.mnuColorScaleSelCH(1);
-    EXPECT_EQ(desk.window.summary.back().value, "0.04 Has") << "20 % in the second channel";
-    EXPECT_EQ(desk.window.legend.classes.size(), 1U) << "one specified dose";
-    desk.modes.mnuColorScaleSelTotal();
-    EXPECT_EQ(desk.window.summary.back().value, "0 Has");
-    desk.modes.mnuColorDateMap();
-    EXPECT_EQ(desk.window.summary.back(), (SummaryRow{"Hectareas Error", " "}));
+TEST_F(MapModesTest, TheErrorMapTellsColoursAndHectares) {
+    open("lote.rpt", 2);
+    modes.mnuColorErrorMap();
+    EXPECT_EQ(fills(), Lines{"0xFF00FF"}) << "15 % in total";
+    EXPECT_EQ(window.summary.back(), (SummaryRow{"Hectareas Error", "0.04 Has"}));
+    dialogs.inputAnswers = {"16"};
+    modes.mnuColorErrorMapMin();
+    EXPECT_EQ(window.summary.back().value, "0 Has");
+    modes.mnuColorScaleSelCH(1);
+    EXPECT_EQ(window.summary.back().value, "0.04 Has") << "20 % in the second channel";
+    EXPECT_EQ(window.legend.classes.size(), 1U) << "one specified dose";
+    modes.mnuColorScaleSelTotal();
+    EXPECT_EQ(window.summary.back().value, "0 Has");
+    modes.mnuColorDateMap();
+    EXPECT_EQ(window.summary.back(), (SummaryRow{"Hectareas Error", " "}));
 }
 
 TEST(MapModes, TheAllowedErrorIsTakenAsTyped) {
@@ -232,64 +231,61 @@ TEST(MapModes, TheAllowedErrorIsTakenAsTyped) {
     EXPECT_TRUE(desk.dialogs.messages.empty());
 }
 
-TEST(MapModes, GraduatedWorkTakesTheColoursOfTheScale) {
-    ModesDesk desk;
-    desk.open("lote.rpt");
-    ASSERT_TRUE(desk.modes.isGraduated());
-    desk.modes.mnuEditGraduated();
-    EXPECT_EQ(desk.fills(), Lines{"0xFF8080"});
-    EXPECT_TRUE(desk.window.legend.classes.empty());
-    desk.forget();
-    desk.modes.mnuEditGraduated();
-    EXPECT_EQ(desk.fills(), Lines{"0x00FFFF"});
-    EXPECT_FALSE(desk.window.legend.classes.empty());
+TEST_F(MapModesTest, GraduatedWorkTakesTheColoursOfTheScale) {
+    open("lote.rpt");
+    ASSERT_TRUE(modes.isGraduated());
+    modes.mnuEditGraduated();
+    EXPECT_EQ(fills(), Lines{"0xFF8080"});
+    EXPECT_TRUE(window.legend.classes.empty());
+    forget();
+    modes.mnuEditGraduated();
+    EXPECT_EQ(fills(), Lines{"0x00FFFF"});
+    EXPECT_FALSE(window.legend.classes.empty());
 
-    ASSERT_TRUE(desk.session.loadFile(desk.track("log0001.nbr", 5), false, true));
-    desk.modes.mnuEditGraduatedByLtsMin();
-    EXPECT_TRUE(desk.modes.isGraduatedBy(GraduatedBy::Minute));
-    EXPECT_EQ(desk.window.legend.unit, "lts/min");
-    desk.modes.mnuEditGraduatedByLtsHect();
-    EXPECT_TRUE(desk.modes.isGraduatedBy(GraduatedBy::Hectare));
-    EXPECT_EQ(desk.window.legend.unit, "lt/hect");
+    ASSERT_TRUE(session.loadFile(track("log0001.nbr", 5), false, true));
+    modes.mnuEditGraduatedByLtsMin();
+    EXPECT_TRUE(modes.isGraduatedBy(GraduatedBy::Minute));
+    EXPECT_EQ(window.legend.unit, "lts/min");
+    modes.mnuEditGraduatedByLtsHect();
+    EXPECT_TRUE(modes.isGraduatedBy(GraduatedBy::Hectare));
+    EXPECT_EQ(window.legend.unit, "lt/hect");
 }
 
-TEST(MapModes, AsManyChannelsAreOfferedAsAFileHas) {
-    ModesDesk desk;
-    EXPECT_EQ(desk.modes.channelCount(), 0);
-    ASSERT_TRUE(desk.session.loadFile(desk.track("log0001.nbr", 5), false, true));
-    EXPECT_EQ(desk.modes.channelCount(), 0) << "loggers know no channels";
-    desk.open("uno.rpt", 1);
-    EXPECT_EQ(desk.modes.channelCount(), 1);
-    desk.open("tres.rpt", 3);
-    EXPECT_EQ(desk.modes.channelCount(), 3);
-    desk.session.addFile(std::make_unique<ChannelsFile>("plan", 5), true, false);
-    EXPECT_EQ(desk.modes.channelCount(), 5);
-    EXPECT_EQ(desk.modes.channelCaption(4), "Canal 5");
-    desk.modes.mnuColorScaleSelCH(4);
-    desk.session.reset();
-    EXPECT_EQ(desk.modes.channelCount(), 5) << "the one in use";
-    EXPECT_TRUE(desk.modes.isChannel(4));
-    desk.modes.mnuColorScaleSelTotal();
-    EXPECT_TRUE(desk.modes.isChannel(-1));
+TEST_F(MapModesTest, AsManyChannelsAreOfferedAsAFileHas) {
+    EXPECT_EQ(modes.channelCount(), 0);
+    ASSERT_TRUE(session.loadFile(track("log0001.nbr", 5), false, true));
+    EXPECT_EQ(modes.channelCount(), 0) << "loggers know no channels";
+    open("uno.rpt", 1);
+    EXPECT_EQ(modes.channelCount(), 1);
+    open("tres.rpt", 3);
+    EXPECT_EQ(modes.channelCount(), 3);
+    session.addFile(std::make_unique<ChannelsFile>("plan", 5), true, false);
+    EXPECT_EQ(modes.channelCount(), 5);
+    EXPECT_EQ(modes.channelCaption(4), "Canal 5");
+    modes.mnuColorScaleSelCH(4);
+    session.reset();
+    EXPECT_EQ(modes.channelCount(), 5) << "the one in use";
+    EXPECT_TRUE(modes.isChannel(4));
+    modes.mnuColorScaleSelTotal();
+    EXPECT_TRUE(modes.isChannel(-1));
 }
 
-TEST(MapModes, AFileWithoutTheChannelIsNamedAndKeepsItsOwn) {
-    ModesDesk desk;
+TEST_F(MapModesTest, AFileWithoutTheChannelIsNamedAndKeepsItsOwn) {
     auto two = std::make_unique<ChannelsFile>("dos.pre", 2);
     auto three = std::make_unique<ChannelsFile>("tres.pre", 3);
     const ChannelsFile& fewer = *two;
     const ChannelsFile& several = *three;
-    desk.session.addFile(std::move(two), true, false);
-    desk.session.addFile(std::move(three), true, false);
-    desk.open("lote.rpt", 3);
-    desk.modes.mnuColorScaleSelCH(2);
-    EXPECT_THAT(desk.dialogs.messages,
+    session.addFile(std::move(two), true, false);
+    session.addFile(std::move(three), true, false);
+    open("lote.rpt", 3);
+    modes.mnuColorScaleSelCH(2);
+    EXPECT_THAT(dialogs.messages,
                 ElementsAre("Exclamation|Campora|Advertencia: dos.pre no tiene un Canal 3"));
     EXPECT_EQ(fewer.current, 0);
     EXPECT_EQ(several.current, 2);
-    EXPECT_EQ(desk.session.style().selectedChannel, 2);
-    EXPECT_EQ(desk.window.legend.classes.front().text, "10") << "the doses of that channel";
-    EXPECT_EQ(desk.redraws(), 1U);
+    EXPECT_EQ(session.style().selectedChannel, 2);
+    EXPECT_EQ(window.legend.classes.front().text, "10") << "the doses of that channel";
+    EXPECT_EQ(redraws(), 1U);
 }
 
 TEST(MapModes, DrawingOptionsAreSeenAndSomeAreKept) {
@@ -336,14 +332,13 @@ TEST(MapModes, TheMachineReadLastNamesItsWork) {
     EXPECT_EQ(caption(), "Ver solo fumigado");
 }
 
-TEST(MapModes, TheSpeedReadOutGoesOnAndOff) {
-    ModesDesk desk;
-    EXPECT_FALSE(desk.modes.isSpeedShown());
-    desk.modes.mnuEditViewVel();
-    EXPECT_TRUE(desk.modes.isSpeedShown());
-    desk.modes.mnuEditViewVel();
-    EXPECT_FALSE(desk.modes.isSpeedShown());
-    EXPECT_EQ(desk.window.commandChanges, 2);
+TEST_F(MapModesTest, TheSpeedReadOutGoesOnAndOff) {
+    EXPECT_FALSE(modes.isSpeedShown());
+    modes.mnuEditViewVel();
+    EXPECT_TRUE(modes.isSpeedShown());
+    modes.mnuEditViewVel();
+    EXPECT_FALSE(modes.isSpeedShown());
+    EXPECT_EQ(window.commandChanges, 2);
 }
 
 TEST(MapModes, ASwathWidthIsGivenToAllWork) {

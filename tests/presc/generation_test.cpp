@@ -85,11 +85,12 @@ ZoneLayer oneZone(float dose, double widthM = 1000, double heightM = 500) {
     return layer;
 }
 
-TEST(Generation, AGridHasAMarginOfTwoCellsAndADoseWhereAZoneIs) {
-    Desk desk;
-    desk.dialogs.inputAnswers = {""};
-    ASSERT_TRUE(desk.pre({oneZone(85)}));
-    const PreFile file = desk.readPre();
+struct GenerationTest : testing::Test, Desk {};
+
+TEST_F(GenerationTest, AGridHasAMarginOfTwoCellsAndADoseWhereAZoneIs) {
+    dialogs.inputAnswers = {""};
+    ASSERT_TRUE(pre({oneZone(85)}));
+    const PreFile file = readPre();
     EXPECT_EQ(file.header.columns, 54);
     EXPECT_EQ(file.header.rows, 29);
     EXPECT_EQ(file.header.cellSize, 20);
@@ -98,23 +99,21 @@ TEST(Generation, AGridHasAMarginOfTwoCellsAndADoseWhereAZoneIs) {
     EXPECT_EQ(std::count(file.doses.begin(), file.doses.end(), 85), 50 * 25);
     EXPECT_EQ(file.doses.at(2 * 54 + 2), 85) << "the north-west corner of the field";
     EXPECT_EQ(file.doses.at(2 * 54 + 1), 0);
-    EXPECT_THAT(desk.files(), ElementsAre("lote.pre", "lote.rpt"));
-    EXPECT_EQ(std::filesystem::file_size(desk.folder.file("lote.rpt")), 54U * 29 * 32 - 2);
-    EXPECT_THAT(desk.dialogs.messages,
-                ElementsAre("Information|Campora|Se guardó " + desk.prePath +
+    EXPECT_THAT(files(), ElementsAre("lote.pre", "lote.rpt"));
+    EXPECT_EQ(std::filesystem::file_size(folder.file("lote.rpt")), 54U * 29 * 32 - 2);
+    EXPECT_THAT(dialogs.messages,
+                ElementsAre("Information|Campora|Se guardó " + prePath +
                             ": 1566 celdas, 62.64 ha\n"
                             "Canal 1: 1250 celdas con dosis, 50 ha, 4250 de producto"));
 }
 
-TEST(Generation, EveryChannelHasItsFallbackDose) {
-    Desk desk;
-    desk.dialogs.inputAnswers = {"33", "", "-1,5"};
+TEST_F(GenerationTest, EveryChannelHasItsFallbackDose) {
+    dialogs.inputAnswers = {"33", "", "-1,5"};
     ZoneLayer layer = oneZone(12.5F);
     layer.meanDose = 71.9F;
-    ASSERT_TRUE(desk.pre({layer, oneZone(13.5F), oneZone(1)}));
-    EXPECT_THAT(desk.dialogs.inputs,
-                ElementsAre("2150|Campora|71", "2151|Campora|0", "2152|Campora|0"));
-    const PreFile file = desk.readPre();
+    ASSERT_TRUE(pre({layer, oneZone(13.5F), oneZone(1)}));
+    EXPECT_THAT(dialogs.inputs, ElementsAre("2150|Campora|71", "2151|Campora|0", "2152|Campora|0"));
+    const PreFile file = readPre();
     EXPECT_EQ(file.header.channels, 3);
     ASSERT_EQ(file.doses.size(), 54U * 29 * 3);
     EXPECT_THAT(std::vector(file.doses.begin(), file.doses.begin() + 3), ElementsAre(33, 0, -2));
@@ -122,12 +121,11 @@ TEST(Generation, EveryChannelHasItsFallbackDose) {
     EXPECT_THAT(std::vector(inside, inside + 3), ElementsAre(12, 14, 1)) << "halves to even";
 }
 
-TEST(Generation, AVrtGoesNorthInHundredthsWithoutQuestions) {
-    Desk desk;
+TEST_F(GenerationTest, AVrtGoesNorthInHundredthsWithoutQuestions) {
     ZoneLayer layer = oneZone(12.34F);
     layer.add(7, {field(20, 20)});
-    ASSERT_TRUE(desk.vrt({layer}));
-    const VrtFile file = desk.readVrt();
+    ASSERT_TRUE(vrt({layer}));
+    const VrtFile file = readVrt();
     EXPECT_EQ(file.header.columns, 54);
     EXPECT_EQ(file.header.rows, 29);
     EXPECT_EQ(file.header.name, "Norte");
@@ -136,8 +134,8 @@ TEST(Generation, AVrtGoesNorthInHundredthsWithoutQuestions) {
     EXPECT_EQ(file.doses.at(0), 0);
     EXPECT_EQ(file.doses.at(2 * 54 + 2), 700) << "the south-west corner, laid last";
     EXPECT_EQ(file.doses.at(2 * 54 + 3), 1234);
-    EXPECT_THAT(desk.dialogs.inputs, IsEmpty());
-    EXPECT_THAT(desk.files(), ElementsAre("lote.vrt"));
+    EXPECT_THAT(dialogs.inputs, IsEmpty());
+    EXPECT_THAT(files(), ElementsAre("lote.vrt"));
 }
 
 TEST(Generation, TheCentresOfAVrtCountFromItsOriginInSinglePrecision) {
@@ -192,13 +190,12 @@ TEST(Generation, AGridTooLargeForConsolesIsAskedAbout) {
     }
 }
 
-TEST(Generation, AVrtTooLargeIsAskedAboutInItsOwnWords) {
-    Desk desk;
-    desk.dialogs.answers = {Answer::Yes};
-    desk.dialogs.inputAnswers = {"8.5"};
-    ASSERT_TRUE(desk.vrt({oneZone(5, 2000, 400)}, 7.5F));
-    EXPECT_THAT(desk.dialogs.questions, ElementsAre(HasSubstr("mayor a 8\n")));
-    EXPECT_EQ(desk.readVrt().header.resolution, 8.5F);
+TEST_F(GenerationTest, AVrtTooLargeIsAskedAboutInItsOwnWords) {
+    dialogs.answers = {Answer::Yes};
+    dialogs.inputAnswers = {"8.5"};
+    ASSERT_TRUE(vrt({oneZone(5, 2000, 400)}, 7.5F));
+    EXPECT_THAT(dialogs.questions, ElementsAre(HasSubstr("mayor a 8\n")));
+    EXPECT_EQ(readVrt().header.resolution, 8.5F);
 }
 
 TEST(Generation, WhatNoFileCanHoldIsRefusedBeforeAnythingIsWritten) {
@@ -239,13 +236,12 @@ TEST(Generation, WhatNoFileCanHoldIsRefusedBeforeAnythingIsWritten) {
     EXPECT_TRUE(fits.pre({oneZone(32767.4F)})) << "judged after rounding";
 }
 
-TEST(Generation, AGridBeyondTheFieldsOfTheFileIsRefused) {
-    Desk desk;
-    desk.dialogs.inputAnswers = {""};
-    desk.dialogs.answers = {Answer::No};
-    EXPECT_FALSE(desk.pre({oneZone(1, 33000, 100)}, 1));
-    EXPECT_THAT(desk.dialogs.messages, ElementsAre(HasSubstr("33004 columnas y 104 filas")));
-    EXPECT_THAT(desk.files(), IsEmpty());
+TEST_F(GenerationTest, AGridBeyondTheFieldsOfTheFileIsRefused) {
+    dialogs.inputAnswers = {""};
+    dialogs.answers = {Answer::No};
+    EXPECT_FALSE(pre({oneZone(1, 33000, 100)}, 1));
+    EXPECT_THAT(dialogs.messages, ElementsAre(HasSubstr("33004 columnas y 104 filas")));
+    EXPECT_THAT(files(), IsEmpty());
 }
 
 TEST(Generation, AnEarlierPrescriptionOutlivesWhatFails) {

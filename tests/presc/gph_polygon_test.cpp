@@ -67,29 +67,29 @@ TEST(GphPolygon, IsClosedOnExport) {
     EXPECT_EQ(ring.ExportablePolygon_polygonNCount(style, 0), 1);
 }
 
-TEST(GphPolygon, DrawsItselfFilled) {
-    Drawing drawing;
+struct GphPolygonTest : testing::Test, Drawing {};
+
+TEST_F(GphPolygonTest, DrawsItselfFilled) {
     GphPolygon ring = square(0.001, 0.002, 0.001);
-    EXPECT_EQ(ring.pointToScreen(drawing.view, 2), (CanvasPoint{200, 700}));
-    EXPECT_EQ(drawing.of(ring),
+    EXPECT_EQ(ring.pointToScreen(view, 2), (CanvasPoint{200, 700}));
+    EXPECT_EQ(of(ring),
               std::vector<std::string>{"polygon fill=0x112233 style=solid pen=0x000000 width=1 "
                                        "solid: (100,800) (100,700) (200,700) (200,800)"});
     ring.isHole = true;
-    drawing.style.colors.back = {0xABCDEF};
-    EXPECT_TRUE(drawing.of(ring).at(0).starts_with("polygon fill=0xABCDEF"));
-    EXPECT_EQ(drawing.of(square(1, 1, 1)).size(), 0U) << "off the canvas";
+    style.colors.back = {0xABCDEF};
+    EXPECT_TRUE(of(ring).at(0).starts_with("polygon fill=0xABCDEF"));
+    EXPECT_EQ(of(square(1, 1, 1)).size(), 0U) << "off the canvas";
 }
 
-TEST(GphPolygon, DrawsNoRingOfMoreThanItsLimit) {
-    Drawing drawing;
+TEST_F(GphPolygonTest, DrawsNoRingOfMoreThanItsLimit) {
     GphPolygon ring;
-    EXPECT_EQ(drawing.of(ring).size(), 0U);
+    EXPECT_EQ(of(ring).size(), 0U);
     for (int i = 0; i < 16'383; ++i) {
         ring.addPoint(0.001 + i % 2 * 0.001, i * 1e-7);
     }
-    EXPECT_EQ(drawing.of(ring).size(), 1U);
+    EXPECT_EQ(of(ring).size(), 1U);
     ring.addPoint(0.001, 0.002);
-    EXPECT_EQ(drawing.of(ring).size(), 0U);
+    EXPECT_EQ(of(ring).size(), 0U);
 }
 
 TEST(GphPolygonMulti, KnowsItsHoles) {

@@ -102,8 +102,9 @@ TEST(ColorModes, DoseClassesCoverWhatIsLoaded) {
     }
 }
 
-TEST(ColorModes, ASelectedChannelHasItsOwnRange) {
-    Fixture f;
+struct ColorModesTest : testing::Test, Fixture {};
+
+TEST_F(ColorModesTest, ASelectedChannelHasItsOwnRange) {
     std::vector<TrackDataRPT> records;
     for (const std::int32_t second : {70, 30, 5000, 40}) {
         TrackDataRPT::Fields fields = reportFields(900);
@@ -111,16 +112,16 @@ TEST(ColorModes, ASelectedChannelHasItsOwnRange) {
         fields.real[1] = second;
         records.emplace_back(fields);
     }
-    f.addFile(records);
-    f.addFile(std::vector{reportRecord(1)});  // has no second channel
-    f.ranges.dose = {1, 970};
-    f.style.selectedChannel = 1;
-    f.setUp();
-    EXPECT_EQ(f.scale.valueMin(), 30);
-    EXPECT_EQ(f.scale.valueMax(), 70);  // 5000 and more are faults of measurement
-    f.style.selectedChannel = 2;
-    f.setUp();
-    EXPECT_EQ(f.scale.valueMax(), 70) << "no record has a third channel: the classes stay";
+    addFile(records);
+    addFile(std::vector{reportRecord(1)});  // has no second channel
+    ranges.dose = {1, 970};
+    style.selectedChannel = 1;
+    setUp();
+    EXPECT_EQ(scale.valueMin(), 30);
+    EXPECT_EQ(scale.valueMax(), 70);  // 5000 and more are faults of measurement
+    style.selectedChannel = 2;
+    setUp();
+    EXPECT_EQ(scale.valueMax(), 70) << "no record has a third channel: the classes stay";
 }
 
 TEST(ColorModes, TheUnitIsThatOfTheMachines) {
@@ -155,22 +156,21 @@ TEST(ColorModes, TheUnitIsThatOfTheMachines) {
     }
 }
 
-TEST(ColorModes, ADateMapHasAClassADay) {
-    Fixture f;
-    f.style.mode = ColorMode::Date;
-    f.scale.unit = "lt/hect";
-    f.addDays({43102, 43102, 43100, 43102});
-    f.addDays({43105});
-    f.addFile(std::vector{reportRecord(7), reportRecord(8)});  // without a date
-    f.setUp();
-    EXPECT_EQ(f.bounds(), (Bounds{{43100, 43100}, {43102, 43102}, {43105, 43105}}));
-    EXPECT_TRUE(f.scale.isDate);
-    EXPECT_FALSE(f.scale.allowClassEdit);
-    EXPECT_EQ(f.scale.unit, "");
-    f.style.mode = ColorMode::Dose;
-    f.setUp();
-    EXPECT_FALSE(f.scale.isDate);
-    EXPECT_TRUE(f.scale.allowClassEdit);
+TEST_F(ColorModesTest, ADateMapHasAClassADay) {
+    style.mode = ColorMode::Date;
+    scale.unit = "lt/hect";
+    addDays({43102, 43102, 43100, 43102});
+    addDays({43105});
+    addFile(std::vector{reportRecord(7), reportRecord(8)});  // without a date
+    setUp();
+    EXPECT_EQ(bounds(), (Bounds{{43100, 43100}, {43102, 43102}, {43105, 43105}}));
+    EXPECT_TRUE(scale.isDate);
+    EXPECT_FALSE(scale.allowClassEdit);
+    EXPECT_EQ(scale.unit, "");
+    style.mode = ColorMode::Dose;
+    setUp();
+    EXPECT_FALSE(scale.isDate);
+    EXPECT_TRUE(scale.allowClassEdit);
 }
 
 TEST(ColorModes, ManyDaysShareTwelveClasses) {
@@ -191,41 +191,39 @@ TEST(ColorModes, ManyDaysShareTwelveClasses) {
     }
 }
 
-TEST(ColorModes, AnErrorMapHasAClassASpecifiedDose) {
-    Fixture f;
+TEST_F(ColorModesTest, AnErrorMapHasAClassASpecifiedDose) {
     std::vector<TrackDataRPT> records;
     for (const std::int32_t specified : {160, 80, 160}) {
         TrackDataRPT::Fields fields = reportFields(100);
         fields.spec[0] = specified;
         records.emplace_back(fields);
     }
-    f.addFile(records);
-    f.style.mode = ColorMode::Error;
-    f.style.selectedChannel = 0;
-    f.style.errorLimit = 12.5F;
-    f.setUp();
-    EXPECT_EQ(f.bounds(), (Bounds{{70, 90}, {140, 180}}));
-    EXPECT_FALSE(f.scale.allowClassEdit);
-    EXPECT_FALSE(f.scale.isDate);
+    addFile(records);
+    style.mode = ColorMode::Error;
+    style.selectedChannel = 0;
+    style.errorLimit = 12.5F;
+    setUp();
+    EXPECT_EQ(bounds(), (Bounds{{70, 90}, {140, 180}}));
+    EXPECT_FALSE(scale.allowClassEdit);
+    EXPECT_FALSE(scale.isDate);
 }
 
-TEST(ColorModes, AnErrorMapOfTheTotalKeepsTheDoseClasses) {
-    Fixture f;
-    f.addDays({43100});
-    f.ranges.dose = {50, 250};
-    f.setUp();
-    const Bounds doses = f.bounds();
-    f.style.mode = ColorMode::Error;
-    f.ranges.dose = {0, 9999};
-    f.setUp();
-    EXPECT_EQ(f.bounds(), doses);
+TEST_F(ColorModesTest, AnErrorMapOfTheTotalKeepsTheDoseClasses) {
+    addDays({43100});
+    ranges.dose = {50, 250};
+    setUp();
+    const Bounds doses = bounds();
+    style.mode = ColorMode::Error;
+    ranges.dose = {0, 9999};
+    setUp();
+    EXPECT_EQ(bounds(), doses);
 
-    f.style.mode = ColorMode::Date;
-    f.setUp();
-    f.ranges.dose = {50, 250};
-    f.style.mode = ColorMode::Error;
-    f.setUp();
-    EXPECT_EQ(f.bounds(), doses) << "days are no classes of doses";
+    style.mode = ColorMode::Date;
+    setUp();
+    ranges.dose = {50, 250};
+    style.mode = ColorMode::Error;
+    setUp();
+    EXPECT_EQ(bounds(), doses) << "days are no classes of doses";
 }
 
 TEST(ColorModes, FilesWithoutLayersChangeNothing) {

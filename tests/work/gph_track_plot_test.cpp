@@ -147,25 +147,25 @@ TEST(GphTrackPlot, ColoursARunByItsFirstRecord) {
     EXPECT_TRUE(drawing.canvas.calls().front().starts_with("polygon fill=0x0000FF"));
 }
 
-TEST(GphTrackPlot, WithoutBordersOutlinesInTheFillColour) {
-    Drawing drawing;
-    drawing.style.drawBorders = false;
-    drawing.canvas.setPenColor(Color{0x112233});
+struct GphTrackPlotTest : testing::Test, Drawing {};
+
+TEST_F(GphTrackPlotTest, WithoutBordersOutlinesInTheFillColour) {
+    style.drawBorders = false;
+    canvas.setPenColor(Color{0x112233});
     const GphTrack track = trackOf({{100, 500, 9}, {200, 500, 9}});
-    track.Gph_plot(drawing.context);
-    EXPECT_EQ(drawing.canvas.calls().front(),
+    track.Gph_plot(context);
+    EXPECT_EQ(canvas.calls().front(),
               "polygon fill=0xFF8080 style=solid pen=0xFF8080 width=1 solid: "
               "(100,490) (200,490) (200,510) (100,510)");
-    EXPECT_EQ(drawing.canvas.penColor(), Color{0x112233}) << "the canvas keeps its own";
+    EXPECT_EQ(canvas.penColor(), Color{0x112233}) << "the canvas keeps its own";
 }
 
-TEST(GphTrackPlot, DrawsNothingBeforeTheFirstFit) {
-    Drawing drawing;
-    drawing.view = ViewTransform();
+TEST_F(GphTrackPlotTest, DrawsNothingBeforeTheFirstFit) {
+    view = ViewTransform();
     const GphTrack track = trackOf({{100, 500, 9}, {200, 500, 9}});
-    track.Gph_plot(drawing.context);
-    EXPECT_FALSE(track.Gph_plotN(drawing.context, 0));
-    EXPECT_THAT(drawing.canvas.calls(), IsEmpty());
+    track.Gph_plot(context);
+    EXPECT_FALSE(track.Gph_plotN(context, 0));
+    EXPECT_THAT(canvas.calls(), IsEmpty());
 }
 
 TEST(GphTrackPlot, AnswersWhetherTheStepWasDrawn) {

@@ -199,8 +199,7 @@ TEST(LoadTrackFile, AReferenceThatIsNoNumberIsRefusedWithItsLine) {
         {&TrackText::west, "oeste", "7"},
         {&TrackText::west, "1e999", "7"},
         {&TrackText::south, "", "8"},
-        {&TrackText::swath, "1e300", "9"},
-    };
+        {&TrackText::swath, "1e300", "9"}};
     const TempFolder folder;
     for (const auto& [field, value, line] : rows) {
         TrackText track;

@@ -83,42 +83,40 @@ TEST(LoadedFileList, OfTwoCopiesOfAWorkTheMoreCompleteStays) {
     }
 }
 
-TEST(LoadedFileList, NeverDeletesWhatAnOpenFileNeeds) {
-    ListOnDisk disk;
-    const std::string shared = disk.written("wrk1.txt");
-    const std::string table = disk.written("table.txt");
-    const std::string copyA = disk.written("log1.nbr");
-    const std::string copyB = disk.written("wrk1.nbr");
-    disk.dialogs.yesNoAnswers = {true, true};
-    disk.list.addFile(makeFile(disk.written("long.nbr"), "job", 9), false, disk.dialogs);
-    disk.list.addFile(makeFile(disk.written("a.nbr"), "other job", 9, shared), false, disk.dialogs);
-    disk.list.addFile(makeFile(table), false, disk.dialogs);
-    EXPECT_FALSE(disk.list.addFile(makeFile(copyA, "job", 5, shared), false, disk.dialogs));
-    EXPECT_FALSE(disk.list.addFile(makeFile(copyB, "job", 5, table), false, disk.dialogs));
+struct LoadedFileListTest : testing::Test, ListOnDisk {};
+
+TEST_F(LoadedFileListTest, NeverDeletesWhatAnOpenFileNeeds) {
+    const std::string shared = written("wrk1.txt");
+    const std::string table = written("table.txt");
+    const std::string copyA = written("log1.nbr");
+    const std::string copyB = written("wrk1.nbr");
+    dialogs.yesNoAnswers = {true, true};
+    list.addFile(makeFile(written("long.nbr"), "job", 9), false, dialogs);
+    list.addFile(makeFile(written("a.nbr"), "other job", 9, shared), false, dialogs);
+    list.addFile(makeFile(table), false, dialogs);
+    EXPECT_FALSE(list.addFile(makeFile(copyA, "job", 5, shared), false, dialogs));
+    EXPECT_FALSE(list.addFile(makeFile(copyB, "job", 5, table), false, dialogs));
     EXPECT_FALSE(ListOnDisk::isThere(copyA) || ListOnDisk::isThere(copyB));
     EXPECT_TRUE(ListOnDisk::isThere(shared)) << "summary of another open work";
     EXPECT_TRUE(ListOnDisk::isThere(table)) << "an open file itself";
 }
 
-TEST(LoadedFileList, OneFileUnderTwoSpellingsIsNotAskedAbout) {
-    ListOnDisk disk;
-    const std::string path = disk.written("log1.nbr");
-    disk.list.addFile(makeFile(path, "job", 9), false, disk.dialogs);
-    EXPECT_FALSE(
-        disk.list.addFile(makeFile(disk.folder.file("./log1.nbr"), "job", 9), false, disk.dialogs));
+TEST_F(LoadedFileListTest, OneFileUnderTwoSpellingsIsNotAskedAbout) {
+    const std::string path = written("log1.nbr");
+    list.addFile(makeFile(path, "job", 9), false, dialogs);
+    EXPECT_FALSE(list.addFile(makeFile(folder.file("./log1.nbr"), "job", 9), false, dialogs));
     EXPECT_TRUE(ListOnDisk::isThere(path));
 }
 
-TEST(LoadedFileList, SaysWhyAFileCouldNotBeDeletedAndLeavesItsSummary) {
-    ListOnDisk disk;
-    std::filesystem::create_directory(disk.folder.file("folder.nbr"));
-    const std::string summary = disk.written("folder.txt");
-    disk.dialogs.yesNoAnswers = {true};
-    disk.list.addFile(makeFile(disk.written("long.nbr"), "job", 9), false, disk.dialogs);
-    EXPECT_FALSE(disk.list.addFile(makeFile(disk.folder.file("folder.nbr"), "job", 5, summary),
-                                   false, disk.dialogs));
-    ASSERT_EQ(disk.dialogs.messages.size(), 1U);
-    EXPECT_THAT(disk.dialogs.messages.front(), ::testing::HasSubstr("folder.nbr"));
+TEST_F(LoadedFileListTest, SaysWhyAFileCouldNotBeDeletedAndLeavesItsSummary) {
+    std::filesystem::create_directory(folder.file("folder.nbr"));
+    const std::string summary = written("folder.txt");
+    dialogs.yesNoAnswers = {true};
+    list.addFile(makeFile(written("long.nbr"), "job", 9), false, dialogs);
+    EXPECT_FALSE(
+        list.addFile(makeFile(folder.file("folder.nbr"), "job", 5, summary), false, dialogs));
+    ASSERT_EQ(dialogs.messages.size(), 1U);
+    EXPECT_THAT(dialogs.messages.front(), ::testing::HasSubstr("folder.nbr"));
     EXPECT_TRUE(ListOnDisk::isThere(summary));
 }
 
