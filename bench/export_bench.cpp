@@ -15,9 +15,12 @@
 
 #include "base/failure.h"
 #include "export/geojson_export.h"
+#include "export/kml_export.h"
 #include "export/shp_export.h"
+#include "export/txt_export.h"
 #include "field.h"
 #include "platform/quiet_dialogs.h"
+#include "support/scripted_platform.h"
 #include "support/temp_folder.h"
 
 namespace campora {
@@ -83,6 +86,21 @@ void exportAsGeoJson(benchmark::State& state) {
               });
 }
 
+void exportAsKml(benchmark::State& state) {
+    exportJob(state,
+              [](std::span<Gph* const> layers, const std::string& base, ExportProgress& progress) {
+                  return kmlExport(layers, base + ".kml", CAMPORA_SOURCE_DIR "/data", MapStyle(),
+                                   progress);
+              });
+}
+
+void exportAsText(benchmark::State& state) {
+    exportJob(state,
+              [](std::span<Gph* const> layers, const std::string& base, ExportProgress& progress) {
+                  return txtExport(layers, base + ".txt", {}, FixedLocale(), progress);
+              });
+}
+
 void sizes(benchmark::internal::Benchmark* bench) {
     bench->Arg(100000)->Arg(1000000)->Unit(benchmark::kMillisecond)->UseRealTime();
 }
@@ -91,6 +109,8 @@ BENCHMARK(exportAsPolygons)->Apply(sizes);
 BENCHMARK(exportAsPoints)->Apply(sizes);
 BENCHMARK(exportForGis)->Apply(sizes);
 BENCHMARK(exportAsGeoJson)->Apply(sizes);
+BENCHMARK(exportAsKml)->Apply(sizes);
+BENCHMARK(exportAsText)->Apply(sizes);
 
 }  // namespace
 

@@ -1,0 +1,173 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include <filesystem>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include <QImage>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "base/paths.h"
+#include "cli/program.h"
+#include "support/temp_folder.h"
+#include "support/work_files.h"
+
+namespace campora {
+namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+using Words = std::vector<std::string>;
+
+struct ExportTest : testing::Test {
+    struct Outcome {
+        int status = 0;
+        std::string out;
+        std::string boxes;
+    };
+    static Outcome run(const Words& words) {
+        std::ostringstream out;
+        std::ostringstream boxes;
+        const int status = runProgram(words, CAMPORA_SOURCE_DIR "/data", {out, boxes});
+        return {status, out.str(), boxes.str()};
+    }
+    [[nodiscard]] std::string report(const std::string& name) const {
+        RptBytes bytes(1);
+        for (int i = 0; i < 3; ++i) {
+            RptBytes::Record record;
+            record.position = fixAt(10.0 * i, 0);
+            bytes.add(record);
+        }
+        return folder.write(name, bytes.bytes());
+    }
+    [[nodiscard]] std::string track(const std::string& name) const {
+        TrackText text;
+        for (std::uint32_t i = 0; i < 5; ++i) {
+            text.addPoint(100 * i, 0, i < 3 ? 50 : 0, 20);
+        }
+        return folder.write(name, text.bytes());
+    }
+    [[nodiscard]] bool isThere(std::string_view name) const {
+        return std::filesystem::exists(nativePath(folder.file(name)));
+    }
+
+    TempFolder folder;
+};
+
+TEST_F(ExportTest, WrongCommandLinesAreRefused) {
+    const Words rows[] = {
+        {"export", "a.rpt", "-o", "a.kml"},
+        {"export", "a.rpt", "--format", "kml"},
+        {"export", "a.rpt", "--format", "dxf", "-o", "a.dxf"},
+        {"export", "--format", "kml", "-o", "a.kml"},
+        {"export-track", "a.nbr", "--polygon-length", "0"},
+        {"export-track", "a.nbr", "--polygon-length", "101"},
+        {"export-track", "a.nbr", "b.nbr", "-o", "c"},
+        {"report-to-text", "a.rpt"},
+        {"report-to-text", "a.rpt", "b.rpt", "-o", "c.txt"},
+        {"glg", "a.rpt"},
+        {"info", "a.rpt", "--comma"},
+    };
+    for (const Words& words : rows) {
+        EXPECT_EQ(run(words).status, 2) << testing::PrintToString(words);
+    }
+}
+
+TEST_F(ExportTest, EveryFormatIsWrittenWithoutAQuestion) {
+    const std::string source = report("lote.rpt");
+    struct Row {
+        const char* format;
+        const char* path;
+        const char* file;
+        const char* begin;
+    };
+    const Row rows[] = {
+        {"shp-polygon", "a.shp", "a.dbf", "\x03"},
+        {"shp-point", "b", "b.shx", ""},
+        {"bmp", "c.bmp", "c.bmp", "BM"},
+        {"kml", "d.kml", "d.kml", "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n<kml "},
+        {"txt", "e.dat", "e.dat", "Longitud\tLatitud\tD_Real1"},
+        {"txt-comma", "f.txt", "f.txt", "Longitud\tLatitud\tD_Real1"},
+        {"shp-gis", "g.shp", "g.prj", "GEOGCS"},
+        {"geojson", "h.geojson", "h.geojson", "{"},
+        {"png", "i.png", "i.png", "\x89PNG"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.format);
+        const Outcome outcome =
+            run({"export", source, "--format", row.format, "-o", folder.file(row.path)});
+        EXPECT_EQ(outcome.status, 0) << outcome.boxes;
+        EXPECT_EQ(outcome.boxes, "");
+        EXPECT_TRUE(isThere(row.file));
+        EXPECT_THAT(contentOf(folder.file(row.file)), StartsWith(row.begin));
+    }
+    EXPECT_EQ(QImage(QString::fromStdString(folder.file("c.bmp"))),
+              QImage(QString::fromStdString(folder.file("i.png"))));
+}
+
+TEST_F(ExportTest, WhatWasRefusedIsToldAndTheRestIsDone) {
+    const std::string source = report("lote.rpt");
+    const Outcome partly = run(
+        {"export", folder.file("no.rpt"), source, "--format", "txt", "-o", folder.file("a.txt")});
+    EXPECT_EQ(partly.status, 1);
+    EXPECT_THAT(partly.boxes, HasSubstr("no.rpt: no existe"));
+    EXPECT_TRUE(isThere("a.txt"));
+
+    const Outcome bare = run({"export", source, "--format", "kml", "--program-dir", folder.path(),
+                              "-o", folder.file("a.kml")});
+    EXPECT_EQ(bare.status, 1);
+    EXPECT_EQ(bare.boxes, "Error al exportar el archivo | No se puede leer el archivo " +
+                              folder.file("kmlhead.inc") + ": no existe\n");
+    EXPECT_FALSE(isThere("a.kml"));
+
+    EXPECT_EQ(run({"export", folder.file("no.rpt"), "--format", "txt", "-o", folder.file("b.txt")})
+                  .status,
+              1);
+    EXPECT_FALSE(isThere("b.txt"));
+}
+
+TEST_F(ExportTest, TrackFilesAreExportedOneAfterAnother) {
+    const Outcome outcome = run({"export-track", track("a.nbr"), folder.write("b.nbr", "x"),
+                                 track("c.nbr"), "--polygon-length", "1", "--only-sprayed"});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_EQ(outcome.out, "Exportando a.nbr:...........Ok\n"
+                           "Exportando b.nbr:...........Error\n"
+                           "Exportando c.nbr:...........Ok\n");
+    EXPECT_EQ(outcome.boxes, "El archivo no es compatible\n");
+    EXPECT_TRUE(isThere("a.shp") && isThere("c.shp"));
+    EXPECT_FALSE(isThere("b.shp"));
+    const std::size_t sprayed = contentOf(folder.file("a.shx")).size();
+    EXPECT_EQ(run({"export-track", folder.file("a.nbr"), "--polygon-length", "1", "-o",
+                   folder.file("all")})
+                  .status,
+              0);
+    EXPECT_GT(contentOf(folder.file("all.shx")).size(), sprayed);
+}
+
+TEST_F(ExportTest, AReportBecomesAText) {
+    const std::string source = report("lote.rpt");
+    for (const bool comma : {false, true}) {
+        Words words{"report-to-text", source, "-o", folder.file("a.txt")};
+        if (comma) {
+            words.emplace_back("--comma");
+        }
+        EXPECT_EQ(run(words).status, 0);
+        EXPECT_THAT(contentOf(folder.file("a.txt")),
+                    HasSubstr(comma ? "\r\n 0,00898" : "\r\n 0.00898"));
+    }
+    EXPECT_EQ(run({"report-to-text", folder.file("no.rpt"), "-o", folder.file("b.txt")}).status, 1);
+    EXPECT_FALSE(isThere("b.txt"));
+}
+
+TEST_F(ExportTest, GlgHoldsEightBytesAPoint) {
+    EXPECT_EQ(run({"glg", track("a.nbr"), report("b.rpt"), "-o", folder.file("a.glg")}).status, 0);
+    EXPECT_EQ(contentOf(folder.file("a.glg")).size(), 8U * 8U);
+    EXPECT_EQ(run({"glg", folder.file("no.rpt"), "-o", folder.file("b.glg")}).status, 1);
+    EXPECT_FALSE(isThere("b.glg"));
+}
+
+}  // namespace
+}  // namespace campora

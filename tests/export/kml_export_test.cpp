@@ -1,0 +1,139 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "export/kml_export.h"
+
+#include <QXmlStreamReader>
+#include <gtest/gtest.h>
+
+#include "support/exported_layers.h"
+#include "support/temp_folder.h"
+#include "support/work_records.h"
+#include "work/gph_track.h"
+
+namespace campora {
+namespace {
+
+constexpr auto kShipped = CAMPORA_SOURCE_DIR "/data";
+
+struct KmlTest : testing::Test {
+    KmlTest() {
+        program.write("kmlhead.inc", "<a>\nb\n");
+        program.write("kmlheadb.inc", "</a>");
+        program.write("kmlPolyhead.inc", "(\r\n");
+        program.write("kmlPolyend.inc", ")\r\n");
+        program.write("kmlend.inc", "Fin de la campa\xF1"
+                                    "a\n");
+    }
+    std::optional<Failure> save(const std::vector<const Gph*>& layers,
+                                const std::string& programFolder) {
+        NoProgress silent;
+        ExportProgress progress(silent);
+        return kmlExport(layers, path, programFolder, style, progress);
+    }
+
+    TempFolder program;
+    TempFolder folder;
+    MapStyle style;
+    std::string path = folder.file("lote.kml");
+    RingLayer triangle{{{{0.5, 0}, {1, 0}, {1, 1}}, {}, {{-58.3816, -34.25}}}};
+    PointLayer points{{{1, 2}}};
+};
+
+TEST_F(KmlTest, PutsThePolygonsBetweenTheTemplatesLastPointFirst) {
+    EXPECT_EQ(save({&points, &triangle}, program.path()), std::nullopt);
+    EXPECT_EQ(contentOf(path), "<a>\r\nb\r\nlote.kml\r\n</a>\r\n"
+                               "(\r\n1.,1.,50\r\n1.,.,50\r\n.5,.,50\r\n)\r\n"
+                               "(\r\n-58.3816,-34.25,50\r\n)\r\n"
+                               "Fin de la campa\u00f1a\r\n");
+}
+
+TEST_F(KmlTest, TemplatesAreFoundBesideTheProgramThenInItsFolderWithoutRegardToCase) {
+    const TempFolder other;
+    for (const char* name : {"kmlhead.inc", "kmlheadb.inc", "kmlPolyhead.inc", "kmlPolyend.inc"}) {
+        other.write("kml/" + std::string(name), "-");
+    }
+    const std::optional<Failure> failure = save({}, other.path());
+    ASSERT_NE(failure, std::nullopt);
+    EXPECT_EQ(Texts().sentence(*failure),
+              "No se puede leer el archivo " + other.path() + "/kmlend.inc: no existe");
+    EXPECT_FALSE(std::filesystem::exists(path));
+    other.write("KMLEND.INC", "z");
+    other.write("kmlHead.inc", "a");
+    EXPECT_EQ(save({}, other.path() + "/"), std::nullopt);
+    EXPECT_EQ(contentOf(path), "a\r\nlote.kml\r\n-\r\nz\r\n");
+}
+
+TEST_F(KmlTest, CancellingLeavesTheFileThatWasThere) {
+    folder.write("lote.kml", "old");
+    CancellingProgress enough;
+    ExportProgress progress(enough);
+    const std::vector<const Gph*> layers{&triangle};
+    EXPECT_EQ(kmlExport(layers, path, program.path(), style, progress), std::nullopt);
+    EXPECT_TRUE(progress.cancelled());
+    EXPECT_EQ(contentOf(path), "old");
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), 1);
+}
+
+struct Document {
+    bool isWhole = false;
+    std::string name;
+    int placemarks = 0;
+    std::string coordinates;
+};
+
+Document readDocument(const std::string& path) {
+    Document document;
+    QXmlStreamReader reader(QByteArray::fromStdString(contentOf(path)));
+    while (!reader.atEnd()) {
+        if (reader.readNext() != QXmlStreamReader::StartElement) {
+            continue;
+        }
+        if (reader.name() == u"name") {
+            document.name = reader.readElementText().trimmed().toStdString();
+        } else if (reader.name() == u"Placemark") {
+            ++document.placemarks;
+        } else if (reader.name() == u"coordinates") {
+            document.coordinates = reader.readElementText().simplified().toStdString();
+        }
+    }
+    document.isWhole = !reader.hasError();
+    return document;
+}
+
+TEST_F(KmlTest, ShippedTemplatesMakeADocumentWhateverTheNameHolds) {
+    for (const std::string name :
+         {"lote.kml", "a]]>b]]>.kml", "Ca\u00f1ada & \"Sur\" <1>.kml", "a\tb.kml"}) {
+        SCOPED_TRACE(name);
+        path = folder.file(name);
+        ASSERT_EQ(save({&triangle}, kShipped), std::nullopt);
+        const Document document = readDocument(path);
+        EXPECT_TRUE(document.isWhole);
+        EXPECT_EQ(document.name, QString::fromStdString(name).replace('\t', ' ').toStdString());
+        EXPECT_EQ(document.placemarks, 2);
+        EXPECT_EQ(document.coordinates, "-58.3816,-34.25,50");
+    }
+}
+
+TEST_F(KmlTest, StepsWithoutFlowAreLeftOutWhileTheyAreNotDrawn) {
+    GphTrack track;
+    track.addPoint(0, 0, reportRecord(90));
+    track.addPoint(1e-4, 0, reportRecord(0));
+    track.addPoint(2e-4, 0, reportRecord(90));
+    ASSERT_EQ(save({&track}, kShipped), std::nullopt);
+    EXPECT_EQ(readDocument(path).placemarks, 2);
+    style.drawAll = false;
+    ASSERT_EQ(save({&track}, kShipped), std::nullopt);
+    EXPECT_EQ(readDocument(path).placemarks, 1);
+}
+
+TEST_F(KmlTest, ATargetThatCannotBeWrittenIsTheFailure) {
+    path = folder.path();
+    const std::optional<Failure> failure = save({&triangle}, program.path());
+    ASSERT_NE(failure, std::nullopt);
+    EXPECT_EQ(Texts().sentence(*failure),
+              "No se puede guardar el archivo " + path + ": es una carpeta");
+}
+
+}  // namespace
+}  // namespace campora

@@ -1,0 +1,149 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "export/txt_export.h"
+
+#include <limits>
+
+#include <gtest/gtest.h>
+
+#include "support/exported_layers.h"
+#include "support/scripted_platform.h"
+#include "support/temp_folder.h"
+#include "support/work_records.h"
+#include "work/gph_track.h"
+
+namespace campora {
+namespace {
+
+struct TextTest : testing::Test {
+    /// The bytes of the table; the test fails when it cannot be written.
+    std::string table(const std::vector<const Gph*>& layers) {
+        NoProgress silent;
+        ExportProgress progress(silent);
+        EXPECT_EQ(txtExport(layers, path, form, locale, progress), std::nullopt);
+        return contentOf(path);
+    }
+
+    TempFolder folder;
+    std::string path = folder.file("tabla.txt");
+    TextTableForm form;
+    FixedLocale locale;
+};
+
+TEST_F(TextTest, CoordinatesHaveABlankForASignAndFifteenDigits) {
+    struct Row {
+        const char* name;
+        double value;
+        const char* text;
+    };
+    const Row rows[] = {
+        {"zero", 0, " 0"},
+        {"negative zero", -0.0, " 0"},
+        {"whole", 58, " 58"},
+        {"negative", -58.5, "-58.5"},
+        {"zero before the point", 0.5, " 0.5"},
+        {"negative below one", -0.25, "-0.25"},
+        {"fifteen digits", -58.381612345678912, "-58.3816123456789"},
+        {"the sixteenth rounds", 0.1 + 0.2, " 0.3"},
+        {"small, without exponent", 0.0000125, " 0.0000125"},
+        {"small and long", -1.2345678901234567e-7, "-0.000000123456789012346"},
+        {"large, without exponent", 1e17, " 100000000000000000"},
+        {"no number", std::numeric_limits<double>::quiet_NaN(), " 0"},
+        {"infinite", std::numeric_limits<double>::infinity(), " 0"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        const PointLayer layer({{row.value, 1}});
+        EXPECT_EQ(table({&layer}), "Longitud\tLatitud\r\n" + std::string(row.text) + "\t 1\r\n");
+    }
+}
+
+TEST_F(TextTest, CellsAreAsTheLocaleWritesThemWithTheChosenSymbol) {
+    const TableLayer layer({{-58.5, -34.25}}, {"A"}, {{CellValue()}});
+    struct Row {
+        const char* name;
+        CellValue cell;
+        /// User's symbol and chosen symbol, "." and ",".
+        const char* points;
+        const char* pointComma;
+        const char* commaPoint;
+        const char* commas;
+    };
+    const Row rows[] = {
+        {"empty", {}, "", "", "", ""},
+        {"whole", std::int64_t{4294967295}, "4294967295", "4294967295", "4294967295", "4294967295"},
+        {"negative", std::int64_t{-3}, "-3", "-3", "-3", "-3"},
+        {"single", 12.3F, "12.3", "12,3", "12.3", "12,3"},
+        {"double", 0.1 + 0.2, "0.3", "0,3", "0.3", "0,3"},
+        {"text with signs", std::string("a,b.c"), "a,b.c", "a,b,c", "a.b.c", "a,b.c"},
+        {"text of another code page", std::string("Ca\u00f1ada \u4e2d"),
+         "Ca\xF1"
+         "ada ?",
+         "Ca\xF1"
+         "ada ?",
+         "Ca\xF1"
+         "ada ?",
+         "Ca\xF1"
+         "ada ?"},
+        {"text that would break the table", std::string("a\tb\r\nc"), "a b  c", "a b  c", "a b  c",
+         "a b  c"},
+        {"date", Date{2018, 3, 5}, "05.03.18", "05,03,18", "05.03.18", "05.03.18"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        const TableLayer cells({{-58.5, 34.25}}, {"A"}, {{row.cell}});
+        const std::pair<const char*, const char*> expected[] = {
+            {"..", row.points}, {".,", row.pointComma}, {",.", row.commaPoint}, {",,", row.commas}};
+        for (const auto& [symbols, cell] : expected) {
+            locale = FixedLocale(symbols[0], "dd.mm.yy");
+            form.decimalSymbol = symbols[1];
+            const bool commas = symbols[0] == '.' && symbols[1] == ',';
+            EXPECT_EQ(table({&cells}),
+                      "Longitud\tLatitud\tA\r\n" +
+                          std::string(commas ? "-58,5\t 34,25\t" : "-58.5\t 34.25\t") + cell +
+                          "\r\n")
+                << symbols;
+        }
+    }
+}
+
+TEST_F(TextTest, ColumnsStandThereWhenEveryLayerWithPointsHasData) {
+    const TableLayer first({{1, 2}, {3, 4}}, {" A.1 ", "Larga"},
+                           {{std::int64_t{1}, 1.5F}, {std::int64_t{2}, 2.5F}});
+    const TableLayer second({{5, 6}}, {"B"}, {{std::string("x")}});
+    const PointLayer bare({{7, 8}});
+    const PointLayer empty({});
+    const RingLayer rings({{{0, 0}, {1, 0}, {1, 1}}});
+    form.decimalSymbol = ',';
+    EXPECT_EQ(table({&empty, &rings, &first, &second}),
+              "Longitud\tLatitud\tA.1\tLarga\r\n"
+              " 1\t 2\t1\t1,5\r\n 3\t 4\t2\t2,5\r\n 5\t 6\tx\r\n");
+    EXPECT_EQ(table({&first, &bare}), "Longitud\tLatitud\r\n 1\t 2\r\n 3\t 4\r\n 7\t 8\r\n");
+    form.longestName = 3;
+    form.separator = ";";
+    EXPECT_EQ(table({&second}), "Longitud;Latitud;B\r\n 5; 6;x\r\n");
+    EXPECT_EQ(table({&first}), "Longitud;Latitud;A.1;Lar\r\n 1; 2;1;1,5\r\n 3; 4;2;2,5\r\n");
+}
+
+TEST_F(TextTest, AReportsPointsComeWithTheirSwathInCentimetres) {
+    GphTrack track;
+    track.addPoint(-60.5, -33, reportRecord(90, 12.5F));
+    EXPECT_EQ(table({&track}),
+              "Longitud\tLatitud\tD_Real1\tD_Espec1\tVelocidad\tAlarmas\tAnchoLabor\tHora\r\n"
+              "-60.5\t-33\t90\t100\t0\t0\t1250\t00:00:00\r\n");
+}
+
+TEST_F(TextTest, CancellingLeavesTheFileThatWasThere) {
+    folder.write("tabla.txt", "old");
+    const PointLayer layer({{1, 2}});
+    const std::vector<const Gph*> layers{&layer};
+    CancellingProgress enough;
+    ExportProgress progress(enough);
+    EXPECT_EQ(txtExport(layers, path, form, locale, progress), std::nullopt);
+    EXPECT_TRUE(progress.cancelled());
+    EXPECT_EQ(contentOf(path), "old");
+}
+
+}  // namespace
+}  // namespace campora
