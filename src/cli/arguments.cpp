@@ -29,6 +29,8 @@ constexpr CommandRow kCommands[] = {
     {Command::ReportToText, "report-to-text", TextId::CliReportToText},
     {Command::Glg, "glg", TextId::CliGlg},
     {Command::Prescribe, "prescribe", TextId::CliPrescribe},
+    {Command::Lot, "lot", TextId::CliLot},
+    {Command::Merge, "merge", TextId::CliMerge},
     {Command::Orders, "orders", TextId::CliOrders},
     {Command::Project, "project", TextId::CliProject},
 };
@@ -66,6 +68,26 @@ std::optional<Failure> takeOption(Arguments& parsed, std::span<const std::string
     return std::nullopt;
 }
 
+/// Whether a word that begins with a sign is one of a lot's vertices and no option.
+bool isVertex(Command command, std::string_view word) {
+    return command == Command::Lot && word.size() > 1 &&
+           std::string_view("0123456789.").find(word[1]) != std::string_view::npos;
+}
+
+/// A file or, for a lot, a vertex.
+std::optional<Failure> takeWord(Arguments& parsed, const std::string& word) {
+    if (parsed.command != Command::Lot) {
+        parsed.files.push_back(word);
+        return std::nullopt;
+    }
+    const std::optional<LonLat> vertex = parseVertex(word);
+    if (!vertex) {
+        return Failure{TextId::CliBadValue, {"lot", word}};
+    }
+    parsed.vertices.push_back(*vertex);
+    return std::nullopt;
+}
+
 /// What a command lacks, or has too much of.
 std::optional<Failure> checkFiles(const Arguments& parsed) {
     if (parsed.command == Command::Prescribe) {
@@ -73,6 +95,12 @@ std::optional<Failure> checkFiles(const Arguments& parsed) {
         return parsed.files.empty()
                    ? std::nullopt
                    : std::optional(Failure{TextId::CliUnknownOption, {parsed.files.front()}});
+    }
+    if (parsed.command == Command::Lot) {
+        constexpr std::size_t kFewestVertices = 3;
+        return parsed.vertices.size() < kFewestVertices
+                   ? std::optional(Failure{TextId::LoteTooFew, {}})
+                   : std::nullopt;
     }
     if (parsed.files.empty()) {
         return Failure{TextId::CliMissingFile, {}};
@@ -86,8 +114,9 @@ std::optional<Failure> checkFiles(const Arguments& parsed) {
 }
 
 bool needsOutput(Command command) {
-    constexpr Command kCommandsWithOne[] = {Command::Render, Command::Export, Command::Glg,
-                                            Command::ReportToText, Command::Prescribe};
+    constexpr Command kCommandsWithOne[] = {Command::Render,       Command::Export,    Command::Glg,
+                                            Command::ReportToText, Command::Prescribe, Command::Lot,
+                                            Command::Merge};
     return std::find(std::begin(kCommandsWithOne), std::end(kCommandsWithOne), command) !=
            std::end(kCommandsWithOne);
 }
@@ -108,6 +137,10 @@ std::optional<Failure> checkOptions(const Arguments& parsed) {
         return Failure{TextId::CliMissingOption, {"-o"}};
     }
     if (prescribes && pathEnding(parsed.output) != (isVrt ? ".vrt" : ".pre")) {
+        return Failure{TextId::CliBadValue, {"-o", parsed.output}};
+    }
+    const bool writesLots = parsed.command == Command::Lot || parsed.command == Command::Merge;
+    if (writesLots && pathEnding(parsed.output) != ".lot") {
         return Failure{TextId::CliBadValue, {"-o", parsed.output}};
     }
     const bool isBatch = parsed.command == Command::ExportTrack && parsed.files.size() > 1;
@@ -141,8 +174,10 @@ Result<Arguments> parseArguments(std::span<const std::string> arguments) {
     Arguments parsed;
     parsed.command = row->command;
     for (auto rest = arguments.subspan(1); !rest.empty();) {
-        if (!rest.front().starts_with('-')) {
-            parsed.files.push_back(rest.front());
+        if (!rest.front().starts_with('-') || isVertex(parsed.command, rest.front())) {
+            if (std::optional<Failure> failure = takeWord(parsed, rest.front())) {
+                return *failure;
+            }
             rest = rest.subspan(1);
         } else if (std::optional<Failure> failure = takeOption(parsed, rest)) {
             return *failure;

@@ -12,6 +12,7 @@
 #include "app/export_formats.h"
 #include "app/track_export.h"
 #include "base/failure.h"
+#include "base/lon_lat.h"
 #include "base/texts.h"
 #include "model/map_style.h"
 #include "platform/dialogs.h"
@@ -26,6 +27,8 @@ enum class Command {
     ReportToText,
     Glg,
     Prescribe,
+    Lot,
+    Merge,
     Orders,
     Project
 };
@@ -96,6 +99,10 @@ struct Arguments {
     TrackExportOptions trackExport;
     /// The decimal symbol of a report's text table.
     bool comma = false;
+
+    /// Of a lot.
+    std::vector<LonLat> vertices;
+    std::string description;
 
     std::string output;
     PixelSize size{1200, 900};

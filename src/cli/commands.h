@@ -39,6 +39,10 @@ inline constexpr int kWrongCommandLine = 2;
 [[nodiscard]] int runGlg(const Arguments& arguments, const Console& console);
 /// A grid for a console from the zones of shapefiles.
 [[nodiscard]] int runPrescribe(const Arguments& arguments, const Console& console);
+/// A lot of the vertices of the command line.
+[[nodiscard]] int runLot(const Arguments& arguments, const Console& console);
+/// The union of the lots of several files; prints the files that hold it.
+[[nodiscard]] int runMerge(const Arguments& arguments, const Console& console);
 /// The work orders of a folder; copies the files of one when the command line says so.
 [[nodiscard]] int runOrders(const Arguments& arguments, const Console& console);
 /// As `runInfo` for the files that a project lists.

@@ -236,6 +236,13 @@ constexpr Option kOptions[] = {
          a.prescription.description = value;
          return true;
      }},
+    {Command::Lot, "--description", "TEXT", TextId::CliLotDescription,
+     [](Arguments& a, std::string_view value) {
+         a.description = value;
+         return true;
+     }},
+    {Command::Lot, "-o", "OUT.lot", TextId::CliLotOutput, setPath},
+    {Command::Merge, "-o", "OUT.lot", TextId::CliLotOutput, setPath},
     {Command::Orders, "--json", "", TextId::CliJson, setJson},
     {Command::Orders, "--copy", "N DEST", TextId::CliCopyOrder, setCopy},
     {Command::Project, "--json", "", TextId::CliJson, setJson},
@@ -268,6 +275,16 @@ constexpr Option kOptions[] = {
 };
 
 }  // namespace
+
+std::optional<LonLat> parseVertex(std::string_view word) {
+    const std::size_t comma = std::min(word.find(','), word.size());
+    const auto x = parse<double>(word.substr(0, comma));
+    const auto y = parse<double>(word.substr(std::min(comma + 1, word.size())));
+    if (!x || !y || std::fabs(*x) > 180 || std::fabs(*y) > 90) {
+        return std::nullopt;
+    }
+    return LonLat{*x, *y};
+}
 
 std::span<const Option> allOptions() {
     return kOptions;

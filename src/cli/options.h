@@ -27,4 +27,7 @@ struct Option {
 /// The options of all commands, in the order of the usage.
 [[nodiscard]] std::span<const Option> allOptions();
 
+/// "X,Y": longitude and latitude in degrees, on the globe.
+[[nodiscard]] std::optional<LonLat> parseVertex(std::string_view word);
+
 }  // namespace campora

@@ -23,6 +23,10 @@ int runCommand(const Arguments& arguments, const Console& console) {
         return runGlg(arguments, console);
     case Command::Prescribe:
         return runPrescribe(arguments, console);
+    case Command::Lot:
+        return runLot(arguments, console);
+    case Command::Merge:
+        return runMerge(arguments, console);
     case Command::Orders:
         return runOrders(arguments, console);
     case Command::Project:

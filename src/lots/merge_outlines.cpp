@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
+#include <utility>
 
 #include <polyclipping/clipper.hpp>
 
@@ -14,6 +16,7 @@ namespace {
 
 /// Whole numbers a degree. The library multiplies without loss up to 4e18.
 constexpr double kScale = 1e10;
+constexpr std::size_t kFewestPoints = 3;
 
 ClipperLib::Path toPath(const Ring& ring) {
     ClipperLib::Path path;
@@ -24,12 +27,31 @@ ClipperLib::Path toPath(const Ring& ring) {
     return path;
 }
 
+/// Whether the point lies on the way from `a` to `b`, as far as whole numbers can tell.
+bool isOnTheWay(const ClipperLib::IntPoint& a, const ClipperLib::IntPoint& point,
+                const ClipperLib::IntPoint& b) {
+    const auto difference = [](ClipperLib::cInt from, ClipperLib::cInt to) {
+        return static_cast<double>(to - from);
+    };
+    const double x = difference(a.X, b.X);
+    const double y = difference(a.Y, b.Y);
+    const double away = x * difference(a.Y, point.Y) - y * difference(a.X, point.X);
+    return std::fabs(away) < std::hypot(x, y) / 2;
+}
+
+/// The library leaves some points in the middle of straight lines.
 Ring toRing(const ClipperLib::Path& path) {
     Ring ring;
     ring.reserve(path.size());
-    for (const ClipperLib::IntPoint& point : path) {
+    const std::size_t count = path.size();
+    ClipperLib::IntPoint before = path.back();
+    for (std::size_t i = 0; i < count; ++i) {
+        if (isOnTheWay(before, path[i], path[(i + 1) % count])) {
+            continue;
+        }
+        before = path[i];
         ring.push_back(
-            {static_cast<double>(point.X) / kScale, static_cast<double>(point.Y) / kScale});
+            {static_cast<double>(before.X) / kScale, static_cast<double>(before.Y) / kScale});
     }
     return ring;
 }
@@ -63,7 +85,9 @@ MergedOutlines mergeOutlines(std::span<const Ring> rings) {
         return std::fabs(ClipperLib::Area(a)) > std::fabs(ClipperLib::Area(b));
     });
     for (const ClipperLib::Path& outline : outlines) {
-        merged.rings.push_back(toRing(outline));
+        if (Ring ring = toRing(outline); ring.size() >= kFewestPoints) {
+            merged.rings.push_back(std::move(ring));
+        }
     }
     return merged;
 }

@@ -1,0 +1,82 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/lot_commands.h"
+
+#include <iterator>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "base/numbers.h"
+#include "cli/batch_platform.h"
+#include "cli/commands.h"
+#include "lots/load_lot.h"
+#include "lots/merge_lots.h"
+#include "lots/save_lots.h"
+
+namespace campora {
+
+namespace {
+
+/// Says what could not be written; none then.
+std::optional<std::vector<std::string>> save(std::span<const LotFile> lots, const Arguments& to,
+                                             const Console& console) {
+    const Result<std::vector<std::string>> saved = saveLots(lots, to.output);
+    if (!saved) {
+        console.boxes << oneLine(Texts(to.language).sentence(saved.failure())) << '\n';
+        return std::nullopt;
+    }
+    return *saved;
+}
+
+void remark(const MergedLots& merged, const Texts& texts, const Console& console) {
+    if (merged.lots.empty()) {
+        console.boxes << texts(TextId::MergeWithoutArea) << '\n';
+    }
+    if (merged.lots.size() > 1) {
+        console.boxes << texts.format(TextId::MergeApart, {numberText(merged.lots.size())}) << '\n';
+    }
+    if (merged.holes > 0) {
+        console.boxes << texts.format(TextId::MergeHoles, {numberText(merged.holes)}) << '\n';
+    }
+}
+
+}  // namespace
+
+int runLot(const Arguments& arguments, const Console& console) {
+    const LotFile lot{arguments.vertices, arguments.description};
+    return save({&lot, 1}, arguments, console) ? exit_status::kDone : exit_status::kRefused;
+}
+
+int runMerge(const Arguments& arguments, const Console& console) {
+    BatchDialogs dialogs(arguments, console.boxes);
+    const BatchLocale locale(arguments);
+    const Texts texts(arguments.language);
+    int status = exit_status::kDone;
+    std::vector<LotFile> lots;
+    for (const std::string& path : arguments.files) {
+        if (const auto file = loadLot(path, {dialogs, locale, texts})) {
+            std::vector<LotFile> read = lotsOf(*file);
+            std::move(read.begin(), read.end(), std::back_inserter(lots));
+        } else {
+            status = exit_status::kRefused;
+        }
+    }
+    const MergedLots merged = mergeLots(lots);
+    if (lots.empty()) {
+        return exit_status::kRefused;  // each has been told already
+    }
+    remark(merged, texts, console);
+    const auto saved = merged.lots.empty() ? std::nullopt : save(merged.lots, arguments, console);
+    if (!saved) {
+        return exit_status::kRefused;
+    }
+    for (const std::string& path : *saved) {
+        console.out << path << '\n';
+    }
+    return status;
+}
+
+}  // namespace campora
