@@ -80,7 +80,7 @@ std::string plainCell(const CellValue& value) {
 
 }  // namespace
 
-DbfFile::DbfFile(std::optional<Date> today) : today_(std::move(today)) {}
+DbfFile::DbfFile(std::optional<Date> today) : today_(today) {}
 
 int DbfFile::addField(std::string_view name, DbfType type, int length, int decimals) {
     const int bytes = type == DbfType::Date ? kDateLength : length;

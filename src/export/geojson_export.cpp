@@ -3,9 +3,10 @@
 
 #include "export/geojson_export.h"
 
-#include <algorithm>
+#include <cmath>
 #include <string>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 #include "base/file_draft.h"
@@ -65,7 +66,9 @@ std::string cellText(const CellValue& cell) {
             return value.empty() ? "null" : jsonText(value);
         } else if constexpr (std::is_same_v<Cell, Date>) {
             return jsonText(dateText(value, "yyyy-mm-dd"));
-        } else if constexpr (std::is_arithmetic_v<Cell>) {
+        } else if constexpr (std::is_floating_point_v<Cell>) {
+            return std::isfinite(value) ? numberText(value) : "null";
+        } else if constexpr (std::is_integral_v<Cell>) {
             return numberText(value);
         } else {
             return "null";

@@ -53,7 +53,7 @@ void ShapeSet::Box::append(std::string& bytes) const {
 ShapeSet::ShapeSet(std::string_view basePath, FigureType type, std::optional<Date> today)
     : basePath_(basePath),
       type_(type),
-      table_(std::move(today)),
+      table_(today),
       main_(basePath_ + ".shp"),
       index_(basePath_ + ".shx") {}
 

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <string>
 #include <utility>
 #include <vector>
@@ -186,7 +187,7 @@ public:
         : basePath_(basePath),
           layers_(std::move(layers)),
           forGis_(today.has_value()),
-          set_(basePath, type, std::move(today)),
+          set_(basePath, type, today),
           attributes_(layers_, forGis_),
           progress_(progress) {}
 

@@ -38,8 +38,8 @@ exportShpPoints(std::span<Gph* const> layers, std::string_view basePath, ExportP
 
 /// The form that other programs take without complaint: polygons when a layer has them, else
 /// points; rings closed and clockwise, what crosses itself divided into parts, without what has no
-/// area; columns of all layers, wide enough for every cell, with numbers on the right; `today` as
-/// the date of the table.
+/// area; columns of all layers, wide enough for every cell (the format ends a text after 254
+/// letters), with numbers on the right; `today` as the date of the table.
 [[nodiscard]] std::optional<Failure> exportShpGis(std::span<Gph* const> layers,
                                                   std::string_view basePath, const MapStyle& style,
                                                   const Date& today, ExportProgress& progress);

@@ -3,6 +3,8 @@
 
 #include "export/geojson_export.h"
 
+#include <cmath>
+
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
@@ -64,6 +66,7 @@ TEST_F(GeoJsonTest, PropertiesByTheTypeOfTheirColumn) {
         {"double", ColumnType::Real, 1e-9, "0.000000001"},
         {"large", ColumnType::Real, 1e21, "1000000000000000000000"},
         {"whole", ColumnType::Real, std::int64_t{4294967295}, "4294967295"},
+        {"no number", ColumnType::Real, std::nan(""), "null"},
         {"real in a text", ColumnType::Real, std::string("1.5 l"), "1.5"},
         {"text", ColumnType::Text, std::string("a\\b"), R"("a\\b")"},
         {"text of another code page", ColumnType::Text, std::string("Ca\xF1"), "\"Ca\u00f1\""},

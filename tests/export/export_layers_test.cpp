@@ -1,0 +1,95 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "export/export_layers.h"
+
+#include <cmath>
+#include <limits>
+
+#include <gtest/gtest.h>
+
+#include "support/attribute_layer.h"
+
+namespace campora {
+namespace {
+
+TEST(CellInteger, RoundsHalvesToEvenWithinTheType) {
+    struct Row {
+        const char* name;
+        CellValue cell;
+        std::optional<std::int64_t> number;
+    };
+    constexpr std::int64_t kMost = std::numeric_limits<std::int64_t>::max();
+    const Row rows[] = {
+        {"empty", {}, std::nullopt},
+        {"date", Date{2018, 3, 5}, std::nullopt},
+        {"every digit of a whole number", kMost - 1, kMost - 1},
+        {"tie down", 4.5, 4},
+        {"tie up", 5.5F, 6},
+        {"negative tie", -0.5, 0},
+        {"number that a text begins with", std::string("12.5 l/ha"), 12},
+        {"text", std::string("l/ha"), std::nullopt},
+        {"largest double that fits", 9223372036854774784.0, 9223372036854774784},
+        {"one too large", 9223372036854775808.0, std::nullopt},
+        {"one too small", -1e19, std::nullopt},
+        {"no number", std::nan(""), std::nullopt},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(cellInteger(row.cell), row.number) << row.name;
+    }
+}
+
+TEST(FigureLayers, PolygonsBeforePointsAndNeverBoth) {
+    NamedLayer picture("");
+    AttributeLayer both({squareAt(0, 0), squareAt(1, 1)}, {});
+    RingLayer noRings({});
+    PointLayer points({{5, 5}});
+    const std::vector<Gph*> all = {&picture, &points, &noRings, &both};
+    const auto polygons = figureLayers(all);
+    ASSERT_EQ(polygons.size(), 2U);
+    EXPECT_EQ(polygons[1].gph, &both);
+    EXPECT_EQ(polygons[1].points, nullptr);
+    EXPECT_EQ(figureCount(polygons), 2);
+    const std::vector<Gph*> withoutFigures = {&picture, &points, &noRings};
+    const auto others = figureLayers(withoutFigures);
+    ASSERT_EQ(others.size(), 1U);
+    EXPECT_EQ(others[0].polygons, nullptr);
+    EXPECT_EQ(figureCount(others), 1);
+}
+
+TEST(BoxOfLayers, LeavesOutLayersWithoutABox) {
+    PointLayer boxless({{50, 50}});
+    AttributeLayer one({squareAt(2, 3)}, {});
+    AttributeLayer other({squareAt(-7, 8)}, {});
+    const BoundingBox box = boxOf(pointLayers(std::vector<Gph*>{&boxless, &one, &other}));
+    EXPECT_TRUE(box.isSet);
+    EXPECT_EQ(box.minX, -8);
+    EXPECT_EQ(box.minY, 2);
+    EXPECT_EQ(box.maxX, 4);
+    EXPECT_EQ(box.maxY, 10);
+    EXPECT_FALSE(boxOf(pointLayers(std::vector<Gph*>{&boxless})).isSet);
+}
+
+TEST(ExportColumns, FindCellsByTheNameOfTheirColumn) {
+    const auto number = [](std::int64_t value) { return CellValue(value); };
+    AttributeLayer one({squareAt(0, 0)}, {{"A", ColumnType::Integer, {number(1)}},
+                                          {"B", ColumnType::Text, {std::string("b")}}});
+    AttributeLayer two({squareAt(0, 0)}, {{"C", ColumnType::Integer, {number(3)}},
+                                          {"A", ColumnType::Integer, {number(4)}}});
+    AttributeLayer empty({}, {});
+    const auto layers = pointLayers(std::vector<Gph*>{&empty, &one, &two});
+    const ExportColumns first = ExportColumns::ofFirst(layers);
+    ASSERT_EQ(first.columns().size(), 2U);
+    EXPECT_EQ(first.cell(1, 0, 1), CellValue(std::string("b")));
+    EXPECT_EQ(first.cell(2, 0, 0), number(4));
+    EXPECT_EQ(first.cell(2, 0, 1), CellValue());
+    const ExportColumns all = ExportColumns::ofAll(layers);
+    ASSERT_EQ(all.columns().size(), 3U);
+    EXPECT_EQ(all.columns()[2].name, "C");
+    EXPECT_EQ(all.cell(2, 0, 2), number(3));
+    RingLayer bare({squareAt(0, 0)});
+    EXPECT_TRUE(ExportColumns::ofAll(polygonLayers(std::vector<Gph*>{&one, &bare})).empty());
+}
+
+}  // namespace
+}  // namespace campora
