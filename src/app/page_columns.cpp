@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 namespace campora {
 
@@ -106,7 +107,6 @@ public:
         longest->rows.push_back({PageRow::Kind::Line, more_(left)});
         return true;
     }
-    void dropLast() { blocks_.pop_back(); }
 
 private:
     std::vector<PageBlock> blocks_;
@@ -122,18 +122,17 @@ PlacedBlocks placeBlocks(std::vector<PageBlock> blocks, int columns, int mostLin
     if (std::optional<PlacedBlocks> all = best(blocks, columns, mostLines)) {
         return std::move(*all);
     }
-    ShortBlocks rest(std::move(blocks), more);
-    while (!rest.blocks().empty()) {
-        if (std::optional<PlacedBlocks> placed =
-                tryFlow(rest.blocks(), columns, mostLines, false)) {
-            placed->cut = true;
-            return std::move(*placed);
-        }
-        if (!rest.shorten()) {
-            rest.dropLast();
-        }
+    for (; !blocks.empty(); blocks.pop_back()) {
+        ShortBlocks rest(blocks, more);
+        do {
+            if (std::optional<PlacedBlocks> placed =
+                    tryFlow(rest.blocks(), columns, mostLines, false)) {
+                placed->cut = true;
+                return std::move(*placed);
+            }
+        } while (rest.shorten());
     }
-    return {};
+    return {.cut = true};
 }
 
 }  // namespace campora

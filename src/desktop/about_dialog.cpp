@@ -28,8 +28,9 @@ constexpr int kDetailLines = 4;
 
 /// What a report of a fault should say; the same in every language.
 QString details() {
-    return toQt(std::string("Campora ").append(kVersion)) + "\nQt " + qVersion() + "\nClipper\n" +
-           QSysInfo::prettyProductName() + ", " + QSysInfo::currentCpuArchitecture();
+    return toQt(std::string("Campora ").append(kVersion)) + "\nQt " + qVersion() +
+           "\nClipper " CAMPORA_CLIPPER_VERSION "\n" + QSysInfo::prettyProductName() + ", " +
+           QSysInfo::currentCpuArchitecture();
 }
 
 QLabel* line(const QString& text, QWidget* parent) {
@@ -46,7 +47,9 @@ QPlainTextEdit* detailsBox(const QString& name, QWidget* parent) {
     box->setReadOnly(true);
     box->setTabChangesFocus(true);
     box->setLineWrapMode(QPlainTextEdit::NoWrap);
-    const int frame = 2 * (box->frameWidth() + static_cast<int>(box->document()->documentMargin()));
+    constexpr int kSpare = 8;
+    const int frame =
+        2 * (box->frameWidth() + static_cast<int>(box->document()->documentMargin())) + kSpare;
     box->setFixedHeight(kDetailLines * box->fontMetrics().lineSpacing() + frame);
     return box;
 }

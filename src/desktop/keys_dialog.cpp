@@ -18,7 +18,7 @@ namespace campora {
 
 namespace {
 
-constexpr QSize kSize{640, 620};
+constexpr QSize kSize{740, 640};
 constexpr int kMargin = 12;
 
 struct HelpRow {

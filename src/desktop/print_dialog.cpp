@@ -73,6 +73,7 @@ PrintDialog::PrintDialog(const QStringList& printers, const PrintTarget& propose
     column->addLayout(form);
     if (printers.isEmpty()) {
         auto* const hint = new QLabel(toQt(texts(TextId::NoPrinters)), this);
+        hint->setObjectName("noPrinters");
         hint->setWordWrap(true);
         column->addWidget(hint);
     }

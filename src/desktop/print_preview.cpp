@@ -3,9 +3,13 @@
 
 #include "desktop/print_preview.h"
 
+#include <algorithm>
+#include <cmath>
+
 #include <QAction>
 #include <QGraphicsView>
 #include <QIcon>
+#include <QPainter>
 #include <QPrintPreviewWidget>
 #include <QPrinter>
 #include <QScreen>
@@ -22,6 +26,12 @@ namespace {
 
 constexpr QSize kSize{960, 780};
 constexpr double kZoomStep = 1.25;
+/// In milliseconds.
+constexpr int kRest = 120;
+constexpr double kLeastDots = 36;
+constexpr double kMostDots = 600;
+/// So much larger or smaller than drawn is not seen.
+constexpr double kTolerance = 0.05;
 
 }  // namespace
 
@@ -37,8 +47,13 @@ PrintPreview::PrintPreview(Session& session, QWidget* parent)
     printer_->setOutputFormat(QPrinter::PdfFormat);
     printing_.preparePaper(*printer_);
     view_ = new QPrintPreviewWidget(printer_.get(), this);
-    connect(view_, &QPrintPreviewWidget::paintRequested, this,
-            [this](QPrinter* printer) { printing_.paintPreview(*printer); });
+    connect(view_, &QPrintPreviewWidget::paintRequested, this, [this](QPrinter* printer) {
+        drawnDots_ = dotsPerInch();
+        printing_.paintPreview(*printer, drawnDots_);
+    });
+    rest_.setSingleShot(true);
+    rest_.setInterval(kRest);
+    connect(&rest_, &QTimer::timeout, this, &PrintPreview::sharpen);
     auto* const bar = new QToolBar(this);
     fillBar(*bar);
     auto* const column = new QVBoxLayout(this);
@@ -48,6 +63,8 @@ PrintPreview::PrintPreview(Session& session, QWidget* parent)
     column->addWidget(view_, 1);
     resize(kSize.boundedTo(screen()->availableSize()));
     if (auto* const pages = view_->findChild<QGraphicsView*>()) {
+        pages->setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
+                              QPainter::SmoothPixmapTransform);
         pages->setAccessibleName(toQt(texts_(TextId::PreviewPage)));
         pages->setFocus();
     }
@@ -111,9 +128,26 @@ void PrintPreview::fillBar(QToolBar& bar) {
 
 void PrintPreview::showAnew() {
     printing_.preparePaper(*printer_);
+    rest_.start();
     portrait_->setChecked(!printing_.isLandscape());
     landscape_->setChecked(printing_.isLandscape());
     view_->updatePreview();
+}
+
+int PrintPreview::dotsPerInch() const {
+    const double dots = view_->zoomFactor() * logicalDpiY() * devicePixelRatioF();
+    return static_cast<int>(std::lround(std::clamp(dots, kLeastDots, kMostDots)));
+}
+
+void PrintPreview::sharpen() {
+    if (std::abs(dotsPerInch() - drawnDots_) > kTolerance * drawnDots_) {
+        view_->updatePreview();
+    }
+}
+
+void PrintPreview::resizeEvent(QResizeEvent* event) {
+    QDialog::resizeEvent(event);
+    rest_.start();
 }
 
 void PrintPreview::setUpPage() {
@@ -133,18 +167,22 @@ void PrintPreview::turn(bool landscape) {
 
 void PrintPreview::showWholePage() {
     view_->fitInView();
+    rest_.start();
 }
 
 void PrintPreview::showWholeWidth() {
     view_->fitToWidth();
+    rest_.start();
 }
 
 void PrintPreview::zoomIn() {
     view_->zoomIn(kZoomStep);
+    rest_.start();
 }
 
 void PrintPreview::zoomOut() {
     view_->zoomOut(kZoomStep);
+    rest_.start();
 }
 
 }  // namespace campora

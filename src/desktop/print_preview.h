@@ -6,6 +6,7 @@
 #include <memory>
 
 #include <QDialog>
+#include <QTimer>
 
 #include "desktop/printing.h"
 
@@ -20,6 +21,9 @@ class PrintPreview final : public QDialog {
 public:
     PrintPreview(Session& session, QWidget* parent);
     ~PrintPreview() override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     QAction* addCommand(QToolBar& bar, const char* name, TextId text, const char* icon,
@@ -37,11 +41,18 @@ private:
     void leave() { reject(); }
     /// The page has changed.
     void showAnew();
+    /// Dots of the screen in an inch of the page as it is shown.
+    [[nodiscard]] int dotsPerInch() const;
+    /// Draws the map anew when the page is shown much larger or smaller than it was drawn.
+    void sharpen();
 
     const Texts& texts_;
     Printing printing_;
     std::unique_ptr<QPrinter> printer_;
     QPrintPreviewWidget* view_;
+    /// Waits for the end of a change of size.
+    QTimer rest_;
+    int drawnDots_ = 0;
     QAction* portrait_ = nullptr;
     QAction* landscape_ = nullptr;
 };

@@ -24,8 +24,6 @@ namespace campora {
 namespace {
 
 constexpr double kMmPerInch = 25.4;
-/// Enough for a preview that is looked at closely.
-constexpr int kPreviewDots = 300;
 /// What the setting keeps for the PDF file; no printer has such a name.
 constexpr std::string_view kPdfSetting = "/pdf";
 
@@ -71,11 +69,11 @@ void Printing::preparePaper(QPrinter& printer) const {
     printer.setPageOrientation(setup.landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
 }
 
-void Printing::paintPreview(QPrinter& printer) const {
+void Printing::paintPreview(QPrinter& printer, int dotsPerInch) const {
     const PointerOverride busy(Qt::WaitCursor);
     const PageLayout page = commands_.page(pageTextWidth());
     const QImage map =
-        pageMapPicture(page, commands_.mapCanvas(page), kPreviewDots,
+        pageMapPicture(page, commands_.mapCanvas(page), dotsPerInch,
                        [&](MapCanvas& canvas) { return commands_.drawMap(page, canvas, nullptr); });
     QPainter painter(&printer);
     paintPage(painter, printer.resolution() / kMmPerInch, page, map);

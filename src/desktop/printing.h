@@ -29,8 +29,8 @@ public:
 
     /// Gives a printer the paper and orientation of the page set-up, up to the edges of the sheet.
     void preparePaper(QPrinter& printer) const;
-    /// Paints the page for the preview.
-    void paintPreview(QPrinter& printer) const;
+    /// Paints the page for the preview, the map at so many dots an inch.
+    void paintPreview(QPrinter& printer, int dotsPerInch) const;
     void setLandscape(bool landscape);
     [[nodiscard]] bool isLandscape() const { return commands_.setup().landscape; }
 

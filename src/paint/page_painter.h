@@ -23,7 +23,7 @@ namespace campora {
 using DrawPageMap = std::function<bool(MapCanvas& canvas)>;
 
 /// The picture of a page's map on a canvas of that size, at so many dots an inch or, for large
-/// paper, as many as 36 million pixels (144 MB) give: 600 on A4, about 450 on A3. Null when memory
+/// paper, as many as 36 million pixels (144 MB) give: 600 on A4, about 570 on A3. Null when memory
 /// does not suffice or `draw` says no.
 [[nodiscard]] QImage pageMapPicture(const PageLayout& page, CanvasSize canvas, int dotsPerInch,
                                     const DrawPageMap& draw);
