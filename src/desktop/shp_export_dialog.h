@@ -25,6 +25,8 @@ class Session;
 /// Exports track files to polygon shapefiles: several beside themselves, one wherever the user
 /// wants it.
 class ShpExportDialog final : public QDialog {
+    Q_OBJECT
+
 public:
     /// `session` outlives the dialog.
     ShpExportDialog(const Session& session, QWidget* parent);
