@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <filesystem>
 
 #include "app/file_loading.h"
 #include "app/files_behind.h"
@@ -25,13 +24,6 @@ namespace campora {
 
 namespace {
 
-namespace fs = std::filesystem;
-
-bool exists(std::string_view path) {
-    std::error_code ignored;
-    return fs::exists(nativePath(path), ignored);
-}
-
 std::optional<Failure> copyFile(const std::string& source, const std::string& target) {
     const Result<FileBytes> content = readFile(source);
     return content ? writeFile(target, content->bytes()) : std::optional(content.failure());
@@ -45,8 +37,7 @@ FileCommands::FileCommands(Session& session)
 void FileCommands::fileOpen() {
     const Platform& platform = session_.platform();
     OpenRequest request{std::string(session_.texts()(TextId::Open)),
-                        startFolder(session_, SettingId::OpenPath),
-                        openFilters(session_.texts())};
+                        startFolder(session_, SettingId::OpenPath), openFilters(session_.texts())};
     request.several = true;
     request.preview = [this](const std::vector<std::string>& selected) { preview(selected); };
     const std::vector<std::string> paths = platform.dialogs.openFiles(request);
@@ -118,7 +109,7 @@ bool FileCommands::openPaths(const std::vector<std::string>& paths, bool resetFi
 }
 
 void FileCommands::openRecent(std::string_view path) {
-    if (!exists(path)) {
+    if (!isThere(path)) {
         const Texts& texts = session_.texts();
         session_.platform().dialogs.message(
             std::string(texts(TextId::ListedFileMissing)).append(path), MessageIcon::Exclamation,

@@ -4,10 +4,8 @@
 #include "app/files_behind.h"
 
 #include <cstddef>
-#include <filesystem>
 #include <optional>
 #include <string>
-#include <system_error>
 
 #include "app/file_loading.h"
 #include "base/file_head.h"
@@ -21,19 +19,13 @@ namespace campora {
 
 namespace {
 
-namespace fs = std::filesystem;
-
 /// Zeros at the start of a report that tell it as blank: more than a header and a record.
 constexpr std::size_t kBlankReport = 4096;
 
-bool isThere(const std::string& path) {
-    std::error_code ignored;
-    return fs::exists(nativePath(findIgnoringCase(path)), ignored);
-}
-
 /// The report that is written beside a prescription holds zeros until the console has worked.
 bool isBlankReport(const std::string& path) {
-    if (pathEnding(path) != ".rpt" || !isThere(path.substr(0, path.size() - 3) + "pre")) {
+    if (pathEnding(path) != ".rpt" ||
+        !isThere(findIgnoringCase(path.substr(0, path.size() - 3) + "pre"))) {
         return false;
     }
     const std::optional<std::string> head = readFileHead(path, kBlankReport);
@@ -45,14 +37,13 @@ bool accompanies(const std::string& path) {
         return true;
     }
     const std::string track = companionNames(path).trackPath;
-    return !track.empty() && track != path && isThere(track);
+    return !track.empty() && track != path && isThere(findIgnoringCase(track));
 }
 
 }  // namespace
 
 std::vector<std::string> filesBehind(std::string_view path) {
-    std::error_code error;
-    if (!fs::is_directory(nativePath(path), error)) {
+    if (!isFolder(path)) {
         return {std::string(path)};
     }
     return filesIn(path, [](const std::string& file) {

@@ -25,7 +25,7 @@ namespace fs = std::filesystem;
 
 constexpr int kMostFilesNamed = 20;
 
-bool isThere(const std::string& path) {
+bool isFile(const std::string& path) {
     std::error_code error;
     const fs::file_status status = fs::status(nativePath(path), error);
     return fs::exists(status) && !fs::is_directory(status);
@@ -35,9 +35,9 @@ bool isThere(const std::string& path) {
 /// the program's folder is looked for under its full path; `entry` itself when neither is there.
 std::string fileOf(const std::string& entry, const std::string& relative) {
     std::string file = findIgnoringCase(entry);
-    if (!isThere(file) && entry.starts_with(relative)) {
+    if (!isFile(file) && entry.starts_with(relative)) {
         std::string full = findIgnoringCase(entry.substr(relative.size()));
-        if (isThere(full)) {
+        if (isFile(full)) {
             return full;
         }
     }
@@ -110,7 +110,7 @@ std::optional<ProjectFiles> filesOfProject(std::string_view path, std::string_vi
     while (!waiting.empty()) {
         std::string entry = fileOf(waiting.back(), relative);
         waiting.pop_back();
-        if (!isThere(entry)) {
+        if (!isFile(entry)) {
             missing.add(entry);
             files.complete = false;
         } else if (!isProject(entry)) {

@@ -4,7 +4,6 @@
 #include "app/lot_commands.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <iterator>
 #include <memory>
 #include <optional>
@@ -38,11 +37,6 @@ std::optional<int> numberInName(std::string_view path) {
         }
     }
     return std::nullopt;
-}
-
-bool isThere(const std::string& path) {
-    std::error_code ignored;
-    return std::filesystem::exists(nativePath(path), ignored);
 }
 
 std::string inFolder(const std::string& folder, const std::string& name) {

@@ -4,15 +4,12 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 #include "app/settings.h"
 
 namespace campora {
 
 class Session;
-
-[[nodiscard]] bool isFolder(std::string_view path);
 
 /// The folder that the setting keeps when it is still there, else the program's.
 [[nodiscard]] std::string startFolder(const Session& session, SettingId setting);

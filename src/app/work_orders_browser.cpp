@@ -4,24 +4,14 @@
 #include "app/work_orders_browser.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <system_error>
 #include <utility>
 
+#include "app/save_target.h"
 #include "app/settings.h"
 #include "base/numbers.h"
 #include "base/paths.h"
 
 namespace campora {
-
-namespace {
-
-bool isFolder(std::string_view path) {
-    std::error_code ignored;
-    return !path.empty() && std::filesystem::is_directory(nativePath(path), ignored);
-}
-
-}  // namespace
 
 WorkOrdersBrowser::WorkOrdersBrowser(Session& session) : session_(session) {
     if (session_.plotCount() > 0) {
@@ -34,8 +24,7 @@ WorkOrdersBrowser::~WorkOrdersBrowser() {
 }
 
 std::string WorkOrdersBrowser::startFolder() const {
-    std::string last = readText(session_.platform().settings, SettingId::OpenZelPath);
-    return isFolder(last) ? last : session_.programFolder();
+    return campora::startFolder(session_, SettingId::OpenZelPath);
 }
 
 std::vector<OrderRow> WorkOrdersBrowser::rows() const {
@@ -138,10 +127,11 @@ void WorkOrdersBrowser::copy() {
     const Texts& texts = session_.texts();
     const Platform& platform = session_.platform();
     const std::string last = readText(platform.settings, SettingId::SelectFolder);
-    const std::string destination = platform.dialogs.chooseFolder(
-        {std::string(texts(TextId::ChooseFolder)), isFolder(last) ? last : folder_,
-         std::string(texts(TextId::FilesOfOrder)),
-         {std::string(texts(TextId::FilterLogs)), {"*.nbr"}}});
+    const std::string destination =
+        platform.dialogs.chooseFolder({std::string(texts(TextId::ChooseFolder)),
+                                       isFolder(last) ? last : folder_,
+                                       std::string(texts(TextId::FilesOfOrder)),
+                                       {std::string(texts(TextId::FilterLogs)), {"*.nbr"}}});
     if (!destination.empty()) {
         writeText(platform.settings, SettingId::SelectFolder, destination);
         copyOrder(order, destination, platform.dialogs, texts);

@@ -61,6 +61,15 @@ std::string pathEnding(std::string_view path) {
     return lowerCase(path.substr(begin));
 }
 
+bool isThere(std::string_view path) {
+    return isThere(nativePath(path));
+}
+
+bool isFolder(std::string_view path) {
+    std::error_code ignored;
+    return fs::is_directory(nativePath(path), ignored);
+}
+
 fs::path nativePath(std::string_view path) {
     if (!kBytesInNames && !isUtf8(path)) {
         // Names are UTF-16 on such a system: bytes that are not UTF-8 could not be converted.

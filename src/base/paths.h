@@ -29,6 +29,11 @@ namespace campora {
 /// "/" unless a file of that very name exists.
 [[nodiscard]] std::filesystem::path nativePath(std::string_view path);
 
+/// Whether a file or folder stands there; not, when that cannot be told.
+[[nodiscard]] bool isThere(std::string_view path);
+
+[[nodiscard]] bool isFolder(std::string_view path);
+
 /// The UTF-8 text of a native path.
 [[nodiscard]] std::string pathText(const std::filesystem::path& path);
 

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <filesystem>
 #include <stdexcept>
 #include <utility>
 #include <variant>
@@ -61,8 +60,7 @@ GphPresc::GphPresc(Color plain) : plain_(plain) {
 }
 
 bool GphPresc::loadFromFile(std::string_view path, Dialogs& dialogs, const Texts& texts) {
-    std::error_code unknown;
-    if (!std::filesystem::exists(nativePath(path), unknown)) {
+    if (!isThere(path)) {
         return false;
     }
     const std::string_view caption = texts(TextId::ProgramName);

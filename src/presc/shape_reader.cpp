@@ -4,9 +4,7 @@
 #include "presc/shape_reader.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <stdexcept>
-#include <system_error>
 #include <utility>
 
 #include "base/file_head.h"
@@ -27,11 +25,6 @@ std::string_view withoutEnding(std::string_view path) {
 
 std::string companionOf(std::string_view base, std::string_view ending) {
     return findIgnoringCase(std::string(base) + std::string(ending));
-}
-
-bool isThere(std::string_view path) {
-    std::error_code ignored;
-    return std::filesystem::exists(nativePath(path), ignored);
 }
 
 FileBytes readIfPossible(std::string_view path) {

@@ -80,8 +80,7 @@ std::vector<std::string> filesToCopy(const WorkOrder& order) {
     std::vector<std::string> files;
     for (const std::string& track : order.files) {
         std::string summary = findIgnoringCase(companionNames(track).summaryPath);
-        std::error_code ignored;
-        if (fs::exists(nativePath(summary), ignored)) {
+        if (isThere(summary)) {
             files.push_back(std::move(summary));
         }
         files.push_back(track);
