@@ -147,6 +147,10 @@ public:
     void takePlace(bool keep) {
         std::error_code error;
         const fs::file_status old = fs::status(target_, error);
+        if (fs::is_directory(old)) {
+            fail(std::make_error_code(std::errc::is_a_directory));
+            return;
+        }
         if (fs::exists(old)) {
             fs::permissions(draft_, old.permissions(), error);
             if (keep) {
