@@ -49,14 +49,9 @@ public:
                      [kind](const std::string& call) { return call.starts_with(kind); });
         return found;
     }
-    /// The corners of every polygon drawn, for tests that compute with them.
-    [[nodiscard]] const std::vector<std::vector<CanvasPoint>>& rings() const { return rings_; }
 
     /// Forgets the calls; size and state stay.
-    void forget() {
-        calls_.clear();
-        rings_.clear();
-    }
+    void forget() { calls_.clear(); }
     void resize(CanvasSize size) { size_ = size; }
 
     [[nodiscard]] PointerShape pointer() const { return pointer_; }
@@ -87,7 +82,6 @@ public:
     }
     void polygon(std::span<const CanvasPoint> ring) override {
         add("polygon" + fillForm() + ":" + corners(ring));
-        rings_.emplace_back(ring.begin(), ring.end());
     }
     void polyPolygon(std::span<const std::span<const CanvasPoint>> rings) override {
         std::string call = "polypolygon" + fillForm() + ":";
@@ -95,7 +89,6 @@ public:
         for (const std::span<const CanvasPoint> ring : rings) {
             call += separator + corners(ring);
             separator = " /";
-            rings_.emplace_back(ring.begin(), ring.end());
         }
         add(std::move(call));
     }
@@ -154,7 +147,6 @@ private:
     int penWidth_ = 1;
     PenStyle penStyle_ = PenStyle::Solid;
     std::vector<std::string> calls_;
-    std::vector<std::vector<CanvasPoint>> rings_;
 };
 
 }  // namespace campora
