@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "base/byte_writer.h"
+#include "base/files.h"
 
 namespace campora {
 
@@ -30,6 +31,9 @@ constexpr std::string_view kReference =
     R"(GEOGCS["GCS_WGS_1984",DATUM["D_WGS_1984",SPHEROID["WGS_1984",6378137.0,298.257223563]],)"
     R"(PRIMEM["Greenwich",0.0],UNIT["Degree",0.0174532925199433]])";
 constexpr std::string_view kCodePage = "1252";
+/// Indexes that other programs leave beside a set; they would look for the new figures in the
+/// places of the old ones.
+constexpr std::string_view kForeignIndexes[] = {".qix", ".sbn", ".sbx"};
 
 std::int32_t words(std::uint64_t bytes) {
     return static_cast<std::int32_t>(bytes / 2);
@@ -160,7 +164,14 @@ std::optional<Failure> ShapeSet::finish() {
     files.push_back(table_.takeDraft());
     files.emplace_back(basePath_ + ".prj").write(kReference);
     files.emplace_back(basePath_ + ".cpg").write(kCodePage);
-    return finishTogether(files);
+    if (std::optional<Failure> failure = finishTogether(files)) {
+        return failure;
+    }
+    for (const std::string_view ending : kForeignIndexes) {
+        // Where it cannot be deleted it is out of date, as it would be after any other program.
+        static_cast<void>(deleteFile(std::string(basePath_).append(ending)));
+    }
+    return std::nullopt;
 }
 
 }  // namespace campora

@@ -324,7 +324,9 @@ TEST_F(ShpTest, ExistingFilesAreReplacedTogetherOrNotAtAll) {
     AttributeLayer layer({squareAt(0, 0)}, {});
     (void)folder.write("campo.shp", "old");
     (void)folder.write("campo.prj", "old");
+    (void)folder.write("campo.qix", "index of the old figures");
     ASSERT_EQ(polygons({&layer}), std::nullopt);
+    EXPECT_EQ(fileCount(), 5U) << "an index of what is gone misleads";
     EXPECT_NE(content(".shp"), "old");
     EXPECT_NE(content(".prj"), "old");
     const std::string before = content(".shp");
