@@ -23,12 +23,14 @@
 #include "desktop/lot_vertex_model.h"
 #include "desktop/pointer_override.h"
 #include "desktop/qt_text.h"
+#include "desktop/section_heading.h"
 
 namespace campora {
 
 namespace {
 
-constexpr int kWidth = 256;
+/// Leaves the map its own least width in the smallest window.
+constexpr int kWidth = 250;
 constexpr int kSpacing = 4;
 constexpr int kDescriptionRows = 3;
 constexpr auto kWarningColor = "#B3261E";
@@ -115,10 +117,7 @@ LotPanel::~LotPanel() {
 }
 
 void LotPanel::makeHeader(QBoxLayout& column) {
-    title_->setTextFormat(Qt::PlainText);
-    QFont bold = font();
-    bold.setBold(true);
-    title_->setFont(bold);
+    showAsHeading(*title_);
     close_->setObjectName("cmdLoteClose");
     close_->setIcon(QIcon(":/icons/close.svg"));
     close_->setAutoRaise(true);
@@ -152,6 +151,7 @@ void LotPanel::makeVertices() {
     vertices_->setTabKeyNavigation(false);
     vertices_->setAlternatingRowColors(true);
     vertices_->setShowGrid(false);
+    vertices_->setCornerButtonEnabled(false);
     vertices_->setMinimumHeight(72);
     vertices_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     vertices_->horizontalHeader()->setHighlightSections(false);
@@ -344,22 +344,34 @@ bool LotPanel::useKey(const QKeyEvent& event, bool perform) {
     return false;
 }
 
-bool LotPanel::eventFilter(QObject* watched, QEvent* event) {
-    const bool isKey =
-        event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress;
-    // Otherwise Del would take a file off the map.
-    if (isKey && editor_.isOpen() && isEnabled() &&
-        useKey(static_cast<const QKeyEvent&>(*event), event->type() == QEvent::KeyPress)) {
-        event->accept();
+bool LotPanel::takesKey(QEvent& event) {
+    const bool perform = event.type() == QEvent::KeyPress;
+    if ((perform || event.type() == QEvent::ShortcutOverride) && isEnabled() && editor_.isOpen() &&
+        useKey(static_cast<const QKeyEvent&>(event), perform)) {
+        event.accept();
         return true;
     }
-    return QWidget::eventFilter(watched, event);
+    return false;
+}
+
+bool LotPanel::eventFilter(QObject* watched, QEvent* event) {
+    // Otherwise Del would take a file off the map.
+    return takesKey(*event) || QWidget::eventFilter(watched, event);
+}
+
+void LotPanel::keyPressEvent(QKeyEvent* event) {
+    // What the buttons have no use for; the text box has taken its own keys.
+    if (description_->hasFocus() || !takesKey(*event)) {
+        QWidget::keyPressEvent(event);
+    }
 }
 
 bool LotPanel::event(QEvent* event) {
-    // What buttons have no use for comes here; the text box keeps its own keys.
-    return description_->hasFocus() ? QWidget::event(event)
-                                    : eventFilter(this, event) || QWidget::event(event);
+    if (event->type() == QEvent::ShortcutOverride && !description_->hasFocus() &&
+        takesKey(*event)) {
+        return true;
+    }
+    return QWidget::event(event);
 }
 
 }  // namespace campora

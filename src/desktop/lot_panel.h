@@ -42,6 +42,7 @@ public:
 
 protected:
     bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -61,6 +62,8 @@ private:
     void showSelection();
     /// Does what a key means; false for one without a meaning here.
     bool useKey(const QKeyEvent& event, bool perform);
+    /// Whether the event is a key of the editor, which has done its work then.
+    bool takesKey(QEvent& event);
 
     Session& session_;
     LotEditor& editor_;

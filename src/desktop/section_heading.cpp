@@ -5,16 +5,20 @@
 
 namespace campora {
 
-SectionHeading::SectionHeading(QWidget& part) : part_(part) {
-    setTextFormat(Qt::PlainText);
-    setBuddy(&part);
-    setContentsMargins(2, 0, 2, 0);
-    QFont bold = font();
+void showAsHeading(QLabel& label) {
+    label.setTextFormat(Qt::PlainText);
+    label.setContentsMargins(2, 0, 2, 0);
+    QFont bold = label.font();
     bold.setBold(true);
-    setFont(bold);
-    QPalette green = palette();
+    label.setFont(bold);
+    QPalette green = label.palette();
     green.setColor(QPalette::WindowText, green.color(QPalette::Link));
-    setPalette(green);
+    label.setPalette(green);
+}
+
+SectionHeading::SectionHeading(QWidget& part) : part_(part) {
+    setBuddy(&part);
+    showAsHeading(*this);
 }
 
 void SectionHeading::setTitle(const QString& title) {

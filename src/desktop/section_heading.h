@@ -7,6 +7,9 @@
 
 namespace campora {
 
+/// Gives a label the looks of a heading.
+void showAsHeading(QLabel& label);
+
 /// The heading over a part of the side panel; it also names that part for screen readers.
 class SectionHeading final : public QLabel {
 public:

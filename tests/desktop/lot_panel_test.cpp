@@ -1,0 +1,164 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "desktop/lot_panel.h"
+
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QTableView>
+#include <QTimer>
+#include <QToolBar>
+
+#include "desktop/coord_dialog.h"
+#include "desktop/window_fixture.h"
+#include "support/lot_files.h"
+
+namespace campora {
+namespace {
+
+struct LotPanelTest : WindowTest {
+    void SetUp() override {
+        WindowTest::SetUp();
+        open({writeReport("a.rpt")});
+        list().setCurrentRow(-1);
+        action(TextId::ActionLote)->trigger();
+    }
+    [[nodiscard]] LotPanel& panel() const { return window->lotPanel(); }
+    [[nodiscard]] LotEditor& editor() const { return window->session().lotEditor(); }
+    template <typename Widget>
+    [[nodiscard]] Widget& part(const char* name) const {
+        return *panel().findChild<Widget*>(name);
+    }
+    void clickOnMap(QPoint at) { QTest::mouseClick(&map(), Qt::LeftButton, {}, at); }
+    void drawTriangle() {
+        clickOnMap({60, 60});
+        clickOnMap({200, 60});
+        clickOnMap({130, 200});
+    }
+    [[nodiscard]] QString cell(int row, int column) const {
+        return panel().vertices().model()->index(row, column).data().toString();
+    }
+};
+
+TEST_F(LotPanelTest, ListsWhatIsDrawnInTheUsersCoordinates) {
+    EXPECT_TRUE(panel().isVisible());
+    EXPECT_TRUE(map().hasFocus());
+    drawTriangle();
+    QTableView& table = panel().vertices();
+    ASSERT_EQ(table.model()->rowCount(), 3);
+    EXPECT_EQ(table.currentIndex().row(), 2);
+    const LonLat second = under({200, 60});
+    EXPECT_EQ(cell(1, 0), toQt(formatCoord(second.y, CoordType::Degrees)).trimmed());
+    action(TextId::CoordSeconds)->trigger();
+    EXPECT_EQ(cell(1, 1), toQt(formatCoord(second.x, CoordType::DegreesMinutesSeconds)).trimmed());
+    table.setFocus();
+    QTest::keyClick(&table, Qt::Key_Up);
+    EXPECT_EQ(editor().draft().selected(), std::size_t{1});
+    EXPECT_TRUE(part<QLabel>("lblLoteFigures").text().startsWith("Superficie: "));
+    clickOnMap({130, 20});
+    EXPECT_EQ(toUtf8(part<QLabel>("lblLoteWarning").text()),
+              window->session().texts()(TextId::LoteCrosses));
+}
+
+TEST_F(LotPanelTest, KeysChangeTheLotAndNotTheListOfFiles) {
+    drawTriangle();
+    for (QWidget* focused :
+         {static_cast<QWidget*>(&map()), static_cast<QWidget*>(&panel().vertices()),
+          static_cast<QWidget*>(&part<QAbstractButton>("cmdLoteSave"))}) {
+        focused->setFocus();
+        QTest::keyClick(focused, Qt::Key_Insert);
+        EXPECT_EQ(editor().draft().vertices().size(), 4U);
+        QTest::keyClick(focused, Qt::Key_Delete);
+        QTest::keyClick(focused, Qt::Key_Delete);
+        EXPECT_EQ(editor().draft().vertices().size(), 2U);
+        QTest::keyClick(focused, Qt::Key_Z, Qt::ControlModifier);
+        QTest::keyClick(focused, Qt::Key_Z, Qt::ControlModifier);
+        QTest::keyClick(focused, Qt::Key_Y, Qt::ControlModifier);
+        EXPECT_EQ(editor().draft().vertices().size(), 3U);
+        QTest::keyClick(focused, Qt::Key_Z, Qt::ControlModifier);
+        QTest::keyClick(focused, Qt::Key_Z, Qt::ControlModifier);
+        ASSERT_EQ(editor().draft().vertices().size(), 3U);
+    }
+    auto& description = part<QPlainTextEdit>("txtLoteDescription");
+    description.setFocus();
+    QTest::keyClicks(&description, "ab");
+    QTest::keyClick(&description, Qt::Key_Backspace);
+    QTest::keyClick(&description, Qt::Key_Insert);
+    EXPECT_EQ(editor().draft().description(), "a");
+    EXPECT_EQ(editor().draft().vertices().size(), 3U);
+    EXPECT_EQ(rows().size(), 1U);
+}
+
+TEST_F(LotPanelTest, AVertexIsTyped) {
+    const auto type = [this](const char* latitude) {
+        QTimer::singleShot(0, window.get(), [this, latitude] {
+            auto* const dialog = window->findChild<CoordDialog*>();
+            ASSERT_NE(dialog, nullptr);
+            dialog->findChild<QLineEdit*>("txtLatG")->setText(latitude);
+            dialog->accept();
+        });
+    };
+    type("12.5");
+    part<QAbstractButton>("cmdLoteAdd").click();
+    ASSERT_EQ(editor().draft().vertices().size(), 1U);
+    EXPECT_EQ(editor().draft().vertices()[0], (LonLat{0, 12.5}));
+    editor().add({-58.25, -34.5});
+    type("33");
+    part<QAbstractButton>("cmdLoteMove").click();
+    EXPECT_EQ(editor().draft().vertices()[1], (LonLat{-58.25, -33}));
+}
+
+TEST_F(LotPanelTest, TheDescriptionHasTenLines) {
+    auto& description = part<QPlainTextEdit>("txtLoteDescription");
+    description.setPlainText("1\n2\n3\n4\n5\n6\n7\n8\n9\n10\n11");
+    EXPECT_EQ(description.toPlainText(), "1\n2\n3\n4\n5\n6\n7\n8\n9\n10");
+    part<QAbstractButton>("cmdLoteClear").click();
+    EXPECT_EQ(description.toPlainText(), "");
+    part<QAbstractButton>("cmdLoteUndo").click();
+    EXPECT_TRUE(description.toPlainText().endsWith("\n10"));
+}
+
+TEST_F(LotPanelTest, TheMapKeepsItsPlaceAndANarrowWindowItsMap) {
+    action(TextId::ActionLote)->trigger();
+    EXPECT_FALSE(panel().isVisible());
+    view().zoomIn();
+    view().zoomIn();
+    const float scale = view().scaleX();
+    const LonLat middle = under(map().rect().center());
+    action(TextId::ActionLote)->trigger();
+    EXPECT_EQ(view().scaleX(), scale);
+    EXPECT_NEAR(under(map().rect().center()).x, middle.x, 1e-3);
+    window->resize(MainWindow::kMinimumSize);
+    EXPECT_FALSE(window->sidePanelShown());
+    EXPECT_FALSE(action(TextId::ActionSidePanel)->isEnabled());
+    EXPECT_GE(map().width(), map().minimumSizeHint().width());
+    EXPECT_LE(panel().mapTo(window.get(), panel().rect().bottomRight()).x(), window->width());
+    action(TextId::ActionLote)->trigger();
+    EXPECT_TRUE(window->sidePanelShown());
+    EXPECT_TRUE(action(TextId::ActionSidePanel)->isEnabled());
+}
+
+TEST_F(LotPanelTest, SpeaksTheUsersLanguageAndNamesItsControls) {
+    window->session().setLanguage(Language::Portuguese);
+    EXPECT_EQ(part<QAbstractButton>("cmdLoteSave").text(), "&Salvar...");
+    EXPECT_EQ(part<QCheckBox>("chkLoteTransparent").text(), "Parte interna &transparente");
+    for (const QAbstractButton* button : panel().findChildren<QAbstractButton*>()) {
+        if (button->objectName().startsWith("cmd") && button->text().isEmpty()) {
+            EXPECT_FALSE(button->accessibleName().isEmpty()) << toUtf8(button->objectName());
+        }
+    }
+}
+
+TEST_F(LotPanelTest, TheWindowDoesNotCloseOverALotThatIsNotSaved) {
+    drawTriangle();
+    dialogs.yesNoAnswers = {false};
+    EXPECT_FALSE(window->close());
+    EXPECT_EQ(dialogs.questions.size(), 1U);
+    dialogs.yesNoAnswers = {true};
+    EXPECT_TRUE(window->close());
+}
+
+}  // namespace
+}  // namespace campora
