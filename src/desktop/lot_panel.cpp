@@ -241,7 +241,7 @@ void LotPanel::refresh() {
     for (std::size_t i = 0; i < actions_.size(); ++i) {
         actions_[i]->setEnabled(Tool::kTools[i].possible(editor_));
     }
-    figures_->setText(toQt(editor_.figures()));
+    figures_->setText(editor_.isOpen() ? toQt(editor_.figures()) : QString());
     const bool crosses = editor_.crossesItself();
     QPalette colors = palette();
     if (crosses) {
@@ -251,8 +251,8 @@ void LotPanel::refresh() {
     warning_->setText(toQt(texts(crosses ? TextId::LoteCrosses : TextId::LoteHint)));
     showDescription();
     saveBack_->setEnabled(!path.empty());
-    saveBack_->setToolTip(
-        plainToolTip(toQt(texts.format(TextId::TipLoteSaveBack, {std::string(path)}))));
+    const QString tip = toQt(texts.format(TextId::TipLoteSaveBack, {std::string(path)}));
+    saveBack_->setToolTip(path.empty() ? QString() : plainToolTip(tip));
 }
 
 void LotPanel::showSelection() {
