@@ -22,6 +22,8 @@ namespace campora {
 
 /// Paper, orientation, margins and contents of printed pages.
 class PageSetupDialog final : public QDialog {
+    Q_OBJECT
+
 public:
     /// `texts` outlives the dialog.
     PageSetupDialog(const PageSetup& setup, const std::string& description, const Texts& texts,

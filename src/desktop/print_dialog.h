@@ -23,6 +23,8 @@ struct PrintTarget {
 
 /// Asks for the printer, or a PDF file, which is always there.
 class PrintDialog final : public QDialog {
+    Q_OBJECT
+
 public:
     /// `printers`: the names of those that are there. `proposed`: what stands first in the
     /// controls; a printer that is not there gives way to the PDF file.

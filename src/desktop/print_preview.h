@@ -18,6 +18,8 @@ namespace campora {
 
 /// Shows the page as it will be printed.
 class PrintPreview final : public QDialog {
+    Q_OBJECT
+
 public:
     PrintPreview(Session& session, QWidget* parent);
     ~PrintPreview() override;
