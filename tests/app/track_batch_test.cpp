@@ -87,16 +87,5 @@ TEST_F(TrackBatchTest, OneFileGoesWhereItIsWantedAndWhatCameOfItIsSaid) {
                   folder.file("gone.nbr") + ": no existe");
 }
 
-TEST_F(TrackBatchTest, TheLengthOfThePolygonsIsThatOfTheOptions) {
-    const std::string source = track("a.nbr", 50, 21);
-    const auto recordsWith = [&](int length) {
-        batch.options.polygonLength = length;
-        EXPECT_TRUE(batch.exportOne(source, folder.file("a")).written);
-        return (contentOf(folder.file("a.shx")).size() - 100) / 8;
-    };
-    EXPECT_GT(recordsWith(5), recordsWith(10));
-    EXPECT_EQ(recordsWith(100), 1U);
-}
-
 }  // namespace
 }  // namespace campora

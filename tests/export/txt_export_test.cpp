@@ -134,16 +134,5 @@ TEST_F(TextTest, AReportsPointsComeWithTheirSwathInCentimetres) {
               "-60.5\t-33\t90\t100\t0\t0\t1250\t00:00:00\r\n");
 }
 
-TEST_F(TextTest, CancellingLeavesTheFileThatWasThere) {
-    folder.write("tabla.txt", "old");
-    const PointLayer layer({{1, 2}});
-    const std::vector<const Gph*> layers{&layer};
-    CancellingProgress enough;
-    ExportProgress progress(enough);
-    EXPECT_EQ(txtExport(layers, path, form, locale, progress), std::nullopt);
-    EXPECT_TRUE(progress.cancelled());
-    EXPECT_EQ(contentOf(path), "old");
-}
-
 }  // namespace
 }  // namespace campora
