@@ -180,6 +180,11 @@ bool LotEditor::isWhole() const {
     return draft_.vertices().size() >= kFewestVertices;
 }
 
+LonLat LotEditor::middleOfMap() const {
+    const auto [width, height] = session_.platform().canvas.size();
+    return session_.view().transform().isFitted() ? positionAt({width / 2, height / 2}) : LonLat{};
+}
+
 LonLat LotEditor::positionAt(CanvasPoint at) const {
     const LonLat position =
         session_.view().transform().screenToMap(static_cast<float>(at.x), static_cast<float>(at.y));

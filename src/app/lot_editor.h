@@ -62,6 +62,7 @@ public:
     /// Hectares and perimeter in words.
     [[nodiscard]] std::string figures() const;
     [[nodiscard]] bool crossesItself() const { return crosses_; }
+    [[nodiscard]] LonLat middleOfMap() const;
     /// Whether there are vertices enough for a lot.
     [[nodiscard]] bool isWhole() const;
 

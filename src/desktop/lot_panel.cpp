@@ -296,15 +296,18 @@ void LotPanel::descriptionEdited() {
     editor_.setDescription(toUtf8(description_->toPlainText()));
 }
 
-std::optional<LonLat> LotPanel::askPosition(std::optional<LonLat> present) {
+std::optional<LonLat> LotPanel::askPosition(LonLat proposed) {
     const Platform& platform = session_.platform();
     CoordDialog dialog(this, platform.dialogs, session_.texts(), platform.locale,
-                       session_.coordType(), present);
+                       session_.coordType(), proposed);
     return dialog.showInput();
 }
 
 void LotPanel::addVertex() {
-    if (const std::optional<LonLat> position = askPosition(std::nullopt)) {
+    // Most likely not far from what is there: signs and first digits are right then.
+    const std::vector<LonLat>& vertices = editor_.draft().vertices();
+    const LonLat near = vertices.empty() ? editor_.middleOfMap() : vertices.back();
+    if (const std::optional<LonLat> position = askPosition(near)) {
         editor_.add(*position);
     }
 }

@@ -56,7 +56,7 @@ private:
     void addVertex();
     void editVertex();
     /// None when the user cancels.
-    [[nodiscard]] std::optional<LonLat> askPosition(std::optional<LonLat> present);
+    [[nodiscard]] std::optional<LonLat> askPosition(LonLat proposed);
     void descriptionEdited();
     void showDescription();
     void showSelection();

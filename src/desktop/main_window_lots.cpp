@@ -33,7 +33,11 @@ bool MainWindow::hasRoomForSidePanel() const {
 }
 
 void MainWindow::arrangePanels() {
-    sidePanel_->setVisible(sidePanelWanted_ && hasRoomForSidePanel());
+    const bool shows = sidePanelWanted_ && hasRoomForSidePanel();
+    if (shows == sidePanel_->isHidden()) {
+        sidePanel_->setVisible(shows);
+        commandsChanged();
+    }
 }
 
 void MainWindow::showLotPanel() {
