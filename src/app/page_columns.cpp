@@ -13,26 +13,40 @@ namespace {
 
 /// A heading with the row under it.
 constexpr int kLeastRows = 2;
-/// A block a column may be this much higher than blocks one after the other.
-constexpr double kWorth = 1.35;
+/// What looks better may be this much higher than what is lowest.
+constexpr double kWorth = 1.5;
+
+enum class Style {
+    /// Each block, with those that join it, in a column of its own, in one piece.
+    Apart,
+    /// One block after the other, each in one piece.
+    Whole,
+    /// One block after the other, broken where a column ends.
+    Running,
+};
 
 /// Sets rows into columns of a given height.
 class Flow {
 public:
-    Flow(int columns, int lines) : columns_(columns), lines_(lines) {}
+    Flow(int columns, int lines, Style style) : columns_(columns), lines_(lines), style_(style) {}
 
     /// False when there is no room for the block.
-    bool add(const PageBlock& block, bool inNewColumn) {
+    bool add(const PageBlock& block) {
+        const int least =
+            style_ == Style::Running ? kLeastRows : static_cast<int>(block.rows.size());
         if (line_ > 0) {
             const bool startsAnew =
-                (inNewColumn && !block.joinsPrevious) || line_ + 1 + kLeastRows > lines_;
+                (style_ == Style::Apart && !block.joinsPrevious) || line_ + 1 + least > lines_;
             startsAnew ? nextColumn() : static_cast<void>(++line_);
+        }
+        if (least > lines_) {
+            return false;
         }
         for (const PageRow& row : block.rows) {
             if (line_ >= lines_) {
                 nextColumn();
             }
-            if (column_ >= columns_ || lines_ < kLeastRows) {
+            if (column_ >= columns_) {
                 return false;
             }
             placed_.rows.push_back({row, column_, line_++});
@@ -50,16 +64,17 @@ private:
 
     int columns_;
     int lines_;
+    Style style_;
     int column_ = 0;
     int line_ = 0;
     PlacedBlocks placed_;
 };
 
 std::optional<PlacedBlocks> tryFlow(const std::vector<PageBlock>& blocks, int columns, int lines,
-                                    bool columnABlock) {
-    Flow flow(columns, lines);
+                                    Style style) {
+    Flow flow(columns, lines, style);
     for (const PageBlock& block : blocks) {
-        if (!flow.add(block, columnABlock)) {
+        if (!flow.add(block)) {
             return std::nullopt;
         }
     }
@@ -68,9 +83,9 @@ std::optional<PlacedBlocks> tryFlow(const std::vector<PageBlock>& blocks, int co
 
 /// The lowest that holds all blocks; none within `mostLines`.
 std::optional<PlacedBlocks> lowest(const std::vector<PageBlock>& blocks, int columns, int mostLines,
-                                   bool columnABlock) {
+                                   Style style) {
     for (int lines = kLeastRows; lines <= mostLines; ++lines) {
-        if (std::optional<PlacedBlocks> placed = tryFlow(blocks, columns, lines, columnABlock)) {
+        if (std::optional<PlacedBlocks> placed = tryFlow(blocks, columns, lines, style)) {
             return placed;
         }
     }
@@ -78,10 +93,18 @@ std::optional<PlacedBlocks> lowest(const std::vector<PageBlock>& blocks, int col
 }
 
 std::optional<PlacedBlocks> best(const std::vector<PageBlock>& blocks, int columns, int mostLines) {
-    std::optional<PlacedBlocks> apart = lowest(blocks, columns, mostLines, true);
-    std::optional<PlacedBlocks> running = lowest(blocks, columns, mostLines, false);
-    const bool worthIt = apart && running && apart->lines <= running->lines * kWorth;
-    return worthIt ? std::move(apart) : std::move(running);
+    std::optional<PlacedBlocks> running = lowest(blocks, columns, mostLines, Style::Running);
+    if (!running) {
+        return std::nullopt;
+    }
+    const int worth = static_cast<int>(running->lines * kWorth);
+    for (const Style style : {Style::Apart, Style::Whole}) {
+        if (std::optional<PlacedBlocks> better =
+                lowest(blocks, columns, std::min(worth, mostLines), style)) {
+            return better;
+        }
+    }
+    return running;
 }
 
 /// Blocks of which the ends are left out.
@@ -126,13 +149,15 @@ PlacedBlocks placeBlocks(std::vector<PageBlock> blocks, int columns, int mostLin
         ShortBlocks rest(blocks, more);
         do {
             if (std::optional<PlacedBlocks> placed =
-                    tryFlow(rest.blocks(), columns, mostLines, false)) {
+                    tryFlow(rest.blocks(), columns, mostLines, Style::Running)) {
                 placed->cut = true;
                 return std::move(*placed);
             }
         } while (rest.shorten());
     }
-    return {.cut = true};
+    PlacedBlocks nothing;
+    nothing.cut = true;
+    return nothing;
 }
 
 }  // namespace campora

@@ -50,10 +50,10 @@ struct PlacedBlocks {
 /// Text of the row that stands for so many that were left out.
 using MoreText = std::function<std::string(int left)>;
 
-/// Sets the blocks in up to so many columns, as low as they go: a block a column where that is not
-/// much higher, one after the other with a line between them otherwise. A heading never stands last
-/// in its column. What `mostLines` does not hold is left out from the ends of the longest blocks,
-/// with a row that says how much; what has no room even then is not placed at all.
+/// Sets the blocks in up to so many columns: a block a column, or one after the other with a line
+/// between them, in one piece where that is not much higher than the lowest there is. A heading
+/// never stands last in its column. What `mostLines` does not hold is left out from the ends of the
+/// longest blocks, with a row that says how much; what has no room even then is not placed at all.
 [[nodiscard]] PlacedBlocks placeBlocks(std::vector<PageBlock> blocks, int columns, int mostLines,
                                        const MoreText& more);
 

@@ -75,8 +75,7 @@ std::string elidedEnd(std::string_view text, PageFont font, double widthMm,
     }
     const std::vector<std::size_t> cuts = cutsOf(text);
     for (std::size_t kept = cuts.size() - 1; kept > 0; --kept) {
-        const std::string shown =
-            std::string(trim(text.substr(0, cuts[kept - 1]))).append(kEllipsis);
+        std::string shown = std::string(trim(text.substr(0, cuts[kept - 1]))).append(kEllipsis);
         if (textWidth(shown, font) <= widthMm) {
             return shown;
         }
@@ -90,7 +89,7 @@ std::string elidedStart(std::string_view text, PageFont font, double widthMm,
         return std::string(text);
     }
     for (const std::size_t cut : cutsOf(text)) {
-        const std::string shown = std::string(kEllipsis).append(text.substr(cut));
+        std::string shown = std::string(kEllipsis).append(text.substr(cut));
         if (textWidth(shown, font) <= widthMm) {
             return shown;
         }
