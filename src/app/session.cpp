@@ -125,10 +125,13 @@ void Session::reset() {
 }
 
 void Session::setTitle(bool untitled) {
+    const File* const current = files_.currentFile();
     if (untitled) {
         showTitle(untitledTitle());
-    } else if (const File* current = files_.currentFile()) {
-        showTitle(fileTitle(current->File_path()));
+    } else if (current != nullptr) {
+        // What was made here is on no disk yet.
+        const std::string path = current->File_path();
+        showTitle(path.empty() ? untitledTitle() : fileTitle(path));
     }
 }
 

@@ -50,6 +50,7 @@ TEST_F(LotCommandsTest, MergedLotsAreShownAndSaved) {
     commands.mnuLoteMerge();
     EXPECT_EQ(listed(), (Names{"Fusionado", "a.lot", "b.lot"}));
     EXPECT_EQ(window.selected, 0);
+    EXPECT_EQ(window.title, "Campora - [Untitled]");
     commands.mnuLoteMerge();
     EXPECT_EQ(listed(), (Names{"Fusionado", "a.lot", "b.lot"}));
     EXPECT_TRUE(dialogs.messages.empty());
