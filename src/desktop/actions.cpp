@@ -35,7 +35,7 @@ struct MenuRow {
 constexpr MenuRow kMenus[] = {
     {MenuId::File, TextId::MenuFile, MenuId::File},
     {MenuId::Recent, TextId::MenuRecent, MenuId::File, "mnuFileReload"},
-    {MenuId::SelectedFile, TextId::MenuSelectedFile, MenuId::File},
+    {MenuId::SelectedFile, TextId::MenuSelectedFile, MenuId::File, "mnuFilePrescript"},
     {MenuId::Edit, TextId::MenuEdit, MenuId::Edit},
     {MenuId::Coordinates, TextId::MenuCoordinates, MenuId::Edit},
     {MenuId::Colors, TextId::MenuColors, MenuId::Edit},
