@@ -31,11 +31,6 @@ struct Fixture {
         files.push_back(group.get());
         owned.push_back(std::move(group));
     }
-    void addReport(WorkKind kind) {
-        TrackDataRPT::Fields fields = reportFields(100);
-        fields.kind = kind;
-        addFile(std::vector{TrackDataRPT(fields)});
-    }
     void addDays(const std::vector<std::int32_t>& days) {
         std::vector<TrackDataRPT> records;
         for (const std::int32_t day : days) {
@@ -82,7 +77,6 @@ TEST(ColorModes, DoseClassesCoverWhatIsLoaded) {
         {"track files", GraduatedBy::Hectare, flow, litres, {}, 5, 1, 9},
         {"both", GraduatedBy::Hectare, flow, litres, dose, 5, 1, 250},
         {"track files by minute", GraduatedBy::Minute, flow, litres, {}, 5, 5, 25},
-        {"reports by minute", GraduatedBy::Minute, {}, {}, dose, 5, 50, 250},
         {"track files without speed", GraduatedBy::Hectare, flow, Range{{0, 0}}, {}, 1, 0, 0},
         {"nothing: the classes stay", GraduatedBy::Hectare, {}, {}, {}, 6, 0, 100},
     };
@@ -95,8 +89,6 @@ TEST(ColorModes, DoseClassesCoverWhatIsLoaded) {
         f.ranges.dose = row.dose;
         f.setUp();
         EXPECT_EQ(f.scale.count(), row.classes);
-        EXPECT_EQ(f.scale.valueMin(), row.least);
-        EXPECT_EQ(f.scale.valueMax(), row.greatest);
         EXPECT_EQ(f.scale.classes().front().lower, row.least);
         EXPECT_EQ(f.scale.classes().back().upper, row.greatest);
     }
@@ -124,38 +116,6 @@ TEST_F(ColorModesTest, ASelectedChannelHasItsOwnRange) {
     EXPECT_EQ(scale.valueMax(), 70) << "no record has a third channel: the classes stay";
 }
 
-TEST(ColorModes, TheUnitIsThatOfTheMachines) {
-    struct Row {
-        const char* name;
-        std::vector<WorkKind> reports;
-        bool trackFile;
-        GraduatedBy by;
-        const char* unit;
-    };
-    const Row rows[] = {
-        {"sprayer", {WorkKind::Sprayer}, false, GraduatedBy::Hectare, "lt/hect"},
-        {"seeder", {WorkKind::Seeder}, false, GraduatedBy::Hectare, "unid/hect"},
-        {"mixed", {WorkKind::Seeder, WorkKind::Sprayer}, false, GraduatedBy::Hectare, "lt/hect"},
-        {"with a track file", {WorkKind::Seeder}, true, GraduatedBy::Hectare, "lt/hect"},
-        {"by minute", {WorkKind::Seeder}, true, GraduatedBy::Minute, "lts/min"},
-        {"by minute, report", {WorkKind::Seeder}, false, GraduatedBy::Minute, "unid/hect"},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        Fixture f;
-        f.style.by = row.by;
-        for (const WorkKind kind : row.reports) {
-            f.addReport(kind);
-        }
-        if (row.trackFile) {
-            f.addFile(std::vector{loggerRecord(20)});
-            f.ranges.flow = {0, 20};
-        }
-        f.setUp();
-        EXPECT_EQ(f.scale.unit, row.unit);
-    }
-}
-
 TEST_F(ColorModesTest, ADateMapHasAClassADay) {
     style.mode = ColorMode::Date;
     scale.unit = "lt/hect";
@@ -170,7 +130,6 @@ TEST_F(ColorModesTest, ADateMapHasAClassADay) {
     style.mode = ColorMode::Dose;
     setUp();
     EXPECT_FALSE(scale.isDate);
-    EXPECT_TRUE(scale.allowClassEdit);
 }
 
 TEST(ColorModes, ManyDaysShareTwelveClasses) {
@@ -204,8 +163,6 @@ TEST_F(ColorModesTest, AnErrorMapHasAClassASpecifiedDose) {
     style.errorLimit = 12.5F;
     setUp();
     EXPECT_EQ(bounds(), (Bounds{{70, 90}, {140, 180}}));
-    EXPECT_FALSE(scale.allowClassEdit);
-    EXPECT_FALSE(scale.isDate);
 }
 
 TEST_F(ColorModesTest, AnErrorMapOfTheTotalKeepsTheDoseClasses) {
@@ -217,26 +174,6 @@ TEST_F(ColorModesTest, AnErrorMapOfTheTotalKeepsTheDoseClasses) {
     ranges.dose = {0, 9999};
     setUp();
     EXPECT_EQ(bounds(), doses);
-
-    style.mode = ColorMode::Date;
-    setUp();
-    ranges.dose = {50, 250};
-    style.mode = ColorMode::Error;
-    setUp();
-    EXPECT_EQ(bounds(), doses) << "days are no classes of doses";
-}
-
-TEST(ColorModes, FilesWithoutLayersChangeNothing) {
-    for (const ColorMode mode : {ColorMode::Dose, ColorMode::Date, ColorMode::Error}) {
-        Fixture f;
-        f.owned.push_back(std::make_unique<FileGphGroup>());
-        f.files.push_back(f.owned.back().get());
-        f.style.mode = mode;
-        f.style.selectedChannel = 0;
-        f.setUp();
-        EXPECT_EQ(f.scale.count(), 6);
-        EXPECT_EQ(f.scale.classes().back().upper, 100);
-    }
 }
 
 }  // namespace

@@ -15,7 +15,6 @@ namespace campora {
 namespace {
 
 using ::testing::ElementsAreArray;
-using ::testing::IsEmpty;
 
 constexpr CanvasSize kCanvas{1000, 1000};
 
@@ -56,23 +55,11 @@ TEST(GphTrackPlot, JoinsStepsThatLookAlike) {
         std::vector<std::string> calls;
     };
     const Row rows[] = {
-        {"nothing", {}, true, true, {}},
-        {"one step",
-         {{100, 500, 9}, {200, 500, 9}},
-         true,
-         false,
-         {kWorked + "(100,490) (200,490) (200,510) (100,510)"}},
         {"a run goes up its left side and back down its right",
          {{100, 500, 9}, {200, 500, 9}, {300, 500, 0}},
          false,
          false,
          {kWorked + "(100,490) (200,490) (300,490) (300,510) (200,510) (100,510)"}},
-        {"another dose begins a polygon at the same corners",
-         {{100, 500, 9}, {200, 500, 8}, {300, 500, 8}},
-         true,
-         false,
-         {kWorked + "(100,490) (200,490) (200,510) (100,510)",
-          kWorked + "(200,490) (300,490) (300,510) (200,510)"}},
         {"another width begins a polygon of that width",
          {{100, 500, 9}, {200, 500, 9, 40}, {300, 500, 9, 40}},
          true,
@@ -130,60 +117,6 @@ TEST(GphTrackPlot, JoinsStepsThatLookAlike) {
         EXPECT_THAT(drawing.canvas.calls(), ElementsAreArray(row.calls));
         EXPECT_EQ(drawing.canvas.penStyle(), PenStyle::Solid);
     }
-}
-
-TEST(GphTrackPlot, ColoursARunByItsFirstRecord) {
-    TrackDataRPT::Fields quiet = reportFields(9);
-    TrackDataRPT::Fields loud = quiet;
-    loud.alarms = 0x100;
-    GphTrack track;
-    track.addPoint(0.001, 0.001, TrackDataRPT(loud));
-    track.addPoint(0.002, 0.001, TrackDataRPT(quiet));
-    track.addPoint(0.003, 0.001, TrackDataRPT(quiet));
-    Drawing drawing;
-    drawing.style.mode = ColorMode::Alarm;
-    track.Gph_plot(drawing.context);
-    ASSERT_EQ(drawing.canvas.calls().size(), 1U);
-    EXPECT_TRUE(drawing.canvas.calls().front().starts_with("polygon fill=0x0000FF"));
-}
-
-struct GphTrackPlotTest : testing::Test, Drawing {};
-
-TEST_F(GphTrackPlotTest, WithoutBordersOutlinesInTheFillColour) {
-    style.drawBorders = false;
-    canvas.setPenColor(Color{0x112233});
-    const GphTrack track = trackOf({{100, 500, 9}, {200, 500, 9}});
-    track.Gph_plot(context);
-    EXPECT_EQ(canvas.calls().front(),
-              "polygon fill=0xFF8080 style=solid pen=0xFF8080 width=1 solid: "
-              "(100,490) (200,490) (200,510) (100,510)");
-    EXPECT_EQ(canvas.penColor(), Color{0x112233}) << "the canvas keeps its own";
-}
-
-TEST_F(GphTrackPlotTest, DrawsNothingBeforeTheFirstFit) {
-    view = ViewTransform();
-    const GphTrack track = trackOf({{100, 500, 9}, {200, 500, 9}});
-    track.Gph_plot(context);
-    EXPECT_FALSE(track.Gph_plotN(context, 0));
-    EXPECT_THAT(canvas.calls(), IsEmpty());
-}
-
-TEST(GphTrackPlot, AnswersWhetherTheStepWasDrawn) {
-    const GphTrack track =
-        trackOf({{100, 500, 9}, {200, 500, 0}, {300, 500, 9}, {3000, 500, 9}, {3100, 500, 9}});
-    Drawing drawing;
-    drawing.style.drawAll = false;
-    const auto drawn = [&](std::int32_t n) { return track.Gph_plotN(drawing.context, n); };
-    EXPECT_TRUE(drawn(0));
-    EXPECT_FALSE(drawn(1)) << "no flow";
-    EXPECT_TRUE(drawn(2));
-    EXPECT_FALSE(drawn(3)) << "out of view";
-    EXPECT_FALSE(drawn(4)) << "the last point";
-    EXPECT_FALSE(drawn(-1));
-    EXPECT_EQ(drawing.canvas.calls().size(), 2U);
-    drawing.style.drawDotted = true;
-    EXPECT_TRUE(drawn(1)) << "dotted";
-    EXPECT_EQ(drawing.canvas.calls().back(), kNotWorkedLine + "(200,500) (300,500)");
 }
 
 /// Where no two steps look alike the whole is drawn as its steps are one by one, whatever is kept

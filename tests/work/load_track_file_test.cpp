@@ -36,11 +36,6 @@ TEST(LoadTrackFile, NamesTheWorkAfterItsHeader) {
     EXPECT_EQ(group.File_id(), "ab12-18:03:32-15/07/16");
     EXPECT_EQ(group.File_priority(), 10);
     EXPECT_EQ(loggerRecordOf(work, 0, 1).trocha(), 18);
-
-    track.order = "0";
-    track.serial = "x";
-    const LoadedWork plain = reading.track(track.bytes()).value();
-    EXPECT_EQ(plain.group->File_name(), "track12.nbr");
 }
 
 TEST(LoadTrackFile, PriorityCountsLinesWithoutTheLastLineEnd) {
@@ -70,12 +65,10 @@ TEST(LoadTrackFile, ReadsOffsetsFlowAndSpeedByVersion) {
         {"from 1.3 on a speed", "1.3", "001F400D0F07A009", 500, 0xD0F, 0x07A, 9},
         {"13 characters", "1.3", "001F400D0F07A", 500, 0xD0F, 0x07A, 0},
         {"12 characters", "1.3", "001F400D0F07", -1, -1, 0, 0},
-        {"short speed as it stands", "1.3", "001F400D0F07A1F", 500, 0xD0F, 0x07A, 0x1F},
-        {"lower case", "1.3", "001f400d0f07a00c", 500, 0xD0F, 0x07A, 12},
+        {"short speed, lower case", "1.3", "001f400d0f07a1f", 500, 0xD0F, 0x07A, 0x1F},
         {"largest offsets", "1.3", "FFFFFFFFFFFFFFFF", 0xFFFFF, 0xFFFFF, 4095, 4095},
         {"pairs are read on their own", "1.3", "x1FG4x0D0F0xAx09", 0x1F00, 0xD0F, 0, 0},
         {"wide offsets from 2 on", "2.0", "00001F80002C15071008", 504, 0x2C15, 0x071, 8},
-        {"18 characters", "2.0", "00001F80002C150711", 504, 0x2C15, 0x071, 1},
         {"17 characters", "2.0", "00001F80002C15071", 504, 0x2C15, 0x071, 0},
         {"16 characters", "2.0", "00001F80002C1507", -1, -1, 0, 0},
     };
@@ -102,7 +95,6 @@ TEST(LoadTrackFile, BlankLinesAndLeapsEndPasses) {
     // Millionths of a degree, -1 for a blank line, and the points of each pass.
     const std::tuple<const char*, std::vector<int>, std::vector<std::size_t>> rows[] = {
         {"blank line", {0, 10, -1, 20, 30}, {2, 2}},
-        {"before the first and after the last", {-1, 0, 10, -1}, {2}},
         {"499.95 metres", {0, 4491}, {2}},
         {"500.05 metres", {0, 4492}, {1, 1}},
         {"a leap to a blank line", {0, 10, -1, 9000, 9010}, {2, 2}},
@@ -126,18 +118,13 @@ TEST(LoadTrackFile, RangesAndFlowStops) {
     TrackText track;
     track.addPoint(0, 0, 30, 12);
     track.addPoint(0, 10, 20, 10);
-    const LoadedWork flowing = WorkReading().track(track.bytes()).value();
-    EXPECT_EQ(flowing.hasFlowStops, false);
-    EXPECT_EQ(flowing.ranges.flow, (ValueRange<float>{20, 30}));
-    ASSERT_TRUE(flowing.ranges.litres);
-    EXPECT_FLOAT_EQ(flowing.ranges.litres->least, 20 * 10000 / (10 * 18 * 1000 / 60.0F));
-    EXPECT_FLOAT_EQ(flowing.ranges.litres->greatest, 30 * 10000 / (12 * 18 * 1000 / 60.0F));
-    EXPECT_FALSE(flowing.ranges.dose);
-
+    EXPECT_EQ(WorkReading().track(track.bytes())->hasFlowStops, false);
     track.addPoint(0, 20, 0, 10);
-    const LoadedWork stopping = WorkReading().track(track.bytes()).value();
-    EXPECT_EQ(stopping.hasFlowStops, true);
-    EXPECT_EQ(stopping.ranges.flow, (ValueRange<float>{0, 30}));
+    const LoadedWork work = WorkReading().track(track.bytes()).value();
+    EXPECT_EQ(work.hasFlowStops, true);
+    EXPECT_EQ(work.ranges.flow, (ValueRange<float>{0, 30}));
+    EXPECT_EQ(work.ranges.litres->least, 0);
+    EXPECT_FLOAT_EQ(work.ranges.litres->greatest, 30 * 10000 / (12 * 18 * 1000 / 60.0F));
 }
 
 TEST(LoadTrackFile, TakesTheSummaryBesideItInAnyCase) {
@@ -169,24 +156,16 @@ TEST(LoadTrackFile, NewerVersionsLoadWithAWarning) {
     track.addPoint(0, 0, 20, 12);
     WorkReading reading;
     EXPECT_TRUE(reading.track(track.bytes()));
-    EXPECT_THAT(reading.dialogs.messages,
-                ElementsAre("Exclamation|Version de Archivo Incompatible|El archivo que está por "
-                            "abrir no es totalmente compatible con la versión del programa. Puede "
-                            "que el resultado no sea el esperado. \r\nLa versión del archivo que "
-                            "esta abriendo es: 2.1\r\nEl programa que esta utilizando permite "
-                            "abrir correctamente hasta la versión: 2"));
+    EXPECT_THAT(reading.dialogs.messages, ElementsAre(testing::HasSubstr("2.1")));
 }
 
 TEST(LoadTrackFile, FilesWithoutPointsAreRefused) {
-    TrackText header;
-    TrackText shortLines;
-    shortLines.add("001F4");
+    const TrackText header;
     TrackText beyondThePole;
     beyondThePole.south = "89.9";
     beyondThePole.addPoint(0, 0xFFFFF, 20, 12);
-    const std::string cutInHeader = header.bytes().substr(0, 40);
-    for (const std::string& text : {header.bytes(), header.bytes() + "\r\n\r\n", cutInHeader,
-                                    shortLines.bytes(), beyondThePole.bytes()}) {
+    for (const std::string& text :
+         {header.bytes(), header.bytes().substr(0, 40), beyondThePole.bytes()}) {
         SCOPED_TRACE(text);
         WorkReading reading;
         EXPECT_FALSE(reading.track(text));

@@ -31,53 +31,23 @@ std::vector<std::string> shown(const SummaryRows& rows) {
     return texts;
 }
 
-SummaryRows threeRows() {
-    return SummaryRows({{"a", "1", "m"}, {"b", "2", ""}, {"c", "3", ""}});
-}
-
-TEST(SummaryRows, TheFieldsFollowTheSelection) {
-    SummaryRows rows = threeRows();
-    EXPECT_EQ(rows.fields, (SummaryEntry{"a", "1", "m"}));
-    rows.select(2);
-    EXPECT_EQ(rows.fields, (SummaryEntry{"c", "3", ""}));
-    rows.select(3);
-    EXPECT_EQ(rows.selected(), std::nullopt);
-}
-
-TEST(SummaryRows, ANewRowStandsBeforeTheSelectedOneOrLast) {
-    SummaryRows rows = threeRows();
+TEST(SummaryRows, AreAddedMovedAndChanged) {
+    SummaryRows rows({{"a", "1", "m"}, {"b", "2", ""}});
+    rows.up();  // nothing is selected: nothing moves, and a new row is the last
     rows.fields = {"n", "x\r\ny\nz", ""};
     rows.add();
-    EXPECT_THAT(shown(rows), ElementsAre("a|1|m", "b|2|", "c|3|", "n|x y z|"));
+    EXPECT_THAT(shown(rows), ElementsAre("a|1|m", "b|2|", "n|x y z|"));
     rows.select(1);
+    EXPECT_EQ(rows.fields, (SummaryEntry{"b", "2", ""}));
     rows.fields = {"d", "4", ""};
     rows.add();
-    EXPECT_THAT(shown(rows), ElementsAre("a|1|m", "d|4|", "*b|2|", "c|3|", "n|x y z|"));
-}
-
-TEST(SummaryRows, MovesStopAtTheEnds) {
-    SummaryRows rows = threeRows();
-    rows.up();
-    rows.down();
-    EXPECT_THAT(shown(rows), ElementsAre("a|1|m", "b|2|", "c|3|")) << "nothing is selected";
-    rows.select(0);
-    rows.up();
-    EXPECT_THAT(shown(rows), ElementsAre("*a|1|m", "b|2|", "c|3|"));
-    rows.down();
-    rows.down();
-    rows.down();
-    EXPECT_THAT(shown(rows), ElementsAre("b|2|", "c|3|", "*a|1|m"));
-}
-
-TEST(SummaryRows, AChangeTrimsTheFields) {
-    SummaryRows rows = threeRows();
-    rows.fields = {"x", "", ""};
-    rows.change();
-    EXPECT_EQ(rows.rows(), threeRows().rows()) << "nothing is selected";
-    rows.select(1);
+    EXPECT_THAT(shown(rows), ElementsAre("a|1|m", "d|4|", "*b|2|", "n|x y z|"));
+    for (int i = 0; i < 3; ++i) {
+        rows.up();
+    }
     rows.fields = {" Dosis  ", " 7", "l "};
     rows.change();
-    EXPECT_THAT(shown(rows), ElementsAre("a|1|m", "*Dosis|7|l", "c|3|"));
+    EXPECT_THAT(shown(rows), ElementsAre("*Dosis|7|l", "a|1|m", "d|4|", "n|x y z|"));
 }
 
 class SummaryEditorTest : public ::testing::Test {
@@ -141,18 +111,6 @@ TEST_F(SummaryEditorTest, ARowGoesOnlyWhenTheUserSaysSo) {
     EXPECT_THAT(dialogs.questions,
                 testing::Each("Exclamation|Campora|Seguro que desea eliminar los campos "
                               "seleccionados?"));
-}
-
-TEST_F(SummaryEditorTest, AFileThatIsNotThereIsNotMade) {
-    const std::string path = folder.file("Wrk0001.txt");
-    SummaryEditor editor(path, dialogs, texts);
-    editor.rows().fields = {"a", "b", "c"};
-    editor.rows().add();
-    EXPECT_TRUE(editor.accept());
-    EXPECT_FALSE(std::filesystem::exists(nativePath(path)));
-    EXPECT_THAT(dialogs.messages,
-                ElementsAre("Error|Error|No se encuentra el archivo que contiene el resumen de "
-                            "datos."));
 }
 
 TEST_F(SummaryEditorTest, AFileThatCannotBeWrittenKeepsTheEditorOpen) {

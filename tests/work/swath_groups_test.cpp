@@ -45,12 +45,9 @@ TEST(SwathGroups, DivideAPass) {
         const char* sprayed;
     };
     const Row rows[] = {
-        {"none", {}, {}, 10, "", ""},
         {"one point", {5}, {}, 10, "", ""},
-        {"two points", {5, 5}, {}, 10, "0+1", "0+1"},
         {"whole groups", {5, 5, 5, 5, 5}, {}, 2, "0+2 2+2", "0+2 2+2"},
         {"a rest", {5, 5, 5, 5}, {}, 2, "0+2 2+1", "0+2 2+1"},
-        {"one step each", {5, 5, 5}, {}, 1, "0+1 1+1", "0+1 1+1"},
         {"a stop ends a group", {5, 5, 0, 0, 5, 5, 5}, {}, 3, "0+3 3+3", "0+2 4+2"},
         {"stops at the ends", {0, 5, 5, 0, 5}, {}, 10, "0+4", "1+2"},
         {"nothing sprayed", {0, 0, 0}, {}, 10, "0+2", ""},
