@@ -105,9 +105,11 @@ bool isOnGlobe(LonLat position) {
 /// A line of the description as the file has it. The mark stands where it breaks the number: with
 /// more than two pieces the end of the line would be too late.
 std::string guarded(std::string line) {
-    if (vertexOf(line)) {
+    // As it will be read: the letters of a byte-order mark vanish.
+    const std::string read = decodeText(toWindows1252(line));
+    if (vertexOf(read)) {
         line.insert(*secondPieceEnd(line), 1, kMark);
-    } else if (wholeNumber(line)) {
+    } else if (wholeNumber(read)) {
         line.push_back(kMark);
     }
     return line;

@@ -129,6 +129,7 @@ TEST(LotFile, KeepsTenLinesOfTheDescription) {
 TEST(LotFile, IsWrittenInTheCodePageOfConsoles) {
     EXPECT_EQ(encodeLot({}, "Ñandú \u4e00"), "\xD1"
                                              "and\xFA ?\r\n");
+    EXPECT_TRUE(decodeLot(encodeLot({}, "ï»¿1,2")).vertices.empty());
     EXPECT_EQ(decodeLot("\xD1"
                         "and\xFA")
                   .description,
