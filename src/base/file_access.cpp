@@ -36,6 +36,8 @@ constexpr Reason kReasons[] = {
     {std::errc::no_space_on_device, TextId::DiskFull},
     {std::errc::file_too_large, TextId::FileTooLarge},
     {std::errc::not_enough_memory, TextId::FileTooLarge},
+    {std::errc::filename_too_long, TextId::FileNameTooLong},
+    {std::errc::io_error, TextId::DiskError},
 };
 
 /// Why this is no ordinary file, as far as its kind tells; none for a file that is not there.
