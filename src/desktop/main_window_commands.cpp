@@ -73,7 +73,11 @@ void MainWindow::editSummary() {
         editSummaryFile(source, desktop_.dialogs, session_->texts(), this);
         loadSummaryFile(source, summary);
     }
-    session_->recalcErrorAreas();  // adds its entry again, and shows the summary
+    if (session_->style().mode == ColorMode::Error) {
+        session_->recalcErrorAreas();  // its entry was not in the file
+    } else {
+        session_->showSummary();
+    }
 }
 
 void MainWindow::copyImage() {
