@@ -20,21 +20,13 @@
 namespace campora {
 
 /// A canvas that writes down what is drawn on it, one line a call, with the state that matters for
-/// that call at that moment. Changes of state alone leave no line. The forms are:
+/// that call at that moment; changes of state alone leave no line:
 ///
-///     clear 0xFFFFFF
 ///     line 0x0000FF width=1 solid: (1,2) (3,4)
-///     rectangle outlined 0x0000FF width=1 dotted: (1,2) (3,4)
 ///     rectangle filled 0x0000FF: (1,2) (3,4)
-///     point 0x0000FF width=1: (1,2)
-///     polygon fill=0xFF8080 style=solid pen=0x000000 width=1 dotted: (1,2) (3,4) (5,6)
 ///     polypolygon fill=0xFF8080 style=solid pen=0x000000 width=1 solid: (1,2) (3,4) / (5,6) (7,8)
-///     text pen=0x000000 top-left: (1,2) "abc"
 ///     text pen=0x000000 top-centre bold: (1,2) "abc"
 ///     picture up: (1,2) 30x40
-///     snapshot
-///     paint snapshot: (1,2)
-///     refresh
 ///
 /// Colours are 0xBBGGRR. Every character of a text is 120 units wide (150 in bold) and 240 high.
 class RecordingCanvas : public MapCanvas {

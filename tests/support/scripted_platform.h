@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <deque>
 #include <functional>
@@ -13,6 +15,8 @@
 #include <string_view>
 #include <utility>
 #include <vector>
+
+#include <gtest/gtest.h>
 
 #include "platform/classes_registry.h"
 #include "platform/clipboard.h"
@@ -54,18 +58,83 @@ public:
     /// "caption: percent percent ..." for every progress window.
     std::vector<std::string> progresses;
 
-    void message(std::string_view text, MessageIcon icon, std::string_view caption) override;
+    void message(std::string_view text, MessageIcon icon, std::string_view caption) override {
+        messages.push_back(box(icon, caption, text));
+    }
     [[nodiscard]] bool askYesNo(std::string_view text, MessageIcon icon,
-                                std::string_view caption) override;
-    [[nodiscard]] std::string inputBox(TextId prompt, std::string_view caption,
-                                       std::string_view proposed) override;
+                                std::string_view caption) override {
+        questions.push_back(box(icon, caption, text));
+        return next(yesNoAnswers, questions.back());
+    }
     [[nodiscard]] Answer askYesNoCancel(std::string_view text, MessageIcon icon,
-                                        std::string_view caption) override;
-    [[nodiscard]] std::vector<std::string> openFiles(const OpenRequest& request) override;
-    [[nodiscard]] SaveAnswer saveFile(const SaveRequest& request) override;
-    [[nodiscard]] std::string chooseFolder(const FolderRequest& request) override;
-    [[nodiscard]] std::optional<Color> chooseColor(Color current) override;
-    [[nodiscard]] std::unique_ptr<Progress> progress(std::string_view caption) override;
+                                        std::string_view caption) override {
+        questions.push_back(box(icon, caption, text));
+        return answers.empty() ? Answer::Cancel : next(answers, questions.back());
+    }
+    [[nodiscard]] std::string inputBox(TextId prompt, std::string_view caption,
+                                       std::string_view proposed) override {
+        inputs.push_back(std::to_string(static_cast<int>(prompt)) + "|" + std::string(caption) +
+                         "|" + std::string(proposed));
+        return next(inputAnswers, inputs.back());
+    }
+    [[nodiscard]] std::vector<std::string> openFiles(const OpenRequest& request) override {
+        opens.push_back(request);
+        for (; !openSelections.empty(); openSelections.pop_front()) {
+            if (request.preview) {
+                request.preview(openSelections.front());
+            }
+        }
+        return next(openAnswers, request.caption);
+    }
+    [[nodiscard]] SaveAnswer saveFile(const SaveRequest& request) override {
+        saves.push_back(request);
+        return next(saveAnswers, request.caption);
+    }
+    [[nodiscard]] std::string chooseFolder(const FolderRequest& request) override {
+        folders.push_back(request);
+        return next(folderAnswers, request.caption);
+    }
+    [[nodiscard]] std::optional<Color> chooseColor(Color current) override {
+        colors.push_back(current);
+        return next(colorAnswers, "colour");
+    }
+    [[nodiscard]] std::unique_ptr<Progress> progress(std::string_view caption) override {
+        progresses.emplace_back(std::string(caption) + ":");
+        return std::make_unique<Reports>(*this, progresses.size() - 1);
+    }
+
+private:
+    class Reports final : public Progress {
+    public:
+        Reports(ScriptedDialogs& dialogs, std::size_t index) : dialogs_(dialogs), index_(index) {}
+
+        [[nodiscard]] bool report(int percent) override {
+            dialogs_.progresses.at(index_) += " " + std::to_string(percent);
+            ++count_;
+            return !dialogs_.cancelAfter || count_ < *dialogs_.cancelAfter;
+        }
+
+    private:
+        ScriptedDialogs& dialogs_;
+        std::size_t index_;
+        int count_ = 0;
+    };
+
+    static std::string box(MessageIcon icon, std::string_view caption, std::string_view text) {
+        constexpr std::array kIcons = {"Plain", "Information", "Question", "Exclamation", "Error"};
+        return std::string(kIcons.at(static_cast<std::size_t>(icon))) + "|" + std::string(caption) +
+               "|" + std::string(text);
+    }
+    template <typename T>
+    static T next(std::deque<T>& from, const std::string& question) {
+        if (from.empty()) {
+            ADD_FAILURE() << "unexpected question: " << question;
+            return T{};
+        }
+        T answer = std::move(from.front());
+        from.pop_front();
+        return answer;
+    }
 };
 
 /// A locale that does not depend on the machine.
@@ -90,14 +159,18 @@ class MemorySettings : public SettingsStore {
 public:
     std::map<std::string, std::string, std::less<>> values;
 
-    [[nodiscard]] std::optional<std::string> read(std::string_view key) const override;
-    void write(std::string_view key, std::string_view value) override;
+    [[nodiscard]] std::optional<std::string> read(std::string_view key) const override {
+        const auto found = values.find(key);
+        return found == values.end() ? std::nullopt : std::optional(found->second);
+    }
+    void write(std::string_view key, std::string_view value) override {
+        values.insert_or_assign(std::string(key), std::string(value));
+    }
 };
 
 class MemoryClipboard : public Clipboard {
 public:
     std::string text;
-
     Picture picture;
 
     void setText(std::string_view newText) override { text = newText; }
