@@ -3,7 +3,6 @@
 
 #include "app/legend.h"
 
-#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -70,17 +69,6 @@ TEST(Legend, SingleValuesStandAlone) {
     }
 }
 
-TEST(Legend, ColoursAndUnitAreThoseOfTheScale) {
-    ColorScale scale;
-    scale.setClassNumberExt(3, 0, 3);
-    scale.setClassColor(1, {0x123456});
-    scale.unit = "lt/hect";
-    const LegendContent legend = legendOf(scale);
-    EXPECT_EQ(legend.unit, "lt/hect");
-    ASSERT_EQ(legend.classes.size(), 3U);
-    EXPECT_EQ(legend.classes[1].color, Color{0x123456});
-}
-
 TEST(Legend, ADayIsShownAsADate) {
     ColorScale scale;
     scale.loadFromSetList(setOf({43164, 43166}), 0);
@@ -116,61 +104,35 @@ TEST(Legend, IntervalsOfDaysNameTheirFirstAndLastDay) {
 }
 
 TEST(Legend, TellsWhatThePlainColoursMean) {
-    struct Row {
-        const char* name;
-        ColorMode mode;
-        bool graduated;
-        std::size_t classes;
-        Rows added;  ///< to the reference of every map
+    const std::tuple<ColorMode, bool, WorkKind, std::size_t, Rows> rows[] = {
+        {ColorMode::Dose, true, WorkKind::Sprayer, 6, {"Fumigado", "No fumigado", "Fondo"}},
+        {ColorMode::Dose, false, WorkKind::Seeder, 0, {"Sembrado", "No sembrado", "Fondo"}},
+        {ColorMode::Date, false, WorkKind::OlderForm, 6, {"Trabajado", "No trabajado", "Fondo"}},
+        {ColorMode::Error,
+         false,
+         WorkKind::Sprayer,
+         6,
+         {"Fumigado", "No fumigado", "Fondo", "Errores > 12,5%"}},
     };
-    const Row rows[] = {
-        {"dose", ColorMode::Dose, true, 6, {}},
-        {"not graduated", ColorMode::Dose, false, 0, {}},
-        {"date", ColorMode::Date, false, 6, {}},
-        {"alarm", ColorMode::Alarm, false, 6, {"Con alarma", "Sin alarma"}},
-        {"error", ColorMode::Error, false, 6, {"Errores > 12,5%"}},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        ColorScale scale;
-        scale.unit = "lt/hect";
-        MapStyle style;
-        style.scale = &scale;
-        style.mode = row.mode;
-        style.graduated = row.graduated;
-        style.errorLimit = 12.5F;
-        const LegendContent legend =
-            legendContent(style, WorkKind::Sprayer, Texts(), FixedLocale(','));
-        EXPECT_EQ(legend.classes.size(), row.classes);
-        EXPECT_EQ(legend.unit.empty(), row.classes == 0);
-        Rows expected = {"Fumigado", "No fumigado", "Fondo"};
-        expected.insert(expected.end(), row.added.begin(), row.added.end());
-        EXPECT_EQ(textsOf(legend.reference), expected);
-    }
-}
-
-TEST(Legend, PlainColoursAreNamedAfterTheWork) {
-    const std::pair<WorkKind, Rows> rows[] = {
-        {WorkKind::Sprayer, {"Fumigado", "No fumigado", "Fondo"}},
-        {WorkKind::Seeder, {"Sembrado", "No sembrado", "Fondo"}},
-        {WorkKind::OlderForm, {"Trabajado", "No trabajado", "Fondo"}},
-    };
-    for (const auto& [kind, names] : rows) {
-        EXPECT_EQ(textsOf(legendContent({}, kind, Texts(), FixedLocale()).reference), names);
-    }
-}
-
-TEST(Legend, ReferenceColoursAreTheUsersOwn) {
+    ColorScale scale;
     MapStyle style;
+    style.scale = &scale;
+    style.errorLimit = 12.5F;
+    for (const auto& [mode, graduated, kind, classes, reference] : rows) {
+        style.mode = mode;
+        style.graduated = graduated;
+        const LegendContent legend = legendContent(style, kind, Texts(), FixedLocale(','));
+        EXPECT_EQ(legend.classes.size(), classes) << reference.back();
+        EXPECT_EQ(textsOf(legend.reference), reference);
+    }
     style.mode = ColorMode::Alarm;
     style.colors = {.draw = {1}, .noDraw = {2}, .back = {3}, .alarm = {4}, .noAlarm = {5}};
-    const LegendContent legend =
-        legendContent(style, WorkKind::Sprayer, Texts(Language::English), FixedLocale());
-    EXPECT_EQ(legend.reference, (std::vector<LegendRow>{{{1}, "Sprayed"},
-                                                        {{2}, "Not sprayed"},
-                                                        {{3}, "Background"},
-                                                        {{4}, "With alarm"},
-                                                        {{5}, "Without alarm"}}));
+    EXPECT_EQ(legendContent(style, WorkKind::Sprayer, Texts(), FixedLocale()).reference,
+              (std::vector<LegendRow>{{{1}, "Fumigado"},
+                                      {{2}, "No fumigado"},
+                                      {{3}, "Fondo"},
+                                      {{4}, "Con alarma"},
+                                      {{5}, "Sin alarma"}}));
 }
 
 }  // namespace

@@ -88,16 +88,6 @@ TEST(LoadProject, MissingFilesAreNamedAndOthersOpened) {
         desk.dialogs.messages,
         ElementsAre("Exclamation|Campora|No se encuentra el archivo: ",
                     "Exclamation|Campora|No se encuentra el archivo: " + folder + "\\/falta.rpt"));
-
-    desk.dialogs.messages.clear();
-    std::string many = kHeader;
-    for (int i = 0; i < 10000; ++i) {
-        many += "/falta " + std::to_string(i) + ".rpt\r\n";
-    }
-    EXPECT_TRUE(loadProject(desk.session, desk.folder.write("largo.fsp", many)));
-    ASSERT_EQ(desk.dialogs.messages.size(), 21U);
-    EXPECT_EQ(desk.dialogs.messages.back(),
-              "Exclamation|Campora|Otros archivos que no se encuentran: 9980");
 }
 
 TEST(LoadProject, ProjectsInProjectsAreReadOnce) {

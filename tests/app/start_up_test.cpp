@@ -17,7 +17,6 @@ TEST(StartUp, SpeaksTheLanguageOfTheSettingOrTheSystem) {
         {"first start in Brazil", "", 0x0416, Language::Portuguese, "22"},
         {"first start in Argentina", "", 0x2C0A, Language::Spanish, "10"},
         {"first start in Germany", "", 0x0407, Language::English, "9"},
-        {"a number of five digits", "", 0x1040A, Language::English, "9"},
         {"chosen", "10", 0x0416, Language::Spanish, "10"},
         {"unknown code", "7", 0x0416, Language::English, "9"},
         {"nonsense", "portugués", 0x0416, Language::Portuguese, "22"},

@@ -24,13 +24,8 @@ TEST(SummaryNames, AreReadInTheUsersLanguage) {
         {"DURACIÓN:", "Duración:", "Duração:", "Duration:"},
         {"Dosis Prom. (C 12):", "Dosis Prom. (C 12):", "Dose média (C 12):",
          "Average dose (C 12):"},
-        {"Producto total (C 2)", "Producto total (C 2)", "Produto total (C 2)",
-         "Total product (C 2)"},
-        {"Ancho Labor", "Ancho Labor", "Largura de trabalho", "Working width"},
         {"Dosis Prom. (C x):", "Dosis Prom. (C x):", "Dosis Prom. (C x):", "Dosis Prom. (C x):"},
-        {"Dosis Prom. (C ):", "Dosis Prom. (C ):", "Dosis Prom. (C ):", "Dosis Prom. (C ):"},
         {"Potrero: ", "Potrero: ", "Potrero: ", "Potrero: "},
-        {"", "", "", ""},
     };
     for (const auto& [stored, spanish, portuguese, english] : rows) {
         EXPECT_EQ(shownSummaryName(stored, Texts(Language::Spanish)), spanish);
