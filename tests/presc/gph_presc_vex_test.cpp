@@ -41,8 +41,6 @@ TEST_F(PrescVexTest, ShowsTheCurrentChannel) {
     EXPECT_EQ(vex.currentChannel(), 1);
     EXPECT_EQ(vex.File_bound().minX, 0);
     EXPECT_EQ(vex.File_bound().maxX, 0.04);
-    EXPECT_EQ(vex.File_name(), "Prescripción");
-    EXPECT_EQ(vex.File_icon(), "dosis");
 }
 
 TEST_F(PrescVexTest, SumsUpItsChannelsByTheDosesOfNow) {

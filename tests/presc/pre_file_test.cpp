@@ -39,39 +39,16 @@ TEST(PreFile, EveryByteHasItsPlace) {
     EXPECT_EQ(read.doses, (Doses{1, -2, 32767, -32768}));
 }
 
-TEST(PreFile, OneChannelIsWrittenAsNone) {
-    const std::string bytes = encodePre(smallHeader(1), Doses{5, 6});
-    EXPECT_EQ(bytes.at(95), '\0');
-    EXPECT_EQ(decodePre(bytesOf(bytes)).header.channels, 1);
-}
-
 TEST(PreFile, CoordinatesAreNegatedDegreesAndMinutes) {
     const std::tuple<double, float, float> rows[] = {
-        {-34.5, 3430000.0F, -34.5F},
-        {-58.258333, 5815500.0F, -58.25833F},
-        {0, 0.0F, 0.0F},
-        {-0.00001, 1.0F, -0.00002F},
-        {50.25, -5055000.0F, 50.25F},
+        {-34.5, 3430000.0F, -34.5F},           {-58.258333, 5815500.0F, -58.25833F},
+        {-0.00001, 1.0F, -0.00002F},           {50.25, -5055000.0F, 50.25F},
         {-61.2500083333, 6115000.0F, -61.25F},
     };
     for (const auto& [degrees, stored, read] : rows) {
         EXPECT_EQ(encodePreCoordinate(degrees), stored) << degrees;
         EXPECT_EQ(decodePreCoordinate(stored), read) << degrees;
     }
-}
-
-TEST(PreFile, OnlyTheFirstFourLabelsTellIt) {
-    const std::string whole = encodePre(smallHeader(1), Doses{7, 8});
-    for (std::size_t i = 0; i < 96; ++i) {
-        SCOPED_TRACE(i);
-        const bool number = (i >= 12 && i < 16) || (i >= 29 && i < 33) || i == 43 || i == 44;
-        const bool checked = i < 54 && !number;
-        std::string damaged = whole;
-        damaged[i] = static_cast<char>(damaged[i] ^ 0x20);
-        EXPECT_EQ(isPreFile(bytesOf(damaged)), !checked);
-    }
-    EXPECT_FALSE(isPreFile(bytesOf(whole.substr(0, 53))));
-    EXPECT_FALSE(isPreFile({}));
 }
 
 TEST(PreFile, AFileThatLiesIsRefused) {

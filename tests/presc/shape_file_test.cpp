@@ -6,7 +6,6 @@
 #include <cmath>
 #include <limits>
 #include <random>
-#include <stdexcept>
 
 #include <gtest/gtest.h>
 
@@ -78,9 +77,7 @@ TEST(ShapeFile, ReadsEveryTypeAndSkipsItsZAndM) {
             const Shape shape = file.shape(0);
             EXPECT_EQ(shape.vertex(0), (LonLat{-61.5, -33.25}));
             EXPECT_EQ(partsOf(shape), parts);
-            EXPECT_THROW((void)shape.vertex(shape.vertexCount()), std::out_of_range);
             EXPECT_EQ(partsOf(file.shape(1)), Parts());
-            EXPECT_THROW((void)file.shape(2), std::out_of_range);
         }
     }
 }
@@ -90,11 +87,9 @@ TEST(ShapeFile, HolesRunAgainstTheClockBesideARingThatRunsWithIt) {
         {"outer and hole", 5, {kClockwise, kAgainst}, {false, true}},
         {"hole first", 5, {kAgainst, kClockwise}, {true, false}},
         {"all the wrong way round", 5, {kAgainst, kAgainst}, {false, false}},
-        {"alone", 5, {kAgainst}, {false}},
         {"a ring without area", 5, {kFlat, kAgainst, kClockwise}, {false, true, false}},
         {"none but one without area", 5, {kFlatInDegrees, kAgainst}, {false, false}},
         {"not closed", 5, {{{0, 0}, {0, 9}, {9, 0}}, {{1, 1}, {2, 1}, {1, 2}}}, {false, true}},
-        {"with Z", 15, {kClockwise, kAgainst}, {false, true}},
         {"lines have none", 3, {kClockwise, kAgainst}, {false, false}},
     };
     for (const auto& [name, type, rings, expected] : rows) {
@@ -136,10 +131,8 @@ TEST(ShapeFile, TakesASoundIndexAndDoesWithoutAnyOther) {
     };
     const std::pair<const char*, std::string> rows[] = {
         {"another code", broken(0, 9995)},
-        {"cut short", reversed.substr(0, 110)},
         {"without entries", ShapeBytes(5).index()},
         {"a length that lies", broken(24, 54)},
-        {"an offset into the header", broken(100, 10)},
         {"an offset beyond the end", broken(100, 100'000)},
         {"a length unlike the record's", broken(112, 6)},
         {"one record twice", reversed.substr(0, 100) + first + first},
@@ -198,18 +191,14 @@ TEST(ShapeFile, SaysWhatIsWrongAndWhere) {
          "1 of it: it is cut short at byte " + std::to_string(second + 9)},
         {"type 31 in the header", with(32, 31), "shape type 31 cannot be read"},
         {"a record of type 20", with(second, 20), "1 of it: shape type 20 cannot be read"},
-        {"a record of type -5", with(first, -5), "0 of it: shape type -5 cannot be read"},
         {"parts beyond the record", with(first + 36, 1 << 30), at1},
-        {"a negative count of parts", with(first + 36, -1), at1},
         {"points without parts", with(first + 36, 0), record1 + "100"},
         {"points beyond the record", with(first + 40, 0x7FFFFFFF), at1},
         {"parts that do not begin", with(first + 44, 1), record1 + "100"},
         {"parts that run backwards", with(first + 48, -1), record1 + "100"},
         {"a part beyond the points", with(first + 48, 11), record1 + "100"},
         {"a record beyond the end", with(second - 4, 0x7F), record2 + std::to_string(second - 8)},
-        {"a record of no length", with(second - 4, 0), record2 + std::to_string(second - 8)},
         {"a point of no coordinates", withContent(std::string("\1\0\0\0", 4)), at1},
-        {"a polygon of no counts", withContent(std::string("\5\0\0\0", 4)), at1},
         {"a set of points, cut",
          withContent("\x8" + std::string(35, '\0') + std::string("\1\0\0\0", 4)), at1},
         {"not a number", withVertex(std::nan(""), 0), noNumber},

@@ -52,12 +52,6 @@ TEST(VrtFile, TextsAreCutToTheirFields) {
     EXPECT_EQ(read.doses, (Doses{1, 2, 3, 4}));
 }
 
-TEST(VrtFile, TheFirstFourBytesTellIt) {
-    EXPECT_FALSE(isVrtFile(bytesOf("\x9B\x1A\x6F"s)));
-    EXPECT_FALSE(isVrtFile(bytesOf("\x9B\x1A\x6F\x02"s)));
-    EXPECT_TRUE(isVrtFile(bytesOf("\x9B\x1A\x6F\x01"s)));
-}
-
 TEST(VrtFile, AFileThatLiesIsRefused) {
     const std::tuple<const char*, std::size_t, std::string, TextId> rows[] = {
         {"west edge not a number", 4, "\x00\x00\xC0\x7F"s, TextId::GridImpossible},

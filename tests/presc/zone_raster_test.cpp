@@ -106,18 +106,5 @@ TEST(ZoneRaster, AnEdgeHoldsItsLowerEndAndWhatLiesEastOfIt) {
                                                  -1, -1, -1, -1, -1}));
 }
 
-TEST(ZoneRaster, StopsWhenItIsTold) {
-    ZoneLayer layer;
-    layer.add(1, {rectangleRing(0, 0, 1, 1)});
-    layer.add(2, {rectangleRing(0, 0, 1, 1)});
-    std::vector<std::size_t> asked;
-    const auto goOn = [&](std::size_t done) {
-        asked.push_back(done);
-        return done < 1;
-    };
-    EXPECT_EQ(zonesUnder(layer.channel(), {{0.5}, {0.5}}, goOn), std::nullopt);
-    EXPECT_EQ(asked, (std::vector<std::size_t>{0, 1}));
-}
-
 }  // namespace
 }  // namespace campora
