@@ -26,18 +26,5 @@ TEST(TextLines, EndsOfLines) {
     }
 }
 
-TEST(TextLines, NumbersCountFromOne) {
-    TextLines lines("a\n\nc");
-    std::string_view line;
-    EXPECT_EQ(lines.lineNumber(), 0U);
-    for (std::size_t number = 1; number <= 3; ++number) {
-        ASSERT_TRUE(lines.next(line));
-        EXPECT_EQ(lines.lineNumber(), number);
-    }
-    EXPECT_FALSE(lines.next(line));
-    EXPECT_EQ(lines.lineNumber(), 3U);
-    EXPECT_EQ(line, "c") << "the end leaves the last line alone";
-}
-
 }  // namespace
 }  // namespace campora

@@ -43,28 +43,6 @@ TEST(Text, LowerCaseKnowsLatinLetters) {
     }
 }
 
-TEST(Text, EveryPairOfLatinExtendedAHasOneLowerForm) {
-    // U+0100 to U+017E: the pairs stand side by side, capital first, but for these.
-    const auto alone = [](unsigned c) {
-        return c == 0x130 || c == 0x131 || c == 0x138 || c == 0x149 || c == 0x178;
-    };
-    const auto utf8 = [](unsigned c) {
-        return std::string{static_cast<char>(0xC0U | c >> 6U),
-                           static_cast<char>(0x80U | (c & 0x3FU))};
-    };
-    int pairs = 0;
-    for (unsigned c = 0x100; c < 0x17F; ++c) {
-        if (alone(c)) {
-            continue;
-        }
-        ASSERT_EQ(lowerCase(utf8(c)), utf8(c + 1)) << std::hex << c;
-        ASSERT_EQ(lowerCase(utf8(c + 1)), utf8(c + 1)) << std::hex << c;
-        ++c;
-        ++pairs;
-    }
-    EXPECT_EQ(pairs, 61);
-}
-
 TEST(Text, EqualIgnoringCase) {
     EXPECT_TRUE(equalIgnoringCase("Año.LOT", "AÑO.lot"));
     EXPECT_FALSE(equalIgnoringCase("ano.lot", "año.lot"));

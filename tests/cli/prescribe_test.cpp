@@ -80,12 +80,9 @@ TEST(Prescribe, AWrongCommandLineIsRefused) {
         {"prescribe", "-o", "a.pre"},
         {"prescribe", "--channel", "a.shp,D"},
         {"prescribe", "--channel", "a.shp", "-o", "a.pre"},
-        {"prescribe", "--channel", "a.dbf,D", "-o", "a.pre"},
         {"prescribe", "--channel", "a.shp,,5", "-o", "a.pre"},
-        {"prescribe", "--channel", "a.shp,D", "-o", "a.rpt"},
         {"prescribe", "--channel", "a.shp,D", "-o", "a.vrt"},
         {"prescribe", "--channel", "a.shp,D", "-o", "a.vrt", "--format", "vrt"},
-        {"prescribe", "--channel", "a.shp,D", "-o", "a.pre", "b.shp"},
         {"prescribe", "--channel", "a.shp,D", "-o", "a.pre", "--oversize", "no"},
     };
     for (const Words& words : rows) {
@@ -108,7 +105,6 @@ TEST(Prescribe, SaysWhatItWroteAndAnswersAsItIsTold) {
         {"as proposed", "DOSIS", "10", "keep", 0, "Canal 1: 390 celdas con dosis, 3.9 ha, "},
         {"no fallback", "DOSIS,", "10", "keep", 0, "Canal 1: 242 celdas con dosis, 2.42 ha, "},
         {"a size of 0", "DOSIS", "0", "keep", 1, "mayor que 0"},
-        {"no size", "DOSIS", "", "keep", 1, ""},
         {"no such column", "dosis", "10", "keep", 1, "mapa.shp,dosis"},
         {"texts", "NOMBRE", "10", "keep", 1, "contiene valores no numéricos"},
     };
@@ -168,25 +164,6 @@ TEST(Prescribe, ADamagedMapIsToldAsFarAsItIsSoundAndPrescribesNothing) {
     const std::string out = folder.file("out.pre");
     EXPECT_EQ(run({"prescribe", "--channel", map + ",DOSIS", "-o", out}).status, 1);
     EXPECT_FALSE(std::filesystem::exists(out));
-}
-
-TEST(Prescribe, TheSizeQuestionIsAnsweredAsItIsTold) {
-    const TempFolder folder;
-    const std::string map = writeMap(folder, "mapa");
-    for (const auto& [answer, resolution] :
-         {std::pair("keep", 0.5), std::pair("change", 1.0), std::pair("cancel", 0.0)}) {
-        SCOPED_TRACE(answer);
-        const std::string out = folder.file("out.vrt");
-        const Outcome made = run({"prescribe", "--format", "vrt", "--resolution", "0.5",
-                                  "--channel", map + ",DOSIS", "--oversize", answer, "-o", out});
-        EXPECT_EQ(made.status, resolution > 0 ? 0 : 1);
-        EXPECT_THAT(made.boxes, HasSubstr("demasiado grande. | En este caso"));
-        if (resolution > 0) {
-            const json info = json::parse(run({"info", "--json", out}).out);
-            EXPECT_EQ(info["files"][0]["layers"][0]["cell"], resolution);
-        }
-        std::filesystem::remove(out);
-    }
 }
 
 std::string sha256(const std::string& path) {

@@ -198,10 +198,6 @@ TEST(Program, OutputThatCannotBePrintedIsNotDone) {
               1);
 }
 
-TEST(Program, BoxesTakeOneLine) {
-    EXPECT_EQ(oneLine("a\r\n\r\nb\nc"), "a |  | b | c");
-}
-
 /// Renders a report at half the usual size and answers the picture.
 QImage render(const TempFolder& folder, const std::string& report, const Words& options) {
     const std::string picture = folder.file("mapa.png");
@@ -228,7 +224,6 @@ TEST(Program, RendersTheMapInTheChosenColours) {
         {{}, qRgb(255, 255, 0)},
         {{"--mode", "plain"}, qRgb(0x80, 0x80, 0xFF)},
         {{"--mode", "alarm"}, qRgb(255, 0, 0)},
-        {{"--mode", "date"}, qRgb(255, 255, 0)},
         {{"--mode", "error", "--channel", "1"}, qRgb(255, 0, 255)},
         {{"--mode", "error", "--error-limit", "60"}, qRgb(255, 255, 0)},
     };
@@ -251,26 +246,6 @@ TEST(Program, StepsWithoutFlowAreDrawnAsTheOptionsSay) {
     const QImage dotted = render(folder, report, {"--only-worked", "--dotted"});
     EXPECT_GT(pixelsOf(qRgb(0, 255, 0x40), dotted), 0);
     EXPECT_EQ(dotted.pixel(150, 300), white);
-}
-
-TEST(Program, OverlayAndBordersCanBeLeftOut) {
-    const TempFolder folder;
-    const std::string report = folder.write("lote.rpt", reportBytes());
-    const QRgb black = qRgb(0, 0, 0);
-    const QPoint leftTick(7, 26);
-    EXPECT_EQ(render(folder, report, {"--no-borders"}).pixel(leftTick), black);
-    const QImage withoutOverlay = render(folder, report, {"--no-overlay"});
-    EXPECT_NE(withoutOverlay.pixel(leftTick), black);
-    EXPECT_GT(pixelsOf(black, withoutOverlay), 0);
-    EXPECT_EQ(pixelsOf(black, render(folder, report, {"--no-overlay", "--no-borders"})), 0);
-}
-
-TEST(Program, TheEndingOfThePictureIsItsFormat) {
-    const TempFolder folder;
-    const std::string report = folder.write("lote.rpt", reportBytes());
-    ASSERT_EQ(run({"render", report, "-o", folder.file("mapa.BMP"), "--size", "20x10"}).status, 0);
-    const QImage bitmap(QString::fromStdString(folder.file("mapa.BMP")), "BMP");
-    EXPECT_EQ(bitmap.size(), QSize(20, 10));
 }
 
 TEST(Program, APictureThatCannotBeMadeLeavesNothing) {

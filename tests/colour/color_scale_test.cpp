@@ -4,13 +4,11 @@
 #include "colour/color_scale.h"
 
 #include <cmath>
-#include <functional>
 #include <initializer_list>
 #include <limits>
 #include <memory>
 #include <optional>
 #include <random>
-#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -76,18 +74,6 @@ TEST(ColorScale, RampStepsAreSinglePrecision) {
     scale.degrade2(Color::rgb(0, 0, 0), kRed, false);
     EXPECT_EQ(scale.getClass(3).color.red(), 43);
     EXPECT_EQ(scale.getClass(18).color, kRed);
-}
-
-TEST(ColorScale, NeighboursShareTheirBound) {
-    ColorScale scale;
-    scale.setClassNumberExt(7, -0.1, 12.3);
-    EXPECT_EQ(scale.valueMin(), -0.1);
-    EXPECT_EQ(scale.valueMax(), 12.3);
-    EXPECT_EQ(scale.getClass(0).lower, -0.1);
-    EXPECT_DOUBLE_EQ(scale.getClass(6).upper, 12.3);
-    for (int i = 1; i < scale.count(); ++i) {
-        EXPECT_EQ(scale.getClass(i).lower, scale.getClass(i - 1).upper);
-    }
 }
 
 TEST(ColorScale, AddedAndRemovedClassesShareTheExtremes) {
@@ -186,58 +172,6 @@ TEST(ColorScale, LookupAgreesWithAScanWhateverTheOrder) {
             ASSERT_EQ(scale.getClassIndexByValue(value), scannedIndex(scale, value));
         }
     }
-}
-
-TEST(ColorScale, BadIndicesAndNumbersChangeNothing) {
-    ColorScale scale;
-    ScriptedDialogs dialogs;
-    int events = 0;
-    const auto changed = scale.onChanged([&events] { ++events; });
-    const std::vector<Clase> before = scale.classes();
-    for (const int index : {-1, 6, 1000000}) {
-        EXPECT_THROW((void)scale.getClass(index), std::out_of_range);
-        EXPECT_THROW(scale.setClassColor(index, kRed), std::out_of_range);
-        EXPECT_THROW(scale.setClassValue(index, 1, dialogs, Texts()), std::out_of_range);
-    }
-    for (const int number : {0, -3}) {
-        EXPECT_THROW(scale.setClassNumber(number), std::invalid_argument);
-        EXPECT_THROW(scale.setClassNumberExt(number, 1, 2), std::invalid_argument);
-    }
-    EXPECT_EQ(scale.classes(), before);
-    EXPECT_EQ(scale.valueMax(), 100);
-    EXPECT_EQ(events, 0);
-}
-
-TEST(ColorScale, ChangedIsRaisedAsOftenAsSaid) {
-    const SetList two = setOf({1, 2});
-    const std::tuple<const char*, std::function<void(ColorScale&)>, int> rows[] = {
-        {"setClassColor", [](ColorScale& s) { s.setClassColor(2, kRed); }, 1},
-        {"addClass", [](ColorScale& s) { s.addClass(); }, 2},
-        {"quitClass", [](ColorScale& s) { s.quitClass(); }, 2},
-        {"setClassNumber", [](ColorScale& s) { s.setClassNumber(3); }, 1},
-        {"setClassNumberExt", [](ColorScale& s) { s.setClassNumberExt(3, 0, 1); }, 1},
-        {"addClassManual", [](ColorScale& s) { s.addClassManual(100, 110); }, 0},
-        {"clearClass", [](ColorScale& s) { s.clearClass(1, 2); }, 0},
-        {"loadFromSetList", [two](ColorScale& s) { s.loadFromSetList(two, 0); }, 1},
-        {"an empty set", [](ColorScale& s) { s.loadFromSetList(SetList(), 0); }, 0},
-        {"calcRanges", [](ColorScale& s) { s.calcRanges(0, 1, true); }, 1},
-        {"calcRanges in silence", [](ColorScale& s) { s.calcRanges(0, 1, false); }, 0},
-        {"degrade", [](ColorScale& s) { s.degrade(kRed, kYellow, kRed, true); }, 1},
-        {"degrade in silence", [](ColorScale& s) { s.degrade(kRed, kYellow, kRed, false); }, 0},
-        {"degrade of two", [](ColorScale& s) { s.degrade(kRed, std::nullopt, kRed, true); }, 1},
-        {"degrade2 in silence", [](ColorScale& s) { s.degrade2(kRed, kRed, false); }, 0},
-    };
-    for (const auto& [name, act, expected] : rows) {
-        ColorScale scale;
-        int events = 0;
-        const auto subscription = scale.onChanged([&events] { ++events; });
-        act(scale);
-        EXPECT_EQ(events, expected) << name;
-    }
-    ColorScale one;
-    one.clearClass(1, 2);
-    const auto subscription = one.onChanged([] { ADD_FAILURE() << "the only class was taken"; });
-    one.quitClass();
 }
 
 TEST(ColorScale, SingleValueTakesAnotherAndAnIntervalIsRefused) {

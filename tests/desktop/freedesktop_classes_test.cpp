@@ -3,7 +3,8 @@
 
 #include "desktop/freedesktop_classes.h"
 
-#include <QFileInfo>
+#include <QFile>
+#include <QProcess>
 #include <QStandardPaths>
 #include <gtest/gtest.h>
 
@@ -35,20 +36,6 @@ TEST(FreedesktopClasses, ADoubleClickOpensTheRunningProgram) {
     EXPECT_TRUE(desk.content("mime/packages/campora.xml").contains("*.rpt"));
     EXPECT_FALSE(desk.content("icons/hicolor/scalable/mimetypes/application-x-campora-report.svg")
                      .isEmpty());
-}
-
-TEST(FreedesktopClasses, WhatIsThereAlreadyIsNotWrittenAgain) {
-    Desk desk;
-    registerFileTypes("/opt/campora", desk.classes);
-    const QString entry = toQt(desk.folder.file("applications/campora.desktop"));
-    QFile file(entry);
-    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-    ASSERT_TRUE(file.setFileTime(QDateTime::fromSecsSinceEpoch(1000), QFile::FileModificationTime));
-    file.close();
-    registerFileTypes("/opt/campora", desk.classes);
-    EXPECT_EQ(QFileInfo(entry).lastModified().toSecsSinceEpoch(), 1000);
-    registerFileTypes("/opt/other", desk.classes);
-    EXPECT_TRUE(desk.content("applications/campora.desktop").contains("/opt/other"));
 }
 
 TEST(FreedesktopClasses, AFolderThatCannotBeWrittenIsNoMatter) {

@@ -84,24 +84,6 @@ TEST_F(LegendViewTest, TheMenuChangesTheClasses) {
     EXPECT_TRUE(dialogs.messages.empty());
 }
 
-TEST_F(LegendViewTest, EveryReadyRampHasItsPicture) {
-    rightClick(0);
-    ASSERT_NE(menu(), nullptr);
-    QMenu* const ramps = menu()->actions().back()->menu();
-    ASSERT_NE(ramps, nullptr);
-    ASSERT_EQ(ramps->actions().size(), static_cast<qsizetype>(readyRamps().size()));
-    for (std::size_t i = 0; i < readyRamps().size(); ++i) {
-        const QImage picture =
-            ramps->actions()[static_cast<int>(i)]->icon().pixmap(16, 16).toImage();
-        const Color start = readyRamps()[i].start;
-        const QColor left = picture.pixelColor(0, 8);
-        EXPECT_NEAR(left.red(), start.red(), 20);
-        EXPECT_NEAR(left.green(), start.green(), 20);
-        EXPECT_NEAR(left.blue(), start.blue(), 20);
-    }
-    closeMenu();
-}
-
 TEST_F(LegendViewTest, TheKeyboardReachesEverything) {
     const_cast<ColorList&>(classes()).setFocus();
     press(Qt::Key_Home);
@@ -117,8 +99,6 @@ TEST_F(LegendViewTest, TheKeyboardReachesEverything) {
     press(Qt::Key_Return);
     QApplication::processEvents();
     EXPECT_EQ(scale().getClass(1).color, Color{3});
-    press(Qt::Key_F10);
-    EXPECT_EQ(menu(), nullptr);
 }
 
 TEST_F(LegendViewTest, ADoubleClickChangesWhatAClassMayChange) {
@@ -141,36 +121,6 @@ TEST_F(LegendViewTest, ADoubleClickChangesWhatAClassMayChange) {
     doubleClick(1);
     EXPECT_EQ(classes().item(1)->text(), "160");
     EXPECT_THAT(dialogs.inputs, ElementsAre(HasSubstr("|Cambiar valor|150")));
-
-    rightClick(1);
-    ASSERT_NE(menu(), nullptr);
-    std::vector<std::string> refused;
-    for (const QAction* entry : menu()->actions()) {
-        if (!entry->isEnabled() && !entry->isSeparator()) {
-            refused.push_back(toUtf8(entry->text()));
-        }
-    }
-    EXPECT_THAT(refused, ElementsAre("&Más clases", "M&enos clases", "Ca&ntidad de clases...",
-                                     "E&xtremos..."));
-    dialogs.inputAnswers = {"170"};
-    choose(TextId::ChangeValue);
-    EXPECT_EQ(classes().item(1)->text(), "170");
-}
-
-TEST_F(LegendViewTest, AScreenReaderSaysBoundsUnitAndColour) {
-    window->session().setLanguage(Language::English);
-    const QListWidgetItem& first = *classes().item(0);
-    EXPECT_EQ(first.data(Qt::AccessibleTextRole).toString(), first.text() + " L/ha");
-    EXPECT_EQ(first.data(Qt::AccessibleDescriptionRole).toString(), "Colour #FFFF00");
-    EXPECT_EQ(legend().reference().item(0)->data(Qt::AccessibleTextRole).toString(), "Sprayed");
-    EXPECT_FALSE(classes().accessibleName().isEmpty());
-    EXPECT_THAT(toUtf8(classes().accessibleDescription()), HasSubstr("Menu key"));
-}
-
-TEST_F(LegendViewTest, WithoutAScaleThereIsNoMenu) {
-    window->session().reset();
-    press(Qt::Key_Menu);
-    EXPECT_EQ(menu(), nullptr);
 }
 
 }  // namespace

@@ -9,7 +9,6 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QMimeData>
-#include <QScrollBar>
 #include <QStatusBar>
 #include <gmock/gmock.h>
 
@@ -55,14 +54,6 @@ TEST_F(WindowTest, ShowsAnOpenedReport) {
     EXPECT_THAT(dialogs.messages, IsEmpty());
 }
 
-TEST_F(WindowTest, StartsEmptyWithCommandsOff) {
-    for (const TextId id : {TextId::ActionZoomIn, TextId::ActionCopyData, TextId::FileUp}) {
-        EXPECT_FALSE(action(id)->isEnabled()) << static_cast<int>(id);
-    }
-    EXPECT_TRUE(action(TextId::ActionOpen)->isEnabled());
-    EXPECT_THAT(toUtf8(window->windowTitle()), HasSubstr("Campora "));
-}
-
 TEST_F(WindowTest, OpenCommandReplacesWhatIsOpen) {
     open({writeReport("viejo.rpt")});
     dialogs.openAnswers.push_back({writeReport("nuevo.rpt")});
@@ -92,12 +83,6 @@ TEST_F(WindowTest, DroppedFilesAndFoldersJoinTheOpenOnes) {
     EXPECT_THAT(rows(), ElementsAre("lote.rpt", "suelto.rpt", "A.RPT", "b.rpt"));
 }
 
-TEST_F(WindowTest, FolderWithoutFilesIsReported) {
-    folder.write("vacia/notas.doc", "x");
-    open({folder.file("vacia")});
-    EXPECT_THAT(dialogs.messages, ElementsAre(HasSubstr("vacia")));
-}
-
 TEST_F(WindowTest, DoubleClickShowsTheFile) {
     open({writeReport("a.rpt"), writeReport("b.rpt", 50000)});
     const float whole = view().scaleX();
@@ -111,22 +96,11 @@ TEST_F(WindowTest, DoubleClickShowsTheFile) {
     EXPECT_NEAR(middle.y, (box.minY + box.maxY) / 2, 1e-3);
 }
 
-TEST_F(WindowTest, FileCommandsMoveTheSelectedFile) {
-    open({writeReport("a.rpt"), writeReport("b.rpt", 100), writeReport("c.rpt", 200)});
-    action(TextId::FileDown)->trigger();
-    EXPECT_THAT(rows(), ElementsAre("b.rpt", "a.rpt", "c.rpt"));
-    EXPECT_EQ(list().selectedRow(), 1);
-    action(TextId::FileBottom)->trigger();
-    EXPECT_THAT(rows(), ElementsAre("b.rpt", "c.rpt", "a.rpt"));
-    action(TextId::FileUp)->trigger();
-    EXPECT_THAT(rows(), ElementsAre("b.rpt", "a.rpt", "c.rpt"));
-    action(TextId::FileTop)->trigger();
-    EXPECT_THAT(rows(), ElementsAre("a.rpt", "b.rpt", "c.rpt"));
-}
-
 TEST_F(WindowTest, DeleteKeyUnloadsDownToTheEmptyMap) {
     const std::string first = writeReport("a.rpt");
     open({first, writeReport("b.rpt", 100)});
+    action(TextId::FileDown)->trigger();
+    EXPECT_THAT(rows(), ElementsAre("b.rpt", "a.rpt"));
     list().setFocus();
     QTest::keyClick(&list(), Qt::Key_Delete);
     EXPECT_THAT(rows(), ElementsAre("b.rpt"));
@@ -136,12 +110,6 @@ TEST_F(WindowTest, DeleteKeyUnloadsDownToTheEmptyMap) {
     EXPECT_EQ(window->sidePanel().summary().topLevelItemCount(), 0);
     EXPECT_EQ(drawnPixels(map().canvas().image()), 0);
     EXPECT_TRUE(canOpen(first));
-}
-
-TEST_F(WindowTest, CopyDataPutsTheSummaryOnTheClipboard) {
-    open({writeReport("lote.rpt")});
-    QTest::keyClick(window.get(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
-    EXPECT_THAT(clipboard.text, HasSubstr("Nombre Archivo: lote.rpt"));
 }
 
 TEST_F(WindowTest, ResizingKeepsTheWholeMap) {

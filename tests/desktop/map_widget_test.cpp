@@ -41,23 +41,6 @@ TEST_F(MapWidgetTest, WheelZoomsAboutThePointer) {
     expectShownAt(held, pointer, 3);
 }
 
-TEST_F(MapWidgetTest, SmallTurnsOfTheWheelAddUp) {
-    const float whole = view().scaleX();
-    const QPoint middle = map().rect().center();
-    for (int i = 0; i < 7; ++i) {
-        wheel(middle, 15);
-    }
-    EXPECT_FLOAT_EQ(view().scaleX(), whole);
-    wheel(middle, 15);
-    EXPECT_FLOAT_EQ(view().scaleX(), whole / 1.5F);
-    wheel(middle, 100);
-    wheel(middle, -30);  // the way back forgets the 100
-    for (int i = 0; i < 6; ++i) {
-        wheel(middle, -15);
-    }
-    EXPECT_FLOAT_EQ(view().scaleX(), whole);
-}
-
 TEST_F(MapWidgetTest, MiddleButtonDragsTheMapWithThePointer) {
     view().zoomIn();
     view().zoomIn();
