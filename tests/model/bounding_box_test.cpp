@@ -103,22 +103,6 @@ TEST(BoundingBox, AgreesWithTheSlowWayToTheLastBit) {
     }
 }
 
-TEST(BoundingBox, EqualsComparesTheSixNumbersAndClearKeepsThem) {
-    const BoundingBox box{1, 2, 3, 4, 5, 6, true};
-    BoundingBox cleared = box;
-    cleared.clear();
-    EXPECT_TRUE(box.equals(cleared));
-    cleared.addPoint(-5, -6);
-    expectBox(cleared, {-5, -6, -5, -6, 0, 0, true});
-    for (double BoundingBox::*field :
-         {&BoundingBox::minX, &BoundingBox::minY, &BoundingBox::maxX, &BoundingBox::maxY,
-          &BoundingBox::widthM, &BoundingBox::heightM}) {
-        BoundingBox other = box;
-        other.*field += 1e-12;
-        EXPECT_FALSE(box.equals(other));
-    }
-}
-
 TEST(BoundingBox, TakesInOtherBoxes) {
     struct Row {
         const char* name;

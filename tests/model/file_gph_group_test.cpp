@@ -84,13 +84,6 @@ TEST(FileGphGroup, BoxFollowsItsLayers) {
     EXPECT_EQ(group.File_bound().heightM, 2 * 111320);
 }
 
-TEST(FileGphGroup, PathIsAnsweredInLowerCase) {
-    FileGphGroup group;
-    group.path = R"(C:\Trabajos\LOTE ÑU.TXT)";
-    EXPECT_EQ(group.File_path(), R"(c:\trabajos\lote ñu.txt)");
-    EXPECT_EQ(group.File_diskPath(), R"(C:\Trabajos\LOTE ÑU.TXT)");
-}
-
 TEST(FileGphGroup, ErrorHectaresAndAlarmsComeFromItsWork) {
     FileGphGroup group;
     auto work = std::make_unique<WorkStub>(1.25F);

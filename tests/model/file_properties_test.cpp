@@ -3,7 +3,6 @@
 
 #include "model/file_properties.h"
 
-#include <stdexcept>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -31,19 +30,6 @@ TEST(FileProperties, ValueIsFollowedByABlankAndTheUnit) {
     summary.addProperty("Superficie", "12.5", "Has");
     EXPECT_EQ(summary.value(0), " ");
     EXPECT_EQ(summary.value(1), "12.5 Has");
-}
-
-TEST(FileProperties, BadIndicesAreRefused) {
-    FileProperties summary;
-    summary.addProperty("a", "b", "c");
-    for (const int index : {-1, 1, 100000}) {
-        EXPECT_THROW((void)summary.property(index), std::out_of_range);
-        EXPECT_THROW((void)summary.value(index), std::out_of_range);
-        EXPECT_THROW((void)summary.value_(index), std::out_of_range);
-        EXPECT_THROW((void)summary.unit_(index), std::out_of_range);
-    }
-    summary.clear();
-    EXPECT_THROW((void)summary.property(0), std::out_of_range);
 }
 
 }  // namespace

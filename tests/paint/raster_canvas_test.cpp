@@ -88,25 +88,6 @@ TEST(RasterCanvas, ARingWithinARingIsAHoleWhicheverWayItRuns) {
     }
 }
 
-TEST(RasterCanvas, TheLaterPolygonLiesOnTop) {
-    RasterCanvas canvas({20 * kUnits, 20 * kUnits});
-    for (const Color color : {kRed, kBlue}) {
-        canvas.setPenColor(color);
-        canvas.setFillColor(color);
-        canvas.polygon(square(5, 5, 15, 15));
-    }
-    EXPECT_EQ(colorAt(canvas, 10, 10), kBlue);
-}
-
-TEST(RasterCanvas, ACopyOfThePictureKeepsWhatItShowed) {
-    RasterCanvas canvas({20 * kUnits, 20 * kUnits});
-    const QImage before = canvas.image();
-    canvas.setFillColor(kRed);
-    canvas.polygon(square(0, 0, 19, 19));
-    EXPECT_EQ(before.pixelColor(10, 10), QColor(Qt::white));
-    EXPECT_EQ(colorAt(canvas, 10, 10), kRed);
-}
-
 TEST(RasterCanvas, LinesKeepTheirWidthOnADenseScreen) {
     RasterCanvas canvas({20 * kUnits, 20 * kUnits}, 2);
     canvas.line({0, 10 * kUnits}, {19 * kUnits, 10 * kUnits}, kRed);
@@ -115,26 +96,6 @@ TEST(RasterCanvas, LinesKeepTheirWidthOnADenseScreen) {
         reds += colorAt(canvas, 20, y) == kRed ? 1 : 0;
     }
     EXPECT_EQ(reds, 2);
-}
-
-TEST(RasterCanvas, ArrowsPointTheirWay) {
-    // The tip side of an arrow is narrower than its tail side.
-    struct Row {
-        MapPicture picture;
-        int tipX, tipY, tailX, tailY;
-    };
-    const Row rows[] = {
-        {MapPicture::ArrowUp, 20, 6, 20, 36},
-        {MapPicture::ArrowDown, 20, 33, 20, 3},
-        {MapPicture::ArrowRight, 33, 20, 3, 20},
-        {MapPicture::ArrowLeft, 6, 20, 36, 20},
-    };
-    for (const Row& row : rows) {
-        RasterCanvas canvas({40 * kUnits, 40 * kUnits});
-        canvas.paintPicture(row.picture, {0, 0}, {40 * kUnits, 40 * kUnits});
-        EXPECT_NE(colorAt(canvas, row.tipX, row.tipY), Color::rgb(255, 255, 255));
-        EXPECT_EQ(colorAt(canvas, row.tailX, row.tailY), Color::rgb(255, 255, 255));
-    }
 }
 
 TEST(RasterCanvas, DrawsAnythingWithoutHarm) {

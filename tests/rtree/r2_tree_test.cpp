@@ -203,42 +203,6 @@ TEST(R2Tree, FindsInTheOrderOfASlowTwin) {
     }
 }
 
-TEST(R2Tree, SplitsAtTheFiftyFirst) {
-    R2Tree tree;
-    for (int i = 0; i < 50; ++i) {
-        tree.Insert(10 * i, 0, 10 * i + 5, 5, i);
-    }
-    EXPECT_EQ(tree.Height(), 0);
-    EXPECT_EQ(tree.NodesCount(), 1);
-    EXPECT_EQ(tree.SpaceUtilization(), 1);
-    tree.Insert(500, 0, 505, 5, 50);
-    EXPECT_EQ(tree.Accesses(), 4) << "two halves, a root, and the root taking its place";
-    EXPECT_EQ(tree.Height(), 1);
-    EXPECT_EQ(tree.NodesCount(), 3);
-    EXPECT_EQ(tree.EntriesCount(), 51);
-    EXPECT_DOUBLE_EQ(tree.SpaceUtilization(), 53.0 / 150);
-    EXPECT_EQ((Rectangle{tree.MinX(), tree.MaxX(), tree.MinY(), tree.MaxY()}),
-              (Rectangle{0, 505, 0, 5}));
-    EXPECT_EQ(checkedHeight(tree.root()), 1);
-    EXPECT_EQ(idsAt(tree, {505, 505, 5, 5}, 2), Ids{50});
-    EXPECT_EQ(tree.Accesses(), 2);
-}
-
-TEST(R2Tree, KeepsTheDirectionOfTheDiagonal) {
-    const std::pair<Rectangle, bool> rows[] = {// from x, y to x, y
-                                               {{1, 2, 3, 4}, true},  {{3, 4, 1, 2}, true},
-                                               {{1, 4, 3, 2}, false}, {{3, 2, 1, 4}, false},
-                                               {{1, 2, 3, 2}, true},  {{1, 2, 1, 2}, true}};
-    for (const auto& [corners, ascending] : rows) {
-        const auto [x1, y1, x2, y2] = corners;
-        R2Tree tree;
-        tree.Insert(x1, y1, x2, y2, 9);
-        const R2TreeEntry& entry = tree.root().Entries.at(0);
-        EXPECT_EQ(entry.rectangle(), (Rectangle{1, std::max(x1, x2), 2, std::max(y1, y2)}));
-        EXPECT_EQ(entry.AscendingDiagonal, ascending) << x1 << y1 << x2 << y2;
-    }
-}
-
 TEST(R2Tree, ModesOfFinding) {
     R2Tree tree;
     tree.Insert(0, 0, 10, 10, 1);
@@ -266,27 +230,6 @@ TEST(R2Tree, TakesTheWidestCoordinates) {
     }
     EXPECT_EQ(idsAt(tree, {low, low, 0, 0}, 2), Ids{0});
     EXPECT_EQ(idsAt(tree, {0, 0, 0, 0}, 2).size(), 60U);
-}
-
-TEST(R2TreeNode, RefusesTwoEntriesOverItsMaximum) {
-    R2Tree tree;
-    tree.MaxLeafEntries = 3;
-    R2TreeNode node(tree);
-    const auto add = [&node](const Rectangle& rectangle) {
-        R2TreeEntry entry;
-        entry.setRectangle(rectangle);
-        node.AddEntry(std::move(entry));
-    };
-    for (int i = 0; i < 4; ++i) {
-        add({i, i + 1, -i, i});
-    }
-    EXPECT_THROW(add({100, 100, 100, 100}), R2TreeError);
-    EXPECT_EQ(node.Entries.size(), 4U);
-    EXPECT_EQ(node.rectangle(), (Rectangle{0, 4, -3, 3}));
-
-    R2Tree roomless;
-    roomless.MaxLeafEntries = 0;
-    EXPECT_THROW(roomless.Insert(0, 0, 1, 1, 0), std::invalid_argument);
 }
 
 }  // namespace

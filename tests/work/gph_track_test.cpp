@@ -37,21 +37,6 @@ TEST(GphTrack, PointAtTheLastPlaceReplacesItsRecord) {
     EXPECT_NEAR(track.Gph_bound().widthM, 10, 1e-9);
 }
 
-TEST(GphTrack, DelaysAreTheSecondsBetweenRecords) {
-    GphTrack report;
-    const TimeOfDay times[] = {{23, 59, 50}, {0, 0, 10}, {0, 0, 10}, {1, 0, 10}};
-    double east = 0;
-    for (const TimeOfDay& time : times) {
-        TrackDataRPT::Fields fields = reportFields(100);
-        fields.time = time;
-        addAt(report, east += 10, 0, TrackDataRPT(fields));
-    }
-    const float expected[] = {20, 1, 3600, 1, 1};
-    for (std::int32_t n = 0; n < 5; ++n) {
-        EXPECT_EQ(report.Gph_delayN(n), expected[n]) << n;
-    }
-}
-
 TEST(GphTrack, HectaresAboveTheErrorLimit) {
     GphTrack track;
     addAt(track, 0, 0, reportRecord(80, 50));     // 20 % off, 100 m of 50 m

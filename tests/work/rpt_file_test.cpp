@@ -3,8 +3,6 @@
 
 #include "work/rpt_file.h"
 
-#include <cmath>
-#include <limits>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -114,19 +112,6 @@ TEST(RptFile, TheOlderFormsHaveNoDate) {
     file.setSwath(16);
     EXPECT_EQ(file.record(0).fields.real[0], 200);
     EXPECT_FLOAT_EQ(file.record(1).fields.swath, 16);
-}
-
-TEST(RptFile, APositionIsWithinTheGlobeAndNotOnItsZeroLines) {
-    constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
-    constexpr double kInfinity = std::numeric_limits<double>::infinity();
-    for (const LonLat& good : {LonLat{-60, -34}, LonLat{179.9, 89.9}, LonLat{1e-9, -1e-9}}) {
-        EXPECT_TRUE(isFix(good)) << good.x << ' ' << good.y;
-    }
-    for (const LonLat& bad :
-         {LonLat{0, -34}, LonLat{-60, 0}, LonLat{180, 10}, LonLat{10, -90}, LonLat{kNan, 10},
-          LonLat{10, kNan}, LonLat{kInfinity, 10}, LonLat{10, -kInfinity}}) {
-        EXPECT_FALSE(isFix(bad)) << bad.x << ' ' << bad.y;
-    }
 }
 
 }  // namespace

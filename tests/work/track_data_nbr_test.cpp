@@ -32,10 +32,6 @@ TEST(TrackDataNBR, TakesTheScaleWhileItIsShown) {
     EXPECT_EQ(record.color(style), scale.getColor(9));
     style.by = GraduatedBy::Minute;
     EXPECT_EQ(record.color(style), scale.getColor(60));
-    style.graduated = false;
-    EXPECT_EQ(record.color(style), style.colors.draw);
-    style.mode = ColorMode::Alarm;
-    EXPECT_EQ(record.color(style), scale.getColor(60)) << "the alarm map shows a scale too";
 }
 
 TEST(TrackDataNBR, DescribesItself) {

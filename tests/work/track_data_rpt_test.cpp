@@ -71,33 +71,6 @@ TEST(TrackDataRPT, TotalsOfLargeDosesDoNotWrap) {
     EXPECT_EQ(record.dosisTotal(), 1e10F);
 }
 
-TEST(TrackDataRPT, CountsAsOnAlarmForKnownAndSelectedAlarmsOnly) {
-    struct Row {
-        const char* name;
-        std::uint32_t alarms;
-        WorkKind kind;
-        std::array<std::uint32_t, 2> selection;
-        bool onAlarm;
-    };
-    constexpr std::uint32_t kAll = 0xFFFFFFFFU;
-    const Row rows[] = {
-        {"bit without a meaning", 0x4, WorkKind::Seeder, {kAll, kAll}, false},
-        {"selected", 0x100, WorkKind::Seeder, {0x100, 0}, true},
-        {"sprayers have their own selection", 0x100, WorkKind::Sprayer, {kAll, 0}, false},
-        {"seeders' alarm on a sprayer", 0x1000, WorkKind::Sprayer, {kAll, kAll}, false},
-        {"older reports go with the seeders", 0x1000, WorkKind::OlderForm, {kAll, 0}, true},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        TrackDataRPT::Fields fields = reportFields(100);
-        fields.alarms = row.alarms;
-        fields.kind = row.kind;
-        MapStyle style;
-        style.alarmSelection = row.selection;
-        EXPECT_EQ(TrackDataRPT(fields).onAlarm(style), row.onAlarm);
-    }
-}
-
 TEST(TrackDataRPT, TakesItsColourFromTheMode) {
     ColorScale scale;
     scale.calcRanges(0, 240, false);
