@@ -4,6 +4,8 @@
 #include "export/shp.h"
 
 #include <array>
+#include <cstddef>
+#include <utility>
 
 #include "base/number_forms.h"
 #include "base/numbers.h"
@@ -41,12 +43,17 @@ Shp::Shp(std::string_view basePath, const BoundingBox& extent)
 std::int32_t Shp::average(std::string_view column, double sum, std::int32_t points) {
     const std::int32_t rounded = roundToInt32(sum / points);
     const auto narrow = static_cast<std::int16_t>(rounded);
-    if (narrow != rounded && !failure_) {
-        failure_ =
-            because(TextId::FileCannotBeWritten, {basePath_ + ".dbf"},
-                    {TextId::CellDoesNotFit, {std::string(column), numberText(sum / points)}});
+    if (narrow != rounded) {
+        refuse(column, numberText(sum / points));
     }
     return rounded;
+}
+
+void Shp::refuse(std::string_view column, std::string value) {
+    if (!failure_) {
+        failure_ = because(TextId::FileCannotBeWritten, {basePath_ + ".dbf"},
+                           {TextId::CellDoesNotFit, {std::string(column), std::move(value)}});
+    }
 }
 
 void Shp::add(const SwathFigure& figure) {
@@ -61,8 +68,12 @@ void Shp::add(const SwathFigure& figure) {
     if (speed > 0.5) {
         const double width = roundHalfEven(figure.swathMetres);
         const double litres = flow * kSquareMetresPerHectare / (kMetresPerMinute * speed * width);
-        const CellValue none;
-        table.recordField(kLitres, width > 0 ? fixedNumberText(litres, 2) : none);
+        const std::string text = width > 0 ? fixedNumberText(litres, 2) : std::string();
+        const Column& column = kColumns[kLitres - 1];
+        if (!text.empty() && text.find('.') > static_cast<std::size_t>(column.length)) {
+            refuse(column.name, text);  // cut off, it would be another number
+        }
+        table.recordField(kLitres, text);
     }
     const std::array parts = {figure.ring};
     set_.addPolygon(parts);

@@ -36,17 +36,21 @@ public:
 
     /// Averages are whole numbers, halves to even; litres per hectare follow from them and from the
     /// swath width in whole metres. A record without speed keeps the litres per hectare of the one
-    /// before it, blank at first; one without width has none.
+    /// before it, blank at first; one without width has none. Decimals that the field has no room
+    /// for are cut off; an average beyond 16 bits and litres of more digits than it holds are a
+    /// failure.
     void add(const SwathFigure& figure);
     [[nodiscard]] std::int32_t recordCount() const { return set_.recordCount(); }
     /// Whether it is of no use to go on.
     [[nodiscard]] bool hasFailed() const { return failure_ || set_.hasFailed(); }
-    /// The files take their places, all or none. An average that 16 bits do not hold is a failure.
+    /// The files take their places, all or none.
     [[nodiscard]] std::optional<Failure> finish();
 
 private:
     /// `sum` / `points`, rounded.
     [[nodiscard]] std::int32_t average(std::string_view column, double sum, std::int32_t points);
+    /// The column cannot hold the value.
+    void refuse(std::string_view column, std::string value);
 
     std::string basePath_;
     ShapeSet set_;
