@@ -62,22 +62,6 @@ std::string dateCell(const CellValue& value) {
     return std::visit(digits, value);
 }
 
-std::string plainCell(const CellValue& value) {
-    const auto text = [](const auto& cell) -> std::string {
-        using Cell = std::decay_t<decltype(cell)>;
-        if constexpr (std::is_same_v<Cell, Date>) {
-            return dateText(cell, "yyyy-mm-dd");
-        } else if constexpr (std::is_same_v<Cell, std::string>) {
-            return cell;
-        } else if constexpr (std::is_arithmetic_v<Cell>) {
-            return numberText(cell);
-        } else {
-            return {};
-        }
-    };
-    return std::visit(text, value);
-}
-
 }  // namespace
 
 DbfFile::DbfFile(std::optional<Date> today) : today_(today) {}
@@ -127,6 +111,22 @@ std::optional<Failure> DbfFile::createDBF(std::string_view basePath) {
     return draft_->failure();
 }
 
+std::string DbfFile::plainText(const CellValue& value) {
+    const auto text = [](const auto& cell) -> std::string {
+        using Cell = std::decay_t<decltype(cell)>;
+        if constexpr (std::is_same_v<Cell, Date>) {
+            return dateText(cell, "yyyy-mm-dd");
+        } else if constexpr (std::is_same_v<Cell, std::string>) {
+            return cell;
+        } else if constexpr (std::is_arithmetic_v<Cell>) {
+            return numberText(cell);
+        } else {
+            return {};
+        }
+    };
+    return std::visit(text, value);
+}
+
 void DbfFile::recordField(int field, const CellValue& value) {
     if (field <= 0) {
         return;
@@ -136,7 +136,7 @@ void DbfFile::recordField(int field, const CellValue& value) {
         put(target, dateCell(value));
         return;
     }
-    std::string text = plainCell(value);
+    std::string text = plainText(value);
     if (!isAscii(text)) {
         text = toWindows1252(text);
     }

@@ -42,6 +42,8 @@ public:
     /// 1899; an empty value, and a text in a date field, is blank. Fields below 1 are ignored,
     /// those that are not there throw `std::out_of_range`.
     void recordField(int field, const CellValue& value);
+    /// What a text or number field is given for a value, UTF-8.
+    [[nodiscard]] static std::string plainText(const CellValue& value);
     /// Appends the record; its values stay until they are set again.
     void writeRecord();
     [[nodiscard]] std::int32_t recordCount() const { return records_; }

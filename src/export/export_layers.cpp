@@ -37,20 +37,41 @@ std::vector<int> matchNames(const ExportableData& data, std::span<const ExportCo
     return matches;
 }
 
+bool isNumber(ColumnType type) {
+    return type == ColumnType::Integer || type == ColumnType::Real;
+}
+
+/// A type that holds what both hold.
+ColumnType widened(ColumnType a, ColumnType b) {
+    if (a == b) {
+        return a;
+    }
+    return isNumber(a) && isNumber(b) ? ColumnType::Real : ColumnType::Text;
+}
+
+/// Adds the columns of new names; the types of the others come to hold the cells of this layer.
 void addColumns(const ExportableData& data, std::vector<ExportColumn>& columns) {
+    std::vector<std::string> seen;  // of columns of one name in a layer the first one counts
     for (int i = 0; i < data.ExportableData_getColumnCount(); ++i) {
         std::string name = data.ExportableData_getColumnNname(i);
-        const bool isNew = std::none_of(columns.begin(), columns.end(),
-                                        [&](const auto& column) { return column.name == name; });
-        if (isNew) {
-            columns.push_back({std::move(name), data.ExportableData_getColumnNtype(i)});
+        if (std::find(seen.begin(), seen.end(), name) != seen.end()) {
+            continue;
         }
+        const ColumnType type = data.ExportableData_getColumnNtype(i);
+        const auto same = std::find_if(columns.begin(), columns.end(),
+                                       [&](const auto& column) { return column.name == name; });
+        if (same == columns.end()) {
+            columns.push_back({name, type});
+        } else {
+            same->type = widened(same->type, type);
+        }
+        seen.push_back(std::move(name));
     }
 }
 
 }  // namespace
 
-std::vector<ExportLayer> polygonLayers(std::span<Gph* const> layers) {
+std::vector<ExportLayer> polygonLayers(std::span<const Gph* const> layers) {
     std::vector<ExportLayer> found;
     for (const Gph* const gph : layers) {
         if (const auto* const polygons = dynamic_cast<const ExportablePolygon*>(gph)) {
@@ -61,7 +82,7 @@ std::vector<ExportLayer> polygonLayers(std::span<Gph* const> layers) {
     return found;
 }
 
-std::vector<ExportLayer> pointLayers(std::span<Gph* const> layers) {
+std::vector<ExportLayer> pointLayers(std::span<const Gph* const> layers) {
     std::vector<ExportLayer> found;
     for (const Gph* const gph : layers) {
         if (const auto* const points = dynamic_cast<const ExportablePoint*>(gph)) {
@@ -72,7 +93,7 @@ std::vector<ExportLayer> pointLayers(std::span<Gph* const> layers) {
     return found;
 }
 
-std::vector<ExportLayer> figureLayers(std::span<Gph* const> layers) {
+std::vector<ExportLayer> figureLayers(std::span<const Gph* const> layers) {
     std::vector<ExportLayer> polygons = polygonLayers(layers);
     const bool hasPolygons = std::any_of(polygons.begin(), polygons.end(), hasFigures);
     return hasPolygons ? polygons : pointLayers(layers);
@@ -94,6 +115,12 @@ std::int64_t figureCount(std::span<const ExportLayer> layers) {
         [](std::int64_t sum, const ExportLayer& layer) { return sum + layer.count; });
 }
 
+bool allHaveColumns(std::span<const ExportLayer> layers) {
+    return std::all_of(layers.begin(), layers.end(), [](const ExportLayer& layer) {
+        return layer.data != nullptr || !hasFigures(layer);
+    });
+}
+
 ExportColumns ExportColumns::ofFirst(std::span<const ExportLayer> layers) {
     return collect(layers, false);
 }
@@ -103,15 +130,12 @@ ExportColumns ExportColumns::ofAll(std::span<const ExportLayer> layers) {
 }
 
 ExportColumns ExportColumns::collect(std::span<const ExportLayer> layers, bool all) {
+    if (!allHaveColumns(layers)) {
+        return {};
+    }
     ExportColumns table;
     for (const ExportLayer& layer : layers) {
-        if (!hasFigures(layer)) {
-            continue;
-        }
-        if (layer.data == nullptr) {
-            return {};
-        }
-        if (all || table.columns_.empty()) {
+        if (hasFigures(layer) && (all || table.columns_.empty())) {
             addColumns(*layer.data, table.columns_);
         }
     }
@@ -143,6 +167,11 @@ std::optional<double> cellNumber(const CellValue& cell) {
         }
     };
     return std::visit(number, cell);
+}
+
+bool hasDecimals(const CellValue& cell) {
+    const std::optional<double> number = cellNumber(cell);
+    return number && std::isfinite(*number) && std::trunc(*number) != *number;
 }
 
 std::optional<std::int64_t> cellInteger(const CellValue& cell) {

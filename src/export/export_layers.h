@@ -29,10 +29,10 @@ struct ExportLayer {
 };
 
 /// The layers that have polygons, or points, in their order.
-[[nodiscard]] std::vector<ExportLayer> polygonLayers(std::span<Gph* const> layers);
-[[nodiscard]] std::vector<ExportLayer> pointLayers(std::span<Gph* const> layers);
+[[nodiscard]] std::vector<ExportLayer> polygonLayers(std::span<const Gph* const> layers);
+[[nodiscard]] std::vector<ExportLayer> pointLayers(std::span<const Gph* const> layers);
 /// Those with polygons when there are any figures among them, else those with points.
-[[nodiscard]] std::vector<ExportLayer> figureLayers(std::span<Gph* const> layers);
+[[nodiscard]] std::vector<ExportLayer> figureLayers(std::span<const Gph* const> layers);
 
 /// The box that holds the boxes of all.
 [[nodiscard]] BoundingBox boxOf(std::span<const ExportLayer> layers);
@@ -40,16 +40,22 @@ struct ExportLayer {
 /// Figures of all of them.
 [[nodiscard]] std::int64_t figureCount(std::span<const ExportLayer> layers);
 
+/// Whether every layer with figures has columns; no table has any otherwise.
+[[nodiscard]] bool allHaveColumns(std::span<const ExportLayer> layers);
+
 struct ExportColumn {
     std::string name;
     ColumnType type = ColumnType::Integer;
 };
 
-/// The columns of a table of several layers. Layers and columns count from 0.
+/// The columns of a table of several layers, none unless `allHaveColumns`. Layers and columns count
+/// from 0.
 class ExportColumns {
 public:
-    /// Of the first layer; or of all, each name once. None when a layer with figures has no data.
+    /// Those of the first layer with figures.
     [[nodiscard]] static ExportColumns ofFirst(std::span<const ExportLayer> layers);
+    /// Those of all, each name once, with a type that holds the cells of every layer: real where
+    /// integers and reals meet, text where other types do.
     [[nodiscard]] static ExportColumns ofAll(std::span<const ExportLayer> layers);
 
     [[nodiscard]] bool empty() const { return columns_.empty(); }
@@ -73,6 +79,8 @@ private:
 
 /// A number cell, or one that a text begins with; none otherwise.
 [[nodiscard]] std::optional<double> cellNumber(const CellValue& cell);
+/// Whether the cell is a number, or begins with one, that is not whole.
+[[nodiscard]] bool hasDecimals(const CellValue& cell);
 /// A cell of an integer column: its number rounded, halves to even. None without a number and for
 /// one that 64 bits do not hold.
 [[nodiscard]] std::optional<std::int64_t> cellInteger(const CellValue& cell);

@@ -77,17 +77,18 @@ std::string cellText(const CellValue& cell) {
     return std::visit(text, cell);
 }
 
-/// A value as the type of its column asks for it, whatever the layer gives.
+/// A value as the type of its column asks for it, whatever the layer gives: numbers with all their
+/// digits in any column of numbers.
 std::string propertyText(ColumnType type, const CellValue& cell) {
-    if (type == ColumnType::Integer) {
-        const std::optional<std::int64_t> number = cellInteger(cell);
-        return number ? numberText(*number) : "null";
-    }
-    if (type == ColumnType::Real && std::holds_alternative<std::string>(cell)) {
+    const bool isNumber = type == ColumnType::Integer || type == ColumnType::Real;
+    if (isNumber &&
+        (std::holds_alternative<std::string>(cell) || std::holds_alternative<Date>(cell))) {
         const std::optional<double> number = cellNumber(cell);
-        return number ? numberText(*number) : "null";
+        return number ? cellText(*number) : "null";
     }
-    return cellText(cell);
+    const bool isText =
+        type == ColumnType::Text && cellNumber(cell) && !std::holds_alternative<std::string>(cell);
+    return isText ? jsonText(cellText(cell)) : cellText(cell);
 }
 
 /// One export: layers into a file.
@@ -190,7 +191,7 @@ private:
 
 }  // namespace
 
-std::optional<Failure> exportGeoJson(std::span<Gph* const> layers, std::string_view path,
+std::optional<Failure> exportGeoJson(std::span<const Gph* const> layers, std::string_view path,
                                      const MapStyle& style, ExportProgress& progress) {
     return Export(figureLayers(layers), path, progress).run(style);
 }

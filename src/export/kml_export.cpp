@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "base/encoding.h"
 #include "base/file_draft.h"
@@ -15,7 +16,7 @@
 #include "base/paths.h"
 #include "base/text.h"
 #include "base/text_lines.h"
-#include "model/exportable.h"
+#include "export/export_layers.h"
 
 namespace campora {
 
@@ -71,46 +72,57 @@ std::string nameLine(std::string_view path) {
     return replaceAll(name, "]]>", "]]]]><![CDATA[>").append(kLineEnd);
 }
 
-std::int64_t polygonsOf(std::span<const Gph* const> layers) {
-    std::int64_t all = 0;
-    for (const Gph* layer : layers) {
-        if (const auto* polygons = dynamic_cast<const ExportablePolygon*>(layer)) {
-            all += polygons->ExportablePolygon_polygonCount();
-        }
-    }
-    return all;
-}
+/// A layer's polygons on their way into the document.
+class Polygons {
+public:
+    Polygons(const Templates& templates, const MapStyle& style, FileDraft& file)
+        : templates_(templates), style_(style), file_(file) {}
 
-/// The polygons of a layer; false when the user has cancelled.
-bool writeLayer(const ExportablePolygon& layer, const Templates& templates, const MapStyle& style,
-                FileDraft& file, ExportProgress& progress) {
-    std::string text;
-    const std::int32_t count = layer.ExportablePolygon_polygonCount();
-    for (std::int32_t polygon = 0; polygon < count; ++polygon) {
-        if (!progress.next()) {
-            return false;
+    [[nodiscard]] bool empty() const { return empty_; }
+    /// False when the user has cancelled.
+    bool write(const ExportLayer& layer, ExportProgress& progress) {
+        for (std::int32_t polygon = 0; polygon < layer.count; ++polygon) {
+            if (!progress.next()) {
+                return false;
+            }
+            write(*layer.polygons, polygon);
         }
-        const std::int32_t points = layer.ExportablePolygon_polygonNCount(style, polygon);
+        return true;
+    }
+
+private:
+    void write(const ExportablePolygon& layer, std::int32_t polygon) {
+        const std::int32_t points = layer.ExportablePolygon_polygonNCount(style_, polygon);
         if (points <= 0) {
-            continue;
+            return;
         }
-        text = templates[kPolygonHead];
+        text_ = templates_[kPolygonHead];
         for (std::int32_t point = points - 1; point >= 0; --point) {
             const LonLat at = layer.ExportablePolygon_polygonNpoint(polygon, point);
-            text.append(sharpNumberText(at.x)).append(",").append(sharpNumberText(at.y));
-            text.append(kAltitude);
+            text_.append(sharpNumberText(at.x)).append(",").append(sharpNumberText(at.y));
+            text_.append(kAltitude);
         }
-        text += templates[kPolygonEnd];
-        file.write(text);
+        text_ += templates_[kPolygonEnd];
+        file_.write(text_);
+        empty_ = false;
     }
-    return true;
-}
+
+    const Templates& templates_;
+    const MapStyle& style_;
+    FileDraft& file_;
+    std::string text_;
+    bool empty_ = true;
+};
 
 }  // namespace
 
 std::optional<Failure> kmlExport(std::span<const Gph* const> layers, std::string_view path,
                                  std::string_view programFolder, const MapStyle& style,
                                  ExportProgress& progress) {
+    const std::vector<ExportLayer> found = polygonLayers(layers);
+    if (figureCount(found) == 0) {
+        return Failure{TextId::NoPolygonsToExport, {}, {}};
+    }
     const Result<Templates> templates = readTemplates(programFolder);
     if (!templates) {
         return templates.failure();
@@ -119,12 +131,15 @@ std::optional<Failure> kmlExport(std::span<const Gph* const> layers, std::string
     file.write((*templates)[kHead]);
     file.write(nameLine(path));
     file.write((*templates)[kHeadEnd]);
-    progress.expect(polygonsOf(layers));
-    for (const Gph* layer : layers) {
-        const auto* polygons = dynamic_cast<const ExportablePolygon*>(layer);
-        if (polygons != nullptr && !writeLayer(*polygons, *templates, style, file, progress)) {
+    progress.expect(figureCount(found));
+    Polygons polygons(*templates, style, file);
+    for (const ExportLayer& layer : found) {
+        if (!polygons.write(layer, progress)) {
             return std::nullopt;
         }
+    }
+    if (polygons.empty() && !file.failure()) {
+        return Failure{TextId::NoPolygonsToExport, {}, {}};
     }
     file.write((*templates)[kEnd]);
     return file.finish();

@@ -18,7 +18,9 @@ namespace campora {
 /// templates "kmlhead.inc", "kmlheadb.inc", "kmlPolyhead.inc", "kmlPolyend.inc" and "kmlend.inc".
 /// They are looked for without regard to case in `programFolder`, then in its folder "kml"; a
 /// missing one is the failure. The points of a polygon come as the layer gives them, the last one
-/// first. Layers without polygons are left out, and under `style` steps without flow may be.
+/// first: a ring that a layer leaves open stays open, although KML asks for closed ones. Layers
+/// without polygons are left out, and under `style` steps without flow may be; a map without any
+/// polygon to write is a failure. A failure leaves the file that was there, as cancelling does.
 [[nodiscard]] std::optional<Failure> kmlExport(std::span<const Gph* const> layers,
                                                std::string_view path,
                                                std::string_view programFolder,

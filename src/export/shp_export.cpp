@@ -73,12 +73,14 @@ bool fits16Bits(const CellValue& cell) {
     return !number || std::abs(roundHalfEven(*number) + 0.5) < 32768;
 }
 
-/// The columns of the layers, or their "id", as fields of the table.
+/// The columns of the layers, or their "id", as fields of the table. Some layers call columns of
+/// fractions integers: those programs for which `forGis` stands get the fractions.
 class AttributeTable {
 public:
     AttributeTable(std::span<const ExportLayer> layers, bool forGis)
         : layers_(layers),
-          columns_(forGis ? ExportColumns::ofAll(layers) : ExportColumns::ofFirst(layers)),
+          cells_(forGis ? ExportColumns::ofAll(layers) : ExportColumns::ofFirst(layers)),
+          columns_(cells_.columns().begin(), cells_.columns().end()),
           forGis_(forGis) {}
 
     /// What a cell cannot hold, as a failure without a path.
@@ -89,11 +91,11 @@ public:
             table.addField("id", kIdForm.type, widthOfIds(), kIdForm.decimals);
             return;
         }
-        for (std::size_t i = 0; i < columns_.columns().size(); ++i) {
-            const ExportColumn& column = columns_.columns()[i];
-            const FieldForm form = formOf(column.type);
-            const int length = forGis_ ? widthOfCells(i, form) : form.length;
-            table.addField(shortName(column.name), form.type, length, form.decimals);
+        for (std::size_t i = 0; i < columns_.size(); ++i) {
+            const int widest = forGis_ ? widthOfCells(i) : 0;  // may widen the type
+            const FieldForm form = formOf(columns_[i].type);
+            table.addField(shortName(columns_[i].name), form.type, std::max(widest, form.length),
+                           form.decimals);
         }
     }
 
@@ -101,9 +103,8 @@ public:
         if (columns_.empty()) {
             table.recordField(1, numberText(row));
         }
-        for (std::size_t i = 0; i < columns_.columns().size(); ++i) {
-            record(table, static_cast<int>(i) + 1, columns_.columns()[i],
-                   columns_.cell(layer, row, i));
+        for (std::size_t i = 0; i < columns_.size(); ++i) {
+            record(table, static_cast<int>(i) + 1, columns_[i], cells_.cell(layer, row, i));
         }
         table.writeRecord();
     }
@@ -141,22 +142,26 @@ private:
         if (column.type == ColumnType::Integer) {
             return integerText(cell).size();
         }
-        const auto* const text = std::get_if<std::string>(&cell);
-        return text != nullptr ? toWindows1252(*text).size() : 0;
+        return toWindows1252(DbfFile::plainText(cell)).size();
     }
 
-    /// Wide enough for all cells; texts may be longer than any field.
-    [[nodiscard]] int widthOfCells(std::size_t index, const FieldForm& form) {
-        const ExportColumn& column = columns_.columns()[index];
-        if (form.type == DbfType::Date) {
-            return form.length;
+    /// Wide enough for all cells of the column, which becomes one of reals at the first fraction;
+    /// texts may be longer than any field.
+    [[nodiscard]] int widthOfCells(std::size_t index) {
+        ExportColumn& column = columns_[index];
+        if (column.type == ColumnType::Date) {
+            return 0;
         }
-        auto widest = static_cast<std::size_t>(form.length);
+        std::size_t widest = 0;
         for (std::size_t layer = 0; layer < layers_.size(); ++layer) {
             for (std::int32_t row = 0; row < layers_[layer].count; ++row) {
-                const CellValue cell = columns_.cell(layer, row, index);
+                const CellValue cell = cells_.cell(layer, row, index);
+                if (column.type == ColumnType::Integer && hasDecimals(cell)) {
+                    column.type = ColumnType::Real;
+                    return widthOfCells(index);
+                }
                 widest = std::max(widest, width(column, cell));
-                if (widest > DbfFile::kMostLength && form.type == DbfType::Numeric) {
+                if (widest > DbfFile::kMostLength && column.type != ColumnType::Text) {
                     refuse(column, realText(cell));
                 }
             }
@@ -174,7 +179,8 @@ private:
     }
 
     std::span<const ExportLayer> layers_;
-    ExportColumns columns_;
+    ExportColumns cells_;
+    std::vector<ExportColumn> columns_;
     bool forGis_;
     std::optional<Failure> failure_;
 };
@@ -284,8 +290,9 @@ private:
 
 }  // namespace
 
-std::optional<Failure> exportShpPolygons(std::span<Gph* const> layers, std::string_view basePath,
-                                         const MapStyle& style, ExportProgress& progress) {
+std::optional<Failure> exportShpPolygons(std::span<const Gph* const> layers,
+                                         std::string_view basePath, const MapStyle& style,
+                                         ExportProgress& progress) {
     std::vector<ExportLayer> found = polygonLayers(layers);
     if (figureCount(found) == 0) {
         return Failure{TextId::NoPolygonsToExport, {}, {}};
@@ -294,8 +301,8 @@ std::optional<Failure> exportShpPolygons(std::span<Gph* const> layers, std::stri
         .run(style, TextId::NoPolygonsToExport);
 }
 
-std::optional<Failure> exportShpPoints(std::span<Gph* const> layers, std::string_view basePath,
-                                       ExportProgress& progress) {
+std::optional<Failure> exportShpPoints(std::span<const Gph* const> layers,
+                                       std::string_view basePath, ExportProgress& progress) {
     std::vector<ExportLayer> found = pointLayers(layers);
     if (figureCount(found) == 0) {
         return Failure{TextId::NoPointsToExport, {}, {}};
@@ -304,7 +311,7 @@ std::optional<Failure> exportShpPoints(std::span<Gph* const> layers, std::string
         .run(MapStyle(), TextId::NoPointsToExport);
 }
 
-std::optional<Failure> exportShpGis(std::span<Gph* const> layers, std::string_view basePath,
+std::optional<Failure> exportShpGis(std::span<const Gph* const> layers, std::string_view basePath,
                                     const MapStyle& style, const Date& today,
                                     ExportProgress& progress) {
     std::vector<ExportLayer> found = figureLayers(layers);

@@ -21,26 +21,29 @@ namespace campora {
 ///
 /// Layers that lack what the format needs are left out. The table has the columns of the first
 /// layer when every exported layer has data, a cell of another layer being the one of the same
-/// name, and a column "id" otherwise, which begins at 0 in every layer. A map without anything to
+/// name (a text table goes by position), and a column "id" otherwise, which begins at 0 in every
+/// layer. A map without anything to
 /// write is a failure and leaves no file; `progress` may cancel an export, which leaves none
 /// either.
 
 /// A record a polygon, its points as the layer gives them: open or closed, either way round. Under
 /// `style`, steps without flow may be left out.
-[[nodiscard]] std::optional<Failure> exportShpPolygons(std::span<Gph* const> layers,
+[[nodiscard]] std::optional<Failure> exportShpPolygons(std::span<const Gph* const> layers,
                                                        std::string_view basePath,
                                                        const MapStyle& style,
                                                        ExportProgress& progress);
 
 /// A record a point.
-[[nodiscard]] std::optional<Failure>
-exportShpPoints(std::span<Gph* const> layers, std::string_view basePath, ExportProgress& progress);
+[[nodiscard]] std::optional<Failure> exportShpPoints(std::span<const Gph* const> layers,
+                                                     std::string_view basePath,
+                                                     ExportProgress& progress);
 
 /// The form that other programs take without complaint: polygons when a layer has them, else
 /// points; rings closed and clockwise, what crosses itself divided into parts, without what has no
-/// area; columns of all layers, wide enough for every cell (the format ends a text after 254
-/// letters), with numbers on the right; `today` as the date of the table.
-[[nodiscard]] std::optional<Failure> exportShpGis(std::span<Gph* const> layers,
+/// area; columns of all layers, of a type that holds the cells of all and wide enough for them (the
+/// format ends a text after 254 letters), three decimals also in a column of integers where a cell
+/// has some, with numbers on the right; `today` as the date of the table.
+[[nodiscard]] std::optional<Failure> exportShpGis(std::span<const Gph* const> layers,
                                                   std::string_view basePath, const MapStyle& style,
                                                   const Date& today, ExportProgress& progress);
 

@@ -14,7 +14,7 @@
 #include "base/file_draft.h"
 #include "base/numbers.h"
 #include "base/text.h"
-#include "model/exportable.h"
+#include "export/export_layers.h"
 
 namespace campora {
 
@@ -22,30 +22,6 @@ namespace {
 
 constexpr int kMostDigits = 15;
 constexpr std::string_view kLineEnd = "\r\n";
-
-/// A layer as a table: its points, and its rows where the table has columns.
-struct TableLayer {
-    const ExportablePoint* points = nullptr;
-    const ExportableData* data = nullptr;
-};
-
-std::vector<TableLayer> tableLayers(std::span<const Gph* const> layers) {
-    std::vector<TableLayer> found;
-    for (const Gph* layer : layers) {
-        const auto* points = dynamic_cast<const ExportablePoint*>(layer);
-        if (points != nullptr && points->ExportablePoint_pointCount() > 0) {
-            found.push_back({points, dynamic_cast<const ExportableData*>(layer)});
-        }
-    }
-    const bool allHaveData = std::all_of(
-        found.begin(), found.end(), [](const TableLayer& layer) { return layer.data != nullptr; });
-    if (!allHaveData) {
-        for (TableLayer& layer : found) {
-            layer.data = nullptr;
-        }
-    }
-    return found;
-}
 
 /// At most 15 digits, "." as decimal point with a zero before it, never an exponent.
 void appendNumber(std::string& line, double value) {
@@ -124,9 +100,21 @@ private:
     std::string lastText_;
 };
 
-std::string headingLine(std::span<const TableLayer> layers, const TextTableForm& form) {
+/// The layers with points; none of them with data unless all have some.
+std::vector<ExportLayer> tableLayers(std::span<const Gph* const> layers) {
+    std::vector<ExportLayer> found = pointLayers(layers);
+    std::erase_if(found, [](const ExportLayer& layer) { return layer.count == 0; });
+    if (!allHaveColumns(found)) {
+        for (ExportLayer& layer : found) {
+            layer.data = nullptr;
+        }
+    }
+    return found;
+}
+
+std::string headingLine(const ExportLayer& first, const TextTableForm& form) {
     std::string line = "Longitud" + form.separator + "Latitud";
-    const ExportableData* const data = layers.empty() ? nullptr : layers.front().data;
+    const ExportableData* const data = first.data;
     const int columns = data == nullptr ? 0 : data->ExportableData_getColumnCount();
     for (int column = 0; column < columns; ++column) {
         // A character is one byte in the code page of the table.
@@ -141,13 +129,12 @@ std::string headingLine(std::span<const TableLayer> layers, const TextTableForm&
 }
 
 /// The lines of a layer; false when the user has cancelled.
-bool writeLayer(const TableLayer& layer, const TextTableForm& form, char systemSymbol,
+bool writeLayer(const ExportLayer& layer, const TextTableForm& form, char systemSymbol,
                 CellTexts& cells, FileDraft& file, ExportProgress& progress) {
     constexpr CellOptions kOptions{.swathInCentimetres = true};
     const int columns = layer.data == nullptr ? 0 : layer.data->ExportableData_getColumnCount();
-    const std::int32_t count = layer.points->ExportablePoint_pointCount();
     std::string line;
-    for (std::int32_t point = 0; point < count; ++point) {
+    for (std::int32_t point = 0; point < layer.count; ++point) {
         if (!progress.next()) {
             return false;
         }
@@ -172,16 +159,15 @@ bool writeLayer(const TableLayer& layer, const TextTableForm& form, char systemS
 std::optional<Failure> txtExport(std::span<const Gph* const> layers, std::string_view path,
                                  const TextTableForm& form, const UserLocale& locale,
                                  ExportProgress& progress) {
-    const std::vector<TableLayer> table = tableLayers(layers);
-    std::int64_t points = 0;
-    for (const TableLayer& layer : table) {
-        points += layer.points->ExportablePoint_pointCount();
+    const std::vector<ExportLayer> table = tableLayers(layers);
+    if (table.empty()) {
+        return Failure{TextId::NoPointsToExport, {}, {}};
     }
-    progress.expect(points);
+    progress.expect(figureCount(table));
     FileDraft file(path);
-    file.write(headingLine(table, form));
+    file.write(headingLine(table.front(), form));
     CellTexts cells(locale);
-    for (const TableLayer& layer : table) {
+    for (const ExportLayer& layer : table) {
         if (!writeLayer(layer, form, locale.decimalSymbol(), cells, file, progress)) {
             return std::nullopt;
         }

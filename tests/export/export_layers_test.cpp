@@ -70,6 +70,38 @@ TEST(BoxOfLayers, LeavesOutLayersWithoutABox) {
     EXPECT_FALSE(boxOf(pointLayers(std::vector<Gph*>{&boxless})).isSet);
 }
 
+TEST(ExportColumns, ATypeHoldsTheCellsOfEveryLayerInAnyOrder) {
+    using enum ColumnType;
+    struct Row {
+        const char* name;
+        ColumnType one;
+        ColumnType other;
+        ColumnType both;
+    };
+    const Row rows[] = {
+        {"the same", Date, Date, Date},
+        {"numbers", Integer, Real, Real},
+        {"number and text", Real, Text, Text},
+        {"number and date", Integer, Date, Text},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        AttributeLayer one({squareAt(0, 0)}, {{"A", row.one, {CellValue()}}});
+        // Of two columns of one name in a layer only the first one is read.
+        AttributeLayer other({squareAt(0, 0)}, {{"A", row.other, {CellValue()}},
+                                                {"A", ColumnType::Text, {CellValue()}}});
+        const std::vector<Gph*> orders[] = {{&one, &other}, {&other, &one}};
+        for (const std::vector<Gph*>& order : orders) {
+            const auto layers = pointLayers(order);
+            const ExportColumns all = ExportColumns::ofAll(layers);
+            ASSERT_EQ(all.columns().size(), 1U);
+            EXPECT_EQ(all.columns()[0].type, row.both);
+            EXPECT_EQ(ExportColumns::ofFirst(layers).columns()[0].type,
+                      order[0] == &one ? row.one : row.other);
+        }
+    }
+}
+
 TEST(ExportColumns, FindCellsByTheNameOfTheirColumn) {
     const auto number = [](std::int64_t value) { return CellValue(value); };
     AttributeLayer one({squareAt(0, 0)}, {{"A", ColumnType::Integer, {number(1)}},
@@ -77,6 +109,7 @@ TEST(ExportColumns, FindCellsByTheNameOfTheirColumn) {
     AttributeLayer two({squareAt(0, 0)}, {{"C", ColumnType::Integer, {number(3)}},
                                           {"A", ColumnType::Integer, {number(4)}}});
     AttributeLayer empty({}, {});
+    PointLayer points({{50, 50}});
     const auto layers = pointLayers(std::vector<Gph*>{&empty, &one, &two});
     const ExportColumns first = ExportColumns::ofFirst(layers);
     ASSERT_EQ(first.columns().size(), 2U);
@@ -87,6 +120,7 @@ TEST(ExportColumns, FindCellsByTheNameOfTheirColumn) {
     ASSERT_EQ(all.columns().size(), 3U);
     EXPECT_EQ(all.columns()[2].name, "C");
     EXPECT_EQ(all.cell(2, 0, 2), number(3));
+    EXPECT_FALSE(allHaveColumns(pointLayers(std::vector<Gph*>{&one, &two, &points})));
     RingLayer bare({squareAt(0, 0)});
     EXPECT_TRUE(ExportColumns::ofAll(polygonLayers(std::vector<Gph*>{&one, &bare})).empty());
 }

@@ -57,7 +57,7 @@ TEST_F(GeoJsonTest, PropertiesByTheTypeOfTheirColumn) {
     };
     const Row rows[] = {
         {"integer", ColumnType::Integer, std::int64_t{-7}, "-7"},
-        {"integer, halves to even", ColumnType::Integer, 2.5F, "2"},
+        {"fraction among integers", ColumnType::Integer, 12.34F, "12.34"},
         {"integer in a text", ColumnType::Integer, std::string("12"), "12"},
         {"no integer", ColumnType::Integer, std::string("x"), "null"},
         {"more than a shapefile holds", ColumnType::Integer, std::int64_t{123456789012},
@@ -68,6 +68,8 @@ TEST_F(GeoJsonTest, PropertiesByTheTypeOfTheirColumn) {
         {"whole", ColumnType::Real, std::int64_t{4294967295}, "4294967295"},
         {"no number", ColumnType::Real, std::nan(""), "null"},
         {"real in a text", ColumnType::Real, std::string("1.5 l"), "1.5"},
+        {"date among numbers", ColumnType::Real, Date{2018, 3, 5}, "null"},
+        {"number among texts", ColumnType::Text, 1.5F, "\"1.5\""},
         {"text", ColumnType::Text, std::string("a\\b"), R"("a\\b")"},
         {"text of another code page", ColumnType::Text, std::string("Ca\xF1"), "\"Ca\u00f1\""},
     };

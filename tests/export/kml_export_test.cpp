@@ -37,6 +37,7 @@ struct KmlTest : testing::Test {
     MapStyle style;
     std::string path = folder.file("lote.kml");
     RingLayer triangle{{{{0.5, 0}, {1, 0}, {1, 1}}, {}, {{-58.3816, -34.25}}}};
+    RingLayer dot{{{{1, 2}}}};
     PointLayer points{{{1, 2}}};
 };
 
@@ -53,15 +54,15 @@ TEST_F(KmlTest, TemplatesAreFoundBesideTheProgramThenInItsFolderWithoutRegardToC
     for (const char* name : {"kmlhead.inc", "kmlheadb.inc", "kmlPolyhead.inc", "kmlPolyend.inc"}) {
         other.write("kml/" + std::string(name), "-");
     }
-    const std::optional<Failure> failure = save({}, other.path());
+    const std::optional<Failure> failure = save({&dot}, other.path());
     ASSERT_NE(failure, std::nullopt);
     EXPECT_EQ(Texts().sentence(*failure),
               "No se puede leer el archivo " + other.path() + "/kmlend.inc: no existe");
     EXPECT_FALSE(std::filesystem::exists(path));
     other.write("KMLEND.INC", "z");
     other.write("kmlHead.inc", "a");
-    EXPECT_EQ(save({}, other.path() + "/"), std::nullopt);
-    EXPECT_EQ(contentOf(path), "a\r\nlote.kml\r\n-\r\nz\r\n");
+    EXPECT_EQ(save({&dot}, other.path() + "/"), std::nullopt);
+    EXPECT_EQ(contentOf(path), "a\r\nlote.kml\r\n-\r\n-\r\n1.,2.,50\r\n-\r\nz\r\n");
 }
 
 TEST_F(KmlTest, CancellingLeavesTheFileThatWasThere) {
@@ -125,6 +126,22 @@ TEST_F(KmlTest, StepsWithoutFlowAreLeftOutWhileTheyAreNotDrawn) {
     style.drawAll = false;
     ASSERT_EQ(save({&track}, kShipped), std::nullopt);
     EXPECT_EQ(readDocument(path).placemarks, 1);
+}
+
+TEST_F(KmlTest, AMapWithoutAPolygonToWriteIsRefused) {
+    GphTrack idle;
+    idle.addPoint(0, 0, reportRecord(0));
+    idle.addPoint(1e-4, 0, reportRecord(0));
+    RingLayer hollow{{{}}};
+    style.drawAll = false;
+    folder.write("lote.kml", "old");
+    const std::vector<const Gph*> rows[] = {{}, {&points}, {&hollow}, {&idle}};
+    for (const std::vector<const Gph*>& layers : rows) {
+        const std::optional<Failure> failure = save(layers, kShipped);
+        ASSERT_NE(failure, std::nullopt);
+        EXPECT_EQ(failure->text, TextId::NoPolygonsToExport);
+    }
+    EXPECT_EQ(contentOf(path), "old");
 }
 
 TEST_F(KmlTest, ATargetThatCannotBeWrittenIsTheFailure) {

@@ -129,8 +129,8 @@ TEST_F(ShpTest, CellsByTheTypeOfTheirColumn) {
     };
     const Row rows[] = {
         {"integer", ColumnType::Integer, whole(42), "42    ", "    42"},
-        {"tie to even", ColumnType::Integer, 2.5F, "2     ", "     2"},
-        {"negative tie to even", ColumnType::Integer, -3.5, "-4    ", "    -4"},
+        {"tie to even", ColumnType::Integer, 2.5F, "2     ", "          2.500"},
+        {"negative tie to even", ColumnType::Integer, -3.5, "-4    ", "         -3.500"},
         {"number in a text", ColumnType::Integer, std::string("7 l"), "7     ", "     7"},
         {"nothing", ColumnType::Integer, {}, "      ", "      "},
         {"most of 16 bits", ColumnType::Integer, 32767.5F - 0.5F, "32767 ", " 32767"},
@@ -307,6 +307,38 @@ TEST_F(ShpTest, GisColumnsAreWideEnoughForEveryCell) {
     ASSERT_TRUE(failure.has_value());
     EXPECT_EQ(failure->cause.at(0).text, TextId::CellDoesNotFit);
     EXPECT_EQ(failure->cause.at(0).arguments.at(0), "r");
+}
+
+TEST_F(ShpTest, GisNumbersKeepTheirDecimals) {
+    struct Row {
+        const char* name;
+        Column one;
+        Column other;
+        std::string cells[2];
+    };
+    const Row rows[] = {
+        {"integers and reals",
+         {"Velocidad", ColumnType::Integer, {whole(7)}},
+         {"Velocidad", ColumnType::Real, {7.25F}},
+         {"          7.000", "          7.250"}},
+        {"fractions among integers",
+         {"Dosis", ColumnType::Integer, {12.34F}},
+         {"Dosis", ColumnType::Integer, {whole(3)}},
+         {"         12.340", "          3.000"}},
+        {"numbers and texts",
+         {"Nota", ColumnType::Real, {0.123456789012}},
+         {"Nota", ColumnType::Text, {std::string("x")}},
+         {"0.123456789012", "x             "}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        AttributeLayer one({squareAt(0, 0)}, {row.one});
+        AttributeLayer other({squareAt(5, 5)}, {row.other});
+        ASSERT_EQ(gis({&one, &other}), std::nullopt);
+        EXPECT_EQ(records(1), " " + row.cells[0] + " " + row.cells[1]);
+        ASSERT_EQ(gis({&other, &one}), std::nullopt);
+        EXPECT_EQ(records(1), " " + row.cells[1] + " " + row.cells[0]);
+    }
 }
 
 TEST_F(ShpTest, AnIntegerBeyond16BitsIsRefusedInThePlainForm) {
