@@ -104,8 +104,12 @@ public:
         if (stream_) {
             std::setvbuf(stream_.get(), nullptr, _IOFBF, kBuffer);
             draft_ = std::move(file.path);
+        } else if (const std::error_code error = lastError();
+                   error == std::errc::no_such_file_or_directory) {
+            // The folder is there, and takes no new files; what is missing is not the target.
+            failure_ = fileFailure(kWhat, path, TextId::FileNoPermission);
         } else {
-            fail(lastError());
+            fail(error);
         }
     }
     Content(const Content&) = delete;

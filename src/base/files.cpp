@@ -12,6 +12,7 @@
 
 #include "base/file_access.h"
 #include "base/file_draft.h"
+#include "base/paths.h"
 
 namespace campora {
 
@@ -73,6 +74,15 @@ std::optional<Failure> writeFile(std::string_view path, std::span<const std::byt
     FileDraft draft(path);
     draft.write({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
     return draft.finish();
+}
+
+std::optional<Failure> whyNoTarget(std::string_view path) {
+    if (!fileNamePart(path).empty()) {
+        return std::nullopt;
+    }
+    const TextId noFolder = path.empty() ? TextId::FileNotFound : TextId::FolderNotFound;
+    return fileFailure(TextId::FileCannotBeWritten, path,
+                       isFolder(path) ? TextId::FileIsFolder : noFolder);
 }
 
 std::optional<Failure> deleteFile(std::string_view path) {

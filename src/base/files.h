@@ -44,6 +44,10 @@ private:
 [[nodiscard]] std::optional<Failure> writeFile(std::string_view path,
                                                std::span<const std::byte> bytes);
 
+/// Why a path that ends with its folder names no file to write; none for one with a name. For
+/// those who add endings to what they are given.
+[[nodiscard]] std::optional<Failure> whyNoTarget(std::string_view path);
+
 /// Deletes one ordinary file or link, never a folder. None when no file of that name is there any
 /// more; a failure names the path and the reason.
 [[nodiscard]] std::optional<Failure> deleteFile(std::string_view path);

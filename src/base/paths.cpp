@@ -70,6 +70,11 @@ bool isFolder(std::string_view path) {
     return fs::is_directory(nativePath(path), ignored);
 }
 
+bool isSameFile(std::string_view a, std::string_view b) {
+    std::error_code ignored;
+    return a == b || fs::equivalent(nativePath(a), nativePath(b), ignored);
+}
+
 fs::path nativePath(std::string_view path) {
     if (!kBytesInNames && !isUtf8(path)) {
         // Names are UTF-16 on such a system: bytes that are not UTF-8 could not be converted.

@@ -34,6 +34,9 @@ namespace campora {
 
 [[nodiscard]] bool isFolder(std::string_view path);
 
+/// Whether two paths name one file, through links too and whatever their spelling.
+[[nodiscard]] bool isSameFile(std::string_view a, std::string_view b);
+
 /// The UTF-8 text of a native path.
 [[nodiscard]] std::string pathText(const std::filesystem::path& path);
 

@@ -25,8 +25,7 @@ public:
     /// False when the file was not copied.
     [[nodiscard]] bool copy(const std::string& source) const {
         const fs::path target = folder_ / nativePath(fileNamePart(source));
-        std::error_code ignored;
-        if (fs::equivalent(nativePath(source), target, ignored)) {
+        if (isSameFile(source, pathText(target))) {
             return fail(source, {TextId::CopyIsSameFile, {}});
         }
         const Result<FileBytes> content = readFile(source);

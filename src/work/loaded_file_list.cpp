@@ -4,10 +4,8 @@
 #include "work/loaded_file_list.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <stdexcept>
 #include <string>
-#include <system_error>
 #include <utility>
 
 #include "base/files.h"
@@ -15,16 +13,6 @@
 #include "base/text.h"
 
 namespace campora {
-
-namespace {
-
-/// Whether two paths name one file on disk, whatever their spelling.
-bool isSameFile(std::string_view a, std::string_view b) {
-    std::error_code error;
-    return a == b || std::filesystem::equivalent(nativePath(a), nativePath(b), error);
-}
-
-}  // namespace
 
 File& LoadedFileList::file(int index) const {
     return *files_.at(static_cast<std::size_t>(index));

@@ -59,6 +59,16 @@ TEST(FileDraft, WithoutFinishNothingChanges) {
     EXPECT_EQ(entriesOf(folder), 1U);
 }
 
+#ifdef __linux__
+
+TEST(FileDraft, AFolderThatTakesNoFilesIsNotAMissingTarget) {
+    FileDraft draft("/proc/a.shp");
+    ASSERT_TRUE(draft.failure().has_value());
+    EXPECT_EQ(draft.failure()->cause.at(0).text, TextId::FileNoPermission);
+}
+
+#endif
+
 TEST(FinishTogether, ReplacesAll) {
     const TempFolder folder;
     const std::vector<std::string> paths = {folder.write("a.shp", "old"), folder.file("a.shx")};

@@ -61,6 +61,24 @@ TEST(Paths, BackslashSeparatesUnlessAFileIsNamedSo) {
     EXPECT_EQ(pathText(nativePath(odd)), odd);
 }
 
+TEST(Paths, OneFileHasManyNames) {
+    const TempFolder folder;
+    const std::string file = folder.write("sur/a.rpt", "x");
+    (void)folder.write("b.rpt", "x");
+    std::filesystem::create_symlink(nativePath(file), nativePath(folder.file("enlace.rpt")));
+    const std::pair<std::string, bool> rows[] = {
+        {file, true},
+        {folder.file("sur/../sur/a.rpt"), true},
+        {folder.file("enlace.rpt"), true},
+        {folder.file("b.rpt"), false},
+        {folder.file("c.rpt"), false},
+    };
+    for (const auto& [other, same] : rows) {
+        EXPECT_EQ(isSameFile(file, other), same) << other;
+    }
+    EXPECT_TRUE(isSameFile("none.rpt", "none.rpt"));
+}
+
 TEST(FindIgnoringCase, ExactNameFirstThenAnyCase) {
     const TempFolder folder;
     folder.write("Cami\u00f3n \u00d1and\u00fa.RPT", "");
