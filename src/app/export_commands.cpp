@@ -5,10 +5,12 @@
 
 #include <algorithm>
 #include <memory>
+#include <span>
 #include <utility>
 
 #include "app/save_target.h"
 #include "app/session.h"
+#include "base/files.h"
 #include "base/paths.h"
 #include "work/glg_points.h"
 #include "work/gph_track.h"
@@ -19,6 +21,7 @@ namespace campora {
 namespace {
 
 constexpr std::string_view kGlgEnding = ".glg";
+constexpr std::string_view kReportEnding = ".rpt";
 
 /// Sets a flag for as long as it lives.
 class WhileBusy {
@@ -84,10 +87,28 @@ ExportCommands::askTarget(std::span<const ExportFormat> formats, std::string pro
     return Target{std::move(path), &format};
 }
 
-bool ExportCommands::write(const ExportFormat& format, std::vector<Gph*> layers,
-                           const std::string& path) {
-    if (std::optional<Failure> nothing = whyNothingToExport(layers, format.needs)) {
-        return fail(*nothing);
+std::vector<std::string> ExportCommands::openPaths() const {
+    std::vector<std::string> paths;
+    for (int i = 0; i < session_.files().loadedCount(); ++i) {
+        paths.push_back(session_.files().file(i).File_diskPath());
+    }
+    return paths;
+}
+
+std::optional<Failure> ExportCommands::whyNotWritten(const std::string& path,
+                                                     const std::vector<std::string>& sources) {
+    const bool isSource =
+        std::any_of(sources.begin(), sources.end(), [&path](const std::string& source) {
+            return !source.empty() && isSameFile(findIgnoringCase(source), path);
+        });
+    return isSource ? because(TextId::FileCannotBeWritten, {path}, {TextId::CopyIsSameFile, {}})
+                    : whyNoTarget(path);
+}
+
+bool ExportCommands::write(const ExportFormat& format, const std::vector<std::string>& sources,
+                           std::vector<Gph*> layers, const std::string& path) {
+    if (const std::optional<Failure> refused = whyNotWritten(path, sources)) {
+        return fail(*refused);
     }
     bool cancelled = false;
     std::optional<Failure> failure;
@@ -105,7 +126,7 @@ bool ExportCommands::write(const ExportFormat& format, std::vector<Gph*> layers,
 }
 
 bool ExportCommands::exportMap(const ExportFormat& format, const std::string& path) {
-    return !busy_ && write(format, session_.getGphList(), path);
+    return !busy_ && write(format, openPaths(), session_.getGphList(), path);
 }
 
 void ExportCommands::openWithShell(const std::string& path) const {
@@ -159,6 +180,12 @@ void ExportCommands::mnuFileExportSel() {
 
 std::unique_ptr<File> ExportCommands::readReport(const std::string& path) const {
     const Platform& platform = session_.platform();
+    if (pathEnding(path) != kReportEnding) {
+        // The oldest reports have no mark of their own: any bytes would pass for one.
+        platform.dialogs.message(session_.texts().format(TextId::FileNotCompatibleNamed, {path}),
+                                 MessageIcon::Exclamation, session_.texts()(TextId::ProgramName));
+        return nullptr;
+    }
     const ValueRanges noneLoaded;
     std::optional<LoadedWork> work =
         loadRptFile(findIgnoringCase(path), {platform.dialogs, platform.locale, session_.texts(),
@@ -169,7 +196,7 @@ std::unique_ptr<File> ExportCommands::readReport(const std::string& path) const 
 bool ExportCommands::exportReport(const std::string& report, const ExportFormat& format,
                                   const std::string& path) {
     const std::unique_ptr<File> read = readReport(report);
-    return read != nullptr && !busy_ && write(format, read->File_gphList(), path);
+    return read != nullptr && !busy_ && write(format, {report}, read->File_gphList(), path);
 }
 
 void ExportCommands::mnuFileExportRpt() {
@@ -188,10 +215,8 @@ void ExportCommands::mnuFileExportRpt() {
     if (read == nullptr) {
         return;
     }
-    const std::string name(fileNamePart(report));
-    const std::string proposed = (pathEnding(name) == ".rpt" ? stemOf(name) : name) + ".txt";
-    const std::optional<Target> target = askTarget(textFormats(), proposed);
-    if (target && write(*target->format, read->File_gphList(), target->path)) {
+    const std::optional<Target> target = askTarget(textFormats(), stemOf(report) + ".txt");
+    if (target && write(*target->format, {report}, read->File_gphList(), target->path)) {
         openWithShell(target->path);
     }
 }
@@ -201,14 +226,19 @@ bool ExportCommands::canExportGlg() const {
 }
 
 bool ExportCommands::exportGlg(const std::string& path) {
-    std::vector<LonLat> points;
+    std::vector<std::span<const LonLat>> tracks;
     for (const GphTrack* track : tracksOf(session_.getGphList())) {
-        points.insert(points.end(), track->points().begin(), track->points().end());
+        if (!track->empty()) {
+            tracks.push_back(track->points());
+        }
     }
-    if (points.empty()) {
+    if (tracks.empty()) {
         return fail({TextId::NoTracksToExport, {}});
     }
-    const std::optional<Failure> failure = exporttoglg(path, points);
+    std::optional<Failure> failure = whyNotWritten(path, openPaths());
+    if (!failure) {
+        failure = exporttoglg(path, tracks);
+    }
     return failure ? fail(*failure) : true;
 }
 

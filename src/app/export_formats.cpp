@@ -13,7 +13,6 @@
 #include "export/kml_export.h"
 #include "export/shp_export.h"
 #include "export/txt_export.h"
-#include "model/exportable.h"
 
 namespace campora {
 
@@ -61,39 +60,29 @@ std::optional<Failure> writePicture(const ExportJob& job) {
 
 // clang-format off
 constexpr ExportFormat kFormats[] = {
-    {"shp-polygon", ".shp", TextId::FilterShapePolygons, ExportNeeds::Polygons,
+    {"shp-polygon", ".shp", TextId::FilterShapePolygons, ExportSource::Layers,
      AfterExport::Nothing, writeShpPolygons},
-    {"shp-point", ".shp", TextId::FilterShapePoints, ExportNeeds::Points,
+    {"shp-point", ".shp", TextId::FilterShapePoints, ExportSource::Layers,
      AfterExport::Nothing, writeShpPoints},
-    {"bmp", ".bmp", TextId::FilterBitmap, ExportNeeds::Picture,
+    {"bmp", ".bmp", TextId::FilterBitmap, ExportSource::Picture,
      AfterExport::Nothing, writePicture<PictureForm::Bmp>},
-    {"kml", ".kml", TextId::FilterKml, ExportNeeds::Polygons,
+    {"kml", ".kml", TextId::FilterKml, ExportSource::Layers,
      AfterExport::AskToOpen, writeKml},
-    {"txt", ".txt", TextId::FilterText, ExportNeeds::Points,
+    {"txt", ".txt", TextId::FilterText, ExportSource::Layers,
      AfterExport::Open, writeText<'.'>},
-    {"txt-comma", ".txt", TextId::FilterTextComma, ExportNeeds::Points,
+    {"txt-comma", ".txt", TextId::FilterTextComma, ExportSource::Layers,
      AfterExport::Open, writeText<','>},
-    {"shp-gis", ".shp", TextId::FilterShapeGis, ExportNeeds::Nothing,
+    {"shp-gis", ".shp", TextId::FilterShapeGis, ExportSource::Layers,
      AfterExport::Nothing, writeShpGis},
-    {"geojson", ".geojson", TextId::FilterGeoJson, ExportNeeds::Nothing,
+    {"geojson", ".geojson", TextId::FilterGeoJson, ExportSource::Layers,
      AfterExport::Nothing, writeGeoJson},
-    {"png", ".png", TextId::FilterPng, ExportNeeds::Picture,
+    {"png", ".png", TextId::FilterPng, ExportSource::Picture,
      AfterExport::Nothing, writePicture<PictureForm::Png>},
 };
 // clang-format on
 
 constexpr std::size_t kFirstText = 4;
 static_assert(kFormats[kFirstText].word == "txt" && kFormats[kFirstText + 1].word == "txt-comma");
-
-bool hasPolygons(const Gph* layer) {
-    const auto* const polygons = dynamic_cast<const ExportablePolygon*>(layer);
-    return polygons != nullptr && polygons->ExportablePolygon_polygonCount() > 0;
-}
-
-bool hasPoints(const Gph* layer) {
-    const auto* const points = dynamic_cast<const ExportablePoint*>(layer);
-    return points != nullptr && points->ExportablePoint_pointCount() > 0;
-}
 
 }  // namespace
 
@@ -121,19 +110,9 @@ std::vector<FileFilter> exportFilters(std::span<const ExportFormat> formats, con
     return filters;
 }
 
-std::optional<Failure> whyNothingToExport(std::span<Gph* const> layers, ExportNeeds needs) {
-    if (needs == ExportNeeds::Polygons && std::none_of(layers.begin(), layers.end(), hasPolygons)) {
-        return Failure{TextId::NoPolygonsToExport, {}};
-    }
-    if (needs == ExportNeeds::Points && std::none_of(layers.begin(), layers.end(), hasPoints)) {
-        return Failure{TextId::NoPointsToExport, {}};
-    }
-    return std::nullopt;
-}
-
 std::string pathForFormat(std::string_view path, std::string_view ending) {
     const std::string name = lowerCase(fileNamePart(path));
-    if (name.ends_with(ending)) {
+    if (name.empty() || name.ends_with(ending)) {
         return std::string(path);
     }
     for (const ExportFormat& format : kFormats) {

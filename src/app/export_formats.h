@@ -36,8 +36,8 @@ struct ExportJob {
     ExportProgress& progress;
 };
 
-/// What a map must hold to be written in a format: its writer decides that, or one of these.
-enum class ExportNeeds { Nothing, Polygons, Points, Picture };
+/// What a format is made of: the layers, or the picture of the map on a canvas.
+enum class ExportSource { Layers, Picture };
 /// What happens with a file that has been written.
 enum class AfterExport { Nothing, AskToOpen, Open };
 
@@ -50,8 +50,9 @@ struct ExportFormat {
     std::string_view ending;
     /// In the save dialog.
     TextId caption{};
-    ExportNeeds needs{};
+    ExportSource source{};
     AfterExport after{};
+    /// A map without anything for the format is a failure.
     std::optional<Failure> (*write)(const ExportJob& job) = nullptr;
 };
 
@@ -66,12 +67,8 @@ struct ExportFormat {
 [[nodiscard]] std::vector<FileFilter> exportFilters(std::span<const ExportFormat> formats,
                                                     const Texts& texts);
 
-/// Why the layers cannot be written in a format; none when they can.
-[[nodiscard]] std::optional<Failure> whyNothingToExport(std::span<Gph* const> layers,
-                                                        ExportNeeds needs);
-
 /// The path as it is when it ends in `ending` (".kml") in any case; else with `ending` in place of
-/// that of another format, or behind the name.
+/// that of another format, or behind the name. A path without a name stays as it is.
 [[nodiscard]] std::string pathForFormat(std::string_view path, std::string_view ending);
 
 }  // namespace campora

@@ -4,6 +4,7 @@
 #include "app/track_batch.h"
 
 #include "app/session.h"
+#include "base/files.h"
 #include "base/paths.h"
 #include "base/text.h"
 #include "platform/quiet_dialogs.h"
@@ -78,8 +79,10 @@ bool TrackBatch::exportList(const std::vector<std::string>& paths) {
 
 bool TrackBatch::exportFiles(const std::string& source, const std::string& target) {
     const std::string base = pathEnding(target) == ".shp" ? shapeBaseOf(target) : target;
-    const TrackExportOutcome outcome = exportOne(findIgnoringCase(source), base);
     const Texts& texts = session_.texts();
+    const std::optional<Failure> refused = whyNoTarget(target);
+    const TrackExportOutcome outcome = refused ? TrackExportOutcome{false, texts.sentence(*refused)}
+                                               : exportOne(findIgnoringCase(source), base);
     std::string text(texts(outcome.written ? TextId::FileExported : TextId::FileNotExported));
     if (!outcome.remark.empty()) {
         text.append("\r\n").append(outcome.remark);

@@ -55,7 +55,7 @@ private:
 };
 
 /// The path of the shapefile beside a track file, without its ending: the last four characters of
-/// the path ("x.nbr") go.
+/// the path go when they are one ("x.nbr"), that is, begin with a point.
 [[nodiscard]] std::string shapeBaseOf(std::string_view trackPath);
 
 }  // namespace campora

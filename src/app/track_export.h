@@ -16,7 +16,8 @@ inline constexpr int kLongestPolygon = 100;
 inline constexpr int kUsualPolygon = 10;
 
 struct TrackExportOptions {
-    /// Most track points to a polygon, `kShortestPolygon` to `kLongestPolygon`.
+    /// Most points whose steps make up a polygon, `kShortestPolygon` to `kLongestPolygon`. Its ring
+    /// has one point more on each side: where the last step ends.
     int polygonLength = kUsualPolygon;
     /// Leaves out points without flow, which also end a polygon.
     bool onlySprayed = false;

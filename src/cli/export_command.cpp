@@ -4,6 +4,7 @@
 #include "app/export_formats.h"
 #include "cli/batch_platform.h"
 #include "cli/commands.h"
+#include "cli/interruption.h"
 #include "cli/whole_map.h"
 #include "paint/picture_file.h"
 #include "paint/raster_canvas.h"
@@ -16,11 +17,11 @@ int exportWith(MapCanvas& canvas, const Arguments& arguments, const Console& con
     BatchSession batch(arguments, canvas, console.boxes);
     const bool all = batch.openFiles();
     Session& session = batch.session();
-    if (session.plotCount() == 0) {
+    if (session.plotCount() == 0 || isInterrupted()) {
         return exit_status::kRefused;
     }
     const ExportFormat& format = *arguments.exportFormat;
-    if (format.needs == ExportNeeds::Picture) {
+    if (format.source == ExportSource::Picture) {
         session.exports().savePicture = savePicture;
         drawWholeMap(session, arguments);
     }
@@ -34,7 +35,7 @@ int exportWith(MapCanvas& canvas, const Arguments& arguments, const Console& con
 }  // namespace
 
 int runExport(const Arguments& arguments, const Console& console) {
-    if (arguments.exportFormat->needs == ExportNeeds::Picture) {
+    if (arguments.exportFormat->source == ExportSource::Picture) {
         const OffscreenApplication application;
         RasterCanvas canvas(canvasSize(arguments.size));
         return exportWith(canvas, arguments, console);
@@ -56,8 +57,8 @@ int runGlg(const Arguments& arguments, const Console& console) {
     NoCanvas canvas;
     BatchSession batch(arguments, canvas, console.boxes);
     const bool all = batch.openFiles();
-    const bool written =
-        batch.session().plotCount() > 0 && batch.session().exports().exportGlg(arguments.output);
+    const bool written = !isInterrupted() && batch.session().plotCount() > 0 &&
+                         batch.session().exports().exportGlg(arguments.output);
     return all && written ? exit_status::kDone : exit_status::kRefused;
 }
 

@@ -25,14 +25,17 @@ std::uint32_t toGLGCoordType(double degrees) {
     return static_cast<std::uint32_t>(magnitude) | (degrees < 0 ? kSignBit : 0U);
 }
 
-std::optional<Failure> exporttoglg(std::string_view path, std::span<const LonLat> points) {
+std::optional<Failure> exporttoglg(std::string_view path,
+                                   std::span<const std::span<const LonLat>> tracks) {
     FileDraft draft(path);
     std::string pair;
-    for (const LonLat& point : points) {
-        pair.clear();
-        appendLittle(pair, toGLGCoordType(point.y));
-        appendLittle(pair, toGLGCoordType(point.x));
-        draft.write(pair);
+    for (const std::span<const LonLat>& track : tracks) {
+        for (const LonLat& point : track) {
+            pair.clear();
+            appendLittle(pair, toGLGCoordType(point.y));
+            appendLittle(pair, toGLGCoordType(point.x));
+            draft.write(pair);
+        }
     }
     return draft.finish();
 }

@@ -17,8 +17,9 @@ namespace campora {
 /// sign (top bit) and magnitude.
 [[nodiscard]] std::uint32_t toGLGCoordType(double degrees);
 
-/// Writes latitude and longitude of every point, 32 bits little-endian each, and nothing else.
+/// Writes latitude and longitude of every point of the tracks, 32 bits little-endian each, and
+/// nothing else.
 [[nodiscard]] std::optional<Failure> exporttoglg(std::string_view path,
-                                                 std::span<const LonLat> points);
+                                                 std::span<const std::span<const LonLat>> tracks);
 
 }  // namespace campora
