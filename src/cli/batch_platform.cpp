@@ -6,6 +6,7 @@
 #include <QDate>
 
 #include "base/text.h"
+#include "cli/interruption.h"
 #include "presc/gph_presc.h"
 
 namespace campora {
@@ -50,6 +51,14 @@ std::vector<std::string> BatchDialogs::openFiles(const OpenRequest& /*request*/)
     return {channels[nextChannel_++].file};
 }
 
+std::unique_ptr<Progress> BatchDialogs::progress(std::string_view /*caption*/) {
+    class UntilInterrupted final : public Progress {
+    public:
+        [[nodiscard]] bool report(int /*percent*/) override { return !isInterrupted(); }
+    };
+    return std::make_unique<UntilInterrupted>();
+}
+
 Date NoClock::today() const {
     const QDate today = QDate::currentDate();
     return {today.year(), today.month(), today.day()};
@@ -68,6 +77,9 @@ BatchSession::BatchSession(const Arguments& arguments, MapCanvas& canvas, std::o
 bool BatchSession::openFiles() {
     bool all = true;
     for (const std::string& path : arguments_.files) {
+        if (isInterrupted()) {
+            return false;
+        }
         all = session_.loadFile(path, false, false) && all;
     }
     const LoadedFileList& files = session_.files();
@@ -75,7 +87,7 @@ bool BatchSession::openFiles() {
         const auto* const zones = dynamic_cast<const GphPresc*>(&files.file(i));
         all = all && (zones == nullptr || zones->isWhole());
     }
-    return all;
+    return all && !isInterrupted();
 }
 
 }  // namespace campora

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <ostream>
 #include <span>
@@ -36,6 +37,8 @@ public:
                                        std::string_view proposed) override;
     /// The maps of a prescription, one a question, in the order of its channels.
     [[nodiscard]] std::vector<std::string> openFiles(const OpenRequest& request) override;
+    /// Shows nothing; what is under way is cancelled when the program is interrupted.
+    [[nodiscard]] std::unique_ptr<Progress> progress(std::string_view caption) override;
 
 protected:
     [[nodiscard]] const Arguments& arguments() const { return arguments_; }
@@ -156,7 +159,7 @@ public:
 
     [[nodiscard]] Session& session() { return session_; }
     /// Opens the files of the command line in order, without drawing them; false when one was not
-    /// taken, or only as far as it is sound.
+    /// taken, or only as far as it is sound, and when the program was interrupted.
     [[nodiscard]] bool openFiles();
 
 private:

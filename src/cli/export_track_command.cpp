@@ -4,6 +4,7 @@
 #include "app/track_batch.h"
 #include "cli/batch_platform.h"
 #include "cli/commands.h"
+#include "cli/interruption.h"
 
 namespace campora {
 
@@ -13,10 +14,14 @@ int runExportTrack(const Arguments& arguments, const Console& console) {
     TrackBatch tracks(batch.session());
     tracks.options = arguments.trackExport;
     tracks.onBegin = [](const std::string& /*line*/) {};
-    tracks.onDone = [&console](const std::string& line, const TrackExportOutcome& outcome) {
+    tracks.onDone = [&console, &tracks](const std::string& line,
+                                        const TrackExportOutcome& outcome) {
         console.out << line << '\n';
         if (!outcome.remark.empty()) {
             console.boxes << oneLine(outcome.remark) << '\n';
+        }
+        if (isInterrupted()) {
+            tracks.stop();
         }
     };
     const bool written = arguments.output.empty()

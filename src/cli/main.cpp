@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 
 #include "app/data_folder.h"
+#include "cli/interruption.h"
 #include "cli/program.h"
 
 namespace {
@@ -46,5 +47,6 @@ int main(int argc, char* argv[]) {
     // Standard error is for the boxes of the program; what Qt remarks about the desktop is none.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     const Start begin = start(argc, argv);
+    const campora::InterruptionWatch watch;
     return campora::runProgram(begin.arguments, begin.dataFolder, {std::cout, std::cerr});
 }

@@ -3,6 +3,8 @@
 
 #include "cli/program.h"
 
+#include "cli/interruption.h"
+
 namespace campora {
 
 namespace {
@@ -53,6 +55,9 @@ int runProgram(std::span<const std::string> arguments, const std::string& dataFo
         parsed->programFolder = dataFolder;
     }
     const int status = runCommand(*parsed, console);
+    if (isInterrupted() && status != exit_status::kDone) {
+        console.boxes << texts(TextId::Cancelled) << '\n';
+    }
     console.out.flush();
     return console.out ? status : exit_status::kRefused;
 }

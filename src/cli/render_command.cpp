@@ -4,6 +4,7 @@
 #include "base/paths.h"
 #include "cli/batch_platform.h"
 #include "cli/commands.h"
+#include "cli/interruption.h"
 #include "cli/whole_map.h"
 #include "paint/picture_file.h"
 #include "paint/raster_canvas.h"
@@ -16,7 +17,7 @@ int runRender(const Arguments& arguments, const Console& console) {
     BatchSession batch(arguments, canvas, console.boxes);
     const bool all = batch.openFiles();
     Session& session = batch.session();
-    if (session.plotCount() == 0) {
+    if (session.plotCount() == 0 || isInterrupted()) {
         return exit_status::kRefused;
     }
     drawWholeMap(session, arguments);

@@ -1,6 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
+#include <csignal>
 #include <filesystem>
 #include <sstream>
 #include <string>
@@ -11,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include "base/paths.h"
+#include "cli/interruption.h"
 #include "cli/program.h"
 #include "support/temp_folder.h"
 #include "support/work_files.h"
@@ -78,15 +80,17 @@ TEST_F(ExportTest, WrongCommandLinesAreRefused) {
 
 TEST_F(ExportTest, EveryFormatIsWrittenWithoutAQuestion) {
     const std::string source = report("lote.rpt");
+    constexpr std::string_view kShapeCode("\0\0\x27\x0A", 4);
     struct Row {
         const char* format;
         const char* path;
         const char* file;
-        const char* begin;
+        std::string_view begin;
     };
     const Row rows[] = {
         {"shp-polygon", "a.shp", "a.dbf", "\x03"},
-        {"shp-point", "b", "b.shx", ""},
+        {"shp-point", "b", "b.shx", kShapeCode},
+        {"shp-polygon", "j", "j.shp", kShapeCode},
         {"bmp", "c.bmp", "c.bmp", "BM"},
         {"kml", "d.kml", "d.kml", "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\r\n<kml "},
         {"txt", "e.dat", "e.dat", "Longitud\tLatitud\tD_Real1"},
@@ -159,14 +163,89 @@ TEST_F(ExportTest, AReportBecomesAText) {
                     HasSubstr(comma ? "\r\n 0,00898" : "\r\n 0.00898"));
     }
     EXPECT_EQ(run({"report-to-text", folder.file("no.rpt"), "-o", folder.file("b.txt")}).status, 1);
+    const Outcome other = run({"report-to-text", track("a.nbr"), "-o", folder.file("b.txt")});
+    EXPECT_EQ(other.status, 1);
+    EXPECT_EQ(other.boxes, "El archivo no es compatible: " + folder.file("a.nbr") + "\n");
     EXPECT_FALSE(isThere("b.txt"));
+}
+
+TEST_F(ExportTest, ATargetWithoutANameIsRefused) {
+    const std::string source = report("lote.rpt");
+    const std::string nbr = track("a.nbr");
+    for (const std::string& target : {folder.path() + "/", folder.file("none/")}) {
+        SCOPED_TRACE(target);
+        const Words rows[] = {
+            {"export", source, "--format", "shp-polygon", "-o", target},
+            {"export", source, "--format", "kml", "-o", target},
+            {"export-track", nbr, "-o", target},
+            {"glg", source, "-o", target},
+            {"report-to-text", source, "-o", target},
+        };
+        for (const Words& words : rows) {
+            const Outcome outcome = run(words);
+            EXPECT_EQ(outcome.status, 1) << words.front();
+            EXPECT_THAT(outcome.boxes, HasSubstr("No se puede guardar el archivo " + target + ": "))
+                << words.front();
+        }
+    }
+    EXPECT_FALSE(isThere(".shp") || isThere("none"));
+}
+
+TEST_F(ExportTest, ASourceIsNeverTheTarget) {
+    const std::string source = report("lote.rpt");
+    const std::string before = contentOf(source);
+    std::filesystem::create_symlink(nativePath(source), nativePath(folder.file("enlace.rpt")));
+    const Words rows[] = {
+        {"report-to-text", source, "-o", source},
+        {"report-to-text", folder.file("LOTE.rpt"), "-o", source},
+        {"report-to-text", source, "-o", folder.file("enlace.rpt")},
+        {"export", track("a.nbr"), source, "--format", "txt", "-o", source},
+        {"export", source, "--format", "bmp", "-o", folder.file("enlace.rpt")},
+        {"glg", source, "-o", source},
+    };
+    for (const Words& words : rows) {
+        const Outcome outcome = run(words);
+        EXPECT_EQ(outcome.status, 1) << testing::PrintToString(words);
+        EXPECT_THAT(outcome.boxes, HasSubstr("el destino es el mismo archivo"));
+        EXPECT_EQ(contentOf(source), before);
+    }
+}
+
+TEST_F(ExportTest, AnInterruptionLeavesNoFile) {
+    const std::string source = report("lote.rpt");
+    const std::string nbr = track("a.nbr");
+    const Words rows[] = {
+        {"export", source, "--format", "txt", "-o", folder.file("a.txt")},
+        {"export", source, "--format", "png", "-o", folder.file("a.png")},
+        {"report-to-text", source, "-o", folder.file("a.txt")},
+        {"glg", source, "-o", folder.file("a.glg")},
+        {"render", source, "-o", folder.file("a.png")},
+    };
+    for (const Words& words : rows) {
+        for (const int signal : {SIGINT, SIGTERM}) {
+            const InterruptionWatch watch;
+            (void)std::raise(signal);
+            (void)std::raise(signal);  // sent to the process and to its group
+            const Outcome outcome = run(words);
+            EXPECT_EQ(outcome.status, 1) << words.front();
+            EXPECT_EQ(outcome.boxes, "Cancelado\n") << words.front();
+        }
+    }
+    const std::filesystem::directory_iterator left(nativePath(folder.path()));
+    EXPECT_EQ(std::distance(begin(left), end(left)), 2) << "the sources";
+    EXPECT_EQ(run(rows[0]).status, 0) << "nobody interrupts this one";
 }
 
 TEST_F(ExportTest, GlgHoldsEightBytesAPoint) {
     EXPECT_EQ(run({"glg", track("a.nbr"), report("b.rpt"), "-o", folder.file("a.glg")}).status, 0);
-    EXPECT_EQ(contentOf(folder.file("a.glg")).size(), 8U * 8U);
-    EXPECT_EQ(run({"glg", folder.file("no.rpt"), "-o", folder.file("b.glg")}).status, 1);
-    EXPECT_FALSE(isThere("b.glg"));
+    const std::string both = contentOf(folder.file("a.glg"));
+    ASSERT_EQ(both.size(), 8U * 8U);
+    EXPECT_EQ(run({"glg", folder.file("b.rpt"), "-o", folder.file("b.glg")}).status, 0);
+    const std::string one = contentOf(folder.file("b.glg"));
+    EXPECT_EQ(one.size(), 3U * 8U);
+    EXPECT_TRUE(both.ends_with(one)) << "in the order of the files";
+    EXPECT_EQ(run({"glg", folder.file("no.rpt"), "-o", folder.file("c.glg")}).status, 1);
+    EXPECT_FALSE(isThere("c.glg"));
 }
 
 }  // namespace
