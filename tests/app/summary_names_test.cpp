@@ -4,14 +4,11 @@
 #include "app/summary_names.h"
 
 #include <array>
-#include <optional>
 #include <string>
-#include <vector>
 
 #include <gtest/gtest.h>
 
 #include "support/session_desk.h"
-#include "support/work_reading.h"
 
 namespace campora {
 namespace {
@@ -35,36 +32,6 @@ TEST(SummaryNames, AreReadInTheUsersLanguage) {
     EXPECT_EQ(shownUnit("unid/hect", Texts(Language::English)), "units/ha");
     EXPECT_EQ(shownUnit("lt/hect", Texts(Language::Portuguese)), "L/ha");
     EXPECT_EQ(shownUnit("km/h", Texts(Language::English)), "km/h");
-}
-
-TEST(SummaryNames, EveryNameThatReadersMakeHasItsTranslation) {
-    WorkReading reading;
-    reading.dialogs.inputAnswers = {"8"};
-    std::vector<std::optional<LoadedWork>> works;
-    for (const std::uint32_t serial : {0x2104U, 0x6001U}) {
-        for (const std::int32_t channels : {1, 2}) {
-            RptBytes report(channels, serial, 1, 0x10001);
-            report.add({.position = fixAt(0, 0)});
-            works.push_back(reading.report(report.bytes()));
-        }
-    }
-    RptBytes older;
-    older.add({.position = fixAt(0, 0)});
-    works.push_back(reading.report(older.bytes()));
-    works.push_back(reading.table("t\r\nt\r\n-61\t-34\t138\t140\t15\t0\t3086\t10:20:00\r\n"
-                                  "-61.001\t-34\t138\t140\t15\t0\t3086\t10:20:01\r\n"));
-    const Texts english(Language::English);
-    for (const std::optional<LoadedWork>& work : works) {
-        ASSERT_TRUE(work);
-        MapStyle style;
-        style.mode = ColorMode::Error;
-        work->group->calcErrorArea(style, reading.locale);
-        for (const auto& [property, value, unit] : work->group->File_resumen().entries()) {
-            EXPECT_NE(shownSummaryName(property, english), property);
-            const bool isSymbol = unit.empty() || unit == "km/h" || unit == "min";
-            EXPECT_EQ(shownUnit(unit, english) == unit, isSymbol) << unit;
-        }
-    }
 }
 
 TEST(SummaryNames, TheClipboardHoldsWhatIsShown) {

@@ -59,13 +59,6 @@ TEST(TextTable, NumbersAscendWithinTheirRanges) {
     }
 }
 
-TEST(Texts, NumbersWithoutATextAreEmpty) {
-    const Texts texts;
-    for (const int id : {-1, 0, 101, 999, 1299, 1300, 1899, 2200, 2799, 3100, 100000}) {
-        EXPECT_EQ(texts(static_cast<TextId>(id)), "") << id;
-    }
-}
-
 TEST(Texts, ArgumentsFillTheirPlacesOnce) {
     const Texts texts(Language::English);
     constexpr TextId kTwo = TextId::FileCannotBeRead;  // "The file %1 cannot be read: %2"

@@ -87,17 +87,6 @@ TEST(ColorScale, AddedAndRemovedClassesShareTheExtremes) {
     EXPECT_EQ(scale.getClass(4), (Clase{kRed, 80, 100}));
 }
 
-TEST(ColorScale, ManualClasses) {
-    ColorScale scale;
-    scale.clearClass(5, 5);
-    scale.addClassManual(7, 9);
-    ASSERT_EQ(scale.count(), 2);
-    EXPECT_EQ(scale.getClass(0), (Clase{kYellow, 5, 5}));
-    EXPECT_EQ(scale.getClass(1), (Clase{kRed, 7, 9}));
-    EXPECT_EQ(scale.valueMin(), 0);
-    EXPECT_EQ(scale.valueMax(), 100);
-}
-
 TEST(ColorScale, ClassPerValueOfASet) {
     ColorScale scale;
     scale.loadFromSetList(setOf({100, 0.1}), 0.25F);

@@ -85,19 +85,6 @@ TEST(CoordEntry, HiddenBoxesCountAsZero) {
     EXPECT_EQ(f.entry.getPoint(), (LonLat{0, 34}));
 }
 
-TEST(CoordEntry, ReadsBackWhatItUnderstood) {
-    Fixture f(CoordType::DegreesMinutesSeconds, ',');
-    f.entry.setText(Box::LatDegrees, "34.5");
-    EXPECT_EQ(f.entry.text(Box::LatDegrees), "34,5");
-    f.entry.setNegative(Axis::Latitude, true);
-    EXPECT_EQ(f.entry.readBack(Axis::Latitude), "Lat:   -34º  30'  0''");
-    EXPECT_EQ(f.entry.readBack(Axis::Longitude), "Long:    0º  0'  0''");
-    f.entry.setForm(CoordType::Degrees);
-    EXPECT_EQ(f.entry.readBack(Axis::Latitude), "Lat:   -34.5º");
-    f.entry.setText(Box::LatDegrees, "x");
-    EXPECT_EQ(f.entry.readBack(Axis::Latitude), "Lat:");
-}
-
 TEST(CoordEntry, IsFilledWithAPositionInItsForm) {
     struct Row {
         const char* name;
