@@ -23,8 +23,8 @@ namespace {
 constexpr QRgb kWarningBackground = 0xFFFBDDD3;
 constexpr int kMargin = 16;
 constexpr int kGap = 12;
-/// Room for "-59.999999" and more; longer numbers scroll.
-constexpr int kBoxCharacters = 11;
+/// Room for "-59.9999999999", as positions are proposed; longer numbers scroll.
+constexpr int kBoxCharacters = 15;
 constexpr int kColumnsABox = 2;
 
 struct BoxRow {

@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 
 #include "desktop/actions.h"
+#include "desktop/lot_keys.h"
 #include "desktop/qt_text.h"
 
 namespace campora {
@@ -77,6 +78,14 @@ void addCommands(QTreeWidget& rows, const Texts& texts) {
     }
 }
 
+void addLotKeys(QTreeWidget& rows, const Texts& texts) {
+    QTreeWidgetItem* const group = addGroup(rows, plain(texts, TextId::ActionLote));
+    for (const LotKey& key : lotKeys()) {
+        addRow(group, QKeySequence(key.keys).toString(QKeySequence::NativeText),
+               plain(texts, key.does));
+    }
+}
+
 void addOthers(QTreeWidget& rows, const Texts& texts) {
     QTreeWidgetItem* const keys = addGroup(rows, plain(texts, TextId::KeysElsewhere));
     addRow(keys, plain(texts, TextId::KeyArrows), plain(texts, TextId::KeyArrowsDoes));
@@ -101,6 +110,7 @@ KeysDialog::KeysDialog(const Texts& texts, QWidget* parent) : QDialog(parent) {
     rows->setItemsExpandable(false);
     rows->setAlternatingRowColors(true);
     addCommands(*rows, texts);
+    addLotKeys(*rows, texts);
     addOthers(*rows, texts);
     rows->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     rows->setCurrentItem(rows->topLevelItem(0));

@@ -21,6 +21,7 @@
 #include <QVBoxLayout>
 #include <QWindow>
 
+#include "app/page_scale.h"
 #include "app/settings.h"
 #include "app/start_up.h"
 #include "desktop/elided_label.h"
@@ -222,7 +223,7 @@ void MainWindow::zoomAt(CanvasPoint at, int steps) {
 
 void MainWindow::showScale() {
     const double ratio = static_cast<double>(session_->view().scaleX()) / kMetresPerCanvasUnit;
-    const std::string shown = std::to_string(std::llround(ratio));
+    const std::string shown = groupedNumber(ratio);
     scale_->setText(ratio == 0 ? QString()
                                : toQt(session_->texts().format(TextId::MapScale, {shown})));
 }
@@ -321,7 +322,7 @@ void MainWindow::resizeEvent(QResizeEvent* event) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-    if (!session_->prescription().mayClose() || !session_->lotEditor().mayClose()) {
+    if (!session_->mayCloseFiles() || !session_->lotEditor().mayClose()) {
         event->ignore();
         return;
     }

@@ -1,10 +1,13 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
+#include <filesystem>
+
 #include <gtest/gtest.h>
 
 #include "desktop/qt_locale.h"
 #include "desktop/qt_settings_store.h"
+#include "desktop/qt_shell.h"
 #include "desktop/qt_text.h"
 #include "support/temp_folder.h"
 
@@ -49,6 +52,27 @@ TEST(QtSettingsStore, LivesWithADamagedFile) {
     const std::string file = folder.write("campora.ini", std::string("\0[[Config\n=%\xff\n", 14));
     EXPECT_EQ(QtSettingsStore(toQt(file)).read("OpenPath"), std::nullopt);
 }
+
+#ifdef Q_OS_LINUX
+
+TEST(QtShell, TellsWhetherTheDesktopOpenedTheFile) {
+    const TempFolder folder;
+    const QByteArray path = qgetenv("PATH");
+    const auto opensWith = [&](const char* script) {
+        const std::string program = folder.write("xdg-open", script);
+        std::filesystem::permissions(program, std::filesystem::perms::owner_all);
+        return QtShell().open(folder.file("a b & 'c'.kml"));
+    };
+    qputenv("PATH", toQt(folder.path()).toUtf8() + ":" + path);
+    EXPECT_TRUE(opensWith("#!/bin/sh\ntest \"${1##*/}\" = \"a b & 'c'.kml\"\n"));
+    EXPECT_FALSE(opensWith("#!/bin/sh\nexit 3\n")) << "no program for it";
+    std::filesystem::remove(folder.file("xdg-open"));
+    qputenv("PATH", toQt(folder.path()).toUtf8());
+    EXPECT_FALSE(QtShell().open(folder.file("a.kml"))) << "no such desktop";
+    qputenv("PATH", path);
+}
+
+#endif
 
 }  // namespace
 }  // namespace campora
