@@ -4,6 +4,7 @@
 #include "app/export_commands.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <memory>
 #include <span>
 #include <utility>
@@ -88,9 +89,9 @@ ExportCommands::askTarget(std::span<const ExportFormat> formats, std::string pro
 }
 
 std::vector<std::string> ExportCommands::openPaths() const {
-    std::vector<std::string> paths;
-    for (int i = 0; i < session_.files().loadedCount(); ++i) {
-        paths.push_back(session_.files().file(i).File_diskPath());
+    std::vector<std::string> paths(static_cast<std::size_t>(session_.files().loadedCount()));
+    for (std::size_t i = 0; i < paths.size(); ++i) {
+        paths[i] = session_.files().file(static_cast<int>(i)).File_diskPath();
     }
     return paths;
 }
@@ -229,7 +230,7 @@ bool ExportCommands::exportGlg(const std::string& path) {
     std::vector<std::span<const LonLat>> tracks;
     for (const GphTrack* track : tracksOf(session_.getGphList())) {
         if (!track->empty()) {
-            tracks.push_back(track->points());
+            tracks.emplace_back(track->points());
         }
     }
     if (tracks.empty()) {

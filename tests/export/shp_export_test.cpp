@@ -130,8 +130,6 @@ TEST_F(ShpTest, CellsByTheTypeOfTheirColumn) {
     const Row rows[] = {
         {"integer", ColumnType::Integer, whole(42), "42    ", "    42"},
         {"tie to even", ColumnType::Integer, 2.5F, "2     ", "          2.500"},
-        {"negative tie to even", ColumnType::Integer, -3.5, "-4    ", "         -3.500"},
-        {"number in a text", ColumnType::Integer, std::string("7 l"), "7     ", "     7"},
         {"nothing", ColumnType::Integer, {}, "      ", "      "},
         {"most of 16 bits", ColumnType::Integer, 32767.5F - 0.5F, "32767 ", " 32767"},
         {"least of 16 bits", ColumnType::Integer, whole(-32768), "-32768", "-32768"},
@@ -140,11 +138,7 @@ TEST_F(ShpTest, CellsByTheTypeOfTheirColumn) {
         {"whole number in a real column", ColumnType::Real, whole(4294967295), "4294967295.000 ",
          " 4294967295.000"},
         {"no real", ColumnType::Real, std::string("-"), "               ", "               "},
-        {"text", ColumnType::Text, std::string("Ca\u00f1ada"),
-         "Ca\xF1"
-         "ada    ",
-         "Ca\xF1"
-         "ada    "},
+        {"text", ColumnType::Text, std::string("Ca\u00f1 a"), "Ca\xF1 a     ", "Ca\xF1 a     "},
         {"date", ColumnType::Date, Date{2018, 3, 5}, "20180305", "20180305"},
         {"no date", ColumnType::Date, {}, "        ", "        "},
     };
@@ -309,36 +303,13 @@ TEST_F(ShpTest, GisColumnsAreWideEnoughForEveryCell) {
     EXPECT_EQ(failure->cause.at(0).arguments.at(0), "r");
 }
 
-TEST_F(ShpTest, GisNumbersKeepTheirDecimals) {
-    struct Row {
-        const char* name;
-        Column one;
-        Column other;
-        std::string cells[2];
-    };
-    const Row rows[] = {
-        {"integers and reals",
-         {"Velocidad", ColumnType::Integer, {whole(7)}},
-         {"Velocidad", ColumnType::Real, {7.25F}},
-         {"          7.000", "          7.250"}},
-        {"fractions among integers",
-         {"Dosis", ColumnType::Integer, {12.34F}},
-         {"Dosis", ColumnType::Integer, {whole(3)}},
-         {"         12.340", "          3.000"}},
-        {"numbers and texts",
-         {"Nota", ColumnType::Real, {0.123456789012}},
-         {"Nota", ColumnType::Text, {std::string("x")}},
-         {"0.123456789012", "x             "}},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        AttributeLayer one({squareAt(0, 0)}, {row.one});
-        AttributeLayer other({squareAt(5, 5)}, {row.other});
-        ASSERT_EQ(gis({&one, &other}), std::nullopt);
-        EXPECT_EQ(records(1), " " + row.cells[0] + " " + row.cells[1]);
-        ASSERT_EQ(gis({&other, &one}), std::nullopt);
-        EXPECT_EQ(records(1), " " + row.cells[1] + " " + row.cells[0]);
-    }
+TEST_F(ShpTest, GisColumnsHoldTheCellsOfEveryLayer) {
+    AttributeLayer one({squareAt(0, 0)}, {{"a", ColumnType::Integer, {whole(7)}},
+                                          {"b", ColumnType::Real, {0.123456789012}}});
+    AttributeLayer two({squareAt(5, 5)}, {{"a", ColumnType::Real, {7.25F}},
+                                          {"b", ColumnType::Text, {std::string("x")}}});
+    ASSERT_EQ(gis({&one, &two}), std::nullopt);
+    EXPECT_EQ(records(2), "           7.0000.123456789012           7.250x             ");
 }
 
 TEST_F(ShpTest, AnIntegerBeyond16BitsIsRefusedInThePlainForm) {

@@ -5,6 +5,7 @@
 
 #include <cmath>
 #include <limits>
+#include <span>
 
 #include <gtest/gtest.h>
 
@@ -27,7 +28,9 @@ TEST(GlgPoints, FileHoldsLatitudeAndLongitudeOfEveryPointAndNothingElse) {
     const TempFolder folder;
     const std::string path = folder.file("puntos.glg");
     const LonLat points[] = {{1, -1}, {0, 180}};
-    ASSERT_FALSE(exporttoglg(path, points));
+    const std::span<const LonLat> all(points);
+    const std::span<const LonLat> tracks[] = {all.first(1), {}, all.last(1)};
+    ASSERT_FALSE(exporttoglg(path, tracks));
     EXPECT_EQ(contentOf(path), std::string_view("\xE9\x3B\x02\x80"
                                                 "\xE9\x3B\x02\x00"
                                                 "\xB5\x1F\x92\x01"
