@@ -30,7 +30,7 @@ void fillSummary(std::span<const LotFile> lots, FileGphGroup& group, const UserL
     double perimeter = 0;
     std::size_t vertices = 0;
     for (const LotFile& lot : lots) {
-        hectares += polygonArea(lot.vertices) / 10'000.0;
+        hectares += ringAreaM2(lot.vertices) / 10'000.0;
         perimeter += ringPerimeter(lot.vertices);
         vertices += lot.vertices.size();
     }

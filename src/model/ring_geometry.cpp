@@ -40,6 +40,25 @@ float polygonArea(std::span<const LonLat> ring) {
     return std::abs(twiceArea / 2);
 }
 
+double ringAreaM2(std::span<const LonLat> ring) {
+    if (ring.empty()) {
+        return 0;
+    }
+    const LonLat origin = ring.front();
+    const auto fromOrigin = [origin](LonLat position) {
+        return Metres{(position.x - origin.x) * METERS_PER_DEGREE * std::cos(toRadians(position.y)),
+                      (position.y - origin.y) * METERS_PER_DEGREE};
+    };
+    double twiceArea = 0;
+    Metres from = fromOrigin(ring.back());
+    for (const LonLat& position : ring) {
+        const Metres to = fromOrigin(position);
+        twiceArea += to.y * from.x - to.x * from.y;
+        from = to;
+    }
+    return std::abs(twiceArea / 2);
+}
+
 double ringPerimeter(std::span<const LonLat> ring) {
     double metres = 0;
     for (std::size_t i = 0; i < ring.size(); ++i) {

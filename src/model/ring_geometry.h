@@ -14,6 +14,10 @@ namespace campora {
 /// with each vertex's own cosine.
 [[nodiscard]] float polygonArea(std::span<const LonLat> ring);
 
+/// The same in double precision, measured from the ring's first point: the figure does not depend
+/// on how far the ring lies from 0, 0.
+[[nodiscard]] double ringAreaM2(std::span<const LonLat> ring);
+
 /// Length of a closed ring in metres, each edge on the flat by the cosine of its mean latitude.
 /// `ring` as above; a single point gives 0.
 [[nodiscard]] double ringPerimeter(std::span<const LonLat> ring);

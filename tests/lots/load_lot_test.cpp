@@ -48,6 +48,14 @@ TEST_F(LoadLot, MakesAnEntryOfTheList) {
     EXPECT_TRUE(dialogs.messages.empty());
 }
 
+TEST_F(LoadLot, TheAreaHoldsFarFromTheOrigin) {
+    // 47.51; in single precision it would be 47.496.
+    const auto file =
+        load(folder.write("x.lot", "34,62\r\n34,61.9932\r\n33.9932,61.9932\r\n33.9932,62"));
+    ASSERT_NE(file, nullptr);
+    EXPECT_EQ(file->File_resumen().value_(1), "48");
+}
+
 TEST_F(LoadLot, RefusesWhatIsNoLotWithAMessage) {
     struct Row {
         const char* name;

@@ -39,6 +39,28 @@ TEST(RingGeometry, AreaInSquareMetres) {
     }
 }
 
+TEST(RingGeometry, AreaInDoubleDoesNotDependOnWhereTheRingLies) {
+    struct Row {
+        const char* name;
+        Ring ring;
+        double area;
+    };
+    const Row rows[] = {
+        {"nothing", {}, 0},
+        {"two points", {{-62, -34}, {-61, -33}}, 0},
+        {"square on the equator", square(0, 0, 0.01), 1239214.23},
+        {"square at 34 degrees south", square(-62, -34, 0.01), 1027415.63},
+        {"the same far to the east", square(170, -34, 0.01), 1027415.63},
+        {"the same in the north", square(-62, 33.99, 0.01), 1027415.63},
+        {"a garden", square(-62, -34, 0.0001), 102.7308},
+    };
+    for (const Row& row : rows) {
+        EXPECT_NEAR(ringAreaM2(row.ring), row.area, 0.005) << row.name;
+        const Ring reversed(row.ring.rbegin(), row.ring.rend());
+        EXPECT_NEAR(ringAreaM2(reversed), row.area, 0.005) << row.name << ", reversed";
+    }
+}
+
 TEST(RingGeometry, PointInRing) {
     const Ring box = square(0, 0, 2);
     const Ring diamond = {{0, -1}, {1, 0}, {0, 1}, {-1, 0}};
