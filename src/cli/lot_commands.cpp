@@ -9,7 +9,6 @@
 #include <string>
 #include <vector>
 
-#include "base/numbers.h"
 #include "cli/batch_platform.h"
 #include "cli/commands.h"
 #include "lots/load_lot.h"
@@ -29,18 +28,6 @@ std::optional<std::vector<std::string>> save(std::span<const LotFile> lots, cons
         return std::nullopt;
     }
     return *saved;
-}
-
-void remark(const MergedLots& merged, const Texts& texts, const Console& console) {
-    if (merged.lots.empty()) {
-        console.boxes << texts(TextId::MergeWithoutArea) << '\n';
-    }
-    if (merged.lots.size() > 1) {
-        console.boxes << texts.format(TextId::MergeApart, {numberText(merged.lots.size())}) << '\n';
-    }
-    if (merged.holes > 0) {
-        console.boxes << texts.format(TextId::MergeHoles, {numberText(merged.holes)}) << '\n';
-    }
 }
 
 }  // namespace
@@ -68,7 +55,9 @@ int runMerge(const Arguments& arguments, const Console& console) {
     if (lots.empty()) {
         return exit_status::kRefused;  // each has been told already
     }
-    remark(merged, texts, console);
+    for (const std::string& remark : mergeRemarks(merged, texts)) {
+        console.boxes << remark << '\n';
+    }
     const auto saved = merged.lots.empty() ? std::nullopt : save(merged.lots, arguments, console);
     if (!saved) {
         return exit_status::kRefused;

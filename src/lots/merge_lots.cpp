@@ -7,6 +7,7 @@
 #include <string>
 #include <utility>
 
+#include "base/numbers.h"
 #include "lots/merge_outlines.h"
 
 namespace campora {
@@ -40,11 +41,30 @@ MergedLots mergeLots(std::span<const LotFile> lots) {
     MergedOutlines outlines = mergeOutlines(rings);
     MergedLots merged;
     merged.holes = outlines.holes;
+    merged.withoutArea = outlines.withoutArea;
     const std::string description = mergedDescription(lots);
     for (Ring& ring : outlines.rings) {
         merged.lots.push_back({std::move(ring), description});
     }
     return merged;
+}
+
+std::vector<std::string> mergeRemarks(const MergedLots& merged, const Texts& texts) {
+    if (merged.lots.empty()) {
+        return {std::string(texts(TextId::MergeWithoutArea))};
+    }
+    std::vector<std::string> remarks;
+    if (merged.lots.size() > 1) {
+        remarks.push_back(texts.format(TextId::MergeApart, {numberText(merged.lots.size())}));
+    }
+    if (merged.holes > 0) {
+        remarks.push_back(texts.format(TextId::MergeHoles, {numberText(merged.holes)}));
+    }
+    if (merged.withoutArea > 0) {
+        remarks.push_back(
+            texts.format(TextId::MergeLotsWithoutArea, {numberText(merged.withoutArea)}));
+    }
+    return remarks;
 }
 
 }  // namespace campora

@@ -4,8 +4,10 @@
 #pragma once
 
 #include <span>
+#include <string>
 #include <vector>
 
+#include "base/texts.h"
 #include "lots/lot_file.h"
 
 namespace campora {
@@ -16,8 +18,13 @@ struct MergedLots {
     std::vector<LotFile> lots;
     /// Empty places that now belong to the lots that surround them.
     int holes = 0;
+    /// Lots that enclose nothing; they are left out.
+    int withoutArea = 0;
 };
 
 [[nodiscard]] MergedLots mergeLots(std::span<const LotFile> lots);
+
+/// What the user should know about the result, a sentence each; empty for one lot without a remark.
+[[nodiscard]] std::vector<std::string> mergeRemarks(const MergedLots& merged, const Texts& texts);
 
 }  // namespace campora

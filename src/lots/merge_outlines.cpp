@@ -57,11 +57,11 @@ Ring toRing(const ClipperLib::Path& path) {
 }
 
 /// Each ring alone, made to run one way round: parts of one that lie in another must not cancel
-/// each other.
-void addRing(const Ring& ring, ClipperLib::Clipper& all) {
+/// each other. False when it encloses nothing.
+bool addRing(const Ring& ring, ClipperLib::Clipper& all) {
     ClipperLib::Paths simple;
     ClipperLib::SimplifyPolygon(toPath(ring), simple, ClipperLib::pftNonZero);
-    all.AddPaths(simple, ClipperLib::ptSubject, true);
+    return all.AddPaths(simple, ClipperLib::ptSubject, true);
 }
 
 }  // namespace
@@ -69,13 +69,13 @@ void addRing(const Ring& ring, ClipperLib::Clipper& all) {
 MergedOutlines mergeOutlines(std::span<const Ring> rings) {
     ClipperLib::Clipper all;
     all.StrictlySimple(true);
+    MergedOutlines merged;
     for (const Ring& ring : rings) {
-        addRing(ring, all);
+        merged.withoutArea += addRing(ring, all) ? 0 : 1;
     }
     ClipperLib::PolyTree tree;
     all.Execute(ClipperLib::ctUnion, tree, ClipperLib::pftNonZero, ClipperLib::pftNonZero);
 
-    MergedOutlines merged;
     ClipperLib::Paths outlines;
     for (const ClipperLib::PolyNode* outline : tree.Childs) {
         outlines.push_back(outline->Contour);

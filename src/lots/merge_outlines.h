@@ -19,6 +19,8 @@ struct MergedOutlines {
     std::vector<Ring> rings;
     /// Empty places that the union surrounds; the rings go round them.
     int holes = 0;
+    /// Rings that counted for nothing.
+    int withoutArea = 0;
 };
 
 /// The outlines of everything that lies in at least one of the rings. A ring that crosses itself
