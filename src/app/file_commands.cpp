@@ -46,7 +46,7 @@ void FileCommands::fileOpen() {
         platform.window.setToolText({});
         session_.plotPreview(false, false);
     }
-    if (!paths.empty() && session_.prescription().mayClose()) {
+    if (!paths.empty() && session_.mayCloseFiles()) {
         writeText(platform.settings, SettingId::OpenPath, folderOf(paths.front()));
         openPaths(paths, true);
     }
@@ -118,7 +118,7 @@ void FileCommands::openRecent(std::string_view path) {
         session_.platform().window.commandsChanged();
         return;
     }
-    if (session_.prescription().mayClose()) {
+    if (session_.mayCloseFiles()) {
         openPaths({std::string(path)}, true);
     }
 }
@@ -134,7 +134,7 @@ void FileCommands::stepInFolder(int step) {
     const auto found = std::find_if(files.begin(), files.end(), [&path](const std::string& file) {
         return fileNamePart(file) == fileNamePart(path);
     });
-    if (found == files.end() || !session_.prescription().mayClose()) {
+    if (found == files.end() || !session_.mayCloseFiles()) {
         return;
     }
     // One that is refused must not bar the way to those behind it.

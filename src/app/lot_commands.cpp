@@ -107,20 +107,22 @@ std::string askLotTarget(const Session& session, const std::string& name) {
     return path;
 }
 
-const File* putLotOnMap(Session& session, const std::string& path, const File* untitled) {
+bool putLotOnMap(Session& session, const std::string& path, const File* untitled) {
     const Platform& platform = session.platform();
     std::unique_ptr<File> lot = loadLot(path, {platform.dialogs, platform.locale, session.texts()});
-    const File* const shown = lot.get();
-    if (shown == nullptr) {
-        return nullptr;
+    if (lot == nullptr) {
+        return false;
     }
-    const File* const old = untitled != nullptr ? untitled : session.files().findFile(path);
-    if (old != nullptr) {
-        session.replaceFile(old, std::move(lot));
+    const File* const listed = session.files().findFile(path);
+    if (untitled != nullptr) {
+        session.replaceFile(untitled, std::move(lot));
+        session.removeFile(listed);
+    } else if (listed != nullptr) {
+        session.replaceFile(listed, std::move(lot));
     } else {
         session.showBelow(std::move(lot));
     }
-    return shown;
+    return true;
 }
 
 void LotCommands::tell(const std::string& text) const {
@@ -179,28 +181,51 @@ void LotCommands::mnuLoteSave() {
         tell(session_.texts().sentence(saved.failure()));
         return;
     }
-    if (unsaved) {
-        const File* untitled = &file;
-        for (const std::string& path : *saved) {
-            putLotOnMap(session_, path, untitled);
-            untitled = nullptr;
+    const File* untitled = unsaved ? &file : nullptr;
+    for (const std::string& path : *saved) {
+        if (unsaved || session_.files().isLoaded(path)) {
+            putLotOnMap(session_, path, std::exchange(untitled, nullptr));
         }
     }
     session_.platform().window.setToolText(
         session_.texts().format(TextId::LoteSaved, {std::string(fileNamePart(paths.front()))}));
 }
 
-std::vector<LotFile> LotCommands::openLots() const {
+std::vector<LotFile> LotCommands::openLots(bool unsaved) const {
     std::vector<LotFile> all;
     for (int i = 0; i < session_.files().loadedCount(); ++i) {
-        std::vector<LotFile> lots = lotsOf(session_.files().file(i));
-        std::move(lots.begin(), lots.end(), std::back_inserter(all));
+        const File& file = session_.files().file(i);
+        std::vector<LotFile> lots = lotsOf(file);
+        if (isUnsaved(file) == unsaved) {
+            std::move(lots.begin(), lots.end(), std::back_inserter(all));
+        }
     }
     return all;
 }
 
+std::vector<LotFile> LotCommands::lotsToMerge() const {
+    std::vector<LotFile> lots = openLots(false);
+    return lots.empty() ? openLots(true) : lots;
+}
+
 bool LotCommands::canMerge() const {
-    return openLots().size() > 1;
+    return lotsToMerge().size() > 1;
+}
+
+bool LotCommands::mayLose(const File& file) const {
+    const Texts& texts = session_.texts();
+    return !isUnsaved(file) || session_.platform().dialogs.askYesNo(
+                                   texts.format(TextId::AskLoseMerged, {file.File_name()}),
+                                   MessageIcon::Exclamation, texts(TextId::LoteTitle));
+}
+
+bool LotCommands::mayClose() const {
+    for (int i = 0; i < session_.files().loadedCount(); ++i) {
+        if (!mayLose(session_.files().file(i))) {
+            return false;
+        }
+    }
+    return true;
 }
 
 void LotCommands::mnuLoteMerge() {
@@ -208,9 +233,13 @@ void LotCommands::mnuLoteMerge() {
         return;
     }
     const Texts& texts = session_.texts();
-    const MergedLots merged = mergeLots(openLots());
+    const MergedLots merged = mergeLots(lotsToMerge());
+    std::string remarks;
+    for (const std::string& remark : mergeRemarks(merged, texts)) {
+        remarks.append(remarks.empty() ? "" : "\n").append(remark);
+    }
     if (merged.lots.empty()) {
-        tell(std::string(texts(TextId::MergeWithoutArea)));
+        tell(remarks);
         return;
     }
     LoadedFileList& files = session_.files();
@@ -221,11 +250,8 @@ void LotCommands::mnuLoteMerge() {
     }
     session_.showOnTop(
         makeLotGroup(merged.lots, "", texts(TextId::MergedName), session_.platform().locale));
-    if (merged.lots.size() > 1) {
-        tell(texts.format(TextId::MergeApart, {numberText(merged.lots.size())}));
-    }
-    if (merged.holes > 0) {
-        tell(texts.format(TextId::MergeHoles, {numberText(merged.holes)}));
+    if (!remarks.empty()) {
+        tell(remarks);
     }
 }
 

@@ -28,8 +28,9 @@ class Session;
 [[nodiscard]] std::string askLotTarget(const Session& session, const std::string& name);
 
 /// Shows the lot that a file holds as the current file: in the place of `untitled` (may be null) or
-/// of what the list has from that path, else below the others. Null when it cannot be read.
-const File* putLotOnMap(Session& session, const std::string& path, const File* untitled);
+/// of what the list has from that path, else below the others. What the list has from that path
+/// goes in any case: it is not what the file holds any more. False when it cannot be read.
+bool putLotOnMap(Session& session, const std::string& path, const File* untitled);
 
 /// The commands on lots that are open.
 class LotCommands {
@@ -46,13 +47,19 @@ public:
     void mnuLoteSave();
     [[nodiscard]] bool canSave() const;
     /// Shows the union of all open lots as a file of its own, on no disk yet, in place of an
-    /// earlier one.
+    /// earlier one. That one is merged only when no other lots are open: what the user has taken
+    /// off the map must not come back with it.
     void mnuLoteMerge();
     [[nodiscard]] bool canMerge() const;
+    /// Whether the file may go: asks when it is a result of merging that is on no disk yet.
+    [[nodiscard]] bool mayLose(const File& file) const;
+    /// The same for all open files.
+    [[nodiscard]] bool mayClose() const;
 
 private:
-    /// Those of all open files.
-    [[nodiscard]] std::vector<LotFile> openLots() const;
+    /// Those of all open files that are, or are not, on disk.
+    [[nodiscard]] std::vector<LotFile> openLots(bool unsaved) const;
+    [[nodiscard]] std::vector<LotFile> lotsToMerge() const;
     void tell(const std::string& text) const;
 
     Session& session_;

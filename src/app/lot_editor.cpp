@@ -4,33 +4,21 @@
 #include "app/lot_editor.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <cstdlib>
 #include <utility>
 
 #include "app/lot_commands.h"
-#include "app/save_target.h"
 #include "app/session.h"
 #include "base/number_forms.h"
 #include "base/numbers.h"
-#include "base/paths.h"
-#include "base/text.h"
-#include "base/typed_number.h"
-#include "export/kml_export.h"
-#include "lots/gph_lote.h"
 #include "lots/ring_crossing.h"
-#include "lots/save_lots.h"
 #include "model/ring_geometry.h"
-#include "platform/quiet_dialogs.h"
 
 namespace campora {
 
 namespace {
 
-constexpr std::size_t kFewestVertices = 3;
-constexpr int kLotNumbers = 100;
-constexpr std::string_view kEnding = ".lot";
 /// Canvas units; 15 are a pixel.
 constexpr double kVertexReach = 120;
 constexpr double kHandleReach = 105;
@@ -66,11 +54,9 @@ void LotEditor::edit(const File& file) {
 
 void LotEditor::start(const File* file) {
     draft_ = {};
-    path_.clear();
-    edited_ = file;
     if (file != nullptr) {
-        draft_.start(lotsOf(*file).front());
-        path_ = file->File_diskPath();
+        const std::string path = file->File_diskPath();
+        draft_.start(lotsOf(*file).front(), {path, path.empty() ? file : nullptr});
     }
     isOpen_ = true;
     MapTools& tools = session_.tools();
@@ -140,8 +126,6 @@ void LotEditor::removeSelected() {
 
 void LotEditor::clear() {
     draft_.clear();
-    path_.clear();  // the next lot must not land in the file of this one
-    edited_ = nullptr;
     changed();
 }
 
@@ -169,15 +153,11 @@ void LotEditor::setTransparent(bool transparent) {
 
 std::string LotEditor::figures() const {
     const char symbol = session_.platform().locale.decimalSymbol();
-    std::string hectares = fixedNumberText(polygonArea(draft_.vertices()) / 10'000.0, 2);
+    std::string hectares = fixedNumberText(ringAreaM2(draft_.vertices()) / 10'000.0, 2);
     std::replace(hectares.begin(), hectares.end(), '.', symbol);
     const double metres = draft_.vertices().size() < 2 ? 0 : ringPerimeter(draft_.vertices());
     return session_.texts().format(TextId::LoteFigures,
                                    {hectares, numberText(roundHalfEven(metres))});
-}
-
-bool LotEditor::isWhole() const {
-    return draft_.vertices().size() >= kFewestVertices;
 }
 
 LonLat LotEditor::middleOfMap() const {
@@ -271,8 +251,26 @@ void LotEditor::dropVertex(bool keep) {
     changed();
 }
 
+const File* LotEditor::edited() const {
+    if (!isOpen_) {
+        return nullptr;
+    }
+    const LoadedFileList& files = session_.files();
+    const auto& [path, entry] = draft_.origin();
+    if (!path.empty()) {
+        return files.findFile(path);
+    }
+    // Once it is gone another file may stand where it stood in memory.
+    const bool isUntitled = files.indexOf(entry) && entry->File_diskPath().empty();
+    return isUntitled && isOneLot(*entry) ? entry : nullptr;
+}
+
 void LotEditor::changed() {
     crosses_ = ringCrossesItself(draft_.vertices());
+    const File* const hidden = edited();
+    if (std::exchange(hidden_, hidden) != hidden) {
+        session_.redraw();
+    }
     viewChanged();
     if (onChanged) {
         onChanged();
@@ -315,94 +313,6 @@ void LotEditor::showMark() {
         marked_ = true;
     } else if (std::exchange(marked_, false)) {
         tools.hideVertex();
-    }
-}
-
-void LotEditor::tell(const Failure& failure) const {
-    session_.platform().dialogs.message(session_.texts().sentence(failure),
-                                        MessageIcon::Exclamation,
-                                        session_.texts()(TextId::LoteTitle));
-}
-
-bool LotEditor::refuseFewVertices() const {
-    if (!isWhole()) {
-        tell({TextId::LoteTooFew, {}});
-    }
-    return !isWhole();
-}
-
-std::optional<int> LotEditor::askNumber() const {
-    const std::string answer = session_.platform().dialogs.inputBox(
-        TextId::AskLoteNumber, session_.texts()(TextId::LoteTitle),
-        proposedLotNumber(session_, path_));
-    if (trim(answer).empty()) {
-        return std::nullopt;
-    }
-    const double number = typedNumber(answer).value_or(-1);
-    if (number < 0 || number >= kLotNumbers || number != std::trunc(number)) {
-        tell({TextId::BadLoteNumber, {}});
-        return std::nullopt;
-    }
-    return static_cast<int>(number);
-}
-
-void LotEditor::save() {
-    if (refuseFewVertices()) {
-        return;
-    }
-    if (const std::optional<int> number = askNumber()) {
-        const std::string path = askLotTarget(session_, lotFileName(*number));
-        if (!path.empty()) {
-            write(path);
-        }
-    }
-}
-
-void LotEditor::saveBack() {
-    if (!path_.empty() && !refuseFewVertices()) {
-        write(path_);
-    }
-}
-
-void LotEditor::write(const std::string& path) {
-    const LotFile lot{draft_.vertices(), draft_.description()};
-    const Result<std::vector<std::string>> saved = saveLots({&lot, 1}, path);
-    if (!saved) {
-        tell(saved.failure());
-        return;
-    }
-    draft_.markSaved();
-    path_ = path;
-    // A result of merging that is on no disk yet is what was saved.
-    const bool isUntitled = session_.files().indexOf(edited_) && edited_->File_diskPath().empty();
-    edited_ = putLotOnMap(session_, path, isUntitled ? edited_ : nullptr);
-    session_.platform().window.setToolText(
-        session_.texts().format(TextId::LoteSaved, {std::string(fileNamePart(path))}));
-    changed();
-}
-
-void LotEditor::viewInEarth() {
-    if (refuseFewVertices()) {
-        return;
-    }
-    const std::string_view name =
-        path_.empty() ? session_.texts()(TextId::LoteTitle) : fileNamePart(path_);
-    const std::string stem(
-        pathEnding(name) == kEnding ? name.substr(0, name.size() - kEnding.size()) : name);
-    const Result<std::string> path = documents_.file(stem + ".kml");
-    if (!path) {
-        tell(path.failure());
-        return;
-    }
-    const GphLote lot(draft_.vertices(), draft_.description());
-    const std::array<const Gph*, 1> layers{&lot};
-    NoProgress quiet;
-    ExportProgress progress(quiet);
-    if (const std::optional<Failure> failure =
-            kmlExport(layers, *path, session_.programFolder(), session_.style(), progress)) {
-        tell(*failure);
-    } else if (!session_.platform().shell.open(*path)) {
-        tell({TextId::LoteEarthFailed, {}});
     }
 }
 

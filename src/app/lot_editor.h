@@ -40,7 +40,10 @@ public:
 
     [[nodiscard]] const LotDraft& draft() const { return draft_; }
     /// The file that holds the lot; empty for a new one.
-    [[nodiscard]] const std::string& path() const { return path_; }
+    [[nodiscard]] const std::string& path() const { return draft_.origin().path; }
+    /// The entry of the list that the drawing stands for; the map leaves it out meanwhile, so that
+    /// it does not show through. Null for a new lot and while the editor is closed.
+    [[nodiscard]] const File* edited() const;
 
     // Changes; those of the selected vertex do nothing without one.
     void select(std::optional<std::size_t> index);
@@ -93,15 +96,14 @@ private:
     [[nodiscard]] bool refuseFewVertices() const;
     /// The answer to the question for the lot's number; none when it is not good or not given.
     [[nodiscard]] std::optional<int> askNumber() const;
-    void write(const std::string& path);
+    void write(const std::string& target);
     void tell(const Failure& failure) const;
 
     Session& session_;
     bool isOpen_ = false;
     LotDraft draft_;
-    std::string path_;
-    /// What is edited, while it is in the list.
-    const File* edited_ = nullptr;
+    /// What the map was drawn without; only to be compared.
+    const File* hidden_ = nullptr;
     bool transparent_ = true;
     bool crosses_ = false;
     bool marked_ = false;

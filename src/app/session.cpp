@@ -31,7 +31,9 @@ Session::Session(const Platform& platform, Language language, std::string progra
       view_(platform.canvas, platform.window, style_,
             [this](MapContext& context) {
                 replay_.stopReplay();
-                plotAll(context);
+                for (const Gph* layer : layersFromBelow(lotEditor_.edited())) {
+                    layer->Gph_plot(context);
+                }
                 tools_.viewChanged();
             }),
       tools_(platform.canvas, platform.window, view_, style_, files_, texts_, platform.locale,
@@ -206,10 +208,12 @@ void Session::moveCurrentFile(Move where) {
 }
 
 void Session::removeCurrentFile() {
-    if (files_.currentFile() == prescription_.prescription() && !prescription_.mayClose()) {
+    const File* const current = files_.currentFile();
+    if (current == nullptr || !lots_.mayLose(*current) ||
+        (current == prescription_.prescription() && !prescription_.mayClose())) {
         return;
     }
-    removeFile(files_.currentFile());
+    removeFile(current);
 }
 
 void Session::showCurrentFile() {
@@ -298,9 +302,12 @@ void Session::canvasResized() {
     view_.ZoomUno();
 }
 
-std::vector<const Gph*> Session::layersFromBelow() const {
+std::vector<const Gph*> Session::layersFromBelow(const File* without) const {
     std::vector<const Gph*> all;
     for (int i = files_.loadedCount() - 1; i >= 0; --i) {
+        if (&files_.file(i) == without) {
+            continue;
+        }
         const std::vector<Gph*> layers = files_.file(i).File_gphList();
         all.insert(all.end(), layers.begin(), layers.end());
     }
@@ -308,13 +315,13 @@ std::vector<const Gph*> Session::layersFromBelow() const {
 }
 
 void Session::plotAll(MapContext& context) const {
-    for (const Gph* layer : layersFromBelow()) {
+    for (const Gph* layer : layersFromBelow(nullptr)) {
         layer->Gph_plot(context);
     }
 }
 
 bool Session::plotAll(MapContext& context, Progress& progress) const {
-    const std::vector<const Gph*> layers = layersFromBelow();
+    const std::vector<const Gph*> layers = layersFromBelow(nullptr);
     int reported = -1;
     for (std::size_t i = 0; i < layers.size(); ++i) {
         const int percent = static_cast<int>(100 * i / layers.size());

@@ -131,6 +131,10 @@ public:
     std::vector<std::string> loadFiles(const std::vector<std::string>& paths, bool resetFirst);
     /// Shows these files alone, without a message or question; for previews, after `plotPreview`.
     void showQuietly(const std::vector<std::string>& paths);
+    /// Whether the open files may go: asks about what was made here and is not saved.
+    [[nodiscard]] bool mayCloseFiles() const {
+        return prescription_.mayClose() && lots_.mayClose();
+    }
     /// Reads every open file again; one that cannot be read stays as it was.
     void reloadFiles();
     /// The logger's track file opened last; empty when there was none.
@@ -191,8 +195,8 @@ private:
     };
 
     [[nodiscard]] std::vector<File*> openFiles() const;
-    /// In the order in which they are drawn.
-    [[nodiscard]] std::vector<const Gph*> layersFromBelow() const;
+    /// In the order in which they are drawn; not those of `without`, which may be null.
+    [[nodiscard]] std::vector<const Gph*> layersFromBelow(const File* without) const;
     /// Reads a file and adds it; neither list nor legend are shown anew yet.
     bool takeFile(std::string_view path, bool resetFirst, Dialogs& dialogs);
     /// Several in order, until the user has enough; answers those that were taken.

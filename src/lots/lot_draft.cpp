@@ -56,9 +56,10 @@ void LotDraft::clear() {
         return;
     }
     State old = now_;
-    old.description = std::exchange(description_, {});
-    keep(std::move(old));
     now_ = {};
+    now_.afterUnsaved = old.afterUnsaved || isUnsaved(old.vertices);
+    old.whole = Whole{std::exchange(description_, {}), std::exchange(home_, {})};
+    keep(std::move(old));
 }
 
 void LotDraft::beginMove(std::size_t index) {
@@ -114,8 +115,10 @@ void LotDraft::step(Steps& from, Steps& to) {
     }
     State wanted = std::move(from.back());
     from.pop_back();
-    if (wanted.description) {
-        now_.description = std::exchange(description_, *std::exchange(wanted.description, {}));
+    if (wanted.whole) {
+        now_.whole = Whole{std::exchange(description_, std::move(wanted.whole->description)),
+                           std::exchange(home_, std::move(wanted.whole->home))};
+        wanted.whole.reset();
     }
     to.push_back(std::exchange(now_, std::move(wanted)));
 }
@@ -128,21 +131,26 @@ void LotDraft::redo() {
     step(redo_, undo_);
 }
 
-void LotDraft::start(LotFile lot) {
+void LotDraft::start(LotFile lot, LotOrigin origin) {
     *this = {};
-    now_.vertices = std::move(lot.vertices);
-    description_ = std::move(lot.description);
-    markSaved();
+    now_.vertices = lot.vertices;
+    description_ = lot.description;
+    home_ = {std::move(origin), std::move(lot)};
 }
 
-void LotDraft::markSaved() {
+void LotDraft::markSaved(std::string path) {
     endMove(true);
-    saved_ = {now_.vertices, description_};
+    home_ = {{std::move(path), nullptr}, {now_.vertices, description_}};
+    now_.afterUnsaved = false;
+}
+
+bool LotDraft::isUnsaved(const std::vector<LonLat>& vertices) const {
+    return !vertices.empty() &&
+           (vertices != home_.saved.vertices || description_ != home_.saved.description);
 }
 
 bool LotDraft::isChanged() const {
-    return !now_.vertices.empty() &&
-           (now_.vertices != saved_.vertices || description_ != saved_.description);
+    return now_.afterUnsaved || isUnsaved(now_.vertices);
 }
 
 }  // namespace campora

@@ -14,6 +14,16 @@
 
 namespace campora {
 
+class File;
+
+/// What a drawn lot stands for when it is saved.
+struct LotOrigin {
+    /// The file that holds it; empty while it is on no disk.
+    std::string path;
+    /// Of a lot on no disk: its entry in the file list, or null. It may be gone by now.
+    const File* entry = nullptr;
+};
+
 /// A lot while it is drawn: its vertices, the one that is selected, its description, and every
 /// change of the vertices to be undone and done again. Indices count from 0; one that there is not
 /// changes nothing.
@@ -26,6 +36,7 @@ public:
     [[nodiscard]] std::optional<std::size_t> selected() const { return now_.selected; }
     [[nodiscard]] const std::string& description() const { return description_; }
     void setDescription(std::string text) { description_ = std::move(text); }
+    [[nodiscard]] const LotOrigin& origin() const { return home_.origin; }
 
     void select(std::optional<std::size_t> index);
     /// A new last vertex, selected.
@@ -36,7 +47,7 @@ public:
     void insertAfter(std::size_t index);
     /// The vertex before it is selected then.
     void remove(std::size_t index);
-    /// Neither vertices nor description.
+    /// Begins another lot, of no origin; what there was can be brought back whole.
     void clear();
     [[nodiscard]] LonLat halfwayFrom(std::size_t index) const;
 
@@ -56,28 +67,42 @@ public:
     void redo();
 
     /// Another lot in place of this one, as it is in its file: nothing to undo.
-    void start(LotFile lot);
+    void start(LotFile lot, LotOrigin origin = {});
     /// The lot is in a file as it is now.
-    void markSaved();
-    /// Whether there are vertices that would be lost.
+    void markSaved(std::string path);
+    /// Whether there are vertices that would be lost; those that were cleared away unsaved count
+    /// until something is saved.
     [[nodiscard]] bool isChanged() const;
 
 private:
+    /// Where the lot comes from, and what is there.
+    struct Home {
+        LotOrigin origin;
+        LotFile saved;
+    };
+    struct Whole {
+        std::string description;
+        Home home;
+    };
     struct State {
         std::vector<LonLat> vertices;
         std::optional<std::size_t> selected;
-        /// Of steps that change it.
-        std::optional<std::string> description;
+        /// Whether a lot that was not saved was cleared away before.
+        bool afterUnsaved = false;
+        /// Of steps to another lot.
+        std::optional<Whole> whole;
     };
     using Steps = std::deque<State>;
 
     void change() { keep(now_); }
+    /// Whether these vertices with the description are not in the lot's file.
+    [[nodiscard]] bool isUnsaved(const std::vector<LonLat>& vertices) const;
     void keep(State state);
     void step(Steps& from, Steps& to);
 
     State now_;
     std::string description_;
-    LotFile saved_;
+    Home home_;
     Steps undo_;
     Steps redo_;
     /// What there was before the move.

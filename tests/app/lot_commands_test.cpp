@@ -68,9 +68,7 @@ TEST_F(LotCommandsTest, LotsApartAreSavedEachInAFile) {
     openLot("a.lot", squareRing(-60, -34, 1));
     openLot("b.lot", squareRing(-50, -34, 2));
     commands.mnuLoteMerge();
-    EXPECT_EQ(
-        dialogs.messages,
-        Names{"Exclamation|Lote Virtual|Los lotes no se tocan: quedan 2 contornos separados"});
+    EXPECT_EQ(dialogs.messages, Names{"Exclamation|Lote Virtual|Quedan 2 contornos separados"});
     EXPECT_FALSE(commands.canEdit());
     folder.write("x-2.lot", "");
     dialogs.saveAnswers = {{folder.file("x.lot"), 0}, {folder.file("x.lot"), 0}};
@@ -92,6 +90,92 @@ TEST_F(LotCommandsTest, AnEditedResultOfMergingIsNoLongerUntitledOnceItIsSaved) 
     dialogs.saveAnswers.push_back({folder.file("lote05.lot"), 0});
     session.lotEditor().save();
     EXPECT_EQ(listed(), (Names{"lote05.lot", "a.lot", "b.lot"}));
+}
+
+TEST_F(LotCommandsTest, AFileThatIsWrittenOverIsListedOnceAsItIsNow) {
+    const auto firstVertexOf = [this](int row) {
+        return lotsOf(session.files().file(row)).front().vertices.front();
+    };
+    openLot("a.lot", squareRing(-60, -34, 1));
+    openLot("b.lot", squareRing(-59, -34, 1));
+    commands.mnuLoteMerge();
+    dialogs.saveAnswers.push_back({folder.file("a.lot"), 0});
+    commands.mnuLoteSave();
+    EXPECT_EQ(listed(), (Names{"a.lot", "b.lot"}));
+    EXPECT_EQ(session.files().file(0).File_bound().maxX, -58);
+    EXPECT_EQ(session.files().currentFile(), &session.files().file(0));
+    // A lot that has its file already, over another one.
+    openLot("c.lot", squareRing(-50, -34, 1));
+    session.selectFile(2);
+    dialogs.saveAnswers.push_back({folder.file("b.lot"), 0});
+    commands.mnuLoteSave();
+    EXPECT_EQ(listed(), (Names{"a.lot", "b.lot", "c.lot"}));
+    EXPECT_EQ(firstVertexOf(1), firstVertexOf(2));
+}
+
+TEST_F(LotCommandsTest, ALotTakenOffTheMapDoesNotComeBackByMerging) {
+    openLot("a.lot", squareRing(-60, -34, 1));
+    openLot("b.lot", squareRing(-59.5, -34, 1));
+    openLot("c.lot", squareRing(-59, -34, 1));
+    commands.mnuLoteMerge();
+    session.removeFile(&session.files().file(1));
+    commands.mnuLoteMerge();
+    EXPECT_EQ(listed(), (Names{"Fusionado", "b.lot", "c.lot"}));
+    EXPECT_EQ(session.files().file(0).File_bound().minX, -59.5);
+    session.removeFile(&session.files().file(1));
+    EXPECT_FALSE(commands.canMerge());
+}
+
+TEST_F(LotCommandsTest, AResultOfMergingThatIsNotSavedGoesOnlyWhenTheUserAgrees) {
+    openLot("a.lot", squareRing(-60, -34, 1));
+    openLot("b.lot", squareRing(-59.5, -34, 1));
+    EXPECT_TRUE(session.mayCloseFiles());
+    commands.mnuLoteMerge();
+    struct Row {
+        const char* name;
+        void (*run)(LotCommandsTest& test);
+        Names after;
+    };
+    const Row rows[] = {
+        {"closing", [](LotCommandsTest& t) { EXPECT_FALSE(t.session.mayCloseFiles()); }, {}},
+        {"removing", [](LotCommandsTest& t) { t.session.removeCurrentFile(); }, {"a.lot", "b.lot"}},
+        {"a recent file",
+         [](LotCommandsTest& t) { t.session.fileCommands().openRecent(t.folder.file("a.lot")); },
+         {"a.lot"}},
+        {"the open dialog",
+         [](LotCommandsTest& t) {
+             t.dialogs.openAnswers.push_back({t.folder.file("b.lot")});
+             t.session.fileCommands().fileOpen();
+         },
+         {"b.lot"}},
+    };
+    const Names merged{"Fusionado", "a.lot", "b.lot"};
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        dialogs.questions.clear();
+        dialogs.yesNoAnswers = {false};
+        row.run(*this);
+        EXPECT_EQ(dialogs.questions, Names{"Exclamation|Lote Virtual|Fusionado no se guardó. "
+                                           "¿Perderlo de todos modos?"});
+        EXPECT_EQ(listed(), merged);
+        if (row.after.empty()) {
+            continue;
+        }
+        dialogs.yesNoAnswers = {true};
+        row.run(*this);
+        EXPECT_EQ(listed(), row.after);
+        dialogs.yesNoAnswers = {};
+        for (const char* name : {"a.lot", "b.lot"}) {
+            session.loadFile(folder.file(name), false, true);
+        }
+        if (listed().front() == "b.lot") {
+            break;
+        }
+        commands.mnuLoteMerge();
+    }
+    dialogs.questions.clear();
+    session.removeCurrentFile();  // this one is on disk
+    EXPECT_TRUE(dialogs.questions.empty());
 }
 
 TEST_F(LotCommandsTest, TheProposedNumberIsTheLotsOwnOrTheNextFree) {

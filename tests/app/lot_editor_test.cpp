@@ -123,13 +123,13 @@ TEST_F(LotEditorTest, TellsFiguresAndWhetherTheOutlineCrossesItself) {
     editor.onChanged = [&] { ++changes; };
     editor.open();
     EXPECT_EQ(editor.figures(), "Superficie: 0,00 ha\nPerímetro: 0 m");
-    for (const LonLat corner : squareRing(0, 0, 0.001)) {
+    for (const LonLat corner : squareRing(-62, -34, 0.01)) {
         editor.add(corner);
     }
-    EXPECT_EQ(editor.figures(), "Superficie: 1,24 ha\nPerímetro: 445 m");
+    EXPECT_EQ(editor.figures(), "Superficie: 102,74 ha\nPerímetro: 4072 m");
     EXPECT_FALSE(editor.crossesItself());
     editor.select(0);
-    editor.moveSelected({0.002, 0.0005});
+    editor.moveSelected({-61.98, -33.995});
     EXPECT_TRUE(editor.crossesItself());
     EXPECT_EQ(changes, 7);
     editor.onChanged = nullptr;
@@ -267,6 +267,55 @@ TEST_F(LotEditorTest, AsksBeforeWhatIsNotSavedIsLost) {
     click({500, 50});
     EXPECT_FALSE(editor.isOpen());
     EXPECT_EQ(window.overlay.lot, std::nullopt);
+}
+
+TEST_F(LotEditorTest, ADrawingThatWasClearedIsAskedAboutAndComesBackWithItsFile) {
+    editor.edit(session.files().file(0));
+    editor.add({-59.9, -33.9});
+    editor.clear();
+    EXPECT_EQ(editor.path(), "");
+    dialogs.yesNoAnswers = {false};
+    EXPECT_FALSE(editor.close());
+    editor.undo();
+    EXPECT_EQ(editor.path(), folder.file("campo.lot"));
+    editor.saveBack();
+    EXPECT_EQ(decodeLot(contentOf(folder.file("campo.lot"))).vertices.size(), 5U);
+    EXPECT_EQ(listed(), Names{"campo.lot"});
+    EXPECT_TRUE(editor.close());
+}
+
+TEST_F(LotEditorTest, TheMapLeavesOutWhatIsEdited) {
+    const auto lotsOnMap = [this] {
+        canvas.forget();
+        session.redraw();
+        return canvas.callsOf("polygon").size();
+    };
+    ASSERT_EQ(lotsOnMap(), 1U);
+    canvas.forget();
+    editor.edit(session.files().file(0));
+    EXPECT_EQ(redraws(), 1U);
+    EXPECT_EQ(canvas.callsOf("polygon").size(), 0U);
+    editor.saveBack();
+    EXPECT_EQ(lotsOnMap(), 0U);
+    editor.clear();
+    EXPECT_EQ(lotsOnMap(), 1U);  // another one is drawn now
+    editor.undo();
+    EXPECT_EQ(lotsOnMap(), 0U);
+    canvas.forget();
+    EXPECT_TRUE(editor.close());
+    EXPECT_EQ(redraws(), 1U);
+    EXPECT_EQ(canvas.callsOf("polygon").size(), 1U);
+    // A new one joins the map, but not under its drawing.
+    settings.values["LotesPath"] = folder.path();
+    session.selectFile(std::nullopt);
+    editor.open();
+    drawTriangle();
+    dialogs.inputAnswers.push_back("1");
+    dialogs.saveAnswers.push_back({folder.file("lote01.lot"), 0});
+    editor.save();
+    EXPECT_EQ(lotsOnMap(), 1U);
+    EXPECT_TRUE(editor.close());
+    EXPECT_EQ(lotsOnMap(), 2U);
 }
 
 TEST_F(LotEditorTest, KeepsTheLotWhenTheMapChanges) {

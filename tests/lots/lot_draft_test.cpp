@@ -148,15 +148,47 @@ TEST(LotDraft, KnowsWhatWouldBeLost) {
     EXPECT_FALSE(draft.isChanged());
     draft.append({1, 1});
     EXPECT_TRUE(draft.isChanged());
-    draft.markSaved();
+    draft.markSaved("a.lot");
     EXPECT_FALSE(draft.isChanged());
     draft.setDescription("otra");
     EXPECT_TRUE(draft.isChanged());
+    EXPECT_FALSE(triangle().isChanged());
+}
+
+TEST(LotDraft, WhatWasClearedAwayUnsavedWouldBeLostToo) {
+    LotDraft draft = triangle();
+    draft.clear();
+    EXPECT_FALSE(draft.isChanged());  // it is in its file
+    draft.append({1, 1});
+    draft.clear();
+    EXPECT_TRUE(draft.isChanged());
+    draft.append({2, 2});
+    draft.remove(0);
+    EXPECT_TRUE(draft.isChanged());
+    draft.append({3, 3});
+    draft.markSaved("b.lot");
+    EXPECT_FALSE(draft.isChanged());
     draft.clear();
     EXPECT_FALSE(draft.isChanged());
+}
+
+TEST(LotDraft, UndoingAClearBringsTheOriginBack) {
+    LotDraft draft;
+    draft.start({kTriangle, "Campo 1"}, {"a.lot", nullptr});
+    draft.clear();
+    EXPECT_EQ(draft.origin().path, "");
+    draft.append({1, 1});
+    draft.markSaved("b.lot");
     draft.undo();
-    EXPECT_TRUE(draft.isChanged());
-    EXPECT_FALSE(triangle().isChanged());
+    EXPECT_EQ(draft.origin().path, "b.lot");
+    draft.undo();
+    EXPECT_EQ(draft.origin().path, "a.lot");
+    EXPECT_EQ(draft.vertices(), kTriangle);
+    EXPECT_FALSE(draft.isChanged());
+    draft.redo();
+    draft.redo();
+    EXPECT_EQ(draft.origin().path, "b.lot");
+    EXPECT_FALSE(draft.isChanged());
 }
 
 TEST(LotDraft, ForgetsTheOldestSteps) {
