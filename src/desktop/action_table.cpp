@@ -215,7 +215,7 @@ constexpr ActionRow kActions[] = {
      .possible = [](const MainWindow& w) { return w.session().lots().canSave(); }},
     {.name = "mnuToolLoteMerge", .text = TextId::ActionLoteMerge,
      .tooltip = TextId::TipLoteMerge, .menu = MenuId::Tools, .needs = Needs::Map,
-     .run = [](MainWindow& w) { w.session().lots().mnuLoteMerge(); },
+     .run = [](MainWindow& w) { w.mergeLots(); },
      .possible = [](const MainWindow& w) { return w.session().lots().canMerge(); }},
     {.name = "mnuEditGraduated", .text = TextId::ActionGraduated, .tooltip = TextId::TipGraduated,
      .icon = "graduated", .menu = MenuId::Map, .needs = Needs::Map,

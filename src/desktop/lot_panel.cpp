@@ -20,6 +20,7 @@
 #include "base/paths.h"
 #include "desktop/coord_dialog.h"
 #include "desktop/elided_label.h"
+#include "desktop/lot_keys.h"
 #include "desktop/lot_vertex_model.h"
 #include "desktop/pointer_override.h"
 #include "desktop/qt_text.h"
@@ -46,7 +47,7 @@ struct LotPanel::Tool {
     const char* name;
     const char* icon;
     TextId text;
-    /// Shown in its tooltip; what the keys do stands in `useKey`.
+    /// Shown in its tooltip; what the keys do stands in `lotKeys`.
     const char* key;
     void (*run)(LotPanel& panel);
     bool (*possible)(const LotEditor& editor);
@@ -89,6 +90,7 @@ LotPanel::LotPanel(Session& session, QWidget& map, QWidget* parent)
       warning_(new QLabel),
       descriptionLabel_(new QLabel),
       description_(new QPlainTextEdit),
+      tooLong_(new QLabel),
       transparent_(new QCheckBox),
       save_(new QPushButton),
       saveBack_(new QPushButton),
@@ -177,6 +179,13 @@ void LotPanel::makeDescription(QBoxLayout& column) {
     connect(description_, &QPlainTextEdit::textChanged, this, &LotPanel::descriptionEdited);
     column.addWidget(descriptionLabel_);
     column.addWidget(description_);
+    tooLong_->setObjectName("lblLoteTooLong");
+    tooLong_->setWordWrap(true);
+    QPalette colors = palette();
+    colors.setColor(QPalette::WindowText, QColor(kWarningColor));
+    tooLong_->setPalette(colors);
+    tooLong_->hide();
+    column.addWidget(tooLong_);
 }
 
 void LotPanel::makeButtons(QBoxLayout& column) {
@@ -220,6 +229,7 @@ void LotPanel::retranslate() {
     vertices_->setAccessibleName(toQt(texts(TextId::LoteVertices)));
     descriptionLabel_->setText(toQt(texts(TextId::LoteDescription)));
     description_->setAccessibleName(toQt(texts(TextId::LoteDescription)).remove('&'));
+    tooLong_->setText(toQt(texts(TextId::LoteTooManyLines)));
     transparent_->setText(toQt(texts(TextId::LoteTransparent)));
     transparent_->setToolTip(toQt(texts(TextId::TipLoteTransparent)));
     save_->setText(toQt(texts(TextId::LoteSaveAs)));
@@ -275,6 +285,7 @@ void LotPanel::showSelection() {
 
 void LotPanel::showDescription() {
     const std::string& text = editor_.draft().description();
+    tooLong_->setVisible(descriptionLines(text).size() > kLotDescriptionLines);
     QString shown;
     for (const std::string& line : descriptionLines(text)) {
         shown += (shown.isEmpty() ? "" : "\n") + toQt(line);
@@ -286,13 +297,8 @@ void LotPanel::showDescription() {
 }
 
 void LotPanel::descriptionEdited() {
-    QStringList lines = description_->toPlainText().split('\n');
-    constexpr auto kMost = static_cast<qsizetype>(kLotDescriptionLines);
-    if (lines.size() > kMost) {
-        const QSignalBlocker quiet(description_);
-        description_->setPlainText(lines.mid(0, kMost).join('\n'));
-        description_->moveCursor(QTextCursor::End);
-    }
+    // Never mended here: that would take the text from under the user's cursor, and what can be
+    // undone with it.
     editor_.setDescription(toUtf8(description_->toPlainText()));
 }
 
@@ -323,20 +329,8 @@ void LotPanel::editVertex() {
 }
 
 bool LotPanel::useKey(const QKeyEvent& event, bool perform) {
-    struct Key {
-        QKeyCombination keys;
-        void (LotEditor::*run)();
-    };
-    static constexpr Key kKeys[] = {
-        {Qt::Key_Delete, &LotEditor::removeSelected},
-        {Qt::Key_Backspace, &LotEditor::removeSelected},
-        {Qt::Key_Insert, &LotEditor::insertAfterSelected},
-        {Qt::CTRL | Qt::Key_Z, &LotEditor::undo},
-        {Qt::CTRL | Qt::Key_Y, &LotEditor::redo},
-        {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, &LotEditor::redo},
-    };
     const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
-    for (const Key& key : kKeys) {
+    for (const LotKey& key : lotKeys()) {
         if (key.keys == QKeyCombination(modifiers, static_cast<Qt::Key>(event.key()))) {
             if (perform) {
                 (editor_.*key.run)();

@@ -78,6 +78,7 @@ private:
     QLabel* warning_;
     QLabel* descriptionLabel_;
     QPlainTextEdit* description_;
+    QLabel* tooLong_;
     QCheckBox* transparent_;
     QPushButton* save_;
     QPushButton* saveBack_;

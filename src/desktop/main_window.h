@@ -69,6 +69,7 @@ public:
     // The commands that are more than a call of the session.
     void openFile();
     void openWorkOrders();
+    void mergeLots();
     void editSummary();
     void copyImage();
     void goToCoordinate();

@@ -11,6 +11,7 @@
 #include "desktop/main_window.h"
 #include "desktop/map_area.h"
 #include "desktop/map_widget.h"
+#include "desktop/pointer_override.h"
 #include "desktop/side_panel.h"
 
 namespace campora {
@@ -21,6 +22,11 @@ namespace {
 constexpr int kRoomForBoth = 900;
 
 }  // namespace
+
+void MainWindow::mergeLots() {
+    const PointerOverride busy(Qt::WaitCursor);
+    session_->lots().mnuLoteMerge();
+}
 
 void MainWindow::makeLotPanel() {
     lotPanel_ = new LotPanel(*session_, mapArea_->map(), this);

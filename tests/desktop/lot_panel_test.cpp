@@ -112,14 +112,27 @@ TEST_F(LotPanelTest, AVertexIsTyped) {
     EXPECT_EQ(editor().draft().vertices()[1], (LonLat{-58.25, -33}));
 }
 
-TEST_F(LotPanelTest, TheDescriptionHasTenLines) {
+TEST_F(LotPanelTest, MoreThanTenLinesAreTheUsersToCut) {
     auto& description = part<QPlainTextEdit>("txtLoteDescription");
-    description.setPlainText("1\n2\n3\n4\n5\n6\n7\n8\n9\n10\n11");
-    EXPECT_EQ(description.toPlainText(), "1\n2\n3\n4\n5\n6\n7\n8\n9\n10");
+    const QWidget& remark = part<QLabel>("lblLoteTooLong");
+    const QString ten = "1\n2\n3\n4\n5\n6\n7\n8\n9\n10";
+    description.insertPlainText(ten);
+    EXPECT_FALSE(remark.isVisible());
+    description.setFocus();
+    description.moveCursor(QTextCursor::Start);
+    QTest::keyClick(&description, Qt::Key_Return);
+    QTest::keyClicks(&description, "x");
+    EXPECT_EQ(description.toPlainText(), "\nx" + ten);
+    EXPECT_EQ(description.textCursor().position(), 2);
+    EXPECT_TRUE(remark.isVisible());
+    QTest::keyClick(&description, Qt::Key_Z, Qt::ControlModifier);
+    QTest::keyClick(&description, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(description.toPlainText(), ten);
+    EXPECT_FALSE(remark.isVisible());
     part<QAbstractButton>("cmdLoteClear").click();
     EXPECT_EQ(description.toPlainText(), "");
     part<QAbstractButton>("cmdLoteUndo").click();
-    EXPECT_TRUE(description.toPlainText().endsWith("\n10"));
+    EXPECT_EQ(description.toPlainText(), ten);
 }
 
 TEST_F(LotPanelTest, TheMapKeepsItsPlaceAndANarrowWindowItsMap) {
@@ -158,6 +171,18 @@ TEST_F(LotPanelTest, TheWindowDoesNotCloseOverALotThatIsNotSaved) {
     dialogs.yesNoAnswers = {false};
     EXPECT_FALSE(window->close());
     EXPECT_EQ(dialogs.questions.size(), 1U);
+    dialogs.yesNoAnswers = {true};
+    EXPECT_TRUE(window->close());
+}
+
+TEST_F(LotPanelTest, TheWindowDoesNotCloseOverAResultOfMergingThatIsNotSaved) {
+    open({writeLot(folder, "a.lot", squareRing(-60, -34, 1)),
+          writeLot(folder, "b.lot", squareRing(-59, -34, 1))});
+    action(TextId::ActionLoteMerge)->trigger();
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    dialogs.yesNoAnswers = {false};
+    EXPECT_FALSE(window->close());
+    EXPECT_TRUE(dialogs.questions.back().find("Fusionado") != std::string::npos);
     dialogs.yesNoAnswers = {true};
     EXPECT_TRUE(window->close());
 }
