@@ -41,7 +41,8 @@ protected:
 
     void openWindow(Language language) {
         window = std::make_unique<MainWindow>(
-            Desktop{dialogs, settings, locale, clipboard, clock, classes, shell}, language, folder.path());
+            Desktop{dialogs, settings, locale, clipboard, clock, classes, shell}, language,
+            folder.path());
         window->start("/opt/campora/campora", {});
         window->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));

@@ -22,8 +22,8 @@ namespace campora {
 /// A session on a scripted desktop, with a folder for its files.
 struct SessionDesk {
     explicit SessionDesk(Language language = Language::Spanish)
-        : session({canvas, window, dialogs, settings, locale, clipboard, clock, classes, shell}, language,
-                  folder.path()) {}
+        : session({canvas, window, dialogs, settings, locale, clipboard, clock, classes, shell},
+                  language, folder.path()) {}
 
     NamedFile& add(const std::string& name, double minX = -60) {
         auto file = std::make_unique<NamedFile>(name, minX);
