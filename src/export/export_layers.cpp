@@ -99,6 +99,15 @@ std::vector<ExportLayer> figureLayers(std::span<const Gph* const> layers) {
     return hasPolygons ? polygons : pointLayers(layers);
 }
 
+void collectRing(const ExportablePolygon& polygons, std::int32_t polygon, const MapStyle& style,
+                 std::vector<LonLat>& ring) {
+    ring.clear();
+    const std::int32_t points = polygons.ExportablePolygon_polygonNCount(style, polygon);
+    for (std::int32_t point = 0; point < points; ++point) {
+        ring.push_back(polygons.ExportablePolygon_polygonNpoint(polygon, point));
+    }
+}
+
 BoundingBox boxOf(std::span<const ExportLayer> layers) {
     BoundingBox box;
     for (const ExportLayer& layer : layers) {

@@ -34,6 +34,10 @@ struct ExportLayer {
 /// Those with polygons when there are any figures among them, else those with points.
 [[nodiscard]] std::vector<ExportLayer> figureLayers(std::span<const Gph* const> layers);
 
+/// The points of a polygon, as the layer gives them, in place of what `ring` holds.
+void collectRing(const ExportablePolygon& polygons, std::int32_t polygon, const MapStyle& style,
+                 std::vector<LonLat>& ring);
+
 /// The box that holds the boxes of all.
 [[nodiscard]] BoundingBox boxOf(std::span<const ExportLayer> layers);
 

@@ -238,11 +238,7 @@ private:
     void writePolygons(std::size_t layer, const MapStyle& style) {
         const ExportablePolygon& polygons = *layers_[layer].polygons;
         for (std::int32_t polygon = 0; polygon < layers_[layer].count && goesOn(); ++polygon) {
-            ring_.clear();
-            const std::int32_t points = polygons.ExportablePolygon_polygonNCount(style, polygon);
-            for (std::int32_t point = 0; point < points; ++point) {
-                ring_.push_back(polygons.ExportablePolygon_polygonNpoint(polygon, point));
-            }
+            collectRing(polygons, polygon, style, ring_);
             if (!ring_.empty() && (forGis_ ? writeValid() : writeAsGiven())) {
                 attributes_.writeRecord(set_.table(), layer, polygon);
             }
