@@ -97,7 +97,9 @@ MainWindow::MainWindow(const Desktop& desktop, Language language, const std::str
     retranslate();
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow() {
+    delete lotPanel_;  // it works on the session, which goes before the other widgets
+}
 
 void MainWindow::arrange() {
     splitter_->setChildrenCollapsible(false);
