@@ -58,8 +58,12 @@ TEST(FreedesktopClasses, TheSystemsToolsAgree) {
     tool.start(validate, {toQt(desk.folder.file("applications/campora.desktop"))});
     ASSERT_TRUE(tool.waitForFinished());
     EXPECT_EQ(tool.exitCode(), 0) << tool.readAll().toStdString();
-    tool.start(update, {toQt(desk.folder.file("mime"))});
-    ASSERT_TRUE(tool.waitForFinished());
+    // The program has started one too, and two at once get in each other's way.
+    constexpr int kMostTries = 5;
+    for (int i = 0; i == 0 || (i < kMostTries && tool.exitCode() != 0); ++i) {
+        tool.start(update, {toQt(desk.folder.file("mime"))});
+        ASSERT_TRUE(tool.waitForFinished());
+    }
     EXPECT_EQ(tool.exitCode(), 0) << tool.readAllStandardError().toStdString();
     const QByteArray globs = desk.content("mime/globs2");
     EXPECT_TRUE(globs.contains("60:application/x-campora-report:*.rpt")) << globs.data();
