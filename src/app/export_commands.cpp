@@ -36,12 +36,6 @@ private:
     bool& busy_;
 };
 
-/// The file's name without its ending, as a proposal for another.
-std::string stemOf(std::string_view path) {
-    const std::string_view name = fileNamePart(path);
-    return std::string(name.substr(0, name.find_last_of('.')));
-}
-
 std::vector<const GphTrack*> tracksOf(std::span<Gph* const> layers) {
     std::vector<const GphTrack*> tracks;
     for (const Gph* layer : layers) {
@@ -156,7 +150,8 @@ void ExportCommands::mnuFileExport() {
     session_.tools().cancelDrag();  // it moves the picture of the map
     const File* const current = session_.files().currentFile();
     const File& named = current != nullptr ? *current : session_.files().file(0);
-    const std::optional<Target> target = askTarget(exportFormats(), stemOf(named.File_diskPath()));
+    const std::optional<Target> target =
+        askTarget(exportFormats(), std::string(fileStem(named.File_diskPath())));
     if (target && exportMap(*target->format, target->path)) {
         afterExport(*target->format, target->path);
     }
@@ -216,7 +211,8 @@ void ExportCommands::mnuFileExportRpt() {
     if (read == nullptr) {
         return;
     }
-    const std::optional<Target> target = askTarget(textFormats(), stemOf(report) + ".txt");
+    const std::optional<Target> target =
+        askTarget(textFormats(), std::string(fileStem(report)) + ".txt");
     if (target && write(*target->format, {report}, read->File_gphList(), target->path)) {
         openWithShell(target->path);
     }
@@ -247,7 +243,8 @@ void ExportCommands::mnuFileExportGlg() {
     const Platform& platform = session_.platform();
     const Texts& texts = session_.texts();
     const File* const current = session_.files().currentFile();
-    const std::string proposed = current != nullptr ? stemOf(current->File_diskPath()) : "";
+    const std::string proposed =
+        std::string(current != nullptr ? fileStem(current->File_diskPath()) : "");
     const SaveAnswer answer =
         platform.dialogs.saveFile({std::string(texts(TextId::ExportTitle)),
                                    startFolder(session_, SettingId::ExportPath),

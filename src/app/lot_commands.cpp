@@ -24,9 +24,7 @@ namespace campora {
 
 namespace {
 
-constexpr int kLotNumbers = 100;
 constexpr std::string_view kStem = "lote";
-constexpr std::string_view kEnding = ".lot";
 
 std::optional<int> numberInName(std::string_view path) {
     const std::string name = lowerCase(fileNamePart(path));
@@ -69,7 +67,7 @@ bool isOneLot(const File& file) {
 std::string lotFileName(int number) {
     std::string digits = numberText(number);
     digits.insert(0, digits.size() < 2 ? 1 : 0, '0');
-    return std::string(kStem).append(digits).append(kEnding);
+    return std::string(kStem).append(digits).append(kLotEnding);
 }
 
 std::string proposedLotNumber(const Session& session, std::string_view path) {
@@ -98,8 +96,8 @@ std::string askLotTarget(const Session& session, const std::string& name) {
     const std::string_view folder =
         std::string_view(path).substr(0, path.size() - fileNamePart(path).size());
     writeText(session.platform().settings, SettingId::LotesPath, folder);
-    if (pathEnding(path) != kEnding) {
-        path.append(kEnding);  // by its ending it is known again
+    if (pathEnding(path) != kLotEnding) {
+        path.append(kLotEnding);  // by its ending it is known again
         if (!overwriteAgreed(session, path)) {
             return {};
         }
@@ -163,8 +161,8 @@ void LotCommands::mnuLoteSave() {
     const bool unsaved = isUnsaved(file);
     const std::vector<LotFile> lots = lotsOf(file);
     std::string name = file.File_name();
-    if (pathEnding(name) != kEnding) {
-        name.append(kEnding);
+    if (pathEnding(name) != kLotEnding) {
+        name.append(kLotEnding);
     }
     const std::string target = askLotTarget(session_, name);
     if (target.empty()) {

@@ -18,6 +18,9 @@ class Session;
 [[nodiscard]] std::vector<LotFile> lotsOf(const File& file);
 [[nodiscard]] bool isOneLot(const File& file);
 
+/// Lots are numbered from 0 on, below this.
+inline constexpr int kLotNumbers = 100;
+
 /// "lote07.lot"
 [[nodiscard]] std::string lotFileName(int number);
 /// What the question for a lot's number proposes: the number in the file's name, else the first of

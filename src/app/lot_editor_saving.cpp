@@ -23,8 +23,6 @@ namespace campora {
 namespace {
 
 constexpr std::size_t kFewestVertices = 3;
-constexpr int kLotNumbers = 100;
-constexpr std::string_view kEnding = ".lot";
 
 }  // namespace
 
@@ -100,11 +98,8 @@ void LotEditor::viewInEarth() {
     if (refuseFewVertices()) {
         return;
     }
-    const std::string_view name =
-        path().empty() ? session_.texts()(TextId::LoteTitle) : fileNamePart(path());
-    const std::string stem(
-        pathEnding(name) == kEnding ? name.substr(0, name.size() - kEnding.size()) : name);
-    const Result<std::string> document = documents_.file(stem + ".kml");
+    const std::string name(path().empty() ? session_.texts()(TextId::LoteTitle) : fileStem(path()));
+    const Result<std::string> document = documents_.file(name + ".kml");
     if (!document) {
         tell(document.failure());
         return;

@@ -19,8 +19,6 @@ namespace campora {
 
 namespace {
 
-constexpr std::size_t kEnding = 4;  // ".rpt"
-
 /// The file that a page is named after: the selected one or the one on top.
 const File* titleFile(Session& session) {
     const File* const current = session.files().currentFile();
@@ -33,11 +31,6 @@ PageSetup withLeast(PageSetup setup, const PageMargins& least) {
         setup.margins.*margin = std::max(setup.margins.*margin, least.*margin);
     }
     return setup;
-}
-
-std::string withoutEnding(std::string_view name) {
-    const bool hasEnding = name.size() > kEnding && name[name.size() - kEnding] == '.';
-    return std::string(hasEnding ? name.substr(0, name.size() - kEnding) : name);
 }
 
 }  // namespace
@@ -102,7 +95,7 @@ bool PrintCommands::drawMap(const PageLayout& page, MapCanvas& canvas, Progress*
 std::string PrintCommands::documentName() const {
     const File* const file = titleFile(session_);
     return file == nullptr ? std::string(session_.texts()(TextId::ProgramName))
-                           : withoutEnding(fileNamePart(file->File_diskPath()));
+                           : std::string(fileStem(file->File_diskPath()));
 }
 
 void PrintCommands::savePdf(const std::function<Result<std::string>()>& makePdf) {
@@ -129,7 +122,7 @@ void PrintCommands::savePdf(const std::function<Result<std::string>()>& makePdf)
                                  texts(TextId::Error));
         return;
     }
-    writeText(platform.settings, SettingId::PrintPath, folderPart(path));
+    writeText(platform.settings, SettingId::PrintPath, folderOf(path));
     const std::string_view caption = texts(TextId::ProgramName);
     if (platform.dialogs.askYesNo(texts.format(TextId::AskOpenPdf, {path}), MessageIcon::Question,
                                   caption) &&

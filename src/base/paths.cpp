@@ -50,6 +50,11 @@ std::string folderOf(std::string_view path) {
     return std::string(path.substr(0, path.size() - fileNamePart(path).size()));
 }
 
+std::string_view fileStem(std::string_view path) {
+    const std::string_view name = fileNamePart(path);
+    return name.substr(0, name.rfind('.'));
+}
+
 std::string pathEnding(std::string_view path) {
     std::size_t begin = path.size();
     for (int characters = 0; begin > 0 && characters < 4; ++characters) {

@@ -22,6 +22,9 @@ namespace campora {
 /// none.
 [[nodiscard]] std::string folderOf(std::string_view path);
 
+/// `fileNamePart` without its last point and what follows it.
+[[nodiscard]] std::string_view fileStem(std::string_view path);
+
 /// The last four characters in lower case (".rpt"); all of a shorter path.
 [[nodiscard]] std::string pathEnding(std::string_view path);
 

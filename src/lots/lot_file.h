@@ -12,6 +12,8 @@
 
 namespace campora {
 
+inline constexpr std::string_view kLotEnding = ".lot";
+
 /// What a ".lot" file holds.
 struct LotFile {
     /// The ring in order, in degrees; the first vertex is not repeated.

@@ -9,19 +9,14 @@
 
 namespace campora {
 
-namespace {
-
-constexpr std::string_view kEnding = ".lot";
-
-}  // namespace
-
 std::vector<std::string> lotPaths(std::string_view path, std::size_t lots) {
     if (lots == 1) {
         return {std::string(path)};
     }
-    const bool ended = pathEnding(path) == kEnding;
-    const std::string_view ending = ended ? path.substr(path.size() - kEnding.size()) : kEnding;
-    const std::string_view base = path.substr(0, path.size() - (ended ? kEnding.size() : 0));
+    const bool ended = pathEnding(path) == kLotEnding;
+    const std::string_view ending =
+        ended ? path.substr(path.size() - kLotEnding.size()) : kLotEnding;
+    const std::string_view base = path.substr(0, path.size() - (ended ? kLotEnding.size() : 0));
     std::vector<std::string> paths;
     for (std::size_t i = 1; i <= lots; ++i) {
         paths.push_back(std::string(base).append("-").append(numberText(i)).append(ending));

@@ -19,8 +19,8 @@ std::string renamed(std::string_view path, std::string_view ending, std::string_
                     std::string_view to) {
     const std::string_view name = fileNamePart(path);
     const std::string_view folder = path.substr(0, path.size() - name.size());
-    const std::string_view stem = name.substr(0, name.rfind('.'));
-    return std::string(folder) + replaceAll(lowerCase(stem), from, to) + std::string(ending);
+    return std::string(folder) + replaceAll(lowerCase(fileStem(path)), from, to) +
+           std::string(ending);
 }
 
 std::string summaryOf(std::string_view path) {

@@ -32,6 +32,14 @@ TEST(Paths, PartsOfAPath) {
     }
 }
 
+TEST(Paths, StemIsTheNameWithoutItsEnding) {
+    const std::pair<std::string_view, std::string_view> rows[] = {
+        {"C:\\a.b\\Lote 3.1.rpt", "Lote 3.1"}, {"a.b/lote", "lote"}, {"a/.lot", ""}, {"", ""}};
+    for (const auto& [path, stem] : rows) {
+        EXPECT_EQ(fileStem(path), stem) << path;
+    }
+}
+
 TEST(Paths, EndingIsTheLastFourCharacters) {
     const std::pair<std::string_view, std::string_view> rows[] = {
         {"a/Lote.RPT", ".rpt"},
