@@ -4,8 +4,12 @@
 // A real spread map of 22,439 zones: opening, colouring, drawing it, at 1200 x 900 pixels. Skipped
 // where it is not there.
 
+#include <cstdint>
 #include <optional>
+#include <random>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include <benchmark/benchmark.h>
 
@@ -44,17 +48,33 @@ void openSpreadMap(benchmark::State& state) {
 }
 BENCHMARK(openSpreadMap)->Unit(benchmark::kMillisecond);
 
-/// A field of square zones, so many in all.
-void openZones(benchmark::State& state) {
-    constexpr int kRow = 100;
+constexpr int kColumns = 8;
+
+/// A field of square zones, so many in all, with columns of values of which no two are the same or
+/// which repeat.
+std::string writeZones(const TempFolder& folder, std::int64_t zones, bool distinct) {
+    constexpr std::int64_t kRow = 100;
     constexpr double kSide = 0.0001;
-    ZoneMap map{{"DOSIS"}, {}};
-    for (int i = 0; i < state.range(0); ++i) {
-        map.zones.push_back({{squareAt({kSide * (i % kRow), kSide * (i / kRow)}, kSide)},
-                             {std::to_string(i % 20)}});
+    ZoneMap map;
+    std::mt19937 random(1);
+    for (int column = 0; column < kColumns; ++column) {
+        map.columns.push_back("D" + std::to_string(column));
     }
+    for (std::int64_t i = 0; i < zones; ++i) {
+        const LonLat at{kSide * static_cast<double>(i % kRow),
+                        kSide * static_cast<double>(i / kRow)};
+        std::vector<std::string> cells;
+        for (int column = 0; column < kColumns; ++column) {
+            cells.push_back(std::to_string(distinct ? random() / 1000.0 : random() % 20));
+        }
+        map.zones.push_back({{squareAt(at, kSide)}, std::move(cells)});
+    }
+    return map.write(folder, "lote");
+}
+
+void openZones(benchmark::State& state, bool distinct) {
     const TempFolder folder;
-    const std::string path = map.write(folder, "lote");
+    const std::string path = writeZones(folder, state.range(0), distinct);
     QuietDialogs dialogs;
     for (auto _ : state) {
         GphPresc presc;
@@ -62,7 +82,11 @@ void openZones(benchmark::State& state) {
     }
     state.SetItemsProcessed(state.iterations() * state.range(0));
 }
-BENCHMARK(openZones)->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(openZones, repeats, false)->Arg(100000)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(openZones, distinct, true)
+    ->RangeMultiplier(10)
+    ->Range(10000, 100000)
+    ->Unit(benchmark::kMillisecond);
 
 void chooseDoseColumn(benchmark::State& state) {
     GphPresc presc;

@@ -19,6 +19,8 @@ namespace {
 constexpr int kInitialClasses = 6;
 /// Classes that a lookup compares at one go.
 constexpr std::size_t kBlock = 16;
+/// More classes than these are searched by halves.
+constexpr std::size_t kManyClasses = 128;
 
 /// Runs from one colour to another in equal steps a component.
 class Ramp {
@@ -249,6 +251,12 @@ int ColorScale::getClassIndexByValue(double value) const {
     // Counting instead of stopping at the class: a branch on the value is guessed wrong half the
     // time, which costs more than looking at a whole block. Not-a-number is above nothing.
     const std::size_t size = classes_.size();
+    if (size > kManyClasses) {
+        const auto at =
+            std::lower_bound(classes_.begin(), classes_.end(), value,
+                             [](const Clase& clase, double v) { return clase.upper < v; });
+        return std::min(static_cast<int>(at - classes_.begin()), count() - 1);
+    }
     std::size_t below = 0;
     while (below + kBlock < size && classes_[below + kBlock - 1].upper < value) {
         below += kBlock;

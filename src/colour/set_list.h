@@ -3,13 +3,15 @@
 
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
 namespace campora {
 
 /// The distinct values of one numeric column or channel, with totals of every value added.
-/// Not-a-number has no place in an order: adding it does nothing.
+/// Not-a-number has no place in an order: adding it does nothing. Reading puts in order what was
+/// added since: the first reader after an addition must be alone.
 class SetList {
 public:
     /// Adds to the totals and, unless an equal value is there, to the values, kept ascending.
@@ -19,9 +21,9 @@ public:
     void addDosisOld(double value);
 
     /// The distinct values in their stored order.
-    [[nodiscard]] const std::vector<double>& getSet() const { return values_; }
+    [[nodiscard]] const std::vector<double>& getSet() const;
     /// Number of distinct values.
-    [[nodiscard]] int count() const { return static_cast<int>(values_.size()); }
+    [[nodiscard]] int count() const { return static_cast<int>(getSet().size()); }
     /// Sum and number of all values added, repeats included.
     [[nodiscard]] double sum() const { return sum_; }
     [[nodiscard]] std::int32_t addedCount() const { return added_; }
@@ -36,7 +38,12 @@ private:
     /// False for not-a-number, which is left out.
     [[nodiscard]] bool addToTotals(double value);
 
-    std::vector<double> values_;
+    /// Takes the values that wait behind the sorted ones in among them.
+    void settle() const;
+
+    mutable std::vector<double> values_;
+    /// So many values, from the first on, are in order and distinct.
+    mutable std::size_t sorted_ = 0;
     double sum_ = 0;
     std::int32_t added_ = 0;
 };

@@ -51,6 +51,22 @@ TEST(SetList, KeepsDistinctValuesAndTotalsOfAll) {
     }
 }
 
+TEST(SetList, ManyValuesInAnyOrderStayDistinctAndAscending) {
+    constexpr int kMany = 5000;
+    SetList set;
+    for (int i = 0; i < 2 * kMany; ++i) {
+        set.addDosis(i * 7919 % kMany);
+        if (i == kMany / 2) {
+            ASSERT_EQ(set.count(), kMany / 2 + 1);
+        }
+    }
+    ASSERT_EQ(set.count(), kMany);
+    for (int i = 0; i < kMany; ++i) {
+        ASSERT_EQ(set.getSet()[static_cast<std::size_t>(i)], i);
+    }
+    EXPECT_EQ(set.addedCount(), 2 * kMany);
+}
+
 TEST(SetList, SumIsTakenToSinglePrecisionBeforeDividing) {
     SetList set;
     for (const double value : {16777216, 1, 0, 0, 0}) {
