@@ -15,6 +15,7 @@
 #include "platform/quiet_dialogs.h"
 #include "presc/generation.h"
 #include "presc/gph_pre.h"
+#include "presc/layer_zones.h"
 #include "presc/load_grid.h"
 #include "presc/zone_raster.h"
 #include "support/scripted_platform.h"

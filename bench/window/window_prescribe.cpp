@@ -17,6 +17,7 @@
 #include "desktop/qt_locale.h"
 #include "platform/quiet_dialogs.h"
 #include "presc/generation.h"
+#include "presc/layer_zones.h"
 #include "support/shared_samples.h"
 #include "support/temp_folder.h"
 

@@ -6,9 +6,11 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "app/column_question.h"
 #include "app/session.h"
 #include "presc/gph_presc.h"
 
@@ -29,6 +31,13 @@ public:
 
     /// Called with each new percentage of the work on a row; may be empty.
     std::function<void(int row, int percent)> onProgress;
+    /// Called with what is worth knowing and stops nothing; a message when it is empty.
+    std::function<void(const std::string& text)> onNote;
+    /// The questions about the writing of columns are answered so, and what that leaves open is
+    /// refused in the words of the question; none: the user is asked.
+    std::optional<ColumnAnswers> answers;
+    /// Whether what is made of the doses may hold whole numbers only.
+    bool warnsOfDecimals = true;
 
     [[nodiscard]] int rowCount() const { return static_cast<int>(rows_.size()); }
     [[nodiscard]] bool canAdd() const { return !busy_ && rowCount() < kMostChannels; }
@@ -41,8 +50,9 @@ public:
 
     // Bad rows throw `std::out_of_range`.
 
-    /// Asks for the row's map and reads it; warns of maps that lie far from each other. A map that
-    /// cannot be read, which is said, leaves the row without one.
+    /// Asks for the row's map and reads it; warns of maps that lie far from each other, of another
+    /// system of coordinates and of zones on top of each other. A map that cannot be read, or has
+    /// no zones or no table, which is said, leaves the row without one.
     void chooseFile(int row);
     /// Whether the row has a map, and all of it: one that is damaged stays as far as it was read.
     [[nodiscard]] bool isWhole(int row) const;
@@ -70,13 +80,24 @@ private:
         std::string path;
         std::unique_ptr<GphPresc> presc;
         int column = GphPresc::kNoColumn;
+        /// Of the column chosen.
+        ColumnSurvey survey;
+        /// How the column is read, once that is settled.
+        std::optional<ColumnForm> form;
     };
 
     [[nodiscard]] const Row& at(int row) const { return rows_.at(static_cast<std::size_t>(row)); }
     void load(Row& row, int index);
     void follow(GphPresc& presc, int row);
     void warnOfDistance() const;
-    [[nodiscard]] bool isComplete(int row) const;
+    /// Whether the row may be taken; asks what must be asked.
+    [[nodiscard]] bool isComplete(int row);
+    /// Why no channel can be made of the map; empty when one can.
+    [[nodiscard]] std::string faultOf(const GphPresc& presc, const std::string& path) const;
+    void noteOddities(const GphPresc& presc);
+    [[nodiscard]] bool settleForm(Row& row, const std::string& badColumn);
+    [[nodiscard]] bool areDosesFit(int row);
+    void note(const std::string& text) const;
     void warn(const std::string& text) const;
 
     const Session& session_;

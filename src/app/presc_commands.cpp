@@ -79,6 +79,7 @@ void PrescCommands::mnuFilePrescript() {
     for (std::unique_ptr<GphPresc>& channel : channels) {
         made->addChannel(std::move(channel));
     }
+    made->setRule({GridKind::Pre, cellMetres_, {}});
     session_.showOnTop(std::move(made));
 }
 
@@ -112,6 +113,13 @@ std::optional<double> PrescCommands::askCellSize() const {
     return metres;
 }
 
+void PrescCommands::saved(GphPrescVex& prescription, GridRule rule) {
+    cellMetres_ = rule.metres;
+    prescription.setRule(std::move(rule));
+    prescription.dosesSaved();
+    session_.showSummary();
+}
+
 void PrescCommands::mnuFileSavePrescript() {
     GphPrescVex* const open = prescription();
     if (open == nullptr) {
@@ -122,8 +130,9 @@ void PrescCommands::mnuFileSavePrescript() {
         return;
     }
     if (const std::optional<double> metres = askCellSize()) {
-        if (generatePRE(path, roundToInt32(*metres), zonesOf(*open), contextOf(session_))) {
-            open->dosesSaved();
+        if (auto rule =
+                generatePRE(path, roundToInt32(*metres), open->zones(), contextOf(session_))) {
+            saved(*open, std::move(*rule));
         }
     }
 }
@@ -147,9 +156,9 @@ void PrescCommands::mnuFileSaveVrt() {
     VrtTexts about;
     about.name = dialogs.inputBox(TextId::DialogName, caption, proposed);
     about.description = dialogs.inputBox(TextId::SummaryDescription, caption, "");
-    if (generateVRT(path, static_cast<float>(*metres), about, zonesOf(*open),
-                    contextOf(session_))) {
-        open->dosesSaved();
+    if (auto rule = generateVRT(path, static_cast<float>(*metres), about, open->zones(),
+                                contextOf(session_))) {
+        saved(*open, std::move(*rule));
     }
 }
 

@@ -56,8 +56,13 @@ private:
     [[nodiscard]] std::string askTarget(TextId filter, std::string_view ending) const;
     /// Metres; none when the user cancels or types something else, which is said.
     [[nodiscard]] std::optional<double> askCellSize() const;
+    /// From now on the figures are those of the grid that was written.
+    void saved(GphPrescVex& prescription, GridRule rule);
 
     Session& session_;
+    /// Metres: the size of the cells that were written last, by which a new prescription counts its
+    /// figures.
+    double cellMetres_ = GridRule().metres;
 };
 
 }  // namespace campora

@@ -69,6 +69,7 @@ constexpr Name kUnits[] = {
     {"lts", TextId::UnitLitres},
     {"lt/hect", TextId::UnitLitresPerHectare},
     {"unid/hect", TextId::UnitUnitsPerHectare},
+    {"unid", TextId::UnitProduct},
     {"lts/min", TextId::UnitLitresPerMinute},
 };
 

@@ -16,6 +16,8 @@
 #include "base/texts.h"
 #include "model/map_style.h"
 #include "platform/dialogs.h"
+#include "presc/grid_layout.h"
+#include "presc/number_column.h"
 
 namespace campora {
 
@@ -32,7 +34,6 @@ enum class Command {
     Orders,
     Project
 };
-enum class GridKind { Pre, Vrt };
 
 struct PixelSize {
     int width = 0;
@@ -64,6 +65,10 @@ struct ChannelSource {
 struct PrescriptionOrder {
     GridKind kind = GridKind::Pre;
     std::vector<ChannelSource> channels;
+    /// Blank cells of the columns are ground outside every zone.
+    bool blanksOutside = false;
+    /// How the columns write their numbers; none: as it is plain.
+    std::optional<DecimalSign> decimal;
     /// The answer to the question about a grid that is too large.
     Answer oversize = Answer::No;
     /// Metres, of a VRT file.

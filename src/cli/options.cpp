@@ -163,6 +163,18 @@ bool setFormat(Arguments& arguments, std::string_view value) {
                             {{"pre", GridKind::Pre}, {"vrt", GridKind::Vrt}});
 }
 
+bool setBlanks(Arguments& arguments, std::string_view value) {
+    return choose<bool>(arguments.prescription.blanksOutside, value, {{"empty", true}});
+}
+
+bool setDecimalColumn(Arguments& arguments, std::string_view value) {
+    DecimalSign sign{};
+    const bool known = choose<DecimalSign>(
+        sign, value, {{"comma", DecimalSign::Comma}, {"point", DecimalSign::Point}});
+    arguments.prescription.decimal = sign;
+    return known;
+}
+
 bool setResolution(Arguments& arguments, std::string_view value) {
     arguments.prescription.resolution = parse<float>(replaceAll(value, ",", "."));
     return arguments.prescription.resolution.has_value();
@@ -224,6 +236,9 @@ constexpr Option kOptions[] = {
      addChannel},
     {Command::Prescribe, "-o", "OUT.pre|OUT.vrt", TextId::SaveAsTitle, setPath},
     {Command::Prescribe, "--oversize", "keep|cancel|change", TextId::CliOversize, setOversize},
+    {Command::Prescribe, "--blanks", "empty", TextId::CliBlanks, setBlanks},
+    {Command::Prescribe, "--decimal-column", "comma|point", TextId::CliDecimalColumn,
+     setDecimalColumn},
     {Command::Prescribe, "--format", "pre|vrt", TextId::FilterPrescriptions, setFormat},
     {Command::Prescribe, "--resolution", "R", TextId::SummaryResolution, setResolution},
     {Command::Prescribe, "--name", "T", TextId::DialogName,

@@ -18,6 +18,7 @@
 #include "cli/batch_platform.h"
 #include "cli/commands.h"
 #include "presc/generation.h"
+#include "presc/layer_zones.h"
 
 namespace campora {
 
@@ -59,6 +60,14 @@ std::optional<Failure> whyNotOpen(const std::string& path) {
     return file ? std::nullopt : std::optional(file.failure());
 }
 
+std::string joined(const std::vector<std::string>& names) {
+    std::string list;
+    for (const std::string& name : names) {
+        list += list.empty() ? name : ", " + name;
+    }
+    return list;
+}
+
 /// Reads the map of the next channel and chooses its column; false when that cannot be, which is
 /// said.
 bool addChannel(DoseColumns& columns, int row, const ChannelSource& source,
@@ -81,7 +90,7 @@ bool addChannel(DoseColumns& columns, int row, const ChannelSource& source,
     const auto name = std::find(names.begin(), names.end(), source.column);
     if (name == names.end()) {
         dialogs.message(
-            texts.format(TextId::CliBadValue, {"--channel", source.file + "," + source.column}),
+            texts.format(TextId::ColumnNotThere, {source.file, source.column, joined(names)}),
             MessageIcon::Exclamation, texts(TextId::ProgramName));
         return false;
     }
@@ -94,7 +103,8 @@ bool write(const Arguments& arguments, std::span<const ChannelZones> channels,
     const PrescriptionOrder& order = arguments.prescription;
     if (order.kind == GridKind::Vrt) {
         return generateVRT(arguments.output, *order.resolution, {order.name, order.description},
-                           channels, context);
+                           channels, context)
+            .has_value();
     }
     const std::string swath = arguments.swath.value_or(std::string(kUsualSwath));
     // An empty answer is that of a user who cancels.
@@ -109,9 +119,15 @@ int runPrescribe(const Arguments& arguments, const Console& console) {
     NoCanvas canvas;
     BatchSession batch(arguments, canvas, console.boxes);
     const Session& session = batch.session();
+    const PrescriptionOrder& order = arguments.prescription;
     DoseColumns columns(session);
+    columns.onNote = [&console](const std::string& text) {
+        console.boxes << "note: " << oneLine(text) << '\n';
+    };
+    columns.answers = ColumnAnswers{order.blanksOutside, order.decimal};
+    columns.warnsOfDecimals = order.kind == GridKind::Pre;
     int row = 0;
-    for (const ChannelSource& source : arguments.prescription.channels) {
+    for (const ChannelSource& source : order.channels) {
         if (!addChannel(columns, row++, source, session)) {
             return exit_status::kRefused;
         }

@@ -181,4 +181,16 @@ CellValue DbaseFile::value(std::int32_t row, int column) const {
     return decodeCodePage(text, codePage_);
 }
 
+std::string DbaseFile::text(std::int32_t row, int column) const {
+    constexpr std::string_view kTextTypes = "CNFLD";
+    const Column& of = at(column);
+    return kTextTypes.find(of.type) == std::string_view::npos
+               ? std::string()
+               : decodeCodePage(cell(row, of), codePage_);
+}
+
+bool DbaseFile::isTextColumn(int column) const {
+    return at(column).type == 'C';
+}
+
 }  // namespace campora

@@ -39,6 +39,12 @@ public:
     /// The value as a number: one of a number column, or a text that is a number as a whole.
     [[nodiscard]] std::optional<double> number(std::int32_t row, int column) const;
 
+    /// What stands in the cell, whether it is a value of its column or not: UTF-8 without blanks
+    /// around it; empty for columns that hold no text.
+    [[nodiscard]] std::string text(std::int32_t row, int column) const;
+    /// Whether the cells are texts, so that how a number is written in them is anybody's choice.
+    [[nodiscard]] bool isTextColumn(int column) const;
+
 private:
     struct Column {
         std::string name;

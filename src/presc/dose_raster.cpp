@@ -8,6 +8,7 @@
 #include <limits>
 
 #include "base/numbers.h"
+#include "presc/vrt_file.h"
 
 namespace campora {
 
@@ -54,6 +55,10 @@ bool DoseScale::holds(double wholeSteps) const {
     return wholeSteps >= kLeast && wholeSteps <= kGreatest;
 }
 
+DoseScale doseScaleOf(GridKind kind) {
+    return {kind == GridKind::Pre ? 1 : VrtFile::kDoseUnits};
+}
+
 std::optional<Failure> doseFault(std::span<const ChannelZones> channels, const DoseScale& scale) {
     for (std::size_t channel = 0; channel < channels.size(); ++channel) {
         const auto zones = channels[channel].zones;
@@ -70,16 +75,18 @@ std::optional<Failure> doseFault(std::span<const ChannelZones> channels, const D
     return std::nullopt;
 }
 
-std::optional<std::vector<std::int16_t>>
-dosesUnder(std::span<const ChannelZones> channels, const CellCentres& centres,
-           const DoseScale& scale, std::span<const std::int16_t> fallback, Progress& progress) {
+std::optional<GridDoses> dosesUnder(std::span<const ChannelZones> channels,
+                                    const CellCentres& centres, const DoseScale& scale,
+                                    std::span<const std::int16_t> fallback, Progress& progress) {
     std::size_t all = 0;
     for (const ChannelZones& channel : channels) {
         all += channel.order.size();
     }
     ZoneProgress zones(progress, all);
     std::size_t before = 0;
-    std::vector<std::int16_t> doses(centres.x.size() * centres.y.size() * channels.size());
+    GridDoses filled;
+    std::vector<std::int16_t>& doses = filled.doses;
+    doses.resize(centres.x.size() * centres.y.size() * channels.size());
     for (std::size_t channel = 0; channel < channels.size(); ++channel) {
         const auto owners = zonesUnder(channels[channel], centres,
                                        [&](std::size_t done) { return zones.at(before + done); });
@@ -95,10 +102,11 @@ dosesUnder(std::span<const ChannelZones> channels, const CellCentres& centres,
         for (const std::int32_t owner : *owners) {
             doses[place] =
                 owner == kNoZone ? fallback[channel] : ofZone[static_cast<std::size_t>(owner)];
+            filled.meetZones = filled.meetZones || owner != kNoZone;
             place += channels.size();
         }
     }
-    return zones.at(all) ? std::optional(std::move(doses)) : std::nullopt;
+    return zones.at(all) ? std::optional(std::move(filled)) : std::nullopt;
 }
 
 }  // namespace campora

@@ -10,6 +10,7 @@
 
 #include "base/failure.h"
 #include "platform/dialogs.h"
+#include "presc/grid_layout.h"
 #include "presc/zone_raster.h"
 
 namespace campora {
@@ -24,13 +25,22 @@ struct DoseScale {
     [[nodiscard]] bool holds(double steps) const;
 };
 
+[[nodiscard]] DoseScale doseScaleOf(GridKind kind);
+
 /// Why a zone's dose cannot stand in a file, with the first such zone named; none when all can.
 [[nodiscard]] std::optional<Failure> doseFault(std::span<const ChannelZones> channels,
                                                const DoseScale& scale);
 
-/// The doses of all cells in steps, cell by cell, channel 1 first. `fallback`: steps for the cells
+struct GridDoses {
+    /// In steps, cell by cell, channel 1 first.
+    std::vector<std::int16_t> doses;
+    /// Whether any cell has its dose from a zone.
+    bool meetZones = false;
+};
+
+/// The doses of all cells. `fallback`: steps for the cells
 /// of each channel without a zone. All doses fit. None when the user cancels.
-[[nodiscard]] std::optional<std::vector<std::int16_t>>
+[[nodiscard]] std::optional<GridDoses>
 dosesUnder(std::span<const ChannelZones> channels, const CellCentres& centres,
            const DoseScale& scale, std::span<const std::int16_t> fallback, Progress& progress);
 

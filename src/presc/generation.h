@@ -4,14 +4,14 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "presc/channel_zones.h"
-#include "presc/gph_presc.h"
-#include "presc/gph_presc_vex.h"
+#include "presc/grid_layout.h"
 #include "presc/grid_size.h"
 
 namespace campora {
@@ -23,20 +23,17 @@ inline constexpr TextId kFallbackQuestions[kMostChannels] = {
     TextId::AskFallbackDose1, TextId::AskFallbackDose2, TextId::AskFallbackDose3,
     TextId::AskFallbackDose4};
 
-/// A layer as grids are made of it, with the doses that its zones have now.
-[[nodiscard]] ChannelZones zonesOf(const GphPresc& presc);
-/// Channel 1 first.
-[[nodiscard]] std::vector<ChannelZones> zonesOf(const GphPrescVex& prescription);
-
 // The makers of files. Each asks what the format asks for, refuses doses that the file cannot hold
-// and grids that it cannot be, shows progress, and says at the end how much was written. True when
-// the file was written whole; whatever stood at `path` is as it was otherwise.
+// and grids that it cannot be, shows progress, and says at the end how much was written. The
+// rule of its cells when the file was written whole; whatever stood at `path` is as it was
+// otherwise.
 // `channels`: 1 to `kMostChannels`.
 
 /// A PRE file and the blank report that consoles expect beside it. `cellSize`: metres. Where no
 /// zone is, a cell has the dose that the user gives the channel.
-bool generatePRE(std::string_view path, int cellSize, std::span<const ChannelZones> channels,
-                 const GenerationContext& context);
+std::optional<GridRule> generatePRE(std::string_view path, int cellSize,
+                                    std::span<const ChannelZones> channels,
+                                    const GenerationContext& context);
 
 /// What a VRT file says of itself.
 struct VrtTexts {
@@ -45,8 +42,9 @@ struct VrtTexts {
 };
 
 /// A VRT file. `resolution`: metres. Where no zone is, a cell has the dose 0.
-bool generateVRT(std::string_view path, float resolution, const VrtTexts& about,
-                 std::span<const ChannelZones> channels, const GenerationContext& context);
+std::optional<GridRule> generateVRT(std::string_view path, float resolution, const VrtTexts& about,
+                                    std::span<const ChannelZones> channels,
+                                    const GenerationContext& context);
 
 /// The path of the report beside a PRE file: its last three characters are "rpt".
 [[nodiscard]] std::string companionPath(std::string_view path);

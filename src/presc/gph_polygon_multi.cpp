@@ -3,11 +3,33 @@
 
 #include "presc/gph_polygon_multi.h"
 
+#include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <span>
 #include <utility>
 
 namespace campora {
+
+namespace {
+
+/// Canvas units from the middle of a point's mark to its sides.
+constexpr std::int32_t kPointReach = 45;
+/// Pixels.
+constexpr int kLineWidth = 2;
+
+/// From the place to the segment, canvas units.
+double distanceTo(CanvasPoint place, CanvasPoint from, CanvasPoint to) {
+    const double dx = static_cast<double>(to.x) - from.x;
+    const double dy = static_cast<double>(to.y) - from.y;
+    const double px = static_cast<double>(place.x) - from.x;
+    const double py = static_cast<double>(place.y) - from.y;
+    const double square = dx * dx + dy * dy;
+    const double along = square > 0 ? std::clamp((px * dx + py * dy) / square, 0.0, 1.0) : 0;
+    return std::hypot(px - along * dx, py - along * dy);
+}
+
+}  // namespace
 
 void GphPolygonMulti::addPolygon(GphPolygon ring) {
     if (ring.Gph_bound().isSet) {
@@ -18,6 +40,9 @@ void GphPolygonMulti::addPolygon(GphPolygon ring) {
 
 float GphPolygonMulti::Area() const {
     float area = 0;
+    if (kind != FigureKind::Zone) {
+        return area;
+    }
     for (const GphPolygon& ring : rings_) {
         area = ring.isHole ? area - ring.Area() : area + ring.Area();
     }
@@ -26,6 +51,9 @@ float GphPolygonMulti::Area() const {
 
 std::int32_t GphPolygonMulti::ringAt(LonLat position) const {
     std::int32_t found = -1;
+    if (kind != FigureKind::Zone) {
+        return found;
+    }
     for (std::size_t i = rings_.size(); i-- > 0;) {
         if (!rings_[i].holds(position)) {
             continue;
@@ -40,8 +68,52 @@ std::int32_t GphPolygonMulti::ringAt(LonLat position) const {
     return found;
 }
 
+bool GphPolygonMulti::isDrawnNear(const ViewTransform& view, CanvasPoint place,
+                                  std::int32_t reach) const {
+    if (kind == FigureKind::Zone || !view.isFitted()) {
+        return false;
+    }
+    for (const GphPolygon& ring : rings_) {
+        const std::vector<LonLat>& points = ring.points();
+        for (std::size_t i = 0; i < points.size(); ++i) {
+            const std::size_t before = kind == FigureKind::Lines && i > 0 ? i - 1 : i;
+            const CanvasPoint from = view.mapToScreen(points[before].x, points[before].y);
+            const CanvasPoint to = view.mapToScreen(points[i].x, points[i].y);
+            if (distanceTo(place, from, to) <= reach) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+void GphPolygonMulti::plotOpen(MapContext& context) const {
+    MapCanvas& canvas = context.canvas;
+    canvas.setPenWidth(kind == FigureKind::Lines ? kLineWidth : 1);
+    for (const GphPolygon& ring : rings_) {
+        const LonLat* before = nullptr;
+        for (const LonLat& point : ring.points()) {
+            const CanvasPoint at = context.view.mapToScreen(point.x, point.y);
+            const bool isPoint = kind == FigureKind::Points || ring.points().size() == 1;
+            if (isPoint && context.view.mayTouch(point, point, 0)) {
+                canvas.rectangle({at.x - kPointReach, at.y - kPointReach},
+                                 {at.x + kPointReach, at.y + kPointReach}, color,
+                                 RectangleStyle::Filled);
+            } else if (before != nullptr && context.view.mayTouch(*before, point, 0)) {
+                canvas.line(context.view.mapToScreen(before->x, before->y), at, color);
+            }
+            before = &point;
+        }
+    }
+    canvas.setPenWidth(1);
+}
+
 void GphPolygonMulti::Gph_plot(MapContext& context) const {
     if (!context.view.isFitted() || !context.view.mayTouch(bound_, 0)) {
+        return;
+    }
+    if (kind != FigureKind::Zone) {
+        plotOpen(context);
         return;
     }
     std::size_t points = 0;
@@ -59,7 +131,7 @@ void GphPolygonMulti::Gph_plot(MapContext& context) const {
         }
         rings.emplace_back(std::span(corners).subspan(first));
     }
-    context.canvas.setFillColor(color);
+    context.canvas.setFillColor(hasDose ? color : context.style.colors.back);
     context.canvas.setPenColor(context.style.colors.fore);
     context.canvas.polyPolygon(rings);
 }

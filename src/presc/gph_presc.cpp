@@ -22,6 +22,8 @@ namespace {
 constexpr double kSquareMetresPerHectare = 10'000;
 /// Steps of the tree's whole numbers in a degree.
 constexpr double kTreeSteps = 10'000'000;
+/// Canvas units from the pointer to a line or a point that it means.
+constexpr std::int32_t kReach = 90;
 constexpr std::string_view kLineEnd = "\r\n";
 
 std::int32_t toTree(double degrees) {
@@ -108,7 +110,28 @@ void GphPresc::readRecords() {
         collectDoses(reader_.partCount());
         addPolygon(readPolygon(reader_));
     }
+    const auto first =
+        std::find_if(polygons_.begin(), polygons_.end(),
+                     [](const GphPolygonMulti& polygon) { return polygon.Gph_bound().isSet; });
+    figures_ = first == polygons_.end() ? FigureKind::Zone : first->kind;
+    rank();
+    if (!order_.empty()) {
+        figures_ = FigureKind::Zone;
+    }
     report(1, 1);
+}
+
+void GphPresc::rank() {
+    const std::optional<R2TreeFound> all =
+        tree_.Find(tree_.MinX(), tree_.MaxX(), tree_.MinY(), tree_.MaxY(), R2Tree::kOverlapping);
+    order_.clear();
+    below_.clear();
+    above_.clear();
+    for (const R2TreeEntry* entry : all->entries) {
+        const GphPolygonMulti& polygon = polygons_[static_cast<std::size_t>(entry->ChildID)];
+        const bool isOpen = polygon.kind != FigureKind::Zone;
+        (polygon.isZone() ? order_ : isOpen ? above_ : below_).push_back(entry->ChildID);
+    }
 }
 
 void GphPresc::collectDoses(std::int32_t parts) {
@@ -170,22 +193,64 @@ const SetList* GphPresc::currentDosisSet() const {
     return setOf(column_);
 }
 
-void GphPresc::setColumnaDosis(int column) {
-    const SetList* const set = setOf(column);
-    if (set == nullptr) {
+ColumnSurvey GphPresc::survey(int column) const {
+    ColumnSurvey survey(reader_.isTextField(column));
+    for (std::int32_t record = 1; record <= Gph_count(); ++record) {
+        if (polygons_[static_cast<std::size_t>(record) - 1].Gph_bound().isSet) {
+            survey.add(record, reader_.fieldText(record, column),
+                       reader_.fieldNumber(record, column).has_value());
+        }
+    }
+    return survey;
+}
+
+std::vector<std::optional<double>> GphPresc::values(int column, ColumnForm form) const {
+    std::vector<std::optional<double>> values;
+    values.reserve(polygons_.size());
+    for (std::int32_t record = 1; record <= Gph_count(); ++record) {
+        if (!polygons_[static_cast<std::size_t>(record) - 1].Gph_bound().isSet) {
+            values.emplace_back();
+            continue;
+        }
+        std::optional<double> value = reader_.fieldNumber(record, column);
+        if (!value || form.decimal != DecimalSign::Point) {
+            value = numberInForm(reader_.fieldText(record, column), form.decimal);
+        }
+        values.push_back(value);
+    }
+    return values;
+}
+
+void GphPresc::setColumnaDosis(int column, ColumnForm form) {
+    if (column < 1 || column > columnCount() ||
+        (form == ColumnForm() && setOf(column) == nullptr)) {
         return;
+    }
+    const std::vector<std::optional<double>> read = values(column, form);
+    SetList set;
+    set.addDosis(0);
+    for (std::size_t i = 0; i < polygons_.size(); ++i) {
+        for (std::size_t part = 0; part < polygons_[i].rings().size(); ++part) {
+            if (read[i]) {
+                set.addDosis(*read[i]);
+            }
+        }
     }
     column_ = column;
     report(0, 1);
     const std::int32_t count = Gph_count();
     for (std::int32_t i = 0; i < count; ++i) {
         report(i, count);
-        reader_.moveTo(i + 1);
+        GphPolygonMulti& polygon = polygons_[static_cast<std::size_t>(i)];
+        const std::optional<double> value = read[static_cast<std::size_t>(i)];
         // A record without parts has no say in whether the column is numeric.
-        polygons_[static_cast<std::size_t>(i)].dosis =
-            static_cast<float>(reader_.fieldNumber(column).value_or(0));
+        polygon.hasDose = value.has_value() || !form.blanksOutside;
+        polygon.dosis = static_cast<float>(value.value_or(0));
     }
-    scale_.loadFromSetList(*set, 0);  // which colours the zones
+    rank();
+    std::optional<SetList>& current = sets_[static_cast<std::size_t>(column) - 1];
+    current = std::move(set);
+    scale_.loadFromSetList(*current, 0);  // which colours the zones
     report(1, 1);
 }
 
@@ -206,7 +271,9 @@ void GphPresc::recalculateColorScale() {
     SetList set;
     set.addDosis(0);
     for (const GphPolygonMulti& polygon : polygons_) {
-        set.addDosis(static_cast<double>(polygon.dosis));
+        if (polygon.hasDose) {
+            set.addDosis(static_cast<double>(polygon.dosis));
+        }
     }
     std::optional<SetList>& current = sets_[static_cast<std::size_t>(column_) - 1];
     current = std::move(set);
@@ -216,7 +283,7 @@ void GphPresc::recalculateColorScale() {
 void GphPresc::changeValue(double oldValue, double newValue) {
     const auto before = static_cast<float>(oldValue);
     for (GphPolygonMulti& polygon : polygons_) {
-        if (polygon.dosis == before) {
+        if (polygon.hasDose && polygon.dosis == before) {
             polygon.dosis = static_cast<float>(newValue);
             dosesChanged_ = true;
         }
@@ -231,15 +298,15 @@ void GphPresc::colorAgain() {
     }
 }
 
-std::vector<std::int32_t> GphPresc::searchOrder() const {
-    const std::optional<R2TreeFound> all =
-        tree_.Find(tree_.MinX(), tree_.MaxX(), tree_.MinY(), tree_.MaxY(), R2Tree::kOverlapping);
-    std::vector<std::int32_t> order;
-    order.reserve(all->entries.size());
-    for (const R2TreeEntry* entry : all->entries) {
-        order.push_back(entry->ChildID);
+std::vector<std::int32_t> GphPresc::recordsNear(const BoundingBox& box) const {
+    const std::optional<R2TreeFound> found =
+        tree_.Find(toTree(box.minX), toTree(box.maxX), toTree(box.minY), toTree(box.maxY),
+                   R2Tree::kOverlapping);
+    std::vector<std::int32_t> records;
+    for (const R2TreeEntry* entry : found->entries) {
+        records.push_back(entry->ChildID);
     }
-    return order;
+    return records;
 }
 
 std::int32_t GphPresc::polygonIndexAt(LonLat position) const {
@@ -249,7 +316,8 @@ std::int32_t GphPresc::polygonIndexAt(LonLat position) const {
     // The one that the search hands out last lies on top.
     const auto hit =
         std::find_if(found->entries.rbegin(), found->entries.rend(), [&](const R2TreeEntry* entry) {
-            return polygons_[static_cast<std::size_t>(entry->ChildID)].ringAt(position) >= 0;
+            const GphPolygonMulti& polygon = polygons_[static_cast<std::size_t>(entry->ChildID)];
+            return polygon.hasDose && polygon.ringAt(position) >= 0;
         });
     return hit == found->entries.rend() ? -1 : (*hit)->ChildID;
 }
@@ -259,42 +327,62 @@ const GphPolygonMulti* GphPresc::getPolygonAtPoint(double x, double y) const {
     return index < 0 ? nullptr : &polygons_[static_cast<std::size_t>(index)];
 }
 
-double GphPresc::hectares() const {
-    double area = 0;
-    for (const GphPolygonMulti& polygon : polygons_) {
-        area += static_cast<double>(polygon.Area());
-    }
-    return area / kSquareMetresPerHectare;
-}
-
-double GphPresc::totalProduct() const {
-    double product = 0;
-    for (const GphPolygonMulti& polygon : polygons_) {
-        product += static_cast<double>(polygon.dosis) * static_cast<double>(polygon.Area());
-    }
-    return product / kSquareMetresPerHectare;
-}
-
 void GphPresc::Gph_plot(MapContext& context) const {
     context.canvas.setPenColor(context.style.colors.fore);
-    for (const GphPolygonMulti& polygon : polygons_) {
-        polygon.Gph_plot(context);
+    for (const std::vector<std::int32_t>* const rank : {&below_, &order_, &above_}) {
+        for (const std::int32_t record : *rank) {
+            polygons_[static_cast<std::size_t>(record)].Gph_plot(context);
+        }
     }
 }
 
-std::int32_t GphPresc::Gph_mouseOver(const ViewTransform& /*view*/, const MapStyle& /*style*/,
+std::int32_t GphPresc::Gph_mouseOver(const ViewTransform& view, const MapStyle& /*style*/,
                                      LonLat position, std::int32_t /*start*/) const {
-    return polygonIndexAt(position);
+    BoundingBox around;
+    around.addPoint(position.x, position.y);
+    const CanvasPoint place =
+        view.isFitted() ? view.mapToScreen(position.x, position.y) : CanvasPoint();
+    for (const std::int32_t reach : {-kReach, kReach}) {
+        if (view.isFitted() && !above_.empty()) {
+            const LonLat corner = view.screenToMap(static_cast<float>(place.x + reach),
+                                                   static_cast<float>(place.y + reach));
+            around.addPoint(corner.x, corner.y);
+        }
+    }
+    // From what lies on top down.
+    const std::vector<std::int32_t> near = recordsNear(around);
+    const auto topmost = [&](const auto& isMeant) {
+        const auto hit = std::find_if(near.rbegin(), near.rend(), [&](std::int32_t record) {
+            return isMeant(polygons_[static_cast<std::size_t>(record)]);
+        });
+        return hit == near.rend() ? -1 : *hit;
+    };
+    const std::int32_t open = topmost(
+        [&](const GphPolygonMulti& figure) { return figure.isDrawnNear(view, place, kReach); });
+    const std::int32_t zone = open >= 0 ? open : polygonIndexAt(position);
+    return zone >= 0 ? zone : topmost([&](const GphPolygonMulti& figure) {
+        return figure.ringAt(position) >= 0;
+    });
+}
+
+std::string GphPresc::cellText(std::int32_t record, int column, const InfoContext& context) const {
+    reader_.moveTo(record);
+    const CellValue value = reader_.fieldValue(column);
+    return std::holds_alternative<std::monostate>(value)
+               ? reader_.fieldText(record, column)
+               : std::visit(CellText{context.locale}, value);
 }
 
 std::string GphPresc::Gph_getInfo(const InfoContext& context, std::int32_t n) const {
     const GphPolygonMulti& polygon = polygons_.at(static_cast<std::size_t>(n));
-    reader_.moveTo(n + 1);
     std::string text;
     for (int column = 1; column <= columnCount(); ++column) {
         text.append(reader_.fieldName(column)).append(": ");
-        text.append(std::visit(CellText{context.locale}, reader_.fieldValue(column)));
+        text.append(cellText(n + 1, column, context));
         text.append(kLineEnd);
+    }
+    if (polygon.kind != FigureKind::Zone) {
+        return text;
     }
     const double hectares = static_cast<double>(polygon.Area()) / kSquareMetresPerHectare;
     text.append(context.texts.format(TextId::PolygonArea, {shownNumber(hectares, context.locale)}));

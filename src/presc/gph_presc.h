@@ -17,6 +17,7 @@
 #include "model/still_layer.h"
 #include "platform/dialogs.h"
 #include "presc/gph_polygon_multi.h"
+#include "presc/number_column.h"
 #include "presc/shape_reader.h"
 #include "rtree/r2_tree.h"
 
@@ -48,14 +49,28 @@ public:
     [[nodiscard]] const std::string& name() const { return name_; }
     [[nodiscard]] int columnCount() const { return static_cast<int>(columnNames_.size()); }
     [[nodiscard]] const std::vector<std::string>& columnNames() const { return columnNames_; }
+    /// What the map is made of: zones where there is one among its records.
+    [[nodiscard]] FigureKind figures() const { return figures_; }
+    /// Whether there is no table beside the map.
+    [[nodiscard]] bool isTableMissing() const { return reader_.isTableMissing(); }
+    [[nodiscard]] const CoordinateSystem& coordinateSystem() const {
+        return reader_.coordinateSystem();
+    }
+
     /// Whether every record has a number there; false for columns that are not there.
     [[nodiscard]] bool columnaNumeric(int column) const;
     /// The distinct values of a column, ascending, 0 always among them; empty for a column that is
     /// not numeric.
     [[nodiscard]] const std::vector<double>& dosisCollection(int column) const;
-    /// Makes a numeric column the one of the doses: a class a dose, and every zone its dose and
-    /// colour. Nothing for other columns.
-    void setColumnaDosis(int column);
+    /// How the records that draw something have the column filled. Throws `std::out_of_range` for a
+    /// column that is not there.
+    [[nodiscard]] ColumnSurvey survey(int column) const;
+    /// The values of a column read in that form, by zone; none for a zone without one or
+    /// without a point.
+    [[nodiscard]] std::vector<std::optional<double>> values(int column, ColumnForm form) const;
+    /// Makes a column the one of the doses: a class a dose, and every zone its dose and colour. One
+    /// that is not numeric must be so in the form that is given. Nothing for other columns.
+    void setColumnaDosis(int column, ColumnForm form = {});
     [[nodiscard]] int columnaDosis() const { return column_; }
     /// Null before a column is chosen.
     [[nodiscard]] const SetList* currentDosisSet() const;
@@ -71,17 +86,16 @@ public:
     /// The set of the current column and the scale anew, from the doses that the zones have now.
     void recalculateColorScale();
 
-    /// The zones in the order in which every search hands them out: where several hold a position,
-    /// the last of them in this order has it. Zones without a point are in no search.
-    [[nodiscard]] std::vector<std::int32_t> searchOrder() const;
+    /// The zones with a dose in the order in which every search hands them out: where several hold
+    /// a position, the last of them in this order has it and is drawn on top. Zones without a point
+    /// are in no search.
+    [[nodiscard]] const std::vector<std::int32_t>& searchOrder() const { return order_; }
+    /// All records whose box meets that one.
+    [[nodiscard]] std::vector<std::int32_t> recordsNear(const BoundingBox& box) const;
     /// -1 when no zone holds the position (degrees).
     [[nodiscard]] std::int32_t polygonIndexAt(LonLat position) const;
     /// As `polygonIndexAt`; null when there is none. Owned by the layer.
     [[nodiscard]] const GphPolygonMulti* getPolygonAtPoint(double x, double y) const;
-    /// Hectares of all zones.
-    [[nodiscard]] double hectares() const;
-    /// Sum over the zones of dose times hectares.
-    [[nodiscard]] double totalProduct() const;
     [[nodiscard]] ColorScale& escalaColor() { return scale_; }
     [[nodiscard]] const ColorScale& escalaColor() const { return scale_; }
 
@@ -93,7 +107,8 @@ public:
     void Gph_plot(MapContext& context) const override;
     [[nodiscard]] std::int32_t Gph_mouseOver(const ViewTransform& view, const MapStyle& style,
                                              LonLat position, std::int32_t start) const override;
-    /// The columns of zone n and its area. Throws `std::out_of_range` for a bad zone.
+    /// The columns of zone n as the table holds them, and its area. Throws `std::out_of_range` for
+    /// a bad zone.
     [[nodiscard]] std::string Gph_getInfo(const InfoContext& context,
                                           std::int32_t n) const override;
 
@@ -115,6 +130,10 @@ private:
     void readRecords();
     /// The values of the current record, once for each of its parts.
     void collectDoses(std::int32_t parts);
+    /// The order of the search, and the doses that take part in it.
+    void rank();
+    [[nodiscard]] std::string cellText(std::int32_t record, int column,
+                                       const InfoContext& context) const;
     void addPolygon(GphPolygonMulti polygon);
     void changeValue(double oldValue, double newValue);
     void colorAgain();
@@ -132,6 +151,12 @@ private:
     /// Steps through the records again for doses and information, which changes nothing that shows.
     mutable ShapeReader reader_;
     R2Tree tree_;
+    std::vector<std::int32_t> order_;
+    /// Everything else that is drawn: ground without a dose, below the zones, and lines and points,
+    /// above them.
+    std::vector<std::int32_t> below_;
+    std::vector<std::int32_t> above_;
+    FigureKind figures_ = FigureKind::Zone;
     int column_ = kNoColumn;
     FileProperties summary_;
     std::vector<Gph*> layers_{this};

@@ -8,22 +8,20 @@
 #include <utility>
 
 #include "base/numbers.h"
+#include "presc/dose_raster.h"
+#include "presc/grid_geometry.h"
+#include "presc/grid_layer.h"
+#include "presc/layer_zones.h"
 
 namespace campora {
 
 namespace {
 
-/// Decimals of the figures, as a factor.
-constexpr double kHundredths = 100;
+constexpr double kSquareMetresPerHectare = 10'000;
 
 /// "Archivo (C 2)" for channel 1. Summaries are data: their names are the same in every language.
 std::string entryName(std::string_view what, std::size_t channel) {
     return std::string(what) + " (C " + numberText(channel + 1) + ")";
-}
-
-/// A sprayer is filled by these figures: two decimals whatever their size.
-std::string summaryNumber(double value) {
-    return numberText(roundHalfEven(value * kHundredths) / kHundredths);
 }
 
 }  // namespace
@@ -34,7 +32,66 @@ void GphPrescVex::addChannel(std::unique_ptr<GphPresc> presc) {
     }
     changes_.push_back(presc->escalaColor().onChanged([this] { summaryIsStale_ = true; }));
     channels_.push_back(std::move(presc));
+    counts_.clear();
     summaryIsStale_ = true;
+}
+
+std::vector<ChannelZones> GphPrescVex::zones() const {
+    std::vector<ChannelZones> zones;
+    for (const std::unique_ptr<GphPresc>& channel : channels_) {
+        zones.push_back(zonesOf(*channel));
+    }
+    return zones;
+}
+
+void GphPrescVex::setRule(GridRule rule) {
+    rule_ = std::move(rule);
+    counts_.clear();
+    summaryIsStale_ = true;
+}
+
+void GphPrescVex::countCells() {
+    counts_.assign(channels_.size(), {});
+    const std::vector<ChannelZones> channels = zones();
+    const BoundingBox bound = boundOf(channels);
+    if (!bound.isSet || metresPerDegreeAt(bound.maxY) <= 0 || metresPerDegreeAt(bound.minY) <= 0) {
+        return;
+    }
+    countedMetres_ = rule_.metres;
+    GridSize size = gridSize(bound, countedMetres_);
+    while (size.columns * size.rows > kMostGridCells) {
+        countedMetres_ *= 2;
+        size = gridSize(bound, countedMetres_);
+    }
+    const GridLayout layout = gridLayout(rule_.kind, bound, countedMetres_, size);
+    for (std::size_t i = 0; i < channels.size(); ++i) {
+        counts_[i].ofZone.resize(channels[i].zones.size());
+        const auto owners =
+            zonesUnder(channels[i], layout.centres, [](std::size_t /*zonesDone*/) { return true; });
+        for (const std::int32_t owner : *owners) {
+            ++(owner == kNoZone ? counts_[i].outside
+                                : counts_[i].ofZone[static_cast<std::size_t>(owner)]);
+        }
+    }
+}
+
+GphPrescVex::Figures GphPrescVex::figures(std::size_t channel) const {
+    const DoseScale scale = doseScaleOf(rule_.kind);
+    const CellCount& count = counts_[channel];
+    const std::vector<GphPolygonMulti>& zones = channels_[channel]->polygons();
+    double dosed = 0;
+    double steps = 0;
+    const auto add = [&](std::int64_t cells, double dose) {
+        dosed += dose != 0 ? static_cast<double>(cells) : 0;
+        steps += dose * static_cast<double>(cells);
+    };
+    for (std::size_t zone = 0; zone < count.ofZone.size(); ++zone) {
+        add(count.ofZone[zone], scale.stepsOf(zones[zone].dosis));
+    }
+    add(count.outside, channel < rule_.fallback.size() ? rule_.fallback[channel] : 0);
+    const double cellM2 = countedMetres_ * countedMetres_;
+    return {cellM2 * dosed / kSquareMetresPerHectare,
+            steps / scale.steps * (cellM2 / kSquareMetresPerHectare)};
 }
 
 void GphPrescVex::setCurrentChannel(int channel) {
@@ -50,6 +107,9 @@ FileProperties& GphPrescVex::File_resumen() {
     if (!std::exchange(summaryIsStale_, false)) {
         return summary_;
     }
+    if (counts_.empty()) {
+        countCells();
+    }
     summary_.clear();
     for (std::size_t i = 0; i < channels_.size(); ++i) {
         const GphPresc& presc = *channels_[i];
@@ -62,10 +122,10 @@ FileProperties& GphPrescVex::File_resumen() {
                              "");
     }
     for (std::size_t i = 0; i < channels_.size(); ++i) {
-        summary_.addProperty(entryName("Superficie", i), summaryNumber(channels_[i]->hectares()),
-                             "Has");
-        summary_.addProperty(entryName("Producto total", i),
-                             summaryNumber(channels_[i]->totalProduct()), "");
+        const Figures sums = figures(i);
+        summary_.addProperty(entryName("Superficie", i), summaryFigure(sums.hectares, '.'), "Has");
+        summary_.addProperty(entryName("Producto total", i), summaryFigure(sums.product, '.'),
+                             "unid");
     }
     return summary_;
 }

@@ -3,13 +3,17 @@
 
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "model/exportable.h"
 #include "model/file.h"
+#include "presc/channel_zones.h"
 #include "presc/gph_presc.h"
+#include "presc/grid_layout.h"
 
 namespace campora {
 
@@ -32,6 +36,12 @@ public:
     [[nodiscard]] bool dosesChanged() const;
     void dosesSaved();
 
+    /// Channel 1 first, with the doses of now; it holds while no channel changes.
+    [[nodiscard]] std::vector<ChannelZones> zones() const;
+    /// The rule by which the figures of the summary are counted: that of the grid that was written
+    /// last, or would be.
+    void setRule(GridRule rule);
+
     /// Throws `std::out_of_range` for a bad channel.
     void setCurrentChannel(int channel) override;
     [[nodiscard]] int channelsCnt() const override { return static_cast<int>(channels_.size()); }
@@ -43,8 +53,8 @@ public:
     [[nodiscard]] std::string File_icon() const override { return "dosis"; }
     /// Null while there is no channel.
     [[nodiscard]] ColorScale* File_escalaColores() override;
-    /// File and column of every channel, then surface and total product of every channel, by the
-    /// doses that the zones have now.
+    /// File and column of every channel, then surface and total product of every channel: sums over
+    /// the cells of its grid, by the doses that the zones have now.
     [[nodiscard]] FileProperties& File_resumen() override;
     [[nodiscard]] const BoundingBox& File_bound() const override { return bound_; }
     /// The current channel's layer.
@@ -53,6 +63,24 @@ public:
     [[nodiscard]] std::int32_t File_priority() const override { return 0; }
 
 private:
+    /// How many cells have their dose from each zone of a channel, and how many from none.
+    struct CellCount {
+        std::vector<std::int64_t> ofZone;
+        std::int64_t outside = 0;
+    };
+    struct Figures {
+        double hectares = 0;
+        double product = 0;
+    };
+
+    void countCells();
+    [[nodiscard]] Figures figures(std::size_t channel) const;
+
+    GridRule rule_;
+    /// Of every channel; none before they are counted.
+    std::vector<CellCount> counts_;
+    /// Of the grid that was counted: wider than the rule's where that grid could not be.
+    double countedMetres_ = 0;
     std::string name_;
     std::vector<std::unique_ptr<GphPresc>> channels_;
     int current_ = 0;

@@ -8,6 +8,7 @@
 #include <stdexcept>
 
 #include "base/numbers.h"
+#include "presc/ring_holes.h"
 
 namespace campora {
 
@@ -34,9 +35,6 @@ constexpr std::size_t kLeast = 4;        // the type
 constexpr std::size_t kRecordHeader = 8;  // number and length in words, i32 big-endian each
 constexpr std::size_t kIndexEntry = 8;    // offset and length in words, i32 big-endian each
 constexpr std::size_t kPartStartBytes = 4;
-/// A ring's area against the products of which it is the sum: below this only the last digits of
-/// its corners keep them off one line.
-constexpr double kNoArea = 1e-9;
 constexpr double kMostLongitude = 180;
 constexpr double kMostLatitude = 90;
 
@@ -130,34 +128,22 @@ void Shape::collectParts(std::vector<ShapePart>& parts) const {
     }
 }
 
-double Shape::twiceArea(const ShapePart& part) const {
-    // About the first corner, so that small rings far from the origin keep their digits.
-    const LonLat origin = vertex(part.first);
-    double sum = 0;
-    double sizes = 0;
-    LonLat from;
-    for (std::int32_t i = part.first + 1; i <= part.last; ++i) {
-        const LonLat corner = vertex(i);
-        const LonLat to{corner.x - origin.x, corner.y - origin.y};
-        sum += from.x * to.y - to.x * from.y;
-        sizes += std::abs(from.x * to.y) + std::abs(to.x * from.y);
-        from = to;
-    }
-    return std::abs(sum) > kNoArea * sizes ? sum : 0;
-}
-
 void Shape::markHoles(std::vector<ShapePart>& parts) const {
-    bool anyWithTheClock = false;
-    for (ShapePart& part : parts) {
-        const double area = twiceArea(part);  // negative with the clock
-        part.isHole = area > 0;
-        anyWithTheClock = anyWithTheClock || area < 0;
+    std::vector<LonLat> points;
+    points.reserve(static_cast<std::size_t>(vertexCount()));
+    for (std::int32_t i = 0; i < vertexCount(); ++i) {
+        points.push_back(vertex(i));
     }
-    if (anyWithTheClock) {
-        return;
+    std::vector<RingPoints> rings;
+    rings.reserve(parts.size());
+    for (const ShapePart& part : parts) {
+        rings.push_back(RingPoints(points).subspan(static_cast<std::size_t>(part.first),
+                                                   static_cast<std::size_t>(part.last) + 1 -
+                                                       static_cast<std::size_t>(part.first)));
     }
-    for (ShapePart& part : parts) {  // drawn the wrong way round throughout
-        part.isHole = false;
+    const std::vector<bool> holes = holesAmong(rings);
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        parts[i].isHole = holes[i];
     }
 }
 

@@ -65,8 +65,6 @@ private:
     static constexpr std::size_t kVertexBytes = 16;
 
     [[noreturn]] static void refuseIndex();
-    /// Positive against the clock; 0 when it is lost in the last digits of the coordinates.
-    [[nodiscard]] double twiceArea(const ShapePart& part) const;
     void markHoles(std::vector<ShapePart>& parts) const;
 
     ShapeType type_ = ShapeType::Null;

@@ -8,8 +8,27 @@
 
 namespace campora {
 
+namespace {
+
+FigureKind kindOf(ShapeType type) {
+    switch (type) {
+    case ShapeType::Point:
+    case ShapeType::MultiPoint:
+        return FigureKind::Points;
+    case ShapeType::PolyLine:
+        return FigureKind::Lines;
+    case ShapeType::Null:
+    case ShapeType::Polygon:
+        break;
+    }
+    return FigureKind::Zone;
+}
+
+}  // namespace
+
 GphPolygonMulti readPolygon(const ShapeReader& reader) {
     GphPolygonMulti figure;
+    figure.kind = kindOf(reader.figureType());
     const std::int32_t parts = reader.partCount();
     for (std::int32_t part = 1; part <= parts; ++part) {
         GphPolygon ring;

@@ -7,6 +7,7 @@
 #include <stdexcept>
 #include <utility>
 
+#include "base/encoding.h"
 #include "base/file_head.h"
 #include "base/numbers.h"
 #include "base/paths.h"
@@ -32,6 +33,21 @@ FileBytes readIfPossible(std::string_view path) {
     return file ? std::move(*file) : FileBytes();
 }
 
+/// The failure with the projection of the map in place of the mere fact that it has one.
+Failure withProjection(Failure failure, const CoordinateSystem& system) {
+    if (failure.text == TextId::ShapeNotGeographic && !system.projection.empty()) {
+        failure.text = TextId::MapNotGeographicNamed;
+        failure.arguments.push_back(system.projection);
+    }
+    return failure;
+}
+
+CoordinateSystem readCoordinateSystem(std::string_view base) {
+    constexpr std::size_t kLongest = 20'000;
+    return coordinateSystemOf(
+        decodeText(readFileHead(companionOf(base, ".prj"), kLongest).value_or(std::string())));
+}
+
 }  // namespace
 
 ShapeReader::ShapeReader() : files_(std::make_unique<Files>()) {}
@@ -45,11 +61,13 @@ std::optional<Failure> ShapeReader::open(std::string_view path) {
     auto files = std::make_unique<Files>();
     files->shapeBytes = std::move(*main);
     const std::string_view base = withoutEnding(path);
+    files->system = readCoordinateSystem(base);
     const FileBytes index = readIfPossible(companionOf(base, ".shx"));
     try {
         files->shapes = ShapeFile(files->shapeBytes.bytes(), index.bytes());
     } catch (const FormatError& error) {
-        return because(TextId::FileCannotBeRead, {std::string(path)}, error.failure());
+        return because(TextId::FileCannotBeRead, {std::string(path)},
+                       withProjection(error.failure(), files->system));
     }
     if (const std::optional<Failure>& damage = files->shapes.damage()) {
         files->damage =
@@ -65,6 +83,7 @@ std::optional<Failure> ShapeReader::open(std::string_view path) {
 void ShapeReader::readTable(std::string_view base, Files& files) {
     const std::string path = companionOf(base, ".dbf");
     if (!isThere(path)) {
+        files.tableMissing = true;
         return;
     }
     Result<FileBytes> table = readFile(path);
@@ -111,6 +130,18 @@ CellValue ShapeReader::fieldValue(int column) const {
 
 std::optional<double> ShapeReader::fieldNumber(int column) const {
     return files_->table.number(row(), column - 1);
+}
+
+std::optional<double> ShapeReader::fieldNumber(std::int32_t record, int column) const {
+    return files_->table.number(record - 1, column - 1);
+}
+
+std::string ShapeReader::fieldText(std::int32_t record, int column) const {
+    return files_->table.text(record - 1, column - 1);
+}
+
+bool ShapeReader::isTextField(int column) const {
+    return files_->table.isTextColumn(column - 1);
 }
 
 const ShapePart& ShapeReader::part(std::int32_t part) const {

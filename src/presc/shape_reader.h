@@ -13,6 +13,7 @@
 #include "base/failure.h"
 #include "base/files.h"
 #include "model/cell_value.h"
+#include "presc/coordinate_system.h"
 #include "presc/dbase_file.h"
 #include "presc/shape_file.h"
 
@@ -36,6 +37,11 @@ public:
         return files_->tableWarning;
     }
 
+    /// Whether there is no table beside the map at all.
+    [[nodiscard]] bool isTableMissing() const { return files_->tableMissing; }
+    /// What the file beside the map says about its coordinates.
+    [[nodiscard]] const CoordinateSystem& coordinateSystem() const { return files_->system; }
+
     /// Why the records end before the map does, in words that follow others; none when it is whole.
     [[nodiscard]] const std::optional<Failure>& damage() const { return files_->damage; }
 
@@ -57,6 +63,15 @@ public:
     /// The value as a number: a number, or a text that is one as a whole. Nothing is allocated.
     [[nodiscard]] std::optional<double> fieldNumber(int column) const;
 
+    /// The value as a number without going to the record, whose parts are costly.
+    [[nodiscard]] std::optional<double> fieldNumber(std::int32_t record, int column) const;
+    /// What stands in the cell, value of its column or not, without blanks around it.
+    [[nodiscard]] std::string fieldText(std::int32_t record, int column) const;
+    /// Whether the column holds texts, which may be numbers.
+    [[nodiscard]] bool isTextField(int column) const;
+
+    /// What the current record draws; `ShapeType::Null` when nothing.
+    [[nodiscard]] ShapeType figureType() const { return shape_.type(); }
     /// Parts with at least one vertex; a point or a set of points is one part.
     [[nodiscard]] std::int32_t partCount() const {
         return static_cast<std::int32_t>(parts_.size());
@@ -65,7 +80,7 @@ public:
     [[nodiscard]] std::int32_t partLastVertex(std::int32_t part) const;
     /// 1 for a hole, 0 for any other part.
     [[nodiscard]] int partRingCode(std::int32_t part) const { return partIsHole(part) ? 1 : 0; }
-    /// A ring of a polygon that runs against the clock while another of the record runs with it.
+    /// See `holesAmong`; false for what is no polygon.
     [[nodiscard]] bool partIsHole(std::int32_t part) const;
     /// Degrees.
     [[nodiscard]] double vertexX(std::int32_t vertex) const { return shape_.vertex(vertex).x; }
@@ -81,6 +96,8 @@ private:
         DbaseFile table;
         std::optional<Failure> damage;
         std::optional<Failure> tableWarning;
+        bool tableMissing = false;
+        CoordinateSystem system;
     };
 
     static constexpr std::int32_t kNoRow = -1;

@@ -3,6 +3,7 @@
 
 #include "app/presc_commands.h"
 
+#include <algorithm>
 #include <filesystem>
 
 #include <gtest/gtest.h>
@@ -112,7 +113,8 @@ TEST_F(PrescCommandsTest, TheDoseToolChangesAZoneOfTheCurrentChannel) {
     EXPECT_EQ(commands.prescription()->channel(1).polygons()[0].dosis, 7.5F);
     const SummaryRow product = window.summary.back();
     EXPECT_EQ(product.property, "Producto total (C 2)");
-    EXPECT_NEAR(std::stod(product.value), 13.5 * 103.95, 1);
+    EXPECT_TRUE(product.value.ends_with(" unid")) << product.value;
+    EXPECT_NEAR(std::stod(product.value), (8 + 6) * 103.95, 15) << "in whole doses, as a PRE";
 
     ASSERT_TRUE(session.loadFile(folder.file("canal1.shp"), false, true));
     session.removeFile(commands.prescription());
@@ -127,7 +129,7 @@ TEST_F(PrescCommandsTest, TheLegendChangesADoseAndTheSummaryFollows) {
     session.legend().askClassValue(1);
     EXPECT_EQ(legend(), (Names{"0", "20", "40"}));
     EXPECT_EQ(window.legend.valueChangeCaption, "Cambiar Dosis");
-    EXPECT_NEAR(std::stod(window.summary.back().value), 100 * 103.95, 10);
+    EXPECT_NEAR(std::stod(window.summary.back().value), 100 * 103.95, 100);
 }
 
 TEST_F(PrescCommandsTest, SavesAPreThatShowsTheChangedDoses) {
@@ -145,9 +147,19 @@ TEST_F(PrescCommandsTest, SavesAPreThatShowsTheChangedDoses) {
     EXPECT_EQ(dialogs.inputs[0], "192|Campora|20");
     EXPECT_TRUE(std::filesystem::exists(nativePath(folder.file("salida/uno.rpt"))));
 
+    const std::vector<SummaryRow> panel = window.summary;
     ASSERT_TRUE(session.loadFile(path, true, true));
     EXPECT_FALSE(commands.isOpen());
     EXPECT_EQ(legend(), (Names{"1", "10", "33"}));
+    for (const std::string figure : {"Superficie (C 1)", "Producto total (C 1)"}) {
+        const auto valueIn = [&figure](const std::vector<SummaryRow>& rows) {
+            const auto row = std::find_if(rows.begin(), rows.end(), [&](const SummaryRow& each) {
+                return each.property == figure;
+            });
+            return row == rows.end() ? figure : row->value.substr(0, row->value.find(' '));
+        };
+        EXPECT_EQ(valueIn(panel), valueIn(window.summary)) << "after the save, to the cell";
+    }
 }
 
 TEST_F(PrescCommandsTest, SavesAVrtUnderItsName) {

@@ -84,6 +84,8 @@ TEST(Prescribe, AWrongCommandLineIsRefused) {
         {"prescribe", "--channel", "a.shp,D", "-o", "a.vrt"},
         {"prescribe", "--channel", "a.shp,D", "-o", "a.vrt", "--format", "vrt"},
         {"prescribe", "--channel", "a.shp,D", "-o", "a.pre", "--oversize", "no"},
+        {"prescribe", "--channel", "a.shp,D", "-o", "a.pre", "--blanks", "0"},
+        {"prescribe", "--channel", "a.shp,D", "-o", "a.pre", "--decimal-column", ";"},
     };
     for (const Words& words : rows) {
         EXPECT_EQ(run(words).status, 2) << testing::PrintToString(words);
@@ -105,7 +107,8 @@ TEST(Prescribe, SaysWhatItWroteAndAnswersAsItIsTold) {
         {"as proposed", "DOSIS", "10", "keep", 0, "Canal 1: 390 celdas con dosis, 3.9 ha, "},
         {"no fallback", "DOSIS,", "10", "keep", 0, "Canal 1: 242 celdas con dosis, 2.42 ha, "},
         {"a size of 0", "DOSIS", "0", "keep", 1, "mayor que 0"},
-        {"no such column", "dosis", "10", "keep", 1, "mapa.shp,dosis"},
+        {"no such column", "dosis", "10", "keep", 1,
+         "la columna «dosis». Elija una de estas: DOSIS, N"},
         {"texts", "NOMBRE", "10", "keep", 1, "contiene valores no numéricos"},
     };
     for (const Row& row : rows) {
@@ -122,6 +125,26 @@ TEST(Prescribe, SaysWhatItWroteAndAnswersAsItIsTold) {
         run({"prescribe", "--channel", folder.file("no.shp") + ",D", "-o", folder.file("out.pre")});
     EXPECT_EQ(missing.status, 1);
     EXPECT_THAT(missing.boxes, HasSubstr("no.shp: no existe"));
+}
+
+TEST(Prescribe, ColumnsOfPeopleAreReadAsItIsTold) {
+    const auto samples = sharedSample("samples/presc");
+    if (!samples) {
+        GTEST_SKIP() << "no shared samples";
+    }
+    const TempFolder folder;
+    const std::string channel = *samples + "/nulls.shp,CON_NULO,7";
+    const std::string out = folder.file("out.pre");
+    const Outcome refused = run({"prescribe", "--channel", channel, "-o", out});
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_THAT(refused.boxes, HasSubstr("Zonas sin valor en la columna CON_NULO: 1 (la primera"));
+    EXPECT_FALSE(std::filesystem::exists(out));
+    const Outcome taken = run({"prescribe", "--channel", channel, "--blanks", "empty", "-o", out});
+    EXPECT_EQ(taken.status, 0) << taken.boxes;
+    const Outcome overlap =
+        run({"prescribe", "--channel", *samples + "/overlap.shp,DOSIS", "-o", out});
+    EXPECT_EQ(overlap.status, 0);
+    EXPECT_THAT(overlap.boxes, HasSubstr("note: Polígonos de overlap.shp que se superponen"));
 }
 
 TEST(Prescribe, EveryChannelOfAPrescriptionCanBeDrawn) {

@@ -44,11 +44,13 @@ struct Desk {
     std::string vrtPath = folder.file("lote.vrt");
 
     bool pre(const std::vector<ZoneLayer>& layers, int cellSize = 20) {
-        return generatePRE(prePath, cellSize, channels(layers), {dialogs, texts, locale});
+        return generatePRE(prePath, cellSize, channels(layers), {dialogs, texts, locale})
+            .has_value();
     }
     bool vrt(const std::vector<ZoneLayer>& layers, float resolution = 20) {
         return generateVRT(vrtPath, resolution, {"Norte", ""}, channels(layers),
-                           {dialogs, texts, locale});
+                           {dialogs, texts, locale})
+            .has_value();
     }
     [[nodiscard]] PreFile readPre() const {
         const Result<FileBytes> file = readFile(prePath);
@@ -162,8 +164,12 @@ TEST(Generation, AGridTooLargeForConsolesIsAskedAbout) {
         int columns;
         const char* names;
         const char* proposes;
+        int cell = 2;
+        double width = 2000;
     };
     const Row rows[] = {
+        {"as many as consoles take", {}, {}, true, 480, nullptr, nullptr, 2, 952},
+        {"one more", {Answer::Cancel}, {}, false, 0, "menor a 3\n", nullptr, 2, 954},
         {"keep it", {Answer::No}, {}, true, 1004, "menor a 4\n", nullptr},
         {"leave it", {Answer::Cancel}, {}, false, 0, "menor a 4\n", nullptr},
         {"as proposed", {Answer::Yes, Answer::Yes}, {"4", "5"}, true, 404, "menor a 5\n", "5"},
@@ -176,11 +182,14 @@ TEST(Generation, AGridTooLargeForConsolesIsAskedAbout) {
         desk.dialogs.answers = row.answers;
         desk.dialogs.inputAnswers = row.inputs;
         desk.dialogs.inputAnswers.push_front("0");
-        EXPECT_EQ(desk.pre({oneZone(5, 2000, 400)}, 2), row.written);
+        EXPECT_EQ(desk.pre({oneZone(5, row.width, 400)}, row.cell), row.written);
         EXPECT_EQ(desk.readPre().header.columns, row.columns);
         ASSERT_EQ(desk.dialogs.questions.size(), row.answers.size());
-        EXPECT_THAT(desk.dialogs.questions.back(), HasSubstr(row.names));
+        if (row.names != nullptr) {
+            EXPECT_THAT(desk.dialogs.questions.back(), HasSubstr(row.names));
+        }
         if (row.proposes != nullptr) {
+            ASSERT_FALSE(desk.dialogs.inputs.empty());
             EXPECT_EQ(desk.dialogs.inputs.back(), std::string("192|Campora|") + row.proposes);
         }
     }
@@ -196,6 +205,8 @@ TEST(Generation, WhatNoFileCanHoldIsRefusedBeforeAnythingIsWritten) {
     };
     ZoneLayer far = oneZone(1);
     far.add(32768, {rectangleRing(11, 0, 11, 0)});
+    ZoneLayer thin;  // between the rows of centres
+    thin.add(1, {rectangleRing(10, 0, 10.001, 1e-6)});
     ZoneLayer pole;
     pole.add(1, {rectangleRing(10, 89, 11, 90)});
     const Row rows[] = {
@@ -203,6 +214,7 @@ TEST(Generation, WhatNoFileCanHoldIsRefusedBeforeAnythingIsWritten) {
         {"below 16 bits", oneZone(-32769), 20, false, "debe ser de -32768 a 32767"},
         {"in a zone that no cell meets", far, 20, false, "la dosis 32768 de la zona 2"},
         {"above hundredths", oneZone(327.68F), 20, true, "debe ser de -327.68 a 327.67"},
+        {"no cell meets a zone", thin, 20, true, "ninguna celda cae en una zona"},
         {"no zones", ZoneLayer(), 20, false, "no tiene ningún polígono"},
         {"no width", oneZone(1), 0, false, "mayor que 0 y hasta 32767 metros: 0"},
         {"the pole", pole, 20, false, "el mapa llega hasta el polo"},
@@ -212,7 +224,7 @@ TEST(Generation, WhatNoFileCanHoldIsRefusedBeforeAnythingIsWritten) {
         Desk desk;
         EXPECT_FALSE(row.vrt ? desk.vrt({row.layer}, static_cast<float>(row.size))
                              : desk.pre({row.layer}, static_cast<int>(row.size)));
-        EXPECT_THAT(desk.dialogs.messages, ElementsAre(HasSubstr(row.says)));
+        ASSERT_THAT(desk.dialogs.messages, ElementsAre(HasSubstr(row.says)));
         EXPECT_THAT(desk.dialogs.messages.front(), HasSubstr(row.vrt ? "lote.vrt" : "lote.pre"));
         EXPECT_THAT(desk.files(), IsEmpty());
     }

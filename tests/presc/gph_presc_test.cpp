@@ -3,9 +3,14 @@
 
 #include "presc/gph_presc.h"
 
+#include <algorithm>
+#include <tuple>
+
 #include <gtest/gtest.h>
 
 #include "base/files.h"
+#include "base/numbers.h"
+#include "support/recording_canvas.h"
 #include "support/scripted_platform.h"
 #include "support/zone_map.h"
 
@@ -34,12 +39,12 @@ struct PrescTest : testing::Test {
     }
     /// Whether every zone has the colour of its class.
     [[nodiscard]] bool isColoured() const {
-        for (const GphPolygonMulti& polygon : presc.polygons()) {
-            if (polygon.color != presc.escalaColor().getClassByValue(polygon.dosis)->color) {
-                return false;
-            }
-        }
-        return true;
+        return std::all_of(presc.polygons().begin(), presc.polygons().end(),
+                           [this](const GphPolygonMulti& polygon) {
+                               const Clase* clase =
+                                   presc.escalaColor().getClassByValue(polygon.dosis);
+                               return clase != nullptr && polygon.color == clase->color;
+                           });
     }
 
     TempFolder folder;
@@ -101,9 +106,6 @@ TEST_F(PrescTest, DosesChangeByClassAndByZone) {
     EXPECT_EQ(scale(), (Values{0, 77.5, 120}));
     EXPECT_TRUE(isColoured());
     EXPECT_THROW(presc.setDosis(3, 1), std::out_of_range);
-    // 0.01 degrees are 1113.2 metres to the north, and at 33 degrees 933.6 to the east.
-    EXPECT_NEAR(presc.hectares(), 3 * 103.95, 0.2);
-    EXPECT_NEAR(presc.totalProduct(), 317.5 * 103.95, 20);
 }
 
 TEST_F(PrescTest, TheLastZoneOfTheSearchOrderHasThePlace) {
@@ -123,6 +125,81 @@ TEST_F(PrescTest, TellsTheColumnsAndTheAreaOfAZone) {
     ASSERT_TRUE(load(rowOfZones({"0.5"}, {0, 0})));
     EXPECT_EQ(presc.Gph_getInfo({texts, locale, style}, 0),
               "DOSIS: 0.5\r\nNOMBRE: zona 0\r\nArea calculada: 124 Has\r\n");
+}
+
+TEST_F(PrescTest, DrawsOnTopWhatACellGets) {
+    // Each on its neighbours, and so many that the search does not go by records.
+    ZoneMap map{{"DOSIS"}, {}};
+    for (int i = 0; i < 120; ++i) {
+        map.zones.push_back({{squareAt({0.01 * (i * 37 % 120), 0}, 0.015)}, {std::to_string(i)}});
+    }
+    ASSERT_TRUE(load(map));
+    presc.setColumnaDosis(1);
+    ASSERT_FALSE(std::is_sorted(presc.searchOrder().begin(), presc.searchOrder().end()));
+    RecordingCanvas canvas({12000, 1000});
+    const ViewTransform view(12, 12, {0, 0}, {12000, 1000});
+    MapContext context{canvas, view, style};
+    presc.Gph_plot(context);
+    const std::vector<std::string> drawn = canvas.callsOf("polypolygon");
+    ASSERT_EQ(drawn.size(), presc.searchOrder().size());
+    for (std::size_t i = 0; i < drawn.size(); ++i) {
+        const auto zone = static_cast<std::size_t>(presc.searchOrder()[i]);
+        EXPECT_TRUE(drawn[i].starts_with("polypolygon fill=0x" +
+                                         hexText(presc.polygons()[zone].color.value, 6)));
+    }
+}
+
+TEST_F(PrescTest, ABlankOfTheColumnIsGroundOutsideEveryZone) {
+    ASSERT_TRUE(load({{"DOSIS"},
+                      {{{squareAt({0, 0}, 1)}, {"10"}},
+                       {{squareAt({0, 0}, 2)}, {""}},
+                       {{squareAt({3, 0}, 1)}, {"1.200,5"}}}}));
+    presc.setColumnaDosis(1, {DecimalSign::Point, true});
+    EXPECT_EQ(presc.searchOrder(), std::vector<std::int32_t>{0}) << "no number with a point";
+    presc.setColumnaDosis(1, {DecimalSign::Comma, true});
+    EXPECT_EQ(presc.searchOrder(), (std::vector<std::int32_t>{0, 2}));
+    EXPECT_EQ(scale(), (Values{0, 10, 1200.5}));
+    EXPECT_EQ(presc.polygonIndexAt({0.5, 0.5}), 0);
+    EXPECT_EQ(presc.polygonIndexAt({1.5, 1.5}), -1);
+    EXPECT_EQ(presc.Gph_mouseOver({}, style, {1.5, 1.5}, 0), 1) << "its values can be read";
+    presc.escalaColor().setClassValue(0, 7, dialogs, texts);
+    EXPECT_EQ(doses(), (Values{10, 0, 1200.5F})) << "the dose 0 of nobody";
+    RecordingCanvas canvas({1000, 1000});
+    const ViewTransform view(500, 500, {0, 0}, {1000, 1000});
+    MapContext context{canvas, view, style};
+    presc.Gph_plot(context);
+    ASSERT_FALSE(canvas.calls().empty());
+    EXPECT_TRUE(canvas.calls()[0].starts_with("polypolygon fill=0xFFFFFF")) << canvas.calls()[0];
+}
+
+TEST_F(PrescTest, PointsAndLinesAreShownAndHoldNoGround) {
+    ShapeBytes points(1);
+    points.addPoint({0.01, 0.01});
+    ShapeBytes lines(3);
+    lines.addPolygon({{{0, 0}, {0.02, 0.02}}});
+    for (const auto& [shapes, figures, call] :
+         {std::tuple(points, FigureKind::Points, "rectangle filled 0x112233: (955,8955)"),
+          std::tuple(lines, FigureKind::Lines, "line 0x112233 width=2 solid: (0,10000)")}) {
+        SCOPED_TRACE(call);
+        DbaseBytes table({{"VALOR"}});
+        table.addRow({"8,5 kg"});
+        folder.write("m.dbf", table.bytes());
+        GphPresc map(Color{0x112233});
+        ASSERT_TRUE(map.loadFromFile(folder.write("m.shp", shapes.bytes()), dialogs, texts));
+        EXPECT_TRUE(dialogs.messages.empty());
+        EXPECT_EQ(map.figures(), figures);
+        EXPECT_TRUE(map.searchOrder().empty());
+        EXPECT_EQ(map.polygonIndexAt({0.01, 0.01}), -1);
+        const ViewTransform view(1.1132F, 1.1132F, {0, 0}, {10000, 10000});
+        EXPECT_EQ(map.Gph_mouseOver(view, style, {0.0105, 0.01}, 0), 0);
+        EXPECT_EQ(map.Gph_mouseOver(view, style, {0.0125, 0.01}, 0), -1);
+        EXPECT_EQ(map.Gph_getInfo({texts, locale, style}, 0), "VALOR: 8,5 kg\r\n");
+        RecordingCanvas canvas({10000, 10000});
+        MapContext context{canvas, view, style};
+        map.Gph_plot(context);
+        ASSERT_EQ(canvas.calls().size(), 1U);
+        EXPECT_TRUE(canvas.calls()[0].starts_with(call)) << canvas.calls()[0];
+    }
 }
 
 TEST_F(PrescTest, SaysWhatIsWrongWithAFile) {

@@ -47,18 +47,22 @@ TEST_F(PrescVexTest, SumsUpItsChannelsByTheDosesOfNow) {
     GphPresc& first = add("uno", {"10"}, {0, 0});
     add("dos", {"20", "30"}, {0, 0});
     const auto entries = [this] { return vex.File_resumen().entries(); };
-    // 0.01 degrees squared at the equator: 123.92 hectares.
+    // 0.01 degrees squared at the equator: 111 x 111 cells of 10 m, or 11 x 11 of 100 m.
     EXPECT_EQ(entries(), (std::vector<FileProperty>{{"Archivo (C 1)", "uno.shp", ""},
                                                     {"Columna (C 1)", "DOSIS", ""},
                                                     {"Archivo (C 2)", "dos.shp", ""},
                                                     {"Columna (C 2)", "DOSIS", ""},
-                                                    {"Superficie (C 1)", "123.92", "Has"},
-                                                    {"Producto total (C 1)", "1239.21", ""},
-                                                    {"Superficie (C 2)", "247.84", "Has"},
-                                                    {"Producto total (C 2)", "6196.07", ""}}));
-    first.setDosis(0, 100);
-    EXPECT_EQ(entries()[5].value, "12392.14");
-    EXPECT_EQ(entries().size(), 8U);
+                                                    {"Superficie (C 1)", "123.21", "Has"},
+                                                    {"Producto total (C 1)", "1232.1", "unid"},
+                                                    {"Superficie (C 2)", "247.53", "Has"},
+                                                    {"Producto total (C 2)", "6193.8", "unid"}}));
+    first.setDosis(0, 100.5F);
+    EXPECT_EQ(entries()[5].value, "12321") << "as the grid rounds";
+    first.setDosis(0, 0);
+    EXPECT_EQ(entries()[4].value, "0");
+    ASSERT_EQ(entries().size(), 8U);
+    vex.setRule({GridKind::Vrt, 100, {}});
+    EXPECT_EQ(entries()[7].value, "6050");
 }
 
 }  // namespace

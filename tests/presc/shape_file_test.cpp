@@ -21,6 +21,11 @@ using Parts = std::vector<ShapePart>;
 const Ring kClockwise = {{0, 0}, {0, 9}, {9, 9}, {9, 0}, {0, 0}};
 const Ring kAgainst = {{2, 2}, {4, 2}, {4, 4}, {2, 4}, {2, 2}};
 const Ring kFlat = {{1, 1}, {2, 2}, {1, 1}};
+const Ring kAgainstWide = {{0, 0}, {9, 0}, {9, 9}, {0, 9}, {0, 0}};
+const Ring kHoleWithTheClock = {{2, 2}, {2, 4}, {4, 4}, {4, 2}, {2, 2}};
+const Ring kApart = {{20, 2}, {24, 2}, {24, 6}, {20, 6}, {20, 2}};  // against the clock
+const Ring kIsland = {{21, 3}, {21, 5}, {23, 5}, {23, 3}, {21, 3}};
+const Ring kTouching = {{0, 0}, {4, 2}, {2, 4}, {0, 0}};
 /// On one line but for the last digits, which turn it clockwise.
 const Ring kFlatInDegrees = {{-61.1, -33.1}, {-61.2, -33.2}, {-61.3, -33.3}, {-61.1, -33.1}};
 
@@ -90,6 +95,13 @@ TEST(ShapeFile, HolesRunAgainstTheClockBesideARingThatRunsWithIt) {
         {"a ring without area", 5, {kFlat, kAgainst, kClockwise}, {false, true, false}},
         {"none but one without area", 5, {kFlatInDegrees, kAgainst}, {false, false}},
         {"not closed", 5, {{{0, 0}, {0, 9}, {9, 0}}, {{1, 1}, {2, 1}, {1, 2}}}, {false, true}},
+        {"outer and hole turned around", 5, {kAgainstWide, kHoleWithTheClock}, {false, true}},
+        {"a small ring turned around beside the largest", 5, {kClockwise, kApart}, {false, false}},
+        {"hole that touches its ring", 5, {kClockwise, kTouching}, {false, true}},
+        {"hole round an island and in no ring",
+         5,
+         {kApart, kIsland, kClockwise},
+         {false, false, false}},
         {"lines have none", 3, {kClockwise, kAgainst}, {false, false}},
     };
     for (const auto& [name, type, rings, expected] : rows) {
