@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "app/page_setup.h"
@@ -29,6 +30,8 @@ struct MapExtent {
 /// Canvas units in a millimetre of paper. A line of one pixel is 0.13 mm wide: half as wide as on a
 /// screen, which is looked at from farther away.
 inline constexpr double kUnitsPerPageMm = 2 * 1440 / 25.4;
+/// Figures from 0.8 millimetres of paper on are outlined in ink.
+inline constexpr auto kLeastOutlinedOnPaper = static_cast<std::int32_t>(0.8 * kUnitsPerPageMm);
 
 /// How the map is drawn on a canvas that is as large as the rectangle: the middle of the extent in
 /// the middle, at 1:n along the parallel through it.

@@ -84,7 +84,7 @@ bool PrintCommands::drawMap(const PageLayout& page, MapCanvas& canvas, Progress*
         pageTransform(shownExtent(session_.view().transform()), page.map, page.scale);
     canvas.setBackgroundColor(style.colors.back);
     beginMap(canvas, style.colors);
-    MapContext context{canvas, view, style};
+    MapContext context{canvas, view, style, kLeastOutlinedOnPaper};
     if (progress != nullptr) {
         return session_.plotAll(context, *progress);
     }

@@ -16,11 +16,17 @@
 
 namespace campora {
 
+/// Figures from four pixels of a screen on are outlined in ink.
+inline constexpr std::int32_t kLeastOutlined = 60;
+
 /// What a layer needs to draw itself.
 struct MapContext {
     MapCanvas& canvas;
     const ViewTransform& view;
     const MapStyle& style;
+    /// Canvas units that a swath, cell or zone must be wide and high to have an outline in ink; a
+    /// smaller one is outlined in its own colour, so that what is dense is not drawn black.
+    std::int32_t leastOutlined = kLeastOutlined;
 };
 
 /// What a layer needs to put itself into words.

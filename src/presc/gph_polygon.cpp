@@ -5,6 +5,7 @@
 
 #include <stdexcept>
 
+#include "model/outline_rule.h"
 #include "model/ring_geometry.h"
 
 namespace campora {
@@ -46,8 +47,13 @@ void GphPolygon::Gph_plot(MapContext& context) const {
     for (const LonLat& point : points_) {
         corners.push_back(context.view.mapToScreen(point.x, point.y));
     }
-    context.canvas.setFillColor(isHole ? context.style.colors.back : color);
-    context.canvas.polygon(corners);
+    MapCanvas& canvas = context.canvas;
+    const Color pen = canvas.penColor();
+    const Color fill = isHole ? context.style.colors.back : color;
+    canvas.setFillColor(fill);
+    canvas.setPenColor(isOutlined(corners, context.leastOutlined) ? pen : fill);
+    canvas.polygon(corners);
+    canvas.setPenColor(pen);  // others outline with what they find
 }
 
 std::int32_t GphPolygon::Gph_mouseOver(const ViewTransform& /*view*/, const MapStyle& /*style*/,

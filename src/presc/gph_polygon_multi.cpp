@@ -9,6 +9,8 @@
 #include <span>
 #include <utility>
 
+#include "model/outline_rule.h"
+
 namespace campora {
 
 namespace {
@@ -131,9 +133,12 @@ void GphPolygonMulti::Gph_plot(MapContext& context) const {
         }
         rings.emplace_back(std::span(corners).subspan(first));
     }
-    context.canvas.setFillColor(hasDose ? color : context.style.colors.back);
-    context.canvas.setPenColor(context.style.colors.fore);
+    const Color ink = context.style.colors.fore;
+    const Color fill = hasDose ? color : context.style.colors.back;
+    context.canvas.setFillColor(fill);
+    context.canvas.setPenColor(isOutlined(rings, context.leastOutlined) ? ink : fill);
     context.canvas.polyPolygon(rings);
+    context.canvas.setPenColor(ink);
 }
 
 std::int32_t GphPolygonMulti::Gph_mouseOver(const ViewTransform& /*view*/,

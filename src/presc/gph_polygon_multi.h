@@ -43,9 +43,9 @@ public:
     /// Whether a line or a point lies within `reach` canvas units of the place; false for zones.
     [[nodiscard]] bool isDrawnNear(const ViewTransform& view, CanvasPoint place,
                                    std::int32_t reach) const;
-    /// All rings as one figure, outlined in the map's text colour; holes stay open. Draws nothing
-    /// when no part of it can show. Lines and points as such, in the fill colour; zones without a
-    /// dose in that of the background.
+    /// All rings as one figure, outlined in the map's text colour where it is large enough; holes
+    /// stay open. Draws nothing when no part of it can show. Lines and points as such, in the fill
+    /// colour; zones without a dose in that of the background.
     void Gph_plot(MapContext& context) const override;
     [[nodiscard]] std::int32_t Gph_mouseOver(const ViewTransform& view, const MapStyle& style,
                                              LonLat position, std::int32_t start) const override;

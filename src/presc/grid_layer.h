@@ -70,7 +70,8 @@ public:
     /// Of the cells' corners, not of the cells.
     [[nodiscard]] const BoundingBox& Gph_bound() const override { return bound_; }
     /// The current channel: cells without a dose in the map's background, the others in the
-    /// colours of the scale. Cells of a pixel or less are points.
+    /// colours of the scale. Cells of a pixel or less are points; large ones with a dose have an
+    /// outline each.
     void Gph_plot(MapContext& context) const override;
     /// The first cell that holds the position, edges included.
     [[nodiscard]] std::int32_t Gph_mouseOver(const ViewTransform& view, const MapStyle& style,
@@ -150,6 +151,7 @@ private:
     [[nodiscard]] double cellRise() const;
     [[nodiscard]] Window visibleCells(const ViewTransform& view) const;
     void plotRow(MapContext& context, std::int32_t row, const Window& window) const;
+    void outlineCells(MapContext& context, const Window& window) const;
     [[nodiscard]] Color colorOf(std::int16_t steps, const MapStyle& style) const;
 
     std::string name_;

@@ -20,10 +20,13 @@ constexpr std::int32_t kUnitsPerPixel = 15;
 /// Cells with a longer side than this, in pixels, are rectangles.
 constexpr std::int64_t kLargestPoint = 2;
 
+std::pair<std::int64_t, std::int64_t> sides(CanvasPoint corner, CanvasPoint opposite) {
+    return std::minmax(std::abs(std::int64_t{opposite.x} - corner.x),
+                       std::abs(std::int64_t{opposite.y} - corner.y));
+}
+
 bool isPoint(CanvasPoint corner, CanvasPoint opposite) {
-    const std::int64_t width = std::abs(std::int64_t{opposite.x} - corner.x);
-    const std::int64_t height = std::abs(std::int64_t{opposite.y} - corner.y);
-    return std::max(width, height) <= (kLargestPoint - 1) * kUnitsPerPixel;
+    return sides(corner, opposite).second <= (kLargestPoint - 1) * kUnitsPerPixel;
 }
 
 /// First and one past the last index from 0 to `count` for which `touches` says yes; `touches`
@@ -75,6 +78,36 @@ void GridLayer::Gph_plot(MapContext& context) const {
     const Window window = visibleCells(context.view);
     for (std::int32_t row = window.firstRow; row < window.lastRow; ++row) {
         plotRow(context, row, window);
+    }
+    if (context.style.drawBorders) {
+        outlineCells(context, window);
+    }
+}
+
+/// On top of all rows: each row reaches a little over the next.
+void GridLayer::outlineCells(MapContext& context, const Window& window) const {
+    const auto corners = [&](std::int32_t row, std::int32_t column) {
+        const double x = cells_.columnX[static_cast<std::size_t>(column)];
+        const double y = cells_.rowY[static_cast<std::size_t>(row)];
+        return std::pair(context.view.mapToScreen(x, y),
+                         context.view.mapToScreen(x + cellWidth(), y + cellRise()));
+    };
+    if (window.firstRow == window.lastRow || window.firstColumn == window.lastColumn) {
+        return;
+    }
+    // As large as one cell are all others.
+    const auto [corner, opposite] = corners(window.firstRow, window.firstColumn);
+    if (sides(corner, opposite).first < context.leastOutlined) {
+        return;
+    }
+    for (std::int32_t row = window.firstRow; row < window.lastRow; ++row) {
+        for (std::int32_t column = window.firstColumn; column < window.lastColumn; ++column) {
+            if (steps(row * columns() + column, current_) != 0) {
+                const auto [near, far] = corners(row, column);
+                context.canvas.rectangle(near, far, context.style.colors.fore,
+                                         RectangleStyle::Outlined);
+            }
+        }
     }
 }
 

@@ -1,12 +1,15 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-// How a track draws itself: steps that look alike and follow each other become one polygon.
+// How a track draws itself: steps that follow each other with one flow, width and colour become one
+// polygon.
 
 #include <cmath>
+#include <cstdint>
 #include <optional>
 #include <span>
 
+#include "model/outline_rule.h"
 #include "work/gph_track.h"
 #include "work/swath_geometry.h"
 
@@ -24,17 +27,18 @@ public:
         : canvas_(context.canvas),
           view_(context.view),
           style_(context.style),
+          leastOutlined_(context.leastOutlined),
+          ink_(context.canvas.penColor()),
           points_(points),
           records_(records) {}
 
     /// Steps `first` to `last` - 1; whether anything of them was drawn.
     bool draw(std::size_t first, std::size_t last) {
-        const Color pen = canvas_.penColor();
         for (std::size_t i = first; i < last; ++i) {
             drawStep(i);
         }
         finishRun();
-        canvas_.setPenColor(pen);
+        canvas_.setPenColor(ink_);
         return drawn_;
     }
 
@@ -46,11 +50,13 @@ private:
         CanvasPoint left;
         CanvasPoint right;
     };
-    /// What all steps of a run have in common, and the record that colours them.
+    /// What all steps of a run have in common.
     struct Run {
         float flow;
         float swath;
-        const Record* record;
+        Color color;
+
+        bool operator==(const Run&) const = default;
     };
 
     void drawStep(std::size_t i) {
@@ -62,7 +68,7 @@ private:
         }
         const float flow = record.caudal();
         if (style_.drawAll || flow > 0) {
-            addToRun(i, {flow, swath, &record});
+            addToRun(i, {flow, swath, record.color(style_)});
         } else {
             finishRun();
         }
@@ -74,12 +80,8 @@ private:
         }
     }
 
-    [[nodiscard]] static bool sameRun(const Run& run, const Run& next) {
-        return run.flow == next.flow && run.swath == next.swath;
-    }
-
     void addToRun(std::size_t i, const Run& step) {
-        if (run_ && !sameRun(*run_, step)) {
+        if (run_ && *run_ != step) {
             finishRun();
         }
         if (!run_) {
@@ -105,12 +107,10 @@ private:
         if (!run_) {
             return;
         }
-        const Color color = run_->record->color(style_);
-        canvas_.setFillColor(color);
-        if (!style_.drawBorders) {
-            canvas_.setPenColor(color);
-        }
         ring_.insert(ring_.end(), rightSide_.rbegin(), rightSide_.rend());
+        const bool inInk = style_.drawBorders && isOutlined(ring_, leastOutlined_);
+        canvas_.setFillColor(run_->color);
+        canvas_.setPenColor(inInk ? ink_ : run_->color);
         canvas_.polygon(ring_);
         ring_.clear();
         rightSide_.clear();
@@ -139,6 +139,8 @@ private:
     MapCanvas& canvas_;
     const ViewTransform& view_;
     const MapStyle& style_;
+    const std::int32_t leastOutlined_;
+    const Color ink_;
     std::span<const LonLat> points_;
     std::span<const Record> records_;
 

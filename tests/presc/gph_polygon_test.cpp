@@ -68,6 +68,11 @@ TEST_F(GphPolygonTest, DrawsItselfFilled) {
     style.colors.back = {0xABCDEF};
     EXPECT_TRUE(of(ring).at(0).starts_with("polygon fill=0xABCDEF"));
     EXPECT_EQ(of(square(1, 1, 1)).size(), 0U) << "off the canvas";
+    EXPECT_TRUE(of(square(0.001, 0.002, 0.0005))
+                    .at(0)
+                    .starts_with("polygon fill=0x112233 style=solid pen=0x112233"))
+        << "too small for ink";
+    EXPECT_EQ(canvas.penColor(), Color{0});
 }
 
 TEST(GphPolygonMulti, KnowsItsHoles) {

@@ -147,10 +147,15 @@ TEST(GridLayer, CellsSideBySideOfOneDoseAreOneRectangle) {
     const ViewTransform view(0.1F, 0.1F, {-58.25, -34.5 - 100 / 111320.0}, {2000, 1000});
     MapContext context{canvas, view, style};
     layer.Gph_plot(context);
-    EXPECT_THAT(canvas.calls(), ElementsAre("rectangle filled 0x00FF00: (0,0) (402,200)",
-                                            "rectangle filled 0xABCDEF: (400,0) (602,200)",
-                                            "rectangle filled 0x0000FF: (600,0) (802,200)",
-                                            "rectangle filled 0x0000FF: (0,200) (802,400)"));
+    EXPECT_THAT(canvas.callsOf("rectangle filled"),
+                ElementsAre("rectangle filled 0x00FF00: (0,0) (402,200)",
+                            "rectangle filled 0xABCDEF: (400,0) (602,200)",
+                            "rectangle filled 0x0000FF: (600,0) (802,200)",
+                            "rectangle filled 0x0000FF: (0,200) (802,400)"));
+    const std::vector<std::string> outlines = canvas.callsOf("rectangle outlined");
+    ASSERT_EQ(outlines.size(), 7U) << "of the cells with a dose, on top";
+    EXPECT_EQ(canvas.calls().back(), outlines.back());
+    EXPECT_EQ(outlines[1], "rectangle outlined 0x000000 width=1 solid: (200,0) (400,200)");
 
     canvas.forget();
     const ViewTransform far(2, 2, {-58.25, -34.5 - 100 / 111320.0}, {2000, 1000});

@@ -7,6 +7,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "paint/raster_canvas.h"
 #include "support/recording_canvas.h"
 #include "support/work_records.h"
 #include "work/gph_track.h"
@@ -39,10 +40,11 @@ struct Drawing {
     RecordingCanvas canvas{kCanvas};
     ViewTransform view{1, 1, {0, 0}, kCanvas};
     MapStyle style;
-    MapContext context{canvas, view, style};
+    MapContext context{canvas, view, style, 15};
 };
 
 const std::string kWorked = "polygon fill=0xFF8080 style=solid pen=0x000000 width=1 solid: ";
+const std::string kWorkedBare = "polygon fill=0xFF8080 style=solid pen=0xFF8080 width=1 solid: ";
 const std::string kNotWorked = "polygon fill=0x40FF00 style=solid pen=0x000000 width=1 solid: ";
 const std::string kNotWorkedLine = "line 0x40FF00 width=1 dotted: ";
 
@@ -107,6 +109,17 @@ TEST(GphTrackPlot, JoinsStepsThatLookAlike) {
          true,
          false,
          {kWorked + "(990,500) (990,400) (1190,400) (1190,500)"}},
+        {"a short step hides no colour under its outline",
+         {{100, 500, 9}, {110, 500, 8}, {200, 500, 8}},
+         true,
+         false,
+         {kWorkedBare + "(100,490) (110,490) (110,510) (100,510)",
+          kWorked + "(110,490) (200,490) (200,510) (110,510)"}},
+        {"a thin swath is thin at every angle",
+         {{100, 500, 9, 14}, {200, 400, 9, 14}},
+         true,
+         false,
+         {kWorkedBare + "(95,495) (195,395) (205,405) (105,505)"}},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
@@ -116,6 +129,76 @@ TEST(GphTrackPlot, JoinsStepsThatLookAlike) {
         trackOf(row.stops).Gph_plot(drawing.context);
         EXPECT_THAT(drawing.canvas.calls(), ElementsAreArray(row.calls));
         EXPECT_EQ(drawing.canvas.penStyle(), PenStyle::Solid);
+    }
+}
+
+TEST(GphTrackPlot, WhatIsWidenedIntoTheMapIsDrawn) {
+    GphTrack track = trackOf({{1090, 500, 9, 1}, {1090, 600, 9, 1}});
+    Drawing drawing;
+    track.Gph_plot(drawing.context);
+    EXPECT_TRUE(drawing.canvas.calls().empty());
+    track.trocha(200);
+    track.Gph_plot(drawing.context);
+    EXPECT_EQ(drawing.canvas.calls().size(), 1U);
+}
+
+/// Steps in pairs of one total dose and one width, of which each second differs in everything else.
+TEST(GphTrackPlot, EveryStepHasTheColourOfItsRecordInEveryMode) {
+    constexpr std::int32_t kSteps = 24;
+    constexpr int kStepPixels = 20;
+    GphTrack reports;
+    GphTrack logged;
+    for (std::int32_t i = 0; i <= kSteps; ++i) {
+        const bool second = i % 2 == 1;
+        TrackDataRPT::Fields fields = reportFields(0);
+        fields.channels = 2;
+        fields.real = {(second ? 70 : 10) + i / 2, second ? 10 : 70};
+        fields.spec = {second ? 40 : 11 + i / 2, second ? 10 : 80};
+        fields.alarms = second ? 1U : 0U;
+        fields.date = Date{2020, 1, second ? 9 : 2};
+        const LonLat at = atMetres(10.0 + kStepPixels * i, 50);
+        reports.addPoint(at.x, at.y, TrackDataRPT(fields));
+        logged.addPoint(at.x, at.y, loggerRecord(40, second ? 900 : 90));
+    }
+    const auto style = [](ColorMode mode, int channel, GraduatedBy by, bool graduated) {
+        MapStyle made;
+        made.mode = mode;
+        made.selectedChannel = channel;
+        made.by = by;
+        made.graduated = graduated;
+        return made;
+    };
+    using By = GraduatedBy;
+    const std::pair<const char*, MapStyle> rows[] = {
+        {"dose", style(ColorMode::Dose, -1, By::Hectare, true)},
+        {"dose of a channel", style(ColorMode::Dose, 0, By::Hectare, true)},
+        {"flow", style(ColorMode::Dose, -1, By::Minute, true)},
+        {"plain", style(ColorMode::Dose, -1, By::Hectare, false)},
+        {"alarm", style(ColorMode::Alarm, -1, By::Hectare, true)},
+        {"date", style(ColorMode::Date, -1, By::Hectare, true)},
+        {"error", style(ColorMode::Error, -1, By::Hectare, true)},
+        {"error in a channel", style(ColorMode::Error, 0, By::Hectare, true)},
+    };
+    ColorScale scale;
+    const CanvasSize size{500 * 15, 100 * 15};
+    const ViewTransform view(1 / 15.0F, 1 / 15.0F, {0, 0}, size);
+    for (const auto& [name, plain] : rows) {
+        MapStyle style = plain;
+        style.scale = &scale;
+        const int day = dayNumber({2020, 1, 1});
+        style.mode == ColorMode::Date ? scale.setClassNumberExt(12, day, day + 12)
+                                      : scale.setClassNumberExt(12, 0, 160);
+        for (const GphTrack* track : {&reports, &logged}) {
+            RasterCanvas canvas(size);
+            MapContext context{canvas, view, style};
+            track->Gph_plot(context);
+            for (std::int32_t i = 0; i < kSteps; ++i) {
+                const QRgb seen = canvas.image().pixel(20 + kStepPixels * i, 50);
+                const Color drawn = Color::rgb(qRed(seen), qGreen(seen), qBlue(seen));
+                EXPECT_EQ(drawn.value, track->pointInfo(i).color(style).value)
+                    << name << ", step " << i;
+            }
+        }
     }
 }
 
