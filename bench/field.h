@@ -47,14 +47,14 @@ inline ViewTransform wholeView(const BoundingBox& box) {
     return {static_cast<float>(scale), static_cast<float>(scale), {box.minX, box.minY}, kCanvas};
 }
 
-/// At the finest scale, with the lower edge of the field near the top of the canvas: about a
+/// At a metre and a half a pixel, with the lower edge of the field near the top of the canvas: about a
 /// thousand steps of the first rows are in view.
 inline ViewTransform cornerView() {
-    constexpr float kFinestScale = 0.1F;
+    constexpr float kCloseScale = 0.1F;
     constexpr double kFieldSeenM = 10;
-    const double belowM = kCanvas.height * kFinestScale - kFieldSeenM;
+    const double belowM = kCanvas.height * kCloseScale - kFieldSeenM;
     const LonLat below{kCorner.x, kCorner.y - belowM / METERS_PER_DEGREE};
-    return {kFinestScale, kFinestScale, below, kCanvas};
+    return {kCloseScale, kCloseScale, below, kCanvas};
 }
 
 }  // namespace campora

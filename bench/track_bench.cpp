@@ -42,7 +42,7 @@ public:
     void paintPicture(MapPicture, CanvasPoint, CanvasSize) override {}
     [[nodiscard]] Picture picture() const override { return {}; }
     void takeSnapshot() override {}
-    void paintSnapshot(CanvasPoint) override {}
+    void paintSnapshot(CanvasPoint, double) override {}
     void refresh() override {}
     void setPointer(PointerShape) override {}
 

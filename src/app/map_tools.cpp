@@ -277,10 +277,11 @@ void MapTools::copyImage(Clipboard& clipboard) {
         return;
     }
     cancelDrag();
+    view_.settle();
     canvas_.takeSnapshot();
     view_.DrawMap();
     clipboard.setPicture(canvas_.picture());
-    canvas_.paintSnapshot({0, 0});  // unlike a redraw it keeps what was measured and replayed
+    canvas_.paintSnapshot({0, 0}, 1);  // unlike a redraw it keeps what was measured and replayed
     canvas_.refresh();
 }
 

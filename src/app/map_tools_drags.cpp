@@ -28,7 +28,7 @@ void MapTools::startPan(CanvasPoint at) {
     pressed_ = at;
     pressedScrollX_ = view_.scrollX();
     pressedScrollY_ = view_.scrollY();
-    canvas_.takeSnapshot();
+    view_.keepPicture();
     canvas_.setPointer(PointerShape::Move);
 }
 
@@ -37,7 +37,7 @@ void MapTools::panTo(CanvasPoint to) {
     moved_ = moved_ || std::abs(offset.x) > kClickReach;
     view_.panTo(roundToInt32(pressedScrollX_ - offset.x * static_cast<double>(view_.scaleX())),
                 roundToInt32(pressedScrollY_ + offset.y * static_cast<double>(view_.scaleY())));
-    canvas_.paintSnapshot(offset);
+    canvas_.paintSnapshot(offset, 1);
     canvas_.refresh();
     placeMark();
     tellOwner();

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "app/overlay_layout.h"
+#include "app/zoom_limits.h"
 #include "base/numbers.h"
 #include "model/geodesy.h"
 
@@ -16,13 +17,8 @@ namespace campora {
 
 namespace {
 
-constexpr float kZoomStep = 1.5F;
-/// Metres a canvas unit where zooming in ends.
-constexpr float kFinestScale = 0.1F;
-/// Up to this scale of the whole map it is a map of fields, which are shown whole at about the
-/// finest scale already; there zooming in ends at a tenth of a metre a pixel.
-constexpr float kFieldScale = 1.0F;
-constexpr float kFinestFieldScale = kFinestScale / 15;
+/// Metres a canvas unit of a map of one point.
+constexpr float kPointScale = 0.1F;
 /// Border of the tight axis, as a part of the box.
 constexpr double kBorder = 0.05;
 /// Room for a box that is zoomed to: itself and a border on either side.
@@ -87,15 +83,17 @@ bool MapView::hasMap() const {
     return totalBound.isSet && canvas.width > 0 && canvas.height > 0;
 }
 
-MapView::Fit MapView::fitOf(const BoundingBox& box, double room) const {
+MapView::Fit MapView::fitOf(const BoundingBox& box, double room, float finest) const {
     const auto [width, height] = canvas_.size();
     const auto tightX = static_cast<float>(box.widthM * room / width);
     const auto tightY = static_cast<float>(box.heightM * room / height);
-    if (tightX == 0 && tightY == 0) {
-        // A box of one point has no scale of its own. It gets the finest one and stands in the
-        // middle: a scale of 0 would mean that nothing is fitted.
-        return {kFinestScale, centringMargin(kFinestScale, width, 0),
-                centringMargin(kFinestScale, height, 0)};
+    const float tight = std::max(tightX, tightY);
+    if (tight == 0 || tight < finest) {
+        // What has no scale of its own, or too fine a one, stands in the middle: a scale of 0 would
+        // mean that nothing is fitted.
+        const float scale = finest > 0 ? finest : kPointScale;
+        return {scale, centringMargin(scale, width, box.widthM),
+                centringMargin(scale, height, box.heightM)};
     }
     if (tightX >= tightY) {
         return {tightX, borderMargin(box.widthM), centringMargin(tightX, height, box.heightM)};
@@ -107,7 +105,7 @@ void MapView::fitView() {
     if (!hasMap()) {
         return;
     }
-    const Fit fit = fitOf(totalBound, 1);
+    const Fit fit = fitOf(totalBound, 1, 0);
     x_.scale = fit.scale;
     y_.scale = fit.scale;
     x_.margin = fit.marginX;
@@ -137,62 +135,14 @@ void MapView::zoomToBox(const BoundingBox& box) {
         ZoomUno();
         return;
     }
-    const Fit fit = fitOf(box, kBoxRoom);
+    const Fit fit =
+        fitOf(box, kBoxRoom, maxScale_ > 0 ? std::min(maxScale_, kFinestScale) : kFinestScale);
     const double eastM =
         (box.minX - totalBound.minX) * std::cos(toRadians(box.minY)) * METERS_PER_DEGREE;
     const double northM = (box.minY - totalBound.minY) * METERS_PER_DEGREE;
     setView(fit.scale, fit.scale, roundToInt32(eastM + x_.margin - fit.marginX),
             roundToInt32(northM + y_.margin - fit.marginY));
     updateScrollBars();
-}
-
-void MapView::zoomIn() {
-    const auto [width, height] = canvas_.size();
-    zoomInAbout(width / 2.0, height / 2.0);
-}
-
-void MapView::zoomOut() {
-    const auto [width, height] = canvas_.size();
-    zoomOutAbout(width / 2.0, height / 2.0);
-}
-
-void MapView::zoomIn(CanvasPoint fixed) {
-    zoomInAbout(fixed.x, canvas_.size().height - fixed.y);
-}
-
-void MapView::zoomOut(CanvasPoint fixed) {
-    zoomOutAbout(fixed.x, canvas_.size().height - fixed.y);
-}
-
-void MapView::zoomInAbout(double fromLeft, double fromBottom) {
-    const float scale = x_.scale / kZoomStep;
-    if (!hasMap() || scale < finestScale()) {
-        return;
-    }
-    setView(scale, scale, x_.scrollKeeping(fromLeft, scale), y_.scrollKeeping(fromBottom, scale));
-    updateScrollBars();
-}
-
-void MapView::zoomOutAbout(double fromLeft, double fromBottom) {
-    if (maxScale_ == 0) {
-        ZoomUno();  // fitted but never shown whole, which is where zooming out ends
-        return;
-    }
-    if (!hasMap()) {
-        return;
-    }
-    const float scale = std::min(x_.scale * kZoomStep, maxScale_);
-    const auto [width, height] = canvas_.size();
-    const auto scrollX = x_.within(x_.scrollKeeping(fromLeft, scale), totalBound.widthM,
-                                   static_cast<double>(scale) * width);
-    const auto scrollY = y_.within(y_.scrollKeeping(fromBottom, scale), totalBound.heightM,
-                                   static_cast<double>(scale) * height);
-    setView(scale, scale, scrollX, scrollY);
-    updateScrollBars();
-}
-
-float MapView::finestScale() const {
-    return maxScale_ > 0 && maxScale_ < kFieldScale ? kFinestFieldScale : kFinestScale;
 }
 
 void MapView::equalizeScales() {
@@ -205,6 +155,7 @@ void MapView::setView(float scaleX, float scaleY, std::int32_t scrollX, std::int
     y_.scale = scaleY;
     x_.scroll = scrollX;
     y_.scroll = scrollY;
+    pictureMoved_ = false;
     beginMap(canvas_, style_.colors);
     computeOrigin();
     const ViewTransform view = transform();
@@ -291,6 +242,7 @@ void MapView::panTo(std::int32_t scrollX, std::int32_t scrollY) {
     }
     x_.scroll = x_.within(scrollX, totalBound.widthM, x_.viewM);
     y_.scroll = y_.within(scrollY, totalBound.heightM, y_.viewM);
+    pictureMoved_ = true;
     computeOrigin();
     updateScrollBars();
 }
@@ -304,10 +256,11 @@ void MapView::zoomToRectangle(CanvasPoint topLeft, CanvasSize size) {
     const std::int32_t scrollX =
         roundToInt32(topLeft.x * static_cast<double>(x_.scale) + x_.scroll);
     const std::int32_t scrollY = roundToInt32(fromBottom * y_.scale + y_.scroll);
+    const float before = x_.scale;
     x_.scale = static_cast<float>(size.width) * x_.scale / static_cast<float>(width);
     y_.scale = static_cast<float>(size.height) * y_.scale / static_cast<float>(height);
     equalizeScales();
-    const float scale = std::max(x_.scale, finestScale());
+    const float scale = std::min(std::max(x_.scale, kFinestScale), before);
     const double widthM = static_cast<double>(scale) * width;
     const double heightM = static_cast<double>(scale) * height;
     setView(scale, scale, x_.within(scrollX, totalBound.widthM, widthM),
@@ -335,6 +288,7 @@ void MapView::centreOn(LonLat position) {
 
 void MapView::DrawMap() {
     namespace o = overlay;
+    settle();
     const Color color = style_.colors.fore;
     canvas_.setPenColor(color);
     canvas_.setPenWidth(1);
@@ -367,6 +321,7 @@ void MapView::forget() {
     y_ = {};
     origin_ = {};
     maxScale_ = 0;
+    pictureMoved_ = false;
     shown_ = {};
     showControls();
 }

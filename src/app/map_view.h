@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string_view>
 
 #include "base/lon_lat.h"
@@ -40,15 +41,24 @@ public:
     void fitView();
     /// Shows the whole scrollable extent: `totalBound` with its margins.
     void ZoomUno();
-    /// Shows a box with a border; one equal to `totalBound` as `ZoomUno` does.
+    /// Shows a box with a border, at the scale where zooming in ends if it is small; one equal to
+    /// `totalBound` as `ZoomUno` does.
     void zoomToBox(const BoundingBox& box);
-    /// Steps of 1.5 about the middle of the canvas, or about a fixed point of it. Zooming in ends
-    /// at 0.1 metres a canvas unit (a fifteenth of that on maps of less than 1 metre a unit, which
-    /// hold a few fields), zooming out at the whole map.
+    /// Steps of 1.5 about the middle of the canvas. Zooming in ends at 0.1 metres a pixel, zooming
+    /// out at the whole map.
     void zoomIn();
     void zoomOut();
-    void zoomIn(CanvasPoint fixed);
-    void zoomOut(CanvasPoint fixed);
+    /// So many steps about a point of the canvas, in or (below 0) out, at once: what is on the
+    /// canvas is painted larger or smaller, and drawn anew by `settle`.
+    void zoomPicture(CanvasPoint fixed, int steps);
+    /// Keeps what is on the canvas as the picture of the place that is shown.
+    void keepPicture();
+    /// Whether what is on the canvas was moved there and waits for `settle`.
+    [[nodiscard]] bool isPictureMoved() const { return pictureMoved_; }
+    /// Draws the map where its picture has only been moved.
+    void settle();
+    /// Called after `zoomPicture` has moved the picture; may be empty.
+    std::function<void()> onPictureMoved;
     /// Both scales become the larger of the two.
     void equalizeScales();
     /// Every redraw of the whole map goes through here.
@@ -136,10 +146,14 @@ private:
     struct Fit;
 
     [[nodiscard]] bool hasMap() const;
-    [[nodiscard]] Fit fitOf(const BoundingBox& box, double room) const;
-    [[nodiscard]] float finestScale() const;
-    void zoomInAbout(double fromLeft, double fromBottom);
-    void zoomOutAbout(double fromLeft, double fromBottom);
+    /// At no finer scale than `finest`, unless that is 0.
+    [[nodiscard]] Fit fitOf(const BoundingBox& box, double room, float finest) const;
+    // From the left and the bottom edge of the canvas to the point that stays, canvas units. None
+    // where there is nothing to zoom.
+    [[nodiscard]] std::optional<Place> zoomedIn(double fromLeft, double fromBottom) const;
+    [[nodiscard]] std::optional<Place> zoomedOut(double fromLeft, double fromBottom);
+    void show(const std::optional<Place>& place);
+    void movePicture(const std::optional<Place>& target);
     void showControls();
 
     MapCanvas& canvas_;
@@ -152,6 +166,9 @@ private:
     LonLat origin_;
     float maxScale_ = 0;
     bool scrollEvents_ = true;
+    /// The place of the canvas's snapshot.
+    Place kept_;
+    bool pictureMoved_ = false;
     ViewControls shown_;
 };
 

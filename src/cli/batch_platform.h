@@ -146,7 +146,7 @@ public:
                       CanvasSize /*size*/) override {}
     [[nodiscard]] Picture picture() const override { return {}; }
     void takeSnapshot() override {}
-    void paintSnapshot(CanvasPoint /*offset*/) override {}
+    void paintSnapshot(CanvasPoint /*offset*/, double /*factor*/) override {}
     void refresh() override {}
     void setPointer(PointerShape /*shape*/) override {}
 };

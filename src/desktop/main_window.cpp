@@ -41,6 +41,8 @@ namespace campora {
 namespace {
 
 constexpr int kPanelWidth = 320;
+/// Milliseconds without wheel or movement after which a moved map is drawn anew.
+constexpr int kSettleMs = 120;
 constexpr double kMetresPerCanvasUnit = 0.0254 / 1440;
 
 QByteArray decoded(const std::string& setting) {
@@ -147,7 +149,12 @@ void MainWindow::connectMap() {
     connect(&map, &MapWidget::pressed, this, [&tools](CanvasPoint at, Qt::MouseButton button) {
         tools.press(buttonOf(button), at);
     });
-    connect(&map, &MapWidget::pointerMoved, this, [&tools](CanvasPoint at) { tools.move(at); });
+    connect(&map, &MapWidget::pointerMoved, this, [this, &tools](CanvasPoint at) {
+        tools.move(at);
+        settleSoon();
+    });
+    settle_.setSingleShot(true);
+    connect(&settle_, &QTimer::timeout, this, [&view] { view.settle(); });
     connect(&map, &MapWidget::released, this,
             [this, &tools](CanvasPoint at, Qt::MouseButton button) {
                 tools.release(buttonOf(button), at);
@@ -214,12 +221,13 @@ void MainWindow::start(const std::string& programPath, StartRequest request) {
 }
 
 void MainWindow::zoomAt(CanvasPoint at, int steps) {
-    MapView& view = session_->view();
-    for (; steps > 0; --steps) {
-        view.zoomIn(at);
-    }
-    for (; steps < 0; ++steps) {
-        view.zoomOut(at);
+    session_->view().zoomPicture(at, steps);
+    settleSoon();
+}
+
+void MainWindow::settleSoon() {
+    if (session_->view().isPictureMoved()) {
+        settle_.start(kSettleMs);
     }
 }
 

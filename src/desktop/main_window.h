@@ -9,6 +9,7 @@
 #include <vector>
 
 #include <QMainWindow>
+#include <QTimer>
 
 #include "app/command_line.h"
 #include "app/session.h"
@@ -134,6 +135,8 @@ private:
     void fillChannelMenu();
     void fillAlarmMenu();
     void zoomAt(CanvasPoint at, int steps);
+    /// The map is drawn anew once nothing has moved it for a moment.
+    void settleSoon();
     void showScale();
     [[nodiscard]] Availability availability() const;
 
@@ -153,6 +156,7 @@ private:
     std::unique_ptr<ActionSet> actions_;
     std::unique_ptr<Session> session_;
     StartRequest startRequest_;
+    QTimer settle_;
     bool mapActive_ = false;
     bool replayActive_ = false;
     bool fileMenuActive_ = true;

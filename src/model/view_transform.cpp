@@ -26,10 +26,8 @@ constexpr double kMaxSafeLatitude = 89.9;
 ViewTransform::ViewTransform(float scaleX, float scaleY, LonLat origin, CanvasSize canvas)
     : scaleX_(scaleX), scaleY_(scaleY), origin_(origin), canvas_(canvas) {
     const double widthM = static_cast<double>(scaleX) * canvas.width;
-    const double heightM = static_cast<double>(scaleY) * canvas.height;
     const double penM = kPenReach * std::max(scaleX, scaleY);
-    visibleMinY_ = origin.y - penM / METERS_PER_DEGREE;
-    visibleMaxY_ = origin.y + (heightM + penM) / METERS_PER_DEGREE;
+    seeRows({0, canvas.height});
     safeLatitude_ = std::min(std::max(std::abs(visibleMinY_), std::abs(visibleMaxY_)) + kStepReach,
                              kMaxSafeLatitude);
     degreesPerMetreX_ = 1 / (METERS_PER_DEGREE * std::cos(toRadians(safeLatitude_)));
@@ -37,9 +35,31 @@ ViewTransform::ViewTransform(float scaleX, float scaleY, LonLat origin, CanvasSi
     visibleMaxX_ = origin.x + (widthM + penM) * degreesPerMetreX_;
 }
 
+void ViewTransform::seeRows(CanvasRows rows) {
+    const auto latitudeOf = [this](std::int32_t row) {
+        return origin_.y +
+               (canvas_.height - row) * static_cast<double>(scaleY_) / METERS_PER_DEGREE;
+    };
+    const double reach = kPenReach * std::max(scaleX_, scaleY_) / METERS_PER_DEGREE;
+    visibleMinY_ = latitudeOf(rows.bottom) - reach;
+    visibleMaxY_ = latitudeOf(rows.top) + reach;
+}
+
+ViewTransform ViewTransform::within(CanvasRows rows) const {
+    ViewTransform part = *this;
+    if (isFitted()) {
+        part.seeRows(rows);
+    }
+    return part;
+}
+
 CanvasPoint ViewTransform::mapToScreen(double x, double y) const {
+    return mapToScreen(x, y, std::cos(toRadians(y)));
+}
+
+CanvasPoint ViewTransform::mapToScreen(double x, double y, double cosine) const {
     const double aboveBottom = roundToInt32((y - origin_.y) * METERS_PER_DEGREE / scaleY_);
-    const double sx = (x - origin_.x) * METERS_PER_DEGREE * std::cos(toRadians(y)) / scaleX_;
+    const double sx = (x - origin_.x) * METERS_PER_DEGREE * cosine / scaleX_;
     return {roundToInt32(sx), roundToInt32(canvas_.height - aboveBottom)};
 }
 

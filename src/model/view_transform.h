@@ -18,6 +18,9 @@ public:
     /// corner.
     ViewTransform(float scaleX, float scaleY, LonLat origin, CanvasSize canvas);
 
+    /// The same for one who draws on these rows of the canvas alone: less may touch it.
+    [[nodiscard]] ViewTransform within(CanvasRows rows) const;
+
     [[nodiscard]] bool isFitted() const { return scaleX_ != 0; }
     [[nodiscard]] float scaleX() const { return scaleX_; }
     [[nodiscard]] float scaleY() const { return scaleY_; }
@@ -26,6 +29,8 @@ public:
 
     /// Rounded halves to even; far positions give the limits of 32 bits.
     [[nodiscard]] CanvasPoint mapToScreen(double x, double y) const;
+    /// The same for one who knows the cosine of `y`.
+    [[nodiscard]] CanvasPoint mapToScreen(double x, double y, double cosine) const;
     [[nodiscard]] LonLat screenToMap(float sx, float sy) const;
 
     /// Whether something within `marginM` metres of the segment may show on the canvas. May say yes
@@ -36,6 +41,8 @@ public:
     [[nodiscard]] bool mayTouch(const BoundingBox& box, double marginM) const;
 
 private:
+    void seeRows(CanvasRows rows);
+
     float scaleX_ = 0;
     float scaleY_ = 0;
     LonLat origin_;

@@ -75,9 +75,9 @@ bool clip(const PixelGrid& grid, double margin, PixelPoint& from, PixelPoint& to
 void dot(const PixelGrid& grid, int x, int y, const LineDrawer::Pen& pen) {
     const int left = std::max(x - (pen.width - 1) / 2, 0);
     const int right = std::min(x + pen.width / 2 + 1, grid.width);
-    const int top = std::max(y - (pen.width - 1) / 2, 0);
-    const int bottom = std::min(y + pen.width / 2 + 1, grid.height);
-    for (int row = top; row < bottom; ++row) {
+    const int top = std::max(y - (pen.width - 1) / 2, grid.firstRow);
+    const int bottom = std::min(y + pen.width / 2, grid.lastRow());
+    for (int row = top; row <= bottom; ++row) {
         std::uint32_t* const pixels = grid.pixels + row * grid.stride;
         for (int column = left; column < right; ++column) {
             pixels[column] = pen.color;
@@ -90,41 +90,80 @@ bool holds(const PixelGrid& grid, const PixelPoint& point) {
 }
 
 /// A solid line one pixel wide between two pixels of the grid (Bresenham, "Algorithm for computer
-/// control of a digital plotter", 1965).
-void thinLine(const PixelGrid& grid, int x, int y, int endX, int endY, std::uint32_t color) {
+/// control of a digital plotter", 1965). `isDrawn` tells of each of its pixels, by its row.
+template <typename IsDrawn>
+void thinLine(const PixelGrid& grid, int x, int y, int endX, int endY, std::uint32_t color,
+              IsDrawn isDrawn) {
     const int dx = std::abs(endX - x);
     const int dy = std::abs(endY - y);
     const std::ptrdiff_t alongX = endX < x ? -1 : 1;
-    const std::ptrdiff_t alongY = endY < y ? -grid.stride : grid.stride;
-    const std::ptrdiff_t along = dx >= dy ? alongX : alongY;
-    const std::ptrdiff_t across = dx >= dy ? alongY : alongX;
+    const int downY = endY < y ? -1 : 1;
+    const std::ptrdiff_t alongY = downY * grid.stride;
+    const bool isFlat = dx >= dy;
+    const std::ptrdiff_t along = isFlat ? alongX : alongY;
+    const std::ptrdiff_t across = isFlat ? alongY : alongX;
     const int longer = std::max(dx, dy);
     const int shorter = std::min(dx, dy);
     std::uint32_t* pixel = grid.pixels + y * grid.stride + x;
-    *pixel = color;
+    const auto draw = [&] {
+        if (isDrawn(y)) {
+            *pixel = color;
+        }
+    };
+    draw();
     int error = longer / 2;
     for (int i = 0; i < longer; ++i) {
         error -= shorter;
         if (error < 0) {
             error += longer;
             pixel += across;
+            y += isFlat ? downY : 0;
         }
         pixel += along;
-        *pixel = color;
+        y += isFlat ? 0 : downY;
+        draw();
     }
 }
 
-void fillSpan(std::uint32_t* pixels, int width, double from, double to, std::uint32_t color) {
-    const int right = firstCentreFrom(to, width);
-    for (int column = firstCentreFrom(from, width); column < right; ++column) {
-        pixels[column] = color;
+void thinLine(const PixelGrid& grid, PixelPoint from, PixelPoint to, std::uint32_t color) {
+    const int y = floorInt(from.y);
+    const int endY = floorInt(to.y);
+    const auto [top, bottom] = std::minmax(y, endY);
+    if (bottom < grid.firstRow || top > grid.lastRow()) {
+        return;
+    }
+    const int x = floorInt(from.x);
+    const int endX = floorInt(to.x);
+    if (top >= grid.firstRow && bottom <= grid.lastRow()) {
+        thinLine(grid, x, y, endX, endY, color, [](int /*row*/) { return true; });
+    } else {
+        thinLine(grid, x, y, endX, endY, color,
+                 [&grid](int row) { return row >= grid.firstRow && row <= grid.lastRow(); });
+    }
+}
+
+void fillSpan(const PixelGrid& grid, int row, double from, double to, const PixelFill& with) {
+    std::uint32_t* const pixels = grid.pixels + row * grid.stride;
+    const int right = firstCentreFrom(to, grid.width);
+    int column = firstCentreFrom(from, grid.width);
+    if (with.hatch == 0) {
+        for (; column < right; ++column) {
+            pixels[column] = with.color;
+        }
+        return;
+    }
+    const int stroke = std::max(1, with.hatch / 8);
+    for (; column < right; ++column) {
+        if ((column + row) % with.hatch < stroke) {
+            pixels[column] = with.color;
+        }
     }
 }
 
 }  // namespace
 
 void RingFiller::fill(const PixelGrid& grid, std::span<const std::span<const PixelPoint>> rings,
-                      std::uint32_t color, FillRule rule) {
+                      const PixelFill& with, FillRule rule) {
     edges_.clear();
     top_ = grid.height;
     bottom_ = 0;
@@ -132,25 +171,24 @@ void RingFiller::fill(const PixelGrid& grid, std::span<const std::span<const Pix
         collectEdges(grid, ring);
     }
     if (edges_.size() <= kFewEdges) {
-        fillFewEdges(grid, color, rule);
+        fillFewEdges(grid, with, rule);
         return;
     }
     collectCrossings();
     std::size_t begin = 0;
     for (int row = top_; row < bottom_; ++row) {
         const std::size_t end = rowEnds_[static_cast<std::size_t>(row - top_)];
-        fillRow(grid, row, std::span(crossings_).subspan(begin, end - begin), color, rule);
+        fillRow(grid, row, std::span(crossings_).subspan(begin, end - begin), with, rule);
         begin = end;
     }
 }
 
 /// Sorts the crossings.
 void RingFiller::fillRow(const PixelGrid& grid, int row, std::span<Crossing> crossings,
-                         std::uint32_t color, FillRule rule) {
-    std::uint32_t* const pixels = grid.pixels + row * grid.stride;
+                         const PixelFill& with, FillRule rule) {
     if (crossings.size() == 2) {  // once in and once out
         const auto [left, right] = std::minmax(crossings[0].x, crossings[1].x);
-        fillSpan(pixels, grid.width, left, right, color);
+        fillSpan(grid, row, left, right, with);
         return;
     }
     std::sort(crossings.begin(), crossings.end(),
@@ -164,12 +202,12 @@ void RingFiller::fillRow(const PixelGrid& grid, int row, std::span<Crossing> cro
         }
         turns = evenOdd ? 1 - turns : turns + crossing.turn;
         if (turns == 0) {
-            fillSpan(pixels, grid.width, left, crossing.x, color);
+            fillSpan(grid, row, left, crossing.x, with);
         }
     }
 }
 
-void RingFiller::fillFewEdges(const PixelGrid& grid, std::uint32_t color, FillRule rule) {
+void RingFiller::fillFewEdges(const PixelGrid& grid, const PixelFill& with, FillRule rule) {
     std::array<Crossing, kFewEdges> crossings;
     for (int row = top_; row < bottom_; ++row) {
         std::size_t count = 0;
@@ -178,7 +216,7 @@ void RingFiller::fillFewEdges(const PixelGrid& grid, std::uint32_t color, FillRu
                 crossings[count++] = {edge.x + (row - edge.firstRow) * edge.slope, edge.turn};
             }
         }
-        fillRow(grid, row, std::span(crossings).first(count), color, rule);
+        fillRow(grid, row, std::span(crossings).first(count), with, rule);
     }
 }
 
@@ -196,14 +234,14 @@ void RingFiller::collectEdges(const PixelGrid& grid, std::span<const PixelPoint>
         previous = &point;
         const int firstRow = firstCentreFrom(upper.y, grid.height);
         const int endRow = firstCentreFrom(lower.y, grid.height);
-        if (firstRow >= endRow) {
+        if (firstRow >= endRow || endRow <= grid.firstRow || firstRow > grid.lastRow()) {
             continue;
         }
         const double slope = (lower.x - upper.x) / (lower.y - upper.y);
         edges_.push_back(
             {firstRow, endRow, upper.x + (firstRow + 0.5 - upper.y) * slope, slope, down ? 1 : -1});
-        top_ = std::min(top_, firstRow);
-        bottom_ = std::max(bottom_, endRow);
+        top_ = std::min(top_, std::max(firstRow, grid.firstRow));
+        bottom_ = std::max(bottom_, std::min(endRow, grid.lastRow() + 1));
     }
 }
 
@@ -211,7 +249,8 @@ void RingFiller::collectCrossings() {
     const auto rows = static_cast<std::size_t>(bottom_ - top_);
     rowEnds_.assign(rows, 0);
     for (const Edge& edge : edges_) {
-        for (int row = edge.firstRow; row < edge.endRow; ++row) {
+        const int end = std::min(edge.endRow, bottom_);
+        for (int row = std::max(edge.firstRow, top_); row < end; ++row) {
             ++rowEnds_[static_cast<std::size_t>(row - top_)];
         }
     }
@@ -223,11 +262,39 @@ void RingFiller::collectCrossings() {
     }
     crossings_.resize(total);
     for (const Edge& edge : edges_) {
-        for (int row = edge.firstRow; row < edge.endRow; ++row) {
+        const int end = std::min(edge.endRow, bottom_);
+        for (int row = std::max(edge.firstRow, top_); row < end; ++row) {
             crossings_[rowEnds_[static_cast<std::size_t>(row - top_)]++] = {
                 edge.x + (row - edge.firstRow) * edge.slope, edge.turn};
         }
     }
+}
+
+bool fillStrip(const PixelGrid& grid, std::span<const PixelPoint> ring, std::uint32_t color) {
+    int left = grid.width;
+    int right = -1;
+    int top = grid.height;
+    int bottom = -1;
+    for (const PixelPoint& point : ring) {
+        if (!holds(grid, point)) {
+            return false;
+        }
+        const int x = floorInt(point.x);
+        const int y = floorInt(point.y);
+        left = std::min(left, x);
+        right = std::max(right, x);
+        top = std::min(top, y);
+        bottom = std::max(bottom, y);
+    }
+    if (right < left || (left != right && top != bottom)) {
+        return false;
+    }
+    const int last = std::min(bottom, grid.lastRow());
+    for (int row = std::max(top, grid.firstRow); row <= last; ++row) {
+        std::uint32_t* const pixels = grid.pixels + row * grid.stride;
+        std::fill(pixels + left, pixels + right + 1, color);
+    }
+    return true;
 }
 
 void LineDrawer::line(const PixelGrid& grid, PixelPoint from, PixelPoint to, const Pen& pen) {
@@ -237,8 +304,7 @@ void LineDrawer::line(const PixelGrid& grid, PixelPoint from, PixelPoint to, con
     end_ = to;
     const bool inside = holds(grid, from) && holds(grid, to);
     if (inside && pen.width == 1 && !pen.dotted) {
-        thinLine(grid, floorInt(from.x), floorInt(from.y), floorInt(to.x), floorInt(to.y),
-                 pen.color);
+        thinLine(grid, from, to, pen.color);
         return;
     }
     if (!inside && !clip(grid, pen.width, from, to)) {

@@ -3,8 +3,10 @@
 
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <span>
 #include <vector>
 
@@ -17,6 +19,23 @@ struct PixelGrid {
     int height = 0;
     /// Pixels from one row to the next.
     std::ptrdiff_t stride = 0;
+    /// Rows that are drawn on, of all: what falls on others is left to whoever draws those, and
+    /// every pixel is the one that drawing on all rows at once gives.
+    int firstRow = 0;
+    int endRow = std::numeric_limits<int>::max();
+
+    [[nodiscard]] int lastRow() const { return std::min(endRow, height) - 1; }
+};
+
+/// What a ring is filled with.
+struct PixelFill {
+    // NOLINTNEXTLINE(google-explicit-constructor): a colour alone is the usual fill
+    PixelFill(std::uint32_t filledWith, int hatchPixels = 0)
+        : color(filledWith), hatch(hatchPixels) {}
+
+    std::uint32_t color;
+    /// Pixels from one stroke of a diagonal hatch to the next, an eighth of them stroke; 0: solid.
+    int hatch;
 };
 
 /// A position in pixels; pixel (i, j) covers i to i + 1 and j to j + 1.
@@ -39,13 +58,13 @@ enum class FillRule {
 class RingFiller {
 public:
     /// `ring`: closed, first point not repeated, of any size and anywhere.
-    void fill(const PixelGrid& grid, std::span<const PixelPoint> ring, std::uint32_t color,
+    void fill(const PixelGrid& grid, std::span<const PixelPoint> ring, const PixelFill& with,
               FillRule rule = FillRule::NonZero) {
-        fill(grid, std::span(&ring, 1), color, rule);
+        fill(grid, std::span(&ring, 1), with, rule);
     }
     /// Several rings as one figure.
     void fill(const PixelGrid& grid, std::span<const std::span<const PixelPoint>> rings,
-              std::uint32_t color, FillRule rule);
+              const PixelFill& with, FillRule rule);
 
 private:
     struct Edge {
@@ -64,8 +83,8 @@ private:
     static constexpr std::size_t kFewEdges = 8;
 
     static void fillRow(const PixelGrid& grid, int row, std::span<Crossing> crossings,
-                        std::uint32_t color, FillRule rule);
-    void fillFewEdges(const PixelGrid& grid, std::uint32_t color, FillRule rule);
+                        const PixelFill& with, FillRule rule);
+    void fillFewEdges(const PixelGrid& grid, const PixelFill& with, FillRule rule);
     void collectEdges(const PixelGrid& grid, std::span<const PixelPoint> ring);
     void collectCrossings();
 
@@ -76,6 +95,11 @@ private:
     std::vector<std::size_t> rowEnds_;
     std::vector<Crossing> crossings_;
 };
+
+/// A ring whose corners lie in one row or one column of pixels: colours the pixels from its first
+/// to its last, which are those that its outline goes through and leave nothing to fill. False for
+/// others, and where a corner is off the picture; nothing has been drawn then.
+bool fillStrip(const PixelGrid& grid, std::span<const PixelPoint> ring, std::uint32_t color);
 
 /// Draws straight lines of square dots, solid or dotted. The rhythm of a dotted line goes on where
 /// the next line starts at the end of the last one, so that a track of short steps stays dotted.

@@ -6,17 +6,25 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <iterator>
 
 #include <QFont>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPolygonF>
 
+#include "paint/parallel.h"
+
 namespace campora {
 
 namespace {
 
 constexpr int kTextPixels = 12;
+constexpr int kPartsPerWorker = 2;
+/// A ring of more corners is hardly ever a single row or column of pixels.
+constexpr std::size_t kMostStripCorners = 8;
+/// From one stroke of a hatch to the next, in logical pixels.
+constexpr double kHatch = 8;
 
 std::uint32_t pixel(Color color) {
     return qRgb(color.red(), color.green(), color.blue());
@@ -60,8 +68,10 @@ void RasterCanvas::clear() {
 PixelGrid RasterCanvas::grid() {
     // Asked anew each time: a copy of the picture that someone keeps must not change with it.
     auto* const pixels = reinterpret_cast<std::uint32_t*>(image_.bits());
-    return {pixels, image_.width(), image_.height(),
-            image_.bytesPerLine() / static_cast<std::ptrdiff_t>(sizeof(std::uint32_t))};
+    return {
+        pixels,          image_.width(),
+        image_.height(), image_.bytesPerLine() / static_cast<std::ptrdiff_t>(sizeof(std::uint32_t)),
+        firstRow_,       endRow_};
 }
 
 PixelPoint RasterCanvas::toPixels(CanvasPoint point) const {
@@ -77,8 +87,21 @@ LineDrawer::Pen RasterCanvas::pen(Color color) const {
     return {pixel(color), penPixels_, penStyle_ == PenStyle::Dotted};
 }
 
+std::optional<PixelFill> RasterCanvas::fill() const {
+    switch (fillStyle_) {
+    case FillStyle::Transparent:
+        return std::nullopt;
+    case FillStyle::Hatched:
+        return PixelFill(pixel(fillColor_),
+                         std::max(4, static_cast<int>(std::lround(kHatch * pixelRatio_))));
+    case FillStyle::Solid:
+        break;
+    }
+    return PixelFill(pixel(fillColor_));
+}
+
 void RasterCanvas::drawRings(std::span<const std::span<const CanvasPoint>> rings,
-                             std::optional<Color> fill, FillRule rule, Color outline) {
+                             const std::optional<PixelFill>& fill, FillRule rule, Color outline) {
     points_.clear();
     for (const std::span<const CanvasPoint> ring : rings) {
         for (const CanvasPoint& point : ring) {
@@ -93,7 +116,7 @@ void RasterCanvas::drawRings(std::span<const std::span<const CanvasPoint>> rings
     }
     const PixelGrid pixels = grid();
     if (fill) {
-        filler_.fill(pixels, rings_, pixel(*fill), rule);
+        filler_.fill(pixels, rings_, *fill, rule);
     }
     const LineDrawer::Pen outlinePen = pen(outline);
     for (const std::span<const PixelPoint> ring : rings_) {
@@ -123,8 +146,8 @@ void RasterCanvas::rectangle(CanvasPoint corner, CanvasPoint opposite, Color col
         corner, {opposite.x, corner.y}, opposite, {corner.x, opposite.y}};
     const std::span<const CanvasPoint> ring(corners);
     const bool filled = style == RectangleStyle::Filled;
-    drawRings(std::span(&ring, 1), filled ? std::optional(color) : std::nullopt, FillRule::NonZero,
-              color);
+    drawRings(std::span(&ring, 1), filled ? std::optional<PixelFill>(pixel(color)) : std::nullopt,
+              FillRule::NonZero, color);
 }
 
 void RasterCanvas::point(CanvasPoint at, Color color) {
@@ -132,19 +155,33 @@ void RasterCanvas::point(CanvasPoint at, Color color) {
 }
 
 void RasterCanvas::polygon(std::span<const CanvasPoint> ring) {
-    const bool filled = fillStyle_ == FillStyle::Solid;
-    drawRings(std::span(&ring, 1), filled ? std::optional(fillColor_) : std::nullopt,
-              FillRule::NonZero, penColor_);
+    const bool isPlain = penPixels_ == 1 && penStyle_ == PenStyle::Solid &&
+                         fillStyle_ == FillStyle::Solid && penColor_ == fillColor_;
+    if (isPlain && ring.size() <= kMostStripCorners) {
+        points_.clear();
+        std::transform(ring.begin(), ring.end(), std::back_inserter(points_),
+                       [this](CanvasPoint point) { return toPixels(point); });
+        if (fillStrip(grid(), points_, pixel(fillColor_))) {
+            return;  // a step of a dense job from afar
+        }
+    }
+    drawRings(std::span(&ring, 1), fill(), FillRule::NonZero, penColor_);
 }
 
 void RasterCanvas::polyPolygon(std::span<const std::span<const CanvasPoint>> rings) {
-    const bool filled = fillStyle_ == FillStyle::Solid;
-    drawRings(rings, filled ? std::optional(fillColor_) : std::nullopt, FillRule::EvenOdd,
-              penColor_);
+    drawRings(rings, fill(), FillRule::EvenOdd, penColor_);
+}
+
+void RasterCanvas::clipToPart(QPainter& painter) const {
+    if (endRow_ < image_.height() || firstRow_ > 0) {
+        painter.setClipRect(QRectF(0, firstRow_ / pixelRatio_, image_.width() / pixelRatio_,
+                                   (endRow_ - firstRow_) / pixelRatio_));
+    }
 }
 
 void RasterCanvas::text(CanvasPoint at, std::string_view text, TextAnchor anchor, bool bold) {
     QPainter painter(&image_);
+    clipToPart(painter);
     painter.setFont(mapFont(bold));
     painter.setPen(QColor::fromRgb(pixel(penColor_)));
     const QFontMetricsF metrics(painter.font());
@@ -166,6 +203,7 @@ CanvasSize RasterCanvas::textSize(std::string_view text, bool bold) const {
 
 void RasterCanvas::paintPicture(MapPicture picture, CanvasPoint topLeft, CanvasSize size) {
     QPainter painter(&image_);
+    clipToPart(painter);
     constexpr double units = kUnitsPerPixel;
     drawMapPicture(
         painter,
@@ -185,10 +223,55 @@ Picture RasterCanvas::picture() const {
     return picture;
 }
 
-void RasterCanvas::paintSnapshot(CanvasPoint offset) {
+void RasterCanvas::paintSnapshot(CanvasPoint offset, double factor) {
     clear();
     QPainter painter(&image_);
-    painter.drawImage(QPointF(offset.x, offset.y) / kUnitsPerPixel, snapshot_);
+    const QPointF corner = QPointF(offset.x, offset.y) / kUnitsPerPixel;
+    if (factor == 1) {
+        painter.drawImage(corner, snapshot_);
+        return;
+    }
+    const QSizeF size = QSizeF(snapshot_.size()) / snapshot_.devicePixelRatio();
+    painter.drawImage(QRectF(corner, size * factor), snapshot_);
+}
+
+RasterCanvas::RasterCanvas(const RasterCanvas& whole, std::uint32_t* pixels, int firstRow,
+                           int endRow)
+    : size_(whole.size_),
+      pixelsPerUnit_(whole.pixelsPerUnit_),
+      pixelRatio_(whole.pixelRatio_),
+      image_(reinterpret_cast<uchar*>(pixels), whole.image_.width(), whole.image_.height(),
+             whole.image_.bytesPerLine(), whole.image_.format()),
+      firstRow_(firstRow),
+      endRow_(endRow),
+      background_(whole.background_),
+      penColor_(whole.penColor_),
+      fillColor_(whole.fillColor_),
+      penWidth_(whole.penWidth_),
+      penPixels_(whole.penPixels_),
+      penStyle_(whole.penStyle_),
+      fillStyle_(whole.fillStyle_) {
+    image_.setDevicePixelRatio(pixelRatio_);
+}
+
+void RasterCanvas::drawInParts(const DrawPart& draw) {
+    const int workers = workerCount();
+    // More parts than threads: the work is seldom spread evenly over the map.
+    const int parts = std::min(workers > 1 ? kPartsPerWorker * workers : 1, image_.height());
+    if (parts < 2) {
+        draw(*this, {0, size_.height});
+        return;
+    }
+    std::uint32_t* const pixels = grid().pixels;
+    const auto rowOf = [&](int part) {
+        return static_cast<int>(std::int64_t{image_.height()} * part / parts);
+    };
+    inParallel(parts, [&](int part) {
+        RasterCanvas own(*this, pixels, rowOf(part), rowOf(part + 1));
+        const double unitsPerPixel = 1 / pixelsPerUnit_;
+        draw(own, {static_cast<std::int32_t>(std::floor(rowOf(part) * unitsPerPixel)),
+                   static_cast<std::int32_t>(std::ceil(rowOf(part + 1) * unitsPerPixel))});
+    });
 }
 
 void RasterCanvas::refresh() {

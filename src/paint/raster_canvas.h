@@ -3,7 +3,9 @@
 
 #pragma once
 
+#include <cstdint>
 #include <functional>
+#include <limits>
 #include <optional>
 #include <vector>
 
@@ -55,19 +57,27 @@ public:
     void text(CanvasPoint at, std::string_view text, TextAnchor anchor, bool bold) override;
     [[nodiscard]] CanvasSize textSize(std::string_view text, bool bold) const override;
     void paintPicture(MapPicture picture, CanvasPoint topLeft, CanvasSize size) override;
+    void drawInParts(const DrawPart& draw) override;
     [[nodiscard]] Picture picture() const override;
     void takeSnapshot() override { snapshot_ = image_; }
-    void paintSnapshot(CanvasPoint offset) override;
+    void paintSnapshot(CanvasPoint offset, double factor) override;
     void refresh() override;
     void setPointer(PointerShape shape) override;
 
 private:
+    /// The rows from `firstRow` to before `endRow` of `whole`, whose pixels it draws on while both
+    /// live; `pixels` are those of the whole.
+    RasterCanvas(const RasterCanvas& whole, std::uint32_t* pixels, int firstRow, int endRow);
+
     [[nodiscard]] PixelGrid grid();
     [[nodiscard]] PixelPoint toPixels(CanvasPoint point) const;
+    void clipToPart(QPainter& painter) const;
     [[nodiscard]] LineDrawer::Pen pen(Color color) const;
+    /// None for rings that stay open.
+    [[nodiscard]] std::optional<PixelFill> fill() const;
     /// Closed rings as one figure, filled when there is a colour for it and then outlined.
-    void drawRings(std::span<const std::span<const CanvasPoint>> rings, std::optional<Color> fill,
-                   FillRule rule, Color outline);
+    void drawRings(std::span<const std::span<const CanvasPoint>> rings,
+                   const std::optional<PixelFill>& fill, FillRule rule, Color outline);
     void outlineRing(const PixelGrid& pixels, std::span<const PixelPoint> ring,
                      const LineDrawer::Pen& pen);
 
@@ -75,6 +85,8 @@ private:
     double pixelsPerUnit_ = 0;
     double pixelRatio_ = 1;
     QImage image_;
+    int firstRow_ = 0;
+    int endRow_ = std::numeric_limits<int>::max();
     QImage snapshot_;
     Color background_{0xFFFFFF};
     Color penColor_;

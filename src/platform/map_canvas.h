@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <span>
 #include <string_view>
 
@@ -28,7 +29,14 @@ struct CanvasSize {
     bool operator==(const CanvasSize&) const = default;
 };
 
-enum class FillStyle { Solid, Transparent };
+/// A strip across the whole canvas, from row `top` to before row `bottom`, in canvas units.
+struct CanvasRows {
+    std::int32_t top = 0;
+    std::int32_t bottom = 0;
+};
+
+/// A hatch is of thin strokes far apart: what lies under it stays to be seen.
+enum class FillStyle { Solid, Transparent, Hatched };
 enum class PenStyle { Solid, Dotted };
 enum class RectangleStyle { Outlined, Filled };
 enum class TextAnchor { TopLeft, TopCentre };
@@ -78,12 +86,20 @@ public:
     /// The picture stretched into the rectangle.
     virtual void paintPicture(MapPicture picture, CanvasPoint topLeft, CanvasSize size) = 0;
 
+    /// Draws on one part of the canvas; what does not touch its rows may be left out.
+    using DrawPart = std::function<void(MapCanvas& part, CanvasRows rows)>;
+    /// Calls `draw` for parts that together are the whole canvas, at once from several threads
+    /// where that is faster. Each part begins with the canvas's pen and fill and keeps of what is
+    /// drawn what falls into its rows, pixel by pixel as on the whole; its state is then lost.
+    virtual void drawInParts(const DrawPart& draw) { draw(*this, {0, size().height}); }
+
     /// What is drawn at this moment.
     [[nodiscard]] virtual Picture picture() const = 0;
     /// Keeps what is drawn, so that it can be painted moved.
     virtual void takeSnapshot() = 0;
-    /// Clears the canvas and paints the snapshot with its top left corner at `offset`.
-    virtual void paintSnapshot(CanvasPoint offset) = 0;
+    /// Clears the canvas and paints the snapshot with its top left corner at `offset`, `factor`
+    /// times as large as it was.
+    virtual void paintSnapshot(CanvasPoint offset, double factor) = 0;
 
     /// Makes what was drawn visible.
     virtual void refresh() = 0;

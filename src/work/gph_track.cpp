@@ -30,6 +30,36 @@ void GphTrack::append(double x, double y, const Record& record) {
     records->push_back(record);
     points_.push_back({x, y});
     bound_.addPoint(x, y);
+    growStretches({x, y});
+}
+
+/// A step belongs to the stretch of its first point; so a stretch has the first point of the next.
+void GphTrack::growStretches(LonLat point) {
+    const std::size_t index = points_.size() - 1;
+    const auto grow = [point](Stretch& stretch) {
+        auto& [least, greatest] = stretch;
+        least = {std::min(least.x, point.x), std::min(least.y, point.y)};
+        greatest = {std::max(greatest.x, point.x), std::max(greatest.y, point.y)};
+    };
+    if (!stretches_.empty()) {
+        grow(stretches_.back());
+    }
+    if (index % kStretch == 0) {
+        stretches_.push_back({point, point});
+    }
+}
+
+std::size_t GphTrack::firstThatMayTouch(const ViewTransform& view, std::size_t step) const {
+    const auto steps = static_cast<std::size_t>(Gph_count());
+    const double reach = kMitreLimit * static_cast<double>(widestSwath_);
+    while (step < steps) {
+        const Stretch& stretch = stretches_[step / kStretch];
+        if (view.mayTouch(stretch.least, stretch.greatest, reach)) {
+            return step;
+        }
+        step = (step / kStretch + 1) * kStretch;
+    }
+    return steps;
 }
 
 void GphTrack::addPoint(double x, double y, const TrackDataRPT& record) {

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <variant>
 #include <vector>
@@ -41,6 +42,10 @@ public:
     /// The records as they are stored, for code that needs their own kind.
     [[nodiscard]] const std::variant<RptRecords, NbrRecords>& records() const { return records_; }
 
+    /// The first step from `step` on that may touch what is drawn, as far as looking at many steps
+    /// at once can tell; the number of steps when there is none.
+    [[nodiscard]] std::size_t firstThatMayTouch(const ViewTransform& view, std::size_t step) const;
+
     void trocha(float metres) override;
     [[nodiscard]] float getHectareasError(const MapStyle& style, float limit) const override;
     void clearAlarmas() override;
@@ -74,6 +79,14 @@ public:
     [[nodiscard]] LonLat ExportablePoint_pointN(std::int32_t point) const override;
 
 private:
+    /// Of `kStretch` steps one after the other: the corners of their points.
+    struct Stretch {
+        LonLat least;
+        LonLat greatest;
+    };
+    static constexpr std::size_t kStretch = 128;
+
+    void growStretches(LonLat point);
     template <typename Record>
     void append(double x, double y, const Record& record);
     [[nodiscard]] bool isStep(std::int32_t index) const;
@@ -81,6 +94,7 @@ private:
     std::vector<LonLat> points_;
     std::variant<RptRecords, NbrRecords> records_;
     BoundingBox bound_;
+    std::vector<Stretch> stretches_;
     float widestSwath_ = 0;  // metres; no record is wider
 };
 

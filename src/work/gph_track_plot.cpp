@@ -5,10 +5,12 @@
 // polygon.
 
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>
 
+#include "model/geodesy.h"
 #include "model/outline_rule.h"
 #include "work/gph_track.h"
 #include "work/swath_geometry.h"
@@ -16,6 +18,8 @@
 namespace campora {
 
 namespace {
+
+constexpr double kPixelUnits = 15;
 
 /// Draws steps of one track, in order. Templated on the kind of record so that nothing in the loop
 /// over the steps is a virtual call but what the canvas does.
@@ -30,34 +34,9 @@ public:
           leastOutlined_(context.leastOutlined),
           ink_(context.canvas.penColor()),
           points_(points),
-          records_(records) {}
-
-    /// Steps `first` to `last` - 1; whether anything of them was drawn.
-    bool draw(std::size_t first, std::size_t last) {
-        for (std::size_t i = first; i < last; ++i) {
-            drawStep(i);
-        }
-        finishRun();
-        canvas_.setPenColor(ink_);
-        return drawn_;
-    }
-
-private:
-    /// The sides of the swath on the canvas at a point, for swaths of that width.
-    struct Edge {
-        std::size_t point;
-        float swath;
-        CanvasPoint left;
-        CanvasPoint right;
-    };
-    /// What all steps of a run have in common.
-    struct Run {
-        float flow;
-        float swath;
-        Color color;
-
-        bool operator==(const Run&) const = default;
-    };
+          records_(records),
+          sides_(points),
+          pixel_(kPixelUnits * static_cast<double>(context.view.scaleY()) / METERS_PER_DEGREE) {}
 
     void drawStep(std::size_t i) {
         const Record& record = records_[i];
@@ -80,43 +59,105 @@ private:
         }
     }
 
+    /// Draws the run that is being collected, if any: what follows is not drawn or looks otherwise.
+    void finishRun() {
+        if (!run_) {
+            return;
+        }
+        drawRun();
+        run_.reset();
+        drawn_ = true;
+        drawCentrelines();
+    }
+
+    /// Draws what is left; whether anything was drawn at all.
+    bool finish() {
+        finishRun();
+        canvas_.setPenColor(ink_);
+        return drawn_;
+    }
+
+private:
+    /// The sides of the swath on the canvas at a point, for swaths of that width.
+    struct Edge {
+        std::size_t point;
+        float swath;
+        CanvasPoint left;
+        CanvasPoint right;
+    };
+    /// What all steps of a run have in common. Flows of less than a pixel each that follow each
+    /// other in one colour and width are drawn as one run, without ink, which none of them alone
+    /// would have; the flow is then the last one.
+    struct Run {
+        float flow;
+        float swath;
+        Color color;
+    };
+
+    [[nodiscard]] bool isBelowPixel(std::size_t from, std::size_t to) const {
+        return std::abs(points_[to].x - points_[from].x) < pixel_ &&
+               std::abs(points_[to].y - points_[from].y) < pixel_;
+    }
+
+    [[nodiscard]] bool goesOn(const Run& step, std::size_t i) const {
+        return run_->swath == step.swath && run_->color == step.color &&
+               (run_->flow == step.flow || (isBelowPixel(flowPoint_, i) && isBelowPixel(i, i + 1)));
+    }
+
     void addToRun(std::size_t i, const Run& step) {
-        if (run_ && *run_ != step) {
+        if (run_ && !goesOn(step, i)) {
             finishRun();
         }
         if (!run_) {
             run_ = step;
+            flowPoint_ = i;
+            flowEdge_ = 0;
             addEdge(i);
+        } else if (run_->flow != step.flow) {
+            run_->flow = step.flow;
+            flowPoint_ = i;
+            flowEdge_ = ring_.size() - 1;
         }
         addEdge(i + 1);
+        if (flowEdge_ > 0 && !isBelowPixel(flowPoint_, i + 1)) {
+            splitRun();
+        }
+    }
+
+    /// Draws the run up to where its last flow began, which has become too long for it.
+    void splitRun() {
+        const auto edge = static_cast<std::ptrdiff_t>(flowEdge_);
+        std::vector<CanvasPoint> left(ring_.begin() + edge, ring_.end());
+        std::vector<CanvasPoint> right(rightSide_.begin() + edge, rightSide_.end());
+        ring_.resize(flowEdge_ + 1);
+        rightSide_.resize(flowEdge_ + 1);
+        drawRun();
+        ring_.swap(left);
+        rightSide_.swap(right);
+        flowEdge_ = 0;
+    }
+
+    void drawRun() {
+        const bool isSmall = flowEdge_ > 0 || isBelowPixel(flowPoint_, lastEdge_->point);
+        ring_.insert(ring_.end(), rightSide_.rbegin(), rightSide_.rend());
+        const bool inInk = style_.drawBorders && !isSmall && isOutlined(ring_, leastOutlined_);
+        canvas_.setFillColor(run_->color);
+        canvas_.setPenColor(inInk ? ink_ : run_->color);
+        canvas_.polygon(ring_);
+        ring_.clear();
+        rightSide_.clear();
     }
 
     void addEdge(std::size_t point) {
         const float swath = run_->swath;
         // The edge between two runs of one width belongs to both.
         if (!lastEdge_ || lastEdge_->point != point || lastEdge_->swath != swath) {
-            const SwathCorners corners = swathCorners(points_, point, swath);
-            lastEdge_ = {point, swath, view_.mapToScreen(corners.left.x, corners.left.y),
-                         view_.mapToScreen(corners.right.x, corners.right.y)};
+            const auto [at, leftCosine, rightCosine] = sides_.corners(point, swath);
+            lastEdge_ = {point, swath, view_.mapToScreen(at.left.x, at.left.y, leftCosine),
+                         view_.mapToScreen(at.right.x, at.right.y, rightCosine)};
         }
         ring_.push_back(lastEdge_->left);
         rightSide_.push_back(lastEdge_->right);
-    }
-
-    void finishRun() {
-        if (!run_) {
-            return;
-        }
-        ring_.insert(ring_.end(), rightSide_.rbegin(), rightSide_.rend());
-        const bool inInk = style_.drawBorders && isOutlined(ring_, leastOutlined_);
-        canvas_.setFillColor(run_->color);
-        canvas_.setPenColor(inInk ? ink_ : run_->color);
-        canvas_.polygon(ring_);
-        ring_.clear();
-        rightSide_.clear();
-        run_.reset();
-        drawn_ = true;
-        drawCentrelines();
     }
 
     /// The dotted lines lie on top of the swath of their own steps.
@@ -144,7 +185,11 @@ private:
     std::span<const LonLat> points_;
     std::span<const Record> records_;
 
+    SwathSides sides_;
+    const double pixel_;  // degrees of latitude
     std::optional<Run> run_;
+    std::size_t flowPoint_ = 0;  // where the last flow of the run began
+    std::size_t flowEdge_ = 0;   // its place in the sides
     std::optional<Edge> lastEdge_;
     std::vector<CanvasPoint> ring_;  // the left side until the run is finished
     std::vector<CanvasPoint> rightSide_;
@@ -152,11 +197,14 @@ private:
     bool drawn_ = false;
 };
 
-bool drawSteps(MapContext& context, const GphTrack& track, std::size_t first, std::size_t last) {
+/// Calls `draw` with a painter of the track's kind of records; what it answers.
+template <typename Draw>
+bool withPainter(MapContext& context, const GphTrack& track, Draw draw) {
     return std::visit(
         [&](const auto& records) {
-            return TrackPainter(context, std::span(track.points()), std::span(records))
-                .draw(first, last);
+            TrackPainter painter(context, std::span(track.points()), std::span(records));
+            draw(painter);
+            return painter.finish();
         },
         track.records());
 }
@@ -166,7 +214,19 @@ bool drawSteps(MapContext& context, const GphTrack& track, std::size_t first, st
 void GphTrack::Gph_plot(MapContext& context) const {
     const ViewTransform& view = context.view;
     if (view.isFitted() && Gph_count() > 0 && view.mayTouch(bound_, kMitreLimit * widestSwath_)) {
-        drawSteps(context, *this, 0, points_.size() - 1);
+        withPainter(context, *this, [&](auto& painter) {
+            const auto steps = static_cast<std::size_t>(Gph_count());
+            for (std::size_t i = 0; i < steps; ++i) {
+                const std::size_t next = i % kStretch == 0 ? firstThatMayTouch(view, i) : i;
+                if (next != i) {
+                    painter.finishRun();
+                }
+                i = next;
+                if (i < steps) {
+                    painter.drawStep(i);
+                }
+            }
+        });
     }
 }
 
@@ -175,7 +235,7 @@ bool GphTrack::Gph_plotN(MapContext& context, std::int32_t n) const {
         return false;
     }
     const auto i = static_cast<std::size_t>(n);
-    return drawSteps(context, *this, i, i + 1);
+    return withPainter(context, *this, [i](auto& painter) { painter.drawStep(i); });
 }
 
 }  // namespace campora

@@ -12,6 +12,10 @@ namespace campora {
 
 namespace {
 
+/// Up to this angle, some 600 metres, the first three terms of a cosine's series are as good as
+/// all: a millionth of a millionth off.
+constexpr double kSmallAngle = 1e-4;
+
 struct Offset {
     double x = 0;
     double y = 0;
@@ -38,17 +42,25 @@ Offset mitre(Offset arriving, Offset leaving) {
     return {(arriving.x + leaving.x) / onePlusCosine, (arriving.y + leaving.y) / onePlusCosine};
 }
 
-/// In half widths.
-Offset offsetAt(std::span<const LonLat> pass, std::size_t i) {
+/// In half widths. `leftOfStep` answers one unit to the left of a step.
+template <typename LeftOfStep>
+Offset offsetAt(std::size_t points, std::size_t i, LeftOfStep leftOfStep) {
     const bool arrives = i > 0;
-    const bool leaves = i + 1 < pass.size();
+    const bool leaves = i + 1 < points;
     if (arrives && leaves) {
-        return mitre(leftOf(pass[i - 1], pass[i]), leftOf(pass[i], pass[i + 1]));
+        const Offset arriving = leftOfStep(i - 1);
+        return mitre(arriving, leftOfStep(i));
     }
     if (arrives) {
-        return leftOf(pass[i - 1], pass[i]);
+        return leftOfStep(i - 1);
     }
-    return leaves ? leftOf(pass[i], pass[i + 1]) : Offset{};
+    return leaves ? leftOfStep(i) : Offset{};
+}
+
+SwathCorners cornersAt(LonLat point, Offset offset, double half, double cosine) {
+    const double x = offset.x * half / cosine;
+    const double y = offset.y * half;
+    return {{point.x + x, point.y + y}, {point.x - x, point.y - y}};
 }
 
 double degreesOf(double metres) {
@@ -58,12 +70,34 @@ double degreesOf(double metres) {
 }  // namespace
 
 SwathCorners swathCorners(std::span<const LonLat> pass, std::size_t i, double widthMetres) {
-    const LonLat point = pass[i];
-    const Offset offset = offsetAt(pass, i);
-    const double half = degreesOf(widthMetres / 2);
-    const double x = offset.x * half / std::cos(toRadians(point.y));
-    const double y = offset.y * half;
-    return {{point.x + x, point.y + y}, {point.x - x, point.y - y}};
+    const Offset offset = offsetAt(
+        pass.size(), i, [pass](std::size_t step) { return leftOf(pass[step], pass[step + 1]); });
+    return cornersAt(pass[i], offset, degreesOf(widthMetres / 2), std::cos(toRadians(pass[i].y)));
+}
+
+SwathSides::Corners SwathSides::corners(std::size_t i, double widthMetres) {
+    const Offset offset = offsetAt(pass_.size(), i, [this](std::size_t step) {
+        if (!last_ || last_->step != step) {
+            const Offset side = leftOf(pass_[step], pass_[step + 1]);
+            last_ = {step, side.x, side.y};
+        }
+        return Offset{last_->x, last_->y};
+    });
+    const LonLat point = pass_[i];
+    const SwathCorners at =
+        cornersAt(point, offset, degreesOf(widthMetres / 2), cosine(toRadians(point.y)));
+    return {at, cosine(toRadians(at.left.y)), cosine(toRadians(at.right.y))};
+}
+
+double SwathSides::cosine(double latitude) {
+    const double away = latitude - latitude_;
+    if (!(std::abs(away) < kSmallAngle)) {
+        latitude_ = latitude;
+        cosine_ = std::cos(latitude);
+        sine_ = std::sin(latitude);
+        return cosine_;
+    }
+    return cosine_ * (1 - away * away / 2) - sine_ * away;
 }
 
 std::array<LonLat, 4> swathQuad(std::span<const LonLat> pass, std::size_t i, double widthMetres) {

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <span>
 
 #include "base/lon_lat.h"
@@ -26,6 +27,40 @@ inline constexpr double kMitreLimit = 1.5;
 /// Directions are taken in plain degrees; the width holds on the ground, east to west as well.
 [[nodiscard]] SwathCorners swathCorners(std::span<const LonLat> pass, std::size_t i,
                                         double widthMetres);
+
+/// The corners along a pass, point by point: those of `swathCorners`, with directions and cosines
+/// kept from one point for the next.
+class SwathSides {
+public:
+    explicit SwathSides(std::span<const LonLat> pass) : pass_(pass) {}
+
+    /// Cosines: of the latitudes of the corners.
+    struct Corners {
+        SwathCorners at;
+        double leftCosine = 1;
+        double rightCosine = 1;
+    };
+    /// At point `i`, for a swath of that width.
+    [[nodiscard]] Corners corners(std::size_t i, double widthMetres);
+
+private:
+    /// One unit to the left of the direction of a step.
+    struct Side {
+        std::size_t step;
+        double x;
+        double y;
+    };
+
+    /// Cosine of a latitude in radians.
+    [[nodiscard]] double cosine(double latitude);
+
+    std::span<const LonLat> pass_;
+    std::optional<Side> last_;
+    // A latitude, and its cosine and sine, from which those of its neighbours follow.
+    double latitude_ = 0;
+    double cosine_ = 1;
+    double sine_ = 0;
+};
 
 /// What step `i` (from point i to point i + 1) covers: left and right corner at its end follow the
 /// left one at its start, the right one at its start comes last.

@@ -3,6 +3,7 @@
 
 #include "app/map_view.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include <gtest/gtest.h>
@@ -105,8 +106,8 @@ TEST(MapView, ZoomStepsGoAboutTheCentreAndStayOnTheMap) {
     const std::tuple<const char*, void (MapView::*)(), View, View> rows[] = {
         // A sixth of the 2200 by 1100 metres in view at either side.
         {"in", &MapView::zoomIn, {kWhole, 0, 0}, {kWhole / 1.5F, 367, 183}},
-        {"in, just possible", &MapView::zoomIn, {0.15F, 10, 20}, {0.15F / 1.5F, 35, 33}},
-        {"in, beyond the finest", &MapView::zoomIn, {0.14F, 10, 20}, {0.14F, 10, 20}},
+        {"in, just possible", &MapView::zoomIn, {0.0101F, 10, 20}, {0.0101F / 1.5F, 12, 21}},
+        {"in, beyond the finest", &MapView::zoomIn, {0.0099F, 10, 20}, {0.0099F, 10, 20}},
         // The eastern end: 2200 - 1650.
         {"out, at the edge", &MapView::zoomOut, {1.1F, 1100, 0}, {1.65F, 550, 0}},
         {"out, to the whole map", &MapView::zoomOut, {kWhole / 1.2F, 50, 60}, {kWhole, 0, 0}},
@@ -126,15 +127,43 @@ TEST(MapView, ZoomStepsGoAboutTheCentreAndStayOnTheMap) {
     }
 }
 
-TEST_F(MapViewTest, AFieldCanBeLookedAtClosely) {
-    const float whole = view.scaleX();
-    for (int i = 0; i < 20; ++i) {
-        view.zoomIn();
+TEST(MapView, ZoomingInEndsAtATenthOfAMetreAPixelOnEveryMap) {
+    constexpr float kFinest = 0.1F / 15;
+    for (const double widthM : {0.0, 2.0, 20.0, 2000.0, 2e6}) {
+        SCOPED_TRACE(widthM);
+        MapDesk f({15000, 7500}, boxOf(widthM, widthM / 10));
+        const float whole = f.view.scaleX();
+        for (int i = 0; i < 60; ++i) {
+            f.view.zoomIn();
+        }
+        EXPECT_GE(f.view.scaleX(), std::min(whole, kFinest));
+        EXPECT_LT(f.view.scaleX(), 1.5F * kFinest);
+        f.view.zoomToRectangle({0, 0}, {});
+        EXPECT_FLOAT_EQ(f.view.scaleX(), std::min(whole, kFinest)) << "it never zooms out";
+        f.view.zoomToBox(boxOf(0.2, 0.2));
+        EXPECT_FLOAT_EQ(f.view.scaleX(), std::min(whole, kFinest));
     }
-    EXPECT_LT(view.scaleX(), whole / 7);
-    EXPECT_GE(view.scaleX(), 0.1F) << "a tenth of a metre a unit";
-    view.zoomToRectangle({0, 0}, {});
-    EXPECT_FLOAT_EQ(view.scaleX(), 0.1F);
+}
+
+/// What is on the canvas moves at once, by as much as the places that it shows.
+TEST_F(MapViewTest, TurningTheWheelMovesThePictureUntilItSettles) {
+    view.setView(1, 1, 500, 200);
+    canvas.forget();
+    const CanvasPoint fixed{730, 40};
+    view.zoomPicture(fixed, 2);
+    const std::vector<std::string> calls = canvas.calls();
+    EXPECT_TRUE(canvas.callsOf("polygon").empty());
+    EXPECT_EQ(canvas.callsOf("snapshot").size(), 1U);
+    // 730 * (1 - 2.25) and 40 * (1 - 2.25); scrolls are whole metres.
+    EXPECT_EQ(canvas.callsOf("paint").back(), "paint snapshot: (-911,-51) x2.250000");
+    EXPECT_FLOAT_EQ(view.scaleX(), 1 / 2.25F);
+    EXPECT_TRUE(view.isPictureMoved());
+    canvas.forget();
+    view.settle();
+    EXPECT_EQ(canvas.callsOf("polygon").size(), 1U);
+    EXPECT_FLOAT_EQ(view.scaleX(), 1 / 2.25F);
+    view.settle();
+    EXPECT_EQ(redraws(), 1U) << "once";
 }
 
 TEST(MapView, ZoomStepsKeepTheirFixedPoint) {
@@ -151,10 +180,10 @@ TEST(MapView, ZoomStepsKeepTheirFixedPoint) {
             EXPECT_NEAR(now.x, place.x, 1.1 / METERS_PER_DEGREE);
             EXPECT_NEAR(now.y, place.y, 1.1 / METERS_PER_DEGREE);
         };
-        f.view.zoomIn(fixed);
+        f.view.zoomPicture(fixed, 1);
         EXPECT_FLOAT_EQ(f.view.scaleX(), 0.4F / 1.5F);
         expectPlace();
-        f.view.zoomOut(fixed);
+        f.view.zoomPicture(fixed, -1);
         EXPECT_FLOAT_EQ(f.view.scaleX(), 0.4F);
         expectPlace();
     }

@@ -39,6 +39,11 @@ TEST_F(MapWidgetTest, WheelZoomsAboutThePointer) {
     wheel(pointer, 240);
     EXPECT_FLOAT_EQ(view().scaleX(), whole / 1.5F / 1.5F);
     expectShownAt(held, pointer, 3);
+    EXPECT_TRUE(view().isPictureMoved());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !view().isPictureMoved(); }));
+    const QImage settled = map().canvas().image();
+    view().setView(view().scaleX(), view().scaleY(), view().scrollX(), view().scrollY());
+    EXPECT_EQ(map().canvas().image(), settled);
 }
 
 TEST_F(MapWidgetTest, MiddleButtonDragsTheMapWithThePointer) {
@@ -53,6 +58,9 @@ TEST_F(MapWidgetTest, MiddleButtonDragsTheMapWithThePointer) {
                          Qt::MiddleButton, Qt::NoModifier);
         QApplication::sendEvent(&map(), &move);
     }
+    EXPECT_TRUE(view().isPictureMoved());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !view().isPictureMoved(); }))
+        << "drawn while the button is held";
     QTest::mouseRelease(&map(), Qt::MiddleButton, {}, from + QPoint(70, -30));
     expectShownAt(held, from + QPoint(70, -30), 3);
 }

@@ -5,6 +5,9 @@
 
 #include <algorithm>
 #include <array>
+#include <new>
+#include <random>
+#include <span>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -96,6 +99,92 @@ TEST(RasterCanvas, LinesKeepTheirWidthOnADenseScreen) {
         reds += colorAt(canvas, 20, y) == kRed ? 1 : 0;
     }
     EXPECT_EQ(reds, 2);
+}
+
+TEST(RasterCanvas, AHatchIsThinAndSparseOnEveryScreen) {
+    for (const double ratio : {1.0, 2.0, 3.0}) {
+        RasterCanvas canvas({80 * kUnits, 80 * kUnits}, ratio);
+        canvas.setFillColor(kRed);
+        canvas.setFillStyle(FillStyle::Hatched);
+        canvas.setPenColor(kRed);
+        canvas.polygon(square(-10, -10, 90, 90));
+        const QImage& image = canvas.image();
+        int reds = 0;
+        for (int x = 0; x < image.width(); ++x) {
+            reds += colorAt(canvas, x, image.height() / 2) == kRed ? 1 : 0;
+        }
+        EXPECT_EQ(reds, image.width() / 8);
+    }
+}
+
+/// Fills and lines of every kind, short and long, across the borders of the parts and beyond the
+/// canvas, are the same pixels however the canvas is drawn.
+TEST(RasterCanvas, DrawnInPartsItIsTheSamePicture) {
+    std::mt19937 random(20260103);
+    std::uniform_int_distribution<std::int32_t> place(-200 * kUnits, 500 * kUnits);
+    std::uniform_int_distribution<std::int32_t> step(-20 * kUnits, 20 * kUnits);
+    std::vector<CanvasPoint> points;
+    for (int i = 0; i < 3000; ++i) {
+        const bool jumps = i % 6 == 0;
+        const CanvasPoint last = jumps ? CanvasPoint{} : points.back();
+        points.push_back(jumps ? CanvasPoint{place(random), place(random)}
+                               : CanvasPoint{last.x + step(random), last.y + step(random)});
+    }
+    const auto draw = [&points](MapCanvas& canvas, CanvasRows /*rows*/) {
+        for (std::size_t i = 0; i + 12 <= points.size(); i += 6) {
+            const auto shade = static_cast<std::uint32_t>(i * 7919);
+            canvas.setFillColor({shade & 0xFFFFFFU});
+            canvas.setPenColor({~shade & 0xFFFFFFU});
+            canvas.setPenWidth(1 + static_cast<int>(i / 6 % 3));
+            canvas.setPenStyle(i % 36 == 0 ? PenStyle::Dotted : PenStyle::Solid);
+            canvas.setFillStyle(i % 24 == 0 ? FillStyle::Hatched : FillStyle::Solid);
+            canvas.polygon(std::span(points).subspan(i, i % 60 == 0 ? 12 : 5));
+            canvas.setPenColor({shade & 0xFFFFFFU});
+            canvas.polygon(square(points[i].x / kUnits, points[i].y / kUnits, points[i].x / kUnits,
+                                  points[i + 1].y / kUnits));
+            canvas.line(points[i], points[i + 1], {shade & 0xFFFFFFU});
+            canvas.rectangle(points[i + 2], points[i + 3], {0x445566}, RectangleStyle::Outlined);
+            canvas.point(points[i + 4], kRed);
+        }
+    };
+    for (const double ratio : {1.0, 1.5}) {
+        RasterCanvas whole({300 * kUnits, 400 * kUnits}, ratio);
+        RasterCanvas parts({300 * kUnits, 400 * kUnits}, ratio);
+        draw(whole, {});
+        parts.drawInParts(draw);
+        EXPECT_EQ(parts.image(), whole.image());
+    }
+}
+
+/// A ring in one row or column of pixels has a way of its own.
+TEST(RasterCanvas, ASmallRingOfOneColourIsItsOutlineAndItsInside) {
+    std::mt19937 random(20260105);
+    std::uniform_int_distribution<std::int32_t> corner(0, 3 * kUnits);
+    for (int i = 0; i < 2000; ++i) {
+        std::vector<CanvasPoint> ring;
+        for (int k = 0; k < 3 + i % 4; ++k) {
+            ring.push_back(
+                {150 + corner(random) / (1 + i % 3), 150 + corner(random) / (3 - i % 3)});
+        }
+        RasterCanvas small({20 * kUnits, 20 * kUnits});
+        RasterCanvas drawn({20 * kUnits, 20 * kUnits});
+        small.setFillColor(kRed);
+        small.setPenColor(kRed);
+        small.polygon(ring);
+        drawn.setFillColor(kRed);
+        drawn.setPenColor(kBlue);
+        drawn.polygon(ring);
+        for (int at = 0; at < 400; ++at) {
+            const Color color = colorAt(drawn, at % 20, at / 20);
+            EXPECT_EQ(colorAt(small, at % 20, at / 20), color == kBlue ? kRed : color);
+        }
+    }
+}
+
+TEST(RasterCanvas, WhatFailsInAPartFailsOutside) {
+    RasterCanvas canvas({20 * kUnits, 20 * kUnits});
+    EXPECT_THROW(canvas.drawInParts([](MapCanvas&, CanvasRows) { throw std::bad_alloc(); }),
+                 std::bad_alloc);
 }
 
 TEST(RasterCanvas, DrawsAnythingWithoutHarm) {

@@ -103,7 +103,9 @@ public:
     /// One white pixel: a recording has no picture.
     [[nodiscard]] Picture picture() const override { return {1, 1, {0xFFFFFFFFU}}; }
     void takeSnapshot() override { add("snapshot"); }
-    void paintSnapshot(CanvasPoint offset) override { add("paint snapshot:" + place(offset)); }
+    void paintSnapshot(CanvasPoint offset, double factor) override {
+        add("paint snapshot:" + place(offset) + (factor == 1 ? "" : " x" + std::to_string(factor)));
+    }
     void refresh() override { add("refresh"); }
     void setPointer(PointerShape shape) override { pointer_ = shape; }
 
@@ -122,7 +124,9 @@ private:
     }
     [[nodiscard]] std::string fillForm() const {
         return " fill=" + hex(fill_) +
-               (fillStyle_ == FillStyle::Solid ? " style=solid" : " style=transparent") +
+               (fillStyle_ == FillStyle::Solid     ? " style=solid"
+                : fillStyle_ == FillStyle::Hatched ? " style=hatched"
+                                                   : " style=transparent") +
                " pen=" + hex(pen_) + penForm();
     }
     [[nodiscard]] std::string penForm() const {

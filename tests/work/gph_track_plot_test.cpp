@@ -1,6 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
+#include <cmath>
 #include <random>
 #include <vector>
 
@@ -115,6 +116,20 @@ TEST(GphTrackPlot, JoinsStepsThatLookAlike) {
          false,
          {kWorkedBare + "(100,490) (110,490) (110,510) (100,510)",
           kWorked + "(110,490) (200,490) (200,510) (110,510)"}},
+        {"steps below a pixel are drawn at once where their colours agree",
+         {{100, 500, 9}, {110, 500, 8}, {120, 500, 0}, {130, 500, 7}, {220, 500, 7}},
+         true,
+         false,
+         {kWorkedBare + "(100,490) (110,490) (120,490) (120,510) (110,510) (100,510)",
+          "polygon fill=0x40FF00 style=solid pen=0x40FF00 width=1 solid: (120,490) (130,490) "
+          "(130,510) (120,510)",
+          kWorked + "(130,490) (220,490) (220,510) (130,510)"}},
+        {"a dose that lasts for more than a pixel is a figure of its own",
+         {{100, 500, 9}, {110, 500, 8}, {120, 500, 8}, {130, 500, 8}},
+         true,
+         false,
+         {kWorkedBare + "(100,490) (110,490) (110,510) (100,510)",
+          kWorked + "(110,490) (120,490) (130,490) (130,510) (120,510) (110,510)"}},
         {"a thin swath is thin at every angle",
          {{100, 500, 9, 14}, {200, 400, 9, 14}},
          true,
@@ -142,6 +157,27 @@ TEST(GphTrackPlot, WhatIsWidenedIntoTheMapIsDrawn) {
     EXPECT_EQ(drawing.canvas.calls().size(), 1U);
 }
 
+/// Whatever is left out at a time, nothing is that shows.
+TEST(GphTrackPlot, ALongPassIsDrawnWhereverItComesIntoView) {
+    std::vector<Stop> stops;
+    for (int i = 0; i <= 2000; ++i) {
+        stops.push_back({500 + 900 * std::sin(i / 70.0), 0.5 * i, i % 5 * 20});
+    }
+    const GphTrack track = trackOf(stops);
+    Drawing drawing;
+    std::vector<std::string> expected;
+    drawing.view = ViewTransform(0.1F, 0.1F, atMetres(450, 450), kCanvas);  // no step is small
+    for (std::int32_t n = 0; n < track.Gph_count(); ++n) {
+        track.Gph_plotN(drawing.context, n);
+    }
+    EXPECT_GT(drawing.canvas.calls().size(), 20U);
+    EXPECT_LT(drawing.canvas.calls().size(), 400U);
+    expected = drawing.canvas.calls();
+    drawing.canvas.forget();
+    track.Gph_plot(drawing.context);
+    EXPECT_EQ(drawing.canvas.calls(), expected);
+}
+
 /// Steps in pairs of one total dose and one width, of which each second differs in everything else.
 TEST(GphTrackPlot, EveryStepHasTheColourOfItsRecordInEveryMode) {
     constexpr std::int32_t kSteps = 24;
@@ -160,24 +196,24 @@ TEST(GphTrackPlot, EveryStepHasTheColourOfItsRecordInEveryMode) {
         reports.addPoint(at.x, at.y, TrackDataRPT(fields));
         logged.addPoint(at.x, at.y, loggerRecord(40, second ? 900 : 90));
     }
-    const auto style = [](ColorMode mode, int channel, GraduatedBy by, bool graduated) {
-        MapStyle made;
-        made.mode = mode;
-        made.selectedChannel = channel;
-        made.by = by;
-        made.graduated = graduated;
-        return made;
+    const auto made = [](ColorMode mode, int channel, GraduatedBy by, bool graduated) {
+        MapStyle style;
+        style.mode = mode;
+        style.selectedChannel = channel;
+        style.by = by;
+        style.graduated = graduated;
+        return style;
     };
     using By = GraduatedBy;
     const std::pair<const char*, MapStyle> rows[] = {
-        {"dose", style(ColorMode::Dose, -1, By::Hectare, true)},
-        {"dose of a channel", style(ColorMode::Dose, 0, By::Hectare, true)},
-        {"flow", style(ColorMode::Dose, -1, By::Minute, true)},
-        {"plain", style(ColorMode::Dose, -1, By::Hectare, false)},
-        {"alarm", style(ColorMode::Alarm, -1, By::Hectare, true)},
-        {"date", style(ColorMode::Date, -1, By::Hectare, true)},
-        {"error", style(ColorMode::Error, -1, By::Hectare, true)},
-        {"error in a channel", style(ColorMode::Error, 0, By::Hectare, true)},
+        {"dose", made(ColorMode::Dose, -1, By::Hectare, true)},
+        {"dose of a channel", made(ColorMode::Dose, 0, By::Hectare, true)},
+        {"flow", made(ColorMode::Dose, -1, By::Minute, true)},
+        {"plain", made(ColorMode::Dose, -1, By::Hectare, false)},
+        {"alarm", made(ColorMode::Alarm, -1, By::Hectare, true)},
+        {"date", made(ColorMode::Date, -1, By::Hectare, true)},
+        {"error", made(ColorMode::Error, -1, By::Hectare, true)},
+        {"error in a channel", made(ColorMode::Error, 0, By::Hectare, true)},
     };
     ColorScale scale;
     const CanvasSize size{500 * 15, 100 * 15};
@@ -206,13 +242,14 @@ TEST(GphTrackPlot, EveryStepHasTheColourOfItsRecordInEveryMode) {
 /// from one step for the next and wherever the way leaves the canvas.
 TEST(GphTrackPlot, WholeIsTheSumOfItsSteps) {
     std::mt19937 random(20260102);
-    std::uniform_real_distribution<double> stride(-60, 60);
+    std::uniform_real_distribution<double> stride(-60, 60);  // a pixel is 15
     std::uniform_int_distribution<int> swath(1, 2);
     std::vector<Stop> stops{{500, 500, 0}};
     for (std::int32_t i = 1; i < 500; ++i) {
         const Stop& last = stops.back();
-        stops.push_back({last.east + stride(random), last.north + stride(random), i % 7,
-                         20 * static_cast<float>(swath(random))});
+        const double north = stride(random);
+        stops.push_back({last.east + stride(random), last.north + north + std::copysign(15, north),
+                         i % 7, 20 * static_cast<float>(swath(random))});
     }
     const GphTrack track = trackOf(stops);
     for (const bool drawAll : {false, true}) {
