@@ -47,8 +47,8 @@ inline ViewTransform wholeView(const BoundingBox& box) {
     return {static_cast<float>(scale), static_cast<float>(scale), {box.minX, box.minY}, kCanvas};
 }
 
-/// At a metre and a half a pixel, with the lower edge of the field near the top of the canvas: about a
-/// thousand steps of the first rows are in view.
+/// At a metre and a half a pixel, with the lower edge of the field near the top of the canvas:
+/// about a thousand steps of the first rows are in view.
 inline ViewTransform cornerView() {
     constexpr float kCloseScale = 0.1F;
     constexpr double kFieldSeenM = 10;

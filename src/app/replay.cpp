@@ -87,6 +87,7 @@ void Replay::play() {
     if (!shown_.available) {
         return;
     }
+    view_.settle();  // which would stop the replay later
     const bool wasPlaying = state_ == State::Playing;
     shown_.playing = !wasPlaying;
     show();
@@ -103,6 +104,7 @@ void Replay::seek(std::int32_t position) {
     if (showing_ || !shown_.available || state_ == State::Playing) {
         return;
     }
+    view_.settle();
     shown_.playing = false;
     shown_.position = std::clamp(position, 0, shown_.maximum);
     start({true, shown_.position});
@@ -130,7 +132,16 @@ void Replay::start(Order order) {
         const Order current = *std::exchange(next_, std::nullopt);
         run(current);
     }
+    plotOnTop();
     canvas_.refresh();
+}
+
+void Replay::plotOnTop() {
+    const ViewTransform view = view_.transform();
+    MapContext context{canvas_, view, style_};
+    for (const Gph* layer : gphList_()) {
+        layer->plotOnTop(context);
+    }
 }
 
 void Replay::run(const Order& order) {
@@ -171,7 +182,10 @@ Replay::Outcome Replay::drawFrom(const Order& order) {
     for (const Gph* layer : gphList_()) {
         if (layer->Gph_animable()) {
             walk.layers.push_back(layer);
-        } else if (!resumes) {
+            continue;
+        }
+        walk.still.push_back(layer);
+        if (!resumes) {
             layer->Gph_plot(context);
         }
     }
@@ -211,6 +225,9 @@ Replay::Outcome Replay::drawElements(MapContext& context, Walk& walk, std::int32
                 waitMs(kPauseStep * static_cast<std::uint32_t>(speed_));
             }
             if (!isCancelled()) {
+                for (const Gph* still : walk.still) {
+                    still->plotOnTop(context);
+                }
                 showElement(walk, n);
             }
         }

@@ -77,12 +77,14 @@ private:
     /// Where the walk over the replayable layers is.
     struct Walk {
         std::vector<const Gph*> layers;
+        std::vector<const Gph*> still;  // those that are drawn whole before it begins
         std::size_t current = 0;
         std::int64_t before = 0;  // elements of the layers before the current one
     };
     enum class Outcome { Interrupted, RanOut };
 
     void start(Order order);
+    void plotOnTop();
     void run(const Order& order);
     [[nodiscard]] Outcome drawFrom(const Order& order);
     [[nodiscard]] Outcome drawElements(MapContext& context, Walk& walk, std::int32_t position,

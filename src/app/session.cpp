@@ -7,7 +7,9 @@
 #include <cstddef>
 #include <utility>
 
+#include "app/draw_layers.h"
 #include "app/legend.h"
+#include "app/place_marks.h"
 #include "app/settings.h"
 #include "app/summary_names.h"
 #include "app/window_title.h"
@@ -31,9 +33,8 @@ Session::Session(const Platform& platform, Language language, std::string progra
       view_(platform.canvas, platform.window, style_,
             [this](MapContext& context) {
                 replay_.stopReplay();
-                for (const Gph* layer : layersFromBelow(lotEditor_.edited())) {
-                    layer->Gph_plot(context);
-                }
+                drawLayers(context, layersFromBelow(lotEditor_.edited()));
+                drawPlaceMarks(context, places(), texts_);
                 tools_.viewChanged();
             }),
       tools_(platform.canvas, platform.window, view_, style_, files_, texts_, platform.locale,
@@ -49,6 +50,10 @@ Session::Session(const Platform& platform, Language language, std::string progra
               tools_.cancelDrag();
           }) {
     style_.scale = &defaultScale_;
+    view_.onPictureMoved = [this] {
+        replay_.stopReplay();
+        tools_.viewChanged();
+    };
     tools_.onDose = [this](LonLat position) { prescription_.changeDose(position); };
 }
 
@@ -314,14 +319,22 @@ std::vector<const Gph*> Session::layersFromBelow(const File* without) const {
     return all;
 }
 
-void Session::plotAll(MapContext& context) const {
-    for (const Gph* layer : layersFromBelow(nullptr)) {
-        layer->Gph_plot(context);
+std::vector<MarkedPlace> Session::places() const {
+    std::vector<MarkedPlace> places;
+    for (const File* file : openFiles()) {
+        places.push_back({file->File_bound(), file->File_name()});
     }
+    return places;
+}
+
+void Session::plotAll(MapContext& context) const {
+    drawLayers(context, layersFromBelow(nullptr));
+    drawPlaceMarks(context, places(), texts_);
 }
 
 bool Session::plotAll(MapContext& context, Progress& progress) const {
     const std::vector<const Gph*> layers = layersFromBelow(nullptr);
+    context.lotsAlone = areLotsAlone(layers);
     int reported = -1;
     for (std::size_t i = 0; i < layers.size(); ++i) {
         const int percent = static_cast<int>(100 * i / layers.size());
@@ -330,6 +343,10 @@ bool Session::plotAll(MapContext& context, Progress& progress) const {
         }
         layers[i]->Gph_plot(context);
     }
+    for (const Gph* layer : layers) {
+        layer->plotOnTop(context);
+    }
+    drawPlaceMarks(context, places(), texts_);
     return true;
 }
 

@@ -18,6 +18,7 @@
 #include "app/map_modes.h"
 #include "app/map_tools.h"
 #include "app/map_view.h"
+#include "app/place_marks.h"
 #include "app/presc_commands.h"
 #include "app/replay.h"
 #include "base/texts.h"
@@ -195,6 +196,8 @@ private:
     };
 
     [[nodiscard]] std::vector<File*> openFiles() const;
+    /// Where the open files lie, the first on top.
+    [[nodiscard]] std::vector<MarkedPlace> places() const;
     /// In the order in which they are drawn; not those of `without`, which may be null.
     [[nodiscard]] std::vector<const Gph*> layersFromBelow(const File* without) const;
     /// Reads a file and adds it; neither list nor legend are shown anew yet.

@@ -20,6 +20,11 @@ struct Color {
     [[nodiscard]] constexpr int green() const { return static_cast<int>((value >> 8U) & 0xFFU); }
     [[nodiscard]] constexpr int blue() const { return static_cast<int>((value >> 16U) & 0xFFU); }
 
+    /// Of the same hue, for an edge around what has this colour.
+    [[nodiscard]] constexpr Color darker() const {
+        return rgb(red() * 5 / 9, green() * 5 / 9, blue() * 5 / 9);
+    }
+
     bool operator==(const Color&) const = default;
 };
 

@@ -15,6 +15,7 @@ namespace campora {
 namespace {
 
 constexpr float kSquareMetresPerHectare = 10'000;
+constexpr int kOutlinePixels = 2;
 
 /// The form "#.#": no zero before the point and none behind it.
 std::string areaText(float hectares, char decimalSymbol) {
@@ -57,6 +58,15 @@ float GphLote::hectares() const {
 }
 
 void GphLote::Gph_plot(MapContext& context) const {
+    draw(context, context.lotsAlone ? FillStyle::Solid : FillStyle::Hatched,
+         context.style.colors.lote, 1);
+}
+
+void GphLote::plotOnTop(MapContext& context) const {
+    draw(context, FillStyle::Transparent, context.style.colors.lote.darker(), kOutlinePixels);
+}
+
+void GphLote::draw(MapContext& context, FillStyle fill, Color pen, int penWidth) const {
     if (vertices_.empty() || !context.view.isFitted() || !context.view.mayTouch(bound_, 0)) {
         return;
     }
@@ -66,14 +76,16 @@ void GphLote::Gph_plot(MapContext& context) const {
         corners.push_back(context.view.mapToScreen(x, y));
     }
     MapCanvas& canvas = context.canvas;
-    const Color pen = canvas.penColor();
-    const Color color = context.style.colors.lote;
-    canvas.setPenColor(color);
+    const Color before = canvas.penColor();
+    canvas.setPenColor(pen);
+    canvas.setPenWidth(penWidth);
+    canvas.setFillStyle(fill);
+    canvas.setFillColor(context.style.colors.lote);
+    canvas.polygon(corners);
+    // Others draw with what they find.
+    canvas.setPenColor(before);
     canvas.setPenWidth(1);
     canvas.setFillStyle(FillStyle::Solid);
-    canvas.setFillColor(color);
-    canvas.polygon(corners);
-    canvas.setPenColor(pen);  // others outline with what they find
 }
 
 std::int32_t GphLote::Gph_mouseOver(const ViewTransform& /*view*/, const MapStyle& /*style*/,

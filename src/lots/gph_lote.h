@@ -37,8 +37,10 @@ public:
     [[nodiscard]] std::string_view Gph_kind() const override { return "GphLote"; }
     [[nodiscard]] std::int32_t Gph_count() const override { return 1; }
     [[nodiscard]] const BoundingBox& Gph_bound() const override { return bound_; }
-    /// Outlined and filled in the colour of lots.
+    /// Filled in the colour of lots, hatched where there is more on the map than lots.
     void Gph_plot(MapContext& context) const override;
+    /// The outline, in a darker shade.
+    void plotOnTop(MapContext& context) const override;
     /// 0 when the position lies inside the ring.
     [[nodiscard]] std::int32_t Gph_mouseOver(const ViewTransform& view, const MapStyle& style,
                                              LonLat position, std::int32_t start) const override;
@@ -55,6 +57,8 @@ public:
                                                          std::int32_t point) const override;
 
 private:
+    void draw(MapContext& context, FillStyle fill, Color pen, int penWidth) const;
+
     std::vector<LonLat> vertices_;
     BoundingBox bound_;
 };

@@ -27,6 +27,8 @@ struct MapContext {
     /// Canvas units that a swath, cell or zone must be wide and high to have an outline in ink; a
     /// smaller one is outlined in its own colour, so that what is dense is not drawn black.
     std::int32_t leastOutlined = kLeastOutlined;
+    /// Every layer of the map is a lot, which may then hide what lies under it.
+    bool lotsAlone = false;
 };
 
 /// What a layer needs to put itself into words.
@@ -48,7 +50,10 @@ public:
     [[nodiscard]] virtual const BoundingBox& Gph_bound() const = 0;
     /// Whether the layer is replayed element by element rather than drawn whole first.
     [[nodiscard]] virtual bool Gph_animable() const = 0;
+    /// Several threads may call it at once, each with a canvas of its own.
     virtual void Gph_plot(MapContext& context) const = 0;
+    /// Draws what lies on top of every layer of the map, after all of them have been plotted.
+    virtual void plotOnTop(MapContext& /*context*/) const {}
     /// Draws element n alone; true when it drew it.
     virtual bool Gph_plotN(MapContext& context, std::int32_t n) const = 0;
     /// Seconds from element n to the next in the recorded work; 0 for layers without times.

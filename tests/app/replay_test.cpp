@@ -32,6 +32,12 @@ public:
         return true;
     }
 
+    void plotOnTop(MapContext& context) const override {
+        if (count_ == 0) {
+            context.canvas.point({}, {});
+        }
+    }
+
 private:
     std::string name_;
     std::int32_t count_;
@@ -128,6 +134,9 @@ TEST_F(ReplayTest, PlaysEveryElementOnceAfterWhatDoesNotMove) {
         positions.push_back(window.replay.position);
     };
     replay.play();
+    const std::vector<std::string> calls = canvas.calls();
+    EXPECT_TRUE(calls.at(calls.size() - 2).starts_with("point")) << "what lies on top of all";
+    EXPECT_GT(canvas.callsOf("point").size(), 5U) << "and after each element";
     EXPECT_EQ(drawn(), "| p a0 a1 a2 b0 b1 b2 b3 b4 ");
     EXPECT_EQ(positions, (std::vector<std::int32_t>{0, 1, 2, 2, 4, 5, 6, 7}));
     EXPECT_EQ(window.replay, at(0));

@@ -46,24 +46,31 @@ TEST(GphLote, IsExportedAsAClosedRing) {
     EXPECT_EQ(GphLote().ExportablePolygon_polygonNCount(style, 0), 0);
 }
 
-TEST(GphLote, IsDrawnInTheColourOfLotsAndLeavesThePen) {
+TEST(GphLote, IsHatchedAmongOthersAndItsOutlineLiesOnTop) {
     RecordingCanvas canvas{{1000, 500}};
     MapStyle style;
-    style.colors.lote = Color{0x123456};
+    style.colors.lote = Color::rgb(90, 180, 9);
     canvas.setPenColor(Color{0xABCDEF});
     const ViewTransform view(10, 10, {0, 0}, canvas.size());
     MapContext context{canvas, view, style};
-    canvas.forget();
-    square(0.01).Gph_plot(context);
-    ASSERT_EQ(canvas.calls().size(), 1U);
-    EXPECT_TRUE(canvas.calls()[0].starts_with(
-        "polygon fill=0x123456 style=solid pen=0x123456 width=1 solid: (0,500) (111,500)"))
-        << canvas.calls()[0];
-    EXPECT_EQ(canvas.penColor(), Color{0xABCDEF});
-    canvas.forget();
-    GphLote({{50, 50}, {51, 50}, {50, 51}}, "").Gph_plot(context);
+    const auto drawn = [&](auto operation, const GphLote& lot) {
+        canvas.forget();
+        (lot.*operation)(context);
+        EXPECT_EQ(canvas.penColor(), Color{0xABCDEF});
+        return canvas.calls().empty() ? std::string() : canvas.calls()[0];
+    };
+    EXPECT_THAT(drawn(&GphLote::Gph_plot, square(0.01)),
+                testing::StartsWith("polygon fill=0x09B45A style=hatched pen=0x09B45A width=1"));
+    EXPECT_THAT(
+        drawn(&GphLote::plotOnTop, square(0.01)),
+        testing::StartsWith("polygon fill=0x09B45A style=transparent pen=0x056432 width=2"));
+    context.lotsAlone = true;
+    EXPECT_THAT(drawn(&GphLote::Gph_plot, square(0.01)),
+                testing::StartsWith("polygon fill=0x09B45A style=solid pen=0x09B45A"));
+    EXPECT_EQ(drawn(&GphLote::Gph_plot, GphLote({{50, 50}, {51, 50}, {50, 51}}, "")), "");
     const ViewTransform unfitted;
     MapContext without{canvas, unfitted, style};
+    canvas.forget();
     square(0.01).Gph_plot(without);
     EXPECT_TRUE(canvas.calls().empty());
 }
