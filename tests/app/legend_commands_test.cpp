@@ -122,7 +122,7 @@ TEST(LegendCommands, ExtremesAreTypedInAnyForm) {
         EXPECT_TRUE(desk.dialogs.inputAnswers.empty());
         EXPECT_EQ(desk.dialogs.messages.size(), row.says == nullptr ? 0U : 1U);
         if (row.says != nullptr) {
-            EXPECT_THAT(desk.dialogs.messages.front(), HasSubstr(row.says));
+            EXPECT_THAT(desk.dialogs.messages.at(0), HasSubstr(row.says));
         }
     }
 }

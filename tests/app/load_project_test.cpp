@@ -51,10 +51,11 @@ TEST(ProjectFile, EveryLineIsACommentOrAPath) {
                                                     " /log0012.nbr\t\r\n"
                                                     "C:\\datos\\\xD1"
                                                     "and\xFA #2.rpt";
-    EXPECT_THAT(*decodeProject(text, "C:\\Prog"),
+    EXPECT_THAT(decodeProject(text, "C:\\Prog").value(),
                 ElementsAre("", "C:\\Prog\\\\ejemplos\\lote.shp", "C:\\Prog\\/log0012.nbr",
                             "C:\\datos\\Ñandú #2.rpt"));
-    EXPECT_THAT(*decodeProject(std::string(kHeader) + "\\a", "/opt/"), ElementsAre("/opt/\\a"));
+    EXPECT_THAT(decodeProject(std::string(kHeader) + "\\a", "/opt/").value(),
+                ElementsAre("/opt/\\a"));
 }
 
 TEST(LoadProject, OpensTheFilesBesideTheOpenOnesAndShowsThemOnce) {

@@ -298,7 +298,7 @@ TEST(MapModes, ASwathWidthIsGivenToAllWork) {
                                                                           : "0.04 Has");
         EXPECT_EQ(desk.dialogs.messages.size(), row.says == nullptr ? 0U : 1U);
         if (row.says != nullptr) {
-            EXPECT_THAT(desk.dialogs.messages.front(), HasSubstr(row.says));
+            EXPECT_THAT(desk.dialogs.messages.at(0), HasSubstr(row.says));
         }
     }
 }

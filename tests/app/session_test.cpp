@@ -75,7 +75,7 @@ TEST_F(SessionTest, AFileThatIsNotTakenChangesNothing) {
         EXPECT_FALSE(session.loadFile(path, false, true));
         ASSERT_EQ(dialogs.messages.size(), says == nullptr ? 0U : 1U);
         if (says != nullptr) {
-            EXPECT_THAT(dialogs.messages.front(), testing::HasSubstr(says));
+            EXPECT_THAT(dialogs.messages.at(0), testing::HasSubstr(says));
         }
         EXPECT_EQ(window.files, before.files);
         EXPECT_EQ(window.title, before.title);

@@ -126,9 +126,9 @@ TEST_F(GeoJsonTest, FailuresAndCancellingLeaveTheOldFile) {
     const std::string old = folder.write("old.geojson", "old");
     path = old;
     AttributeLayer empty({}, {});
-    EXPECT_EQ(write({&empty})->text, TextId::NothingToExportGis);
+    EXPECT_EQ(write({&empty}).value().text, TextId::NothingToExportGis);
     AttributeLayer line({{{0, 0}, {1, 1}}}, {});
-    EXPECT_EQ(write({&line})->text, TextId::NothingToExportGis);
+    EXPECT_EQ(write({&line}).value().text, TextId::NothingToExportGis);
     RingLayer layer(std::vector<RingLayer::Ring>(5000, squareAt(0, 0)));
     CancellingProgress enough;
     ExportProgress cancelled(enough);
@@ -145,7 +145,7 @@ TEST_F(GeoJsonTest, FailuresAndCancellingLeaveTheOldFile) {
 #endif
     EXPECT_EQ(contentOf(path), "old");
     path = folder.path();
-    EXPECT_EQ(write(layers)->cause.at(0).text, TextId::FileIsFolder);
+    EXPECT_EQ(write(layers).value().cause.at(0).text, TextId::FileIsFolder);
 }
 
 }  // namespace

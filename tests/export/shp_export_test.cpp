@@ -210,12 +210,12 @@ TEST_F(ShpTest, NothingToWriteIsAFailureAndLeavesNoFile) {
     AttributeLayer hollow({{}, {}}, {});
     AttributeLayer line({{{0, 0}, {1, 1}}}, {});
     for (const std::vector<Gph*>& layers : {std::vector<Gph*>{}, {&picture}, {&empty}}) {
-        EXPECT_EQ(polygons(layers)->text, TextId::NoPolygonsToExport);
-        EXPECT_EQ(points(layers)->text, TextId::NoPointsToExport);
-        EXPECT_EQ(gis(layers)->text, TextId::NothingToExportGis);
+        EXPECT_EQ(polygons(layers).value().text, TextId::NoPolygonsToExport);
+        EXPECT_EQ(points(layers).value().text, TextId::NoPointsToExport);
+        EXPECT_EQ(gis(layers).value().text, TextId::NothingToExportGis);
     }
-    EXPECT_EQ(polygons({&hollow})->text, TextId::NoPolygonsToExport);
-    EXPECT_EQ(gis({&line})->text, TextId::NothingToExportGis) << "without area";
+    EXPECT_EQ(polygons({&hollow}).value().text, TextId::NoPolygonsToExport);
+    EXPECT_EQ(gis({&line}).value().text, TextId::NothingToExportGis) << "without area";
     EXPECT_EQ(fileCount(), 0U);
 }
 
@@ -354,9 +354,9 @@ TEST_F(ShpTest, NamesMayHoldAnything) {
     EXPECT_EQ(reader.open(odd + ".shp"), std::nullopt);
     EXPECT_EQ(reader.recordCount(), 1);
     base = folder.file(std::string(300, 'x'));
-    EXPECT_EQ(polygons({&layer})->text, TextId::FileCannotBeWritten);
+    EXPECT_EQ(polygons({&layer}).value().text, TextId::FileCannotBeWritten);
     base = folder.file("none/campo");
-    EXPECT_EQ(polygons({&layer})->cause.at(0).text, TextId::FolderNotFound);
+    EXPECT_EQ(polygons({&layer}).value().cause.at(0).text, TextId::FolderNotFound);
     EXPECT_EQ(fileCount(), 5U);
 }
 

@@ -225,7 +225,7 @@ TEST(Generation, WhatNoFileCanHoldIsRefusedBeforeAnythingIsWritten) {
         EXPECT_FALSE(row.vrt ? desk.vrt({row.layer}, static_cast<float>(row.size))
                              : desk.pre({row.layer}, static_cast<int>(row.size)));
         ASSERT_THAT(desk.dialogs.messages, ElementsAre(HasSubstr(row.says)));
-        EXPECT_THAT(desk.dialogs.messages.front(), HasSubstr(row.vrt ? "lote.vrt" : "lote.pre"));
+        EXPECT_THAT(desk.dialogs.messages.at(0), HasSubstr(row.vrt ? "lote.vrt" : "lote.pre"));
         EXPECT_THAT(desk.files(), IsEmpty());
     }
     Desk fits;

@@ -216,8 +216,8 @@ TEST(R2Tree, ModesOfFinding) {
     EXPECT_EQ(idsAt(tree, {11, 11, 9, 9}, 2), Ids{});
     EXPECT_EQ(idsOf(tree.Find(10, 2, 10, 2, 1)->entries), Ids{2}) << "corners in any order";
     EXPECT_FALSE(tree.Find(2, 4, 2, 5, 3));
-    EXPECT_EQ(tree.Find(2, 4, 2, 4, 3)->leaves, (std::vector{&tree.root()}));
-    EXPECT_EQ(tree.Find(90, 91, 90, 91, 4)->leaves, (std::vector{&tree.root()}));
+    EXPECT_EQ(tree.Find(2, 4, 2, 4, 3).value().leaves, (std::vector{&tree.root()}));
+    EXPECT_EQ(tree.Find(90, 91, 90, 91, 4).value().leaves, (std::vector{&tree.root()}));
     EXPECT_FALSE(R2Tree().Find(0, 0, 0, 0, 3));
 }
 

@@ -44,10 +44,10 @@ TEST(LoadTrackFile, PriorityCountsLinesWithoutTheLastLineEnd) {
     track.addPoint(0, 0, 20, 12);
     std::string text = track.bytes();
     WorkReading reading;
-    EXPECT_EQ(reading.track(text)->group->File_priority(), 9);
+    EXPECT_EQ(reading.track(text).value().group->File_priority(), 9);
     text.pop_back();
-    EXPECT_EQ(reading.track(text)->group->File_priority(), 9);
-    EXPECT_EQ(reading.track(text + "\n\n\n")->group->File_priority(), 11);
+    EXPECT_EQ(reading.track(text).value().group->File_priority(), 9);
+    EXPECT_EQ(reading.track(text + "\n\n\n").value().group->File_priority(), 11);
 }
 
 TEST(LoadTrackFile, ReadsOffsetsFlowAndSpeedByVersion) {

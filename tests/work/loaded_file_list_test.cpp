@@ -116,7 +116,7 @@ TEST_F(LoadedFileListTest, SaysWhyAFileCouldNotBeDeletedAndLeavesItsSummary) {
     EXPECT_FALSE(
         list.addFile(makeFile(folder.file("folder.nbr"), "job", 5, summary), false, dialogs));
     ASSERT_EQ(dialogs.messages.size(), 1U);
-    EXPECT_THAT(dialogs.messages.front(), ::testing::HasSubstr("folder.nbr"));
+    EXPECT_THAT(dialogs.messages.at(0), ::testing::HasSubstr("folder.nbr"));
     EXPECT_TRUE(ListOnDisk::isThere(summary));
 }
 
