@@ -246,14 +246,28 @@ bool DoseColumns::settleForm(Row& row, const std::string& badColumn) {
         warn(words + "\n" + texts.format(TextId::CliUseOption, {question.options()}));
         return false;
     }
-    const Answer answer = session_.platform().dialogs.askYesNoCancel(words, MessageIcon::Question,
-                                                                     texts(TextId::ProgramName));
-    if (answer == Answer::Yes) {
-        row.form = question.form();
-    } else if (answer == Answer::No && question.hasTwoWays()) {
-        row.form = question.formOfNo();
-    }
+    row.form = askForm(question, words);
     return row.form.has_value();
+}
+
+std::optional<ColumnForm> DoseColumns::askForm(const ColumnQuestion& question,
+                                               const std::string& words) const {
+    Dialogs& dialogs = session_.platform().dialogs;
+    const std::string_view caption = session_.texts()(TextId::ProgramName);
+    if (!question.hasTwoWays()) {
+        return dialogs.askYesNo(words, MessageIcon::Question, caption)
+                   ? std::optional(question.form())
+                   : std::nullopt;
+    }
+    switch (dialogs.askYesNoCancel(words, MessageIcon::Question, caption)) {
+    case Answer::Yes:
+        return question.form();
+    case Answer::No:
+        return question.formOfNo();
+    case Answer::Cancel:
+        break;
+    }
+    return std::nullopt;
 }
 
 bool DoseColumns::areDosesFit(int row) {

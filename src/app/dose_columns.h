@@ -96,6 +96,8 @@ private:
     [[nodiscard]] std::string faultOf(const GphPresc& presc, const std::string& path) const;
     void noteOddities(const GphPresc& presc);
     [[nodiscard]] bool settleForm(Row& row, const std::string& badColumn);
+    [[nodiscard]] std::optional<ColumnForm> askForm(const ColumnQuestion& question,
+                                                    const std::string& words) const;
     [[nodiscard]] bool areDosesFit(int row);
     void note(const std::string& text) const;
     void warn(const std::string& text) const;

@@ -4,7 +4,6 @@
 #include "presc/zone_overlaps.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <span>
 
@@ -16,9 +15,13 @@ namespace campora {
 namespace {
 
 constexpr double kShareOfSmaller = 0.01;
-constexpr std::size_t kPlaces = 64;  // along each side of the common box
+/// Places along each side of the common box: so many that some fall on the least common ground
+/// that counts, within these bounds.
+constexpr double kPlacesOnLeast = 12;
+constexpr double kFewestPlaces = 8;
+constexpr double kMostPlaces = 64;
 /// Corners and places looked at: a second or two.
-constexpr std::int64_t kMostWork = 300'000'000;
+constexpr std::int64_t kMostWork = 100'000'000;
 
 BoundingBox common(const BoundingBox& a, const BoundingBox& b) {
     BoundingBox box;
@@ -54,32 +57,40 @@ std::int64_t cornersOf(const GphPolygonMulti& zone) {
     return corners;
 }
 
-CellCentres placesIn(const BoundingBox& box) {
+/// `least`: the smallest ground of interest, square degrees.
+CellCentres placesIn(const BoundingBox& box, double least) {
+    const double side =
+        std::clamp(std::ceil(std::sqrt(kPlacesOnLeast * squareDegrees(box) / least)), kFewestPlaces,
+                   kMostPlaces);
     CellCentres places;
-    for (std::size_t i = 0; i < kPlaces; ++i) {
-        const double part = (static_cast<double>(i) + 0.5) / kPlaces;
+    for (double i = 0; i < side; ++i) {
+        const double part = (i + 0.5) / side;
         places.x.push_back(box.minX + part * (box.maxX - box.minX));
         places.y.push_back(box.minY + part * (box.maxY - box.minY));
     }
     return places;
 }
 
+/// Which of the places lie in the zone.
+std::vector<std::int32_t> ownersOf(const GphPolygonMulti& zone, const CellCentres& places) {
+    ChannelZones alone;
+    alone.zones = std::span(&zone, 1);
+    alone.order = {0};
+    return *zonesUnder(alone, places, [](std::size_t /*done*/) { return true; });
+}
+
 /// The share of the places that lie in both zones.
 double shareOfBoth(const GphPolygonMulti& a, const GphPolygonMulti& b, const CellCentres& places) {
-    std::array<std::vector<std::int32_t>, 2> owners;
-    const GphPolygonMulti* zone = &a;
-    for (std::vector<std::int32_t>& of : owners) {
-        ChannelZones alone;
-        alone.zones = std::span(zone, 1);
-        alone.order = {0};
-        of = *zonesUnder(alone, places, [](std::size_t /*done*/) { return true; });
-        zone = &b;
+    const std::vector<std::int32_t> inA = ownersOf(a, places);
+    if (std::all_of(inA.begin(), inA.end(), [](std::int32_t owner) { return owner == kNoZone; })) {
+        return 0;
     }
+    const std::vector<std::int32_t> inB = ownersOf(b, places);
     std::size_t both = 0;
-    for (std::size_t i = 0; i < owners[0].size(); ++i) {
-        both += owners[0][i] != kNoZone && owners[1][i] != kNoZone ? 1 : 0;
+    for (std::size_t i = 0; i < inA.size(); ++i) {
+        both += inA[i] != kNoZone && inB[i] != kNoZone ? 1 : 0;
     }
-    return static_cast<double>(both) / static_cast<double>(kPlaces * kPlaces);
+    return static_cast<double>(both) / static_cast<double>(inA.size());
 }
 
 }  // namespace
@@ -114,8 +125,13 @@ std::vector<std::pair<std::int32_t, std::int32_t>> overlappingZones(const GphPre
             if (squareDegrees(box) <= least || least <= 0) {
                 continue;
             }
-            work += corners[i] + corners[j] + static_cast<std::int64_t>(kPlaces * kPlaces);
-            if (shareOfBoth(zones[i], zones[j], placesIn(box)) * squareDegrees(box) > least) {
+            const CellCentres places = placesIn(box, least);
+            work += corners[i] + corners[j] +
+                    static_cast<std::int64_t>(places.x.size() * places.y.size());
+            const bool isFirstLarger = areas[i] > areas[j];  // and likelier to be elsewhere
+            const GphPolygonMulti& larger = zones[isFirstLarger ? i : j];
+            const GphPolygonMulti& smaller = zones[isFirstLarger ? j : i];
+            if (shareOfBoth(larger, smaller, places) * squareDegrees(box) > least) {
                 pairs.emplace_back(static_cast<std::int32_t>(i) + 1, record + 1);
             }
         }

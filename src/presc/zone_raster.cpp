@@ -81,6 +81,11 @@ public:
         insides_.clear();
         holes_.clear();
         for (const GphPolygon& ring : polygon.rings()) {
+            const BoundingBox& reach = ring.Gph_bound();
+            if (!reach.isSet || x_.foundIn(reach.minX, reach.maxX).empty() ||
+                y_.foundIn(reach.minY, reach.maxY).empty()) {
+                continue;  // most rings of large zones, where the grid is small
+            }
             addSpans(ring.points(), ring.isHole ? holes_ : insides_);
         }
         fill(zone);
@@ -122,6 +127,9 @@ private:
             const LonLat& b = ring[i + 1 < ring.size() ? i + 1 : 0];
             // The lower end is on the edge, the upper one is not.
             const auto [low, high] = std::minmax(a.y, b.y);
+            if (high < y_[rows_.first] || low > y_[rows_.last - 1]) {
+                continue;
+            }
             const Range rows = intersection(rows_, y_.between(low, high));
             for (std::size_t row = rows.first; row < rows.last; ++row) {
                 crossings_.push_back({row, crossingX(a, b, y_[row])});

@@ -200,7 +200,8 @@ TEST_F(DoseColumnsTest, AsksHowAColumnIsToBeRead) {
         columns.answers = isBatch ? std::optional(row.beforehand) : std::nullopt;
         take(rowOfZones(row.cells).write(folder, "m"));
         if (row.answer) {
-            dialogs.answers.push_back(*row.answer);
+            dialogs.answers = {*row.answer};
+            dialogs.yesNoAnswers = {*row.answer == Answer::Yes};
         }
         ASSERT_EQ(columns.confirm(), row.confirmed);
         std::string said;
