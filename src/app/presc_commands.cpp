@@ -75,7 +75,8 @@ void PrescCommands::mnuFilePrescript() {
     if (channels.empty()) {
         return;
     }
-    auto made = std::make_unique<GphPrescVex>();
+    auto made =
+        std::make_unique<GphPrescVex>("Prescripción", session_.platform().locale.decimalSymbol());
     for (std::unique_ptr<GphPresc>& channel : channels) {
         made->addChannel(std::move(channel));
     }

@@ -123,8 +123,9 @@ FileProperties& GphPrescVex::File_resumen() {
     }
     for (std::size_t i = 0; i < channels_.size(); ++i) {
         const Figures sums = figures(i);
-        summary_.addProperty(entryName("Superficie", i), summaryFigure(sums.hectares, '.'), "Has");
-        summary_.addProperty(entryName("Producto total", i), summaryFigure(sums.product, '.'),
+        summary_.addProperty(entryName("Superficie", i), summaryFigure(sums.hectares, symbol_),
+                             "Has");
+        summary_.addProperty(entryName("Producto total", i), summaryFigure(sums.product, symbol_),
                              "unid");
     }
     return summary_;

@@ -21,8 +21,9 @@ namespace campora {
 /// channel is current: its layer is on the map and its scale in the legend. Channels count from 0.
 class GphPrescVex final : public File, public MultiChannel {
 public:
-    /// `name`: as the list of files and the title show it.
-    explicit GphPrescVex(std::string name = "Prescripción") : name_(std::move(name)) {}
+    /// `name`: as the list of files and the title show it; `symbol`: decimal, of its summary.
+    explicit GphPrescVex(std::string name = "Prescripción", char symbol = '.')
+        : name_(std::move(name)), symbol_(symbol) {}
 
     /// Takes the layer over as the next channel; its dose column is chosen already.
     void addChannel(std::unique_ptr<GphPresc> presc);
@@ -82,6 +83,7 @@ private:
     /// Of the grid that was counted: wider than the rule's where that grid could not be.
     double countedMetres_ = 0;
     std::string name_;
+    char symbol_;
     std::vector<std::unique_ptr<GphPresc>> channels_;
     int current_ = 0;
     BoundingBox bound_;

@@ -24,7 +24,7 @@ struct PrescVexTest : testing::Test {
 
     TempFolder folder;
     ScriptedDialogs dialogs;
-    GphPrescVex vex;
+    GphPrescVex vex{"Prescripción", ','};
 };
 
 TEST_F(PrescVexTest, ShowsTheCurrentChannel) {
@@ -52,10 +52,10 @@ TEST_F(PrescVexTest, SumsUpItsChannelsByTheDosesOfNow) {
                                                     {"Columna (C 1)", "DOSIS", ""},
                                                     {"Archivo (C 2)", "dos.shp", ""},
                                                     {"Columna (C 2)", "DOSIS", ""},
-                                                    {"Superficie (C 1)", "123.21", "Has"},
-                                                    {"Producto total (C 1)", "1232.1", "unid"},
-                                                    {"Superficie (C 2)", "247.53", "Has"},
-                                                    {"Producto total (C 2)", "6193.8", "unid"}}));
+                                                    {"Superficie (C 1)", "123,21", "Has"},
+                                                    {"Producto total (C 1)", "1232,1", "unid"},
+                                                    {"Superficie (C 2)", "247,53", "Has"},
+                                                    {"Producto total (C 2)", "6193,8", "unid"}}));
     first.setDosis(0, 100.5F);
     EXPECT_EQ(entries()[5].value, "12321") << "as the grid rounds";
     first.setDosis(0, 0);
