@@ -242,6 +242,7 @@ bool MapTools::goTo(LonLat position) {
 }
 
 void MapTools::viewChanged() {
+    hideInfo();  // what it tells of lies elsewhere now, or shows something else
     if (drag_ == Drag::Pan && pointer_) {
         startPan(*pointer_);  // from where the view is now
     }

@@ -10,7 +10,6 @@ namespace campora {
 InfoBox::InfoBox(QWidget* parent) : QLabel(parent) {
     setObjectName("txtInfo");
     setTextFormat(Qt::PlainText);
-    setTextInteractionFlags(Qt::TextSelectableByMouse);
     setFrameStyle(QFrame::Box | QFrame::Plain);
     setAutoFillBackground(true);
     setBackgroundRole(QPalette::ToolTipBase);
@@ -20,7 +19,8 @@ InfoBox::InfoBox(QWidget* parent) : QLabel(parent) {
     QFont small = font();
     small.setPixelSize(12);
     setFont(small);
-    setCursor(Qt::ArrowCursor);
+    // It lies over the map, and what is done there is meant for the map.
+    setAttribute(Qt::WA_TransparentForMouseEvents);
     hide();
 }
 

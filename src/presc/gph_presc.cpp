@@ -12,6 +12,7 @@
 #include "base/dates.h"
 #include "base/numbers.h"
 #include "base/paths.h"
+#include "base/typed_number.h"
 #include "model/shown_number.h"
 #include "presc/shape_polygons.h"
 
@@ -237,6 +238,7 @@ void GphPresc::setColumnaDosis(int column, ColumnForm form) {
         }
     }
     column_ = column;
+    listedDoses_.clear();
     report(0, 1);
     const std::int32_t count = Gph_count();
     for (std::int32_t i = 0; i < count; ++i) {
@@ -246,6 +248,7 @@ void GphPresc::setColumnaDosis(int column, ColumnForm form) {
         // A record without parts has no say in whether the column is numeric.
         polygon.hasDose = value.has_value() || !form.blanksOutside;
         polygon.dosis = static_cast<float>(value.value_or(0));
+        listedDoses_.push_back(polygon.dosis);
     }
     rank();
     std::optional<SetList>& current = sets_[static_cast<std::size_t>(column) - 1];
@@ -380,6 +383,11 @@ std::string GphPresc::Gph_getInfo(const InfoContext& context, std::int32_t n) co
         text.append(reader_.fieldName(column)).append(": ");
         text.append(cellText(n + 1, column, context));
         text.append(kLineEnd);
+        if (column == column_ && polygon.dosis != listedDoses_[static_cast<std::size_t>(n)]) {
+            text.append(context.texts.format(
+                TextId::DoseNow, {numberToType(polygon.dosis, context.locale.decimalSymbol())}));
+            text.append(kLineEnd);
+        }
     }
     if (polygon.kind != FigureKind::Zone) {
         return text;

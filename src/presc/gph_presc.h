@@ -163,6 +163,8 @@ private:
     ColorScale scale_;
     ColorScale::Subscription changes_;
     ColorScale::Subscription valueChanges_;
+    /// What the column says of every zone.
+    std::vector<float> listedDoses_;
     bool dosesChanged_ = false;
 };
 

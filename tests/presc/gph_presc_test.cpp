@@ -125,6 +125,11 @@ TEST_F(PrescTest, TellsTheColumnsAndTheAreaOfAZone) {
     ASSERT_TRUE(load(rowOfZones({"0.5"}, {0, 0})));
     EXPECT_EQ(presc.Gph_getInfo({texts, locale, style}, 0),
               "DOSIS: 0.5\r\nNOMBRE: zona 0\r\nArea calculada: 124 Has\r\n");
+    presc.setColumnaDosis(1);
+    presc.setDosis(0, 72.1F);
+    EXPECT_EQ(presc.Gph_getInfo({texts, locale, style}, 0),
+              "DOSIS: 0.5\r\nDosis cambiada: 72.1\r\nNOMBRE: zona 0\r\n"
+              "Area calculada: 124 Has\r\n");
 }
 
 TEST_F(PrescTest, DrawsOnTopWhatACellGets) {
