@@ -132,13 +132,11 @@ void openFile(benchmark::State& state, const char* name, std::string (*contentOf
     const PlainLocale locale;
     const Texts texts;
     const Registrations registrations;
-    const ValueRanges ranges;
     std::size_t most = 0;
     for (auto _ : state) {
         const std::size_t before = heapNow;
         heapPeak = heapNow;
-        std::optional<LoadedWork> work =
-            load(path, {dialogs, locale, texts, registrations, ranges});
+        std::optional<LoadedWork> work = load(path, {dialogs, locale, texts, registrations});
         most = std::max(most, heapPeak - before);
         if (!work || dialogs.messages != 0) {
             state.SkipWithError("the file did not open");

@@ -182,10 +182,9 @@ std::unique_ptr<File> ExportCommands::readReport(const std::string& path) const 
                                  MessageIcon::Exclamation, session_.texts()(TextId::ProgramName));
         return nullptr;
     }
-    const ValueRanges noneLoaded;
     std::optional<LoadedWork> work =
         loadRptFile(findIgnoringCase(path), {platform.dialogs, platform.locale, session_.texts(),
-                                             session_.registrations(), noneLoaded});
+                                             session_.registrations()});
     return work ? std::move(work->group) : nullptr;
 }
 

@@ -26,7 +26,8 @@ std::optional<OpenedFile> openWork(std::string_view path, const OpenContext& con
     if (!work) {
         return std::nullopt;
     }
-    return OpenedFile{std::move(work->group), work->ranges, work->kind, work->hasFlowStops};
+    work->group->ranges = work->ranges;
+    return OpenedFile{std::move(work->group), work->kind, work->hasFlowStops};
 }
 
 std::optional<OpenedFile> openGrid(std::string_view path, const OpenContext& context) {
@@ -35,7 +36,7 @@ std::optional<OpenedFile> openGrid(std::string_view path, const OpenContext& con
     if (!grid) {
         return std::nullopt;
     }
-    return OpenedFile{std::move(grid), context.ranges, std::nullopt, std::nullopt};
+    return OpenedFile{std::move(grid), std::nullopt, std::nullopt};
 }
 
 std::optional<OpenedFile> openZones(std::string_view path, const OpenContext& context) {
@@ -49,7 +50,7 @@ std::optional<OpenedFile> openZones(std::string_view path, const OpenContext& co
     if (!zones->loadFromFile(path, context.dialogs, context.texts)) {
         return std::nullopt;
     }
-    return OpenedFile{std::move(zones), context.ranges, std::nullopt, std::nullopt};
+    return OpenedFile{std::move(zones), std::nullopt, std::nullopt};
 }
 
 std::optional<OpenedFile> openLot(std::string_view path, const OpenContext& context) {
@@ -57,7 +58,7 @@ std::optional<OpenedFile> openLot(std::string_view path, const OpenContext& cont
     if (!lot) {
         return std::nullopt;
     }
-    return OpenedFile{std::move(lot), context.ranges, std::nullopt, std::nullopt};
+    return OpenedFile{std::move(lot), std::nullopt, std::nullopt};
 }
 
 constexpr FileFormat kFormats[] = {

@@ -24,7 +24,6 @@ struct OpenContext : WorkReaderContext {
 /// What a reader made of one file: as `LoadedWork`, with any kind of file.
 struct OpenedFile {
     std::unique_ptr<File> file;
-    ValueRanges ranges;
     std::optional<WorkKind> kind;
     std::optional<bool> hasFlowStops;
 };

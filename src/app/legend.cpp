@@ -33,12 +33,34 @@ int decimalsOf(const std::vector<Clase>& classes) {
         consider(i == 0 ? 0 : classes[i].lower - classes[i - 1].lower);
     }
     if (narrowest == 0) {
-        consider(std::abs(classes.front().lower) / 100);  // one single value: three digits
-    }
-    if (narrowest == 0) {
         return 0;
     }
     return std::clamp(1 - static_cast<int>(std::floor(std::log10(narrowest))), 0, kMostDecimals);
+}
+
+bool isWhole(double value) {
+    return value == std::round(value);
+}
+
+/// As many decimals as the bounds have, and more where a bound between two whole doses would else
+/// read as one of them: whole doses are what consoles know, and each belongs to one side.
+double shownBound(double value, int decimals) {
+    constexpr double kNoise = 1e-9;
+    constexpr int kTelling = 3;
+    if (std::abs(value - std::round(value)) <= kNoise * std::max(1.0, std::abs(value))) {
+        return std::round(value);
+    }
+    for (;; ++decimals) {
+        const double step = std::pow(10.0, decimals);
+        const double shown = std::round(value * step) / step;
+        if (!isWhole(shown)) {
+            return shown;
+        }
+        if (decimals >= kTelling) {
+            // A bound itself belongs to the class below it.
+            return shown > value ? std::floor(value * step) / step : shown;
+        }
+    }
 }
 
 std::string boundsText(const std::string& lower, const std::string& upper) {
@@ -48,12 +70,22 @@ std::string boundsText(const std::string& lower, const std::string& upper) {
 class ClassTexts {
 public:
     ClassTexts(const ColorScale& scale, const UserLocale& locale)
-        : scale_(scale), locale_(locale), step_(std::pow(10.0, decimalsOf(scale.classes()))) {}
+        : scale_(scale), locale_(locale), decimals_(decimalsOf(scale.classes())) {}
 
     [[nodiscard]] std::string text(int index) const {
         const Clase& clase = scale_.getClass(index);
         if (scale_.isDate) {
             return boundsText(date(firstDay(index)), date(lastDay(clase)));
+        }
+        if (clase.lower == clase.upper) {
+            return numberToType(clase.lower, locale_.decimalSymbol());
+        }
+        const bool isOpen = scale_.openEnds && scale_.count() > 1;
+        if (isOpen && index == 0) {
+            return "< " + number(clase.upper);
+        }
+        if (isOpen && index == scale_.count() - 1) {
+            return "> " + number(clase.lower);
         }
         return boundsText(number(clase.lower), number(clase.upper));
     }
@@ -76,12 +108,12 @@ private:
         return dateText(dateOfDayNumber(roundToInt32(day)), locale_.shortDateForm());
     }
     [[nodiscard]] std::string number(double value) const {
-        return numberText(std::round(value * step_) / step_, locale_.decimalSymbol());
+        return numberText(shownBound(value, decimals_), locale_.decimalSymbol());
     }
 
     const ColorScale& scale_;
     const UserLocale& locale_;
-    double step_;
+    int decimals_;
 };
 
 struct WorkNames {
@@ -108,8 +140,19 @@ std::vector<LegendRow> referenceRows(const MapStyle& style, WorkKind kind, const
         return LegendRow{color, std::string(texts(id))};
     };
     const WorkNames work = workNames(kind);
-    std::vector<LegendRow> rows{row(colors.draw, work.done), row(colors.noDraw, work.notDone),
-                                row(colors.back, TextId::LegendBackground)};
+    std::vector<LegendRow> rows;
+    // A colour that is not on the map would seem to be one of the scale's that looks like it.
+    const bool isPlain = style.mode == ColorMode::Dose && !style.scaleShown();
+    if (isPlain) {
+        rows.push_back(row(colors.draw, work.done));
+    }
+    if (isPlain || style.drawDotted) {
+        rows.push_back(row(colors.noDraw, work.notDone));
+    }
+    if (style.mode == ColorMode::Date) {
+        rows.push_back(row(colors.noDraw, TextId::LegendNoDate));
+    }
+    rows.push_back(row(colors.back, TextId::LegendBackground));
     if (style.mode == ColorMode::Alarm) {
         rows.push_back(row(colors.alarm, TextId::LegendAlarm));
         rows.push_back(row(colors.noAlarm, TextId::LegendNoAlarm));
@@ -123,21 +166,20 @@ std::vector<LegendRow> referenceRows(const MapStyle& style, WorkKind kind, const
 
 }  // namespace
 
-LegendContent legendContent(const MapStyle& style, WorkKind kind, const Texts& texts,
-                            const UserLocale& locale) {
+LegendContent legendContent(const MapStyle& style, const ColorScale* scale, WorkKind kind,
+                            const Texts& texts, const UserLocale& locale) {
     LegendContent legend;
     legend.reference = referenceRows(style, kind, texts, locale);
-    if (!style.scaleShown()) {
+    if (scale == nullptr) {
         return legend;
     }
-    const ColorScale& scale = *style.scale;
-    const ClassTexts classTexts(scale, locale);
-    legend.unit = shownUnit(scale.unit, texts);
-    legend.classesCanChange = scale.allowClassEdit;
-    legend.valuesCanChange = scale.allowValueChange;
-    legend.valueChangeCaption = texts(scale.valueChangeCaption);
-    for (int i = 0; i < scale.count(); ++i) {
-        legend.classes.push_back({scale.getClass(i).color, classTexts.text(i)});
+    const ClassTexts classTexts(*scale, locale);
+    legend.unit = shownUnit(scale->unit, texts);
+    legend.classesCanChange = scale->allowClassEdit;
+    legend.valuesCanChange = scale->allowValueChange;
+    legend.valueChangeCaption = texts(scale->valueChangeCaption);
+    for (int i = 0; i < scale->count(); ++i) {
+        legend.classes.push_back({scale->getClass(i).color, classTexts.text(i)});
     }
     return legend;
 }

@@ -11,11 +11,12 @@
 
 namespace campora {
 
-/// The rows of the legend for the current style: the classes with their bounds (dates for a date
-/// scale, one value for a single-value class) while a scale is shown, the two alarm colours in the
-/// alarm map, the error sample in the error map, and the plain colours of the map, named after
-/// the kind of work.
-[[nodiscard]] LegendContent legendContent(const MapStyle& style, WorkKind kind, const Texts& texts,
+/// The rows of the legend for the current style: the classes of `scale`, when one is given, with
+/// their bounds (dates for a date scale, one value for a single-value class); the plain colours
+/// that the style uses, named after the kind of work; the two alarm colours in the alarm map, the
+/// error sample in the error map.
+[[nodiscard]] LegendContent legendContent(const MapStyle& style, const ColorScale* scale,
+                                          WorkKind kind, const Texts& texts,
                                           const UserLocale& locale);
 
 }  // namespace campora

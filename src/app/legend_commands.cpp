@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "app/session.h"
+#include "app/settings.h"
 #include "base/numbers.h"
 #include "base/typed_number.h"
 
@@ -100,7 +101,20 @@ void LegendCommands::askExtremes() {
         refuse(session_.texts().format(TextId::BadExtremes, {typed(*lower), typed(*upper)}));
         return;
     }
+    scale().openEnds = false;
     scale().calcRanges(*lower, *upper, true);
+}
+
+void LegendCommands::spreadClasses(bool spread) {
+    const int before = scale().count();
+    session_.style().spreadClasses = spread;
+    writeSwitch(session_.platform().settings, SettingId::SpreadClasses, spread);
+    session_.refreshColorScale();
+    if (scale().count() > 1 && before > 1 && scale().count() != before) {
+        scale().setClassNumber(before);  // which draws
+    } else {
+        session_.redraw();
+    }
 }
 
 void LegendCommands::chooseRampStart() {

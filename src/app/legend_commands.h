@@ -46,6 +46,10 @@ public:
     /// Asks for the lowest and the highest value.
     void askExtremes();
 
+    /// Lays the classes of dose over most of the worked area, or over all values again, and keeps
+    /// that for the work to come.
+    void spreadClasses(bool spread);
+
     void chooseRampStart();
     void chooseRampMiddle();
     void dropRampMiddle();

@@ -24,6 +24,7 @@
 #include "base/texts.h"
 #include "colour/color_scale.h"
 #include "model/map_style.h"
+#include "model/value_ranges.h"
 #include "platform/classes_registry.h"
 #include "platform/clipboard.h"
 #include "platform/clock.h"
@@ -35,7 +36,6 @@
 #include "platform/user_locale.h"
 #include "work/loaded_file_list.h"
 #include "work/registrations.h"
-#include "work/value_ranges.h"
 
 namespace campora {
 
@@ -95,15 +95,17 @@ public:
     [[nodiscard]] const std::string& programFolder() const { return programFolder_; }
     [[nodiscard]] const Registrations& registrations() const { return registrations_; }
     [[nodiscard]] LoadedFileList& files() { return files_; }
-    /// Widened by every file that is added; unset again when the map is empty.
+    /// Of the files that are open.
     [[nodiscard]] const ValueRanges& ranges() const { return ranges_; }
     [[nodiscard]] MapView& view() { return view_; }
     [[nodiscard]] MapStyle& style() { return style_; }
     [[nodiscard]] const MapStyle& style() const { return style_; }
-    /// The scale of everything that has none of its own.
+    /// The scale of work in litres, and of everything else that has none of its own.
     [[nodiscard]] ColorScale& defaultScale() { return defaultScale_; }
+    /// The scale of work in units of seed.
+    [[nodiscard]] ColorScale& unitScale() { return unitScale_; }
 
-    /// The scale of the legend: the current file's own or the default one.
+    /// The scale of the legend: the current file's own or that of its unit of dose.
     [[nodiscard]] ColorScale& shownScale();
     /// The commands on that scale.
     [[nodiscard]] LegendCommands& legend() { return legend_; }
@@ -166,8 +168,8 @@ public:
     void plotAll(MapContext& context) const;
     /// The same with a word on how far it is between layers; false when the user has had enough.
     [[nodiscard]] bool plotAll(MapContext& context, Progress& progress) const;
-    /// Builds the default scale anew for the current mode and shows it in the legend; does not
-    /// redraw. The date map is left when nothing loaded has a date.
+    /// Builds the scales of work anew for the current mode and shows the legend; does not redraw.
+    /// The date map is left when nothing loaded has a date.
     void refreshColorScale();
     /// The summary of the current file as it is now, in the user's words; none without a file.
     [[nodiscard]] std::vector<SummaryRow> summaryRows() const;
@@ -182,7 +184,6 @@ private:
     /// What is put away during a preview.
     struct SavedMap {
         std::string title;
-        ValueRanges ranges;
         LoadedFileList::Saved files;
         BoundingBox totalBound;
         std::optional<bool> hasFlowStops;
@@ -191,13 +192,35 @@ private:
         std::optional<WorkKind> lastKind;
         std::string lastTrackFile;
         ColorScale::Content scale;
+        ColorScale::Content unitScale;
         MapView::Place place;
         MapTools::Tool tool = MapTools::Tool::None;
+    };
+
+    /// How the worked area lies in the classes of a scale.
+    struct Spread {
+        const ColorScale* scale = nullptr;
+        /// Part of the area, 0 to 1, in the class that has most.
+        double largestShare = 0;
+        /// Whether most of the area has more than one value.
+        bool canSpread = false;
     };
 
     [[nodiscard]] std::vector<File*> openFiles() const;
     /// Where the open files lie, the first on top.
     [[nodiscard]] std::vector<MarkedPlace> places() const;
+    /// Those whose work counts in units of seed, or in litres.
+    [[nodiscard]] std::vector<File*> workIn(bool units) const;
+    /// What the current file counts in, or else the first work; none without work.
+    [[nodiscard]] std::optional<bool> shownUnits() const;
+    [[nodiscard]] ColorScale& scaleOf(bool units) { return units ? unitScale_ : defaultScale_; }
+    /// What of `shownScale` the map uses; null when it is none of it.
+    [[nodiscard]] const ColorScale* legendScale();
+    /// Of the scale of work that the legend shows.
+    [[nodiscard]] const Spread& spreadOf(const ColorScale& scale);
+    void addSpreading(LegendContent& legend, const ColorScale& scale);
+    bool setUpScales();
+    void collectRanges();
     /// In the order in which they are drawn; not those of `without`, which may be null.
     [[nodiscard]] std::vector<const Gph*> layersFromBelow(const File* without) const;
     /// Reads a file and adds it; neither list nor legend are shown anew yet.
@@ -219,6 +242,8 @@ private:
     std::string programFolder_;
     MapStyle style_;
     ColorScale defaultScale_;
+    ColorScale unitScale_;
+    Spread spread_;
     Registrations registrations_;
     ValueRanges ranges_;
     LoadedFileList files_;

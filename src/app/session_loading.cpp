@@ -15,13 +15,6 @@ namespace campora {
 
 namespace {
 
-/// Readers start from what is loaded; a scale that begins below 0 would waste classes.
-void raiseToZero(std::optional<ValueRange<float>>& range) {
-    if (range) {
-        range->least = std::max(range->least, 0.0F);
-    }
-}
-
 /// A file without points has no box, and takes no part in the extent of the map.
 void grow(BoundingBox& bound, const BoundingBox& other) {
     if (other.isSet) {
@@ -128,9 +121,7 @@ bool Session::takeFile(std::string_view path, bool resetFirst, Dialogs& dialogs)
 
 bool Session::takeWork(std::string_view path, const FileFormat& format, bool resetFirst,
                        Dialogs& dialogs) {
-    const ValueRanges loaded = resetFirst || files_.empty() ? ValueRanges{} : ranges_;
-    const OpenContext context{{dialogs, platform_.locale, texts_, registrations_, loaded},
-                              style_.colors};
+    const OpenContext context{{dialogs, platform_.locale, texts_, registrations_}, style_.colors};
     std::optional<OpenedFile> work = format.read(path, context);
     if (!work) {
         return false;
@@ -147,7 +138,6 @@ bool Session::takeWork(std::string_view path, const FileFormat& format, bool res
     if (format.fromLogger) {
         lastTrackFile_ = path;
     }
-    ranges_ = work->ranges;
     style_.graduated = style_.graduated || format.graduates;
     if (work->kind) {
         lastKind_ = work->kind;
@@ -159,9 +149,7 @@ bool Session::takeWork(std::string_view path, const FileFormat& format, bool res
 }
 
 void Session::afterLoading(bool zoomAll) {
-    raiseToZero(ranges_.flow);
-    raiseToZero(ranges_.litres);
-    raiseToZero(ranges_.dose);
+    collectRanges();
     refreshColorScale();
     if (style_.mode == ColorMode::Error) {
         recalcErrorAreas();
@@ -209,20 +197,13 @@ void Session::reloadFiles() {
     const BoundingBox bound = view_.totalBound;
     const std::optional<int> current = files_.indexOf(files_.currentFile());
     LoadedFileList::Saved old = files_.takeAll();
-    const ValueRanges before = ranges_;
-    bool allRead = true;
     view_.totalBound = {};
-    ranges_ = {};
     for (std::unique_ptr<File>& file : old.files) {
         const std::string path = file->File_diskPath();
         // What was made here and is on no disk stays as it is.
         if (path.empty() || !takeFile(path, false, platform_.dialogs)) {
             addFile(std::move(file), true, false);
-            allRead = false;
         }
-    }
-    if (!allRead) {
-        ranges_ = united(ranges_, before);
     }
     if (current && *current < files_.loadedCount()) {
         files_.setCurrentFile(&files_.file(*current));
@@ -239,9 +220,10 @@ void Session::plotPreview(bool save, bool zoomAll) {
         return;  // put away already, or nothing to bring back
     }
     if (save) {
-        saved_.emplace(SavedMap{title_, ranges_, files_.takeAll(), view_.totalBound, hasFlowStops_,
+        saved_.emplace(SavedMap{title_, files_.takeAll(), view_.totalBound, hasFlowStops_,
                                 style_.graduated, style_.mode, lastKind_, lastTrackFile_,
-                                defaultScale_.content(), view_.place(), tools_.tool()});
+                                defaultScale_.content(), unitScale_.content(), view_.place(),
+                                tools_.tool()});
         view_.totalBound = {};
         return;
     }
@@ -256,13 +238,15 @@ void Session::plotPreview(bool save, bool zoomAll) {
         reset();
         return;
     }
-    ranges_ = saved.ranges;
     hasFlowStops_ = saved.hasFlowStops;
     view_.totalBound = saved.totalBound;
     view_.fitView();
     afterLoading(false);
     loading_ = true;
-    defaultScale_.setContent(std::move(saved.scale));  // with the classes that the user had made
+    // With the classes that the user had made.
+    defaultScale_.setContent(std::move(saved.scale));
+    unitScale_.setContent(std::move(saved.unitScale));
+    spread_ = {};
     loading_ = false;
     showLegend();
     showTitle(saved.title);

@@ -58,6 +58,7 @@ constexpr std::array kRows = {
     number(SettingId::CoordType, "mapCoordType", 0, 0, 2),
     onOff(SettingId::DrawDotted, "DrawDotted", kStyle.drawDotted),
     onOff(SettingId::DrawBorders, "DrawBorders", kStyle.drawBorders),
+    onOff(SettingId::SpreadClasses, "spreadClasses", kStyle.spreadClasses),
     text(SettingId::RunPath, "RunPath"),
     text(SettingId::PrintDescription, "printDescription"),
     text(SettingId::OpenPath, "OpenPath"),
@@ -183,6 +184,7 @@ void readStyleSettings(const SettingsStore& settings, MapStyle& style) {
     }
     style.drawDotted = readSwitch(settings, SettingId::DrawDotted);
     style.drawBorders = readSwitch(settings, SettingId::DrawBorders);
+    style.spreadClasses = readSwitch(settings, SettingId::SpreadClasses);
 }
 
 Language languageOfCode(std::int32_t code, std::int32_t systemCode) {

@@ -29,6 +29,7 @@ enum class SettingId {
     CoordType,
     DrawDotted,
     DrawBorders,
+    SpreadClasses,
     RunPath,
     PrintDescription,
     OpenPath,

@@ -38,10 +38,9 @@ std::string shapeBaseOf(std::string_view trackPath) {
 TrackExportOutcome TrackBatch::exportOne(const std::string& source,
                                          std::string_view basePath) const {
     RemarkDialogs dialogs;
-    const ValueRanges noneLoaded;
     const Platform& platform = session_.platform();
     const std::optional<LoadedWork> work = loadTrackFile(
-        source, {dialogs, platform.locale, session_.texts(), session_.registrations(), noneLoaded});
+        source, {dialogs, platform.locale, session_.texts(), session_.registrations()});
     if (!work) {
         return {false, dialogs.remarks};
     }

@@ -120,6 +120,11 @@ bool setChannel(Arguments& arguments, std::string_view value) {
     return channel > 0 || value == "total";
 }
 
+bool setScale(Arguments& arguments, std::string_view value) {
+    return choose<bool>(arguments.style.spreadClasses, value,
+                        {{"equal", false}, {"percentile", true}});
+}
+
 bool setErrorLimit(Arguments& arguments, std::string_view value) {
     const auto limit = parse<float>(value);
     arguments.style.errorLimit = limit.value_or(0);
@@ -266,6 +271,7 @@ constexpr Option kOptions[] = {
     {Command::Render, "--mode", "dose|alarm|date|error|plain", TextId::CliMode, setMode},
     {Command::Render, "--by", "ha|min", TextId::CliBy, setBy},
     {Command::Render, "--channel", "N|total", TextId::CliChannel, setChannel},
+    {Command::Render, "--scale", "equal|percentile", TextId::CliScale, setScale},
     {Command::Render, "--error-limit", "P", TextId::CliErrorLimit, setErrorLimit},
     {Command::Render, "--only-worked", "", TextId::CliOnlyWorked,
      [](Arguments& a, std::string_view) {

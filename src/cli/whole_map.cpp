@@ -21,6 +21,7 @@ CanvasSize canvasSize(PixelSize size) {
 void drawWholeMap(Session& session, const Arguments& arguments) {
     MapStyle style = arguments.style;
     style.scale = session.style().scale;
+    style.unitScale = session.style().unitScale;
     session.style() = style;
     if (style.selectedChannel >= 0) {
         session.modes().mnuColorScaleSelCH(style.selectedChannel);  // prescriptions turn to it too

@@ -295,8 +295,8 @@ ColorScale::Subscription ColorScale::onClassValueChanged(ValueListener listener)
 }
 
 ColorScale::Content ColorScale::content() const {
-    return {classes_, valueMin_, valueMax_,      colorStart,       colorMiddle,
-            colorEnd, unit,      allowClassEdit, allowValueChange, isDate};
+    return {classes_, valueMin_,      valueMax_,        colorStart, colorMiddle, colorEnd,
+            unit,     allowClassEdit, allowValueChange, isDate,     openEnds};
 }
 
 void ColorScale::setContent(Content content) {
@@ -310,6 +310,7 @@ void ColorScale::setContent(Content content) {
     allowClassEdit = content.allowClassEdit;
     allowValueChange = content.allowValueChange;
     isDate = content.isDate;
+    openEnds = content.openEnds;
     boundsChanged();
     raiseChanged();
 }

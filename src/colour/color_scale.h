@@ -67,6 +67,7 @@ public:
         bool allowClassEdit = true;
         bool allowValueChange = false;
         bool isDate = false;
+        bool openEnds = false;
     };
 
     /// Six classes over 0 to 100 from yellow over green to red.
@@ -86,6 +87,8 @@ public:
     TextId valueChangeCaption = TextId::ChangeValue;
     /// The values are day numbers.
     bool isDate = false;
+    /// There are values beyond the extremes, which take the first and the last class.
+    bool openEnds = false;
 
     [[nodiscard]] Content content() const;
     /// `content` must come from a scale.

@@ -86,6 +86,16 @@ QMenu* makeLegendMenu(QWidget& parent, const LegendContent& legend, int row,
         add(toQt(texts(command.text)), legend.classesCanChange || !command.changesClasses,
             [&commands, run = command.run] { (commands.*run)(); });
     }
+    if (legend.canSpread) {
+        menu->addSeparator();
+        QAction* spread = menu->addAction(toQt(texts(TextId::SpreadClasses)));
+        spread->setCheckable(true);
+        spread->setChecked(legend.spread);
+        spread->setToolTip(toQt(texts(TextId::TipSpreadClasses)));
+        QObject::connect(spread, &QAction::triggered, menu->parent(),
+                         [&commands](bool on) { commands.spreadClasses(on); });
+    }
+    menu->addSeparator();
     addRamps(*menu, commands, texts);
     return menu;
 }

@@ -21,8 +21,19 @@ LegendView::LegendView(QWidget* parent)
       reference_(new ColorList(this)),
       scaleHeading_(new SectionHeading(*classes_)),
       referenceHeading_(new SectionHeading(*reference_)),
-      unit_(new QLabel(this)) {
+      unit_(new QLabel(this)),
+      remark_(new QLabel(this)),
+      spread_(new QPushButton(this)) {
     unit_->setTextFormat(Qt::PlainText);
+    remark_->setObjectName("legendRemark");
+    remark_->setTextFormat(Qt::PlainText);
+    remark_->setWordWrap(true);
+    spread_->setObjectName("legendSpread");
+    connect(spread_, &QPushButton::clicked, this, [this] {
+        if (commands_ != nullptr) {
+            commands_->spreadClasses(true);
+        }
+    });
     unit_->setContentsMargins(0, 0, 2, 0);
     reference_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 
@@ -34,8 +45,11 @@ LegendView::LegendView(QWidget* parent)
     column->setSpacing(4);
     column->addLayout(head);
     column->addWidget(classes_, 1);
+    column->addWidget(remark_);
+    column->addWidget(spread_, 0, Qt::AlignLeft);
     column->addWidget(referenceHeading_);
     column->addWidget(reference_);
+    column->addStretch(0);  // keeps what is left at the top while there is no scale
     connect(classes_, &ColorList::menuAsked, this, &LegendView::openMenu);
     // Later: the answer rebuilds the rows, which the list must not be handling any more.
     connect(classes_, &ColorList::rowOpened, this, &LegendView::openClass, Qt::QueuedConnection);
@@ -53,6 +67,7 @@ void LegendView::retranslate(const Texts& texts) {
     scaleHeading_->setTitle(toQt(texts(TextId::ScaleHeading)));
     scaleHeading_->setToolTip(toQt(texts(TextId::LegendKeys)));
     classes_->setAccessibleDescription(toQt(texts(TextId::LegendKeys)));
+    spread_->setToolTip(plainToolTip(toQt(texts(TextId::TipSpreadClasses))));
     referenceHeading_->setTitle(toQt(texts(TextId::ReferenceHeading)));
     showRows();
 }
@@ -61,6 +76,14 @@ void LegendView::showRows() {
     const QString colorForm = texts_ != nullptr ? toQt((*texts_)(TextId::LegendColor)) : "%1";
     classes_->setRows(legend_.classes, toQt(legend_.unit), colorForm);
     unit_->setText(toQt(legend_.unit));
+    const bool hasScale = !legend_.classes.empty();
+    scaleHeading_->setVisible(hasScale);
+    classes_->setVisible(hasScale);
+    unit_->setVisible(hasScale);
+    remark_->setText(toQt(legend_.remark));
+    remark_->setVisible(!legend_.remark.empty());
+    spread_->setText(toQt(legend_.offer));
+    spread_->setVisible(!legend_.offer.empty());
     reference_->setRows(legend_.reference, {}, colorForm);
     reference_->setFixedHeight(reference_->fullHeight());
 }

@@ -10,6 +10,7 @@
 #include "platform/main_window_controls.h"
 
 class QLabel;
+class QPushButton;
 
 namespace campora {
 
@@ -45,6 +46,8 @@ private:
     SectionHeading* scaleHeading_;
     SectionHeading* referenceHeading_;
     QLabel* unit_;
+    QLabel* remark_;
+    QPushButton* spread_;
 };
 
 }  // namespace campora

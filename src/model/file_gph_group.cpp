@@ -31,15 +31,22 @@ void FileGphGroup::recalcBound() {
 }
 
 void FileGphGroup::calcErrorArea(const MapStyle& style, const UserLocale& locale) {
+    double hectares = 0;
+    bool specified = false;
+    for (const auto& layer : layers_) {
+        if (const auto* work = dynamic_cast<const WorkLayer*>(layer.get())) {
+            specified = specified || work->hasSpecifiedDose();
+            hectares += style.mode == ColorMode::Error
+                            ? work->getHectareasError(style, style.errorLimit)
+                            : 0.0F;
+        }
+    }
+    if (!specified) {
+        return;
+    }
     if (style.mode != ColorMode::Error) {
         summary_.setProperty(kErrorHectares, "", "");
         return;
-    }
-    double hectares = 0;
-    for (const auto& layer : layers_) {
-        if (const auto* work = dynamic_cast<const WorkLayer*>(layer.get())) {
-            hectares += work->getHectareasError(style, style.errorLimit);
-        }
     }
     summary_.setProperty(kErrorHectares, shownNumber(hectares, locale), "Has");
 }

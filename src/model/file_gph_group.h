@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "model/file.h"
+#include "model/value_ranges.h"
 #include "model/work_layer.h"
 
 namespace campora {
@@ -19,13 +20,16 @@ public:
     std::string name;
     std::string id;
     std::int32_t priority = 0;
+    /// Of its own records.
+    ValueRanges ranges;
 
     /// Takes the layer over and grows the box.
     void addGph(std::unique_ptr<Gph> gph);
     /// Collects the box again after a layer has changed.
     void recalcBound();
     /// Keeps the summary entry "Hectareas Error" in step with the error map: the hectares above the
-    /// limit while the map is on (in the locale's number form), empty while it is off.
+    /// limit while the map is on (in the locale's number form), empty while it is off. Work without
+    /// a specified dose has no error and no entry.
     void calcErrorArea(const MapStyle& style, const UserLocale& locale);
     /// Sets every alarm word of its work layers to 0.
     void clearAlarmas();

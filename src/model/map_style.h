@@ -50,12 +50,22 @@ struct MapStyle {
     Color errorSample{0xFF00FF};
     /// Selected alarms, a bit each: seeders and older reports, sprayers.
     std::array<std::uint32_t, 2> alarmSelection{0xFFFFFFFFU, 0xFFFFFFFFU};
-    /// The scale in the legend; not owned; may be null when no scale is shown.
+    /// The scale of work in litres, and of everything else without one of its own; not owned; may
+    /// be null when no scale is shown.
     const ColorScale* scale = nullptr;
+    /// The scale of work in units of seed; not owned; null where `scale` serves that too.
+    const ColorScale* unitScale = nullptr;
+    /// Classes of dose between the 1st and the 99th percentile of the worked area instead of
+    /// between the extremes.
+    bool spreadClasses = false;
 
     /// Whether the legend shows a scale beside the map, whose colours records then take.
     [[nodiscard]] bool scaleShown() const {
         return scale != nullptr && (graduated || mode != ColorMode::Dose);
+    }
+    /// The scale of the work of such a machine; there is one while `scaleShown`.
+    [[nodiscard]] const ColorScale& scaleOf(WorkKind kind) const {
+        return kind == WorkKind::Sprayer || unitScale == nullptr ? *scale : *unitScale;
     }
     /// The selection for machines of that kind, a bit an alarm.
     [[nodiscard]] std::uint32_t checkedAlarms(WorkKind kind) const {

@@ -14,6 +14,8 @@ class WorkLayer : public Gph {
 public:
     /// Hectares worked with an error above `limit` percent in the channel that `style` selects.
     [[nodiscard]] virtual float getHectareasError(const MapStyle& style, float limit) const = 0;
+    /// Whether a record says what dose it should have had, which makes an error of another one.
+    [[nodiscard]] virtual bool hasSpecifiedDose() const = 0;
     /// Sets every alarm word to 0.
     virtual void clearAlarmas() = 0;
     /// Gives every record this swath width in metres.

@@ -55,6 +55,10 @@ struct FileListRow {
 struct SummaryRow {
     std::string property;
     std::string value;
+    /// What a person put there in place of what was measured, or beside it.
+    bool edited = false;
+    /// Says so in words, with the measured value.
+    std::string note = {};
 
     bool operator==(const SummaryRow&) const = default;
 };
@@ -77,6 +81,13 @@ struct LegendContent {
     bool valuesCanChange = false;
     /// Caption of the command that changes a value.
     std::string valueChangeCaption;
+    /// Whether the classes can be spread over most of the worked area, and whether they are.
+    bool canSpread = false;
+    bool spread = false;
+    /// A remark on the classes; empty for none.
+    std::string remark = {};
+    /// Caption of a button under the remark that spreads the classes; empty for none.
+    std::string offer = {};
 
     bool operator==(const LegendContent&) const = default;
 };

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "work/gph_track.h"
+#include "work/worked_area.h"
 
 namespace campora {
 
@@ -84,7 +85,11 @@ void setUpDoses(ColorScale& scale, const MapStyle& style, const ValueRanges& ran
                            ? ranges.dose
                            : channelDoses(static_cast<std::size_t>(style.selectedChannel), files);
     const bool perMinute = style.by == GraduatedBy::Minute && ranges.flow.has_value();
-    const auto range = perMinute ? ranges.flow : united(doses, ranges.litres);
+    auto range = perMinute ? ranges.flow : united(doses, ranges.litres);
+    const auto middle =
+        style.spreadClasses && range ? middleOfArea(workedArea(style, files)) : std::nullopt;
+    scale.openEnds = middle.has_value();
+    range = middle ? middle : range;
     scale.isDate = false;
     scale.allowClassEdit = true;
     scale.unit = perMinute ? kLitresPerMinute : doseUnit(files);
@@ -113,6 +118,7 @@ bool setUpDates(ColorScale& scale, std::span<File* const> files) {
         return false;
     }
     scale.isDate = true;
+    scale.openEnds = false;
     scale.allowClassEdit = false;
     scale.unit.clear();
     if (days.count() > kMostDayClasses) {
@@ -148,6 +154,7 @@ void setUpErrors(ColorScale& scale, const MapStyle& style, const ValueRanges& ra
         return;
     }
     scale.isDate = false;
+    scale.openEnds = false;
     scale.allowClassEdit = false;
     scale.unit = doseUnit(files);
     if (specified.size() > std::size_t{kMostErrorClasses}) {
@@ -163,6 +170,15 @@ void setUpErrors(ColorScale& scale, const MapStyle& style, const ValueRanges& ra
 
 }  // namespace
 
+std::optional<bool> countsUnits(const File& file) {
+    for (const Gph* layer : file.File_gphList()) {
+        if (const auto* track = dynamic_cast<const GphTrack*>(layer)) {
+            return countsUnits(track->records());
+        }
+    }
+    return std::nullopt;
+}
+
 bool setUpColorScale(ColorScale& scale, const MapStyle& style, const ValueRanges& ranges,
                      std::span<File* const> files) {
     if (style.mode == ColorMode::Date) {
@@ -170,8 +186,9 @@ bool setUpColorScale(ColorScale& scale, const MapStyle& style, const ValueRanges
     }
     if (style.mode == ColorMode::Error && style.selectedChannel >= 0) {
         setUpErrors(scale, style, ranges, files);
-    } else if (style.mode != ColorMode::Error || scale.isDate) {
-        // The error map of the total keeps the classes that are there, unless they are days.
+    } else if (style.mode != ColorMode::Error || !scale.allowClassEdit) {
+        // The error map of the total keeps the classes that are there, unless they are days or the
+        // specified doses of a channel.
         setUpDoses(scale, style, ranges, files);
     }
     return true;

@@ -120,6 +120,13 @@ float GphTrack::getHectareasError(const MapStyle& style, float limit) const {
     return static_cast<float>(squareMetres / 10000);
 }
 
+bool GphTrack::hasSpecifiedDose() const {
+    const auto* const records = std::get_if<RptRecords>(&records_);
+    return records != nullptr &&
+           std::any_of(records->begin(), records->end(),
+                       [](const TrackDataRPT& record) { return record.dosisTotal() > 0; });
+}
+
 void GphTrack::clearAlarmas() {
     if (auto* const records = std::get_if<RptRecords>(&records_)) {
         for (TrackDataRPT& record : *records) {

@@ -48,6 +48,7 @@ public:
 
     void trocha(float metres) override;
     [[nodiscard]] float getHectareasError(const MapStyle& style, float limit) const override;
+    [[nodiscard]] bool hasSpecifiedDose() const override;
     void clearAlarmas() override;
     [[nodiscard]] float speedN(std::int32_t n) const override;
 

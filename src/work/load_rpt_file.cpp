@@ -95,7 +95,7 @@ std::optional<LoadedWork> readRptFile(std::string_view path, const FileBytes& by
         }
         file.setSwath(*swath);
     }
-    LoadedWork work = startWork(path, context);
+    LoadedWork work = startWork(path);
     const ReportSurvey survey = surveyReport(file, work.ranges);
     addPasses(*work.group, survey.placements, [&](std::size_t i) { return file.record(i); });
     if (survey.alarmsAreCounter) {

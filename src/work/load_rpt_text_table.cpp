@@ -97,7 +97,7 @@ std::optional<LoadedWork> readRptTextTable(std::string_view path, const FileByte
     if (records.empty()) {
         return refuseWithoutPoints(path, context);
     }
-    LoadedWork work = startWork(path, context);
+    LoadedWork work = startWork(path);
     const TableSums sums = sumUp(records);
     addPasses(*work.group, sums.placements, [&](std::size_t i) { return records[i]; });
     for (const ReportRecord& record : records) {

@@ -87,7 +87,7 @@ std::optional<LoadedWork> readTrackFile(std::string_view path, const FileBytes& 
     }
     const TrackHeader& header = file.header;
     const std::string registration = context.registrations.registrationOf(header.serial);
-    LoadedWork work = startWork(path, context);
+    LoadedWork work = startWork(path);
     FileGphGroup& group = *work.group;
     work.hasFlowStops = addTracks(file,
                                   std::make_shared<LoggerSource>(

@@ -41,12 +41,11 @@ std::optional<LoadedWork> refuseWithoutPoints(std::string_view path,
     return std::nullopt;
 }
 
-LoadedWork startWork(std::string_view path, const WorkReaderContext& context) {
+LoadedWork startWork(std::string_view path) {
     LoadedWork work;
     work.group = std::make_unique<FileGphGroup>();
     work.group->path = path;
     work.group->name = fileNamePart(path);
-    work.ranges = context.ranges;
     return work;
 }
 

@@ -35,8 +35,8 @@ openWork(std::string_view path, const WorkReaderContext& context, WorkReader rea
 [[nodiscard]] std::optional<LoadedWork> refuseWithoutPoints(std::string_view path,
                                                             const WorkReaderContext& context);
 
-/// A group for the file, named after it, with the ranges loaded so far.
-[[nodiscard]] LoadedWork startWork(std::string_view path, const WorkReaderContext& context);
+/// A group for the file, named after it.
+[[nodiscard]] LoadedWork startWork(std::string_view path);
 
 /// Asks for the swath width of a file that has none: a whole number of metres, at most 200. None
 /// when the user cancels or does not type a width.

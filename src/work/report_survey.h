@@ -9,9 +9,9 @@
 #include <optional>
 #include <vector>
 
+#include "model/value_ranges.h"
 #include "work/pass_rules.h"
 #include "work/rpt_file.h"
-#include "work/value_ranges.h"
 
 namespace campora {
 

@@ -53,9 +53,13 @@ float TrackDataNBR::litrosH() const {
 
 Color TrackDataNBR::color(const MapStyle& style) const {
     if (style.scaleShown()) {
-        return style.scale->getColor(style.by == GraduatedBy::Hectare ? litrosH() : flow_);
+        return style.scale->getColor(scaledValue(style));
     }
     return flow_ == 0 ? style.colors.noDraw : style.colors.draw;
+}
+
+double TrackDataNBR::scaledValue(const MapStyle& style) const {
+    return style.by == GraduatedBy::Hectare ? litrosH() : flow_;
 }
 
 std::string TrackDataNBR::resumen(const InfoContext& context) const {

@@ -34,6 +34,9 @@ public:
     /// Litres per hectare, with the speed in whole km/h (halves to even); 0 without speed or swath.
     [[nodiscard]] float litrosH() const;
 
+    /// What the scale colours: litres per hectare or per minute.
+    [[nodiscard]] double scaledValue(const MapStyle& style) const;
+
     [[nodiscard]] float caudal() const override { return flow_; }
     void setCaudal(float flow) override { flow_ = flow; }
     [[nodiscard]] float trocha() const override { return swath_; }

@@ -148,21 +148,25 @@ Color TrackDataRPT::color(const MapStyle& style) const {
     if (style.mode == ColorMode::Date) {
         // A record without a date belongs to no day of the map; any class of the scale would claim
         // that it was worked on that day.
-        return hasDate_ && style.scale != nullptr ? style.scale->getColor(dayNumber(fecha()))
-                                                  : colors.noDraw;
+        return hasDate_ && style.scale != nullptr
+                   ? style.scaleOf(kind_).getColor(dayNumber(fecha()))
+                   : colors.noDraw;
     }
     if (!style.scaleShown()) {
         return real_[0] == 0 ? colors.noDraw : colors.draw;
     }
-    const int channel = style.selectedChannel;
-    if (style.mode == ColorMode::Error && getError(channel) >= style.errorLimit) {
+    if (style.mode == ColorMode::Error && getError(style.selectedChannel) >= style.errorLimit) {
         return style.errorSample;
     }
+    return style.scaleOf(kind_).getColor(scaledValue(style));
+}
+
+double TrackDataRPT::scaledValue(const MapStyle& style) const {
+    const int channel = style.selectedChannel;
     if (channel < 0) {
-        return style.scale->getColor(caudal());
+        return caudal();
     }
-    return style.scale->getColor(channel < channels_ ? real_[static_cast<std::size_t>(channel)]
-                                                     : 0);
+    return channel < channels_ ? real_[static_cast<std::size_t>(channel)] : 0;
 }
 
 }  // namespace campora

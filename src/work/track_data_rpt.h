@@ -65,6 +65,8 @@ public:
     [[nodiscard]] float dosisTotal() const;
     /// Percentage by which the real dose misses the specified one in `channel` (-1: the totals).
     [[nodiscard]] float getError(int channel) const;
+    /// The dose that the scale colours: that of the selected channel, 0 without it, or the total.
+    [[nodiscard]] double scaledValue(const MapStyle& style) const;
     [[nodiscard]] bool onAlarm(const MapStyle& style) const;
 
     /// Sum of the real doses.

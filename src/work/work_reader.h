@@ -10,10 +10,10 @@
 #include "base/files.h"
 #include "base/texts.h"
 #include "model/file_gph_group.h"
+#include "model/value_ranges.h"
 #include "platform/dialogs.h"
 #include "platform/user_locale.h"
 #include "work/registrations.h"
-#include "work/value_ranges.h"
 
 namespace campora {
 
@@ -23,14 +23,12 @@ struct WorkReaderContext {
     const UserLocale& locale;
     const Texts& texts;
     const Registrations& registrations;
-    /// The ranges of what is loaded already; all unset when no file is.
-    const ValueRanges& ranges;
 };
 
 /// What a reader made of one file. Nothing of it counts until the file has been added to the list.
 struct LoadedWork {
     std::unique_ptr<FileGphGroup> group;
-    /// The given ranges, widened by this file's records.
+    /// Of this file's records.
     ValueRanges ranges;
     /// Kind of machine, from reports alone.
     std::optional<WorkKind> kind;

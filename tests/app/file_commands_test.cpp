@@ -53,7 +53,8 @@ TEST_F(FileCommandsTest, CancellingAPreviewPutsEverythingBack) {
     const ValueRanges ranges = session.ranges();
 
     const std::string broken = folder.write("roto.rpt", "no es un reporte");
-    dialogs.openSelections = {{report("nuevo.rpt", 9000)}, {track("log0001.nbr", 5)}, {broken}, {}};
+    dialogs.openSelections = {
+        {report("nuevo.rpt", 9000, 0x2104)}, {track("log0001.nbr", 5)}, {broken}, {}};
     dialogs.openAnswers = {{}};
     commands.fileOpen();
 
@@ -61,6 +62,7 @@ TEST_F(FileCommandsTest, CancellingAPreviewPutsEverythingBack) {
     EXPECT_EQ(window.title, title);
     EXPECT_EQ(session.ranges(), ranges);
     EXPECT_FALSE(session.style().graduated);
+    EXPECT_EQ(session.modes().drawAllCaption(), TextId::OnlySprayed) << "the preview was sown";
     EXPECT_EQ(session.style().mode, ColorMode::Date) << "a track has no dates";
     EXPECT_EQ(session.defaultScale().count(), 3);
     EXPECT_EQ(session.view().transform().mapToScreen(-60, -33), view.mapToScreen(-60, -33));

@@ -72,6 +72,57 @@ TEST_F(LegendCommandsTest, WorkOnTheScaleThatIsShown) {
     EXPECT_EQ(scale().count(), 5) << "not the one in the legend";
 }
 
+/// Steps of 10 m, one in 150 with a dose of 3000 and the others from 80 to 89.
+std::string creepingReport(const TempFolder& folder, int span = 10) {
+    RptBytes bytes(1);
+    for (int i = 0; i < 300; ++i) {
+        RptBytes::Record record;
+        record.position = fixAt(10.0 * i, 0);
+        record.realTenths[0] = i % 150 == 75 ? 30000 : 800 + 10 * (i % span);
+        bytes.add(record);
+    }
+    return folder.write("lote.rpt", bytes.bytes());
+}
+
+TEST(LegendCommands, ClassesCanBeSpreadOverMostOfTheArea) {
+    SessionDesk desk;
+    desk.session.start();
+    desk.session.loadFile(creepingReport(desk.folder), false, true);
+    const LegendContent& legend = desk.window.legend;
+    EXPECT_EQ(legend.remark, "Una clase cubre el 99 % de la superficie trabajada.");
+    EXPECT_EQ(legend.offer, "Repartir las clases");
+    EXPECT_EQ(desk.session.defaultScale().valueMax(), 3000);
+    desk.session.legend().addClass();
+    desk.session.legend().spreadClasses(true);
+    const ColorScale& scale = desk.session.defaultScale();
+    EXPECT_EQ(scale.valueMin(), 80);
+    EXPECT_EQ(scale.valueMax(), 89);
+    EXPECT_THAT(legend.classes, SizeIs(6)) << "as many as before";
+    EXPECT_EQ(legend.classes.front().text, "< 81.5");
+    EXPECT_EQ(legend.classes.back().text, "> 87.5");
+    EXPECT_EQ(legend.remark + legend.offer, "");
+    EXPECT_TRUE(legend.canSpread && legend.spread);
+
+    SessionDesk next;
+    next.settings.values = desk.settings.values;
+    next.session.start();
+    next.session.loadFile(creepingReport(next.folder), false, true);
+    EXPECT_EQ(next.session.defaultScale().valueMax(), 89) << "it is remembered";
+    next.session.legend().spreadClasses(false);
+    EXPECT_EQ(next.session.defaultScale().valueMax(), 3000);
+}
+
+TEST(LegendCommands, WorkOfOneDoseCannotBeSpread) {
+    SessionDesk desk;
+    desk.session.start();
+    desk.session.loadFile(creepingReport(desk.folder, 1), false, true);
+    EXPECT_EQ(desk.window.legend.remark, "Una clase cubre el 99 % de la superficie trabajada.");
+    EXPECT_EQ(desk.window.legend.offer, "");
+    desk.session.legend().spreadClasses(true);
+    EXPECT_EQ(desk.session.defaultScale().valueMax(), 3000);
+    EXPECT_FALSE(desk.session.defaultScale().openEnds);
+}
+
 TEST(LegendCommands, TheNumberOfClassesStaysWithinItsLimits) {
     const auto classesAfter = [](const char* typed, std::size_t refusals) {
         LegendDesk desk;

@@ -23,9 +23,7 @@ std::vector<std::string> textsOf(const std::vector<LegendRow>& rows) {
 }
 
 LegendContent legendOf(const ColorScale& scale, const UserLocale& locale = FixedLocale()) {
-    MapStyle style;
-    style.scale = &scale;
-    return legendContent(style, WorkKind::Sprayer, Texts(), locale);
+    return legendContent(MapStyle(), &scale, WorkKind::Sprayer, Texts(), locale);
 }
 
 SetList setOf(const std::vector<double>& values) {
@@ -41,11 +39,16 @@ using Rows = std::vector<std::string>;
 TEST(Legend, IntervalsAreShownWithDigitsThatTellThemApart) {
     // The extremes and what is shown of as many classes.
     const std::tuple<double, double, Rows> rows[] = {
-        {0, 100, {"0 - 17", "17 - 33", "33 - 50", "50 - 67", "67 - 83", "83 - 100"}},
+        {0,
+         100,
+         {"0 - 16,7", "16,7 - 33,3", "33,3 - 50", "50 - 66,7", "66,7 - 83,3", "83,3 - 100"}},
         {0, 3, {"0 - 1,5", "1,5 - 3"}},
         {0.12, 0.44, {"0,12 - 0,28", "0,28 - 0,44"}},
         {1000000, 1000000.4, {"1000000 - 1000000,2", "1000000,2 - 1000000,4"}},
-        {14, 3649, {"14 - 1832", "1832 - 3649"}},
+        {14, 3649, {"14 - 1831,5", "1831,5 - 3649"}},
+        {0, 121.99, {"0 - 60,99", "60,99 - 121,99"}},
+        {0, 121.9999, {"0 - 60,999", "60,999 - 121,999"}},
+        {0, 122.0002, {"0 - 61", "61 - 122"}},
         {-2, 2, {"-2 - 0", "0 - 2"}},
     };
     for (const auto& [least, greatest, texts] : rows) {
@@ -59,7 +62,8 @@ TEST(Legend, SingleValuesStandAlone) {
     const std::pair<std::vector<double>, Rows> rows[] = {
         {{80, 150, 200}, {"80", "150", "200"}},
         {{100, 100.5, 250}, {"100", "100.5", "250"}},
-        {{151.25}, {"151.3"}},
+        {{151.25}, {"151.25"}},
+        {{72.5, 72.125}, {"72.125", "72.5"}},
         {{0}, {"0"}},
     };
     for (const auto& [values, texts] : rows) {
@@ -103,36 +107,46 @@ TEST(Legend, IntervalsOfDaysNameTheirFirstAndLastDay) {
     }
 }
 
-TEST(Legend, TellsWhatThePlainColoursMean) {
-    const std::tuple<ColorMode, bool, WorkKind, std::size_t, Rows> rows[] = {
-        {ColorMode::Dose, true, WorkKind::Sprayer, 6, {"Fumigado", "No fumigado", "Fondo"}},
-        {ColorMode::Dose, false, WorkKind::Seeder, 0, {"Sembrado", "No sembrado", "Fondo"}},
-        {ColorMode::Date, false, WorkKind::OlderForm, 6, {"Trabajado", "No trabajado", "Fondo"}},
-        {ColorMode::Error,
-         false,
-         WorkKind::Sprayer,
-         6,
-         {"Fumigado", "No fumigado", "Fondo", "Errores > 12,5%"}},
+TEST(Legend, OpenEndsSayOnWhichSideTheyAre) {
+    ColorScale scale;
+    scale.setClassNumberExt(3, 30, 90);
+    scale.openEnds = true;
+    EXPECT_EQ(textsOf(legendOf(scale).classes), (Rows{"< 50", "50 - 70", "> 70"}));
+}
+
+// A plain colour that is not on the map would be taken for the class that looks like it.
+TEST(Legend, TellsWhatThePlainColoursOfTheMapMean) {
+    struct Row {
+        ColorMode mode;
+        bool graduated;
+        WorkKind kind;
+        Rows reference;
+        bool dotted = false;
+    };
+    const Row rows[] = {
+        {ColorMode::Dose, true, WorkKind::Sprayer, {"Fondo"}},
+        {ColorMode::Dose, true, WorkKind::Sprayer, {"No fumigado", "Fondo"}, true},
+        {ColorMode::Dose, false, WorkKind::Seeder, {"Sembrado", "No sembrado", "Fondo"}},
+        {ColorMode::Date, false, WorkKind::OlderForm, {"Sin fecha", "Fondo"}},
+        {ColorMode::Error, false, WorkKind::Sprayer, {"Fondo", "Errores > 12,5%"}},
+        {ColorMode::Alarm, true, WorkKind::Sprayer, {"Fondo", "Con alarma", "Sin alarma"}},
     };
     ColorScale scale;
     MapStyle style;
     style.scale = &scale;
     style.errorLimit = 12.5F;
-    for (const auto& [mode, graduated, kind, classes, reference] : rows) {
-        style.mode = mode;
-        style.graduated = graduated;
-        const LegendContent legend = legendContent(style, kind, Texts(), FixedLocale(','));
-        EXPECT_EQ(legend.classes.size(), classes) << reference.back();
-        EXPECT_EQ(textsOf(legend.reference), reference);
-    }
-    style.mode = ColorMode::Alarm;
     style.colors = {.draw = {1}, .noDraw = {2}, .back = {3}, .alarm = {4}, .noAlarm = {5}};
-    EXPECT_EQ(legendContent(style, WorkKind::Sprayer, Texts(), FixedLocale()).reference,
-              (std::vector<LegendRow>{{{1}, "Fumigado"},
-                                      {{2}, "No fumigado"},
-                                      {{3}, "Fondo"},
-                                      {{4}, "Con alarma"},
-                                      {{5}, "Sin alarma"}}));
+    for (const Row& row : rows) {
+        style.mode = row.mode;
+        style.graduated = row.graduated;
+        style.drawDotted = row.dotted;
+        const LegendContent legend =
+            legendContent(style, nullptr, row.kind, Texts(), FixedLocale(','));
+        EXPECT_EQ(textsOf(legend.reference), row.reference);
+        EXPECT_TRUE(legend.classes.empty());
+    }
+    EXPECT_EQ(legendContent(style, nullptr, WorkKind::Sprayer, Texts(), FixedLocale()).reference,
+              (std::vector<LegendRow>{{{3}, "Fondo"}, {{4}, "Con alarma"}, {{5}, "Sin alarma"}}));
 }
 
 }  // namespace

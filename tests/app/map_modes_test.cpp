@@ -132,8 +132,14 @@ TEST(MapModes, TheThreeMapsExcludeEachOther) {
             desk.open("lote.rpt");
             (desk.modes.*first)();
             EXPECT_TRUE(desk.modes.isOn(firstMode));
+            const bool isAlarm = firstMode == ColorMode::Alarm;
+            EXPECT_EQ(desk.window.legend.classes.empty(), isAlarm) << "no dose has a colour there";
+            desk.session.defaultScale().setClassNumber(3);
             desk.forget();
             (desk.modes.*second)();
+            if (isAlarm && second == first) {
+                EXPECT_EQ(desk.session.defaultScale().count(), 3) << "as the user left them";
+            }
             EXPECT_EQ(desk.mode(), first == second ? ColorMode::Dose : secondMode);
             EXPECT_EQ(desk.redraws(), 1U);
             EXPECT_EQ(desk.window.commandChanges, 1);
@@ -168,6 +174,7 @@ TEST_F(MapModesTest, TheErrorMapTellsColoursAndHectares) {
     EXPECT_EQ(window.legend.classes.size(), 1U) << "one specified dose";
     modes.mnuColorScaleSelTotal();
     EXPECT_EQ(window.summary.back().value, "0 Has");
+    EXPECT_EQ(session.defaultScale().valueMax(), 250) << "the doses of the total again";
     modes.mnuColorDateMap();
     EXPECT_EQ(window.summary.back(), (SummaryRow{"Hectareas Error", " "}));
 }
@@ -261,12 +268,32 @@ TEST_F(MapModesTest, TheMachineReadLastNamesItsWork) {
     EXPECT_EQ(caption(), "Ver solo fumigado");
     open("siembra.rpt", 1, kSeeder);
     EXPECT_EQ(caption(), "Ver solo sembrado");
+    modes.mnuEditGraduated();
     EXPECT_EQ(window.legend.reference.front().text, "Sembrado");
-    EXPECT_EQ(window.legend.unit, "unid/hect");
     session.loadFile(track("log0001.nbr", 5), false, true);
     EXPECT_EQ(caption(), "Ver solo sembrado") << "a track file is no report";
     open("lote.rpt");
     EXPECT_EQ(caption(), "Ver solo fumigado");
+}
+
+TEST_F(MapModesTest, LitresAndUnitsOfSeedHaveAScaleEach) {
+    session.loadFile(report("siembra.rpt", 600000, kSeeder), false, true);
+    session.loadFile(report("lote.rpt", 1000), false, true);
+    const auto shown = [this](int row) {
+        session.selectFile(row);
+        return window.legend.classes.front().text + " " + window.legend.unit;
+    };
+    EXPECT_EQ(shown(0), "60000 unid/hect");
+    EXPECT_EQ(shown(1), "100 - 100.4 lt/hect");
+    session.legend().addClass();
+    EXPECT_EQ(session.defaultScale().count(), 6);
+    forget();
+    session.redraw();
+    const Lines colours = fills();
+    EXPECT_EQ(colours.front(), "0x00FFFF") << "the least of the litres";
+    EXPECT_EQ(colours.back(), "0x00FFFF") << "the only one of the seeds";
+    session.removeCurrentFile();
+    EXPECT_EQ(window.legend.unit, "unid/hect");
 }
 
 TEST(MapModes, ASwathWidthIsGivenToAllWork) {

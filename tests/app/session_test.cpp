@@ -107,12 +107,16 @@ TEST_F(SessionTest, SeveralFilesAreDrawnOnce) {
     EXPECT_EQ(redraws(), 2U) << "one for the empty map, one for both";
 }
 
-TEST_F(SessionTest, RangesGrowWithEveryFileAndStartAnewOnAnEmptyMap) {
+TEST_F(SessionTest, RangesAreThoseOfTheOpenFiles) {
     session.loadFile(report("uno.rpt", 1000), false, true);
     session.loadFile(report("dos.rpt", 3000), false, true);
     EXPECT_EQ(session.ranges().dose, (ValueRange<float>{100, 302}));
     session.loadFile(track("log0001.nbr", 5), false, true);
     EXPECT_EQ(session.ranges().flow, (ValueRange<float>{5, 5}));
+    session.selectFile(1);
+    session.removeCurrentFile();
+    EXPECT_EQ(session.ranges().dose, (ValueRange<float>{100, 102}));
+    EXPECT_EQ(session.defaultScale().valueMax(), 102) << "the classes follow";
     while (session.plotCount() > 0) {
         session.removeCurrentFile();
     }

@@ -46,10 +46,12 @@ public:
     explicit WorkStub(float hectares) : BoxLayer({}), hectares_(hectares) {}
 
     int cleared = 0;
+    bool specified = true;
 
     float getHectareasError(const MapStyle& /*style*/, float limit) const override {
         return limit == 12.5F ? hectares_ : -1000;
     }
+    [[nodiscard]] bool hasSpecifiedDose() const override { return specified; }
     void clearAlarmas() override { ++cleared; }
     void trocha(float /*metres*/) override {}
     [[nodiscard]] float speedN(std::int32_t /*n*/) const override { return 0; }
@@ -112,6 +114,19 @@ TEST(FileGphGroup, ErrorHectaresAndAlarmsComeFromItsWork) {
                                                             {"Operario:", "", ""}}));
     group.clearAlarmas();
     EXPECT_EQ(seen->cleared, 1);
+}
+
+TEST(FileGphGroup, WorkWithoutASpecifiedDoseHasNoEntryOfErrors) {
+    FileGphGroup group;
+    auto work = std::make_unique<WorkStub>(0.0F);
+    work->specified = false;
+    group.addGph(std::move(work));
+    for (const ColorMode mode : {ColorMode::Error, ColorMode::Dose}) {
+        MapStyle style;
+        style.mode = mode;
+        group.calcErrorArea(style, FixedLocale());
+        EXPECT_EQ(group.File_resumen().count(), 0);
+    }
 }
 
 }  // namespace

@@ -21,11 +21,8 @@ struct WorkReading {
     FixedLocale locale;
     Texts texts;
     Registrations registrations;
-    ValueRanges ranges;
 
-    [[nodiscard]] WorkReaderContext context() {
-        return {dialogs, locale, texts, registrations, ranges};
-    }
+    [[nodiscard]] WorkReaderContext context() { return {dialogs, locale, texts, registrations}; }
     [[nodiscard]] std::optional<LoadedWork> report(std::string_view bytes) {
         return readRptFile("C:\\Datos\\Lote 12.rpt", FileBytes(std::string(bytes)), context());
     }

@@ -37,8 +37,7 @@ std::unique_ptr<FileGphGroup> open(Reader reader, const std::string& name) {
     const FixedLocale locale;
     const Texts texts;
     const Registrations registrations;
-    const ValueRanges ranges;
-    auto work = reader(kSamples + "/" + name, {dialogs, locale, texts, registrations, ranges});
+    auto work = reader(kSamples + "/" + name, {dialogs, locale, texts, registrations});
     EXPECT_TRUE(dialogs.messages.empty());
     return work ? std::move(work->group) : nullptr;
 }
