@@ -196,6 +196,11 @@ std::string MapModes::channelCaption(int index) const {
 
 void MapModes::mnuColorScaleSelTotal() {
     session_.style().selectedChannel = -1;
+    for (int i = 0; i < session_.files().loadedCount(); ++i) {
+        if (auto* const several = dynamic_cast<MultiChannel*>(&session_.files().file(i))) {
+            several->showTotal();
+        }
+    }
     showNewClasses();
 }
 

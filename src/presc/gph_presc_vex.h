@@ -45,6 +45,7 @@ public:
 
     /// Throws `std::out_of_range` for a bad channel.
     void setCurrentChannel(int channel) override;
+    void showTotal() override { current_ = 0; }
     [[nodiscard]] int channelsCnt() const override { return static_cast<int>(channels_.size()); }
 
     [[nodiscard]] std::string File_name() const override { return name_; }

@@ -39,9 +39,9 @@ std::string summaryFigure(double value, char symbol, int digits) {
 }
 
 GridLayer::GridLayer(std::string_view path, GridCells cells, Color background)
-    : name_(fileNamePart(path)), path_(path), cells_(std::move(cells)) {
+    : name_(fileNamePart(path)), path_(path), cells_(std::move(cells)), background_(background) {
     collectBound();
-    countDoses(background);
+    countDoses();
 }
 
 void GridLayer::collectBound() {
@@ -52,21 +52,45 @@ void GridLayer::collectBound() {
     }
 }
 
-void GridLayer::countDoses(Color background) {
+void GridLayer::countDoses() {
     for (int channel = 0; channel < cells_.channels; ++channel) {
         Channel& counted = channels_.emplace_back();
-        SetList set;
         for (std::int32_t cell = 0; cell < cellCount(); ++cell) {
             const std::int16_t dose = steps(cell, channel);
-            set.addDosis(inUnits(dose));
             counted.dosed += dose != 0 ? 1 : 0;
             counted.steps += dose;
         }
-        counted.scale.loadFromSetList(set, 0);
-        const Clase& first = counted.scale.getClass(0);
-        if (first.lower == 0 && first.upper == 0) {
-            counted.scale.setClassColor(0, background);
-        }
+        setUpScale(counted.scale, channel);
+    }
+}
+
+void GridLayer::setUpScale(ColorScale& scale, int channel) const {
+    SetList set;
+    for (std::int32_t cell = 0; cell < cellCount(); ++cell) {
+        set.addDosis(inUnits(stepsOf(cell, channel)));
+    }
+    scale.loadFromSetList(set, 0);
+    const Clase& first = scale.getClass(0);
+    if (first.lower == 0 && first.upper == 0) {
+        scale.setClassColor(0, background_);
+    }
+}
+
+std::int32_t GridLayer::stepsOf(std::int32_t cell, int channel) const {
+    if (channel != kTotal) {
+        return steps(cell, channel);
+    }
+    std::int32_t sum = 0;
+    for (int each = 0; each < cells_.channels; ++each) {
+        sum += steps(cell, each);
+    }
+    return sum;
+}
+
+void GridLayer::showTotal() {
+    current_ = cells_.channels > 1 ? kTotal : 0;
+    if (current_ == kTotal && !std::exchange(hasTotal_, true)) {
+        setUpScale(total_, kTotal);
     }
 }
 
@@ -94,7 +118,7 @@ void GridLayer::setCurrentChannel(int channel) {
 }
 
 ColorScale* GridLayer::File_escalaColores() {
-    return &channels_[static_cast<std::size_t>(current_)].scale;
+    return current_ == kTotal ? &total_ : &channels_[static_cast<std::size_t>(current_)].scale;
 }
 
 void GridLayer::checkCell(std::int32_t cell) const {
@@ -144,7 +168,8 @@ std::int32_t GridLayer::Gph_mouseOver(const ViewTransform& /*view*/, const MapSt
 }
 
 std::string GridLayer::Gph_getInfo(const InfoContext& context, std::int32_t n) const {
-    std::string number = numberText(dose(n, current_));
+    checkCell(n);
+    std::string number = numberText(static_cast<float>(inUnits(shownSteps(n))));
     std::replace(number.begin(), number.end(), '.', context.locale.decimalSymbol());
     return context.texts.format(TextId::GridCellDose, {number});
 }

@@ -60,10 +60,13 @@ public:
     [[nodiscard]] const ColorScale& channelScale(int channel) const { return at(channel).scale; }
     /// Cells with a dose, which is one other than 0.
     [[nodiscard]] std::int32_t dosedCells(int channel) const { return at(channel).dosed; }
+    /// `kTotal` while it is the total of all.
     [[nodiscard]] int currentChannel() const { return current_; }
+    static constexpr int kTotal = -1;
 
     /// Throws `std::out_of_range` for a bad channel.
     void setCurrentChannel(int channel) override;
+    void showTotal() override;
     [[nodiscard]] int channelsCnt() const override { return cells_.channels; }
 
     [[nodiscard]] std::int32_t Gph_count() const override { return 1; }
@@ -134,14 +137,24 @@ private:
     };
 
     void collectBound();
-    void countDoses(Color background);
+    void countDoses();
+    /// The scale of the doses that a channel, or the total, has.
+    void setUpScale(ColorScale& scale, int channel) const;
     [[nodiscard]] const Channel& at(int channel) const;
     [[nodiscard]] std::int16_t steps(std::int32_t cell, int channel) const {
         return cells_
             .doses[static_cast<std::size_t>(cell) * static_cast<std::size_t>(cells_.channels) +
                    static_cast<std::size_t>(channel)];
     }
-    [[nodiscard]] double inUnits(std::int16_t steps) const {
+    /// Of the current channel or of the total.
+    [[nodiscard]] std::int32_t shownSteps(std::int32_t cell) const {
+        return stepsOf(cell, current_);
+    }
+    [[nodiscard]] std::int32_t stepsOf(std::int32_t cell, int channel) const;
+    [[nodiscard]] const ColorScale& shownScale() const {
+        return current_ == kTotal ? total_ : at(current_).scale;
+    }
+    [[nodiscard]] double inUnits(std::int32_t steps) const {
         return static_cast<double>(steps) / cells_.doseSteps;
     }
     void checkCell(std::int32_t cell) const;
@@ -152,13 +165,17 @@ private:
     [[nodiscard]] Window visibleCells(const ViewTransform& view) const;
     void plotRow(MapContext& context, std::int32_t row, const Window& window) const;
     void outlineCells(MapContext& context, const Window& window) const;
-    [[nodiscard]] Color colorOf(std::int16_t steps, const MapStyle& style) const;
+    [[nodiscard]] Color colorOf(std::int32_t steps, const MapStyle& style) const;
 
     std::string name_;
     std::string path_;
     GridCells cells_;
     BoundingBox bound_;
+    Color background_;
     std::deque<Channel> channels_;
+    /// Set up when it is shown first.
+    ColorScale total_;
+    bool hasTotal_ = false;
     int current_ = 0;
     std::vector<Gph*> layers_{this};
 };

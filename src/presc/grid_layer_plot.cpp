@@ -66,9 +66,9 @@ GridLayer::Window GridLayer::visibleCells(const ViewTransform& view) const {
     return window;
 }
 
-Color GridLayer::colorOf(std::int16_t steps, const MapStyle& style) const {
+Color GridLayer::colorOf(std::int32_t steps, const MapStyle& style) const {
     const auto dose = static_cast<float>(inUnits(steps));
-    return steps == 0 ? style.colors.back : at(current_).scale.getColor(static_cast<double>(dose));
+    return steps == 0 ? style.colors.back : shownScale().getColor(static_cast<double>(dose));
 }
 
 void GridLayer::Gph_plot(MapContext& context) const {
@@ -102,7 +102,7 @@ void GridLayer::outlineCells(MapContext& context, const Window& window) const {
     }
     for (std::int32_t row = window.firstRow; row < window.lastRow; ++row) {
         for (std::int32_t column = window.firstColumn; column < window.lastColumn; ++column) {
-            if (steps(row * columns() + column, current_) != 0) {
+            if (shownSteps(row * columns() + column) != 0) {
                 const auto [near, far] = corners(row, column);
                 context.canvas.rectangle(near, far, context.style.colors.fore,
                                          RectangleStyle::Outlined);
@@ -125,7 +125,7 @@ void GridLayer::plotRow(MapContext& context, std::int32_t row, const Window& win
     };
     const bool points = isPoint(near(window.firstColumn), far(window.firstColumn));
     for (std::int32_t column = window.firstColumn; column < window.lastColumn;) {
-        const std::int16_t dose = steps(row * columns() + column, current_);
+        const std::int32_t dose = shownSteps(row * columns() + column);
         const Color color = colorOf(dose, context.style);
         if (points) {
             context.canvas.point(near(column), color);
@@ -135,7 +135,7 @@ void GridLayer::plotRow(MapContext& context, std::int32_t row, const Window& win
         const CanvasPoint corner = near(column);
         do {
             ++column;
-        } while (column < window.lastColumn && steps(row * columns() + column, current_) == dose);
+        } while (column < window.lastColumn && shownSteps(row * columns() + column) == dose);
         context.canvas.rectangle(corner, far(column - 1), color, RectangleStyle::Filled);
     }
 }

@@ -74,6 +74,7 @@ struct ModesDesk : SessionDesk {
 struct ChannelsFile : NamedFile, MultiChannel {
     ChannelsFile(const std::string& name, int channels) : NamedFile(name), count(channels) {}
     void setCurrentChannel(int channel) override { current = channel; }
+    void showTotal() override { current = -1; }
     [[nodiscard]] int channelsCnt() const override { return count; }
 
     int count;
@@ -239,6 +240,8 @@ TEST_F(MapModesTest, AFileWithoutTheChannelIsNamedAndKeepsItsOwn) {
     EXPECT_EQ(session.style().selectedChannel, 2);
     EXPECT_EQ(window.legend.classes.front().text, "10") << "the doses of that channel";
     EXPECT_EQ(redraws(), 1U);
+    modes.mnuColorScaleSelTotal();
+    EXPECT_EQ(several.current, -1);
 }
 
 TEST(MapModes, DrawingOptionsAreSeenAndSomeAreKept) {
