@@ -4,21 +4,17 @@
 #include "app/session.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstddef>
-#include <span>
 #include <utility>
 
 #include "app/draw_layers.h"
-#include "app/legend.h"
 #include "app/place_marks.h"
 #include "app/settings.h"
 #include "app/summary_names.h"
 #include "app/window_title.h"
-#include "base/numbers.h"
+#include "base/text.h"
 #include "model/file_gph_group.h"
 #include "work/color_modes.h"
-#include "work/worked_area.h"
 
 namespace campora {
 
@@ -26,27 +22,25 @@ namespace {
 
 /// Image of files without one of their own.
 constexpr std::string_view kPlainIcon = "copy";
-/// Part of the worked area from which a class leaves nothing to see of the others.
-constexpr double kNearlyAll = 0.9;
-
-/// A scale that begins below 0 would waste classes.
-void raiseToZero(std::optional<ValueRange<float>>& range) {
-    if (range) {
-        range->least = std::max(range->least, 0.0F);
-    }
+/// Value, a blank and the unit.
+std::string withUnit(const std::string& value, std::string_view unit, const Texts& texts) {
+    return value + " " + shownUnit(unit, texts);
 }
 
-ValueRanges rangesOf(std::span<File* const> files) {
-    ValueRanges ranges;
-    for (const File* file : files) {
-        if (const auto* const group = dynamic_cast<const FileGphGroup*>(file)) {
-            ranges = united(ranges, group->ranges);
-        }
+SummaryRow summaryRow(const ShownProperty& row, const Texts& texts) {
+    const std::string name = shownSummaryName(row.property, texts);
+    const std::string value = withUnit(row.value, row.unit, texts);
+    switch (row.origin) {
+    case ShownProperty::Origin::Edited:
+        return {name, texts.format(TextId::EditedValue, {std::string(trim(value))}), true,
+                texts.format(TextId::MeasuredValue,
+                             {withUnit(row.measuredValue, row.measuredUnit, texts)})};
+    case ShownProperty::Origin::Added:
+        return {name, value, true, std::string(texts(TextId::AddedByHand))};
+    case ShownProperty::Origin::Measured:
+        break;
     }
-    raiseToZero(ranges.flow);
-    raiseToZero(ranges.litres);
-    raiseToZero(ranges.dose);
-    return ranges;
+    return {name, value};
 }
 
 }  // namespace
@@ -100,21 +94,21 @@ void Session::removeFile(const File* file) {
         return;
     }
     const bool wasCurrent = files_.currentFile() == file;
+    const bool hadWork = countsUnits(*file).has_value();
     files_.removeFile(file);
     if (files_.empty()) {
         reset();
         return;
     }
+    collectRanges();
     if (wasCurrent) {
         files_.setCurrentFile(&files_.file(std::min(*index, files_.loadedCount() - 1)));
     }
     loadFileList(true);
     showCurrentFile();
     replay_.prepareReplay();
-    const ValueRanges before = ranges_;
-    collectRanges();
-    if (ranges_ != before || style_.mode == ColorMode::Date || style_.mode == ColorMode::Error) {
-        refreshColorScale();  // its classes are the days or doses of the files that are left
+    if (hadWork) {
+        refreshColorScale();  // the classes are those of the work that is left
     }
     if (recalcGphBound()) {
         view_.ZoomUno();
@@ -260,9 +254,8 @@ void Session::showCurrentFile() {
 std::vector<SummaryRow> Session::summaryRows() const {
     std::vector<SummaryRow> rows;
     if (File* const file = files_.currentFile()) {
-        for (const auto& [property, value, unit] : file->File_resumen().entries()) {
-            rows.push_back(
-                {shownSummaryName(property, texts_), value + " " + shownUnit(unit, texts_)});
+        for (const ShownProperty& row : shownProperties(file->File_resumen())) {
+            rows.push_back(summaryRow(row, texts_));
         }
     }
     return rows;
@@ -270,91 +263,6 @@ std::vector<SummaryRow> Session::summaryRows() const {
 
 void Session::showSummary() {
     platform_.window.setSummary(summaryRows());
-}
-
-ColorScale& Session::shownScale() {
-    File* const current = files_.currentFile();
-    ColorScale* const own = current != nullptr ? current->File_escalaColores() : nullptr;
-    return own != nullptr ? *own : scaleOf(shownUnits().value_or(false));
-}
-
-std::optional<bool> Session::shownUnits() const {
-    const File* const current = files_.currentFile();
-    std::optional<bool> units = current != nullptr ? countsUnits(*current) : std::nullopt;
-    for (const File* file : openFiles()) {
-        units = units ? units : countsUnits(*file);
-    }
-    return units;
-}
-
-std::vector<File*> Session::workIn(bool units) const {
-    std::vector<File*> files = openFiles();
-    std::erase_if(files, [units](const File* file) { return countsUnits(*file) != units; });
-    return files;
-}
-
-void Session::showLegend() {
-    ColorScale& scale = shownScale();
-    scaleChanges_ = scale.onChanged([this] {
-        if (!loading_) {
-            spread_ = {};
-            showLegend();
-            showSummary();  // a prescription's follows its doses
-            redraw();
-        }
-    });
-    platform_.window.setLegend(legendContent());
-}
-
-LegendContent Session::legendContent() {
-    const ColorScale* const scale = legendScale();
-    LegendContent legend = campora::legendContent(
-        style_, scale, lastKind_.value_or(WorkKind::Sprayer), texts_, platform_.locale);
-    if (scale != nullptr) {
-        addSpreading(legend, *scale);
-    }
-    return legend;
-}
-
-const ColorScale* Session::legendScale() {
-    const ColorScale& scale = shownScale();
-    if (&scale != &defaultScale_ && &scale != &unitScale_) {
-        return &scale;
-    }
-    if (files_.empty() || !style_.scaleShown()) {
-        return nullptr;
-    }
-    // Track files have no alarms and keep the colours of their doses in that map.
-    const bool hasTracks = ranges_.flow && &scale == &defaultScale_;
-    return style_.mode != ColorMode::Alarm || hasTracks ? &scale : nullptr;
-}
-
-const Session::Spread& Session::spreadOf(const ColorScale& scale) {
-    if (spread_.scale != &scale) {
-        std::vector<ValueArea> areas = workedArea(style_, workIn(&scale == &unitScale_));
-        spread_ = {&scale, largestShare(scale, areas), false};
-        // Only asked where one class has nearly everything.
-        spread_.canSpread =
-            spread_.largestShare > kNearlyAll && middleOfArea(std::move(areas)).has_value();
-    }
-    return spread_;
-}
-
-void Session::addSpreading(LegendContent& legend, const ColorScale& scale) {
-    if (style_.mode != ColorMode::Dose || (&scale != &defaultScale_ && &scale != &unitScale_)) {
-        return;
-    }
-    legend.canSpread = true;
-    legend.spread = style_.spreadClasses;
-    if (style_.spreadClasses || scale.count() < 2) {
-        return;
-    }
-    const Spread& spread = spreadOf(scale);
-    if (spread.largestShare > kNearlyAll) {
-        const double percent = std::floor(spread.largestShare * 100);
-        legend.remark = texts_.format(TextId::OneClassCovers, {numberText(percent)});
-        legend.offer = spread.canSpread ? texts_(TextId::SpreadClasses) : "";
-    }
 }
 
 void Session::showFlowStops() {
@@ -430,34 +338,6 @@ bool Session::plotAll(MapContext& context, Progress& progress) const {
         layer->plotOnTop(context);
     }
     drawPlaceMarks(context, places(), texts_);
-    return true;
-}
-
-void Session::collectRanges() {
-    ranges_ = rangesOf(openFiles());
-    spread_ = {};
-}
-
-void Session::refreshColorScale() {
-    loading_ = true;
-    if (!setUpScales()) {
-        style_.mode = ColorMode::Dose;
-        setUpScales();
-    }
-    loading_ = false;
-    showLegend();
-}
-
-bool Session::setUpScales() {
-    spread_ = {};
-    for (const bool units : {false, true}) {
-        // A day has one colour, whatever was done on it.
-        const std::vector<File*> files =
-            style_.mode == ColorMode::Date ? openFiles() : workIn(units);
-        if (!setUpColorScale(scaleOf(units), style_, rangesOf(files), files)) {
-            return false;
-        }
-    }
     return true;
 }
 

@@ -21,6 +21,7 @@
 #include "app/place_marks.h"
 #include "app/presc_commands.h"
 #include "app/replay.h"
+#include "app/summary_commands.h"
 #include "base/texts.h"
 #include "colour/color_scale.h"
 #include "model/map_style.h"
@@ -109,6 +110,9 @@ public:
     [[nodiscard]] ColorScale& shownScale();
     /// The commands on that scale.
     [[nodiscard]] LegendCommands& legend() { return legend_; }
+    /// The commands on the summary of the current file.
+    [[nodiscard]] SummaryCommands& summary() { return summary_; }
+    [[nodiscard]] const SummaryCommands& summary() const { return summary_; }
     /// Kind of the machine of the report read last; none before the first.
     [[nodiscard]] std::optional<WorkKind> lastKind() const { return lastKind_; }
 
@@ -262,6 +266,7 @@ private:
     std::optional<SavedMap> saved_;
     ColorScale::Subscription scaleChanges_;
     LegendCommands legend_{*this};
+    SummaryCommands summary_{*this};
     /// Whether a track file with a step without flow has been opened; none without track files.
     std::optional<bool> hasFlowStops_;
     std::optional<WorkKind> lastKind_;

@@ -126,6 +126,7 @@ bool Session::takeWork(std::string_view path, const FileFormat& format, bool res
     if (!work) {
         return false;
     }
+    addKeptEdits(*work->file);
     if (resetFirst) {
         reset();  // only now: a file that is refused must not cost the open ones
     }

@@ -29,6 +29,14 @@ public:
             const std::string value = summary.value(i);
             line(std::string(trim(summary.property(i))).append(" ").append(trim(value)));
         }
+        for (const ShownProperty& row : shownProperties(summary)) {
+            if (row.origin != ShownProperty::Origin::Measured) {
+                const std::string value = row.value + " " + row.unit;
+                line(texts_.format(
+                    TextId::EditedValue,
+                    {std::string(trim(row.property)).append(" ").append(trim(value))}));
+            }
+        }
         printLayers(file);
         if (const BoundingBox& box = file.File_bound(); box.isSet) {
             line(texts_.format(TextId::CliBound,

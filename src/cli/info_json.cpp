@@ -46,6 +46,31 @@ void writeSummary(JsonWriter& json, const FileProperties& summary) {
     json.endArray();
 }
 
+/// What a person put in the place of figures, beside them; a row that is not shown has no value.
+void writeEdited(JsonWriter& json, const FileProperties& summary) {
+    if (summary.edits.empty()) {
+        return;
+    }
+    json.key("edited");
+    json.beginArray();
+    for (const ShownProperty& row : shownProperties(summary)) {
+        if (row.origin != ShownProperty::Origin::Measured) {
+            json.beginObject();
+            json.member("property", row.property);
+            json.member("value", row.value);
+            json.endObject();
+        }
+    }
+    for (const std::string& removed : summary.edits.removed) {
+        json.beginObject();
+        json.member("property", removed);
+        json.key("value");
+        json.null();
+        json.endObject();
+    }
+    json.endArray();
+}
+
 void writeScale(JsonWriter& json, const ColorScale* scale);
 
 void writeGrid(JsonWriter& json, const GridLayer& grid) {
@@ -162,6 +187,7 @@ void writeFile(JsonWriter& json, File& file, const InfoContext& context) {
     json.member("priority", file.File_priority());
     writeBound(json, file.File_bound());
     writeSummary(json, file.File_resumen());
+    writeEdited(json, file.File_resumen());
     writeLayers(json, file, context);
     writeScale(json, file.File_escalaColores());
     json.endObject();

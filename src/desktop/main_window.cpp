@@ -190,6 +190,7 @@ void MainWindow::connectFileList() {
         commandsChanged();
     });
     connect(&files, &FileList::zoomAsked, this, [this] { session_->zoomToCurrentFile(); });
+    connect(&sidePanel_->summary(), &SummaryTable::menuAsked, this, &MainWindow::openSummaryMenu);
 }
 
 void MainWindow::connectReplay() {

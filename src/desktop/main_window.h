@@ -72,6 +72,8 @@ public:
     void openWorkOrders();
     void mergeLots();
     void editSummary();
+    /// `row`: of the summary, -1 for none.
+    void openSummaryMenu(int row, QPoint place);
     void copyImage();
     void goToCoordinate();
     void exportMap();

@@ -26,7 +26,6 @@
 #include "desktop/summary_editor_dialog.h"
 #include "desktop/work_orders_dialog.h"
 #include "paint/picture_file.h"
-#include "work/summary_file.h"
 
 namespace campora {
 
@@ -61,23 +60,31 @@ void MainWindow::openWorkOrders() {
 }
 
 void MainWindow::editSummary() {
-    File* const file = session_->files().currentFile();
-    if (file == nullptr) {
-        return;
-    }
-    FileProperties& summary = file->File_resumen();
-    const std::string source = summary.sourcePath;
+    SummaryCommands& summary = session_->summary();
+    const std::string source = summary.summaryFile();
     if (source.empty()) {
-        static_cast<void>(editProperties(summary, desktop_.dialogs, session_->texts(), this));
+        editProperties(
+            summary.rows(), [&summary](const SummaryRows& rows) { return summary.keep(rows); },
+            desktop_.dialogs, session_->texts(), this);
     } else {
         editSummaryFile(source, desktop_.dialogs, session_->texts(), this);
-        loadSummaryFile(source, summary);
+        summary.reread();
     }
-    if (session_->style().mode == ColorMode::Error) {
-        session_->recalcErrorAreas();  // its entry was not in the file
-    } else {
-        session_->showSummary();
-    }
+}
+
+void MainWindow::openSummaryMenu(int row, QPoint place) {
+    SummaryCommands& summary = session_->summary();
+    auto* const menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    const auto add = [&](TextId text, bool enabled, auto run) {
+        QAction* const entry = menu->addAction(toQt(session_->texts()(text)), this, run);
+        entry->setEnabled(enabled);
+    };
+    add(TextId::BackToMeasured, summary.isEdited(row),
+        [&summary, row] { summary.backToMeasured(row); });
+    add(TextId::MeasuredAll, summary.hasEdits(), [&summary] { summary.backToMeasured(); });
+    add(TextId::ActionEditSummary, summary.canEdit(), [this] { editSummary(); });
+    menu->popup(place);
 }
 
 void MainWindow::copyImage() {

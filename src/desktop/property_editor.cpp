@@ -4,20 +4,15 @@
 #include "desktop/property_editor.h"
 
 #include "desktop/summary_editor_dialog.h"
-#include "work/summary_editor.h"
 
 namespace campora {
 
-bool editProperties(FileProperties& summary, Dialogs& dialogs, const Texts& texts,
-                    QWidget* parent) {
-    SummaryRows rows = rowsOf(summary);
-    SummaryRowsDialog dialog(rows, dialogs, texts, parent);
+void editProperties(SummaryRows rows, const std::function<bool(const SummaryRows&)>& keep,
+                    Dialogs& dialogs, const Texts& texts, QWidget* parent) {
+    SummaryRowsDialog dialog(
+        rows, [&] { return keep(rows); }, dialogs, texts, parent);
     dialog.setObjectName("frmProperties");
-    if (dialog.exec() != QDialog::Accepted) {
-        return false;
-    }
-    applyRows(rows, summary);
-    return true;
+    dialog.exec();
 }
 
 }  // namespace campora

@@ -3,16 +3,19 @@
 
 #pragma once
 
+#include <functional>
+
 #include "base/texts.h"
-#include "model/file_properties.h"
 #include "platform/dialogs.h"
+#include "work/summary_editor.h"
 
 class QWidget;
 
 namespace campora {
 
-/// Opens an editor of a summary that has no file, modally. What the user accepts lasts as long as
-/// the file is open. Whether the user accepted.
-bool editProperties(FileProperties& summary, Dialogs& dialogs, const Texts& texts, QWidget* parent);
+/// Opens an editor of the rows of a summary that has no file, modally. What the user accepts is
+/// handed to `keep`; the editor stays open when it answers false.
+void editProperties(SummaryRows rows, const std::function<bool(const SummaryRows&)>& keep,
+                    Dialogs& dialogs, const Texts& texts, QWidget* parent);
 
 }  // namespace campora

@@ -18,9 +18,11 @@ constexpr QSize kSize{560, 460};
 
 }  // namespace
 
-SummaryRowsDialog::SummaryRowsDialog(SummaryRows& rows, Dialogs& dialogs, const Texts& texts,
-                                     QWidget* parent)
-    : QDialog(parent) {
+SummaryRowsDialog::SummaryRowsDialog(SummaryRows& rows, Keep keep, Dialogs& dialogs,
+                                     const Texts& texts, QWidget* parent)
+    : QDialog(parent),
+      view_(new SummaryRowsView(rows, dialogs, texts, this)),
+      keep_(std::move(keep)) {
     setWindowTitle(toQt(texts(TextId::EditSummary)));
     auto* const accept = new QPushButton(toQt(texts(TextId::ButtonOk)), this);
     accept->setObjectName("cmdAcept");
@@ -35,26 +37,30 @@ SummaryRowsDialog::SummaryRowsDialog(SummaryRows& rows, Dialogs& dialogs, const 
     buttons->addWidget(accept);
     buttons->addWidget(cancel);
     auto* const column = new QVBoxLayout(this);
-    column->addWidget(new SummaryRowsView(rows, dialogs, texts, this), 1);
+    column->addWidget(view_, 1);
     column->addLayout(buttons);
     resize(kSize);
 }
 
-SummaryEditorDialog::SummaryEditorDialog(SummaryEditor& editor, Dialogs& dialogs,
-                                         const Texts& texts, QWidget* parent)
-    : SummaryRowsDialog(editor.rows(), dialogs, texts, parent), editor_(editor) {
-    setObjectName("frmWrkEdit");
-}
-
-void SummaryEditorDialog::accept() {
-    if (editor_.accept()) {
+void SummaryRowsDialog::accept() {
+    view_->acceptFields();
+    if (keep_()) {
         QDialog::accept();
     }
 }
 
+SummaryEditorDialog::SummaryEditorDialog(SummaryEditor& editor, Dialogs& dialogs,
+                                         const Texts& texts, QWidget* parent)
+    : SummaryRowsDialog(
+          editor.rows(), [&editor] { return editor.accept(); }, dialogs, texts, parent) {
+    setObjectName("frmWrkEdit");
+}
+
 void editSummaryFile(std::string_view path, Dialogs& dialogs, const Texts& texts, QWidget* parent) {
     SummaryEditor editor(path, dialogs, texts);
-    SummaryEditorDialog(editor, dialogs, texts, parent).exec();
+    if (editor.wasRead()) {
+        SummaryEditorDialog(editor, dialogs, texts, parent).exec();
+    }
 }
 
 }  // namespace campora

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <functional>
 #include <string_view>
 
 #include <QDialog>
@@ -11,11 +12,24 @@
 
 namespace campora {
 
-/// The window frame of both summary editors: the rows, accept and cancel.
+class SummaryRowsView;
+
+/// The window frame of both summary editors: the rows, accept and cancel. What stands in the fields
+/// counts when the user accepts.
 class SummaryRowsDialog : public QDialog {
 public:
+    /// Keeps the rows that the user accepted; the dialog stays open when it answers false.
+    using Keep = std::function<bool()>;
+
     /// The arguments outlive the dialog.
-    SummaryRowsDialog(SummaryRows& rows, Dialogs& dialogs, const Texts& texts, QWidget* parent);
+    SummaryRowsDialog(SummaryRows& rows, Keep keep, Dialogs& dialogs, const Texts& texts,
+                      QWidget* parent);
+
+    void accept() override;
+
+private:
+    SummaryRowsView* view_;
+    Keep keep_;
 };
 
 /// Changes the summary file of a work. Nothing is written before the user accepts.
@@ -24,15 +38,9 @@ public:
     /// `editor` and the other arguments outlive the dialog.
     SummaryEditorDialog(SummaryEditor& editor, Dialogs& dialogs, const Texts& texts,
                         QWidget* parent);
-
-    /// Stays open when the file cannot be written.
-    void accept() override;
-
-private:
-    SummaryEditor& editor_;
 };
 
-/// Opens the editor of a summary file modally.
+/// Opens the editor of a summary file modally; one that cannot be read is told and not opened.
 void editSummaryFile(std::string_view path, Dialogs& dialogs, const Texts& texts, QWidget* parent);
 
 }  // namespace campora

@@ -105,6 +105,12 @@ void SummaryRowsView::add() {
     showRows();
 }
 
+void SummaryRowsView::acceptFields() {
+    readFields();
+    rows_.acceptFields();
+    showRows();
+}
+
 void SummaryRowsView::quit() {
     askAndRemove(rows_, dialogs_, texts_);
     showRows();

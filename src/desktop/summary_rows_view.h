@@ -24,6 +24,9 @@ public:
     /// The arguments outlive the widget; the rows change only through it from now on.
     SummaryRowsView(SummaryRows& rows, Dialogs& dialogs, const Texts& texts, QWidget* parent);
 
+    /// What stands in the fields goes into the rows, as `SummaryRows::acceptFields` says.
+    void acceptFields();
+
 private:
     using Action = void (SummaryRowsView::*)();
 

@@ -3,6 +3,7 @@
 
 #include "desktop/summary_table.h"
 
+#include <QContextMenuEvent>
 #include <QHeaderView>
 
 #include "desktop/qt_text.h"
@@ -28,8 +29,26 @@ void SummaryTable::setRows(std::span<const SummaryRow> rows) {
         auto* item = new QTreeWidgetItem(this, {toQt(row.property), toQt(row.value)});
         item->setSizeHint(1, roomy);
         item->setToolTip(0, plainToolTip(item->text(0)));
-        item->setToolTip(1, plainToolTip(item->text(1)));
+        const QString note = toQt(row.note);
+        item->setToolTip(1, plainToolTip(note.isEmpty() ? item->text(1) : note));
+        item->setData(1, Qt::AccessibleDescriptionRole, note);
+        if (row.edited) {
+            QFont font = item->font(1);
+            font.setItalic(true);
+            font.setBold(true);
+            item->setFont(1, font);
+        }
     }
+}
+
+void SummaryTable::contextMenuEvent(QContextMenuEvent* event) {
+    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+    QTreeWidgetItem* const item =
+        byKey ? currentItem() : itemAt(viewport()->mapFromGlobal(event->globalPos()));
+    const QPoint place = byKey && item != nullptr
+                             ? viewport()->mapToGlobal(visualItemRect(item).center())
+                             : event->globalPos();
+    emit menuAsked(item != nullptr ? indexOfTopLevelItem(item) : -1, place);
 }
 
 void SummaryTable::retranslate(const Texts& texts) {

@@ -12,13 +12,22 @@
 
 namespace campora {
 
-/// The summary of the selected file: property and value.
+/// The summary of the selected file: property and value. Rows that a person edited stand out.
 class SummaryTable final : public QTreeWidget {
+    Q_OBJECT
+
 public:
     explicit SummaryTable(QWidget* parent = nullptr);
 
     void setRows(std::span<const SummaryRow> rows);
     void retranslate(const Texts& texts);
+
+signals:
+    /// `row`: -1 where there is none; `place`: on the screen.
+    void menuAsked(int row, QPoint place);
+
+protected:
+    void contextMenuEvent(QContextMenuEvent* event) override;
 };
 
 }  // namespace campora

@@ -3,9 +3,13 @@
 
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "base/failure.h"
+#include "model/summary_edits.h"
 
 namespace campora {
 
@@ -23,6 +27,10 @@ class FileProperties {
 public:
     /// Path of the file that the summary was read from; empty when it was computed.
     std::string sourcePath;
+    /// What a person put over the entries, which stay as they are.
+    SummaryEdits edits;
+    /// Why the edits that are kept beside the file are not among them.
+    std::optional<Failure> editsUnused;
 
     [[nodiscard]] int count() const { return static_cast<int>(entries_.size()); }
     [[nodiscard]] const std::vector<FileProperty>& entries() const { return entries_; }

@@ -30,6 +30,11 @@ SummaryEntry oneLine(const SummaryEntry& entry) {
     return {oneLine(entry.name), oneLine(entry.value), oneLine(entry.unit)};
 }
 
+SummaryEntry trimmed(const SummaryEntry& entry) {
+    const auto [name, value, unit] = oneLine(entry);
+    return {std::string(trim(name)), std::string(trim(value)), std::string(trim(unit))};
+}
+
 std::string quoted(std::string_view field) {
     return '"' + replaceAll(field, "\"", "\"\"") + '"';
 }
@@ -56,6 +61,7 @@ SummaryRows::SummaryRows(std::vector<SummaryEntry> rows) : rows_(std::move(rows)
     if (!rows_.empty()) {
         fields = rows_.front();
     }
+    untouched_ = fields;
 }
 
 void SummaryRows::select(std::optional<int> row) {
@@ -65,6 +71,7 @@ void SummaryRows::select(std::optional<int> row) {
     }
     selected_ = row;
     fields = rows_[static_cast<std::size_t>(*row)];
+    untouched_ = fields;
 }
 
 void SummaryRows::add() {
@@ -72,22 +79,40 @@ void SummaryRows::add() {
     if (selected_) {
         ++*selected_;
     }
+    untouched_ = fields;
 }
 
 void SummaryRows::remove() {
     if (selected_) {
         rows_.erase(rows_.begin() + *selected_);
         selected_.reset();
+        untouched_ = fields;
     }
 }
 
 void SummaryRows::change() {
     if (selected_) {
-        const SummaryEntry entry = oneLine(fields);
-        rows_[static_cast<std::size_t>(*selected_)] = {std::string(trim(entry.name)),
-                                                       std::string(trim(entry.value)),
-                                                       std::string(trim(entry.unit))};
+        rows_[static_cast<std::size_t>(*selected_)] = trimmed(fields);
+        untouched_ = fields;
     }
+}
+
+void SummaryRows::acceptFields() {
+    const SummaryEntry typed = trimmed(fields);
+    if (fields == untouched_ || (!selected_ && typed == SummaryEntry())) {
+        return;
+    }
+    const auto row = selected_
+                         ? rows_.begin() + *selected_
+                         : std::find_if(rows_.begin(), rows_.end(), [&](const SummaryEntry& entry) {
+                               return trim(entry.name) == typed.name;
+                           });
+    if (row == rows_.end()) {
+        rows_.push_back(typed);
+    } else {
+        *row = typed;
+    }
+    untouched_ = fields;
 }
 
 void SummaryRows::move(int step) {
@@ -137,21 +162,6 @@ bool SummaryEditor::accept() {
         return false;
     }
     return true;
-}
-
-SummaryRows rowsOf(const FileProperties& summary) {
-    std::vector<SummaryEntry> entries;
-    for (const FileProperty& row : summary.entries()) {
-        entries.push_back({row.property, row.value, row.unit});
-    }
-    return SummaryRows(std::move(entries));
-}
-
-void applyRows(const SummaryRows& rows, FileProperties& summary) {
-    summary.clear();
-    for (const SummaryEntry& row : rows.rows()) {
-        summary.addProperty(row.name, row.value, row.unit);
-    }
 }
 
 void askAndRemove(SummaryRows& rows, Dialogs& dialogs, const Texts& texts) {

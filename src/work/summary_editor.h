@@ -9,7 +9,6 @@
 #include <vector>
 
 #include "base/texts.h"
-#include "model/file_properties.h"
 #include "platform/dialogs.h"
 
 namespace campora {
@@ -45,6 +44,9 @@ public:
     void remove();
     /// The selected row becomes what the fields say, trimmed.
     void change();
+    /// What was typed and not yet put into the rows: it changes the selected row, or else the one
+    /// of its name; under another name it is a new row. For the end of the editing.
+    void acceptFields();
     /// One place towards the top or the end, unless it is there already.
     void up() { move(-1); }
     void down() { move(1); }
@@ -54,6 +56,8 @@ private:
 
     std::vector<SummaryEntry> rows_;
     std::optional<int> selected_;
+    /// What the fields were before the user typed.
+    SummaryEntry untouched_;
 };
 
 /// The summary file of a work, opened to change it.
@@ -63,6 +67,8 @@ public:
     /// `dialogs` and `texts` outlive the editor.
     SummaryEditor(std::string_view path, Dialogs& dialogs, const Texts& texts);
 
+    /// False when there is nothing to edit, which has been said.
+    [[nodiscard]] bool wasRead() const { return wasRead_; }
     [[nodiscard]] SummaryRows& rows() { return rows_; }
     [[nodiscard]] const SummaryRows& rows() const { return rows_; }
 
@@ -83,11 +89,6 @@ private:
     /// What follows the rows and is no summary; it goes back as it was.
     std::string unread_;
 };
-
-/// The rows of a summary that has no file: names stand as they are.
-[[nodiscard]] SummaryRows rowsOf(const FileProperties& summary);
-/// Puts rows in place of a summary's entries.
-void applyRows(const SummaryRows& rows, FileProperties& summary);
 
 /// Asks before the selected row is taken out; nothing happens without one.
 void askAndRemove(SummaryRows& rows, Dialogs& dialogs, const Texts& texts);

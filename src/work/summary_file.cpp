@@ -104,9 +104,9 @@ void loadSummaryFile(std::string_view path, FileProperties& summary) {
     summary = FileProperties();
     if (const Result<FileBytes> file = readFile(path)) {
         summary = decodeSummary(file->text());
-        // A file without a single entry is no summary, whatever its name: it may be another work,
-        // and must not be deleted or rewritten as part of this one.
-        if (summary.count() > 0) {
+        // A file of something else is no summary, whatever its name: it may be another work, and
+        // must not be deleted or rewritten as part of this one. An empty one can be filled.
+        if (summary.count() > 0 || trim(file->text()).empty()) {
             summary.sourcePath = path;
         }
     }

@@ -150,8 +150,8 @@ TEST(PageLayout, SaysAllThatItIsGiven) {
             textsOf(layOut(setupOf("A4", landscape), content(5, 9, 10)));
         for (const char* said :
              {"lote norte.rpt", "campo/2026/lote norte.rpt", "Campora 9.9.9",
-              "Impreso el 31/12/2026", "Colour scale (lt/hect)", "clase 4", "Legend", "Fondo",
-              "Summary", "Dato 8:", "8 hect", "Description", "renglón 9", "N"}) {
+              "Impreso el 31/12/2026", "Colour scale (lt/hect)", "clase 4", "Other colours",
+              "Fondo", "Summary", "Dato 8:", "8 hect", "Description", "renglón 9", "N"}) {
             EXPECT_THAT(texts, Contains(said)) << landscape;
         }
     }

@@ -52,7 +52,7 @@ TEST(PrintCommands, ThePageTellsOfTheSelectedFile) {
     desk.print.change(desk.print.setup(), "Glifosato\n2 l/ha");
     const std::vector<std::string> texts = textsOf(desk.print.page(halfEach));
     for (const char* said : {"dos.rpt y 1 más", "/campo/dos.rpt", "Área:", "12.5 Has", "Glifosato",
-                             "2 l/ha", "Fumigado"}) {
+                             "2 l/ha", "Fondo"}) {
         EXPECT_THAT(texts, Contains(said));
     }
     EXPECT_THAT(texts, Contains("Impreso el " + dateText(desk.clock.today(), "dd/mm/yyyy")));

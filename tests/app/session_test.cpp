@@ -32,7 +32,7 @@ TEST(Session, StartsEmptyWithTheUsersSettings) {
     EXPECT_FALSE(desk.window.mapActive);
     EXPECT_EQ(desk.canvas.calls(), (Names{"clear 0x0000FF", "refresh"}));
     EXPECT_FALSE(desk.session.style().drawBorders);
-    EXPECT_EQ(desk.window.legend.reference.front().text, "Sprayed");
+    EXPECT_EQ(desk.window.legend.reference.front().text, "Background");
     ASSERT_TRUE(desk.session.loadFile(desk.track("log0001.nbr", 5), false, true));
     EXPECT_EQ(desk.listed(), Names{"log0001.nbr (LV-XYZ)"});
 }

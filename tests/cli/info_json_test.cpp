@@ -26,6 +26,10 @@ TEST(InfoJson, TellsScalesAndWhatIsMissing) {
     auto file = std::make_unique<NamedFile>("zonas.shp");
     file->bound = {};
     file->summary.clear();
+    for (const char* name : {"Vel:", "Lote:"}) {
+        file->summary.addProperty(name, "12", "");
+    }
+    file->summary.edits = {{{"Vel:", SummaryEdits::Value{"9", ""}}}, {"Lote:"}};
     file->scale = std::make_unique<ColorScale>();
     file->scale->setClassNumberExt(2, 10, 20);
     file->scale->setClassColor(1, Color::rgb(0x12, 0xAB, 0));
@@ -34,17 +38,22 @@ TEST(InfoJson, TellsScalesAndWhatIsMissing) {
     writeInfoJson(batch.session(), out);
     const json layer = {
         {"kind", "NamedLayer"}, {"elements", 1}, {"points", nullptr}, {"bound", nullptr}};
-    const json expected = {{"name", "zonas.shp"},
-                           {"path", "/campo/zonas.shp"},
-                           {"icon", ""},
-                           {"id", ""},
-                           {"priority", 0},
-                           {"bound", nullptr},
-                           {"summary", json::array()},
-                           {"layers", {layer, layer}},
-                           {"scale",
-                            {{{"lower", 10}, {"upper", 15}, {"color", "#FFFF00"}},
-                             {{"lower", 15}, {"upper", 20}, {"color", "#12AB00"}}}}};
+    const json expected = {
+        {"name", "zonas.shp"},
+        {"path", "/campo/zonas.shp"},
+        {"icon", ""},
+        {"id", ""},
+        {"priority", 0},
+        {"bound", nullptr},
+        {"summary",
+         {{{"property", "Vel:"}, {"value", "12"}, {"unit", ""}},
+          {{"property", "Lote:"}, {"value", "12"}, {"unit", ""}}}},
+        {"edited",
+         {{{"property", "Vel:"}, {"value", "9"}}, {{"property", "Lote:"}, {"value", nullptr}}}},
+        {"layers", {layer, layer}},
+        {"scale",
+         {{{"lower", 10}, {"upper", 15}, {"color", "#FFFF00"}},
+          {{"lower", 15}, {"upper", 20}, {"color", "#12AB00"}}}}};
     EXPECT_EQ(json::parse(out.str())["files"], json::array({expected}));
 }
 

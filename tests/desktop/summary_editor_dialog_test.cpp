@@ -91,22 +91,28 @@ TEST_F(SummaryEditorDialogTest, StaysOpenWhenTheFileCannotBeWritten) {
     EXPECT_FALSE(dialog.isVisible());
 }
 
-TEST(PropertyEditor, ChangesTheSummaryOnlyWhenAccepted) {
+TEST(PropertyEditor, HandsOverWhatStandsInTheFieldsWhenAccepted) {
     ScriptedDialogs dialogs;
     const Texts texts;
-    FileProperties summary;
-    summary.addProperty("Hectáreas fumig: ", "12", "");
     for (const char* button : {"CmdCancel", "cmdAcept"}) {
         QTimer::singleShot(0, [button] {
             const EditorWidgets widgets{*QApplication::activeModalWidget()};
             widgets.list().setCurrentItem(widgets.list().topLevelItem(0));
             widgets.field("txtCampo2").setText("13");
-            widgets.button("cmdChange").click();
-            widgets.button(button).click();
+            widgets.button(button).click();  // without the button that changes the row
+            widgets.button("CmdCancel").click();
         });
-        const bool accepted = editProperties(summary, dialogs, texts, nullptr);
-        EXPECT_EQ(accepted, button == std::string_view("cmdAcept"));
-        EXPECT_EQ(summary.value_(0), accepted ? "13" : "12");
+        std::vector<SummaryEntry> kept;
+        editProperties(
+            SummaryRows({{"Hectáreas fumig: ", "12", ""}}),
+            [&kept](const SummaryRows& rows) {
+                kept = rows.rows();
+                return false;  // and the dialog stays
+            },
+            dialogs, texts, nullptr);
+        const bool accepted = button == std::string_view("cmdAcept");
+        ASSERT_EQ(kept.size(), accepted ? 1U : 0U);
+        EXPECT_TRUE(!accepted || kept.front().value == "13");
     }
 }
 

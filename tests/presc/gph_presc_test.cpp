@@ -128,7 +128,7 @@ TEST_F(PrescTest, TellsTheColumnsAndTheAreaOfAZone) {
     presc.setColumnaDosis(1);
     presc.setDosis(0, 72.1F);
     EXPECT_EQ(presc.Gph_getInfo({texts, locale, style}, 0),
-              "DOSIS: 0.5\r\nDosis cambiada: 72.1\r\nNOMBRE: zona 0\r\n"
+              "DOSIS: 0.5\r\nDosis cambiada: 72,1\r\nNOMBRE: zona 0\r\n"
               "Area calculada: 124 Has\r\n");
 }
 

@@ -50,6 +50,31 @@ TEST(SummaryRows, AreAddedMovedAndChanged) {
     EXPECT_THAT(shown(rows), ElementsAre("*Dosis|7|l", "a|1|m", "d|4|", "n|x y z|"));
 }
 
+TEST(SummaryRows, WhatStandsInTheFieldsCountsAtTheEnd) {
+    struct Row {
+        const char* name;
+        std::optional<int> selected;
+        SummaryEntry typed;
+        std::vector<std::string> after;
+    };
+    const Row rows[] = {
+        {"nothing typed", 1, {"b", "2", ""}, {"a|1|m", "*b|2|"}},
+        {"into the selected row", 1, {"c", " 3", ""}, {"a|1|m", "*c|3|"}},
+        {"into the row of that name", {}, {"a", "4", "m"}, {"a|4|m", "b|2|"}},
+        {"a new row", {}, {"c", "5", ""}, {"a|1|m", "b|2|", "c|5|"}},
+        {"fields that were emptied", {}, {"", " ", ""}, {"a|1|m", "b|2|"}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        SummaryRows edited({{"a", "1", "m"}, {"b", "2", ""}});
+        edited.select(row.selected);
+        edited.fields = row.typed;
+        edited.acceptFields();
+        edited.acceptFields();  // a second time, after the first could not be kept
+        EXPECT_EQ(shown(edited), row.after);
+    }
+}
+
 class SummaryEditorTest : public ::testing::Test {
 protected:
     TempFolder folder;

@@ -49,6 +49,12 @@ TEST(SummaryFile, RemembersItsSource) {
     EXPECT_EQ(summary.entries(), (Entries{{"A:", "1", ""}}));
     EXPECT_EQ(summary.sourcePath, path);
 
+    loadSummaryFile(folder.write("Wrk0001.txt", "\r\n"), summary);
+    EXPECT_EQ(summary.sourcePath, path) << "an empty one can be filled";
+    loadSummaryFile(folder.write("Wrk0001.txt", "otra cosa"), summary);
+    EXPECT_EQ(summary.sourcePath, "");
+    loadSummaryFile(folder.write("Wrk0001.txt", "A:,1,\n"), summary);
+
     loadSummaryFile("", summary);
     EXPECT_EQ(summary.count(), 1) << "an empty path changes nothing";
     loadSummaryFile(folder.file("missing.txt"), summary);
