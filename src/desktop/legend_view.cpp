@@ -67,7 +67,7 @@ void LegendView::retranslate(const Texts& texts) {
     scaleHeading_->setTitle(toQt(texts(TextId::ScaleHeading)));
     scaleHeading_->setToolTip(toQt(texts(TextId::LegendKeys)));
     classes_->setAccessibleDescription(toQt(texts(TextId::LegendKeys)));
-    spread_->setToolTip(plainToolTip(toQt(texts(TextId::TipSpreadClasses))));
+    spread_->setToolTip(toQt(texts(TextId::TipSpreadClasses)));
     referenceHeading_->setTitle(toQt(texts(TextId::ReferenceHeading)));
     showRows();
 }

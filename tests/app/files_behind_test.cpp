@@ -23,8 +23,8 @@ std::vector<std::string> names(const std::vector<std::string>& paths) {
 
 TEST(FilesBehind, FolderStandsForItsFilesInNameOrder) {
     const TempFolder folder;
-    for (const char* name :
-         {"Lote 2.rpt", "lote 10.RPT", "lote 1.nbr", "Campo.txt", "leeme.doc", "junio/viejo.rpt"}) {
+    for (const char* name : {"Lote 2.rpt", "lote 10.RPT", "lote 1.nbr", "Campo.txt", "leeme.doc",
+                             "Lote 2.rpt.campora.json", "junio/viejo.rpt"}) {
         folder.write(name, "x");
     }
     EXPECT_THAT(names(filesBehind(folder.path())),
