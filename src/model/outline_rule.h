@@ -21,4 +21,9 @@ namespace campora {
     return isOutlined(std::span(&ring, 1), least);
 }
 
+/// The same for what lies between two sides with as many points each, as a swath does; what is gone
+/// over twice counts twice.
+[[nodiscard]] bool isOutlined(std::span<const CanvasPoint> left, std::span<const CanvasPoint> right,
+                              std::int32_t least);
+
 }  // namespace campora

@@ -64,7 +64,7 @@ public:
         if (!run_) {
             return;
         }
-        drawRun();
+        drawRun(isFlowSmall_);
         run_.reset();
         drawn_ = true;
         drawCentrelines();
@@ -101,7 +101,13 @@ private:
 
     [[nodiscard]] bool goesOn(const Run& step, std::size_t i) const {
         return run_->swath == step.swath && run_->color == step.color &&
-               (run_->flow == step.flow || (isBelowPixel(flowPoint_, i) && isBelowPixel(i, i + 1)));
+               (run_->flow == step.flow || (isFlowSmall_ && isBelowPixel(i, i + 1)));
+    }
+
+    void beginFlow(std::size_t point, std::size_t edge) {
+        flowPoint_ = point;
+        flowEdge_ = edge;
+        isFlowSmall_ = true;
     }
 
     void addToRun(std::size_t i, const Run& step) {
@@ -110,16 +116,15 @@ private:
         }
         if (!run_) {
             run_ = step;
-            flowPoint_ = i;
-            flowEdge_ = 0;
+            beginFlow(i, 0);
             addEdge(i);
         } else if (run_->flow != step.flow) {
             run_->flow = step.flow;
-            flowPoint_ = i;
-            flowEdge_ = ring_.size() - 1;
+            beginFlow(i, ring_.size() - 1);
         }
         addEdge(i + 1);
-        if (flowEdge_ > 0 && !isBelowPixel(flowPoint_, i + 1)) {
+        isFlowSmall_ = isFlowSmall_ && isBelowPixel(flowPoint_, i + 1);
+        if (flowEdge_ > 0 && !isFlowSmall_) {
             splitRun();
         }
     }
@@ -131,16 +136,16 @@ private:
         std::vector<CanvasPoint> right(rightSide_.begin() + edge, rightSide_.end());
         ring_.resize(flowEdge_ + 1);
         rightSide_.resize(flowEdge_ + 1);
-        drawRun();
+        drawRun(true);
         ring_.swap(left);
         rightSide_.swap(right);
         flowEdge_ = 0;
     }
 
-    void drawRun() {
-        const bool isSmall = flowEdge_ > 0 || isBelowPixel(flowPoint_, lastEdge_->point);
+    void drawRun(bool ofSmallFlows) {
+        const bool inInk =
+            style_.drawBorders && !ofSmallFlows && isOutlined(ring_, rightSide_, leastOutlined_);
         ring_.insert(ring_.end(), rightSide_.rbegin(), rightSide_.rend());
-        const bool inInk = style_.drawBorders && !isSmall && isOutlined(ring_, leastOutlined_);
         canvas_.setFillColor(run_->color);
         canvas_.setPenColor(inInk ? ink_ : run_->color);
         canvas_.polygon(ring_);
@@ -190,6 +195,7 @@ private:
     std::optional<Run> run_;
     std::size_t flowPoint_ = 0;  // where the last flow of the run began
     std::size_t flowEdge_ = 0;   // its place in the sides
+    bool isFlowSmall_ = true;    // it has stayed within a pixel
     std::optional<Edge> lastEdge_;
     std::vector<CanvasPoint> ring_;  // the left side until the run is finished
     std::vector<CanvasPoint> rightSide_;

@@ -134,7 +134,7 @@ TEST(GphTrackPlot, JoinsStepsThatLookAlike) {
          {{100, 500, 9, 14}, {200, 400, 9, 14}},
          true,
          false,
-         {kWorkedBare + "(95,495) (195,395) (205,405) (105,505)"}},
+         {kWorkedBare + "(105,495) (205,595) (195,605) (95,505)"}},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
