@@ -11,6 +11,7 @@
 #include "app/settings.h"
 #include "base/numbers.h"
 #include "base/paths.h"
+#include "base/plain_text.h"
 #include "presc/zone_overlaps.h"
 
 namespace campora {
@@ -220,9 +221,9 @@ bool DoseColumns::isComplete(int row) {
         return false;
     }
     return distinctDoses(*checked.presc, checked.column, *checked.form) <= kMostDoses ||
-           session_.platform().dialogs.askYesNoCancel(say(TextId::DosesTooMany),
-                                                      MessageIcon::Exclamation,
-                                                      texts(TextId::ProgramName)) == Answer::Yes;
+           session_.platform().dialogs.askYesNoCancel(
+               namingFile(say(TextId::DosesTooMany), checked.path), MessageIcon::Exclamation,
+               texts(TextId::ProgramName)) == Answer::Yes;
 }
 
 bool DoseColumns::settleForm(Row& row, const std::string& badColumn) {
@@ -246,7 +247,7 @@ bool DoseColumns::settleForm(Row& row, const std::string& badColumn) {
         warn(words + "\n" + texts.format(TextId::CliUseOption, {question.options()}));
         return false;
     }
-    row.form = askForm(question, words);
+    row.form = askForm(question, namingFile(words, row.path));
     return row.form.has_value();
 }
 

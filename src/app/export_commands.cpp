@@ -13,6 +13,7 @@
 #include "app/session.h"
 #include "base/files.h"
 #include "base/paths.h"
+#include "base/plain_text.h"
 #include "work/glg_points.h"
 #include "work/gph_track.h"
 #include "work/work_reader.h"
@@ -136,8 +137,8 @@ void ExportCommands::afterExport(const ExportFormat& format, const std::string& 
     const bool opens = format.after == AfterExport::Open ||
                        (format.after == AfterExport::AskToOpen &&
                         session_.platform().dialogs.askYesNo(
-                            session_.texts()(TextId::AskOpenExported), MessageIcon::Question,
-                            session_.texts()(TextId::ProgramName)));
+                            namingFile(session_.texts()(TextId::AskOpenExported), path),
+                            MessageIcon::Question, session_.texts()(TextId::ProgramName)));
     if (opens) {
         openWithShell(path);
     }

@@ -180,14 +180,14 @@ void LegendCommands::askClassValue(int index) {
 }
 
 std::optional<double> LegendCommands::ask(TextId prompt, TextId caption, double proposed) const {
-    const std::string answer =
-        session_.platform().dialogs.inputBox(prompt, session_.texts()(caption), typed(proposed));
-    if (answer.empty()) {
+    const std::optional<std::string> answer = session_.platform().dialogs.inputBox(
+        {prompt, std::string(session_.texts()(caption)), typed(proposed)});
+    if (!answer || answer->empty()) {
         return std::nullopt;
     }
-    const std::optional<double> number = typedNumber(answer);
+    const std::optional<double> number = typedNumber(*answer);
     if (!number) {
-        refuse(session_.texts().format(TextId::AnswerNotANumber, {answer}));
+        refuse(session_.texts().format(TextId::AnswerNotANumber, {*answer}));
     }
     return number;
 }

@@ -44,13 +44,13 @@ bool LotEditor::refuseFewVertices() const {
 }
 
 std::optional<int> LotEditor::askNumber() const {
-    const std::string answer = session_.platform().dialogs.inputBox(
-        TextId::AskLoteNumber, session_.texts()(TextId::LoteTitle),
-        proposedLotNumber(session_, path()));
-    if (trim(answer).empty()) {
+    const std::optional<std::string> answer = session_.platform().dialogs.inputBox(
+        {TextId::AskLoteNumber, std::string(session_.texts()(TextId::LoteTitle)),
+         proposedLotNumber(session_, path()), std::string(path())});
+    if (!answer || trim(*answer).empty()) {
         return std::nullopt;
     }
-    const double number = typedNumber(answer).value_or(-1);
+    const double number = typedNumber(*answer).value_or(-1);
     if (number < 0 || number >= kLotNumbers || number != std::trunc(number)) {
         tell({TextId::BadLoteNumber, {}});
         return std::nullopt;

@@ -128,15 +128,15 @@ void MapModes::mnuColorErrorMapMin() {
     MapStyle& style = session_.style();
     const Texts& texts = session_.texts();
     const Platform& platform = session_.platform();
-    const std::string answer =
-        platform.dialogs.inputBox(TextId::AskErrorLimit, texts(TextId::ErrorMap),
-                                  numberToType(style.errorLimit, platform.locale.decimalSymbol()));
-    if (answer.empty()) {
+    const std::optional<std::string> answer = platform.dialogs.inputBox(
+        {TextId::AskErrorLimit, std::string(texts(TextId::ErrorMap)),
+         numberToType(style.errorLimit, platform.locale.decimalSymbol())});
+    if (!answer || answer->empty()) {
         return;
     }
-    const std::optional<double> percent = typedNumber(withoutPercent(answer));
+    const std::optional<double> percent = typedNumber(withoutPercent(*answer));
     if (!percent) {
-        refuse(TextId::AnswerNotANumber, answer);
+        refuse(TextId::AnswerNotANumber, *answer);
         return;
     }
     style.errorLimit = static_cast<float>(*percent);
@@ -281,16 +281,16 @@ void MapModes::mnuEditViewVel() {
 }
 
 void MapModes::mnuEditTrocha() {
-    const std::string answer = session_.platform().dialogs.inputBox(
-        TextId::AskSwath, session_.texts()(TextId::ProgramName), {});
-    if (answer.empty()) {
+    const std::optional<std::string> answer = session_.platform().dialogs.inputBox(
+        {TextId::AskSwath, std::string(session_.texts()(TextId::ProgramName)), {}});
+    if (!answer || answer->empty()) {
         return;
     }
-    const std::optional<double> metres = typedNumber(answer);
+    const std::optional<double> metres = typedNumber(*answer);
     const float swath =
         static_cast<float>(std::min(metres.value_or(0), static_cast<double>(kWidestSwath)));
     if (swath <= 0) {
-        refuse(metres ? TextId::SwathNotPositive : TextId::AnswerNotANumber, answer);
+        refuse(metres ? TextId::SwathNotPositive : TextId::AnswerNotANumber, *answer);
         return;
     }
     for (Gph* layer : session_.getGphList()) {

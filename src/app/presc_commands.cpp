@@ -101,15 +101,21 @@ std::string PrescCommands::askTarget(TextId filter, std::string_view ending) con
     return path;
 }
 
-std::optional<double> PrescCommands::askCellSize() const {
-    const std::string answer = session_.platform().dialogs.inputBox(
-        TextId::AskSwath, session_.texts()(TextId::ProgramName), kProposedCell);
-    if (trim(answer).empty()) {
+std::optional<std::string> PrescCommands::ask(TextId prompt, std::string_view proposed,
+                                              const std::string& target) const {
+    return session_.platform().dialogs.inputBox({prompt,
+                                                 std::string(session_.texts()(TextId::ProgramName)),
+                                                 std::string(proposed), target});
+}
+
+std::optional<double> PrescCommands::askCellSize(const std::string& target) const {
+    const std::optional<std::string> answer = ask(TextId::AskSwath, kProposedCell, target);
+    if (!answer || trim(*answer).empty()) {
         return std::nullopt;
     }
-    const std::optional<double> metres = typedNumber(answer);
+    const std::optional<double> metres = typedNumber(*answer);
     if (!metres) {
-        contextOf(session_).refuse({TextId::BadCellSize, {answer}});
+        contextOf(session_).refuse({TextId::BadCellSize, {*answer}});
     }
     return metres;
 }
@@ -130,7 +136,7 @@ void PrescCommands::mnuFileSavePrescript() {
     if (path.empty()) {
         return;
     }
-    if (const std::optional<double> metres = askCellSize()) {
+    if (const std::optional<double> metres = askCellSize(path)) {
         if (auto rule =
                 generatePRE(path, roundToInt32(*metres), open->zones(), contextOf(session_))) {
             saved(*open, std::move(*rule));
@@ -147,18 +153,17 @@ void PrescCommands::mnuFileSaveVrt() {
     if (path.empty()) {
         return;
     }
-    const std::optional<double> metres = askCellSize();
+    const std::optional<double> metres = askCellSize(path);
     if (!metres) {
         return;
     }
-    Dialogs& dialogs = session_.platform().dialogs;
-    const std::string_view caption = session_.texts()(TextId::ProgramName);
-    const std::string proposed = withEnding(open->channel(0).name(), "");
-    VrtTexts about;
-    about.name = dialogs.inputBox(TextId::DialogName, caption, proposed);
-    about.description = dialogs.inputBox(TextId::SummaryDescription, caption, "");
-    if (auto rule = generateVRT(path, static_cast<float>(*metres), about, open->zones(),
-                                contextOf(session_))) {
+    const auto name = ask(TextId::DialogName, withEnding(open->channel(0).name(), ""), path);
+    const auto description = name ? ask(TextId::SummaryDescription, "", path) : std::nullopt;
+    if (!description) {
+        return;
+    }
+    if (auto rule = generateVRT(path, static_cast<float>(*metres), {*name, *description},
+                                open->zones(), contextOf(session_))) {
         saved(*open, std::move(*rule));
     }
 }

@@ -54,8 +54,11 @@ public:
 private:
     /// Where the user wants the prescription; empty when the user cancels.
     [[nodiscard]] std::string askTarget(TextId filter, std::string_view ending) const;
+    /// What the user answers about the file that is to be written; none when that is to cancel.
+    [[nodiscard]] std::optional<std::string> ask(TextId prompt, std::string_view proposed,
+                                                 const std::string& target) const;
     /// Metres; none when the user cancels or types something else, which is said.
-    [[nodiscard]] std::optional<double> askCellSize() const;
+    [[nodiscard]] std::optional<double> askCellSize(const std::string& target) const;
     /// From now on the figures are those of the grid that was written.
     void saved(GphPrescVex& prescription, GridRule rule);
 

@@ -48,11 +48,6 @@ std::size_t skipAscii(std::string_view text, std::size_t at) {
     return at;
 }
 
-struct Utf8Character {
-    char32_t value = 0;
-    std::size_t length = 0;
-};
-
 /// The character of two bytes or more at the start of `bytes` (not empty); none where the bytes are
 /// not UTF-8. Source: The Unicode Standard, table 3-7 (well-formed UTF-8 byte sequences).
 std::optional<Utf8Character> multibyteCharacter(std::string_view bytes) {
@@ -106,6 +101,11 @@ char byteOf1252(char32_t character) {
 }
 
 }  // namespace
+
+std::optional<Utf8Character> firstCharacter(std::string_view text) {
+    return isAscii(text[0]) ? Utf8Character{static_cast<unsigned char>(text[0]), 1}
+                            : multibyteCharacter(text);
+}
 
 bool isUtf8(std::string_view bytes) {
     for (std::size_t at = skipAscii(bytes, 0); at < bytes.size(); at = skipAscii(bytes, at)) {

@@ -3,11 +3,22 @@
 
 #pragma once
 
+#include <cstddef>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 
 namespace campora {
+
+/// A character and how many bytes of UTF-8 it takes.
+struct Utf8Character {
+    char32_t value = 0;
+    std::size_t length = 0;
+};
+
+/// The character at the start of a text (not empty); none where its bytes are not UTF-8.
+[[nodiscard]] std::optional<Utf8Character> firstCharacter(std::string_view text);
 
 [[nodiscard]] bool isUtf8(std::string_view bytes);
 

@@ -31,15 +31,14 @@ Answer BatchDialogs::askYesNoCancel(std::string_view text, MessageIcon icon,
     return askYesNo(text, icon, caption) ? Answer::Yes : Answer::No;
 }
 
-std::string BatchDialogs::inputBox(TextId prompt, std::string_view /*caption*/,
-                                   std::string_view proposed) {
-    switch (prompt) {
+std::optional<std::string> BatchDialogs::inputBox(const InputRequest& request) {
+    switch (request.prompt) {
     case TextId::AskSwath:
-        return arguments_.swath.value_or(std::string(proposed));
+        return arguments_.swath.value_or(request.proposed);
     case TextId::AskColumns:
         return arguments_.columns;
     default:
-        return std::string(proposed);
+        return request.proposed;
     }
 }
 

@@ -33,8 +33,7 @@ public:
                                 std::string_view caption) override;
     [[nodiscard]] Answer askYesNoCancel(std::string_view text, MessageIcon icon,
                                         std::string_view caption) override;
-    [[nodiscard]] std::string inputBox(TextId prompt, std::string_view caption,
-                                       std::string_view proposed) override;
+    [[nodiscard]] std::optional<std::string> inputBox(const InputRequest& request) override;
     /// The maps of a prescription, one a question, in the order of its channels.
     [[nodiscard]] std::vector<std::string> openFiles(const OpenRequest& request) override;
     /// Shows nothing; what is under way is cancelled when the program is interrupted.

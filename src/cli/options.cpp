@@ -55,10 +55,9 @@ bool setDecimal(Arguments& arguments, std::string_view value) {
     return choose<char>(arguments.decimalSymbol, value, {{".", '.'}, {",", ','}});
 }
 
-/// An empty answer is what a user gives who cancels.
 bool setSwath(Arguments& arguments, std::string_view value) {
     arguments.swath = value;
-    return value.empty() || parse<double>(replaceAll(value, ",", ".")).has_value();
+    return parse<double>(replaceAll(value, ",", ".")).has_value();
 }
 
 bool setColumns(Arguments& arguments, std::string_view value) {

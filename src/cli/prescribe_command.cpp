@@ -37,18 +37,16 @@ public:
         message(text, icon, caption);
         return arguments().prescription.oversize;
     }
-    [[nodiscard]] std::string inputBox(TextId prompt, std::string_view /*caption*/,
-                                       std::string_view proposed) override {
+    [[nodiscard]] std::optional<std::string> inputBox(const InputRequest& request) override {
         // The question for another size is answered as it proposes, those for doses by channel.
         const auto* const question =
-            std::find(std::begin(kFallbackQuestions), std::end(kFallbackQuestions), prompt);
+            std::find(std::begin(kFallbackQuestions), std::end(kFallbackQuestions), request.prompt);
         if (question == std::end(kFallbackQuestions)) {
-            return std::string(proposed);
+            return request.proposed;
         }
         const auto channel =
             static_cast<std::size_t>(std::distance(std::begin(kFallbackQuestions), question));
-        return arguments().prescription.channels.at(channel).fallback.value_or(
-            std::string(proposed));
+        return arguments().prescription.channels.at(channel).fallback.value_or(request.proposed);
     }
 };
 
@@ -107,10 +105,9 @@ bool write(const Arguments& arguments, std::span<const ChannelZones> channels,
             .has_value();
     }
     const std::string swath = arguments.swath.value_or(std::string(kUsualSwath));
-    // An empty answer is that of a user who cancels.
-    return !swath.empty() &&
-           generatePRE(arguments.output, roundToInt32(typedNumber(swath).value_or(0)), channels,
-                       context);
+    return generatePRE(arguments.output, roundToInt32(typedNumber(swath).value_or(0)), channels,
+                       context)
+        .has_value();
 }
 
 }  // namespace

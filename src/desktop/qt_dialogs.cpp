@@ -10,10 +10,12 @@
 #include <QFileDialog>
 #include <QGridLayout>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QTimer>
 
+#include "base/plain_text.h"
 #include "desktop/pointer_override.h"
 #include "desktop/qt_text.h"
 
@@ -134,14 +136,17 @@ bool QtDialogs::askYesNo(std::string_view text, MessageIcon icon, std::string_vi
                    QMessageBox::No) == QMessageBox::Yes;
 }
 
-std::string QtDialogs::inputBox(TextId prompt, std::string_view caption,
-                                std::string_view proposed) {
+std::optional<std::string> QtDialogs::inputBox(const InputRequest& request) {
     const PointerOverride arrow(Qt::ArrowCursor);
     QInputDialog dialog(owner());
-    dialog.setWindowTitle(toQt(caption));
-    dialog.setLabelText(toQt((*texts_)(prompt)));
-    dialog.setTextValue(toQt(proposed));
-    return dialog.exec() == QDialog::Accepted ? toUtf8(dialog.textValue()) : std::string();
+    dialog.setWindowTitle(toQt(request.caption));
+    dialog.setLabelText(toQt(namingFile((*texts_)(request.prompt), request.file)));
+    for (QLabel* const label : dialog.findChildren<QLabel*>()) {
+        label->setTextFormat(Qt::PlainText);
+    }
+    dialog.setTextValue(toQt(request.proposed));
+    return dialog.exec() == QDialog::Accepted ? std::optional(toUtf8(dialog.textValue()))
+                                              : std::nullopt;
 }
 
 Answer QtDialogs::askYesNoCancel(std::string_view text, MessageIcon icon,

@@ -20,8 +20,7 @@ public:
     /// No is the default and the answer of Esc.
     [[nodiscard]] bool askYesNo(std::string_view text, MessageIcon icon,
                                 std::string_view caption) override;
-    [[nodiscard]] std::string inputBox(TextId prompt, std::string_view caption,
-                                       std::string_view proposed) override;
+    [[nodiscard]] std::optional<std::string> inputBox(const InputRequest& request) override;
     [[nodiscard]] Answer askYesNoCancel(std::string_view text, MessageIcon icon,
                                         std::string_view caption) override;
     [[nodiscard]] std::vector<std::string> openFiles(const OpenRequest& request) override;

@@ -24,6 +24,15 @@ struct FileFilter {
     std::vector<std::string> patterns;
 };
 
+struct InputRequest {
+    /// Which question it is.
+    TextId prompt{};
+    std::string caption;
+    std::string proposed;
+    /// The file that the question is about, shown under it; empty: none in particular.
+    std::string file = {};
+};
+
 struct OpenRequest {
     std::string caption;
     /// Empty: wherever the platform places the dialog.
@@ -79,9 +88,8 @@ public:
                                         std::string_view caption) = 0;
     [[nodiscard]] virtual Answer askYesNoCancel(std::string_view text, MessageIcon icon,
                                                 std::string_view caption) = 0;
-    /// The typed answer; empty when the user cancels. `prompt` tells which question it is.
-    [[nodiscard]] virtual std::string inputBox(TextId prompt, std::string_view caption,
-                                               std::string_view proposed) = 0;
+    /// The typed answer, which may be empty; none when the user cancels.
+    [[nodiscard]] virtual std::optional<std::string> inputBox(const InputRequest& request) = 0;
     /// The chosen paths; none when the user cancels.
     [[nodiscard]] virtual std::vector<std::string> openFiles(const OpenRequest& request) = 0;
     [[nodiscard]] virtual SaveAnswer saveFile(const SaveRequest& request) = 0;

@@ -32,9 +32,8 @@ public:
                                         std::string_view /*caption*/) override {
         return Answer::No;
     }
-    [[nodiscard]] std::string inputBox(TextId /*prompt*/, std::string_view /*caption*/,
-                                       std::string_view proposed) override {
-        return std::string(proposed);
+    [[nodiscard]] std::optional<std::string> inputBox(const InputRequest& request) override {
+        return request.proposed;
     }
     [[nodiscard]] std::vector<std::string> openFiles(const OpenRequest& /*request*/) override {
         return {};

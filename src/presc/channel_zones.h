@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <span>
+#include <string>
 #include <vector>
 
 #include "model/bounding_box.h"
@@ -24,6 +25,8 @@ struct ChannelZones {
     BoundingBox bound;
     /// Mean of the doses, repeats included.
     float meanDose = 0;
+    /// The map that they come from; may be empty.
+    std::string path = {};
 };
 
 }  // namespace campora

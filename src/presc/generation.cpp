@@ -70,14 +70,18 @@ std::optional<std::vector<std::int16_t>> askFallbackDoses(std::span<const Channe
                                                           const GenerationContext& context) {
     std::vector<std::int16_t> doses;
     for (std::size_t channel = 0; channel < channels.size(); ++channel) {
-        const std::string answer = context.dialogs.inputBox(
-            kFallbackQuestions[channel], context.texts(TextId::ProgramName),
-            numberText(std::floor(static_cast<double>(channels[channel].meanDose))));
+        const std::optional<std::string> answer = context.dialogs.inputBox(
+            {kFallbackQuestions[channel], std::string(context.texts(TextId::ProgramName)),
+             numberText(std::floor(static_cast<double>(channels[channel].meanDose))),
+             channels[channel].path});
+        if (!answer) {
+            return std::nullopt;
+        }
         const std::optional<double> dose =
-            trim(answer).empty() ? std::optional(0.0) : typedNumber(answer);
+            trim(*answer).empty() ? std::optional(0.0) : typedNumber(*answer);
         const double steps = roundHalfEven(dose.value_or(0));
         if (!dose || !doseScaleOf(GridKind::Pre).holds(steps)) {
-            context.refuse({TextId::AnswerNotANumber, {answer}});
+            context.refuse({TextId::AnswerNotANumber, {*answer}});
             return std::nullopt;
         }
         doses.push_back(static_cast<std::int16_t>(steps));
@@ -195,7 +199,7 @@ std::optional<GridRule> generatePRE(std::string_view path, int cellSize,
     }
     const auto fallback = askFallbackDoses(channels, context);
     const auto metres =
-        fallback ? settleCellSize(bound, cellSize, kPreFormat, context) : std::nullopt;
+        fallback ? settleCellSize(bound, cellSize, kPreFormat, path, context) : std::nullopt;
     if (!metres) {
         return std::nullopt;
     }
@@ -228,7 +232,7 @@ std::optional<GridRule> generateVRT(std::string_view path, float resolution, con
         refuse(path, std::move(*fault), context);
         return std::nullopt;
     }
-    const auto metres = settleCellSize(bound, resolution, kVrtFormat, context);
+    const auto metres = settleCellSize(bound, resolution, kVrtFormat, path, context);
     if (!metres) {
         return std::nullopt;
     }

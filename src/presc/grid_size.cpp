@@ -9,6 +9,7 @@
 #include <string>
 
 #include "base/numbers.h"
+#include "base/plain_text.h"
 #include "base/typed_number.h"
 #include "model/geodesy.h"
 
@@ -52,7 +53,8 @@ std::optional<Failure> cellSizeFault(double metres) {
 }
 
 std::optional<double> settleCellSize(const BoundingBox& bound, double metres,
-                                     const GridFormat& format, const GenerationContext& context) {
+                                     const GridFormat& format, std::string_view path,
+                                     const GenerationContext& context) {
     for (;;) {
         const GridSize size = gridSize(bound, metres);
         if (std::max(size.columns, size.rows) <= format.most) {
@@ -61,19 +63,24 @@ std::optional<double> settleCellSize(const BoundingBox& bound, double metres,
         const double proposed = proposedSize(bound, metres, format);
         const std::string_view caption = context.texts(TextId::ProgramName);
         const Answer change = context.dialogs.askYesNoCancel(
-            context.texts.format(format.question, {shown(roundSignificant(proposed), context)}),
+            namingFile(
+                context.texts.format(format.question, {shown(roundSignificant(proposed), context)}),
+                path),
             MessageIcon::Exclamation, caption);
         if (change != Answer::Yes) {
             return change == Answer::No ? std::optional(metres) : std::nullopt;
         }
-        const std::string answer =
-            context.dialogs.inputBox(TextId::AskSwath, caption, shown(proposed, context));
-        if (answer.empty()) {
+        const std::optional<std::string> answer = context.dialogs.inputBox(
+            {TextId::AskSwath, std::string(caption), shown(proposed, context), std::string(path)});
+        if (!answer) {
+            return std::nullopt;
+        }
+        if (answer->empty()) {
             continue;
         }
-        const std::optional<double> typed = typedNumber(answer);
+        const std::optional<double> typed = typedNumber(*answer);
         if (!typed) {
-            context.refuse({TextId::AnswerNotANumber, {answer}});
+            context.refuse({TextId::AnswerNotANumber, {*answer}});
             return std::nullopt;
         }
         metres = format.wholeMetres ? roundHalfEven(*typed)

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string_view>
 
 #include "base/failure.h"
 #include "base/texts.h"
@@ -55,9 +56,9 @@ struct GenerationContext {
 
 /// The side of a cell, in metres, after the user has been asked about a grid that is too large, as
 /// often as the answers make it so; none when the user cancels, or gives an answer that is no size,
-/// which is said.
+/// which is said. `path`: the file that is to hold the grid, as the questions name it.
 [[nodiscard]] std::optional<double> settleCellSize(const BoundingBox& bound, double metres,
-                                                   const GridFormat& format,
+                                                   const GridFormat& format, std::string_view path,
                                                    const GenerationContext& context);
 
 }  // namespace campora

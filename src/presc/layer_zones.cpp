@@ -8,7 +8,7 @@ namespace campora {
 ChannelZones zonesOf(const GphPresc& presc) {
     const SetList* const doses = presc.currentDosisSet();
     return {presc.polygons(), presc.searchOrder(), presc.Gph_bound(),
-            doses != nullptr ? doses->getRealAverage() : 0};
+            doses != nullptr ? doses->getRealAverage() : 0, presc.File_diskPath()};
 }
 
 }  // namespace campora

@@ -89,7 +89,7 @@ std::optional<LoadedWork> readRptFile(std::string_view path, const FileBytes& by
         return refuseWithoutPoints(path, context);
     }
     if (file.form() == RptFile::Form::FourFields) {
-        const std::optional<float> swath = askSwath(context);
+        const std::optional<float> swath = askSwath(path, context);
         if (!swath) {
             return std::nullopt;
         }

@@ -18,17 +18,23 @@ namespace {
 
 /// The form of a table with that many column headings, asked for when there is none with as many;
 /// none when the user gives no good answer.
-std::optional<TableForm> chooseForm(std::size_t columns, const WorkReaderContext& context) {
+std::optional<TableForm> chooseForm(std::size_t columns, std::string_view path,
+                                    const WorkReaderContext& context) {
     auto wanted = static_cast<double>(columns);
     if (columns != 4 && columns != 8) {
-        const std::string answer =
-            context.dialogs.inputBox(TextId::AskColumns, context.texts(TextId::ProgramName), "8");
-        wanted = leadingNumber(answer).value_or(0);
+        const std::optional<std::string> answer = context.dialogs.inputBox(
+            {TextId::AskColumns, std::string(context.texts(TextId::ProgramName)), "8",
+             std::string(path)});
+        if (!answer || trim(*answer).empty()) {
+            return std::nullopt;
+        }
+        wanted = leadingNumber(*answer).value_or(0);
+        if (wanted != 4 && wanted != 8) {
+            refuseAnswer(TextId::AnswerNotColumns, *answer, path, context);
+            return std::nullopt;
+        }
     }
-    if (wanted == 4) {
-        return TableForm::FourColumns;
-    }
-    return wanted == 8 ? std::optional(TableForm::EightColumns) : std::nullopt;
+    return wanted == 4 ? TableForm::FourColumns : TableForm::EightColumns;
 }
 
 /// Sums over the records of a table.
@@ -77,18 +83,15 @@ void fillSummary(const std::vector<ReportRecord>& records, const TableSums& sums
 
 std::optional<LoadedWork> readRptTextTable(std::string_view path, const FileBytes& bytes,
                                            const WorkReaderContext& context) {
-    if (bytes.size() == 0) {
-        return std::nullopt;
-    }
     const RptTextTable table = splitTable(bytes.text());
     if (trim(table.records).empty()) {
         return refuseWithoutPoints(path, context);
     }
-    const std::optional<TableForm> form = chooseForm(table.columns, context);
+    const std::optional<TableForm> form = chooseForm(table.columns, path, context);
     if (!form) {
         return std::nullopt;
     }
-    const std::optional<float> swath = form == TableForm::FourColumns ? askSwath(context) : 0;
+    const std::optional<float> swath = form == TableForm::FourColumns ? askSwath(path, context) : 0;
     if (!swath) {
         return std::nullopt;
     }

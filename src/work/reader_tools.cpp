@@ -7,6 +7,7 @@
 
 #include "base/numbers.h"
 #include "base/paths.h"
+#include "base/text.h"
 
 namespace campora {
 
@@ -41,6 +42,11 @@ std::optional<LoadedWork> refuseWithoutPoints(std::string_view path,
     return std::nullopt;
 }
 
+void refuseAnswer(TextId why, const std::string& answer, std::string_view path,
+                  const WorkReaderContext& context) {
+    reportFailure(because(TextId::FileCannotBeRead, {std::string(path)}, {why, {answer}}), context);
+}
+
 LoadedWork startWork(std::string_view path) {
     LoadedWork work;
     work.group = std::make_unique<FileGphGroup>();
@@ -49,12 +55,17 @@ LoadedWork startWork(std::string_view path) {
     return work;
 }
 
-std::optional<float> askSwath(const WorkReaderContext& context) {
+std::optional<float> askSwath(std::string_view path, const WorkReaderContext& context) {
     constexpr std::int32_t kWidest = 200;
-    const std::string answer =
-        context.dialogs.inputBox(TextId::AskSwath, context.texts(TextId::ProgramName), "16");
-    const std::int32_t metres = roundToInt32(leadingNumber(answer).value_or(0));
+    const std::optional<std::string> answer =
+        context.dialogs.inputBox({TextId::AskSwath, std::string(context.texts(TextId::ProgramName)),
+                                  "16", std::string(path)});
+    if (!answer || trim(*answer).empty()) {
+        return std::nullopt;
+    }
+    const std::int32_t metres = roundToInt32(leadingNumber(*answer).value_or(0));
     if (metres < 1) {
+        refuseAnswer(TextId::SwathNotPositive, *answer, path, context);
         return std::nullopt;
     }
     return static_cast<float>(std::min(metres, kWidest));

@@ -35,11 +35,17 @@ openWork(std::string_view path, const WorkReaderContext& context, WorkReader rea
 [[nodiscard]] std::optional<LoadedWork> refuseWithoutPoints(std::string_view path,
                                                             const WorkReaderContext& context);
 
+/// Says that the file is not read, because of an answer that is of no use. `why`: a text with a
+/// place for the answer.
+void refuseAnswer(TextId why, const std::string& answer, std::string_view path,
+                  const WorkReaderContext& context);
+
 /// A group for the file, named after it.
 [[nodiscard]] LoadedWork startWork(std::string_view path);
 
 /// Asks for the swath width of a file that has none: a whole number of metres, at most 200. None
-/// when the user cancels or does not type a width.
-[[nodiscard]] std::optional<float> askSwath(const WorkReaderContext& context);
+/// when the user cancels, gives no answer, or one that is no width, which is said.
+[[nodiscard]] std::optional<float> askSwath(std::string_view path,
+                                            const WorkReaderContext& context);
 
 }  // namespace campora

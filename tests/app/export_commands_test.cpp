@@ -137,7 +137,8 @@ TEST_F(ExportCommandsTest, AKmlDocumentIsOpenedWhenTheUserWantsIt) {
     dialogs.yesNoAnswers = {false, true, true};
     exportTo("a.kml", "kml");
     EXPECT_EQ(dialogs.questions, Names{"Question|Campora|Desea abrir el archivo exportado?\r\n"
-                                       "Debe tener Google Earth instalado."});
+                                       "Debe tener Google Earth instalado.\n" +
+                                       folder.file("a.kml")});
     EXPECT_EQ(shell.opened, Names{});
     exportTo("b.kml", "kml");
     EXPECT_EQ(shell.opened, Names{folder.file("b.kml")});

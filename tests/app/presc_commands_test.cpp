@@ -183,15 +183,23 @@ TEST_F(PrescCommandsTest, ASaveThatIsCancelledOrNoNumberWritesNothing) {
     EXPECT_TRUE(dialogs.saves.empty());  // nothing to save
     create({{"10"}});
     const std::string path = folder.file("uno.pre");
-    dialogs.saveAnswers = {{"", 0}, {path, 0}, {path, 0}, {path, 0}};
-    dialogs.inputAnswers = {"", "ancho", ""};
-    commands.mnuFileSavePrescript();
-    commands.mnuFileSavePrescript();
-    commands.mnuFileSavePrescript();
+    dialogs.saveAnswers = {{"", 0}, {path, 0}, {path, 0}, {path, 0}, {path, 0}};
+    dialogs.inputAnswers = {"", "ancho", std::nullopt, "100", std::nullopt};
+    for (int i = 0; i < 5; ++i) {
+        commands.mnuFileSavePrescript();
+    }
     EXPECT_EQ(dialogs.messages,
               Names{"Exclamation|Campora|el ancho de las celdas debe ser mayor que 0 y hasta "
                     "32767 metros: ancho"});
-    commands.mnuFileSaveVrt();
+    EXPECT_EQ(dialogs.inputFiles.back(), folder.file("canal1.shp"));
+    for (const auto& answers : std::vector<std::deque<std::optional<std::string>>>{
+             {std::nullopt}, {"20", std::nullopt}, {"20", "Lote 7", std::nullopt}}) {
+        dialogs.saveAnswers = {{path, 0}};
+        dialogs.inputAnswers = answers;
+        commands.mnuFileSaveVrt();
+        EXPECT_EQ(dialogs.inputFiles.back(), path);
+    }
+    EXPECT_EQ(dialogs.messages.size(), 1U);
     EXPECT_FALSE(std::filesystem::exists(nativePath(path)));
 }
 

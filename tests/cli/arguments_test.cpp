@@ -42,13 +42,13 @@ TEST(Arguments, WithoutOptionsTheDefaultsHold) {
 
 TEST(Arguments, OptionsStandAnywhere) {
     const Arguments arguments = parsed(
-        {"info", "--decimal", ",", "a.rpt", "--json", "--language", "pt", "b.rpt", "--swath", "",
+        {"info", "--decimal", ",", "a.rpt", "--json", "--language", "pt", "b.rpt", "--swath", "5,5",
          "--columns", "4", "--program-dir", "datos", "--yes", "--date-format", "m/d/yy"});
     EXPECT_EQ(arguments.files, (Words{"a.rpt", "b.rpt"}));
     EXPECT_EQ(arguments.decimalSymbol, ',');
     EXPECT_TRUE(arguments.json);
     EXPECT_EQ(arguments.language, Language::Portuguese);
-    EXPECT_EQ(arguments.swath, "");
+    EXPECT_EQ(arguments.swath, "5,5");
     EXPECT_EQ(arguments.columns, "4");
     EXPECT_EQ(arguments.programFolder, "datos");
     EXPECT_TRUE(arguments.yes);
@@ -99,7 +99,7 @@ TEST(Arguments, AWrongCommandLineIsExplained) {
 
 TEST(Arguments, AWrongValueIsNamed) {
     const std::pair<const char*, std::vector<const char*>> rows[] = {
-        {"--swath", {"ancho", "16m", "nan"}},
+        {"--swath", {"", "ancho", "16m", "nan"}},
         {"--columns", {"6"}},
         {"--decimal", {";"}},
         {"--language", {"de"}},

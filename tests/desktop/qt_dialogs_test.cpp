@@ -67,16 +67,23 @@ TEST_F(QtDialogsTest, NothingIsAgreedToByEnterOrEsc) {
     EXPECT_TRUE(dialogs.askYesNo("¿Borrar?", MessageIcon::Exclamation, "Campora"));
 }
 
-TEST_F(QtDialogsTest, InputBoxAnswersTheTextOrNothing) {
+TEST_F(QtDialogsTest, InputBoxNamesItsFileAndTellsCancelFromNothing) {
+    const InputRequest question{TextId::AskSwath, "Campora", "16", "/tmp/<b>\x1B\u202E.rpt"};
     whenOpen<QInputDialog>([this](QInputDialog& box) {
-        EXPECT_EQ(box.labelText(), toQt(texts(TextId::AskSwath)));
+        EXPECT_EQ(box.labelText(), toQt(texts(TextId::AskSwath)) + "\n/tmp/<b>\uFFFD\uFFFD.rpt");
+        EXPECT_EQ(box.findChild<QLabel*>()->textFormat(), Qt::PlainText);
         EXPECT_EQ(box.textValue(), "16");
         box.setTextValue("18,5");
         box.accept();
     });
-    EXPECT_EQ(dialogs.inputBox(TextId::AskSwath, "Campora", "16"), "18,5");
+    EXPECT_EQ(dialogs.inputBox(question), "18,5");
+    whenOpen<QInputDialog>([](QInputDialog& box) {
+        box.setTextValue("");
+        box.accept();
+    });
+    EXPECT_EQ(dialogs.inputBox(question), "");
     whenOpen<QInputDialog>([](QInputDialog& box) { box.reject(); });
-    EXPECT_EQ(dialogs.inputBox(TextId::AskSwath, "Campora", "16"), "");
+    EXPECT_EQ(dialogs.inputBox(question), std::nullopt);
 }
 
 TEST_F(QtDialogsTest, OpenDialogOffersTheFilters) {

@@ -121,6 +121,13 @@ TEST_F(GenerationTest, EveryChannelHasItsFallbackDose) {
     EXPECT_THAT(std::vector(inside, inside + 3), ElementsAre(12, 14, 1)) << "halves to even";
 }
 
+TEST_F(GenerationTest, ACancelledFallbackDoseEndsTheSave) {
+    dialogs.inputAnswers = {"33", std::nullopt};
+    EXPECT_FALSE(pre({oneZone(1), oneZone(2)}));
+    EXPECT_THAT(files(), ElementsAre());
+    EXPECT_THAT(dialogs.messages, ElementsAre());
+}
+
 TEST_F(GenerationTest, AVrtGoesNorthInHundredthsWithoutQuestions) {
     ZoneLayer layer = oneZone(12.34F);
     layer.add(7, {field(20, 20)});
@@ -159,7 +166,7 @@ TEST(Generation, AGridTooLargeForConsolesIsAskedAbout) {
     struct Row {
         const char* name;
         std::deque<Answer> answers;
-        std::deque<std::string> inputs;  ///< after the fallback dose
+        std::deque<std::optional<std::string>> inputs;  ///< after the fallback dose
         bool written;
         int columns;
         const char* names;
@@ -175,6 +182,8 @@ TEST(Generation, AGridTooLargeForConsolesIsAskedAbout) {
         {"as proposed", {Answer::Yes, Answer::Yes}, {"4", "5"}, true, 404, "menor a 5\n", "5"},
         {"wider", {Answer::Yes}, {"10"}, true, 204, "menor a 4\n", "4"},
         {"no number", {Answer::Yes}, {"ancho"}, false, 0, "menor a 4\n", "4"},
+        {"no answer: asks again", {Answer::Yes, Answer::No}, {""}, true, 1004, "a 4\n", "4"},
+        {"cancels", {Answer::Yes}, {std::nullopt}, false, 0, "lote.pre", "4"},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);

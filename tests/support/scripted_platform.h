@@ -29,11 +29,12 @@
 namespace campora {
 
 /// Writes down what the program says and answers its questions from queues, first answer first.
-/// A question without an answer fails the test and gets No or an empty answer.
+/// A question without an answer fails the test and is cancelled or gets No.
 class ScriptedDialogs : public Dialogs {
 public:
     std::deque<bool> yesNoAnswers;
-    std::deque<std::string> inputAnswers;
+    /// None: the user cancels.
+    std::deque<std::optional<std::string>> inputAnswers;
     std::deque<Answer> answers;
     std::deque<std::vector<std::string>> openAnswers;
     /// Selections in the open dialog before it is answered.
@@ -50,6 +51,8 @@ public:
     std::vector<std::string> questions;
     /// "number of the prompt|caption|proposed".
     std::vector<std::string> inputs;
+    /// The files that they are about.
+    std::vector<std::string> inputFiles;
     std::vector<OpenRequest> opens;
     std::vector<SaveRequest> saves;
     std::vector<FolderRequest> folders;
@@ -71,10 +74,10 @@ public:
         questions.push_back(box(icon, caption, text));
         return answers.empty() ? Answer::Cancel : next(answers, questions.back());
     }
-    [[nodiscard]] std::string inputBox(TextId prompt, std::string_view caption,
-                                       std::string_view proposed) override {
-        inputs.push_back(std::to_string(static_cast<int>(prompt)) + "|" + std::string(caption) +
-                         "|" + std::string(proposed));
+    [[nodiscard]] std::optional<std::string> inputBox(const InputRequest& request) override {
+        inputs.push_back(std::to_string(static_cast<int>(request.prompt)) + "|" + request.caption +
+                         "|" + request.proposed);
+        inputFiles.push_back(request.file);
         return next(inputAnswers, inputs.back());
     }
     [[nodiscard]] std::vector<std::string> openFiles(const OpenRequest& request) override {
