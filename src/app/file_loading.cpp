@@ -18,6 +18,9 @@ namespace campora {
 
 namespace {
 
+/// A project is known by its first line; this is the ending that they mostly have.
+constexpr std::string_view kProjectEnding = ".fsp";
+
 using WorkLoader = std::optional<LoadedWork> (*)(std::string_view, const WorkReaderContext&);
 
 template <WorkLoader load>
@@ -30,7 +33,29 @@ std::optional<OpenedFile> openWork(std::string_view path, const OpenContext& con
     return OpenedFile{std::move(work->group), work->kind, work->hasFlowStops};
 }
 
+/// Maps of other programs that people have and try to open.
+constexpr std::string_view kForeignMaps[] = {".gpkg", ".geojson", ".json", ".kml",
+                                             ".kmz",  ".gpx",     ".dxf",  ".tab"};
+
+/// What there is to be done about a map that is none of the program's.
+std::string foreignMapText(std::string_view path, const Texts& texts) {
+    std::string endings;
+    for (const FileFormat& format : fileFormats()) {
+        endings.append(format.ending).append(", ");
+    }
+    return texts.format(TextId::FileNotCompatibleNamed, {std::string(path)}) + "\n" +
+           texts.format(TextId::FormatsThatOpen, {endings + std::string(kProjectEnding)}) + "\n" +
+           std::string(texts(TextId::FormatNeedsShape));
+}
+
 std::optional<OpenedFile> openGrid(std::string_view path, const OpenContext& context) {
+    const bool isForeign = std::find(std::begin(kForeignMaps), std::end(kForeignMaps),
+                                     pathEnding(path)) != std::end(kForeignMaps);
+    if (isForeign && canOpen(path)) {
+        context.dialogs.message(foreignMapText(path, context.texts), MessageIcon::Error,
+                                context.texts(TextId::WrongFileFormat));
+        return std::nullopt;
+    }
     std::unique_ptr<File> grid =
         loadGrid(path, {context.dialogs, context.locale, context.texts, context.colors});
     if (!grid) {
@@ -42,8 +67,10 @@ std::optional<OpenedFile> openGrid(std::string_view path, const OpenContext& con
 std::optional<OpenedFile> openZones(std::string_view path, const OpenContext& context) {
     if (!canOpen(path)) {
         const Result<FileBytes> file = readFile(path);
-        context.dialogs.message(file ? "" : context.texts.sentence(file.failure()),
-                                MessageIcon::Error, context.texts(TextId::WrongFileFormat));
+        const Failure why =
+            file ? Failure{TextId::FileNotCompatibleNamed, {std::string(path)}} : file.failure();
+        context.dialogs.message(context.texts.sentence(why), MessageIcon::Error,
+                                context.texts(TextId::WrongFileFormat));
         return std::nullopt;
     }
     auto zones = std::make_unique<GphPresc>(context.colors.shape);
@@ -101,9 +128,9 @@ std::vector<FileFilter> openFilters(const Texts& texts) {
         filters.front().patterns.push_back(patternOf(format));
         filters.push_back({std::string(texts(format.filterCaption)), {patternOf(format)}});
     }
-    // A project is known by its first line; this is the ending that they mostly have.
-    filters.front().patterns.emplace_back("*.fsp");
-    filters.push_back({std::string(texts(TextId::FilterProjects)), {"*.fsp"}});
+    const std::string projects = std::string("*").append(kProjectEnding);
+    filters.front().patterns.push_back(projects);
+    filters.push_back({std::string(texts(TextId::FilterProjects)), {projects}});
     filters.push_back({std::string(texts(TextId::FilterAllFiles)), {"*"}});
     return filters;
 }

@@ -127,6 +127,10 @@ std::optional<ProjectFiles> filesOfProject(std::string_view path, std::string_vi
         }
     }
     missing.tellTheRest();
+    if (files.paths.empty()) {
+        dialogs.message(texts.format(TextId::ProjectWithoutFiles, {project}),
+                        MessageIcon::Exclamation, texts(TextId::ProgramName));
+    }
     return files;
 }
 

@@ -12,6 +12,7 @@
 #include "app/session.h"
 #include "base/number_forms.h"
 #include "base/numbers.h"
+#include "base/plain_text.h"
 #include "lots/ring_crossing.h"
 #include "model/ring_geometry.h"
 
@@ -87,7 +88,7 @@ bool LotEditor::close() {
 bool LotEditor::mayClose() const {
     const Texts& texts = session_.texts();
     return !isOpen_ || !draft_.isChanged() ||
-           session_.platform().dialogs.askYesNo(texts(TextId::AskLoseLote),
+           session_.platform().dialogs.askYesNo(namingFile(texts(TextId::AskLoseLote), path()),
                                                 MessageIcon::Exclamation, texts(TextId::LoteTitle));
 }
 

@@ -9,6 +9,7 @@
 #include "app/settings.h"
 #include "base/numbers.h"
 #include "base/paths.h"
+#include "base/plain_text.h"
 #include "base/text.h"
 #include "base/typed_number.h"
 #include "presc/generation.h"
@@ -52,9 +53,9 @@ TextId PrescCommands::prescriptCaption() const {
 bool PrescCommands::mayClose() const {
     const GphPrescVex* const open = prescription();
     return open == nullptr || !open->dosesChanged() ||
-           session_.platform().dialogs.askYesNo(session_.texts()(TextId::AskLoseDoses),
-                                                MessageIcon::Exclamation,
-                                                session_.texts()(TextId::ProgramName));
+           session_.platform().dialogs.askYesNo(
+               namingFile(session_.texts()(TextId::AskLoseDoses), open->channel(0).File_diskPath()),
+               MessageIcon::Exclamation, session_.texts()(TextId::ProgramName));
 }
 
 void PrescCommands::mnuFilePrescript() {

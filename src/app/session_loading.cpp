@@ -5,10 +5,12 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <span>
 #include <utility>
 
 #include "app/session.h"
 #include "base/paths.h"
+#include "platform/left_undone.h"
 #include "platform/quiet_dialogs.h"
 
 namespace campora {
@@ -172,6 +174,7 @@ std::vector<std::string> Session::takeFiles(const std::vector<std::string>& path
     const auto progress = platform_.dialogs.progress(texts_(TextId::OpeningFiles));
     for (std::size_t i = 0; i < paths.size(); ++i) {
         if (i > 0 && !progress->report(static_cast<int>(100 * i / paths.size()))) {
+            tellLeftUndone(TextId::OpeningCancelled, std::span(paths).subspan(i), dialogs, texts_);
             break;
         }
         if (takeFile(paths[i], resetFirst && taken.empty(), dialogs)) {

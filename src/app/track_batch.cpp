@@ -3,10 +3,14 @@
 
 #include "app/track_batch.h"
 
+#include <cstddef>
+#include <span>
+
 #include "app/session.h"
 #include "base/files.h"
 #include "base/paths.h"
 #include "base/text.h"
+#include "platform/left_undone.h"
 #include "platform/quiet_dialogs.h"
 #include "work/work_reader.h"
 
@@ -69,6 +73,10 @@ bool TrackBatch::exportList(const std::vector<std::string>& paths) {
         all = all && outcome.written;
         session_.platform().clock.processEvents();
         if (stopped_) {
+            tellLeftUndone(
+                TextId::ExportCancelled,
+                std::span(paths).subspan(static_cast<std::size_t>(&path - paths.data()) + 1),
+                session_.platform().dialogs, texts);
             break;
         }
     }

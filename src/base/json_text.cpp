@@ -5,18 +5,19 @@
 
 #include "base/encoding.h"
 #include "base/numbers.h"
+#include "base/plain_text.h"
 
 namespace campora {
 
 namespace {
 
-/// A character as it stands in a string: control characters, quotes and backslashes escaped.
-void append(std::string& text, char c) {
-    switch (c) {
+/// A character as it stands in a string. `bytes`: its UTF-8.
+void append(std::string& text, char32_t character, std::string_view bytes) {
+    switch (character) {
     case '"':
     case '\\':
         text.push_back('\\');
-        text.push_back(c);
+        text += bytes;
         return;
     case '\n':
         text += "\\n";
@@ -30,11 +31,10 @@ void append(std::string& text, char c) {
     default:
         break;
     }
-    const auto byte = static_cast<unsigned char>(c);
-    if (byte < 0x20) {
-        text += "\\u" + hexText(byte, 4);
+    if (steersScreen(character)) {
+        text += "\\u" + hexText(character, 4);
     } else {
-        text.push_back(c);
+        text += bytes;
     }
 }
 
@@ -43,8 +43,10 @@ void append(std::string& text, char c) {
 std::string jsonText(std::string_view text) {
     const std::string utf8 = isUtf8(text) ? std::string(text) : fromWindows1252(text);
     std::string quoted = "\"";
-    for (const char c : utf8) {
-        append(quoted, c);
+    for (std::string_view rest = utf8; !rest.empty();) {
+        const Utf8Character next = *firstCharacter(rest);
+        append(quoted, next.value, rest.substr(0, next.length));
+        rest.remove_prefix(next.length);
     }
     return quoted + '"';
 }

@@ -23,13 +23,6 @@ struct CharacterRange {
 constexpr CharacterRange kSteering[] = {{0x00, 0x1F},     {0x7F, 0x9F},     {0x061C, 0x061C},
                                         {0x200E, 0x200F}, {0x2028, 0x202E}, {0x2066, 0x2069}};
 
-bool steers(char32_t character) {
-    return std::any_of(std::begin(kSteering), std::end(kSteering),
-                       [character](const CharacterRange& range) {
-                           return character >= range.first && character <= range.last;
-                       });
-}
-
 /// Whether the text goes on with a line end or a tab. A carriage return alone is none: a terminal
 /// would write what follows over what stands there.
 bool isLayout(std::string_view text) {
@@ -43,7 +36,7 @@ std::string plain(std::string_view text, bool keepLayout) {
     while (!text.empty()) {
         const std::optional<Utf8Character> next = firstCharacter(text);
         const std::string_view bytes = text.substr(0, next ? next->length : 1);
-        const bool stays = next && (!steers(next->value) || (keepLayout && isLayout(text)));
+        const bool stays = next && (!steersScreen(next->value) || (keepLayout && isLayout(text)));
         shown += stays ? bytes : kReplacement;
         text.remove_prefix(bytes.size());
     }
@@ -51,6 +44,13 @@ std::string plain(std::string_view text, bool keepLayout) {
 }
 
 }  // namespace
+
+bool steersScreen(char32_t character) {
+    return std::any_of(std::begin(kSteering), std::end(kSteering),
+                       [character](const CharacterRange& range) {
+                           return character >= range.first && character <= range.last;
+                       });
+}
 
 std::string plainText(std::string_view text) {
     return plain(text, true);

@@ -10,7 +10,10 @@ namespace campora {
 
 // Names of files and texts out of them may hold what steers a terminal or turns the reading
 // direction of a line around. Whatever a person reads passes through here on its way out; what
-// programs read (JSON, exports) keeps it exactly.
+// programs read (exports, and JSON with its escapes) keeps it exactly.
+
+/// Whether a character steers the screen instead of showing there.
+[[nodiscard]] bool steersScreen(char32_t character);
 
 /// `text` with U+FFFD for each control character, direction mark, and byte that is not UTF-8. Line
 /// ends and tabs stay.

@@ -5,6 +5,7 @@
 
 #include <QDate>
 
+#include "base/plain_text.h"
 #include "base/text.h"
 #include "cli/interruption.h"
 #include "presc/gph_presc.h"
@@ -12,7 +13,7 @@
 namespace campora {
 
 std::string oneLine(std::string_view text) {
-    return replaceAll(replaceAll(text, "\r\n", "\n"), "\n", " | ");
+    return replaceAll(replaceAll(plainText(text), "\r\n", "\n"), "\n", " | ");
 }
 
 void BatchDialogs::message(std::string_view text, MessageIcon /*icon*/,

@@ -19,7 +19,8 @@
 
 namespace campora {
 
-/// A line break inside a box as " | ", so that one box is one line.
+/// A line break inside a box as " | ", so that one box is one line, and nothing in it that steers
+/// the terminal.
 [[nodiscard]] std::string oneLine(std::string_view text);
 
 /// Boxes go to a stream, one a line, questions too; the answers come from the command line.

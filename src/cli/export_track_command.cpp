@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "app/track_batch.h"
+#include "base/plain_text.h"
 #include "cli/batch_platform.h"
 #include "cli/commands.h"
 #include "cli/interruption.h"
@@ -16,7 +17,7 @@ int runExportTrack(const Arguments& arguments, const Console& console) {
     tracks.onBegin = [](const std::string& /*line*/) {};
     tracks.onDone = [&console, &tracks](const std::string& line,
                                         const TrackExportOutcome& outcome) {
-        console.out << line << '\n';
+        console.out << plainLine(line) << '\n';
         if (!outcome.remark.empty()) {
             console.boxes << oneLine(outcome.remark) << '\n';
         }

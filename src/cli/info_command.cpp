@@ -5,6 +5,7 @@
 #include <string>
 
 #include "base/numbers.h"
+#include "base/plain_text.h"
 #include "base/text.h"
 #include "cli/batch_platform.h"
 #include "cli/commands.h"
@@ -22,7 +23,7 @@ public:
         : texts_(texts), symbol_(arguments.decimalSymbol), out_(out) {}
 
     void print(File& file) const {
-        out_ << file.File_name() << '\n';
+        out_ << plainLine(file.File_name()) << '\n';
         line(file.File_diskPath());
         const FileProperties& summary = file.File_resumen();
         for (int i = 0; i < summary.count(); ++i) {
@@ -68,7 +69,7 @@ private:
                                 numberText(total.points)}));
         }
     }
-    void line(std::string_view text) const { out_ << "  " << text << '\n'; }
+    void line(std::string_view text) const { out_ << "  " << plainLine(text) << '\n'; }
     [[nodiscard]] std::string position(double x, double y) const {
         return std::string("(").append(degrees(x)).append("; ").append(degrees(y)).append(")");
     }

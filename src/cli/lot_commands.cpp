@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "base/plain_text.h"
 #include "cli/batch_platform.h"
 #include "cli/commands.h"
 #include "lots/load_lot.h"
@@ -56,14 +57,14 @@ int runMerge(const Arguments& arguments, const Console& console) {
         return exit_status::kRefused;  // each has been told already
     }
     for (const std::string& remark : mergeRemarks(merged, texts)) {
-        console.boxes << remark << '\n';
+        console.boxes << oneLine(remark) << '\n';
     }
     const auto saved = merged.lots.empty() ? std::nullopt : save(merged.lots, arguments, console);
     if (!saved) {
         return exit_status::kRefused;
     }
     for (const std::string& path : *saved) {
-        console.out << path << '\n';
+        console.out << plainLine(path) << '\n';
     }
     return status;
 }

@@ -7,6 +7,7 @@
 
 #include "base/numbers.h"
 #include "base/paths.h"
+#include "base/plain_text.h"
 #include "cli/batch_platform.h"
 #include "cli/commands.h"
 #include "cli/json_writer.h"
@@ -61,9 +62,10 @@ void writeJson(const Orders& orders, std::ostream& out) {
 
 void writeText(const Orders& orders, const Texts& texts, std::ostream& out) {
     for (const WorkOrder& order : orders) {
-        out << orderCaption(order, texts) << "  " << order.date << "  " << order.startTime << '\n';
+        out << plainLine(orderCaption(order, texts) + "  " + order.date + "  " + order.startTime)
+            << '\n';
         for (const std::string& file : order.files) {
-            out << "  " << file << '\n';
+            out << "  " << plainLine(file) << '\n';
         }
     }
 }

@@ -3,6 +3,7 @@
 
 #include "cli/program.h"
 
+#include "base/plain_text.h"
 #include "cli/interruption.h"
 
 namespace campora {
@@ -48,7 +49,7 @@ int runProgram(std::span<const std::string> arguments, const std::string& dataFo
     }
     Result<Arguments> parsed = parseArguments(arguments);
     if (!parsed) {
-        console.boxes << texts.sentence(parsed.failure()) << "\n\n" << usage(texts);
+        console.boxes << plainLine(texts.sentence(parsed.failure())) << "\n\n" << usage(texts);
         return exit_status::kWrongCommandLine;
     }
     if (parsed->programFolder.empty()) {

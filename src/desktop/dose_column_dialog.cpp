@@ -141,7 +141,7 @@ void DoseColumnDialog::chooseFile(int row) {
         const QSignalBlocker quiet(widgets.cbDosis);
         widgets.cbDosis->clear();
         for (const std::string& name : columns_.columns(row)) {
-            widgets.cbDosis->addItem(toQt(name));
+            widgets.cbDosis->addItem(shownName(name));
         }
         const int column = columns_.column(row);
         widgets.cbDosis->setCurrentIndex(column == GphPresc::kNoColumn ? -1 : column - 1);
@@ -190,8 +190,8 @@ void DoseColumnDialog::showRow(int row) {
                          .elidedText(file, Qt::ElideMiddle, kFileWidth - 2 * kGap)
                          .replace("&", "&&"));
     cmdOpen->setAccessibleName(lblChannel->text() + ' ' + file);
-    cmdOpen->setToolTip(plainToolTip(toQt(path)));
-    lblChannel->setToolTip(plainToolTip(toQt(path)));
+    cmdOpen->setToolTip(plainToolTip(shownName(path)));
+    lblChannel->setToolTip(plainToolTip(shownName(path)));
     cmdOpen->setEnabled(!columns_.isBusy());
     cbDosis->setEnabled(!columns_.isBusy() && cbDosis->count() > 0);
     lblNumDosis->setText(toQt(columns_.doseLabel(row)));

@@ -41,7 +41,7 @@ void FileList::setRows(std::span<const FileListRow> rows, std::optional<int> sel
     const QSignalBlocker silent(this);
     clear();
     for (const FileListRow& row : rows) {
-        auto* item = new QListWidgetItem(fileIcon(row.icon), toQt(row.name), this);
+        auto* item = new QListWidgetItem(fileIcon(row.icon), shownName(row.name), this);
         item->setToolTip(plainToolTip(item->text()));
     }
     if (selected) {

@@ -29,7 +29,7 @@ void InfoBox::showInfo(const std::optional<MapOverlay::Info>& info, int unitsPer
     if (!info) {
         return;
     }
-    setText(toQt(info->text).remove('\r').trimmed());
+    setText(shownText(info->text).remove('\r').trimmed());
     const auto& [corner, size] = info->box;
     const auto pixels = [unitsPerPixel](int units) { return units / unitsPerPixel; };
     setGeometry(pixels(corner.x), pixels(corner.y), pixels(size.width), pixels(size.height));

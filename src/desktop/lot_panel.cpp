@@ -243,7 +243,7 @@ void LotPanel::retranslate() {
 void LotPanel::refresh() {
     const Texts& texts = session_.texts();
     const std::string_view path = editor_.path();
-    const QString name = toQt(path.empty() ? texts(TextId::LoteTitle) : fileNamePart(path));
+    const QString name = shownName(path.empty() ? texts(TextId::LoteTitle) : fileNamePart(path));
     title_->setText(name);
     setAccessibleName(name);
     model_->refresh();
@@ -261,7 +261,7 @@ void LotPanel::refresh() {
     warning_->setText(toQt(texts(crosses ? TextId::LoteCrosses : TextId::LoteHint)));
     showDescription();
     saveBack_->setEnabled(!path.empty());
-    const QString tip = toQt(texts.format(TextId::TipLoteSaveBack, {std::string(path)}));
+    const QString tip = shownName(texts.format(TextId::TipLoteSaveBack, {std::string(path)}));
     saveBack_->setToolTip(path.empty() ? QString() : plainToolTip(tip));
 }
 

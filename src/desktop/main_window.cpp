@@ -241,7 +241,7 @@ void MainWindow::showScale() {
 
 void MainWindow::setTitle(std::string_view title) {
     // "[*]" is the toolkit's sign for a changed document; twice it stands for itself.
-    setWindowTitle(toQt(title).replace("[*]", "[*][*]"));
+    setWindowTitle(shownName(title).replace("[*]", "[*][*]"));
 }
 
 void MainWindow::setFileList(std::span<const FileListRow> rows, std::optional<int> selected) {
@@ -314,11 +314,11 @@ void MainWindow::setPosition(std::string_view text) {
 }
 
 void MainWindow::setToolText(std::string_view text) {
-    toolText_->setText(toQt(text));
+    toolText_->setText(shownName(text));
 }
 
 void MainWindow::setWorkStatus(std::string_view text) {
-    workStatus_->setText(toQt(text));
+    workStatus_->setText(shownName(text));
 }
 
 void MainWindow::showEvent(QShowEvent* event) {

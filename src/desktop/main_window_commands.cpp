@@ -33,7 +33,7 @@ namespace {
 
 /// A file or folder name in a menu, where "&" marks a key.
 QString menuText(std::string_view text) {
-    return toQt(text).replace("&", "&&");
+    return shownName(text).replace("&", "&&");
 }
 
 }  // namespace
@@ -223,7 +223,7 @@ void MainWindow::fillRecentMenu() {
     for (const std::string& path : session_->fileCommands().recentFiles()) {
         QAction* entry =
             menu.addAction(QString("&%1 ").arg(++number) + menuText(fileNamePart(path)));
-        entry->setToolTip(plainToolTip(toQt(path)));
+        entry->setToolTip(plainToolTip(shownName(path)));
         // Queued: opening fills this menu anew.
         connect(
             entry, &QAction::triggered, this,
@@ -251,7 +251,7 @@ void MainWindow::fillChannelMenu() {
     add(toQt(session_->texts()(TextId::ChannelTotal)), -1,
         [&modes] { modes.mnuColorScaleSelTotal(); });
     for (int i = 0; i < modes.channelCount(); ++i) {
-        add(toQt(modes.channelCaption(i)), i, [&modes, i] { modes.mnuColorScaleSelCH(i); });
+        add(shownName(modes.channelCaption(i)), i, [&modes, i] { modes.mnuColorScaleSelCH(i); });
     }
 }
 

@@ -12,7 +12,6 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
-#include <QProgressDialog>
 #include <QTimer>
 
 #include "base/plain_text.h"
@@ -26,7 +25,16 @@ namespace {
 constexpr QSize kOpenDialogSize{760, 480};
 // In milliseconds.
 constexpr int kPreviewDelay = 150;
-constexpr int kProgressDelay = 500;
+
+/// While it lives a box stands: no progress is in front of it, and the pointer is an arrow.
+class InFront {
+public:
+    explicit InFront(ProgressWindows& progress) : hidden_(progress), arrow_(Qt::ArrowCursor) {}
+
+private:
+    ProgressWindows::Hidden hidden_;
+    PointerOverride arrow_;
+};
 
 QMessageBox::Icon iconOf(MessageIcon icon) {
     switch (icon) {
@@ -47,9 +55,8 @@ QMessageBox::Icon iconOf(MessageIcon icon) {
 /// Shows a box and answers the button that closed it.
 int showBox(QWidget* parent, std::string_view text, MessageIcon icon, std::string_view caption,
             QMessageBox::StandardButtons buttons, QMessageBox::StandardButton safe) {
-    const PointerOverride arrow(Qt::ArrowCursor);
-    QMessageBox box(iconOf(icon), toQt(caption), toQt(text).remove('\r').trimmed(), buttons,
-                    parent);
+    QMessageBox box(iconOf(icon), shownText(caption), shownText(text).remove('\r').trimmed(),
+                    buttons, parent);
     // Paths and file contents are shown as they stand, not as markup.
     box.setTextFormat(Qt::PlainText);
     box.setDefaultButton(safe);
@@ -70,26 +77,6 @@ void prepare(QFileDialog& dialog) {
     dialog.setOption(QFileDialog::DontUseNativeDialog);
 #endif
 }
-
-class QtProgress final : public Progress {
-public:
-    QtProgress(QWidget* parent, const QString& caption, const QString& cancel)
-        : dialog_(caption, cancel, 0, 100, parent) {
-        dialog_.setWindowModality(Qt::WindowModal);
-        dialog_.setMinimumDuration(kProgressDelay);
-        dialog_.setMinimumWidth(360);
-        dialog_.setAutoReset(false);
-        dialog_.setAutoClose(false);
-    }
-
-    [[nodiscard]] bool report(int percent) override {
-        dialog_.setValue(percent);
-        return !dialog_.wasCanceled();
-    }
-
-private:
-    QProgressDialog dialog_;
-};
 
 QString filterText(const FileFilter& filter) {
     QStringList patterns;
@@ -128,18 +115,20 @@ QWidget* QtDialogs::owner() const {
 }
 
 void QtDialogs::message(std::string_view text, MessageIcon icon, std::string_view caption) {
+    const InFront front(progress_);
     showBox(owner(), text, icon, caption, QMessageBox::Ok, QMessageBox::Ok);
 }
 
 bool QtDialogs::askYesNo(std::string_view text, MessageIcon icon, std::string_view caption) {
+    const InFront front(progress_);
     return showBox(owner(), text, icon, caption, QMessageBox::Yes | QMessageBox::No,
                    QMessageBox::No) == QMessageBox::Yes;
 }
 
 std::optional<std::string> QtDialogs::inputBox(const InputRequest& request) {
-    const PointerOverride arrow(Qt::ArrowCursor);
+    const InFront front(progress_);
     QInputDialog dialog(owner());
-    dialog.setWindowTitle(toQt(request.caption));
+    dialog.setWindowTitle(shownText(request.caption));
     dialog.setLabelText(toQt(namingFile((*texts_)(request.prompt), request.file)));
     for (QLabel* const label : dialog.findChildren<QLabel*>()) {
         label->setTextFormat(Qt::PlainText);
@@ -151,6 +140,7 @@ std::optional<std::string> QtDialogs::inputBox(const InputRequest& request) {
 
 Answer QtDialogs::askYesNoCancel(std::string_view text, MessageIcon icon,
                                  std::string_view caption) {
+    const InFront front(progress_);
     switch (showBox(owner(), text, icon, caption,
                     QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel,
                     QMessageBox::Cancel)) {
@@ -164,7 +154,7 @@ Answer QtDialogs::askYesNoCancel(std::string_view text, MessageIcon icon,
 }
 
 std::vector<std::string> QtDialogs::openFiles(const OpenRequest& request) {
-    const PointerOverride arrow(Qt::ArrowCursor);
+    const InFront front(progress_);
     QFileDialog dialog(owner(), toQt(request.caption), toQt(request.folder));
     dialog.setFileMode(request.several ? QFileDialog::ExistingFiles : QFileDialog::ExistingFile);
     dialog.setNameFilters(filterTexts(request.filters));
@@ -183,7 +173,7 @@ std::vector<std::string> QtDialogs::openFiles(const OpenRequest& request) {
 }
 
 SaveAnswer QtDialogs::saveFile(const SaveRequest& request) {
-    const PointerOverride arrow(Qt::ArrowCursor);
+    const InFront front(progress_);
     QFileDialog dialog(owner(), toQt(request.caption), toQt(request.folder));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
@@ -210,7 +200,7 @@ SaveAnswer QtDialogs::saveFile(const SaveRequest& request) {
 }
 
 std::string QtDialogs::chooseFolder(const FolderRequest& request) {
-    const PointerOverride arrow(Qt::ArrowCursor);
+    const InFront front(progress_);
     QFileDialog dialog(owner(), toQt(request.caption), toQt(request.folder));
     dialog.setFileMode(QFileDialog::Directory);
     if (request.files.patterns.empty()) {
@@ -227,7 +217,7 @@ std::string QtDialogs::chooseFolder(const FolderRequest& request) {
 }
 
 std::optional<Color> QtDialogs::chooseColor(Color current) {
-    const PointerOverride arrow(Qt::ArrowCursor);
+    const InFront front(progress_);
     QColorDialog dialog(QColor(current.red(), current.green(), current.blue()), owner());
     dialog.setWindowTitle(toQt((*texts_)(TextId::ChooseColor)));
     // The program's words stand on its own dialog; the desktop's would be in another language.
@@ -240,8 +230,8 @@ std::optional<Color> QtDialogs::chooseColor(Color current) {
 }
 
 std::unique_ptr<Progress> QtDialogs::progress(std::string_view caption) {
-    return std::make_unique<QtProgress>(owner(), toQt(caption),
-                                        toQt((*texts_)(TextId::ButtonCancel)));
+    return progress_.start([this] { return owner(); }, shownText(caption),
+                           toQt((*texts_)(TextId::ButtonCancel)));
 }
 
 }  // namespace campora

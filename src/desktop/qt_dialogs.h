@@ -4,13 +4,15 @@
 #pragma once
 
 #include "base/texts.h"
+#include "desktop/progress_windows.h"
 #include "platform/dialogs.h"
 
 class QWidget;
 
 namespace campora {
 
-/// Boxes over the main window. While the program is busy the pointer is an arrow over them.
+/// Boxes over the main window. Each stands in front of all work under way, which waits for it; the
+/// pointer is an arrow over it.
 class QtDialogs final : public Dialogs {
 public:
     /// The window over which the boxes stand and the words of their prompts; both outlive this.
@@ -33,6 +35,7 @@ private:
     /// The window that a new box stands over: a dialog that is open already, else the main window.
     [[nodiscard]] QWidget* owner() const;
 
+    ProgressWindows progress_;
     QWidget* window_ = nullptr;
     const Texts* texts_ = nullptr;
 };

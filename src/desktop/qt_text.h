@@ -8,11 +8,23 @@
 
 #include <QString>
 
+#include "base/plain_text.h"
+
 namespace campora {
 
 /// Texts are UTF-8 inside the program and UTF-16 in widgets.
 [[nodiscard]] inline QString toQt(std::string_view utf8) {
     return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+/// A text that is only shown, without what would steer the screen; `toQt` is for those that come
+/// back, such as paths in fields.
+[[nodiscard]] inline QString shownText(std::string_view utf8) {
+    return toQt(plainText(utf8));
+}
+/// The same for a name, which takes one line.
+[[nodiscard]] inline QString shownName(std::string_view utf8) {
+    return toQt(plainLine(utf8));
 }
 
 [[nodiscard]] inline std::string toUtf8(const QString& text) {

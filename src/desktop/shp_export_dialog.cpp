@@ -63,7 +63,7 @@ ShpExportDialog::ShpExportDialog(const Session& session, QWidget* parent)
         remark_->setText(item == nullptr ? QString() : item->data(kRemark).toString());
     });
     batch_.onBegin = [this](const std::string& line) {
-        msgs_->addItem(toQt(line));
+        msgs_->addItem(shownName(line));
         msgs_->scrollToBottom();
     };
     batch_.onDone = [this](const std::string& line, const TrackExportOutcome& outcome) {
@@ -168,7 +168,7 @@ void ShpExportDialog::exportList(const std::vector<std::string>& paths) {
     paths_ = paths;
     QStringList names;
     for (const std::string& path : paths) {
-        names += toQt(fileNamePart(path));
+        names += shownName(fileNamePart(path));
     }
     txtOrig_->setText(names.join("; "));
     txtDest_->setText(toQt(folderOf(paths.front())));
@@ -254,9 +254,9 @@ void ShpExportDialog::runList() {
 
 void ShpExportDialog::showDone(const std::string& line, const TrackExportOutcome& outcome) {
     QListWidgetItem* const item = msgs_->item(msgs_->count() - 1);
-    item->setText(toQt(line));
-    item->setData(kRemark, toQt(outcome.remark));
-    item->setToolTip(plainToolTip(toQt(outcome.remark)));
+    item->setText(shownName(line));
+    item->setData(kRemark, shownText(outcome.remark));
+    item->setToolTip(plainToolTip(shownText(outcome.remark)));
     // The first failure is told below the list, the others when they are selected.
     if (!outcome.written && msgs_->currentItem() == nullptr) {
         msgs_->setCurrentItem(item);

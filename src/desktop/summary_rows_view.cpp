@@ -155,7 +155,8 @@ void SummaryRowsView::showRows() {
         const QSignalBlocker quiet(list_);
         list_->clear();
         for (const SummaryEntry& row : rows_.rows()) {
-            new QTreeWidgetItem(list_, {toQt(row.name), toQt(row.value), toQt(row.unit)});
+            new QTreeWidgetItem(list_,
+                                {shownName(row.name), shownName(row.value), shownName(row.unit)});
         }
         if (selected) {
             list_->setCurrentItem(list_->topLevelItem(*selected));

@@ -26,7 +26,7 @@ void SummaryTable::setRows(std::span<const SummaryRow> rows) {
     clear();
     const QSize roomy(0, fontMetrics().height() + 6);
     for (const SummaryRow& row : rows) {
-        auto* item = new QTreeWidgetItem(this, {toQt(row.property), toQt(row.value)});
+        auto* item = new QTreeWidgetItem(this, {shownName(row.property), shownName(row.value)});
         item->setSizeHint(1, roomy);
         item->setToolTip(0, plainToolTip(item->text(0)));
         const QString note = toQt(row.note);

@@ -235,8 +235,9 @@ void WorkOrdersDialog::showFolder(const QString& folder) {
 void WorkOrdersDialog::showOrders() {
     const QIcon icon = iconOf(kOrderIcon);
     for (const OrderRow& row : browser_.rows()) {
-        auto* const item = new QTreeWidgetItem(
-            orders_, {toQt(row.caption), toQt(row.date), toQt(row.startTime), toQt(row.fileCount)});
+        auto* const item =
+            new QTreeWidgetItem(orders_, {shownName(row.caption), shownName(row.date),
+                                          shownName(row.startTime), shownName(row.fileCount)});
         item->setIcon(0, icon);
     }
     enableButtons();
@@ -249,7 +250,7 @@ void WorkOrdersDialog::selectOrder() {
     files_->clear();
     if (const std::optional<int> row = browser_.selected()) {
         for (const std::string& file : browser_.orders()[static_cast<std::size_t>(*row)].files) {
-            files_->addItem(toQt(fileNamePart(file)));
+            files_->addItem(shownName(fileNamePart(file)));
         }
     }
     enableButtons();

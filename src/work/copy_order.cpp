@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: MIT
 
 #include <filesystem>
+#include <span>
 #include <system_error>
 
 #include "base/files.h"
 #include "base/numbers.h"
 #include "base/paths.h"
+#include "platform/left_undone.h"
 #include "work/companion_names.h"
 #include "work/work_orders.h"
 
@@ -98,6 +100,8 @@ bool copyOrder(const WorkOrder& order, std::string_view destination, Dialogs& di
         const std::unique_ptr<Progress> progress = dialogs.progress(texts(TextId::CopyingOrder));
         for (std::size_t i = 0; i < files.size(); ++i) {
             if (!progress->report(static_cast<int>(100 * i / files.size()))) {
+                tellLeftUndone(TextId::CopyingCancelled, std::span(files).subspan(i), dialogs,
+                               texts);
                 break;
             }
             copied += copier.copy(files[i]) ? 1 : 0;

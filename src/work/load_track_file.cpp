@@ -58,11 +58,12 @@ std::string displayName(std::string_view path, const TrackHeader& header,
 
 }  // namespace
 
-float readTrackHeader(std::string_view firstLine, Dialogs& dialogs, const Texts& texts) {
+float readTrackHeader(std::string_view firstLine, std::string_view path, Dialogs& dialogs,
+                      const Texts& texts) {
     const TrackVersion version = trackVersion(firstLine);
     if (version.number == 0) {
-        dialogs.message(texts(TextId::FileNotCompatible), MessageIcon::Error,
-                        texts(TextId::WrongFileFormat));
+        dialogs.message(texts.format(TextId::FileNotCompatibleNamed, {std::string(path)}),
+                        MessageIcon::Error, texts(TextId::WrongFileFormat));
     } else if (version.number > kNewestTrackVersion) {
         std::string warning(texts(TextId::NewerVersion));
         warning.append(decodeText(version.text.substr(0, kMostVersionLetters)));
@@ -78,7 +79,7 @@ std::optional<LoadedWork> readTrackFile(std::string_view path, const FileBytes& 
     std::string_view firstLine;
     TextLines lines(bytes.text());
     static_cast<void>(lines.next(firstLine));  // of an empty file it stays empty
-    if (readTrackHeader(firstLine, context.dialogs, context.texts) == 0) {
+    if (readTrackHeader(firstLine, path, context.dialogs, context.texts) == 0) {
         return std::nullopt;
     }
     const TrackFile file = decodeTrackFile(bytes.text());

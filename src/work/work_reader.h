@@ -61,7 +61,7 @@ readRptTextTable(std::string_view path, const FileBytes& bytes, const WorkReader
 
 /// The version that the first line of a track file names, 0 for a file that the program does not
 /// read. Says so in that case, and warns of versions newer than the program.
-[[nodiscard]] float readTrackHeader(std::string_view firstLine, Dialogs& dialogs,
-                                    const Texts& texts);
+[[nodiscard]] float readTrackHeader(std::string_view firstLine, std::string_view path,
+                                    Dialogs& dialogs, const Texts& texts);
 
 }  // namespace campora

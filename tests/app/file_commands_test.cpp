@@ -115,8 +115,16 @@ TEST_F(FileCommandsTest, ReloadKeepsWhatCannotBeReadAgain) {
 
 TEST_F(FileCommandsTest, CancellingSeveralKeepsThoseThatWereOpened) {
     dialogs.cancelAfter = 2;
-    commands.openPaths({report("a.rpt"), report("b.rpt", 1, 2), report("c.rpt", 1, 3)}, true);
+    std::vector<std::string> paths{report("a.rpt"), report("b.rpt", 1, 2)};
+    for (int i = 1; i <= 22; ++i) {
+        paths.push_back(folder.file(std::to_string(i)));
+    }
+    commands.openPaths(paths, true);
     EXPECT_EQ(listed(), (Names{"a.rpt", "b.rpt"}));
+    ASSERT_EQ(dialogs.messages.size(), 1U);
+    EXPECT_TRUE(dialogs.messages[0].starts_with(
+        "Information|Campora|Se canceló la apertura. No se abrieron:\n" + paths[2] + "\n"));
+    EXPECT_TRUE(dialogs.messages[0].ends_with("\n" + paths[21] + "\n… y 2 más"));
 }
 
 TEST_F(FileCommandsTest, SavesTheTrackAndItsSummaryUnderAnotherName) {

@@ -91,6 +91,16 @@ TEST(LoadProject, MissingFilesAreNamedAndOthersOpened) {
                     "Exclamation|Campora|No se encuentra el archivo: " + folder + "\\/falta.rpt"));
 }
 
+TEST(LoadProject, OneWithoutAUsableEntryIsRefused) {
+    SessionDesk desk;
+    const std::string project =
+        desk.folder.write("campo.fsp", std::string(kHeader) + "/carta.doc\r\n# nada\r\n");
+    desk.folder.write("carta.doc", "Estimado");
+    EXPECT_TRUE(loadProject(desk.session, project));
+    EXPECT_THAT(desk.dialogs.messages, ElementsAre("Exclamation|Campora|El proyecto " + project +
+                                                   " no tiene archivos que se puedan abrir"));
+}
+
 TEST(LoadProject, ProjectsInProjectsAreReadOnce) {
     SessionDesk desk;
     desk.report("a.rpt", 1000, 0x6001);

@@ -63,6 +63,8 @@ TEST_F(SessionTest, AFileThatIsNotTakenChangesNothing) {
         {"open already by another way", folder.file("./Lote.rpt"), nullptr},
         {"no reader", folder.write("carta.doc", "Estimado"),
          "|Formato de Archivo incorrecto|El archivo no es compatible: "},
+        {"a map of others", folder.write("lote.KML", "<kml/>"),
+         "lote.KML\nSe pueden abrir: .rpt, .txt, .nbr, .shp, .vrt, .lot, .pre, .fsp\n"},
         {"not there", folder.file("otro.rpt"), "otro.rpt: no existe"},
         {"empty", folder.write("vacio.rpt", ""), "Archivo sin puntos: "},
     };

@@ -42,7 +42,7 @@ TEST_F(TrackBatchTest, AFileThatFailsKeepsNoOtherFromBeingExported) {
     EXPECT_EQ(done,
               (Names{"Exportando Log1.nbr:...........Ok", "Exportando roto.nbr:...........Error",
                      "Exportando log 2.NBR:...........Ok"}));
-    EXPECT_EQ(remarks, (Names{"", "El archivo no es compatible", ""}));
+    EXPECT_EQ(remarks, (Names{"", "El archivo no es compatible: " + paths[1], ""}));
     for (const char* name : {"Log1.shp", "Log1.shx", "Log1.dbf", "log 2.shp"}) {
         EXPECT_TRUE(isThere(name)) << name;
     }
@@ -62,6 +62,9 @@ TEST_F(TrackBatchTest, StoppingEndsTheRunAfterThePresentFile) {
     };
     EXPECT_FALSE(batch.exportList(paths));
     EXPECT_EQ(done.size(), 2U);
+    EXPECT_EQ(
+        dialogs.messages,
+        Names{"Information|Campora|Se canceló la exportación. No se exportaron:\n" + paths[2]});
     EXPECT_FALSE(batch.isRunning());
     EXPECT_TRUE(isThere("b.shp"));
     EXPECT_FALSE(isThere("c.shp"));

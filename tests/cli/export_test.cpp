@@ -140,7 +140,7 @@ TEST_F(ExportTest, TrackFilesAreExportedOneAfterAnother) {
     EXPECT_EQ(outcome.out, "Exportando a.nbr:...........Ok\n"
                            "Exportando b.nbr:...........Error\n"
                            "Exportando c.nbr:...........Ok\n");
-    EXPECT_EQ(outcome.boxes, "El archivo no es compatible\n");
+    EXPECT_EQ(outcome.boxes, "El archivo no es compatible: " + folder.file("b.nbr") + "\n");
     EXPECT_TRUE(isThere("a.shp") && isThere("c.shp"));
     EXPECT_FALSE(isThere("b.shp"));
     const std::size_t sprayed = contentOf(folder.file("a.shx")).size();

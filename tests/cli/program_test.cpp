@@ -98,6 +98,21 @@ TEST(Program, AFileThatIsRefusedDoesNotStopTheOthers) {
     }
 }
 
+TEST(Program, NamesDoNotSteerTheTerminal) {
+    const TempFolder folder;
+    const std::string name = "a\x1B[2J\u202Eb\u0085.rpt";
+    const std::string good = folder.write(name, reportBytes());
+    const Outcome outcome = run({"info", good, folder.file("no\n" + name)});
+    EXPECT_EQ(outcome.out.substr(0, outcome.out.find('\n')), "a\uFFFD[2J\uFFFDb\uFFFD.rpt");
+    for (const std::string& text : {outcome.out, outcome.boxes}) {
+        EXPECT_EQ(text.find("\x1B"), std::string::npos);
+        EXPECT_EQ(text.find("\u202E"), std::string::npos);
+    }
+    EXPECT_EQ(std::count(outcome.boxes.begin(), outcome.boxes.end(), '\n'), 1);
+    EXPECT_NE(run({"info", "--json", good}).out.find("a\\u001B[2J\\u202Eb\\u0085.rpt"),
+              std::string::npos);
+}
+
 TEST(Program, OptionsAnswerTheQuestions) {
     const TempFolder folder;
     const std::string more = folder.write("log0001.nbr", trackBytes(4));

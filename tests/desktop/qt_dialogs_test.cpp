@@ -9,6 +9,7 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QTimer>
 
@@ -84,6 +85,70 @@ TEST_F(QtDialogsTest, InputBoxNamesItsFileAndTellsCancelFromNothing) {
     EXPECT_EQ(dialogs.inputBox(question), "");
     whenOpen<QInputDialog>([](QInputDialog& box) { box.reject(); });
     EXPECT_EQ(dialogs.inputBox(question), std::nullopt);
+}
+
+/// The captions of the progress windows that show.
+QStringList shownProgress() {
+    QStringList captions;
+    for (const QWidget* widget : QApplication::topLevelWidgets()) {
+        const auto inIt = Qt::FindDirectChildrenOnly;
+        if (widget->isVisible() && widget->findChild<QProgressBar*>({}, inIt) != nullptr) {
+            const auto* const label = widget->findChild<QLabel*>({}, inIt);
+            EXPECT_EQ(label->textFormat(), Qt::PlainText);
+            captions += label->text();
+        }
+    }
+    return captions;
+}
+
+TEST_F(QtDialogsTest, ProgressComesLateAndNeverOverABox) {
+    const auto work = dialogs.progress("Abriendo <b>\x1B");
+    const auto reportsLater = [&work] {
+        QTest::qWait(550);
+        return work->report(10);
+    };
+    const QStringList own{"Abriendo <b>\uFFFD"};
+    EXPECT_TRUE(work->report(0));
+    EXPECT_EQ(shownProgress(), QStringList());
+    EXPECT_TRUE(reportsLater());
+    EXPECT_EQ(shownProgress(), own);
+    whenOpen<QMessageBox>([&](QMessageBox& box) {
+        EXPECT_EQ(shownProgress(), QStringList());
+        EXPECT_TRUE(reportsLater());
+        EXPECT_EQ(shownProgress(), QStringList());
+        const auto preview = dialogs.progress("vista");
+        QTest::qWait(550);
+        EXPECT_TRUE(preview->report(1));
+        EXPECT_EQ(shownProgress(), QStringList{"vista"}) << "work of the box itself";
+        box.accept();
+    });
+    dialogs.message("mal", MessageIcon::Error, "Campora");
+    EXPECT_TRUE(work->report(11));
+    EXPECT_EQ(shownProgress(), QStringList()) << "no flash before the next question";
+    EXPECT_TRUE(reportsLater());
+    EXPECT_EQ(shownProgress(), own);
+}
+
+TEST_F(QtDialogsTest, OnlyTheInnermostProgressShowsAndKeysDoNotCancelIt) {
+    const auto work = dialogs.progress("fuera");
+    QTest::qWait(550);
+    EXPECT_TRUE(work->report(1));
+    {
+        const auto inner = dialogs.progress("dentro");
+        QTest::qWait(550);
+        EXPECT_TRUE(work->report(2));
+        EXPECT_TRUE(inner->report(2));
+        EXPECT_EQ(shownProgress(), QStringList{"dentro"});
+    }
+    EXPECT_TRUE(work->report(3));
+    EXPECT_EQ(shownProgress(), QStringList{"fuera"});
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+        QTest::keyClick(QApplication::activeModalWidget()->focusWidget(), key);
+        EXPECT_TRUE(work->report(4));
+    }
+    QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+    EXPECT_FALSE(work->report(5));
+    EXPECT_EQ(shownProgress(), QStringList());
 }
 
 TEST_F(QtDialogsTest, OpenDialogOffersTheFilters) {

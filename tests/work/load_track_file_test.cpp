@@ -146,7 +146,8 @@ TEST(LoadTrackFile, ForeignFilesAreRefused) {
         WorkReading reading;
         EXPECT_FALSE(reading.track(text));
         EXPECT_THAT(reading.dialogs.messages,
-                    ElementsAre("Error|Formato de Archivo incorrecto|El archivo no es compatible"));
+                    ElementsAre("Error|Formato de Archivo incorrecto|El archivo no es compatible: "
+                                "C:\\Datos\\Track12.nbr"));
     }
 }
 
