@@ -13,6 +13,7 @@
 #include "app/save_target.h"
 #include "app/session.h"
 #include "app/settings.h"
+#include "base/file_draft.h"
 #include "base/files.h"
 #include "base/paths.h"
 #include "base/text.h"
@@ -24,9 +25,15 @@ namespace campora {
 
 namespace {
 
-std::optional<Failure> copyFile(const std::string& source, const std::string& target) {
+/// Adds a copy of `source` to the files that are to be written together.
+std::optional<Failure> addCopy(std::vector<FileDraft>& files, const std::string& source,
+                               const std::string& target) {
     const Result<FileBytes> content = readFile(source);
-    return content ? writeFile(target, content->bytes()) : std::optional(content.failure());
+    if (!content) {
+        return content.failure();
+    }
+    files.emplace_back(target).write(content->text());
+    return std::nullopt;
 }
 
 }  // namespace
@@ -180,9 +187,13 @@ void FileCommands::saveAs() {
         (hasSummary && !overwriteAgreed(session_, target.summaryPath))) {
         return;
     }
-    std::optional<Failure> failure = copyFile(source.trackPath, target.trackPath);
+    std::vector<FileDraft> files;
+    std::optional<Failure> failure = addCopy(files, source.trackPath, target.trackPath);
     if (!failure && hasSummary) {
-        failure = copyFile(summary, target.summaryPath);
+        failure = addCopy(files, summary, target.summaryPath);
+    }
+    if (!failure) {
+        failure = finishTogether(files);
     }
     if (failure) {
         platform.dialogs.message(texts.sentence(*failure), MessageIcon::Error,

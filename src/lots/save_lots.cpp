@@ -3,7 +3,7 @@
 
 #include "lots/save_lots.h"
 
-#include "base/files.h"
+#include "base/file_draft.h"
 #include "base/numbers.h"
 #include "base/paths.h"
 
@@ -26,12 +26,12 @@ std::vector<std::string> lotPaths(std::string_view path, std::size_t lots) {
 
 Result<std::vector<std::string>> saveLots(std::span<const LotFile> lots, std::string_view path) {
     std::vector<std::string> paths = lotPaths(path, lots.size());
+    std::vector<FileDraft> files;
     for (std::size_t i = 0; i < lots.size(); ++i) {
-        const std::string bytes = encodeLot(lots[i].vertices, lots[i].description);
-        const auto content = std::as_bytes(std::span(bytes.data(), bytes.size()));
-        if (std::optional<Failure> failure = writeFile(paths[i], content)) {
-            return *failure;
-        }
+        files.emplace_back(paths[i]).write(encodeLot(lots[i].vertices, lots[i].description));
+    }
+    if (std::optional<Failure> failure = finishTogether(files)) {
+        return *failure;
     }
     return paths;
 }

@@ -17,8 +17,8 @@ namespace campora {
 /// ("campo-1.lot", "campo-2.lot").
 [[nodiscard]] std::vector<std::string> lotPaths(std::string_view path, std::size_t lots);
 
-/// Writes each lot into its file and answers the files. A failure names the file that could not be
-/// written; those before it stay.
+/// Writes each lot into its file, all or none, and answers the files. A failure names the file that
+/// could not be written.
 [[nodiscard]] Result<std::vector<std::string>> saveLots(std::span<const LotFile> lots,
                                                         std::string_view path);
 

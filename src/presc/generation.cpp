@@ -10,6 +10,7 @@
 #include <optional>
 #include <utility>
 
+#include "base/file_draft.h"
 #include "base/files.h"
 #include "base/numbers.h"
 #include "base/text.h"
@@ -143,20 +144,16 @@ std::optional<Failure> write(std::string_view path, std::string_view bytes) {
     return writeFile(path, std::as_bytes(std::span(bytes.data(), bytes.size())));
 }
 
-/// Both files or neither: an earlier prescription comes back when its companion cannot be written.
+/// Both files or neither.
 std::optional<Failure> writeWithCompanion(std::string_view path, std::string_view bytes,
                                           std::size_t cells) {
+    std::vector<FileDraft> files;
+    files.emplace_back(path).write(bytes);
     const std::string companion = companionPath(path);
-    const Result<FileBytes> earlier = readFile(path);
-    std::optional<Failure> failure = write(path, bytes);
-    if (failure || companion == path) {
-        return failure;
+    if (companion != path) {
+        files.emplace_back(companion).write(std::string(companionSize(cells), '\0'));
     }
-    failure = write(companion, std::string(companionSize(cells), '\0'));
-    if (failure) {
-        static_cast<void>(earlier ? writeFile(path, earlier->bytes()) : deleteFile(path));
-    }
-    return failure;
+    return finishTogether(files);
 }
 
 /// Says how much stands in the file.

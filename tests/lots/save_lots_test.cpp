@@ -19,7 +19,7 @@ TEST(SaveLots, OneHasItsNameSeveralAreNumbered) {
     EXPECT_EQ(lotPaths("campo", 2), (Paths{"campo-1.lot", "campo-2.lot"}));
 }
 
-TEST(SaveLots, WritesEachOrNamesTheOneThatFails) {
+TEST(SaveLots, WritesAllOrNamesTheOneThatFails) {
     const TempFolder folder;
     const LotFile lots[] = {{{{-1, -2}}, "uno"}, {{{-3, -4}}, "dos"}};
     const auto saved = saveLots(lots, folder.file("a.lot"));
@@ -31,6 +31,7 @@ TEST(SaveLots, WritesEachOrNamesTheOneThatFails) {
     const auto failed = saveLots(lots, folder.file("b.lot"));
     ASSERT_FALSE(failed);
     EXPECT_EQ(failed.failure().arguments.at(0), folder.file("b-2.lot"));
+    EXPECT_FALSE(std::filesystem::exists(folder.file("b-1.lot"))) << "all or none";
     EXPECT_FALSE(saveLots(lots, folder.file("falta/c.lot")));
 }
 
