@@ -11,7 +11,7 @@
 #include <optional>
 #include <string>
 
-#include "base/encoding.h"
+#include "base/numbers.h"
 #include "base/paths.h"
 
 namespace campora {
@@ -38,6 +38,19 @@ constexpr Reason kReasons[] = {
     {std::errc::not_enough_memory, TextId::FileTooLarge},
     {std::errc::filename_too_long, TextId::FileNameTooLong},
     {std::errc::io_error, TextId::DiskError},
+    {std::errc::too_many_symbolic_link_levels, TextId::LinksInACircle},
+    {std::errc::file_exists, TextId::FileExists},
+    {std::errc::device_or_resource_busy, TextId::FileBusy},
+    {std::errc::text_file_busy, TextId::FileBusy},
+    {std::errc::cross_device_link, TextId::OtherDisk},
+    {std::errc::interrupted, TextId::DiskInterrupted},
+    {std::errc::operation_canceled, TextId::DiskInterrupted},
+    {std::errc::no_such_device, TextId::DiskGone},
+    {std::errc::no_such_device_or_address, TextId::DiskGone},
+    {std::errc::timed_out, TextId::DiskGone},
+    {std::errc::not_connected, TextId::DiskGone},
+    {std::errc::host_unreachable, TextId::DiskGone},
+    {std::errc::network_unreachable, TextId::DiskGone},
 };
 
 /// Why this is no ordinary file, as far as its kind tells; none for a file that is not there.
@@ -59,11 +72,16 @@ std::optional<TextId> wrongKind(const fs::file_status& status) {
 FileStream openStream(const fs::path& path, FileMode mode) {
     const auto index = static_cast<std::size_t>(mode);
 #ifdef _WIN32
-    constexpr std::array<const wchar_t*, 3> kModes = {L"rb", L"r+b", L"wbx"};
+    constexpr std::array<const wchar_t*, 2> kModes = {L"rb", L"r+b"};
     return FileStream(_wfopen(path.c_str(), kModes[index]));
 #else
-    constexpr std::array<const char*, 3> kModes = {"rb", "r+b", "wbx"};
-    return FileStream(std::fopen(path.c_str(), kModes[index]));
+    constexpr std::array<const char*, 2> kModes = {"rbe", "r+be"};
+    std::FILE* file = nullptr;
+    do {
+        errno = 0;
+        file = std::fopen(path.c_str(), kModes[index]);
+    } while (file == nullptr && errno == EINTR);
+    return FileStream(file);
 #endif
 }
 
@@ -75,14 +93,41 @@ Failure fileFailure(TextId what, std::string_view path, TextId reason) {
     return because(what, {std::string(path)}, {reason, {}});
 }
 
-Failure fileFailure(TextId what, std::string_view path, const std::error_code& error) {
+Failure reasonOf(const std::error_code& error) {
     const auto* const known = std::find_if(std::begin(kReasons), std::end(kReasons),
                                            [&](const Reason& row) { return error == row.error; });
     if (known != std::end(kReasons)) {
-        return fileFailure(what, path, known->text);
+        return {known->text, {}};
     }
-    // Some systems word their messages in the local code page.
-    return {what, {std::string(path), decodeText(error.message())}};
+#ifndef _WIN32
+    if (error == std::error_code(EDQUOT, std::generic_category())) {
+        return {TextId::DiskQuota, {}};
+    }
+#endif
+    // What the system says itself is in the system's language.
+    return {TextId::SystemError, {numberText(error.value())}};
+}
+
+Failure fileFailure(TextId what, std::string_view path, const std::error_code& error) {
+    return because(what, {std::string(path)}, reasonOf(error));
+}
+
+fs::path linkedFile(fs::path path, std::error_code& error) {
+    constexpr int kMostLinks = 40;
+    for (int i = 0; i < kMostLinks; ++i) {
+        const bool isLink = fs::is_symlink(fs::symlink_status(path, error));
+        error.clear();  // whoever opens the file is told
+        if (!isLink) {
+            return path;
+        }
+        const fs::path next = fs::read_symlink(path, error);
+        if (error) {
+            return path;
+        }
+        path = path.parent_path() / next;
+    }
+    error = std::make_error_code(std::errc::too_many_symbolic_link_levels);
+    return path;
 }
 
 Result<fs::path> ordinaryFile(TextId what, std::string_view path) {

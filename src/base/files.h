@@ -32,15 +32,13 @@ private:
 
 /// The whole file, which must be an ordinary one of less than 2 GiB. Failures name the path and the
 /// reason: it is not there, it is a folder or a device, no permission, too large, a device error.
+/// What a killed program has left half done with the file is taken back first.
 [[nodiscard]] Result<FileBytes> readFile(std::string_view path);
 
 /// Whether `readFile` would get as far as the first byte.
 [[nodiscard]] bool canOpen(std::string_view path);
 
-/// Writes beside the target and renames over it, so that the target is the old file or the whole
-/// new one, never a half. A link stays a link and permissions stay as they were; a file that is
-/// protected against writing is refused. A failure leaves no trace and names the path and the
-/// reason.
+/// The whole file by a `FileDraft`, with what that promises.
 [[nodiscard]] std::optional<Failure> writeFile(std::string_view path,
                                                std::span<const std::byte> bytes);
 

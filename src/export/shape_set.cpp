@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "base/byte_writer.h"
-#include "base/files.h"
 
 namespace campora {
 
@@ -164,14 +163,11 @@ std::optional<Failure> ShapeSet::finish() {
     files.push_back(table_.takeDraft());
     files.emplace_back(basePath_ + ".prj").write(kReference);
     files.emplace_back(basePath_ + ".cpg").write(kCodePage);
-    if (std::optional<Failure> failure = finishTogether(files)) {
-        return failure;
-    }
+    std::vector<std::string> outdated;
     for (const std::string_view ending : kForeignIndexes) {
-        // Where it cannot be deleted it is out of date, as it would be after any other program.
-        static_cast<void>(deleteFile(std::string(basePath_).append(ending)));
+        outdated.push_back(std::string(basePath_).append(ending));
     }
-    return std::nullopt;
+    return finishTogether(files, outdated);
 }
 
 }  // namespace campora

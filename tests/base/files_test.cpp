@@ -15,6 +15,8 @@
 
 #include <gtest/gtest.h>
 
+#include "base/file_access.h"
+#include "base/own_file.h"
 #include "base/paths.h"
 #include "support/file_size_limit.h"
 #include "support/shape_bytes.h"
@@ -107,13 +109,19 @@ TEST(WriteFile, MakesAndReplaces) {
     }
 }
 
-TEST(WriteFile, NeitherALeftOverDraftNorALongNameIsAnObstacle) {
+TEST(WriteFile, ClearsAwayWhatKilledProgramsLeftAndNothingElse) {
     const TempFolder folder;
-    const std::string left = folder.write(".campora-0.tmp", "left over");
+    (void)folder.write(".campora-0123456789ABCDEF.tmp", "left over");
+    const std::string other = folder.write(".campora-0.tmp", "somebody's own");
+    OwnFile used;
+    ASSERT_FALSE(used.create(nativePath(folder.path())));
+    ASSERT_FALSE(used.takeName());
     const std::string path = folder.file(std::string(200, 'n') + ".dbf");
     EXPECT_FALSE(writeFile(path, bytesOf("new")).has_value());
     EXPECT_EQ(contentOf(path), "new");
-    EXPECT_EQ(contentOf(left), "left over");
+    EXPECT_EQ(contentOf(other), "somebody's own");
+    EXPECT_TRUE(fs::exists(used.path()));
+    EXPECT_EQ(entriesOf(folder), 3U);
 }
 
 TEST(WriteFile, SaysWhyItCannot) {
@@ -215,6 +223,23 @@ TEST(WriteFile, LinksAndPermissionsStay) {
     EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
     EXPECT_FALSE(deleteFile(link).has_value());
     EXPECT_TRUE(fs::exists(file)) << "the link goes, the file stays";
+    fs::remove(file);
+    fs::create_symlink("real/a.lot", link);
+    ASSERT_FALSE(writeFile(link, bytesOf("made")).has_value());
+    EXPECT_TRUE(fs::is_symlink(link));
+    EXPECT_EQ(contentOf(file), "made") << "the file that the link names";
+    fs::create_symlink("round.lot", folder.file("round.lot"));
+    expectFailure(writeFile(folder.file("round.lot"), bytesOf("x")), TextId::FileCannotBeWritten,
+                  folder.file("round.lot"), TextId::LinksInACircle);
+}
+
+TEST(FileFailure, NoReasonIsTheSystemsOwnWording) {
+    for (const int error : {ELOOP, EEXIST, EDQUOT, EBUSY, EXDEV, EINTR, ENODEV, ETIMEDOUT}) {
+        EXPECT_NE(reasonOf({error, std::generic_category()}).text, TextId::SystemError) << error;
+    }
+    const Failure other = reasonOf({EINVAL, std::system_category()});
+    EXPECT_EQ(other.text, TextId::SystemError);
+    EXPECT_EQ(other.arguments, std::vector<std::string>{std::to_string(EINVAL)});
 }
 
 #endif

@@ -335,6 +335,7 @@ TEST_F(ShpTest, ExistingFilesAreReplacedTogetherOrNotAtAll) {
     const std::string before = content(".shp");
     std::filesystem::remove(nativePath(base + ".dbf"));
     std::filesystem::create_directory(nativePath(base + ".dbf"));
+    (void)folder.write("campo.qix", "index");
     AttributeLayer other({squareAt(7, 7)}, {});
     for (const auto& failure : {polygons({&other}), points({&other}), gis({&other})}) {
         ASSERT_TRUE(failure.has_value());
@@ -342,7 +343,8 @@ TEST_F(ShpTest, ExistingFilesAreReplacedTogetherOrNotAtAll) {
         EXPECT_EQ(failure->cause.at(0).text, TextId::FileIsFolder);
     }
     EXPECT_EQ(content(".shp"), before);
-    EXPECT_EQ(fileCount(), 5U);
+    EXPECT_EQ(content(".qix"), "index");
+    EXPECT_EQ(fileCount(), 6U);
 }
 
 TEST_F(ShpTest, NamesMayHoldAnything) {
