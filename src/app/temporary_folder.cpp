@@ -5,7 +5,9 @@
 
 #include <filesystem>
 #include <random>
+#include <string_view>
 #include <system_error>
+#include <vector>
 
 #include "base/file_access.h"
 #include "base/numbers.h"
@@ -15,8 +17,41 @@ namespace campora {
 
 namespace fs = std::filesystem;
 
+namespace {
+
+constexpr std::string_view kBegin = "campora-";
+constexpr int kDigits = 8;  // of each of two numbers
+
+bool isOurName(std::string_view name) {
+    return name.size() == kBegin.size() + 2 * kDigits && name.starts_with(kBegin) &&
+           name.find_first_not_of("0123456789ABCDEF", kBegin.size()) == name.npos;
+}
+
+/// Deletes what programs that run no more have left in `parent`.
+void tidyFolders(const fs::path& parent) {
+    std::error_code error;
+    std::vector<fs::path> left;
+    for (fs::directory_iterator entry(parent, error); !error && entry != fs::directory_iterator();
+         entry.increment(error)) {
+        std::error_code ignored;
+        if (isOurName(pathText(entry->path().filename())) &&
+            entry->symlink_status(ignored).type() == fs::file_type::directory) {
+            left.push_back(entry->path());
+        }
+    }
+    for (const fs::path& folder : left) {
+        const FolderLock lock(folder, 0);
+        if (lock.isTaken()) {
+            fs::remove_all(folder, error);
+        }
+    }
+}
+
+}  // namespace
+
 TemporaryFolder::~TemporaryFolder() {
     if (!folder_.empty()) {
+        lock_.reset();
         std::error_code ignored;
         fs::remove_all(nativePath(folder_), ignored);
     }
@@ -26,12 +61,15 @@ Result<std::string> TemporaryFolder::file(std::string_view name) {
     if (folder_.empty()) {
         std::error_code error;
         const fs::path parent = fs::temp_directory_path(error);
+        tidyFolders(parent);
         // A name that nobody foresees: whoever made the folder first could put a link into it.
         std::random_device random;
-        const fs::path made = parent / ("campora-" + hexText(random(), 8) + hexText(random(), 8));
+        const fs::path made = parent / (std::string(kBegin) + hexText(random(), kDigits) +
+                                        hexText(random(), kDigits));
         if (error || !fs::create_directory(made, error)) {
             return fileFailure(TextId::FileCannotBeWritten, pathText(made), error);
         }
+        lock_.emplace(made, 0);
         fs::permissions(made, fs::perms::owner_all, error);
         folder_ = pathText(made);
     }

@@ -8,11 +8,13 @@
 #include <string_view>
 
 #include "base/failure.h"
+#include "base/own_file.h"
 
 namespace campora {
 
 /// A folder for files that another program is to open, made when it is first asked for and deleted
-/// with the object. Only the user can look into it.
+/// with the object; those of programs that were killed are deleted then, too. Only the user can
+/// look into it.
 class TemporaryFolder {
 public:
     TemporaryFolder() = default;
@@ -25,6 +27,8 @@ public:
 
 private:
     std::string folder_;
+    /// Tells others that the folder is in use.
+    std::optional<FolderLock> lock_;
 };
 
 }  // namespace campora

@@ -5,9 +5,9 @@
 
 #include <QDate>
 
+#include "base/interruption.h"
 #include "base/plain_text.h"
 #include "base/text.h"
-#include "cli/interruption.h"
 #include "presc/gph_presc.h"
 
 namespace campora {

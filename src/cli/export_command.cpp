@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 
 #include "app/export_formats.h"
+#include "base/interruption.h"
 #include "cli/batch_platform.h"
 #include "cli/commands.h"
-#include "cli/interruption.h"
 #include "cli/whole_map.h"
 #include "paint/picture_file.h"
 #include "paint/raster_canvas.h"

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 
 #include "app/track_batch.h"
+#include "base/interruption.h"
 #include "base/plain_text.h"
 #include "cli/batch_platform.h"
 #include "cli/commands.h"
-#include "cli/interruption.h"
 
 namespace campora {
 

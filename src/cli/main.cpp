@@ -8,7 +8,7 @@
 #include <QCoreApplication>
 
 #include "app/data_folder.h"
-#include "cli/interruption.h"
+#include "base/interruption.h"
 #include "cli/program.h"
 
 namespace {

@@ -3,8 +3,8 @@
 
 #include "cli/program.h"
 
+#include "base/interruption.h"
 #include "base/plain_text.h"
-#include "cli/interruption.h"
 
 namespace campora {
 

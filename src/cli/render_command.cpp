@@ -1,10 +1,10 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
+#include "base/interruption.h"
 #include "base/paths.h"
 #include "cli/batch_platform.h"
 #include "cli/commands.h"
-#include "cli/interruption.h"
 #include "cli/whole_map.h"
 #include "paint/picture_file.h"
 #include "paint/raster_canvas.h"

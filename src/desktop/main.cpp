@@ -1,14 +1,21 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
+#include <cstdlib>
+
 #include <QApplication>
 
+#include "base/interruption.h"
 #include "desktop/look.h"
 #include "desktop/program.h"
 
 int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     campora::applyLook();
+    const campora::InterruptionWatch watch;
     campora::Program program;
-    return QApplication::exec();
+    program.endWith(watch);
+    // It may have been asked to stop while it opened its first files.
+    const int status = campora::isInterrupted() ? EXIT_FAILURE : QApplication::exec();
+    return campora::isInterrupted() ? EXIT_FAILURE : status;
 }

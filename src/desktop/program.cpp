@@ -3,14 +3,17 @@
 
 #include "desktop/program.h"
 
+#include <cstdlib>
 #include <string>
 #include <vector>
 
 #include <QApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QSocketNotifier>
 
 #include "app/data_folder.h"
+#include "app/start_up.h"
 #include "desktop/qt_text.h"
 
 namespace campora {
@@ -46,6 +49,19 @@ Program::Program()
 
 Program::~Program() {
     QApplication::removeTranslator(&widgetTexts_);
+}
+
+void Program::endWith(const InterruptionWatch& watch) {
+    if (watch.descriptor() < 0) {
+        return;
+    }
+    auto* const notifier = new QSocketNotifier(watch.descriptor(), QSocketNotifier::Read, &window_);
+    QObject::connect(notifier, &QSocketNotifier::activated, &window_, [this, notifier] {
+        notifier->setEnabled(false);
+        unloadMainWindow(window_.session());
+        // Ends the loops of all open dialogs too, as if they were cancelled; none opens after it.
+        QCoreApplication::exit(EXIT_FAILURE);
+    });
 }
 
 }  // namespace campora

@@ -8,6 +8,7 @@
 #else
 #include "desktop/freedesktop_classes.h"
 #endif
+#include "base/interruption.h"
 #include "desktop/main_window.h"
 #include "desktop/qt_clipboard.h"
 #include "desktop/qt_clock.h"
@@ -29,6 +30,10 @@ public:
     Program& operator=(const Program&) = delete;
 
     [[nodiscard]] MainWindow& window() { return window_; }
+
+    /// When the program is asked to stop, it does: no question keeps it, what is under way is
+    /// cancelled, and what was being written is cleared away. `watch` outlives it.
+    void endWith(const InterruptionWatch& watch);
 
 private:
     QtSettingsStore settings_;

@@ -13,6 +13,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "base/interruption.h"
+
 namespace campora {
 
 namespace {
@@ -94,7 +96,7 @@ public:
         if (windows_.boxes_ == boxes_ && windows_.open_.back() == window_.get()) {
             window_->showPercent(percent);
         }
-        return !window_->isCancelled();
+        return !window_->isCancelled() && !isInterrupted();
     }
 
 private:

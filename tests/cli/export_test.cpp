@@ -11,8 +11,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "base/interruption.h"
 #include "base/paths.h"
-#include "cli/interruption.h"
 #include "cli/program.h"
 #include "support/temp_folder.h"
 #include "support/work_files.h"
@@ -211,6 +211,20 @@ TEST_F(ExportTest, ASourceIsNeverTheTarget) {
     }
 }
 
+/// What a signal does while the object lives.
+class HandledSignal {
+public:
+    HandledSignal(int signal, void (*handler)(int))
+        : signal_(signal), before_(std::signal(signal, handler)) {}
+    HandledSignal(const HandledSignal&) = delete;
+    HandledSignal& operator=(const HandledSignal&) = delete;
+    ~HandledSignal() { std::signal(signal_, before_); }
+
+private:
+    int signal_;
+    void (*before_)(int);
+};
+
 TEST_F(ExportTest, AnInterruptionLeavesNoFile) {
     const std::string source = report("lote.rpt");
     const std::string nbr = track("a.nbr");
@@ -222,7 +236,8 @@ TEST_F(ExportTest, AnInterruptionLeavesNoFile) {
         {"render", source, "-o", folder.file("a.png")},
     };
     for (const Words& words : rows) {
-        for (const int signal : {SIGINT, SIGTERM}) {
+        for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+            const HandledSignal handled(signal, SIG_DFL);  // whatever the tests were started with
             const InterruptionWatch watch;
             (void)std::raise(signal);
             (void)std::raise(signal);  // sent to the process and to its group
@@ -233,6 +248,9 @@ TEST_F(ExportTest, AnInterruptionLeavesNoFile) {
     }
     const std::filesystem::directory_iterator left(nativePath(folder.path()));
     EXPECT_EQ(std::distance(begin(left), end(left)), 2) << "the sources";
+    const HandledSignal ignored(SIGHUP, SIG_IGN);
+    const InterruptionWatch watch;
+    (void)std::raise(SIGHUP);
     EXPECT_EQ(run(rows[0]).status, 0) << "nobody interrupts this one";
 }
 
