@@ -10,6 +10,7 @@
 
 #include "base/files.h"
 #include "base/paths.h"
+#include "base/text.h"
 #include "lots/load_lot.h"
 #include "presc/gph_presc.h"
 #include "presc/load_grid.h"
@@ -49,8 +50,9 @@ std::string foreignMapText(std::string_view path, const Texts& texts) {
 }
 
 std::optional<OpenedFile> openGrid(std::string_view path, const OpenContext& context) {
-    const bool isForeign = std::find(std::begin(kForeignMaps), std::end(kForeignMaps),
-                                     pathEnding(path)) != std::end(kForeignMaps);
+    const bool isForeign = std::any_of(
+        std::begin(kForeignMaps), std::end(kForeignMaps),
+        [name = lowerCase(path)](std::string_view ending) { return name.ends_with(ending); });
     if (isForeign && canOpen(path)) {
         context.dialogs.message(foreignMapText(path, context.texts), MessageIcon::Error,
                                 context.texts(TextId::WrongFileFormat));

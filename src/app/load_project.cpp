@@ -128,6 +128,7 @@ std::optional<ProjectFiles> filesOfProject(std::string_view path, std::string_vi
     }
     missing.tellTheRest();
     if (files.paths.empty()) {
+        files.complete = false;
         dialogs.message(texts.format(TextId::ProjectWithoutFiles, {project}),
                         MessageIcon::Exclamation, texts(TextId::ProgramName));
     }

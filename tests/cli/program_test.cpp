@@ -182,6 +182,7 @@ TEST(Program, TellsWhatTheFilesOfAProjectHold) {
     const std::pair<std::string, int> rows[] = {
         {folder.write("b.fsp", header + "/lote.rpt\n/falta.rpt"), 1},
         {folder.write("c.fsp", header + "/lote.rpt\n" + report), 0},  // open already
+        {folder.write("d.fsp", header), 1},
         {report, 1},
         {folder.file("falta.fsp"), 1},
     };
