@@ -143,9 +143,11 @@ TEST_F(QtDialogsTest, OnlyTheInnermostProgressShowsAndKeysDoNotCancelIt) {
     EXPECT_TRUE(work->report(3));
     EXPECT_EQ(shownProgress(), QStringList{"fuera"});
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
-        QTest::keyClick(QApplication::activeModalWidget()->focusWidget(), key);
+        ASSERT_NE(QApplication::focusWidget(), nullptr);
+        QTest::keyClick(QApplication::focusWidget(), key);
         EXPECT_TRUE(work->report(4));
     }
+    ASSERT_NE(QApplication::activeModalWidget(), nullptr);
     QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
     EXPECT_FALSE(work->report(5));
     EXPECT_EQ(shownProgress(), QStringList());
