@@ -17,7 +17,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const RptTextTable table = splitTable(text);
     for (const TableForm form : {TableForm::FourColumns, TableForm::EightColumns}) {
         for (const char symbol : {'.', ','}) {
-            for (const ReportRecord& record : decodeRecords(table.records, form, symbol, 16)) {
+            for (const ReportRecord& record :
+                 decodeRecords(table.records, form, symbol, 16).records) {
                 const auto [x, y] = record.position;
                 if (!(x >= -180 && x <= 180 && y >= -90 && y <= 90)) {
                     std::abort();  // a position off the globe reached the map

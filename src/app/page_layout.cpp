@@ -141,7 +141,14 @@ private:
             PageBlock block{
                 {{PageRow::Kind::Heading, std::string(texts_(TextId::SummaryHeading))}}};
             for (const SummaryRow& row : content_.summary) {
-                block.rows.push_back({PageRow::Kind::Pair, row.property, row.value});
+                if (!row.isRemark) {
+                    block.rows.push_back({PageRow::Kind::Pair, row.property, row.value});
+                    continue;
+                }
+                for (std::string& line :
+                     wrapped(row.property + ": " + row.value, font(kTextEm), width, textWidth_)) {
+                    block.rows.push_back({PageRow::Kind::Line, std::move(line)});
+                }
             }
             all.push_back(std::move(block));
         }
@@ -270,7 +277,7 @@ private:
     [[nodiscard]] double nameWidth(double columnWidth) const {
         double widest = 0;
         for (const SummaryRow& row : content_.summary) {
-            widest = std::max(widest, textWidth_(row.property, font(kTextEm)));
+            widest = std::max(widest, row.isRemark ? 0 : textWidth_(row.property, font(kTextEm)));
         }
         return std::min(widest + mm(kGap) / 2, columnWidth * kNamePart);
     }

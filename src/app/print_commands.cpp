@@ -62,7 +62,8 @@ PageContent PrintCommands::content() const {
         TextId::PrintedOn, {dateText(platform.clock.today(), platform.locale.shortDateForm())});
     content.legend = session_.legendContent();
     for (const SummaryRow& row : session_.summaryRows()) {
-        content.summary.push_back({std::string(trim(row.property)), std::string(trim(row.value))});
+        content.summary.push_back(
+            {std::string(trim(row.property)), std::string(trim(row.value)), row.isRemark});
     }
     content.description = session_.printDescription;
     return content;

@@ -189,11 +189,20 @@ std::vector<Gph*> Session::getGphList() const {
     return all;
 }
 
+std::string Session::remarksOf(const File& file) const {
+    std::string lines;
+    for (const Remark& remark : file.remarks()) {
+        lines.append(lines.empty() ? "" : "\n").append(texts_.sentence(remark));
+    }
+    return lines;
+}
+
 void Session::loadFileList(bool selectCurrent) {
     std::vector<FileListRow> rows;
     for (const File* file : openFiles()) {
         const std::string icon = file->File_icon();
-        rows.push_back({file->File_name(), icon.empty() ? std::string(kPlainIcon) : icon});
+        rows.push_back(
+            {file->File_name(), icon.empty() ? std::string(kPlainIcon) : icon, remarksOf(*file)});
     }
     platform_.window.setFileList(rows, selectCurrent ? files_.indexOf(files_.currentFile())
                                                      : std::nullopt);
@@ -256,6 +265,16 @@ std::vector<SummaryRow> Session::summaryRows() const {
     if (File* const file = files_.currentFile()) {
         for (const ShownProperty& row : shownProperties(file->File_resumen())) {
             rows.push_back(summaryRow(row, texts_));
+            rows.back().isDoubtful = row.origin == ShownProperty::Origin::Measured &&
+                                     file->File_resumen().isDoubtful(row.property);
+            if (rows.back().isDoubtful) {
+                rows.back().value.append(" ").append(kDoubtMark);
+                rows.back().note = texts_(TextId::FigureInDoubt);
+            }
+        }
+        for (const Remark& remark : file->remarks()) {
+            rows.push_back({std::string(texts_(TextId::RemarkName)), texts_.sentence(remark)});
+            rows.back().isRemark = true;
         }
     }
     return rows;

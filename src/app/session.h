@@ -225,6 +225,8 @@ private:
     void addSpreading(LegendContent& legend, const ColorScale& scale);
     bool setUpScales();
     void collectRanges();
+    /// In words, a line each.
+    [[nodiscard]] std::string remarksOf(const File& file) const;
     /// In the order in which they are drawn; not those of `without`, which may be null.
     [[nodiscard]] std::vector<const Gph*> layersFromBelow(const File* without) const;
     /// Reads a file and adds it; neither list nor legend are shown anew yet.

@@ -32,6 +32,10 @@ struct Failure {
     return failure;
 }
 
+/// Something to be said about a file that was opened all the same: an id and what stands in its
+/// places, as in a failure.
+using Remark = Failure;
+
 /// A file that breaks its format. Thrown by decoders, caught once by the function that opens the
 /// file.
 class FormatError : public std::runtime_error {

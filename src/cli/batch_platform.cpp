@@ -59,6 +59,14 @@ std::unique_ptr<Progress> BatchDialogs::progress(std::string_view /*caption*/) {
     return std::make_unique<UntilInterrupted>();
 }
 
+void BatchDialogs::note(const File& file, const Texts& texts) {
+    for (const Remark& remark : file.remarks()) {
+        boxes_ << oneLine(
+                      texts.format(TextId::CliNote, {file.File_diskPath(), texts.sentence(remark)}))
+               << '\n';
+    }
+}
+
 Date NoClock::today() const {
     const QDate today = QDate::currentDate();
     return {today.year(), today.month(), today.day()};
@@ -84,6 +92,7 @@ bool BatchSession::openFiles() {
     }
     const LoadedFileList& files = session_.files();
     for (int i = 0; i < files.loadedCount(); ++i) {
+        dialogs_.note(files.file(i), session_.texts());
         const auto* const zones = dynamic_cast<const GphPresc*>(&files.file(i));
         all = all && (zones == nullptr || zones->isWhole());
     }

@@ -39,6 +39,8 @@ public:
     [[nodiscard]] std::vector<std::string> openFiles(const OpenRequest& request) override;
     /// Shows nothing; what is under way is cancelled when the program is interrupted.
     [[nodiscard]] std::unique_ptr<Progress> progress(std::string_view caption) override;
+    /// The remarks on a file that was opened, a line each.
+    void note(const File& file, const Texts& texts);
 
 protected:
     [[nodiscard]] const Arguments& arguments() const { return arguments_; }
@@ -158,8 +160,9 @@ public:
     BatchSession(const Arguments& arguments, MapCanvas& canvas, std::ostream& boxes);
 
     [[nodiscard]] Session& session() { return session_; }
-    /// Opens the files of the command line in order, without drawing them; false when one was not
-    /// taken, or only as far as it is sound, and when the program was interrupted.
+    /// Opens the files of the command line in order, without drawing them, and notes what is to be
+    /// said about each; false when one was not taken, or only as far as it is sound, and when the
+    /// program was interrupted.
     [[nodiscard]] bool openFiles();
 
 private:

@@ -28,7 +28,12 @@ public:
         const FileProperties& summary = file.File_resumen();
         for (int i = 0; i < summary.count(); ++i) {
             const std::string value = summary.value(i);
-            line(std::string(trim(summary.property(i))).append(" ").append(trim(value)));
+            const bool doubtful = summary.isDoubtful(summary.property(i));
+            line(std::string(trim(summary.property(i)))
+                     .append(" ")
+                     .append(trim(value))
+                     .append(doubtful ? " " : "")
+                     .append(doubtful ? kDoubtMark : ""));
         }
         for (const ShownProperty& row : shownProperties(summary)) {
             if (row.origin != ShownProperty::Origin::Measured) {

@@ -178,6 +178,18 @@ void writeScale(JsonWriter& json, const ColorScale* scale) {
     json.endArray();
 }
 
+void writeRemarks(JsonWriter& json, const File& file, const Texts& texts) {
+    if (file.remarks().empty()) {
+        return;
+    }
+    json.key("remarks");
+    json.beginArray();
+    for (const Remark& remark : file.remarks()) {
+        json.value(texts.sentence(remark));
+    }
+    json.endArray();
+}
+
 void writeFile(JsonWriter& json, File& file, const InfoContext& context) {
     json.beginObject();
     json.member("name", file.File_name());
@@ -190,6 +202,7 @@ void writeFile(JsonWriter& json, File& file, const InfoContext& context) {
     writeEdited(json, file.File_resumen());
     writeLayers(json, file, context);
     writeScale(json, file.File_escalaColores());
+    writeRemarks(json, file, context.texts);
     json.endObject();
 }
 

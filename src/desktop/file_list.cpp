@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QSignalBlocker>
+#include <QStyledItemDelegate>
 
 #include "desktop/qt_text.h"
 
@@ -26,9 +27,42 @@ QIcon fileIcon(const std::string& key) {
     return icon;
 }
 
+constexpr int kRemarkRole = Qt::UserRole;
+
+/// Rows as usual, with a mark at the end of those of files with remarks.
+class RemarkMarks final : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        QStyledItemDelegate::paint(painter, option, index);
+        if (index.data(kRemarkRole).toBool()) {
+            mark_.paint(painter, option.rect.adjusted(0, 0, -kMargin, 0),
+                        Qt::AlignRight | Qt::AlignVCenter);
+        }
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (index.data(kRemarkRole).toBool()) {
+            const int room = option->rect.width() - option->decorationSize.width() - kRoom;
+            option->text = option->fontMetrics.elidedText(option->text, Qt::ElideMiddle, room);
+        }
+    }
+
+private:
+    static constexpr int kMargin = 4;
+    /// For the mark and the margins about text and icon.
+    static constexpr int kRoom = 36;
+    QIcon mark_{":/icons/remark.svg"};
+};
+
 }  // namespace
 
 FileList::FileList(QWidget* parent) : QListWidget(parent) {
+    setItemDelegate(new RemarkMarks(this));
     setIconSize({20, 20});
     setTextElideMode(Qt::ElideMiddle);
     setUniformItemSizes(true);
@@ -42,7 +76,11 @@ void FileList::setRows(std::span<const FileListRow> rows, std::optional<int> sel
     clear();
     for (const FileListRow& row : rows) {
         auto* item = new QListWidgetItem(fileIcon(row.icon), shownName(row.name), this);
-        item->setToolTip(plainToolTip(item->text()));
+        const QString remarks = shownText(row.remarks);
+        const QString all = remarks.isEmpty() ? item->text() : item->text() + "\n" + remarks;
+        item->setToolTip(plainToolTip(all));
+        item->setData(kRemarkRole, !remarks.isEmpty());
+        item->setData(Qt::AccessibleTextRole, all);
     }
     if (selected) {
         setCurrentRow(*selected);

@@ -31,9 +31,10 @@ namespace campora {
     return text.toStdString();
 }
 
-/// The text as a tooltip that is shown as it stands, whatever signs it holds.
+/// The text as a tooltip that is shown as it stands, line by line, whatever signs it holds.
 [[nodiscard]] inline QString plainToolTip(const QString& text) {
-    return text.isEmpty() ? text : "<span>" + text.toHtmlEscaped() + "</span>";
+    return text.isEmpty() ? text
+                          : "<span>" + text.toHtmlEscaped().replace("\n", "<br>") + "</span>";
 }
 
 }  // namespace campora

@@ -28,6 +28,9 @@ void SummaryTable::setRows(std::span<const SummaryRow> rows) {
     for (const SummaryRow& row : rows) {
         auto* item = new QTreeWidgetItem(this, {shownName(row.property), shownName(row.value)});
         item->setSizeHint(1, roomy);
+        if (row.isRemark) {
+            item->setIcon(1, QIcon(":/icons/remark.svg"));
+        }
         item->setToolTip(0, plainToolTip(item->text(0)));
         const QString note = toQt(row.note);
         item->setToolTip(1, plainToolTip(note.isEmpty() ? item->text(1) : note));

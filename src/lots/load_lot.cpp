@@ -63,16 +63,16 @@ std::unique_ptr<FileGphGroup> loadLot(std::string_view path, const LotReaderCont
                                 context.texts(TextId::WrongFileFormat));
         return nullptr;
     }
-    try {
-        const LotFile lot = decodeLot(file->text());
-        if (!lot.vertices.empty()) {
-            return makeLotGroup({&lot, 1}, path, fileNamePart(path), context.locale);
-        }
+    const LotFile lot = decodeLot(file->text());
+    if (lot.vertices.empty()) {
         tell(path, {TextId::LoteWithoutVertices, {}}, context);
-    } catch (const FormatError& error) {
-        tell(path, error.failure(), context);
+        return nullptr;
     }
-    return nullptr;
+    auto group = makeLotGroup({&lot, 1}, path, fileNamePart(path), context.locale);
+    if (lot.noPositions.count > 0) {
+        group->addRemark(lot.noPositions.remark(TextId::RemarkNoVertex));
+    }
+    return group;
 }
 
 std::unique_ptr<FileGphGroup> makeLotGroup(std::span<const LotFile> lots, std::string_view path,

@@ -10,7 +10,6 @@
 #include <optional>
 
 #include "base/encoding.h"
-#include "base/failure.h"
 #include "base/number_forms.h"
 #include "base/numbers.h"
 #include "base/text.h"
@@ -83,8 +82,8 @@ std::optional<std::size_t> secondPieceEnd(std::string_view line) {
     return std::min(line.find(',', comma + 1), line.size());
 }
 
-/// The vertex that a line of the file is; none for a line of the description.
-std::optional<LonLat> vertexOf(std::string_view line) {
+/// The pair of numbers that a line of the file begins with, as a position; it may be off the globe.
+std::optional<LonLat> numbersOf(std::string_view line) {
     const std::optional<std::size_t> end = secondPieceEnd(line);
     if (!end) {
         return std::nullopt;
@@ -100,6 +99,12 @@ std::optional<LonLat> vertexOf(std::string_view line) {
 
 bool isOnGlobe(LonLat position) {
     return std::fabs(position.y) <= kPole && std::fabs(position.x) <= kDateLine;
+}
+
+/// The vertex that a line of the file is; none for a line of the description.
+std::optional<LonLat> vertexOf(std::string_view line) {
+    const std::optional<LonLat> numbers = numbersOf(line);
+    return numbers && isOnGlobe(*numbers) ? numbers : std::nullopt;
 }
 
 /// A line of the description as the file has it. The mark stands where it breaks the number: with
@@ -122,15 +127,15 @@ LotFile decodeLot(std::string_view bytes) {
     LotFile lot;
     TextLines lines(text);
     for (std::string_view line; lines.next(line);) {
-        const std::optional<LonLat> vertex = vertexOf(line);
-        if (!vertex) {
-            lot.description.append(line).append("\r\n");
-        } else if (isOnGlobe(*vertex)) {
-            lot.vertices.push_back(*vertex);
-        } else {
-            throw FormatError({TextId::LoteBadPosition,
-                               {numberText(lines.lineNumber()), std::string(trim(line))}});
+        const std::optional<LonLat> numbers = numbersOf(line);
+        if (numbers && isOnGlobe(*numbers)) {
+            lot.vertices.push_back(*numbers);
+            continue;
         }
+        if (numbers) {
+            lot.noPositions.add(lines.lineNumber());
+        }
+        lot.description.append(line).append("\r\n");
     }
     return lot;
 }

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "base/lon_lat.h"
+#include "base/occurrences.h"
 
 namespace campora {
 
@@ -20,6 +21,8 @@ struct LotFile {
     std::vector<LonLat> vertices;
     /// Lines, each ended by CR LF.
     std::string description;
+    /// Lines of two numbers that are no position, which stand in the description; by their numbers.
+    Occurrences noPositions = {};
 
     bool operator==(const LotFile&) const = default;
 };
@@ -27,10 +30,9 @@ struct LotFile {
 /// Lines of a description that a file keeps.
 inline constexpr std::size_t kLotDescriptionLines = 10;
 
-/// The lines of a lot file: those whose first two pieces between commas are numbers are vertices
-/// (latitude first, both with their signs turned round), all others the description. Throws
-/// `FormatError` (with the line's number) for a vertex that is not on the globe; a file without
-/// vertices gives a lot without.
+/// The lines of a lot file: those whose first two pieces between commas are the numbers of a place
+/// on the globe are vertices (latitude first, both with their signs turned round), all others the
+/// description. A file without vertices gives a lot without.
 [[nodiscard]] LotFile decodeLot(std::string_view bytes);
 
 /// The bytes of a lot file, in Windows-1252: the first ten lines of the description, with a "_"

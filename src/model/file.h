@@ -5,8 +5,10 @@
 
 #include <cstdint>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "base/failure.h"
 #include "colour/color_scale.h"
 #include "model/bounding_box.h"
 #include "model/file_properties.h"
@@ -37,6 +39,14 @@ public:
     [[nodiscard]] virtual std::string File_id() const = 0;
     /// Of two files with one identity the one with the higher priority stays.
     [[nodiscard]] virtual std::int32_t File_priority() const = 0;
+
+    /// What was found on opening it that did not keep it out: a last record cut off, records that
+    /// were skipped. In the order in which it is to be read.
+    [[nodiscard]] const std::vector<Remark>& remarks() const { return remarks_; }
+    void addRemark(Remark remark) { remarks_.push_back(std::move(remark)); }
+
+private:
+    std::vector<Remark> remarks_;
 };
 
 }  // namespace campora

@@ -3,7 +3,9 @@
 
 #pragma once
 
+#include <functional>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,6 +14,9 @@
 #include "model/summary_edits.h"
 
 namespace campora {
+
+/// Stands behind a figure that counts values that cannot be, where people read it.
+inline constexpr std::string_view kDoubtMark = "(!)";
 
 /// One entry of a summary. All three are data: they stay in the form they were read or made in.
 struct FileProperty {
@@ -45,10 +50,19 @@ public:
     void addProperty(std::string_view property, std::string_view value, std::string_view unit);
     /// Replaces value and unit of the first entry of that name, or appends.
     void setProperty(std::string_view property, std::string_view value, std::string_view unit);
-    void clear() { entries_.clear(); }
+    /// Says of the entries of that name that they count values that cannot be.
+    void markDoubtful(std::string_view property) { doubtful_.emplace(property); }
+    [[nodiscard]] bool isDoubtful(std::string_view property) const {
+        return doubtful_.contains(property);
+    }
+    void clear() {
+        entries_.clear();
+        doubtful_.clear();
+    }
 
 private:
     std::vector<FileProperty> entries_;
+    std::set<std::string, std::less<>> doubtful_;
 };
 
 }  // namespace campora

@@ -48,6 +48,8 @@ struct FileListRow {
     std::string name;
     /// Key of the image.
     std::string icon;
+    /// What is to be said about the file, a line each; mostly empty.
+    std::string remarks = {};
 
     bool operator==(const FileListRow&) const = default;
 };
@@ -59,6 +61,10 @@ struct SummaryRow {
     bool edited = false;
     /// Says so in words, with the measured value.
     std::string note = {};
+    /// A remark on the file, not a figure: a sentence.
+    bool isRemark = false;
+    /// A figure that counts values that cannot be; `value` ends with a mark.
+    bool isDoubtful = false;
 
     bool operator==(const SummaryRow&) const = default;
 };

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <string>
+#include <utility>
 
 #include "base/numbers.h"
 #include "base/paths.h"
@@ -31,15 +32,6 @@ KindNames namesOf(WorkKind kind) {
         break;
     }
     return {"Hect. Trabajadas: ", "unid/hect"};
-}
-
-bool hasFix(const RptFile& file) {
-    for (std::size_t i = 0; i < file.recordCount(); ++i) {
-        if (isFix(file.record(i).position)) {
-            return true;
-        }
-    }
-    return false;
 }
 
 void addDoseEntries(const RptFile& file, const ReportSurvey& survey, const UserLocale& locale,
@@ -74,6 +66,23 @@ void fillSummary(const RptFile& file, const ReportSurvey& survey, std::string_vi
     summary.addProperty(summary_name::kDuration, numberText(roundToInt32(minutes)), "min");
 }
 
+void addRemarks(const RptFile& file, const ReportSurvey& survey, const UserLocale& locale,
+                FileGphGroup& group) {
+    if (const std::size_t bytes = file.cutBytes(); bytes > 0) {
+        group.addRemark(
+            {TextId::RemarkCutRecord, {numberText(bytes), numberText(file.recordSize())}});
+    }
+    if (survey.withoutPosition.count > 0) {
+        group.addRemark(survey.withoutPosition.remark(TextId::RemarkNoPosition));
+    }
+    if (survey.farRecords.count > 0) {
+        Remark remark = survey.farRecords.remark(TextId::RemarkFarRecords);
+        remark.arguments.push_back(numberText(kReportLimits.glitch / 1000));
+        group.addRemark(std::move(remark));
+    }
+    tellBounds(survey.bounds, locale, group);
+}
+
 }  // namespace
 
 std::optional<LoadedWork> readRptFile(std::string_view path, const FileBytes& bytes,
@@ -85,8 +94,13 @@ std::optional<LoadedWork> readRptFile(std::string_view path, const FileBytes& by
             MessageIcon::Error, context.texts(TextId::ProgramName));
         return std::nullopt;
     }
-    if (!hasFix(file)) {
+    LoadedWork work = startWork(path);
+    ReportSurvey survey = surveyReport(file, work.ranges);
+    if (!survey.start) {
         return refuseWithoutPoints(path, context);
+    }
+    if (const std::optional<Failure> refusal = survey.check.refusal()) {
+        throw FormatError(*refusal);
     }
     if (file.form() == RptFile::Form::FourFields) {
         const std::optional<float> swath = askSwath(path, context);
@@ -94,9 +108,8 @@ std::optional<LoadedWork> readRptFile(std::string_view path, const FileBytes& by
             return std::nullopt;
         }
         file.setSwath(*swath);
+        survey = surveyReport(file, work.ranges);
     }
-    LoadedWork work = startWork(path);
-    const ReportSurvey survey = surveyReport(file, work.ranges);
     addPasses(*work.group, survey.placements, [&](std::size_t i) { return file.record(i); });
     if (survey.alarmsAreCounter) {
         work.group->clearAlarmas();
@@ -104,6 +117,7 @@ std::optional<LoadedWork> readRptFile(std::string_view path, const FileBytes& by
     work.group->icon = "rptfile";
     work.kind = file.workKind();
     fillSummary(file, survey, path, context.locale, work.group->File_resumen());
+    addRemarks(file, survey, context.locale, *work.group);
     return work;
 }
 

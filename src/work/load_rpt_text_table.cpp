@@ -10,6 +10,7 @@
 #include "model/shown_number.h"
 #include "work/pass_builder.h"
 #include "work/reader_tools.h"
+#include "work/report_survey.h"
 #include "work/rpt_text_table.h"
 
 namespace campora {
@@ -43,6 +44,8 @@ struct TableSums {
     double hectares = 0;
     double meanDose = 0;
     double meanSpeed = 0;  ///< km/h
+    BoundsCheck bounds;
+    ReportCheck check;
 };
 
 TableSums sumUp(const std::vector<ReportRecord>& records) {
@@ -54,6 +57,8 @@ TableSums sumUp(const std::vector<ReportRecord>& records) {
     for (const auto& [position, fields] : records) {
         const Placement placement = splitter.place(position, fields.swath);
         sums.placements.push_back(placement);
+        checkValues(position, fields, sums.placements.size(), sums.bounds);
+        sums.check.addKept(position);
         if (isStep(placement)) {
             doses += fields.real[0];
             speeds += fields.speed;
@@ -95,18 +100,30 @@ std::optional<LoadedWork> readRptTextTable(std::string_view path, const FileByte
     if (!swath) {
         return std::nullopt;
     }
-    const std::vector<ReportRecord> records =
+    const TableRecords decoded =
         decodeRecords(table.records, *form, context.locale.decimalSymbol(), *swath);
+    const std::vector<ReportRecord>& records = decoded.records;
     if (records.empty()) {
         return refuseWithoutPoints(path, context);
     }
     LoadedWork work = startWork(path);
-    const TableSums sums = sumUp(records);
+    TableSums sums = sumUp(records);
+    sums.check.addDropped(decoded.offGlobe.count);
+    if (const std::optional<Failure> refusal = sums.check.refusal()) {
+        throw FormatError(*refusal);
+    }
     addPasses(*work.group, sums.placements, [&](std::size_t i) { return records[i]; });
     for (const ReportRecord& record : records) {
         extend(work.ranges.dose, static_cast<float>(record.fields.real[0]));
     }
     fillSummary(records, sums, path, context.locale, work.group->File_resumen());
+    if (decoded.offGlobe.count > 0) {
+        work.group->addRemark(decoded.offGlobe.remark(TextId::RemarkOffGlobe));
+    }
+    if (decoded.unreadFrom > 0) {
+        work.group->addRemark({TextId::RemarkRestUnread, {numberText(decoded.unreadFrom)}});
+    }
+    tellBounds(sums.bounds, context.locale, *work.group);
     return work;
 }
 

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "base/encoding.h"
+#include "base/file_head.h"
 #include "base/numbers.h"
 #include "base/paths.h"
 #include "base/text.h"
@@ -14,6 +15,7 @@
 #include "work/reader_tools.h"
 #include "work/summary_file.h"
 #include "work/track_file.h"
+#include "work/value_bounds.h"
 
 namespace campora {
 
@@ -22,10 +24,17 @@ namespace {
 /// A line that is something else must not fill the screen.
 constexpr std::size_t kMostVersionLetters = 40;
 
+/// Empty in an empty file.
+std::string_view firstLineOf(std::string_view text) {
+    std::string_view line;
+    static_cast<void>(TextLines(text).next(line));
+    return line;
+}
+
 /// Adds a track for every pass; widens the ranges of flow and litres per hectare. Whether a point
 /// without flow is among them.
 bool addTracks(const TrackFile& file, const std::shared_ptr<const LoggerSource>& source,
-               LoadedWork& work) {
+               LoadedWork& work, BoundsCheck& bounds) {
     bool hasFlowStops = false;
     for (std::size_t pass = 0; pass < file.passStarts.size(); ++pass) {
         const std::size_t begin = file.passStarts[pass];
@@ -35,6 +44,9 @@ bool addTracks(const TrackFile& file, const std::shared_ptr<const LoggerSource>&
         track->reserve(end - begin);
         for (std::size_t i = begin; i < end; ++i) {
             const TrackPoint& point = file.points[i];
+            bounds.check(BoundedValue::Swath, file.header.swath, i + 1, point.position);
+            bounds.check(BoundedValue::Flow, point.flow, i + 1, point.position);
+            bounds.check(BoundedValue::Speed, point.speed, i + 1, point.position);
             const TrackDataNBR record(point.flow, point.speed, file.header.swath, source);
             extend(work.ranges.flow, point.flow);
             extend(work.ranges.litres, record.litrosH());
@@ -54,6 +66,24 @@ std::string displayName(std::string_view path, const TrackHeader& header,
         name.append(" (").append(registration).append(")");
     }
     return header.order == "0" ? name : header.order + " - " + name;
+}
+
+void addRemarks(const TrackFile& file, const BoundsCheck& bounds, const UserLocale& locale,
+                FileGphGroup& group) {
+    if (file.shortLines.count > 0) {
+        group.addRemark(file.shortLines.remark(TextId::RemarkShortLines));
+    }
+    if (file.offGlobe.count > 0) {
+        group.addRemark(file.offGlobe.remark(TextId::RemarkOffGlobe));
+    }
+    bounds.tell(group, locale);
+    FileProperties& summary = group.File_resumen();
+    for (const FileProperty& entry : summary.entries()) {
+        // The console's own sums; which of them counted the value it does not say.
+        if (bounds.foundAny() && !trim(entry.unit).empty()) {
+            summary.markDoubtful(entry.property);
+        }
+    }
 }
 
 }  // namespace
@@ -76,10 +106,7 @@ float readTrackHeader(std::string_view firstLine, std::string_view path, Dialogs
 
 std::optional<LoadedWork> readTrackFile(std::string_view path, const FileBytes& bytes,
                                         const WorkReaderContext& context) {
-    std::string_view firstLine;
-    TextLines lines(bytes.text());
-    static_cast<void>(lines.next(firstLine));  // of an empty file it stays empty
-    if (readTrackHeader(firstLine, path, context.dialogs, context.texts) == 0) {
+    if (readTrackHeader(firstLineOf(bytes.text()), path, context.dialogs, context.texts) == 0) {
         return std::nullopt;
     }
     const TrackFile file = decodeTrackFile(bytes.text());
@@ -90,19 +117,30 @@ std::optional<LoadedWork> readTrackFile(std::string_view path, const FileBytes& 
     const std::string registration = context.registrations.registrationOf(header.serial);
     LoadedWork work = startWork(path);
     FileGphGroup& group = *work.group;
+    BoundsCheck bounds;
     work.hasFlowStops = addTracks(file,
                                   std::make_shared<LoggerSource>(
                                       LoggerSource{header.serial, std::string(path), registration}),
-                                  work);
+                                  work, bounds);
     group.icon = "nbrfile";
     group.name = displayName(path, header, registration);
     group.id = lowerCase(header.serial) + '-' + header.startTime + '-' + header.date;
     group.priority = static_cast<std::int32_t>(file.lines - 1);
     loadSummaryFile(findIgnoringCase(companionNames(path).summaryPath), group.File_resumen());
+    addRemarks(file, bounds, context.locale, group);
     return work;
 }
 
 std::optional<LoadedWork> loadTrackFile(std::string_view path, const WorkReaderContext& context) {
+    // What is no track file shows it in its first line, and need not be read to its end.
+    constexpr std::size_t kHeadBytes = 4096;
+    if (const std::optional<std::string> head = readFileHead(path, kHeadBytes)) {
+        const std::string_view line = firstLineOf(*head);
+        if (trackVersion(line).number == 0) {
+            static_cast<void>(readTrackHeader(line, context.dialogs, context.texts));
+            return std::nullopt;
+        }
+    }
     return openWork(path, context, readTrackFile);
 }
 

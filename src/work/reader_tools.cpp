@@ -47,6 +47,21 @@ void refuseAnswer(TextId why, const std::string& answer, std::string_view path,
     reportFailure(because(TextId::FileCannotBeRead, {std::string(path)}, {why, {answer}}), context);
 }
 
+void tellBounds(const BoundsCheck& bounds, const UserLocale& locale, FileGphGroup& group) {
+    bounds.tell(group, locale);
+    FileProperties& summary = group.File_resumen();
+    for (const FileProperty& entry : summary.entries()) {
+        const bool isArea = entry.property.starts_with("Hect");
+        const bool isDose = entry.property.starts_with("Dosis");
+        const bool isSpeed = entry.property == summary_name::kSpeed;
+        if ((isArea && bounds.found(BoundedValue::Swath)) ||
+            (isDose && bounds.found(BoundedValue::Dose)) ||
+            (isSpeed && bounds.found(BoundedValue::Speed))) {
+            summary.markDoubtful(entry.property);
+        }
+    }
+}
+
 LoadedWork startWork(std::string_view path) {
     LoadedWork work;
     work.group = std::make_unique<FileGphGroup>();

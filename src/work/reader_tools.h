@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "base/files.h"
+#include "work/value_bounds.h"
 #include "work/work_reader.h"
 
 namespace campora {
@@ -42,6 +43,9 @@ void refuseAnswer(TextId why, const std::string& answer, std::string_view path,
 
 /// A group for the file, named after it.
 [[nodiscard]] LoadedWork startWork(std::string_view path);
+
+/// A remark for each kind of value beyond its bound, and a mark on the figures that count them.
+void tellBounds(const BoundsCheck& bounds, const UserLocale& locale, FileGphGroup& group);
 
 /// Asks for the swath width of a file that has none: a whole number of metres, at most 200. None
 /// when the user cancels, gives no answer, or one that is no width, which is said.

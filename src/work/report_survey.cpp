@@ -10,7 +10,8 @@ namespace campora {
 namespace {
 
 /// Doses from here on are no doses: they count neither in sums nor in ranges.
-constexpr int kLeastImpossibleDose = 5000;
+constexpr int kLeastImpossibleDose =
+    static_cast<int>(kValueBounds[static_cast<std::size_t>(BoundedValue::Dose)].greatest) + 1;
 
 /// Adds up the runs of a work; a gap of more than an hour, or back in time, ends a run.
 class RunningTime {
@@ -65,6 +66,22 @@ void addDoses(const TrackDataRPT::Fields& fields, ReportSurvey& survey, ValueRan
 
 }  // namespace
 
+void checkValues(LonLat position, const TrackDataRPT::Fields& fields, std::size_t record,
+                 BoundsCheck& bounds) {
+    bounds.check(BoundedValue::Swath, fields.swath, record, position);
+    bounds.check(BoundedValue::Speed, fields.speed, record, position);
+    for (std::size_t channel = 0; channel < fields.channels; ++channel) {
+        // One remark a record: a damaged record mostly has several such doses.
+        const std::int32_t real = fields.real[channel];
+        const std::int32_t spec = fields.spec[channel];
+        if (!isSound(BoundedValue::Dose, real) || !isSound(BoundedValue::Dose, spec)) {
+            bounds.check(BoundedValue::Dose, isSound(BoundedValue::Dose, real) ? spec : real,
+                         record, position);
+            return;
+        }
+    }
+}
+
 ReportSurvey surveyReport(const RptFile& file, ValueRanges& ranges) {
     ReportSurvey survey;
     survey.placements.assign(file.recordCount(), Placement::LeftOut);
@@ -74,6 +91,8 @@ ReportSurvey surveyReport(const RptFile& file, ValueRanges& ranges) {
     for (std::size_t i = 0; i < file.recordCount(); ++i) {
         const auto [position, fields] = file.record(i);
         if (!isFix(position)) {
+            survey.withoutPosition.add(i + 1);
+            survey.check.addDropped();
             continue;
         }
         survey.start = survey.start.value_or(i);
@@ -85,7 +104,14 @@ ReportSurvey surveyReport(const RptFile& file, ValueRanges& ranges) {
         time.add(day, fields.time);
         counter.add(fields.alarms);
         survey.placements[i] = splitter.place(position, fields.swath);
+        if (survey.placements[i] == Placement::LeftOut) {
+            survey.farRecords.add(i + 1);
+            survey.check.addDropped();
+            continue;
+        }
+        survey.check.addKept(position);
         survey.speedSum += isStep(survey.placements[i]) ? fields.speed : 0;
+        checkValues(position, fields, i + 1, survey.bounds);
     }
     survey.squareMetres = splitter.squareMetres();
     survey.steps = splitter.steps();

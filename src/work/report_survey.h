@@ -9,9 +9,12 @@
 #include <optional>
 #include <vector>
 
+#include "base/occurrences.h"
 #include "model/value_ranges.h"
 #include "work/pass_rules.h"
+#include "work/report_check.h"
 #include "work/rpt_file.h"
+#include "work/value_bounds.h"
 
 namespace campora {
 
@@ -28,6 +31,11 @@ struct ReportSurvey {
     std::int64_t steps = 0;
     /// Without the breaks of more than an hour.
     std::int64_t workingSeconds = 0;
+    /// Records without a position, and those that lie too far from the others; by their numbers.
+    Occurrences withoutPosition;
+    Occurrences farRecords;
+    BoundsCheck bounds;
+    ReportCheck check;
     /// Some loggers keep a running counter where others keep the alarms.
     bool alarmsAreCounter = false;
 
@@ -36,6 +44,10 @@ struct ReportSurvey {
         return steps == 0 ? 0 : sum / static_cast<double>(steps);
     }
 };
+
+/// Checks swath, speed and doses of a record on the map; `record`: its number in the file.
+void checkValues(LonLat position, const TrackDataRPT::Fields& fields, std::size_t record,
+                 BoundsCheck& bounds);
 
 /// Also widens the ranges of doses and dates.
 [[nodiscard]] ReportSurvey surveyReport(const RptFile& file, ValueRanges& ranges);

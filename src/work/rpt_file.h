@@ -39,6 +39,11 @@ public:
     [[nodiscard]] std::uint32_t version() const { return version_; }
 
     [[nodiscard]] std::size_t recordCount() const { return recordCount_; }
+    [[nodiscard]] std::size_t recordSize() const { return recordSize_; }
+    /// Bytes of a last record that is not whole.
+    [[nodiscard]] std::size_t cutBytes() const {
+        return (bytes_.size() - recordsAt_) % recordSize_;
+    }
     /// Record i, from 0 to `recordCount()` - 1; doses in whole units, its index in the file not
     /// set.
     [[nodiscard]] ReportRecord record(std::size_t i) const;

@@ -58,6 +58,12 @@ private:
     char symbol_;
 };
 
+std::optional<LonLat> positionOf(const LineNumbers& line) {
+    const std::optional<double> longitude = line.number(0);
+    const std::optional<double> latitude = line.number(1);
+    return longitude && latitude ? std::optional(LonLat{*longitude, *latitude}) : std::nullopt;
+}
+
 /// 0 to 255, the nearest one for what lies beyond.
 int byteValue(std::int32_t value) {
     return std::clamp(value, 0, 255);
@@ -108,29 +114,32 @@ RptTextTable splitTable(std::string_view text) {
     return {tabs + 1, text.substr(std::min(text.find('\n', end), text.size()))};
 }
 
-std::vector<ReportRecord> decodeRecords(std::string_view records, TableForm form,
-                                        char decimalSymbol, float swathMetres) {
+TableRecords decodeRecords(std::string_view records, TableForm form, char decimalSymbol,
+                           float swathMetres) {
     const std::size_t columns = form == TableForm::FourColumns ? kFourColumns : kEightColumns;
-    std::vector<ReportRecord> decoded;
+    // The records begin with the end of the headings' line, the second of the file.
+    constexpr std::size_t kLinesBefore = 1;
+    TableRecords decoded;
     TextLines lines(records);
     FieldTexts fields;
     for (std::string_view line; lines.next(line);) {
         if (trim(line).empty()) {
             continue;
         }
-        if (!splitFields(line, columns, fields)) {
+        const std::size_t lineNumber = lines.lineNumber() + kLinesBefore;
+        const std::optional<LonLat> position = splitFields(line, columns, fields)
+                                                   ? positionOf(LineNumbers(fields, decimalSymbol))
+                                                   : std::nullopt;
+        if (!position) {
+            decoded.unreadFrom = lineNumber;
             break;
+        }
+        if (std::abs(position->x) > 180 || std::abs(position->y) > 90) {
+            decoded.offGlobe.add(lineNumber);
+            continue;
         }
         const LineNumbers numbers(fields, decimalSymbol);
-        const std::optional<double> longitude = numbers.number(0);
-        const std::optional<double> latitude = numbers.number(1);
-        if (!longitude || !latitude) {
-            break;
-        }
-        if (std::abs(*longitude) <= 180 && std::abs(*latitude) <= 90) {
-            decoded.push_back(
-                {{*longitude, *latitude}, readFields(fields, numbers, form, swathMetres)});
-        }
+        decoded.records.push_back({*position, readFields(fields, numbers, form, swathMetres)});
     }
     return decoded;
 }

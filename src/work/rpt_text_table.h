@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/occurrences.h"
 #include "work/report_record.h"
 
 namespace campora {
@@ -29,12 +30,20 @@ enum class TableForm {
 /// Splits off title and headings; a text without them has no columns and no records.
 [[nodiscard]] RptTextTable splitTable(std::string_view text);
 
+/// What the lines of a table hold. Lines are numbered from the first of the file.
+struct TableRecords {
+    std::vector<ReportRecord> records;
+    /// Records with coordinates beyond 90 or 180 degrees, which are left out.
+    Occurrences offGlobe;
+    /// The line that ended the reading, 0 when all were read.
+    std::size_t unreadFrom = 0;
+};
+
 /// The records, up to a line with too few fields or without coordinates. Blank lines count for
-/// nothing, records whose coordinates are beyond 90 or 180 degrees are left out, and other fields
-/// that are no numbers give 0.
+/// nothing, and other fields than the coordinates that are no numbers give 0.
 /// `decimalSymbol`: of the lines whose longitude has no "."; `swathMetres`: where the form has
 /// none.
-[[nodiscard]] std::vector<ReportRecord> decodeRecords(std::string_view records, TableForm form,
-                                                      char decimalSymbol, float swathMetres);
+[[nodiscard]] TableRecords decodeRecords(std::string_view records, TableForm form,
+                                         char decimalSymbol, float swathMetres);
 
 }  // namespace campora

@@ -57,10 +57,14 @@ Offset offsetAt(std::size_t points, std::size_t i, LeftOfStep leftOfStep) {
     return leaves ? leftOfStep(i) : Offset{};
 }
 
+LonLat onGlobe(LonLat corner) {
+    return {std::clamp(corner.x, -180.0, 180.0), std::clamp(corner.y, -90.0, 90.0)};
+}
+
 SwathCorners cornersAt(LonLat point, Offset offset, double half, double cosine) {
     const double x = offset.x * half / cosine;
     const double y = offset.y * half;
-    return {{point.x + x, point.y + y}, {point.x - x, point.y - y}};
+    return {onGlobe({point.x + x, point.y + y}), onGlobe({point.x - x, point.y - y})};
 }
 
 double degreesOf(double metres) {

@@ -24,6 +24,7 @@ inline constexpr double kMitreLimit = 1.5;
 /// The corners at point `i` of a pass for a swath of `widthMetres`: square to the step at the ends,
 /// mitred between two steps. A mitre beyond `kMitreLimit` gives way to the arriving step's own
 /// perpendicular. The point alone is both corners when there is no step.
+/// No corner leaves the globe, however wide a damaged record makes the swath.
 /// Directions are taken in plain degrees; the width holds on the ground, east to west as well.
 [[nodiscard]] SwathCorners swathCorners(std::span<const LonLat> pass, std::size_t i,
                                         double widthMetres);

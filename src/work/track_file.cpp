@@ -40,15 +40,15 @@ constexpr std::size_t kLast = kSwath;
 /// speed.
 struct PointColumns {
     std::size_t offsetDigits;
+    /// A line needs this many characters; of the speed some or all may be missing.
+    std::size_t shortest;
     [[nodiscard]] std::size_t flowAt() const { return 2 * offsetDigits; }
     [[nodiscard]] std::size_t speedAt() const { return flowAt() + kValueDigits; }
-    /// A line needs this many characters; the speed may be missing.
-    [[nodiscard]] std::size_t shortest() const { return flowAt() + kValueDigits; }
 
     static constexpr std::size_t kValueDigits = 3;
 };
-constexpr PointColumns kColumnsBelow2{5};
-constexpr PointColumns kColumnsFrom2{7};
+constexpr PointColumns kColumnsBelow2{5, 13};
+constexpr PointColumns kColumnsFrom2{7, 18};
 
 constexpr double kOffsetsPerDegree = 1e6;
 constexpr double kLongestStep = 500;  // metres
@@ -92,16 +92,18 @@ public:
           reference_(reference),
           file_(file) {}
 
-    void read(std::string_view line) {
+    void read(std::string_view line, std::size_t lineNumber) {
         if (trim(line).empty()) {
             passEnded_ = true;
             return;
         }
-        if (line.size() < columns_.shortest()) {
+        if (line.size() < columns_.shortest) {
+            file_.shortLines.add(lineNumber);
             return;
         }
         const TrackPoint point = decode(line);
         if (std::abs(point.position.x) > 180 || std::abs(point.position.y) > 90) {
+            file_.offGlobe.add(lineNumber);
             return;
         }
         auto& points = file_.points;
@@ -114,7 +116,7 @@ public:
 
     /// No more points than these can stand in so many characters.
     [[nodiscard]] std::size_t mostPoints(std::size_t characters) const {
-        return characters / (columns_.shortest() + 1) + 1;
+        return characters / (columns_.shortest + 1) + 1;
     }
 
 private:
@@ -175,7 +177,7 @@ TrackFile decodeTrackFile(std::string_view text) {
     PointReader reader(trackVersion(header[header_line::kVersion]).number, reference, file);
     file.points.reserve(reader.mostPoints(text.size() - headerSize));
     for (std::string_view line; lines.next(line);) {
-        reader.read(line);
+        reader.read(line, lines.lineNumber());
     }
     file.lines = lines.lineNumber();
     return file;

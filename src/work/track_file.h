@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "base/lon_lat.h"
+#include "base/occurrences.h"
 
 namespace campora {
 
@@ -46,6 +47,9 @@ struct TrackFile {
     /// Lines of the whole file.
     std::size_t lines = 0;
     std::vector<TrackPoint> points;
+    /// What was skipped, by the numbers of the lines.
+    Occurrences shortLines;
+    Occurrences offGlobe;
     /// Index of each pass's first point, ascending; the first is 0 when there are points.
     std::vector<std::size_t> passStarts;
 };
@@ -53,9 +57,9 @@ struct TrackFile {
 /// A header of nine lines, then a point a line: longitude and latitude in millionths of a degree
 /// west and south of the reference in the header, flow and, from version 1.3 on, speed, all
 /// hexadecimal in fixed columns. A blank line and a leap of more than 500 metres end a pass. Lines
-/// that are too short, and points beyond 90 or 180 degrees, are skipped. A file that ends within
-/// its header has no points. `text`: the whole file, whose first line names a version. Throws
-/// `FormatError` (the line) when a reference coordinate or the swath width is no number.
+/// that are too short, and points beyond 90 or 180 degrees, are skipped and counted. A file that
+/// ends within its header has no points. `text`: the whole file, whose first line names a version.
+/// Throws `FormatError` (the line) when a reference coordinate or the swath width is no number.
 [[nodiscard]] TrackFile decodeTrackFile(std::string_view text);
 
 }  // namespace campora

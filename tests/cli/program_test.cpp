@@ -79,6 +79,24 @@ TEST(Program, TellsWhatIsInAFile) {
         std::string::npos);
 }
 
+TEST(Program, NotesWhatIsToBeSaidAboutAFileThatOpens) {
+    const TempFolder folder;
+    std::string bytes = reportBytes();
+    bytes[32 + 32 + 27] = 1;  // the highest byte of a swath
+    const std::string path = folder.write("lote.rpt", bytes + "xyz");
+    const Outcome outcome = run({"info", "--json", "--language", "en", path});
+    const std::string cut = "The last record is cut off and was not read: it has 3 bytes of 32";
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.boxes.find("note: " + path + ": " + cut + "\nnote: "), 0U) << outcome.boxes;
+    EXPECT_EQ(std::count(outcome.boxes.begin(), outcome.boxes.end(), '\n'), 2);
+    EXPECT_NE(outcome.out.find("\"remarks\": ["), std::string::npos);
+    EXPECT_NE(outcome.out.find("\"" + cut + "\","), std::string::npos);
+    EXPECT_EQ(outcome.out.find("(!)"), std::string::npos) << "values stay bare";
+    EXPECT_NE(run({"info", path}).out.find(" (!)\n"), std::string::npos);
+    EXPECT_EQ(run({"info", "--json", folder.write("sano.rpt", reportBytes())}).out.find("remarks"),
+              std::string::npos);
+}
+
 TEST(Program, AFileThatIsRefusedDoesNotStopTheOthers) {
     const TempFolder folder;
     const std::string good = folder.write("bueno.rpt", reportBytes());

@@ -29,7 +29,8 @@ json readJson(const std::string& path) {
     return json::parse(std::ifstream(path));
 }
 
-/// One run in the form of the expectation files: paths reduced to the name of the file.
+/// One run in the form of the expectation files: paths reduced to the name of the file, without
+/// what is remarked on the files.
 json run(const std::string& folder, const Words& files, const Words& options) {
     Words words = {"info", "--json", "--program-dir", folder};
     for (const std::string& file : files) {
@@ -44,13 +45,14 @@ json run(const std::string& folder, const Words& files, const Words& options) {
         replaceAll(replaceAll(boxes.str(), folder + "/copia/", ""), folder + "/", "");
     result["boxes"] = json::array();
     for (const std::string_view line : split(shortened, '\n')) {
-        if (!line.empty()) {
+        if (!line.empty() && !line.starts_with("note: ")) {
             result["boxes"].push_back(line);
         }
     }
     result["output"] = json::parse(out.str());
     for (json& file : result["output"]["files"]) {
         file["path"] = fileNamePart(file["path"].get<std::string>());
+        file.erase("remarks");
     }
     return result;
 }

@@ -54,6 +54,23 @@ TEST_F(WindowTest, ShowsAnOpenedReport) {
     EXPECT_THAT(dialogs.messages, IsEmpty());
 }
 
+TEST_F(WindowTest, ShowsWhatIsToBeSaidAboutAFile) {
+    std::string bytes = contentOf(writeReport("lote.rpt"));
+    bytes[32 + 27] = 1;  // the highest byte of the first swath
+    open({folder.write("roto.rpt", bytes), writeReport("sano.rpt", 9000)});
+    const char* const remark = "con 167812.16 m, en (";
+    EXPECT_THAT(toUtf8(list().item(0)->toolTip()), HasSubstr(remark));
+    EXPECT_THAT(toUtf8(list().item(0)->data(Qt::AccessibleTextRole).toString()), HasSubstr(remark));
+    EXPECT_EQ(list().item(1)->toolTip(), plainToolTip("sano.rpt"));
+    const SummaryTable& summary = window->sidePanel().summary();
+    const QTreeWidgetItem& last = *summary.topLevelItem(summary.topLevelItemCount() - 1);
+    EXPECT_EQ(toUtf8(last.text(0)), "Observación");
+    EXPECT_THAT(toUtf8(last.text(1)), HasSubstr(remark));
+    const auto marked = summary.findItems("(!)", Qt::MatchContains, 1);
+    ASSERT_EQ(marked.size(), 1);
+    EXPECT_EQ(toUtf8(marked.front()->text(0)), "Hectáreas fumig: ");
+}
+
 TEST_F(WindowTest, OpenCommandReplacesWhatIsOpen) {
     open({writeReport("viejo.rpt")});
     dialogs.openAnswers.push_back({writeReport("nuevo.rpt")});

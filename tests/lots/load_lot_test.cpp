@@ -66,8 +66,7 @@ TEST_F(LoadLot, RefusesWhatIsNoLotWithAMessage) {
         {"empty", "", "no tiene ningún vértice"},
         {"only words", "Campo 1\r\nSoja", "no tiene ningún vértice"},
         {"no text at all", std::string("\0\xFF\x01,\0", 5), "no tiene ningún vértice"},
-        {"off the globe", "a\r\n1,2\r\n1,500\r\n",
-         "la línea 3 tiene una posición fuera del globo: 1,500"},
+        {"off the globe", "a\r\n1,500\r\n", "no tiene ningún vértice"},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
@@ -85,9 +84,13 @@ TEST_F(LoadLot, RefusesWhatIsNoLotWithAMessage) {
 }
 
 TEST_F(LoadLot, ALotOfTwoVerticesIsShownAsItIs) {
-    const auto file = load(folder.write("dos.lot", "1,2\r\n3,4\r\n"));
+    const auto file = load(folder.write("dos.lot", "2018,450\r\n1,2\r\n3,4\r\n"));
     ASSERT_NE(file, nullptr);
     EXPECT_EQ(file->File_resumen().value_(1), "0");
+    ASSERT_EQ(file->remarks().size(), 1U);
+    EXPECT_EQ(texts.sentence(file->remarks().front()),
+              "Líneas con dos números que no son una posición, leídas como descripción: 1; la "
+              "primera es la línea 1");
 }
 
 }  // namespace

@@ -147,5 +147,172 @@ TEST(DamagedFiles, FlippedBits) {
     }
 }
 
+RptBytes::Record fix(double east, double north) {
+    RptBytes::Record record;
+    record.position = fixAt(east, north);
+    return record;
+}
+
+/// A report of eight steps with `record` as its ninth.
+std::string reportWith(const RptBytes::Record& record) {
+    RptBytes report(1);
+    for (int i = 0; i < 8; ++i) {
+        report.add(fix(10 * i, 0));
+    }
+    report.add(record);
+    return report.bytes();
+}
+
+template <typename T>
+RptBytes::Record fixWith(T RptBytes::Record::*field, T value) {
+    RptBytes::Record record = fix(80, 0);
+    record.*field = value;
+    return record;
+}
+
+std::string trackWith(const TrackText& header, std::string_view line) {
+    TrackText track = header;
+    for (std::uint32_t i = 0; i < 3; ++i) {
+        track.addPoint(100 * i, 0, 20, 12);
+    }
+    track.add(line);
+    return track.bytes();
+}
+
+TEST(DamagedFiles, WhatOpensAllTheSameHasRemarks) {
+    using Record = RptBytes::Record;
+    TrackText newest;
+    newest.version = "2.0";
+    newest.west = "179.9";
+    TrackText wide;
+    wide.swath = "200.5";
+    struct Row {
+        const char* name;
+        Reader read;
+        std::string bytes;
+        std::vector<std::string> remarks;
+        std::vector<std::string> doubtful;
+    };
+    const Row rows[] = {
+        {"sound", &WorkReading::report, reportWith(fix(80, 0)), {}, {}},
+        {"at the bounds",
+         &WorkReading::report,
+         reportWith(fixWith(&Record::swathCm, 20000)),
+         {},
+         {}},
+        {"cut off",
+         &WorkReading::report,
+         reportWith(fix(80, 0)) + "\1\2\3",
+         {"El último registro está cortado y no se leyó: tiene 3 bytes de 32"},
+         {}},
+        {"no position",
+         &WorkReading::report,
+         reportWith(Record{}),
+         {"Registros sin una posición válida, que no se leyeron: 1; el primero es el registro 9"},
+         {}},
+        {"far away",
+         &WorkReading::report,
+         reportWith(fix(99000, 0)),
+         {"Registros a más de 10 km de los demás, que no se muestran: 1; el primero es el "
+          "registro 9"},
+         {}},
+        {"swath",
+         &WorkReading::report,
+         reportWith(fixWith(&Record::swathCm, 20001)),
+         {"Registros con un ancho de trabajo fuera de 0 a 200 m: 1; el primero es el registro 9, "
+          "con 200.01 m, en (0.009702; 0.008983)"},
+         {"Hectáreas fumig: "}},
+        {"negative swath",
+         &WorkReading::report,
+         reportWith(fixWith(&Record::swathCm, -1)),
+         {"Registros con un ancho de trabajo fuera de 0 a 200 m: 1; el primero es el registro 9, "
+          "con -0.01 m, en (0.009702; 0.008983)"},
+         {"Hectáreas fumig: "}},
+        {"speed",
+         &WorkReading::report,
+         reportWith(fixWith(&Record::speedTenths, 4001)),
+         {"Registros con una velocidad fuera de 0 a 400 km/h: 1; el primero es el registro 9, con "
+          "400.1 km/h, en (0.009702; 0.008983)"},
+         {"Vel Promedio:"}},
+        {"specified dose",
+         &WorkReading::report,
+         reportWith(fixWith(&Record::spec, std::array<std::int32_t, 4>{5000})),
+         {"Registros con una dosis fuera de 0 a 4999: 1; el primero es el registro 9, con 5000, "
+          "en (0.009702; 0.008983)"},
+         {"Dosis Prom.: "}},
+        {"table: off the globe, and a line cut off",
+         &WorkReading::table,
+         sampleTable() + "-61.2\t-90.1\t1\t1\t1\t0\t3086\t10:20:00\n-61.2\t-34",
+         {"Líneas con una posición de más de 180 grados de longitud o 90 de latitud, que no se "
+          "leyeron: 1; la primera es la línea 15",
+          "La línea 16 no se puede leer; ni ella ni lo que sigue se leyó"},
+         {}},
+        {"track: a line of 17 characters",
+         &WorkReading::track,
+         trackWith(newest, "00000640000000014"),
+         {"Líneas demasiado cortas, que no se leyeron: 1; la primera es la línea 13"},
+         {}},
+        {"track: off the globe",
+         &WorkReading::track,
+         trackWith(newest, "00FFFFF000000001400C"),
+         {"Líneas con una posición de más de 180 grados de longitud o 90 de latitud, que no se "
+          "leyeron: 1; la primera es la línea 13"},
+         {}},
+        {"track: flow and swath",
+         &WorkReading::track,
+         trackWith(wide, "0012C00000FFF00C"),
+         {"Registros con un ancho de trabajo fuera de 0 a 200 m: 4; el primero es el registro 1, "
+          "con 200.5 m, en (-60.5; -31.5)",
+          "Registros con un caudal fuera de 0 a 3000 litros por minuto: 1; el primero es el "
+          "registro 4, con 4095, en (-60.5003; -31.5)"},
+         {}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        WorkReading reading;
+        const LoadedWork work = (reading.*row.read)(row.bytes).value();
+        std::vector<std::string> remarks;
+        for (const Remark& remark : work.group->remarks()) {
+            remarks.push_back(reading.texts.sentence(remark));
+        }
+        EXPECT_EQ(remarks, row.remarks);
+        std::vector<std::string> doubtful;
+        for (const FileProperty& entry : work.group->File_resumen().entries()) {
+            if (work.group->File_resumen().isDoubtful(entry.property)) {
+                doubtful.push_back(entry.property);
+            }
+        }
+        EXPECT_EQ(doubtful, row.doubtful);
+    }
+}
+
+TEST(DamagedFiles, BytesThatArePlainlyNoReportAreRefused) {
+    using Stays = std::vector<std::pair<LonLat, int>>;
+    const auto reportOf = [](const Stays& stays) {
+        RptBytes report(1);
+        for (const auto& [position, records] : stays) {
+            for (int i = 0; i < records; ++i) {
+                report.add({.position = position});
+            }
+        }
+        return report.bytes();
+    };
+    EXPECT_TRUE(WorkReading().report(reportOf({{{1, 1}, 8}, {{0, 0}, 8}})));
+    EXPECT_TRUE(WorkReading().report(reportOf({{{179.9, 1}, 4}, {{-179.9, 1}, 4}}))) << "date line";
+    const std::pair<std::string, TextId> rows[] = {
+        {reportOf({{{1, 1}, 8}, {{0, 0}, 9}}), TextId::NotAReportDropped},
+        {reportOf({{{1, 1}, 4}, {{1, 21.1}, 4}}), TextId::NotAReportSpan},
+        {reportOf({{{1, 1}, 4}, {{21.1, 1}, 4}}), TextId::NotAReportSpan},
+    };
+    for (const auto& [bytes, text] : rows) {
+        try {
+            static_cast<void>(WorkReading().report(bytes));
+            ADD_FAILURE() << "taken";
+        } catch (const FormatError& error) {
+            EXPECT_EQ(error.failure().text, text);
+        }
+    }
+}
+
 }  // namespace
 }  // namespace campora

@@ -117,11 +117,12 @@ TEST(LoadRptFile, RecordsWithoutAPositionCountForNothing) {
         lost.time.date.year = 2030;
         report.add(lost);
     }
-    report.add(at(0, 0, 800));
-    report.add(at(10, 0, 800));
+    for (const double east : {0, 10, 20, 30}) {
+        report.add(at(east, 0, 800));
+    }
     const LoadedWork work = WorkReading().report(report.bytes()).value();
-    EXPECT_THAT(pointCounts(work), ElementsAre(2));
-    EXPECT_EQ(summaryValue(work, "Dosis Prom.: "), "160");
+    EXPECT_THAT(pointCounts(work), ElementsAre(4));
+    EXPECT_EQ(summaryValue(work, "Dosis Prom.: "), "107");
     EXPECT_EQ(work.ranges.dose, (ValueRange<float>{80, 80}));
     EXPECT_EQ(work.ranges.date, (ValueRange<std::int32_t>{43164, 43164}));
 }

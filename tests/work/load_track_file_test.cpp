@@ -69,8 +69,8 @@ TEST(LoadTrackFile, ReadsOffsetsFlowAndSpeedByVersion) {
         {"largest offsets", "1.3", "FFFFFFFFFFFFFFFF", 0xFFFFF, 0xFFFFF, 4095, 4095},
         {"pairs are read on their own", "1.3", "x1FG4x0D0F0xAx09", 0x1F00, 0xD0F, 0, 0},
         {"wide offsets from 2 on", "2.0", "00001F80002C15071008", 504, 0x2C15, 0x071, 8},
-        {"17 characters", "2.0", "00001F80002C15071", 504, 0x2C15, 0x071, 0},
-        {"16 characters", "2.0", "00001F80002C1507", -1, -1, 0, 0},
+        {"18 characters", "2.0", "00001F80002C150711", 504, 0x2C15, 0x071, 1},
+        {"17 characters", "2.0", "00001F80002C15071", -1, -1, 0, 0},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);

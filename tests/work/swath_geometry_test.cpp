@@ -52,6 +52,17 @@ TEST(SwathGeometry, CornersStandSquareToOneStepAndAreMitredBetweenTwo) {
     }
 }
 
+TEST(SwathGeometry, NoCornerLeavesTheGlobe) {
+    constexpr double kDamaged = 40'000'000;
+    for (const LonLat at : {LonLat{179.9999, 10}, LonLat{-60, 89.9999}, LonLat{10, 90}}) {
+        const std::vector<LonLat> pass{at, {at.x - 0.001, at.y - 0.001}};
+        for (const LonLat& corner : swathQuad(pass, 0, kDamaged)) {
+            EXPECT_LE(std::abs(corner.x), 180);
+            EXPECT_LE(std::abs(corner.y), 90);
+        }
+    }
+}
+
 TEST(SwathGeometry, MitresReachOneAndAHalfSwathWidths) {
     // The mitre of a turn by t is 1 / cos(t / 2) half widths long: three of them at 141.06 degrees.
     const auto leftOffset = [](double turnDegrees) {
