@@ -9,7 +9,6 @@
 #include "app/file_loading.h"
 #include "app/files_behind.h"
 #include "app/load_project.h"
-#include "app/project_file.h"
 #include "app/save_target.h"
 #include "app/session.h"
 #include "app/settings.h"
@@ -68,7 +67,7 @@ void FileCommands::preview(const std::vector<std::string>& selected) {
     std::vector<std::string> files;
     for (const std::string& path : selected) {
         if (!isFolder(path)) {  // to open one means to go into it
-            const std::vector<std::string> behind = filesOf(path, quiet);
+            const std::vector<std::string> behind = filesOf(path, quiet).files;
             files.insert(files.end(), behind.begin(), behind.end());
         }
     }
@@ -82,17 +81,17 @@ void FileCommands::showShapeKind(const std::vector<std::string>& selected) {
     session_.platform().window.setToolText(kind ? session_.texts()(*kind) : "");
 }
 
-std::vector<std::string> FileCommands::filesOf(const std::string& path, Dialogs& dialogs) const {
+FileCommands::Behind FileCommands::filesOf(const std::string& path, Dialogs& dialogs) const {
     const Texts& texts = session_.texts();
     if (auto project = filesOfProject(path, session_.programFolder(), dialogs, texts)) {
-        return std::move(project->paths);
+        return {std::move(project->paths), true};
     }
     std::vector<std::string> files = filesBehind(path);
     if (files.empty()) {
         dialogs.message(std::string(texts(TextId::FolderWithoutFiles)) + path,
                         MessageIcon::Exclamation, texts(TextId::ProgramName));
     }
-    return files;
+    return {std::move(files), false};
 }
 
 bool FileCommands::openPaths(const std::vector<std::string>& paths, bool resetFirst) {
@@ -100,9 +99,9 @@ bool FileCommands::openPaths(const std::vector<std::string>& paths, bool resetFi
     std::vector<std::string> files;
     std::vector<std::string> projects;
     for (const std::string& path : paths) {
-        const std::vector<std::string> behind = filesOf(path, platform.dialogs);
-        files.insert(files.end(), behind.begin(), behind.end());
-        if (isProject(path)) {
+        const Behind behind = filesOf(path, platform.dialogs);
+        files.insert(files.end(), behind.files.begin(), behind.files.end());
+        if (behind.isProject) {
             projects.push_back(path);
         }
     }

@@ -48,7 +48,11 @@ private:
     /// What a shapefile selected alone holds, in the status bar.
     void showShapeKind(const std::vector<std::string>& selected);
     /// The files that a path stands for: those of a project, those in a folder, itself.
-    [[nodiscard]] std::vector<std::string> filesOf(const std::string& path, Dialogs& dialogs) const;
+    struct Behind {
+        std::vector<std::string> files;
+        bool isProject = false;
+    };
+    [[nodiscard]] Behind filesOf(const std::string& path, Dialogs& dialogs) const;
 
     Session& session_;
     RecentFiles recent_;

@@ -7,13 +7,13 @@
 #include <system_error>
 
 #include "base/paths.h"
+#include "base/time_limit.h"
 
 namespace campora {
 
-std::optional<std::string> readFileHead(std::string_view path, std::size_t bytes) {
-    if (path.find('\0') != std::string_view::npos) {
-        return std::nullopt;
-    }
+namespace {
+
+std::optional<std::string> readHeadWaiting(const std::string& path, std::size_t bytes) {
     const std::filesystem::path file = nativePath(path);
     std::error_code error;
     if (!std::filesystem::is_regular_file(file, error)) {
@@ -29,6 +29,16 @@ std::optional<std::string> readFileHead(std::string_view path, std::size_t bytes
     }
     head.resize(static_cast<std::size_t>(in.gcount()));
     return head;
+}
+
+}  // namespace
+
+std::optional<std::string> readFileHead(std::string_view path, std::size_t bytes) {
+    if (path.find('\0') != std::string_view::npos) {
+        return std::nullopt;
+    }
+    return withinLimit([path = std::string(path), bytes] { return readHeadWaiting(path, bytes); })
+        .value_or(std::nullopt);
 }
 
 }  // namespace campora

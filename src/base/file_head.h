@@ -11,7 +11,7 @@
 namespace campora {
 
 /// The first bytes of an ordinary file, all of a shorter one; nothing beyond them is read. None
-/// when the file cannot be read.
+/// when the file cannot be read, or its disk does not answer within `kLongestWait`.
 [[nodiscard]] std::optional<std::string> readFileHead(std::string_view path, std::size_t bytes);
 
 }  // namespace campora

@@ -3,17 +3,21 @@
 
 #include "base/files.h"
 
+#include <algorithm>
 #include <array>
+#include <atomic>
 #include <cerrno>
 #include <cstdint>
 #include <cstdio>
 #include <filesystem>
+#include <memory>
 #include <system_error>
 
 #include "base/file_access.h"
 #include "base/file_draft.h"
 #include "base/paths.h"
 #include "base/set_journal.h"
+#include "base/time_limit.h"
 
 namespace campora {
 
@@ -34,15 +38,25 @@ std::size_t readSome(std::FILE* file, std::size_t size, char* bytes) {
     return got;
 }
 
-/// Reads to the end; `expected` bytes are asked for at once. False with errno set on an error.
-bool readAll(std::FILE* file, std::size_t expected, std::string& content) {
+/// How much is asked for at once: a slow network gets this far within the time limit.
+constexpr std::size_t kPiece = std::size_t{4} << 20U;
+
+/// Reads to the end, adding to `progress`; `expected` bytes are made room for at once. False with
+/// errno set on an error.
+bool readAll(std::FILE* file, std::size_t expected, std::atomic<std::size_t>& progress,
+             std::string& content) {
     std::setvbuf(file, nullptr, _IONBF, 0);  // straight into `content`
     errno = 0;
     content.resize(expected);
-    content.resize(readSome(file, expected, content.data()));
+    std::size_t size = 0;
+    for (std::size_t got = 1; got > 0 && size < expected; progress += got) {
+        got = readSome(file, std::min(kPiece, expected - size), content.data() + size);
+        size += got;
+    }
+    content.resize(size);
     // What was appended meanwhile, and files that the system makes up as they are read.
     std::array<char, 65536> more;
-    for (std::size_t got = 1; got > 0 && content.size() < kMostBytes;) {
+    for (std::size_t got = 1; got > 0 && content.size() < kMostBytes; progress += got) {
         got = readSome(file, more.size(), more.data());
         content.append(more.data(), got);
     }
@@ -55,9 +69,7 @@ std::optional<Failure> whyUnsettled(const fs::path& file) {
     return settle(linkedFile(file, ignored));
 }
 
-}  // namespace
-
-Result<FileBytes> readFile(std::string_view path) {
+Result<FileBytes> readWaiting(const std::string& path, std::atomic<std::size_t>& progress) {
     constexpr TextId kWhat = TextId::FileCannotBeRead;
     const Result<fs::path> file = ordinaryFile(kWhat, path);
     if (!file) {
@@ -79,10 +91,23 @@ Result<FileBytes> readFile(std::string_view path) {
         return fileFailure(kWhat, path, TextId::FileTooLarge);
     }
     std::string content;
-    if (!readAll(stream.get(), static_cast<std::size_t>(size), content)) {
+    if (!readAll(stream.get(), static_cast<std::size_t>(size), progress, content)) {
         return fileFailure(kWhat, path, lastError());
     }
     return FileBytes(std::move(content));
+}
+
+}  // namespace
+
+Result<FileBytes> readFile(std::string_view path) {
+    auto progress = std::make_shared<std::atomic<std::size_t>>(0);
+    std::optional<Result<FileBytes>> file =
+        withinLimit([path = std::string(path), progress] { return readWaiting(path, *progress); },
+                    [progress] { return progress->load(); });
+    if (!file) {
+        return fileFailure(TextId::FileCannotBeRead, path, TextId::FileDoesNotAnswer);
+    }
+    return std::move(*file);
 }
 
 bool canOpen(std::string_view path) {

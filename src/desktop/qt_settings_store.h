@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <optional>
+
 #include <QSettings>
 
 #include "platform/settings_store.h"
@@ -20,7 +22,8 @@ public:
     void write(std::string_view key, std::string_view value) override;
 
 private:
-    QSettings settings_;
+    /// None when its file is no ordinary one: then nothing is known and nothing is kept.
+    std::optional<QSettings> settings_;
 };
 
 }  // namespace campora

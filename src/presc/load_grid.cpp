@@ -3,8 +3,11 @@
 
 #include "presc/load_grid.h"
 
+#include <cstddef>
+#include <optional>
 #include <string>
 
+#include "base/file_head.h"
 #include "presc/gph_pre.h"
 #include "presc/gph_vrt.h"
 
@@ -15,6 +18,10 @@ namespace {
 void tell(const Failure& failure, const GridReaderContext& context) {
     context.dialogs.message(context.texts.sentence(failure), MessageIcon::Error,
                             context.texts(TextId::WrongFileFormat));
+}
+
+bool isGrid(const FileBytes& head) {
+    return isVrtFile(head.bytes()) || isPreFile(head.bytes());
 }
 
 }  // namespace
@@ -33,6 +40,13 @@ std::unique_ptr<GridLayer> readGrid(std::string_view path, const FileBytes& file
 }
 
 std::unique_ptr<GridLayer> loadGrid(std::string_view path, const GridReaderContext& context) {
+    // Any file at all may be offered: a film is not to be read to its end before it is refused.
+    constexpr std::size_t kHeadBytes = 64;
+    const std::optional<std::string> head = readFileHead(path, kHeadBytes);
+    if (head && !isGrid(FileBytes(*head))) {
+        tell({TextId::FileNotCompatibleNamed, {std::string(path)}}, context);
+        return nullptr;
+    }
     const Result<FileBytes> file = readFile(path);
     if (!file) {
         tell(file.failure(), context);

@@ -137,7 +137,7 @@ std::optional<LoadedWork> loadTrackFile(std::string_view path, const WorkReaderC
     if (const std::optional<std::string> head = readFileHead(path, kHeadBytes)) {
         const std::string_view line = firstLineOf(*head);
         if (trackVersion(line).number == 0) {
-            static_cast<void>(readTrackHeader(line, context.dialogs, context.texts));
+            static_cast<void>(readTrackHeader(line, path, context.dialogs, context.texts));
             return std::nullopt;
         }
     }

@@ -115,5 +115,47 @@ TEST(LoadProject, ProjectsInProjectsAreReadOnce) {
     EXPECT_THAT(desk.dialogs.messages, IsEmpty());
 }
 
+TEST(LoadProject, OtherComputersAreAskedAboutOnceBeforeTheyAreTouched) {
+    for (const bool yes : {false, true}) {
+        SessionDesk desk;
+        desk.report("lote.rpt");
+        const std::string project = desk.folder.write(
+            "campo.fsp", std::string(kHeader) + "\\\\Galpon\\a\\1.rpt\r\n/lote.rpt\r\n"
+                                                "\\\\galpon\\b\\2.rpt\r\n");
+        desk.session.start();
+        desk.dialogs.yesNoAnswers = {yes};
+        EXPECT_TRUE(loadProject(desk.session, project));
+        EXPECT_EQ(desk.listed(), Names{"lote.rpt"});
+        EXPECT_THAT(desk.dialogs.questions,
+                    ElementsAre("Question|Campora|" + project +
+                                " nombra archivos de otra computadora, galpon.\nSi no está "
+                                "conectada, la espera puede ser larga. ¿Buscarlos ahí?"));
+        if (yes) {
+            EXPECT_EQ(desk.dialogs.messages.size(), 2U) << "one a file that is missing";
+        } else {
+            EXPECT_THAT(
+                desk.dialogs.messages,
+                ElementsAre("Exclamation|Campora|Archivos de galpon que no se buscaron: 2"));
+        }
+    }
+}
+
+TEST(LoadProject, ACancelledSearchOpensNothingAndSaysWhatWasLeft) {
+    SessionDesk desk;
+    desk.report("lote.rpt");
+    std::string lines = "/lote.rpt\r\n";
+    for (int i = 0; i < 999; ++i) {
+        lines += "# falta\r\n/lote.rpt\r\n";
+    }
+    const std::string project = desk.folder.write("campo.fsp", std::string(kHeader) + lines);
+    desk.session.start();
+    desk.dialogs.cancelAfter = 2;
+    EXPECT_TRUE(loadProject(desk.session, project));
+    EXPECT_THAT(desk.listed(), IsEmpty());
+    EXPECT_THAT(desk.dialogs.messages,
+                ElementsAre("Exclamation|Campora|La apertura del proyecto se canceló. Archivos que "
+                            "no se buscaron: 744"));
+}
+
 }  // namespace
 }  // namespace campora

@@ -3,12 +3,21 @@
 
 #include "base/folder_files.h"
 
+#include <atomic>
+#include <chrono>
+#include <future>
+#include <memory>
+#include <optional>
 #include <string>
+#include <thread>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
 
+#include "base/folder_looks.h"
 #include "base/paths.h"
+#include "base/time_limit.h"
 #include "support/temp_folder.h"
 
 namespace campora {
@@ -29,6 +38,49 @@ TEST(FolderFiles, GoByTheirNamesWithoutRegardToCase) {
     EXPECT_EQ(filesIn(folder.path() + "/", all).size(), 5U);
     EXPECT_TRUE(filesIn(folder.file("falta"), all).empty());
     EXPECT_TRUE(filesIn(folder.file("a.txt"), all).empty());
+}
+
+TEST(FolderLooks, FindWhatTheFolderHeldWithoutRegardToCase) {
+    const TempFolder folder;
+    for (const char* name : {"Lote.rpt", "LOTE.RPT", "otro.rpt", "dentro/d.txt"}) {
+        folder.write(name, "");
+    }
+    const std::pair<std::string, std::string> rows[] = {
+        {"Lote.rpt", "Lote.rpt"},
+        {"lote.rpt", "LOTE.RPT"},
+        {"OTRO.rpt", "otro.rpt"},
+        {"falta.rpt", ""},
+        {"dentro", ""},
+        {"", ""},
+        {"dentro/D.TXT", "dentro/d.txt"},
+        {"nada/d.txt", ""},
+        {"dentro\\d.txt", "dentro\\d.txt"},
+    };
+    FolderLooks looks;
+    for (const auto& [name, found] : rows) {
+        const std::string expected = found.empty() ? "" : folder.file(found);
+        EXPECT_EQ(looks.find(folder.file(name)).path, expected) << name;
+    }
+    folder.write("falta.rpt", "");
+    EXPECT_EQ(looks.find(folder.file("falta.rpt")).path, "") << "one look at each folder";
+}
+
+TEST(WithinLimit, WaitsForWhatMovesAndLeavesWhatDoesNot) {
+    using std::chrono::milliseconds;
+    auto steps = std::make_shared<std::atomic<std::size_t>>(0);
+    const auto slow = [steps] {
+        for (; *steps < 6; ++*steps) {
+            std::this_thread::sleep_for(milliseconds(20));
+        }
+        return 5;
+    };
+    const auto progress = [steps] { return steps->load(); };
+    EXPECT_EQ(withinLimit(slow, progress, milliseconds(60)), 5);
+    auto release = std::make_shared<std::promise<void>>();
+    EXPECT_EQ(withinLimit([ready = release->get_future().share()] { return ready.wait(), 5; },
+                          progress, milliseconds(5)),
+              std::nullopt);
+    release->set_value();
 }
 
 }  // namespace

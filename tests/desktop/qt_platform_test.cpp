@@ -3,6 +3,10 @@
 
 #include <filesystem>
 
+#ifdef __linux__
+#include <sys/stat.h>
+#endif
+
 #include <gtest/gtest.h>
 
 #include "desktop/qt_locale.h"
@@ -54,6 +58,22 @@ TEST(QtSettingsStore, LivesWithADamagedFile) {
 }
 
 #ifdef Q_OS_LINUX
+
+TEST(QtSettingsStore, DoesNotWaitForAPipe) {
+    const TempFolder folder;
+    std::filesystem::create_directory(folder.file("Campora"));
+    const std::string pipe = folder.file("Campora/Campora.conf");
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    const QByteArray home = qgetenv("XDG_CONFIG_HOME");
+    qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(folder.path()));
+    QtSettingsStore ofTheUser;
+    home.isEmpty() ? qunsetenv("XDG_CONFIG_HOME") : qputenv("XDG_CONFIG_HOME", home);
+    QtSettingsStore named(toQt(pipe));
+    for (QtSettingsStore* store : {&ofTheUser, &named}) {
+        store->write("OpenPath", "/tmp");
+        EXPECT_EQ(store->read("OpenPath"), std::nullopt);
+    }
+}
 
 TEST(QtShell, TellsWhetherTheDesktopOpenedTheFile) {
     const TempFolder folder;
