@@ -29,6 +29,9 @@ void addKeptEdits(File& file) {
     }
     ReadEdits read = readEdits(file.File_diskPath());
     summary.edits = std::move(read.edits);
+    if (read.unused) {
+        file.addRemark(*read.unused);
+    }
     summary.editsUnused = std::move(read.unused);
 }
 
@@ -111,6 +114,8 @@ bool SummaryCommands::keep(SummaryEdits edits) {
     }
     file->File_resumen().edits = std::move(edits);
     file->File_resumen().editsUnused.reset();
+    file->dropRemarks(TextId::EditsNotUsed);
+    session_.loadFileList(true);  // where the remark stood
     show();
     return true;
 }

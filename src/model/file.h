@@ -21,6 +21,11 @@ class File {
 public:
     virtual ~File() = default;
 
+    /// Takes away what was said with this text and is no longer true.
+    void dropRemarks(TextId text) {
+        std::erase_if(remarks_, [text](const Remark& remark) { return remark.text == text; });
+    }
+
     [[nodiscard]] virtual std::string File_name() const = 0;
     /// The path for comparing and showing.
     [[nodiscard]] virtual std::string File_path() const = 0;

@@ -128,8 +128,9 @@ TEST(SummaryCommands, EditsThatCannotBeUsedAreLeftAloneUntilTheUserSaysSo) {
         ASSERT_TRUE(desk.session.loadFile(desk.path, true, true));
         EXPECT_THAT(desk.dialogs.messages, IsEmpty());
         EXPECT_TRUE(desk.summary().edits.empty());
-        ASSERT_TRUE(desk.summary().editsUnused.has_value());
-        EXPECT_THAT(desk.session.texts().sentence(*desk.summary().editsUnused),
+        const std::vector<Remark>& remarks = desk.session.files().file(0).remarks();
+        ASSERT_EQ(remarks.size(), 1U);
+        EXPECT_THAT(desk.session.texts().sentence(remarks.front()),
                     testing::AllOf(HasSubstr("lote.rpt.campora.json"), HasSubstr(row.says)));
         desk.dialogs.yesNoAnswers = {false, true};
         EXPECT_FALSE(desk.edit("Piloto:", "Ana"));
@@ -137,6 +138,7 @@ TEST(SummaryCommands, EditsThatCannotBeUsedAreLeftAloneUntilTheUserSaysSo) {
         EXPECT_EQ(desk.row("Piloto:"), SummaryRow());
         EXPECT_TRUE(desk.edit("Piloto:", "Ana"));
         EXPECT_EQ(desk.dialogs.questions.size(), 2U);
+        EXPECT_TRUE(desk.session.files().file(0).remarks().empty());
         desk.session.reloadFiles();
         EXPECT_EQ(desk.row("Piloto:").value, "Ana ");
     }
