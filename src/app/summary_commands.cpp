@@ -30,9 +30,8 @@ void addKeptEdits(File& file) {
     ReadEdits read = readEdits(file.File_diskPath());
     summary.edits = std::move(read.edits);
     if (read.unused) {
-        file.addRemark(*read.unused);
+        file.addRemark(std::move(*read.unused));
     }
-    summary.editsUnused = std::move(read.unused);
 }
 
 bool SummaryCommands::canEdit() const {
@@ -113,7 +112,6 @@ bool SummaryCommands::keep(SummaryEdits edits) {
         return false;
     }
     file->File_resumen().edits = std::move(edits);
-    file->File_resumen().editsUnused.reset();
     file->dropRemarks(TextId::EditsNotUsed);
     session_.loadFileList(true);  // where the remark stood
     show();

@@ -4,13 +4,11 @@
 #pragma once
 
 #include <functional>
-#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "base/failure.h"
 #include "model/summary_edits.h"
 
 namespace campora {
@@ -34,8 +32,6 @@ public:
     std::string sourcePath;
     /// What a person put over the entries, which stay as they are.
     SummaryEdits edits;
-    /// Why the edits that are kept beside the file are not among them.
-    std::optional<Failure> editsUnused;
 
     [[nodiscard]] int count() const { return static_cast<int>(entries_.size()); }
     [[nodiscard]] const std::vector<FileProperty>& entries() const { return entries_; }
