@@ -33,8 +33,10 @@ namespace campora {
 
 /// The text as a tooltip that is shown as it stands, line by line, whatever signs it holds.
 [[nodiscard]] inline QString plainToolTip(const QString& text) {
-    return text.isEmpty() ? text
-                          : "<span>" + text.toHtmlEscaped().replace("\n", "<br>") + "</span>";
+    return text.isEmpty()
+               ? text
+               : "<span>" + shownText(toUtf8(text)).toHtmlEscaped().replace("\n", "<br>") +
+                     "</span>";
 }
 
 }  // namespace campora

@@ -14,6 +14,7 @@
 #include <QPdfWriter>
 
 #include "app/window_title.h"
+#include "base/plain_text.h"
 #include "paint/raster_canvas.h"
 
 namespace campora {
@@ -42,8 +43,9 @@ QFont qtFont(PageFont font) {
     return made;
 }
 
+/// Names of files stand on maps and pages too.
 QString qtText(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    return QString::fromStdString(plainText(text));
 }
 
 Qt::Alignment alignment(PageAlign align) {

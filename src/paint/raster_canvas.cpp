@@ -13,6 +13,7 @@
 #include <QPainter>
 #include <QPolygonF>
 
+#include "base/plain_text.h"
 #include "paint/parallel.h"
 
 namespace campora {
@@ -37,8 +38,9 @@ QFont mapFont(bool bold) {
     return font;
 }
 
+/// Names of files stand on maps and pages too.
 QString qtText(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    return QString::fromStdString(plainText(text));
 }
 
 }  // namespace
