@@ -20,6 +20,8 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::string_view kBegin = "campora-";
+/// Locked as long as its owner runs; the folder itself is locked by those who write into it.
+constexpr std::string_view kLock = ".campora-owner";
 constexpr int kDigits = 8;  // of each of two numbers
 
 bool isOurName(std::string_view name) {
@@ -40,8 +42,12 @@ void tidyFolders(const fs::path& parent) {
         }
     }
     for (const fs::path& folder : left) {
-        const FolderLock lock(folder, 0);
-        if (lock.isTaken()) {
+        bool isLeft = false;
+        {
+            const Descriptor lock = openToLook(folder / kLock);
+            isLeft = lock && tryLock(lock) == LockState::Taken;
+        }
+        if (isLeft) {
             fs::remove_all(folder, error);
         }
     }
@@ -51,7 +57,7 @@ void tidyFolders(const fs::path& parent) {
 
 TemporaryFolder::~TemporaryFolder() {
     if (!folder_.empty()) {
-        lock_.reset();
+        lock_ = Descriptor();
         std::error_code ignored;
         fs::remove_all(nativePath(folder_), ignored);
     }
@@ -69,8 +75,9 @@ Result<std::string> TemporaryFolder::file(std::string_view name) {
         if (error || !fs::create_directory(made, error)) {
             return fileFailure(TextId::FileCannotBeWritten, pathText(made), error);
         }
-        lock_.emplace(made, 0);
         fs::permissions(made, fs::perms::owner_all, error);
+        lock_ = createFile(made / kLock);
+        static_cast<void>(tryLock(lock_));
         folder_ = pathText(made);
     }
     return pathText(nativePath(folder_) / nativePath(name));

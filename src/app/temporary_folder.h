@@ -7,8 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/disk_calls.h"
 #include "base/failure.h"
-#include "base/own_file.h"
 
 namespace campora {
 
@@ -28,7 +28,7 @@ public:
 private:
     std::string folder_;
     /// Tells others that the folder is in use.
-    std::optional<FolderLock> lock_;
+    Descriptor lock_;
 };
 
 }  // namespace campora

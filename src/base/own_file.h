@@ -59,8 +59,6 @@ public:
 
     /// Not, when others keep it. A folder that cannot be locked is written without a lock.
     [[nodiscard]] bool isHeld() const { return state_ != LockState::Busy; }
-    /// It is locked for certain.
-    [[nodiscard]] bool isTaken() const { return state_ == LockState::Taken; }
     /// The folder's names outlast a power cut.
     [[nodiscard]] std::error_code flush() const;
 
