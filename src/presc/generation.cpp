@@ -144,6 +144,17 @@ std::optional<Failure> write(std::string_view path, std::string_view bytes) {
     return writeFile(path, std::as_bytes(std::span(bytes.data(), bytes.size())));
 }
 
+/// Piece by piece: the companion of a fine grid is larger than its map, and than some memories.
+void writeBlank(std::size_t bytes, FileDraft& draft) {
+    constexpr std::size_t kPiece = std::size_t{1} << 16U;
+    const std::string piece(std::min(bytes, kPiece), '\0');
+    for (std::size_t left = bytes; left > 0 && !draft.failure();) {
+        const std::size_t size = std::min(left, piece.size());
+        draft.write(std::string_view(piece).substr(0, size));
+        left -= size;
+    }
+}
+
 /// Both files or neither.
 std::optional<Failure> writeWithCompanion(std::string_view path, std::string_view bytes,
                                           std::size_t cells) {
@@ -151,7 +162,7 @@ std::optional<Failure> writeWithCompanion(std::string_view path, std::string_vie
     files.emplace_back(path).write(bytes);
     const std::string companion = companionPath(path);
     if (companion != path) {
-        files.emplace_back(companion).write(std::string(companionSize(cells), '\0'));
+        writeBlank(companionSize(cells), files.emplace_back(companion));
     }
     return finishTogether(files);
 }
