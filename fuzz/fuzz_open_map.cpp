@@ -96,9 +96,12 @@ void useTools(Session& session, const FileSet& set) {
         tools.setTool(tool);
         drag(tools, one, tool == MapTools::Tool::None ? one : other);
     }
-    session.view().zoomIn(other);
+    session.view().zoomPicture(other, 2);
+    session.view().settle();
     session.view().scrollBy(0.25, -0.5);
-    session.view().zoomOut(one);
+    session.view().zoomPicture(one, -1);
+    session.view().settle();
+    session.view().zoomIn();
     session.selectFile(0);
     session.zoomToCurrentFile();
     session.view().ZoomUno();
