@@ -109,7 +109,7 @@ public:
         }
     }
 
-    [[nodiscard]] Placement placement() { return {&file_, target_, shownPath_}; }
+    [[nodiscard]] FilePlacement placement() { return {&file_, target_, shownPath_}; }
 
 private:
     void check(const std::error_code& error) {
@@ -165,7 +165,7 @@ std::optional<Failure> FileDraft::finish() {
 
 std::optional<Failure> finishTogether(std::span<FileDraft> drafts,
                                       std::span<const std::string> outdated) {
-    std::vector<Placement> files;
+    std::vector<FilePlacement> files;
     for (FileDraft& draft : drafts) {
         draft.content_->complete();
         if (const auto& failure = draft.content_->failure()) {

@@ -21,12 +21,12 @@ namespace fs = std::filesystem;
 
 constexpr TextId kWhat = TextId::FileCannotBeWritten;
 
-std::optional<Failure> failureOf(const Placement& file, const std::error_code& error) {
+std::optional<Failure> failureOf(const FilePlacement& file, const std::error_code& error) {
     return error ? std::optional(fileFailure(kWhat, file.shownPath, error)) : std::nullopt;
 }
 
 /// The folder is ours for the moment, and nothing in it is half done.
-std::optional<Failure> takeFolder(const FolderLock& lock, const Placement& first) {
+std::optional<Failure> takeFolder(const FolderLock& lock, const FilePlacement& first) {
     std::optional<Failure> reason = Failure{TextId::FolderBusy, {}};
     if (lock.isHeld()) {
         reason = undoUnfinishedSet(first.target.parent_path());
@@ -36,7 +36,7 @@ std::optional<Failure> takeFolder(const FolderLock& lock, const Placement& first
 }
 
 /// Whether something stands at the target; a folder is an error.
-bool isReplaced(const Placement& file, std::error_code& error) {
+bool isReplaced(const FilePlacement& file, std::error_code& error) {
     const fs::file_status status = fs::status(file.target, error);
     if (status.type() == fs::file_type::not_found) {
         error.clear();
@@ -47,7 +47,7 @@ bool isReplaced(const Placement& file, std::error_code& error) {
     return fs::exists(status);
 }
 
-std::optional<Failure> placeOne(const Placement& file) {
+std::optional<Failure> placeOne(const FilePlacement& file) {
     const FolderLock lock(file.target.parent_path(), kFolderPatience);
     if (std::optional<Failure> failure = takeFolder(lock, file)) {
         return failure;
@@ -69,7 +69,7 @@ class FolderSet {
 public:
     explicit FolderSet(fs::path folder) : folder_(std::move(folder)) {}
 
-    void add(const Placement& file) { files_.push_back(file); }
+    void add(const FilePlacement& file) { files_.push_back(file); }
 
     /// All files have names, and the journal tells what is going to happen to them.
     [[nodiscard]] std::optional<Failure> prepare() {
@@ -77,7 +77,7 @@ public:
         if (std::optional<Failure> failure = takeFolder(*lock_, files_.front())) {
             return failure;
         }
-        for (const Placement& file : files_) {
+        for (const FilePlacement& file : files_) {
             if (const std::error_code error = addMember(file)) {
                 return failureOf(file, error);
             }
@@ -99,7 +99,7 @@ public:
         if (const std::error_code error = lock_->flush()) {
             return failureOf(files_.front(), error);
         }
-        for (const Placement& file : files_) {
+        for (const FilePlacement& file : files_) {
             const std::error_code error =
                 file.file != nullptr ? file.file->replace(file.target) : std::error_code{};
             if (error) {
@@ -139,7 +139,7 @@ public:
             isUnderWay_ = static_cast<bool>(error);
         }
         // What the journal tells of is for those who read it.
-        for (const Placement& file : files_) {
+        for (const FilePlacement& file : files_) {
             if (file.file != nullptr) {
                 file.file->release();
             }
@@ -149,7 +149,7 @@ public:
     }
 
 private:
-    [[nodiscard]] std::error_code addMember(const Placement& file) {
+    [[nodiscard]] std::error_code addMember(const FilePlacement& file) {
         std::error_code error;
         const bool replaces = isReplaced(file, error);
         SetMember member{pathText(file.target.filename()), {}, {}, {}};
@@ -188,7 +188,7 @@ private:
 
     fs::path folder_;
     std::optional<FolderLock> lock_;
-    std::vector<Placement> files_;
+    std::vector<FilePlacement> files_;
     std::vector<SetMember> members_;
     OwnFile journal_;
     bool isUnderWay_ = false;
@@ -207,12 +207,12 @@ std::optional<Failure> forEach(std::map<fs::path, FolderSet>& folders, Step step
 
 }  // namespace
 
-std::optional<Failure> placeTogether(std::span<const Placement> files) {
+std::optional<Failure> placeTogether(std::span<const FilePlacement> files) {
     if (files.size() == 1) {
         return placeOne(files.front());
     }
     std::map<fs::path, FolderSet> folders;  // in the same order for all who take their locks
-    for (const Placement& file : files) {
+    for (const FilePlacement& file : files) {
         const fs::path folder = file.target.parent_path();
         folders.try_emplace(folder, folder).first->second.add(file);
     }

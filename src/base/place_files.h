@@ -14,7 +14,7 @@
 namespace campora {
 
 /// A whole, flushed file and where it is to stand.
-struct Placement {
+struct FilePlacement {
     /// None: what stands at the target goes with the rest.
     OwnFile* file;
     /// Not a link.
@@ -25,6 +25,6 @@ struct Placement {
 
 /// All files take their targets' places, or none does and the first failure is answered. What is
 /// promised stands with `FileDraft`.
-[[nodiscard]] std::optional<Failure> placeTogether(std::span<const Placement> files);
+[[nodiscard]] std::optional<Failure> placeTogether(std::span<const FilePlacement> files);
 
 }  // namespace campora
