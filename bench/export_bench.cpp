@@ -82,14 +82,14 @@ void exportAsPoints(benchmark::State& state) {
 void exportForGis(benchmark::State& state) {
     exportJob(state,
               [](std::span<Gph* const> layers, const std::string& base, ExportProgress& progress) {
-                  return exportShpGis(layers, base, MapStyle(), {2026, 3, 5}, progress);
+                  return exportShpGis(layers, base, {MapStyle()}, {2026, 3, 5}, progress);
               });
 }
 
 void exportAsGeoJson(benchmark::State& state) {
     exportJob(state,
               [](std::span<Gph* const> layers, const std::string& base, ExportProgress& progress) {
-                  return exportGeoJson(layers, base + ".geojson", MapStyle(), progress);
+                  return exportGeoJson(layers, base + ".geojson", {MapStyle()}, progress);
               });
 }
 

@@ -33,12 +33,13 @@ std::optional<Failure> writeShpPoints(const ExportJob& job) {
 }
 
 std::optional<Failure> writeShpGis(const ExportJob& job) {
-    return exportShpGis(job.layers, basePath(job), job.session.style(),
+    return exportShpGis(job.layers, basePath(job), {job.session.style(), &job.session.texts()},
                         job.session.platform().clock.today(), job.progress);
 }
 
 std::optional<Failure> writeGeoJson(const ExportJob& job) {
-    return exportGeoJson(job.layers, job.path, job.session.style(), job.progress);
+    return exportGeoJson(job.layers, job.path, {job.session.style(), &job.session.texts()},
+                         job.progress);
 }
 
 std::optional<Failure> writeKml(const ExportJob& job) {
@@ -61,23 +62,23 @@ std::optional<Failure> writePicture(const ExportJob& job) {
 // clang-format off
 constexpr ExportFormat kFormats[] = {
     {"shp-polygon", ".shp", TextId::FilterShapePolygons, ExportSource::Layers,
-     AfterExport::Nothing, writeShpPolygons},
+     AfterExport::Nothing, polygonLayers, writeShpPolygons},
     {"shp-point", ".shp", TextId::FilterShapePoints, ExportSource::Layers,
-     AfterExport::Nothing, writeShpPoints},
+     AfterExport::Nothing, pointLayers, writeShpPoints},
     {"bmp", ".bmp", TextId::FilterBitmap, ExportSource::Picture,
-     AfterExport::Nothing, writePicture<PictureForm::Bmp>},
+     AfterExport::Nothing, nullptr, writePicture<PictureForm::Bmp>},
     {"kml", ".kml", TextId::FilterKml, ExportSource::Layers,
-     AfterExport::AskToOpen, writeKml},
+     AfterExport::AskToOpen, nullptr, writeKml},
     {"txt", ".txt", TextId::FilterText, ExportSource::Layers,
-     AfterExport::Open, writeText<'.'>},
+     AfterExport::Open, nullptr, writeText<'.'>},
     {"txt-comma", ".txt", TextId::FilterTextComma, ExportSource::Layers,
-     AfterExport::Open, writeText<','>},
+     AfterExport::Open, nullptr, writeText<','>},
     {"shp-gis", ".shp", TextId::FilterShapeGis, ExportSource::Layers,
-     AfterExport::Nothing, writeShpGis},
+     AfterExport::Nothing, nullptr, writeShpGis},
     {"geojson", ".geojson", TextId::FilterGeoJson, ExportSource::Layers,
-     AfterExport::Nothing, writeGeoJson},
+     AfterExport::Nothing, nullptr, writeGeoJson},
     {"png", ".png", TextId::FilterPng, ExportSource::Picture,
-     AfterExport::Nothing, writePicture<PictureForm::Png>},
+     AfterExport::Nothing, nullptr, writePicture<PictureForm::Png>},
 };
 // clang-format on
 
@@ -99,6 +100,23 @@ const ExportFormat* exportFormatOf(std::string_view word) {
 
 std::span<const ExportFormat> textFormats() {
     return exportFormats().subspan(kFirstText, 2);
+}
+
+std::vector<const Gph*> layersWithoutColumns(const ExportFormat& format,
+                                             const std::vector<Gph*>& layers) {
+    std::vector<const Gph*> without;
+    if (format.tableLayers == nullptr) {
+        return without;
+    }
+    bool others = false;
+    for (const ExportLayer& layer :
+         format.tableLayers(std::vector<const Gph*>(layers.begin(), layers.end()))) {
+        if (layer.count > 0 && layer.data == nullptr) {
+            without.push_back(layer.gph);
+        }
+        others = others || (layer.count > 0 && layer.data != nullptr);
+    }
+    return others ? without : std::vector<const Gph*>();
 }
 
 std::vector<FileFilter> exportFilters(std::span<const ExportFormat> formats, const Texts& texts) {

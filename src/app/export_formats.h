@@ -12,6 +12,7 @@
 
 #include "base/failure.h"
 #include "base/texts.h"
+#include "export/export_layers.h"
 #include "export/export_progress.h"
 #include "model/gph.h"
 #include "platform/dialogs.h"
@@ -52,6 +53,8 @@ struct ExportFormat {
     TextId caption{};
     ExportSource source{};
     AfterExport after{};
+    /// The layers of a table that has columns only when all of them have; null for others.
+    std::vector<ExportLayer> (*tableLayers)(std::span<const Gph* const> layers) = nullptr;
     /// A map without anything for the format is a failure.
     std::optional<Failure> (*write)(const ExportJob& job) = nullptr;
 };
@@ -62,6 +65,10 @@ struct ExportFormat {
 [[nodiscard]] const ExportFormat* exportFormatOf(std::string_view word);
 /// The two kinds of text tables, with the decimal point first.
 [[nodiscard]] std::span<const ExportFormat> textFormats();
+
+/// The layers for whose sake a table does without the columns of the others.
+[[nodiscard]] std::vector<const Gph*> layersWithoutColumns(const ExportFormat& format,
+                                                           const std::vector<Gph*>& layers);
 
 /// A row for each format.
 [[nodiscard]] std::vector<FileFilter> exportFilters(std::span<const ExportFormat> formats,

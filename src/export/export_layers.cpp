@@ -19,6 +19,11 @@ const ExportableData* dataOf(const Gph& layer) {
     return data != nullptr && data->ExportableData_getColumnCount() > 0 ? data : nullptr;
 }
 
+const ExportableAlarms* alarmsOf(const Gph& layer) {
+    const auto* const alarms = dynamic_cast<const ExportableAlarms*>(&layer);
+    return alarms != nullptr && alarms->ExportableAlarms_any() ? alarms : nullptr;
+}
+
 bool hasFigures(const ExportLayer& layer) {
     return layer.count > 0;
 }
@@ -49,22 +54,26 @@ ColumnType widened(ColumnType a, ColumnType b) {
     return isNumber(a) && isNumber(b) ? ColumnType::Real : ColumnType::Text;
 }
 
-/// Adds the columns of new names; the types of the others come to hold the cells of this layer.
+/// Adds the columns of new names, each behind the one before it in its layer where that is there
+/// already; the types of the others come to hold the cells of this layer.
 void addColumns(const ExportableData& data, std::vector<ExportColumn>& columns) {
     std::vector<std::string> seen;  // of columns of one name in a layer the first one counts
+    std::size_t next = columns.size();
     for (int i = 0; i < data.ExportableData_getColumnCount(); ++i) {
         std::string name = data.ExportableData_getColumnNname(i);
         if (std::find(seen.begin(), seen.end(), name) != seen.end()) {
             continue;
         }
         const ColumnType type = data.ExportableData_getColumnNtype(i);
-        const auto same = std::find_if(columns.begin(), columns.end(),
-                                       [&](const auto& column) { return column.name == name; });
+        auto same = std::find_if(columns.begin(), columns.end(),
+                                 [&](const auto& column) { return column.name == name; });
         if (same == columns.end()) {
-            columns.push_back({name, type});
+            same =
+                columns.insert(columns.begin() + static_cast<std::ptrdiff_t>(next), {name, type});
         } else {
             same->type = widened(same->type, type);
         }
+        next = static_cast<std::size_t>(same - columns.begin()) + 1;
         seen.push_back(std::move(name));
     }
 }
@@ -75,8 +84,8 @@ std::vector<ExportLayer> polygonLayers(std::span<const Gph* const> layers) {
     std::vector<ExportLayer> found;
     for (const Gph* const gph : layers) {
         if (const auto* const polygons = dynamic_cast<const ExportablePolygon*>(gph)) {
-            found.push_back(
-                {gph, polygons, nullptr, dataOf(*gph), polygons->ExportablePolygon_polygonCount()});
+            found.push_back({gph, polygons, nullptr, dataOf(*gph), alarmsOf(*gph),
+                             polygons->ExportablePolygon_polygonCount()});
         }
     }
     return found;
@@ -86,8 +95,8 @@ std::vector<ExportLayer> pointLayers(std::span<const Gph* const> layers) {
     std::vector<ExportLayer> found;
     for (const Gph* const gph : layers) {
         if (const auto* const points = dynamic_cast<const ExportablePoint*>(gph)) {
-            found.push_back(
-                {gph, nullptr, points, dataOf(*gph), points->ExportablePoint_pointCount()});
+            found.push_back({gph, nullptr, points, dataOf(*gph), alarmsOf(*gph),
+                             points->ExportablePoint_pointCount()});
         }
     }
     return found;
@@ -131,25 +140,38 @@ bool allHaveColumns(std::span<const ExportLayer> layers) {
 }
 
 ExportColumns ExportColumns::ofFirst(std::span<const ExportLayer> layers) {
-    return collect(layers, false);
+    return allHaveColumns(layers) ? collect(layers, false) : ExportColumns();
 }
 
-ExportColumns ExportColumns::ofAll(std::span<const ExportLayer> layers) {
-    return collect(layers, true);
+ExportColumns ExportColumns::ofAll(std::span<const ExportLayer> layers, const Texts* texts) {
+    ExportColumns table = collect(layers, true);
+    if (texts != nullptr) {
+        table.addAlarms(layers, *texts);
+    }
+    return table;
+}
+
+void ExportColumns::addAlarms(std::span<const ExportLayer> layers, const Texts& texts) {
+    for (std::size_t layer = 0; layer < layers.size(); ++layer) {
+        if (hasFigures(layers[layer]) && layers[layer].alarms != nullptr) {
+            sources_[layer].alarms = layers[layer].alarms;
+            alarmTexts_ = &texts;
+        }
+    }
+    if (alarmTexts_ != nullptr) {
+        columns_.push_back({"alarms", ColumnType::Text});
+    }
 }
 
 ExportColumns ExportColumns::collect(std::span<const ExportLayer> layers, bool all) {
-    if (!allHaveColumns(layers)) {
-        return {};
-    }
     ExportColumns table;
     for (const ExportLayer& layer : layers) {
-        if (hasFigures(layer) && (all || table.columns_.empty())) {
+        if (hasFigures(layer) && layer.data != nullptr && (all || table.columns_.empty())) {
             addColumns(*layer.data, table.columns_);
         }
     }
     for (const ExportLayer& layer : layers) {
-        Source source{layer.data, {}};
+        Source source{layer.data, nullptr, {}};
         if (layer.data != nullptr) {
             source.columns = matchNames(*layer.data, table.columns_, kNone);
         }
@@ -158,10 +180,23 @@ ExportColumns ExportColumns::collect(std::span<const ExportLayer> layers, bool a
     return table;
 }
 
-CellValue ExportColumns::cell(std::size_t layer, std::int32_t row, std::size_t column) const {
+CellValue ExportColumns::cell(std::size_t layer, std::int32_t row, std::size_t column,
+                              const CellOptions& options) const {
     const Source& source = sources_[layer];
-    const int own = source.columns[column];
-    return own == kNone ? CellValue() : source.data->ExportableData_getCell(row, own, {});
+    if (alarmTexts_ != nullptr && column + 1 == columns_.size()) {
+        return source.alarms == nullptr
+                   ? CellValue()
+                   : CellValue(source.alarms->ExportableAlarms_names(row, *alarmTexts_));
+    }
+    const int own = source.data == nullptr ? kNone : source.columns[column];
+    return own == kNone ? CellValue() : source.data->ExportableData_getCell(row, own, options);
+}
+
+bool ExportColumns::differ() const {
+    return std::any_of(sources_.begin(), sources_.end(), [](const Source& source) {
+        return std::find(source.columns.begin(), source.columns.end(), kNone) !=
+               source.columns.end();
+    });
 }
 
 std::optional<double> cellNumber(const CellValue& cell) {

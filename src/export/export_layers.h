@@ -11,6 +11,7 @@
 #include <variant>
 #include <vector>
 
+#include "base/texts.h"
 #include "model/exportable.h"
 #include "model/gph.h"
 
@@ -24,6 +25,8 @@ struct ExportLayer {
     const ExportablePoint* points = nullptr;
     /// Null when it has no columns.
     const ExportableData* data = nullptr;
+    /// Null when it has no alarms.
+    const ExportableAlarms* alarms = nullptr;
     /// Figures, those included that are left out under a style.
     std::int32_t count = 0;
 };
@@ -52,33 +55,41 @@ struct ExportColumn {
     ColumnType type = ColumnType::Integer;
 };
 
-/// The columns of a table of several layers, none unless `allHaveColumns`. Layers and columns count
-/// from 0.
+/// The columns of a table of several layers. Layers and columns count from 0.
 class ExportColumns {
 public:
-    /// Those of the first layer with figures.
+    /// Those of the first layer with figures; none unless `allHaveColumns`.
     [[nodiscard]] static ExportColumns ofFirst(std::span<const ExportLayer> layers);
-    /// Those of all, each name once, with a type that holds the cells of every layer: real where
-    /// integers and reals meet, text where other types do.
-    [[nodiscard]] static ExportColumns ofAll(std::span<const ExportLayer> layers);
+    /// Those of all that have some, each name once, with a type that holds the cells of every
+    /// layer: real where integers and reals meet, text where other types do. With `texts`, which
+    /// outlive the columns, one more holds the names of the alarms where a layer has any.
+    [[nodiscard]] static ExportColumns ofAll(std::span<const ExportLayer> layers,
+                                             const Texts* texts = nullptr);
 
     [[nodiscard]] bool empty() const { return columns_.empty(); }
     [[nodiscard]] std::span<const ExportColumn> columns() const { return columns_; }
     /// Empty in a layer that has no column of that name.
-    [[nodiscard]] CellValue cell(std::size_t layer, std::int32_t row, std::size_t column) const;
+    [[nodiscard]] CellValue cell(std::size_t layer, std::int32_t row, std::size_t column,
+                                 const CellOptions& options = {}) const;
+    /// Whether a layer with columns lacks one of these.
+    [[nodiscard]] bool differ() const;
 
 private:
     static constexpr int kNone = -1;
 
     struct Source {
         const ExportableData* data = nullptr;
-        std::vector<int> columns;  // the layer's for each of ours
+        const ExportableAlarms* alarms = nullptr;
+        std::vector<int> columns;  // the layer's for each of ours; none without data
     };
 
     static ExportColumns collect(std::span<const ExportLayer> layers, bool all);
+    void addAlarms(std::span<const ExportLayer> layers, const Texts& texts);
 
     std::vector<ExportColumn> columns_;
     std::vector<Source> sources_;
+    /// Set when the last column is that of the alarms.
+    const Texts* alarmTexts_ = nullptr;
 };
 
 /// A number cell, or one that a text begins with; none otherwise.

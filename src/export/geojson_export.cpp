@@ -94,9 +94,10 @@ std::string propertyText(ColumnType type, const CellValue& cell) {
 /// One export: layers into a file.
 class Export {
 public:
-    Export(std::vector<ExportLayer> layers, std::string_view path, ExportProgress& progress)
+    Export(std::vector<ExportLayer> layers, std::string_view path, const Texts* texts,
+           ExportProgress& progress)
         : layers_(std::move(layers)),
-          columns_(ExportColumns::ofAll(layers_)),
+          columns_(ExportColumns::ofAll(layers_, texts)),
           file_(path),
           progress_(progress) {
         for (const ExportColumn& column : columns_.columns()) {
@@ -188,8 +189,8 @@ private:
 }  // namespace
 
 std::optional<Failure> exportGeoJson(std::span<const Gph* const> layers, std::string_view path,
-                                     const MapStyle& style, ExportProgress& progress) {
-    return Export(figureLayers(layers), path, progress).run(style);
+                                     const GisForm& form, ExportProgress& progress) {
+    return Export(figureLayers(layers), path, form.texts, progress).run(form.style);
 }
 
 }  // namespace campora

@@ -30,6 +30,7 @@ constexpr std::string_view kReference =
     R"(GEOGCS["GCS_WGS_1984",DATUM["D_WGS_1984",SPHEROID["WGS_1984",6378137.0,298.257223563]],)"
     R"(PRIMEM["Greenwich",0.0],UNIT["Degree",0.0174532925199433]])";
 constexpr std::string_view kCodePage = "1252";
+constexpr std::string_view kWritten[] = {".shp", ".shx", ".dbf", ".prj", ".cpg"};
 /// Indexes that other programs leave beside a set; they would look for the new figures in the
 /// places of the old ones.
 constexpr std::string_view kForeignIndexes[] = {".qix", ".sbn", ".sbx"};
@@ -39,6 +40,17 @@ std::int32_t words(std::uint64_t bytes) {
 }
 
 }  // namespace
+
+std::vector<std::string> shapeSetFiles(std::string_view basePath) {
+    std::vector<std::string> files;
+    for (const std::string_view ending : kWritten) {
+        files.push_back(std::string(basePath).append(ending));
+    }
+    for (const std::string_view ending : kForeignIndexes) {
+        files.push_back(std::string(basePath).append(ending));
+    }
+    return files;
+}
 
 void ShapeSet::Box::add(LonLat point) {
     minX = std::min(minX, point.x);

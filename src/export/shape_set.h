@@ -9,6 +9,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/dates.h"
 #include "base/failure.h"
@@ -18,6 +19,9 @@
 #include "model/bounding_box.h"
 
 namespace campora {
+
+/// The files of a set: those that are written, and the indexes of others that go with the old ones.
+[[nodiscard]] std::vector<std::string> shapeSetFiles(std::string_view basePath);
 
 /// Types of figures that are written.
 enum class FigureType : std::int32_t { Point = 1, Polygon = 5 };

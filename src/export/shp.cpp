@@ -69,10 +69,6 @@ void Shp::add(const SwathFigure& figure) {
         const double width = roundHalfEven(figure.swathMetres);
         const double litres = flow * kSquareMetresPerHectare / (kMetresPerMinute * speed * width);
         const std::string text = width > 0 ? fixedNumberText(litres, 2) : std::string();
-        const Column& column = kColumns[kLitres - 1];
-        if (!text.empty() && text.find('.') > static_cast<std::size_t>(column.length)) {
-            refuse(column.name, text);  // cut off, it would be another number
-        }
         table.recordField(kLitres, text);
     }
     const std::array parts = {figure.ring};

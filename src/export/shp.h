@@ -36,9 +36,8 @@ public:
 
     /// Averages are whole numbers, halves to even; litres per hectare follow from them and from the
     /// swath width in whole metres. A record without speed keeps the litres per hectare of the one
-    /// before it, blank at first; one without width has none. Decimals that the field has no room
-    /// for are cut off; an average beyond 16 bits and litres of more digits than it holds are a
-    /// failure.
+    /// before it, blank at first; one without width has none. Litres are cut to the six characters
+    /// of their field; an average beyond 16 bits is a failure.
     void add(const SwathFigure& figure);
     [[nodiscard]] std::int32_t recordCount() const { return set_.recordCount(); }
     /// Whether it is of no use to go on.

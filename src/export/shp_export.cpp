@@ -77,9 +77,9 @@ bool fits16Bits(const CellValue& cell) {
 /// fractions integers: those programs for which `forGis` stands get the fractions.
 class AttributeTable {
 public:
-    AttributeTable(std::span<const ExportLayer> layers, bool forGis)
+    AttributeTable(std::span<const ExportLayer> layers, ExportColumns cells, bool forGis)
         : layers_(layers),
-          cells_(forGis ? ExportColumns::ofAll(layers) : ExportColumns::ofFirst(layers)),
+          cells_(std::move(cells)),
           columns_(cells_.columns().begin(), cells_.columns().end()),
           forGis_(forGis) {}
 
@@ -189,12 +189,22 @@ private:
 class Export {
 public:
     Export(std::vector<ExportLayer> layers, std::string_view basePath, FigureType type,
-           std::optional<Date> today, ExportProgress& progress)
+           ExportProgress& progress)
         : basePath_(basePath),
           layers_(std::move(layers)),
-          forGis_(today.has_value()),
-          set_(basePath, type, today),
-          attributes_(layers_, forGis_),
+          set_(basePath, type),
+          attributes_(layers_, ExportColumns::ofFirst(layers_), false),
+          progress_(progress) {}
+    /// In the form for other programs; `texts` may be null.
+    Export(std::vector<ExportLayer> layers, std::string_view basePath, const Texts* texts,
+           const Date& today, ExportProgress& progress)
+        : basePath_(basePath),
+          layers_(std::move(layers)),
+          forGis_(true),
+          set_(basePath,
+               layers_.front().polygons != nullptr ? FigureType::Polygon : FigureType::Point,
+               today),
+          attributes_(layers_, ExportColumns::ofAll(layers_, texts), true),
           progress_(progress) {}
 
     /// `nothing`: what is told when there is not one figure to write.
@@ -275,7 +285,7 @@ private:
 
     std::string basePath_;
     std::vector<ExportLayer> layers_;
-    bool forGis_;
+    bool forGis_ = false;
     ShapeSet set_;
     AttributeTable attributes_;
     ExportProgress& progress_;
@@ -293,7 +303,7 @@ std::optional<Failure> exportShpPolygons(std::span<const Gph* const> layers,
     if (figureCount(found) == 0) {
         return Failure{TextId::NoPolygonsToExport, {}, {}};
     }
-    return Export(std::move(found), basePath, FigureType::Polygon, std::nullopt, progress)
+    return Export(std::move(found), basePath, FigureType::Polygon, progress)
         .run(style, TextId::NoPolygonsToExport);
 }
 
@@ -303,21 +313,19 @@ std::optional<Failure> exportShpPoints(std::span<const Gph* const> layers,
     if (figureCount(found) == 0) {
         return Failure{TextId::NoPointsToExport, {}, {}};
     }
-    return Export(std::move(found), basePath, FigureType::Point, std::nullopt, progress)
+    return Export(std::move(found), basePath, FigureType::Point, progress)
         .run(MapStyle(), TextId::NoPointsToExport);
 }
 
 std::optional<Failure> exportShpGis(std::span<const Gph* const> layers, std::string_view basePath,
-                                    const MapStyle& style, const Date& today,
+                                    const GisForm& form, const Date& today,
                                     ExportProgress& progress) {
     std::vector<ExportLayer> found = figureLayers(layers);
     if (figureCount(found) == 0) {
         return Failure{TextId::NothingToExportGis, {}, {}};
     }
-    const FigureType type =
-        found.front().polygons != nullptr ? FigureType::Polygon : FigureType::Point;
-    return Export(std::move(found), basePath, type, today, progress)
-        .run(style, TextId::NothingToExportGis);
+    return Export(std::move(found), basePath, form.texts, today, progress)
+        .run(form.style, TextId::NothingToExportGis);
 }
 
 }  // namespace campora

@@ -10,6 +10,7 @@
 #include "base/dates.h"
 #include "base/failure.h"
 #include "export/export_progress.h"
+#include "export/gis_form.h"
 #include "model/gph.h"
 #include "model/map_style.h"
 
@@ -21,8 +22,7 @@ namespace campora {
 ///
 /// Layers that lack what the format needs are left out. The table has the columns of the first
 /// layer when every exported layer has data, a cell of another layer being the one of the same
-/// name (a text table goes by position), and a column "id" otherwise, which begins at 0 in every
-/// layer. A map without anything to
+/// name, and a column "id" otherwise, which begins at 0 in every layer. A map without anything to
 /// write is a failure and leaves no file; `progress` may cancel an export, which leaves none
 /// either.
 
@@ -40,11 +40,12 @@ namespace campora {
 
 /// The form that other programs take without complaint: polygons when a layer has them, else
 /// points; rings closed and clockwise, what crosses itself divided into parts, without what has no
-/// area; columns of all layers, of a type that holds the cells of all and wide enough for them (the
-/// format ends a text after 254 letters), three decimals also in a column of integers where a cell
-/// has some, with numbers on the right; `today` as the date of the table.
+/// area; columns of all layers that have some, blank for the others, of a type that holds the cells
+/// of all and wide enough for them (the format ends a text after 254 letters), three decimals also
+/// in a column of integers where a cell has some, with numbers on the right; `today` as the date of
+/// the table.
 [[nodiscard]] std::optional<Failure> exportShpGis(std::span<const Gph* const> layers,
-                                                  std::string_view basePath, const MapStyle& style,
+                                                  std::string_view basePath, const GisForm& form,
                                                   const Date& today, ExportProgress& progress);
 
 }  // namespace campora

@@ -112,14 +112,12 @@ std::vector<ExportLayer> tableLayers(std::span<const Gph* const> layers) {
     return found;
 }
 
-std::string headingLine(const ExportLayer& first, const TextTableForm& form) {
+std::string headingLine(const ExportColumns& columns, const TextTableForm& form) {
     std::string line = "Longitud" + form.separator + "Latitud";
-    const ExportableData* const data = first.data;
-    const int columns = data == nullptr ? 0 : data->ExportableData_getColumnCount();
-    for (int column = 0; column < columns; ++column) {
+    for (const ExportColumn& column : columns.columns()) {
         // A character is one byte in the code page of the table.
         std::string name;
-        appendText(name, trim(data->ExportableData_getColumnNname(column)));
+        appendText(name, trim(column.name));
         if (form.longestName != TextTableForm::kWholeNames) {
             name.resize(std::min<std::size_t>(name.size(), form.longestName));
         }
@@ -128,31 +126,49 @@ std::string headingLine(const ExportLayer& first, const TextTableForm& form) {
     return line.append(kLineEnd);
 }
 
-/// The lines of a layer; false when the user has cancelled.
-bool writeLayer(const ExportLayer& layer, const TextTableForm& form, char systemSymbol,
-                CellTexts& cells, FileDraft& file, ExportProgress& progress) {
-    constexpr CellOptions kOptions{.swathInCentimetres = true};
-    const int columns = layer.data == nullptr ? 0 : layer.data->ExportableData_getColumnCount();
-    std::string line;
-    for (std::int32_t point = 0; point < layer.count; ++point) {
-        if (!progress.next()) {
-            return false;
+/// Writes the lines of layers.
+class TableLines {
+public:
+    TableLines(const TextTableForm& form, const UserLocale& locale, FileDraft& file,
+               ExportProgress& progress)
+        : form_(form),
+          systemSymbol_(locale.decimalSymbol()),
+          cells_(locale),
+          file_(file),
+          progress_(progress) {}
+
+    /// False when the user has cancelled. `index`: of the layer among those of the columns.
+    bool write(const ExportLayer& layer, std::size_t index, const ExportColumns& columns) {
+        // A column that track files and reports share is in one unit.
+        const CellOptions options{true, columns.differ()};
+        for (std::int32_t point = 0; point < layer.count; ++point) {
+            if (!progress_.next()) {
+                return false;
+            }
+            const LonLat at = layer.points->ExportablePoint_pointN(point);
+            line_.clear();
+            appendCoordinate(line_, at.x);
+            line_ += form_.separator;
+            appendCoordinate(line_, at.y);
+            for (std::size_t column = 0; column < columns.columns().size(); ++column) {
+                line_ += form_.separator;
+                cells_.append(line_, columns.cell(index, point, column, options));
+            }
+            std::replace(line_.begin(), line_.end(), systemSymbol_, form_.decimalSymbol);
+            line_ += kLineEnd;
+            file_.write(line_);
         }
-        const LonLat at = layer.points->ExportablePoint_pointN(point);
-        line.clear();
-        appendCoordinate(line, at.x);
-        line += form.separator;
-        appendCoordinate(line, at.y);
-        for (int column = 0; column < columns; ++column) {
-            line += form.separator;
-            cells.append(line, layer.data->ExportableData_getCell(point, column, kOptions));
-        }
-        std::replace(line.begin(), line.end(), systemSymbol, form.decimalSymbol);
-        line += kLineEnd;
-        file.write(line);
+        return true;
     }
-    return true;
-}
+
+private:
+    const TextTableForm& form_;
+    char systemSymbol_;
+    CellTexts cells_;
+    FileDraft& file_;
+    ExportProgress& progress_;
+    std::string line_;
+};
 
 }  // namespace
 
@@ -165,10 +181,11 @@ std::optional<Failure> txtExport(std::span<const Gph* const> layers, std::string
     }
     progress.expect(figureCount(table));
     FileDraft file(path);
-    file.write(headingLine(table.front(), form));
-    CellTexts cells(locale);
-    for (const ExportLayer& layer : table) {
-        if (!writeLayer(layer, form, locale.decimalSymbol(), cells, file, progress)) {
+    const ExportColumns columns = ExportColumns::ofAll(table);
+    file.write(headingLine(columns, form));
+    TableLines lines(form, locale, file, progress);
+    for (std::size_t i = 0; i < table.size(); ++i) {
+        if (!lines.write(table[i], i, columns)) {
             return std::nullopt;
         }
     }

@@ -28,11 +28,11 @@ struct TextTableForm {
 
 /// A table of the points of the layers, in Windows-1252, lines ended by CR LF: a heading, then a
 /// line a point with its longitude and latitude in degrees and, when every layer with points has
-/// data, the cells of its row as the user's locale writes them; swath widths stand in centimetres
-/// in rows of reports, in metres in those of track files. The heading names the columns of the
-/// first of these layers, and the cells of every layer stand in the order of its own columns,
-/// whatever their names (a shapefile goes by names). Layers without points are left out; a map
-/// without any point is a failure. A failure leaves the file that was there, as cancelling does.
+/// data, the cells of its row as the user's locale writes them. Each column of a layer stands there
+/// once, by its name, blank for layers that lack it. Swath widths stand in centimetres in rows of
+/// reports, in metres in those of track files unless the columns of the layers differ. Layers
+/// without points are left out; a map without any point is a failure. A failure leaves the file
+/// that was there, as cancelling does.
 [[nodiscard]] std::optional<Failure> txtExport(std::span<const Gph* const> layers,
                                                std::string_view path, const TextTableForm& form,
                                                const UserLocale& locale, ExportProgress& progress);

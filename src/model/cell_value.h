@@ -19,8 +19,10 @@ using CellValue = std::variant<std::monostate, std::int64_t, float, double, std:
 
 /// Choices of the one who asks for cells.
 struct CellOptions {
-    /// Swath widths in centimetres (as text tables hold them) instead of metres.
+    /// Swath widths of reports in centimetres (as text tables hold them) instead of metres.
     bool swathInCentimetres = false;
+    /// Those of track files too, for a table that holds both.
+    bool trackSwathInCentimetres = false;
 };
 
 }  // namespace campora

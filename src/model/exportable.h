@@ -12,7 +12,9 @@
 
 namespace campora {
 
-/// The three faces through which exporters read any layer; indices count from 0.
+class Texts;
+
+/// The faces through which exporters read any layer; indices count from 0.
 
 class ExportablePolygon {
 public:
@@ -39,6 +41,17 @@ public:
     [[nodiscard]] virtual ColumnType ExportableData_getColumnNtype(int column) const = 0;
     [[nodiscard]] virtual CellValue ExportableData_getCell(std::int32_t row, int column,
                                                            const CellOptions& options) const = 0;
+};
+
+/// A layer whose rows keep alarms.
+class ExportableAlarms {
+public:
+    virtual ~ExportableAlarms() = default;
+
+    [[nodiscard]] virtual bool ExportableAlarms_any() const = 0;
+    /// The names of the alarms of a row, joined by "; "; empty without any.
+    [[nodiscard]] virtual std::string ExportableAlarms_names(std::int32_t row,
+                                                             const Texts& texts) const = 0;
 };
 
 class ExportablePoint {

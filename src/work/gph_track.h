@@ -21,7 +21,8 @@ namespace campora {
 class GphTrack final : public WorkLayer,
                        public ExportablePolygon,
                        public ExportableData,
-                       public ExportablePoint {
+                       public ExportablePoint,
+                       public ExportableAlarms {
 public:
     using RptRecords = std::vector<TrackDataRPT>;
     using NbrRecords = std::vector<TrackDataNBR>;
@@ -76,6 +77,10 @@ public:
     [[nodiscard]] ColumnType ExportableData_getColumnNtype(int column) const override;
     [[nodiscard]] CellValue ExportableData_getCell(std::int32_t row, int column,
                                                    const CellOptions& options) const override;
+    /// Those of reports do.
+    [[nodiscard]] bool ExportableAlarms_any() const override;
+    [[nodiscard]] std::string ExportableAlarms_names(std::int32_t row,
+                                                     const Texts& texts) const override;
     [[nodiscard]] std::int32_t ExportablePoint_pointCount() const override;
     [[nodiscard]] LonLat ExportablePoint_pointN(std::int32_t point) const override;
 

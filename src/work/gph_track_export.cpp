@@ -7,6 +7,7 @@
 
 #include "work/gph_track.h"
 #include "work/swath_geometry.h"
+#include "work/vex_alarmas.h"
 
 namespace campora {
 
@@ -54,6 +55,19 @@ ColumnType GphTrack::ExportableData_getColumnNtype(int column) const {
 CellValue GphTrack::ExportableData_getCell(std::int32_t row, int column,
                                            const CellOptions& options) const {
     return pointInfo(row).getCell(column, options);
+}
+
+bool GphTrack::ExportableAlarms_any() const {
+    return std::holds_alternative<RptRecords>(records_) && !empty();
+}
+
+std::string GphTrack::ExportableAlarms_names(std::int32_t row, const Texts& texts) const {
+    const auto* const records = std::get_if<RptRecords>(&records_);
+    if (records == nullptr) {
+        return {};
+    }
+    const TrackDataRPT& record = records->at(static_cast<std::size_t>(row));
+    return alarmNames(texts, record.workKind(), record.alarmas());
 }
 
 std::int32_t GphTrack::ExportablePoint_pointCount() const {

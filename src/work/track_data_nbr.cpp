@@ -91,14 +91,14 @@ ColumnType TrackDataNBR::getColumnNtype(int column) const {
     return isColumn(column) ? kColumns[column].type : ColumnType::Integer;
 }
 
-CellValue TrackDataNBR::getCell(int column, const CellOptions& /*options*/) const {
+CellValue TrackDataNBR::getCell(int column, const CellOptions& options) const {
     switch (column) {
     case 0:
         return flow_;
     case 1:
         return speed_;
     case 2:
-        return swath_;
+        return options.trackSwathInCentimetres ? swath_ * 100 : swath_;
     case 3:
         return litrosH();
     default:

@@ -54,6 +54,18 @@ std::string_view alarmText(const Texts& texts, WorkKind kind, int bit) {
     return {};
 }
 
+std::string alarmNames(const Texts& texts, WorkKind kind, std::uint32_t alarms) {
+    constexpr int kBits = 32;
+    std::string names;
+    for (int bit = 0; bit < kBits; ++bit) {
+        const std::string_view name = alarmText(texts, kind, bit);
+        if (((alarms >> static_cast<unsigned>(bit)) & 1U) != 0 && !name.empty()) {
+            names.append(names.empty() ? "" : "; ").append(name);
+        }
+    }
+    return names;
+}
+
 std::uint32_t knownAlarms(WorkKind kind) {
     return kind == WorkKind::Sprayer ? kSprayerBits : kSeederBits;
 }

@@ -122,7 +122,15 @@ TEST(ExportColumns, FindCellsByTheNameOfTheirColumn) {
     EXPECT_EQ(all.cell(2, 0, 2), number(3));
     EXPECT_FALSE(allHaveColumns(pointLayers(std::vector<Gph*>{&one, &two, &points})));
     RingLayer bare({squareAt(0, 0)});
-    EXPECT_TRUE(ExportColumns::ofAll(polygonLayers(std::vector<Gph*>{&one, &bare})).empty());
+    const auto beside = polygonLayers(std::vector<Gph*>{&bare, &one});
+    EXPECT_TRUE(ExportColumns::ofFirst(beside).empty());
+    EXPECT_EQ(ExportColumns::ofAll(beside).cell(0, 0, 1), CellValue());
+    EXPECT_EQ(ExportColumns::ofAll(beside).cell(1, 0, 0), number(1));
+    // New columns stand behind the one before them in their layer.
+    AttributeLayer between({squareAt(0, 0)}, {{"A", ColumnType::Integer, {number(5)}},
+                                              {"D", ColumnType::Integer, {number(6)}}});
+    const ExportColumns both = ExportColumns::ofAll(pointLayers(std::vector<Gph*>{&one, &between}));
+    EXPECT_EQ(both.columns()[1].name, "D");
 }
 
 }  // namespace

@@ -17,7 +17,7 @@ namespace {
 
 struct GeoJsonTest : testing::Test {
     std::optional<Failure> write(const std::vector<Gph*>& layers) {
-        return exportGeoJson(layers, path, MapStyle(), progress);
+        return exportGeoJson(layers, path, {MapStyle()}, progress);
     }
     nlohmann::json written(const std::vector<Gph*>& layers) {
         EXPECT_EQ(write(layers), std::nullopt);
@@ -91,7 +91,11 @@ TEST_F(GeoJsonTest, ColumnsOfAllLayers) {
     ASSERT_EQ(both.size(), 3U);
     EXPECT_EQ(both[0]["properties"], nlohmann::json::parse(R"({"A":1,"B":null})"));
     EXPECT_EQ(both[2]["properties"], nlohmann::json::parse(R"({"A":null,"B":"y"})"));
-    const nlohmann::json numbered = written({&two, &none})["features"];
+    const nlohmann::json beside = written({&two, &none})["features"];
+    EXPECT_EQ(beside[1]["properties"], nlohmann::json::parse(R"({"B":"y"})"));
+    EXPECT_EQ(beside[2]["properties"], nlohmann::json::parse(R"({"B":null})"));
+    AttributeLayer bare({squareAt(0, 0), squareAt(1, 1)}, {});
+    const nlohmann::json numbered = written({&bare, &none})["features"];
     EXPECT_EQ(numbered[1]["properties"], nlohmann::json::parse(R"({"id":1})"));
     EXPECT_EQ(numbered[2]["properties"], nlohmann::json::parse(R"({"id":0})"));
 }
@@ -133,7 +137,7 @@ TEST_F(GeoJsonTest, FailuresAndCancellingLeaveTheOldFile) {
     CancellingProgress enough;
     ExportProgress cancelled(enough);
     const std::vector<Gph*> layers = {&layer};
-    EXPECT_EQ(exportGeoJson(layers, path, MapStyle(), cancelled), std::nullopt);
+    EXPECT_EQ(exportGeoJson(layers, path, {MapStyle()}, cancelled), std::nullopt);
 #ifndef _WIN32
     std::optional<Failure> failure;
     {

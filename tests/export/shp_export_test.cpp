@@ -35,7 +35,7 @@ struct ShpTest : testing::Test {
         return exportShpPoints(layers, base, progress);
     }
     std::optional<Failure> gis(const std::vector<Gph*>& layers) {
-        return exportShpGis(layers, base, style, kToday, progress);
+        return exportShpGis(layers, base, {style}, kToday, progress);
     }
     [[nodiscard]] std::string content(const char* ending) const { return contentOf(base + ending); }
     /// The table without its header.
@@ -308,8 +308,10 @@ TEST_F(ShpTest, GisColumnsHoldTheCellsOfEveryLayer) {
                                           {"b", ColumnType::Real, {0.123456789012}}});
     AttributeLayer two({squareAt(5, 5)}, {{"a", ColumnType::Real, {7.25F}},
                                           {"b", ColumnType::Text, {std::string("x")}}});
-    ASSERT_EQ(gis({&one, &two}), std::nullopt);
-    EXPECT_EQ(records(2), "           7.0000.123456789012           7.250x             ");
+    AttributeLayer none({squareAt(9, 9)}, {});
+    ASSERT_EQ(gis({&one, &two, &none}), std::nullopt);
+    EXPECT_EQ(records(2), "           7.0000.123456789012           7.250x             " +
+                              std::string(1 + 15 + 14, ' '));
 }
 
 TEST_F(ShpTest, AnIntegerBeyond16BitsIsRefusedInThePlainForm) {
@@ -370,7 +372,7 @@ TEST_F(ShpTest, CancellingLeavesTheOldFiles) {
     const std::vector<Gph*> layers = {&layer};
     EXPECT_EQ(exportShpPoints(layers, base, cancelled), std::nullopt);
     EXPECT_EQ(exportShpPolygons(layers, base, style, cancelled), std::nullopt);
-    EXPECT_EQ(exportShpGis(layers, base, style, kToday, cancelled), std::nullopt);
+    EXPECT_EQ(exportShpGis(layers, base, {style}, kToday, cancelled), std::nullopt);
     EXPECT_TRUE(cancelled.cancelled());
     EXPECT_EQ(content(".shp"), "old");
     EXPECT_EQ(fileCount(), 1U);

@@ -45,6 +45,8 @@ TEST_F(ShpTrackTest, AveragesAndLitresPerHectare) {
         {"less than one", figure(900, 1, 1, 20), " 900 1   0.03  "},
         {"cut to the field", figure(12000, 99999 * 0.2, 1, 1), " 120020001000.0"},
         {"most digits", figure(1, 1666, 1, 1), " 1   1666999600"},
+        {"cut to six characters", figure(1, 1667, 1, 1), " 1   1667100020"},
+        {"cut below zero", figure(1, -167, 1, 1), " 1   -167-10020"},
         {"no speed", figure(0.4, 100, 1, 15), " 0   100       "},
         {"no width", figure(200, 100, 1, 0.5F), " 200 100       "},
     };
@@ -90,7 +92,6 @@ TEST_F(ShpTrackTest, AValueThatWouldBecomeAnotherOneIsAFailure) {
     const std::string old = folder.write("log0105.shp", "old");
     const SwathFigure rows[] = {
         figure(32768, 0, 1, 15), figure(0, -65600, 2, 15),  // beyond 16 bits
-        figure(1, 1667, 1, 1), figure(1, -167, 1, 1),       // beyond the six places of the litres
     };
     for (const SwathFigure& bad : rows) {
         Shp shapes(base, {});

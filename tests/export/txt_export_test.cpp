@@ -117,8 +117,8 @@ TEST_F(TextTest, ColumnsStandThereWhenEveryLayerWithPointsHasData) {
     const RingLayer rings({{{0, 0}, {1, 0}, {1, 1}}});
     form.decimalSymbol = ',';
     EXPECT_EQ(table({&empty, &rings, &first, &second}),
-              "Longitud\tLatitud\tA.1\tLarga\r\n"
-              " 1\t 2\t1\t1,5\r\n 3\t 4\t2\t2,5\r\n 5\t 6\tx\r\n");
+              "Longitud\tLatitud\tA.1\tLarga\tB\r\n"
+              " 1\t 2\t1\t1,5\t\r\n 3\t 4\t2\t2,5\t\r\n 5\t 6\t\t\tx\r\n");
     EXPECT_EQ(table({&first, &bare}), "Longitud\tLatitud\r\n 1\t 2\r\n 3\t 4\r\n 7\t 8\r\n");
     form.longestName = 3;
     form.separator = ";";

@@ -5,6 +5,7 @@
 
 #include "support/work_records.h"
 #include "work/gph_track.h"
+#include "work/vex_alarmas.h"
 
 namespace campora {
 namespace {
@@ -44,6 +45,9 @@ TEST(GphTrackExport, RowsAndPointsAreItsRecords) {
     EXPECT_EQ(track.ExportableData_getDataCount(), 3);
     EXPECT_EQ(track.ExportableData_getCell(2, 0, {}), CellValue(std::int64_t{110}));
     EXPECT_EQ(track.ExportableData_getCell(1, 4, {.swathInCentimetres = true}), CellValue(4000.0F));
+    EXPECT_TRUE(track.ExportableAlarms_any());
+    EXPECT_EQ(alarmNames(Texts(), WorkKind::Sprayer, 0x80000302),
+              "Presión Mínima; Alarma de velocidad; Alarma de nodo apagado");
     EXPECT_EQ(track.ExportablePoint_pointCount(), 3);
     EXPECT_EQ(track.ExportablePoint_pointN(1), atMetres(100, 0));
 }
