@@ -11,6 +11,7 @@
 
 #include "app/save_target.h"
 #include "app/session.h"
+#include "app/used_files.h"
 #include "base/files.h"
 #include "base/paths.h"
 #include "base/plain_text.h"
@@ -83,31 +84,34 @@ ExportCommands::askTarget(std::span<const ExportFormat> formats, std::string pro
     return Target{std::move(path), &format};
 }
 
-std::vector<std::string> ExportCommands::openPaths() const {
-    std::vector<std::string> paths(static_cast<std::size_t>(session_.files().loadedCount()));
-    for (std::size_t i = 0; i < paths.size(); ++i) {
-        paths[i] = session_.files().file(static_cast<int>(i)).File_diskPath();
+void ExportCommands::tellDroppedColumns(const ExportFormat& format,
+                                        const std::vector<Gph*>& layers) const {
+    std::string names;
+    const File* last = nullptr;
+    for (const Gph* const layer : layersWithoutColumns(format, layers)) {
+        const File* const owner = session_.files().ownerOf(layer);
+        if (owner != nullptr && owner != last) {
+            names.append(names.empty() ? "" : ", ").append(owner->File_name());
+        }
+        last = owner;
     }
-    return paths;
+    if (!names.empty()) {
+        session_.platform().dialogs.message(
+            session_.texts().format(TextId::ColumnsDropped, {names}), MessageIcon::Information,
+            session_.texts()(TextId::ProgramName));
+    }
 }
 
-std::optional<Failure> ExportCommands::whyNotWritten(const std::string& path,
-                                                     const std::vector<std::string>& sources) {
-    const bool isSource =
-        std::any_of(sources.begin(), sources.end(), [&path](const std::string& source) {
-            return !source.empty() && isSameFile(findIgnoringCase(source), path);
-        });
-    return isSource ? because(TextId::FileCannotBeWritten, {path}, {TextId::CopyIsSameFile, {}})
-                    : whyNoTarget(path);
-}
-
-bool ExportCommands::write(const ExportFormat& format, const std::vector<std::string>& sources,
+bool ExportCommands::write(const ExportFormat& format, const FilesInUse& inUse,
                            std::vector<Gph*> layers, const std::string& path) {
-    if (const std::optional<Failure> refused = whyNotWritten(path, sources)) {
-        return fail(*refused);
+    std::optional<Failure> failure = whyNoTarget(path);
+    if (!failure) {
+        failure = inUse.whyNotTarget(targetsOf(format, path));
+    }
+    if (failure) {
+        return fail(*failure);
     }
     bool cancelled = false;
-    std::optional<Failure> failure;
     {
         const WhileBusy busy(busy_);
         const std::unique_ptr<Progress> shown =
@@ -115,14 +119,25 @@ bool ExportCommands::write(const ExportFormat& format, const std::vector<std::st
                                                      .append(" ")
                                                      .append(fileNamePart(path)));
         ExportProgress progress(*shown);
-        failure = format.write({session_, std::move(layers), path, savePicture, progress});
+        failure = format.write({session_, layers, path, savePicture, progress});
         cancelled = progress.cancelled();
     }
-    return failure ? fail(*failure) : !cancelled;
+    if (failure || cancelled) {
+        return failure && fail(*failure);
+    }
+    tellDroppedColumns(format, layers);
+    return true;
 }
 
 bool ExportCommands::exportMap(const ExportFormat& format, const std::string& path) {
-    return !busy_ && write(format, openPaths(), session_.getGphList(), path);
+    if (busy_) {
+        return false;
+    }
+    std::optional<OverlaidMap> overlaid;
+    if (format.source == ExportSource::Picture) {
+        overlaid.emplace(session_.platform().canvas, session_.view());
+    }
+    return write(format, session_.filesInUse(), session_.getGphList(), path);
 }
 
 void ExportCommands::openWithShell(const std::string& path) const {
@@ -189,10 +204,17 @@ std::unique_ptr<File> ExportCommands::readReport(const std::string& path) const 
     return work ? std::move(work->group) : nullptr;
 }
 
+FilesInUse ExportCommands::inUseWith(const std::string& report) const {
+    FilesInUse inUse = session_.filesInUse();
+    addOpened(inUse, report);
+    return inUse;
+}
+
 bool ExportCommands::exportReport(const std::string& report, const ExportFormat& format,
                                   const std::string& path) {
     const std::unique_ptr<File> read = readReport(report);
-    return read != nullptr && !busy_ && write(format, {report}, read->File_gphList(), path);
+    return read != nullptr && !busy_ &&
+           write(format, inUseWith(report), read->File_gphList(), path);
 }
 
 void ExportCommands::mnuFileExportRpt() {
@@ -213,7 +235,7 @@ void ExportCommands::mnuFileExportRpt() {
     }
     const std::optional<Target> target =
         askTarget(textFormats(), std::string(fileStem(report)) + ".txt");
-    if (target && write(*target->format, {report}, read->File_gphList(), target->path)) {
+    if (target && write(*target->format, inUseWith(report), read->File_gphList(), target->path)) {
         openWithShell(target->path);
     }
 }
@@ -232,7 +254,10 @@ bool ExportCommands::exportGlg(const std::string& path) {
     if (tracks.empty()) {
         return fail({TextId::NoTracksToExport, {}});
     }
-    std::optional<Failure> failure = whyNotWritten(path, openPaths());
+    std::optional<Failure> failure = whyNoTarget(path);
+    if (!failure) {
+        failure = session_.filesInUse().whyNotTarget(path);
+    }
     if (!failure) {
         failure = exporttoglg(path, tracks);
     }

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "app/export_formats.h"
+#include "base/files_in_use.h"
 #include "model/file.h"
 
 namespace campora {
@@ -41,8 +42,8 @@ public:
     [[nodiscard]] bool canExportGlg() const;
 
     // The same without questions, for the batch program too. Each says what went wrong and answers
-    // whether the file was written; nothing is written otherwise. A file that is being exported is
-    // never the target.
+    // whether the file was written; nothing is written otherwise. A file that is in use is never
+    // the target.
 
     bool exportMap(const ExportFormat& format, const std::string& path);
     bool exportReport(const std::string& report, const ExportFormat& format,
@@ -60,14 +61,14 @@ private:
                                                   std::string proposed) const;
     /// The path with the ending of its format; empty when the user cancels.
     [[nodiscard]] std::string endedPath(const std::string& chosen, std::string_view ending) const;
-    /// Writes the layers of `sources`; false when that failed, which is said, or was cancelled.
-    bool write(const ExportFormat& format, const std::vector<std::string>& sources,
-               std::vector<Gph*> layers, const std::string& path);
-    /// Why a path cannot be written whatever is to stand there; none when it may.
-    [[nodiscard]] static std::optional<Failure>
-    whyNotWritten(const std::string& path, const std::vector<std::string>& sources);
-    /// The files of the map.
-    [[nodiscard]] std::vector<std::string> openPaths() const;
+    /// Writes the layers, unless the target is in use; false when that failed, which is said, or
+    /// was cancelled.
+    bool write(const ExportFormat& format, const FilesInUse& inUse, std::vector<Gph*> layers,
+               const std::string& path);
+    /// Says which files made the table of a format do without columns, if any did.
+    void tellDroppedColumns(const ExportFormat& format, const std::vector<Gph*>& layers) const;
+    /// The files in use, and a report that is not on the map.
+    [[nodiscard]] FilesInUse inUseWith(const std::string& report) const;
     /// Null when the report is refused, which is said.
     [[nodiscard]] std::unique_ptr<File> readReport(const std::string& path) const;
     void afterExport(const ExportFormat& format, const std::string& path) const;

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <span>
 
 #include "app/file_loading.h"
 #include "app/files_behind.h"
@@ -12,6 +13,7 @@
 #include "app/save_target.h"
 #include "app/session.h"
 #include "app/settings.h"
+#include "app/used_files.h"
 #include "base/file_draft.h"
 #include "base/files.h"
 #include "base/paths.h"
@@ -106,6 +108,9 @@ bool FileCommands::openPaths(const std::vector<std::string>& paths, bool resetFi
         }
     }
     const std::vector<std::string> taken = session_.loadFiles(files, resetFirst);
+    for (const std::string& path : projects) {
+        session_.addSource(path);
+    }
     // A project stands for its files in the list of recent ones.
     for (const std::string& path : projects.empty() ? taken : projects) {
         recent_.add(path);
@@ -181,6 +186,14 @@ void FileCommands::saveAs() {
     session_.setTitle(false);
     const std::string summary = findIgnoringCase(source.summaryPath);
     const bool hasSummary = canOpen(summary);
+    FilesInUse inUse = session_.filesInUse();
+    addOpened(inUse, source.trackPath);
+    const std::string targets[] = {target.trackPath, target.summaryPath};
+    if (const auto refused = inUse.whyNotTarget(std::span(targets, hasSummary ? 2 : 1))) {
+        platform.dialogs.message(texts.sentence(*refused), MessageIcon::Error,
+                                 texts(TextId::Error));
+        return;
+    }
     // The save dialog has asked about the name that was chosen; nobody has about the others.
     if ((path != chosen && !overwriteAgreed(session_, target.trackPath)) ||
         (hasSummary && !overwriteAgreed(session_, target.summaryPath))) {

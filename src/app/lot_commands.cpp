@@ -158,7 +158,6 @@ void LotCommands::mnuLoteSave() {
         return;
     }
     const File& file = *session_.files().currentFile();
-    const bool unsaved = isUnsaved(file);
     const std::vector<LotFile> lots = lotsOf(file);
     std::string name = file.File_name();
     if (pathEnding(name) != kLotEnding) {
@@ -169,6 +168,10 @@ void LotCommands::mnuLoteSave() {
         return;
     }
     const std::vector<std::string> paths = lotPaths(target, lots.size());
+    if (const auto refused = session_.filesInUse(&file).whyNotTarget(paths)) {
+        tell(session_.texts().sentence(*refused));
+        return;
+    }
     for (const std::string& path : paths) {
         if (path != target && !overwriteAgreed(session_, path)) {
             return;
@@ -179,8 +182,17 @@ void LotCommands::mnuLoteSave() {
         tell(session_.texts().sentence(saved.failure()));
         return;
     }
+    const bool wasMerged = isUnsaved(file);
+    showSaved(file, *saved);
+    if (const std::string older = wasMerged ? olderLots(target, *saved) : ""; !older.empty()) {
+        tell(session_.texts().format(TextId::OlderLotsStay, {older}));
+    }
+}
+
+void LotCommands::showSaved(const File& file, const std::vector<std::string>& paths) const {
+    const bool unsaved = isUnsaved(file);
     const File* untitled = unsaved ? &file : nullptr;
-    for (const std::string& path : *saved) {
+    for (const std::string& path : paths) {
         if (unsaved || session_.files().isLoaded(path)) {
             putLotOnMap(session_, path, std::exchange(untitled, nullptr));
         }
@@ -204,6 +216,15 @@ std::vector<LotFile> LotCommands::openLots(bool unsaved) const {
 std::vector<LotFile> LotCommands::lotsToMerge() const {
     std::vector<LotFile> lots = openLots(false);
     return lots.empty() ? openLots(true) : lots;
+}
+
+std::span<const std::string> LotCommands::mergedFrom() const {
+    for (int i = 0; i < session_.files().loadedCount(); ++i) {
+        if (isUnsaved(session_.files().file(i))) {
+            return mergedFrom_;
+        }
+    }
+    return {};
 }
 
 bool LotCommands::canMerge() const {
@@ -241,6 +262,15 @@ void LotCommands::mnuLoteMerge() {
         return;
     }
     LoadedFileList& files = session_.files();
+    std::vector<std::string> sources;
+    for (int i = 0; i < files.loadedCount(); ++i) {
+        if (!isUnsaved(files.file(i)) && !lotsOf(files.file(i)).empty()) {
+            sources.push_back(files.file(i).File_diskPath());
+        }
+    }
+    if (!sources.empty()) {  // else the earlier result is merged again
+        mergedFrom_ = std::move(sources);
+    }
     for (int i = files.loadedCount(); i-- > 0;) {
         if (isUnsaved(files.file(i))) {
             files.removeFile(&files.file(i));

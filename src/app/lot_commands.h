@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -54,6 +55,8 @@ public:
     /// off the map must not come back with it.
     void mnuLoteMerge();
     [[nodiscard]] bool canMerge() const;
+    /// The files whose lots are in a result of merging that is on no disk yet.
+    [[nodiscard]] std::span<const std::string> mergedFrom() const;
     /// Whether the file may go: asks when it is a result of merging that is on no disk yet.
     [[nodiscard]] bool mayLose(const File& file) const;
     /// The same for all open files.
@@ -65,7 +68,12 @@ private:
     [[nodiscard]] std::vector<LotFile> lotsToMerge() const;
     void tell(const std::string& text) const;
 
+    /// Shows what was saved in place of the lots of `file`.
+    void showSaved(const File& file, const std::vector<std::string>& paths) const;
+
     Session& session_;
+    /// Of the last merging.
+    std::vector<std::string> mergedFrom_;
 };
 
 }  // namespace campora

@@ -77,6 +77,10 @@ void LotEditor::saveBack() {
 }
 
 void LotEditor::write(const std::string& target) {
+    if (const auto refused = session_.filesInUse(edited()).whyNotTarget(target)) {
+        tell(*refused);
+        return;
+    }
     const LotFile lot{draft_.vertices(), draft_.description()};
     const Result<std::vector<std::string>> saved = saveLots({&lot, 1}, target);
     if (!saved) {

@@ -278,12 +278,8 @@ void MapTools::copyImage(Clipboard& clipboard) {
         return;
     }
     cancelDrag();
-    view_.settle();
-    canvas_.takeSnapshot();
-    view_.DrawMap();
+    const OverlaidMap overlaid(canvas_, view_);
     clipboard.setPicture(canvas_.picture());
-    canvas_.paintSnapshot({0, 0}, 1);  // unlike a redraw it keeps what was measured and replayed
-    canvas_.refresh();
 }
 
 void MapTools::cancelDrag() {

@@ -309,6 +309,17 @@ void MapView::DrawMap() {
     paint(shown_.arrows.left, MapPicture::ArrowLeft);
 }
 
+OverlaidMap::OverlaidMap(MapCanvas& canvas, MapView& view) : canvas_(canvas) {
+    view.settle();
+    canvas_.takeSnapshot();
+    view.DrawMap();
+}
+
+OverlaidMap::~OverlaidMap() {
+    canvas_.paintSnapshot({0, 0}, 1);  // unlike a redraw it keeps what was measured and replayed
+    canvas_.refresh();
+}
+
 void MapView::goBackTo(const Place& place) {
     maxScale_ = place.maxScale;
     setView(place.scale, place.scale, place.scrollX, place.scrollY);

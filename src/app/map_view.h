@@ -172,4 +172,16 @@ private:
     ViewControls shown_;
 };
 
+/// While it lives the canvas shows the map with its scale bar and arrows, for a picture of it.
+class OverlaidMap {
+public:
+    OverlaidMap(MapCanvas& canvas, MapView& view);
+    OverlaidMap(const OverlaidMap&) = delete;
+    OverlaidMap& operator=(const OverlaidMap&) = delete;
+    ~OverlaidMap();
+
+private:
+    MapCanvas& canvas_;
+};
+
 }  // namespace campora

@@ -3,6 +3,7 @@
 
 #include "app/presc_commands.h"
 
+#include <span>
 #include <utility>
 
 #include "app/session.h"
@@ -96,8 +97,21 @@ std::string PrescCommands::askTarget(TextId filter, std::string_view ending) con
         request.folder = session_.programFolder();
     }
     std::string path = platform.dialogs.saveFile(request).path;
-    if (!path.empty()) {
-        writeText(platform.settings, SettingId::SavePath, folderOf(path));
+    if (path.empty()) {
+        return path;
+    }
+    writeText(platform.settings, SettingId::SavePath, folderOf(path));
+    // Before any question: none of the answers could help.
+    const bool hasReport = filter == TextId::FilterPreFiles;
+    const std::string targets[] = {path, companionPath(path)};
+    std::optional<Failure> refused =
+        session_.filesInUse().whyNotTarget(std::span(targets, hasReport ? 2 : 1));
+    if (!refused && hasReport) {
+        refused = whyReportStands(path);
+    }
+    if (refused) {
+        contextOf(session_).refuse(*refused);
+        return {};
     }
     return path;
 }

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "app/export_commands.h"
@@ -22,6 +23,7 @@
 #include "app/presc_commands.h"
 #include "app/replay.h"
 #include "app/summary_commands.h"
+#include "base/files_in_use.h"
 #include "base/texts.h"
 #include "colour/color_scale.h"
 #include "model/map_style.h"
@@ -142,6 +144,11 @@ public:
     [[nodiscard]] bool mayCloseFiles() const {
         return prescription_.mayClose() && lots_.mayClose();
     }
+    /// Keeps a file that open ones were read from, until others take their place.
+    void addSource(std::string path) { sources_.push_back(std::move(path)); }
+    /// What no command writes over: the open files but for `but`, which may be null, and all that
+    /// they use or were read from.
+    [[nodiscard]] FilesInUse filesInUse(const File* but = nullptr) const;
     /// Reads every open file again; one that cannot be read stays as it was.
     void reloadFiles();
     /// The logger's track file opened last; empty when there was none.
@@ -265,6 +272,7 @@ private:
     CoordType coordType_ = CoordType::Degrees;
     std::string title_;
     std::string lastTrackFile_;
+    std::vector<std::string> sources_;
     std::optional<SavedMap> saved_;
     ColorScale::Subscription scaleChanges_;
     LegendCommands legend_{*this};

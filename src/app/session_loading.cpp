@@ -131,6 +131,7 @@ bool Session::takeWork(std::string_view path, const FileFormat& format, bool res
     addKeptEdits(*work->file);
     if (resetFirst) {
         reset();  // only now: a file that is refused must not cost the open ones
+        sources_.clear();
     }
     if (files_.empty()) {
         hasFlowStops_.reset();

@@ -7,9 +7,11 @@
 #include <span>
 
 #include "app/session.h"
+#include "app/used_files.h"
 #include "base/files.h"
 #include "base/paths.h"
 #include "base/text.h"
+#include "export/shape_set.h"
 #include "platform/left_undone.h"
 #include "platform/quiet_dialogs.h"
 #include "work/work_reader.h"
@@ -41,6 +43,9 @@ std::string shapeBaseOf(std::string_view trackPath) {
 
 TrackExportOutcome TrackBatch::exportOne(const std::string& source,
                                          std::string_view basePath) const {
+    if (const auto refused = inUse_.whyNotTarget(shapeSetFiles(basePath))) {
+        return {false, session_.texts().sentence(*refused)};
+    }
     RemarkDialogs dialogs;
     const Platform& platform = session_.platform();
     const std::optional<LoadedWork> work = loadTrackFile(
@@ -52,6 +57,13 @@ TrackExportOutcome TrackBatch::exportOne(const std::string& source,
     return {!failure, failure ? session_.texts().sentence(*failure) : dialogs.remarks};
 }
 
+void TrackBatch::lookWhatIsInUse(const std::vector<std::string>& sources) {
+    inUse_ = session_.filesInUse();
+    for (const std::string& source : sources) {
+        addOpened(inUse_, source);
+    }
+}
+
 bool TrackBatch::exportList(const std::vector<std::string>& paths) {
     if (running_) {
         return false;
@@ -59,6 +71,7 @@ bool TrackBatch::exportList(const std::vector<std::string>& paths) {
     running_ = true;
     stopped_ = false;
     bool all = true;
+    lookWhatIsInUse(paths);
     const Texts& texts = session_.texts();
     for (const std::string& path : paths) {
         std::string line = std::string(texts(TextId::Exporting)) + ' ';
@@ -88,6 +101,7 @@ bool TrackBatch::exportFiles(const std::string& source, const std::string& targe
     const std::string base = pathEnding(target) == ".shp" ? shapeBaseOf(target) : target;
     const Texts& texts = session_.texts();
     const std::optional<Failure> refused = whyNoTarget(target);
+    lookWhatIsInUse({source});
     const TrackExportOutcome outcome = refused ? TrackExportOutcome{false, texts.sentence(*refused)}
                                                : exportOne(findIgnoringCase(source), base);
     std::string text(texts(outcome.written ? TextId::FileExported : TextId::FileNotExported));

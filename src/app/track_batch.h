@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "app/track_export.h"
+#include "base/files_in_use.h"
 
 namespace campora {
 
@@ -44,12 +45,16 @@ public:
     void stop() { stopped_ = true; }
     [[nodiscard]] bool isRunning() const { return running_; }
 
-    /// The same for one file without a word.
+private:
+    /// One file, unless its shapefile would stand in the place of a file in use.
     [[nodiscard]] TrackExportOutcome exportOne(const std::string& source,
                                                std::string_view basePath) const;
+    /// The files of the map and these.
+    void lookWhatIsInUse(const std::vector<std::string>& sources);
 
-private:
     const Session& session_;
+    /// What is in use, the files to read among it; made once for a run.
+    FilesInUse inUse_;
     bool running_ = false;
     bool stopped_ = false;
 };

@@ -134,7 +134,7 @@ void WorkOrdersBrowser::copy() {
                                        {std::string(texts(TextId::FilterLogs)), {"*.nbr"}}});
     if (!destination.empty()) {
         writeText(platform.settings, SettingId::SelectFolder, destination);
-        copyOrder(order, destination, platform.dialogs, texts);
+        copyOrder(order, destination, session_.filesInUse(), platform.dialogs, texts);
     }
 }
 

@@ -85,6 +85,7 @@ BatchSession::BatchSession(const Arguments& arguments, MapCanvas& canvas, std::o
 bool BatchSession::openFiles() {
     bool all = true;
     for (const std::string& path : arguments_.files) {
+        session_.addSource(path);
         if (isInterrupted()) {
             return false;
         }

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "app/used_files.h"
 #include "base/plain_text.h"
 #include "cli/batch_platform.h"
 #include "cli/commands.h"
@@ -29,6 +30,20 @@ std::optional<std::vector<std::string>> save(std::span<const LotFile> lots, cons
         return std::nullopt;
     }
     return *saved;
+}
+
+/// Says that a file which was read would be lost; false then.
+bool spares(const std::vector<std::string>& targets, const Arguments& arguments,
+            const Console& console) {
+    FilesInUse inUse;
+    for (const std::string& path : arguments.files) {
+        addOpened(inUse, path);
+    }
+    const std::optional<Failure> refused = inUse.whyNotTarget(targets);
+    if (refused) {
+        console.boxes << oneLine(Texts(arguments.language).sentence(*refused)) << '\n';
+    }
+    return !refused;
 }
 
 }  // namespace
@@ -59,12 +74,19 @@ int runMerge(const Arguments& arguments, const Console& console) {
     for (const std::string& remark : mergeRemarks(merged, texts)) {
         console.boxes << oneLine(remark) << '\n';
     }
-    const auto saved = merged.lots.empty() ? std::nullopt : save(merged.lots, arguments, console);
+    if (merged.lots.empty() ||
+        !spares(lotPaths(arguments.output, merged.lots.size()), arguments, console)) {
+        return exit_status::kRefused;
+    }
+    const auto saved = save(merged.lots, arguments, console);
     if (!saved) {
         return exit_status::kRefused;
     }
     for (const std::string& path : *saved) {
         console.out << plainLine(path) << '\n';
+    }
+    if (const std::string older = olderLots(arguments.output, *saved); !older.empty()) {
+        console.boxes << oneLine(texts.format(TextId::OlderLotsStay, {older})) << '\n';
     }
     return status;
 }

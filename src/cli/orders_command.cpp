@@ -82,7 +82,7 @@ bool copy(const Orders& orders, const Arguments& arguments, Dialogs& dialogs, co
             MessageIcon::Error, "");
         return false;
     }
-    return copyOrder(*order, asked.destination, dialogs, texts);
+    return copyOrder(*order, asked.destination, {}, dialogs, texts);
 }
 
 }  // namespace

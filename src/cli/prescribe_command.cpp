@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "app/dose_columns.h"
+#include "app/used_files.h"
 #include "base/files.h"
 #include "base/numbers.h"
 #include "base/paths.h"
@@ -96,6 +97,19 @@ bool addChannel(DoseColumns& columns, int row, const ChannelSource& source,
     return true;
 }
 
+/// Why no grid may take the place of what stands at the target.
+std::optional<Failure> whyNotWritten(const Arguments& arguments) {
+    FilesInUse inUse;
+    for (const ChannelSource& source : arguments.prescription.channels) {
+        addOpened(inUse, source.file);
+    }
+    std::vector<std::string> targets{arguments.output};
+    if (arguments.prescription.kind != GridKind::Vrt) {
+        targets.push_back(companionPath(arguments.output));
+    }
+    return inUse.whyNotTarget(targets);
+}
+
 bool write(const Arguments& arguments, std::span<const ChannelZones> channels,
            const GenerationContext& context) {
     const PrescriptionOrder& order = arguments.prescription;
@@ -117,6 +131,10 @@ int runPrescribe(const Arguments& arguments, const Console& console) {
     BatchSession batch(arguments, canvas, console.boxes);
     const Session& session = batch.session();
     const PrescriptionOrder& order = arguments.prescription;
+    if (const std::optional<Failure> refused = whyNotWritten(arguments)) {
+        console.boxes << oneLine(session.texts().sentence(*refused)) << '\n';
+        return exit_status::kRefused;
+    }
     DoseColumns columns(session);
     columns.onNote = [&console](const std::string& text) {
         console.boxes << "note: " << oneLine(text) << '\n';

@@ -20,7 +20,14 @@ int runRender(const Arguments& arguments, const Console& console) {
     if (session.plotCount() == 0 || isInterrupted()) {
         return exit_status::kRefused;
     }
+    if (const auto refused = session.filesInUse().whyNotTarget(arguments.output)) {
+        console.boxes << oneLine(session.texts().sentence(*refused)) << '\n';
+        return exit_status::kRefused;
+    }
     drawWholeMap(session, arguments);
+    if (arguments.overlay) {
+        session.view().DrawMap();
+    }
     const PictureForm form =
         pathEnding(arguments.output) == ".bmp" ? PictureForm::Bmp : PictureForm::Png;
     if (const auto failure = savePicture(canvas.picture(), arguments.output, form)) {

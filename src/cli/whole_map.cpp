@@ -29,9 +29,6 @@ void drawWholeMap(Session& session, const Arguments& arguments) {
         session.refreshColorScale();
     }
     session.view().ZoomUno();
-    if (arguments.overlay) {
-        session.view().DrawMap();
-    }
 }
 
 }  // namespace campora

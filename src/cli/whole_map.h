@@ -28,7 +28,8 @@ private:
 
 [[nodiscard]] CanvasSize canvasSize(PixelSize size);
 
-/// Everything has been loaded with the usual looks; the whole map is now drawn as the options say.
+/// Everything has been loaded with the usual looks; the whole map is now drawn as the options say,
+/// without its scale bar and arrows.
 void drawWholeMap(Session& session, const Arguments& arguments);
 
 }  // namespace campora

@@ -192,12 +192,7 @@ void MainWindow::connectMenus() {
     };
     session_->exports().savePicture = savePicture;
     session_->exports().showTrackExport = [this](const std::vector<std::string>& paths) {
-        ShpExportDialog dialog(*session_, this);
-        if (paths.size() == 1) {
-            dialog.exportFiles(paths.front());
-        } else {
-            dialog.exportList(paths);
-        }
+        ShpExportDialog(*session_, this).exportList(paths);
     };
     connect(&actions_->menu(MenuId::Recent), &QMenu::aboutToShow, this,
             &MainWindow::fillRecentMenu);

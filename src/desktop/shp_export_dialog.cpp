@@ -166,12 +166,22 @@ void ShpExportDialog::enableInputs(bool enabled) {
 
 void ShpExportDialog::exportList(const std::vector<std::string>& paths) {
     paths_ = paths;
+    if (paths.size() == 1) {
+        setSource(paths.front());
+    } else {
+        showList();
+    }
+    cmdExport_->setFocus();
+    exec();
+}
+
+void ShpExportDialog::showList() {
     QStringList names;
-    for (const std::string& path : paths) {
+    for (const std::string& path : paths_) {
         names += shownName(fileNamePart(path));
     }
     txtOrig_->setText(names.join("; "));
-    txtDest_->setText(toQt(folderOf(paths.front())));
+    txtDest_->setText(toQt(folderOf(paths_.front())));
     for (QLineEdit* box : {txtOrig_, txtDest_}) {
         box->setReadOnly(true);
         box->setCursorPosition(0);
@@ -179,18 +189,11 @@ void ShpExportDialog::exportList(const std::vector<std::string>& paths) {
     for (QPushButton* button : browses_) {
         button->hide();
     }
-    cmdExport_->setFocus();
-    exec();
 }
 
-void ShpExportDialog::exportFiles(const std::string& path) {
-    setSource(path);
-    msgs_->hide();
-    remark_->hide();
-    adjustSize();
-    resize(kSize.width(), height());
-    cmdExport_->setFocus();
-    exec();
+bool ShpExportDialog::isAsProposed() const {
+    return paths_.size() > 1 || (toUtf8(txtOrig_->text()) == paths_.front() &&
+                                 toUtf8(txtDest_->text()) == shapeBaseOf(paths_.front()) + ".shp");
 }
 
 void ShpExportDialog::setSource(const std::string& path) {
@@ -226,7 +229,7 @@ void ShpExportDialog::browseTarget() {
 void ShpExportDialog::run() {
     batch_.options.polygonLength = slider_->value();
     batch_.options.onlySprayed = expFum_->isChecked();
-    if (!paths_.empty()) {
+    if (isAsProposed()) {
         runList();
         return;
     }

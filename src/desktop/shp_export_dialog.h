@@ -31,10 +31,8 @@ public:
     /// `session` outlives the dialog.
     ShpExportDialog(const Session& session, QWidget* parent);
 
-    /// Opens the dialog modally for these files.
+    /// Opens the dialog modally for these files. A single one, and where it goes, can be changed.
     void exportList(const std::vector<std::string>& paths);
-    /// Opens the dialog modally for one file, which can be changed in it.
-    void exportFiles(const std::string& path);
 
     /// During a run it ends with the present file; then the dialog closes.
     void reject() override;
@@ -46,7 +44,10 @@ private:
     [[nodiscard]] QPushButton* makeBrowse(TextId tip, void (ShpExportDialog::*browse)());
     [[nodiscard]] QString word(TextId id) const;
 
+    void showList();
     void setSource(const std::string& path);
+    /// Whether the boxes say what they did at first.
+    [[nodiscard]] bool isAsProposed() const;
     void browseSource();
     void browseTarget();
     void run();
@@ -57,7 +58,6 @@ private:
 
     const Session& session_;
     TrackBatch batch_;
-    /// None: one file, as the boxes say.
     std::vector<std::string> paths_;
     bool closing_ = false;
 

@@ -4,6 +4,7 @@
 #include "lots/merge_lots.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <string>
 #include <utility>
 
@@ -14,10 +15,10 @@ namespace campora {
 
 namespace {
 
-std::string mergedDescription(std::span<const LotFile> lots) {
+std::string mergedDescription(std::span<const LotFile> lots, std::span<const std::size_t> which) {
     std::vector<std::string> kept;
-    for (const LotFile& lot : lots) {
-        for (std::string& line : descriptionLines(lot.description)) {
+    for (const std::size_t index : which) {
+        for (std::string& line : descriptionLines(lots[index].description)) {
             const bool isNew = std::find(kept.begin(), kept.end(), line) == kept.end();
             if (isNew && kept.size() < kLotDescriptionLines) {
                 kept.push_back(std::move(line));
@@ -42,9 +43,9 @@ MergedLots mergeLots(std::span<const LotFile> lots) {
     MergedLots merged;
     merged.holes = outlines.holes;
     merged.withoutArea = outlines.withoutArea;
-    const std::string description = mergedDescription(lots);
-    for (Ring& ring : outlines.rings) {
-        merged.lots.push_back({std::move(ring), description});
+    for (std::size_t i = 0; i < outlines.rings.size(); ++i) {
+        merged.lots.push_back(
+            {std::move(outlines.rings[i]), mergedDescription(lots, outlines.sources[i])});
     }
     return merged;
 }

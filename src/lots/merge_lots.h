@@ -14,7 +14,8 @@ namespace campora {
 
 /// Lots merged by `mergeOutlines`.
 struct MergedLots {
-    /// One a ring, each with the lines of all descriptions, none twice, at most ten.
+    /// One a ring, each with the lines of the descriptions of the lots in it, none twice, at most
+    /// ten.
     std::vector<LotFile> lots;
     /// Empty places that now belong to the lots that surround them.
     int holes = 0;

@@ -57,11 +57,22 @@ Ring toRing(const ClipperLib::Path& path) {
 }
 
 /// Each ring alone, made to run one way round: parts of one that lie in another must not cancel
-/// each other. False when it encloses nothing.
-bool addRing(const Ring& ring, ClipperLib::Clipper& all) {
+/// each other.
+ClipperLib::Paths simplePaths(const Ring& ring) {
     ClipperLib::Paths simple;
     ClipperLib::SimplifyPolygon(toPath(ring), simple, ClipperLib::pftNonZero);
-    return all.AddPaths(simple, ClipperLib::ptSubject, true);
+    return simple;
+}
+
+/// Whether some ground lies in both.
+bool meet(const ClipperLib::Path& outline, const ClipperLib::Paths& ring) {
+    ClipperLib::Clipper both;
+    both.AddPath(outline, ClipperLib::ptClip, true);
+    both.AddPaths(ring, ClipperLib::ptSubject, true);
+    ClipperLib::Paths common;
+    both.Execute(ClipperLib::ctIntersection, common, ClipperLib::pftNonZero,
+                 ClipperLib::pftNonZero);
+    return !common.empty();
 }
 
 }  // namespace
@@ -70,8 +81,10 @@ MergedOutlines mergeOutlines(std::span<const Ring> rings) {
     ClipperLib::Clipper all;
     all.StrictlySimple(true);
     MergedOutlines merged;
+    std::vector<ClipperLib::Paths> parts;
     for (const Ring& ring : rings) {
-        merged.withoutArea += addRing(ring, all) ? 0 : 1;
+        parts.push_back(simplePaths(ring));
+        merged.withoutArea += all.AddPaths(parts.back(), ClipperLib::ptSubject, true) ? 0 : 1;
     }
     ClipperLib::PolyTree tree;
     all.Execute(ClipperLib::ctUnion, tree, ClipperLib::pftNonZero, ClipperLib::pftNonZero);
@@ -87,6 +100,12 @@ MergedOutlines mergeOutlines(std::span<const Ring> rings) {
     for (const ClipperLib::Path& outline : outlines) {
         if (Ring ring = toRing(outline); ring.size() >= kFewestPoints) {
             merged.rings.push_back(std::move(ring));
+            std::vector<std::size_t>& sources = merged.sources.emplace_back();
+            for (std::size_t i = 0; i < parts.size(); ++i) {
+                if (meet(outline, parts[i])) {
+                    sources.push_back(i);
+                }
+            }
         }
     }
     return merged;

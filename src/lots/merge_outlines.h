@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <cstddef>
 #include <span>
 #include <vector>
 
@@ -17,6 +18,8 @@ struct MergedOutlines {
     /// Rings that do not touch, each counter-clockwise and free of crossings, the first point not
     /// repeated, the largest first.
     std::vector<Ring> rings;
+    /// For each of them the rings that went into it, as indices of those that were merged.
+    std::vector<std::vector<std::size_t>> sources;
     /// Empty places that the union surrounds; the rings go round them.
     int holes = 0;
     /// Rings that counted for nothing.

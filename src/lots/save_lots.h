@@ -17,6 +17,10 @@ namespace campora {
 /// ("campo-1.lot", "campo-2.lot").
 [[nodiscard]] std::vector<std::string> lotPaths(std::string_view path, std::size_t lots);
 
+/// The numbered files of an earlier saving under that path that are none of `saved`, their names
+/// joined by ", "; empty when there are none.
+[[nodiscard]] std::string olderLots(std::string_view path, std::span<const std::string> saved);
+
 /// Writes each lot into its file, all or none, and answers the files. A failure names the file that
 /// could not be written.
 [[nodiscard]] Result<std::vector<std::string>> saveLots(std::span<const LotFile> lots,

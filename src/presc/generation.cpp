@@ -200,6 +200,10 @@ std::optional<GridRule> generatePRE(std::string_view path, int cellSize,
                                     std::span<const ChannelZones> channels,
                                     const GenerationContext& context) {
     const BoundingBox bound = boundOf(channels);
+    if (const std::optional<Failure> stands = whyReportStands(path)) {
+        context.refuse(*stands);
+        return std::nullopt;
+    }
     if (std::optional<Failure> fault =
             faultOf(channels, bound, doseScaleOf(GridKind::Pre), cellSize)) {
         refuse(path, std::move(*fault), context);
@@ -222,8 +226,11 @@ std::optional<GridRule> generatePRE(std::string_view path, int cellSize,
     if (!grid) {
         return std::nullopt;
     }
-    if (const std::optional<Failure> failure =
-            writeWithCompanion(path, encodePre(*grid, channels.size()), grid->cells())) {
+    std::optional<Failure> failure = whyReportStands(path);  // one may have come meanwhile
+    if (!failure) {
+        failure = writeWithCompanion(path, encodePre(*grid, channels.size()), grid->cells());
+    }
+    if (failure) {
         context.refuse(*failure);
         return std::nullopt;
     }

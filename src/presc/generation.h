@@ -29,7 +29,8 @@ inline constexpr TextId kFallbackQuestions[kMostChannels] = {
 // otherwise.
 // `channels`: 1 to `kMostChannels`.
 
-/// A PRE file and the blank report that consoles expect beside it. `cellSize`: metres. Where no
+/// A PRE file and the blank report that consoles expect beside it; refused while one with data
+/// stands there. `cellSize`: metres. Where no
 /// zone is, a cell has the dose that the user gives the channel.
 std::optional<GridRule> generatePRE(std::string_view path, int cellSize,
                                     std::span<const ChannelZones> channels,
@@ -48,6 +49,10 @@ std::optional<GridRule> generateVRT(std::string_view path, float resolution, con
 
 /// The path of the report beside a PRE file: its last three characters are "rpt".
 [[nodiscard]] std::string companionPath(std::string_view path);
+
+/// Why a PRE file cannot be written there whatever it holds: beside it stands a report that is not
+/// blank, which consoles would lose their work with. None when there is none or a blank one.
+[[nodiscard]] std::optional<Failure> whyReportStands(std::string_view path);
 
 /// Bytes of the blank report, all zero, beside a grid of that many cells.
 [[nodiscard]] std::size_t companionSize(std::size_t cells);

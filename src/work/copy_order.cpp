@@ -21,14 +21,19 @@ namespace fs = std::filesystem;
 /// Copies files into one folder and tells what goes wrong.
 class Copier {
 public:
-    Copier(std::string_view destination, Dialogs& dialogs, const Texts& texts)
-        : folder_(nativePath(destination)), dialogs_(dialogs), texts_(texts) {}
+    /// All of it outlives the copier.
+    Copier(std::string_view destination, const FilesInUse& inUse, Dialogs& dialogs,
+           const Texts& texts)
+        : folder_(nativePath(destination)), inUse_(inUse), dialogs_(dialogs), texts_(texts) {}
 
     /// False when the file was not copied.
     [[nodiscard]] bool copy(const std::string& source) const {
         const fs::path target = folder_ / nativePath(fileNamePart(source));
         if (isSameFile(source, pathText(target))) {
             return fail(source, {TextId::CopyIsSameFile, {}});
+        }
+        if (const auto refused = inUse_.whyNotTarget(pathText(target))) {
+            return fail(source, *refused);
         }
         const Result<FileBytes> content = readFile(source);
         if (!content) {
@@ -72,6 +77,7 @@ private:
     }
 
     fs::path folder_;
+    const FilesInUse& inUse_;
     Dialogs& dialogs_;
     const Texts& texts_;
 };
@@ -91,10 +97,13 @@ std::vector<std::string> filesToCopy(const WorkOrder& order) {
 
 }  // namespace
 
-bool copyOrder(const WorkOrder& order, std::string_view destination, Dialogs& dialogs,
-               const Texts& texts) {
+bool copyOrder(const WorkOrder& order, std::string_view destination, FilesInUse inUse,
+               Dialogs& dialogs, const Texts& texts) {
     const std::vector<std::string> files = filesToCopy(order);
-    const Copier copier(destination, dialogs, texts);
+    for (const std::string& file : files) {
+        inUse.add(file);
+    }
+    const Copier copier(destination, inUse, dialogs, texts);
     std::size_t copied = 0;
     {
         const std::unique_ptr<Progress> progress = dialogs.progress(texts(TextId::CopyingOrder));

@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/files_in_use.h"
 #include "base/texts.h"
 #include "platform/dialogs.h"
 
@@ -55,9 +56,9 @@ using Tick = std::function<bool()>;
 
 /// Copies the order's track files and their summaries into a folder, under their own names, until
 /// the user has enough. Each copy that fails is reported, asks before it replaces another content,
-/// and leaves nothing half-written; the number of copies is told at the end. False when not
-/// every file was copied.
-bool copyOrder(const WorkOrder& order, std::string_view destination, Dialogs& dialogs,
-               const Texts& texts);
+/// and leaves nothing half-written; none replaces a file in use or another file of the order. The
+/// number of copies is told at the end. False when not every file was copied.
+bool copyOrder(const WorkOrder& order, std::string_view destination, FilesInUse inUse,
+               Dialogs& dialogs, const Texts& texts);
 
 }  // namespace campora

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "base/paths.h"
+#include "support/lot_files.h"
 #include "support/session_desk.h"
 
 namespace campora {
@@ -96,6 +97,23 @@ TEST_F(FileCommandsTest, StepsThroughTheFilesOfTheFolder) {
         commands.stepInFolder(step);
         EXPECT_EQ(listed(), Names{shown});
     }
+}
+
+TEST_F(FileCommandsTest, AStepLosesNothingUnsavedUnasked) {
+    writeLot(folder, "a.lot", squareRing(-60, -34, 1), "");
+    writeLot(folder, "b.lot", squareRing(-59.5, -34, 1), "");
+    commands.openPaths({folder.file("a.lot"), folder.file("b.lot")}, true);
+    session.lots().mnuLoteMerge();
+    for (const int step : {1, -1}) {
+        session.selectFile(step > 0 ? 1 : 2);
+        dialogs.yesNoAnswers = {false};
+        commands.stepInFolder(step);
+        EXPECT_EQ(listed(), (Names{"Fusionado", "a.lot", "b.lot"})) << step;
+    }
+    EXPECT_EQ(dialogs.questions.size(), 2U);
+    dialogs.yesNoAnswers = {true};
+    commands.stepInFolder(-1);
+    EXPECT_EQ(listed(), Names{"a.lot"});
 }
 
 TEST_F(FileCommandsTest, ReloadKeepsWhatCannotBeReadAgain) {

@@ -92,25 +92,38 @@ TEST_F(LotCommandsTest, AnEditedResultOfMergingIsNoLongerUntitledOnceItIsSaved) 
     EXPECT_EQ(listed(), (Names{"lote05.lot", "a.lot", "b.lot"}));
 }
 
-TEST_F(LotCommandsTest, AFileThatIsWrittenOverIsListedOnceAsItIsNow) {
-    const auto firstVertexOf = [this](int row) {
-        return lotsOf(session.files().file(row)).front().vertices.front();
-    };
+TEST_F(LotCommandsTest, AnOpenFileIsWrittenOverByNoneButItself) {
     openLot("a.lot", squareRing(-60, -34, 1));
     openLot("b.lot", squareRing(-59, -34, 1));
+    const std::string before = contentOf(folder.file("a.lot"));
+    const auto saveTo = [this](const char* name) {
+        dialogs.messages.clear();
+        dialogs.saveAnswers.push_back({folder.file(name), 0});
+        commands.mnuLoteSave();
+        return dialogs.messages.empty() ? std::string() : dialogs.messages[0];
+    };
+    EXPECT_NE(saveTo("b.lot").find("se perdería " + folder.file("b.lot")), std::string::npos);
+    EXPECT_EQ(saveTo("a.lot"), "") << "its own";
     commands.mnuLoteMerge();
-    dialogs.saveAnswers.push_back({folder.file("a.lot"), 0});
-    commands.mnuLoteSave();
-    EXPECT_EQ(listed(), (Names{"a.lot", "b.lot"}));
-    EXPECT_EQ(session.files().file(0).File_bound().maxX, -58);
-    EXPECT_EQ(session.files().currentFile(), &session.files().file(0));
-    // A lot that has its file already, over another one.
-    openLot("c.lot", squareRing(-50, -34, 1));
-    session.selectFile(2);
-    dialogs.saveAnswers.push_back({folder.file("b.lot"), 0});
-    commands.mnuLoteSave();
-    EXPECT_EQ(listed(), (Names{"a.lot", "b.lot", "c.lot"}));
-    EXPECT_EQ(firstVertexOf(1), firstVertexOf(2));
+    EXPECT_NE(saveTo("a.lot").find("se perdería "), std::string::npos);
+    session.removeFile(&session.files().file(1));
+    EXPECT_NE(saveTo("a.lot").find("se perdería "), std::string::npos) << "it was merged from it";
+    EXPECT_EQ(contentOf(folder.file("a.lot")), before);
+    EXPECT_EQ(saveTo("c.lot"), "");
+    EXPECT_EQ(listed(), (Names{"c.lot", "b.lot"}));
+}
+
+TEST_F(LotCommandsTest, AResultAloneIsMergedAgain) {
+    openLot("a.lot", squareRing(-60, -34, 1));
+    openLot("b.lot", squareRing(-50, -34, 2));
+    commands.mnuLoteMerge();
+    session.removeFile(&session.files().file(1));
+    EXPECT_FALSE(commands.canMerge()) << "one is on disk, and what was taken off stays off";
+    session.removeFile(&session.files().file(1));
+    ASSERT_TRUE(commands.canMerge());
+    commands.mnuLoteMerge();
+    EXPECT_EQ(listed(), Names{"Fusionado"});
+    EXPECT_EQ(lotsOf(session.files().file(0)).size(), 2U);
 }
 
 TEST_F(LotCommandsTest, ALotTakenOffTheMapDoesNotComeBackByMerging) {

@@ -191,24 +191,51 @@ TEST_F(ExportTest, ATargetWithoutANameIsRefused) {
     EXPECT_FALSE(isThere(".shp") || isThere("none"));
 }
 
-TEST_F(ExportTest, ASourceIsNeverTheTarget) {
+TEST_F(ExportTest, WhatIsOpenOrBelongsToItIsNeverTheTarget) {
     const std::string source = report("lote.rpt");
-    const std::string before = contentOf(source);
-    std::filesystem::create_symlink(nativePath(source), nativePath(folder.file("enlace.rpt")));
-    const Words rows[] = {
-        {"report-to-text", source, "-o", source},
-        {"report-to-text", folder.file("LOTE.rpt"), "-o", source},
-        {"report-to-text", source, "-o", folder.file("enlace.rpt")},
-        {"export", track("a.nbr"), source, "--format", "txt", "-o", source},
-        {"export", source, "--format", "bmp", "-o", folder.file("enlace.rpt")},
-        {"glg", source, "-o", source},
+    const std::string link = folder.file("enlace.rpt");
+    const std::string hard = folder.file("otro.txt");
+    std::filesystem::create_symlink(nativePath(source), nativePath(link));
+    std::filesystem::create_hard_link(nativePath(source), nativePath(hard));
+    const std::string nbr = track("log0105.nbr");
+    const std::string summary = folder.write("WRK0105.TXT", "resumen");
+    const std::string zones = folder.write("zonas.shp", "x");
+    const std::string table = folder.write("zonas.DBF", "tabla");
+    const std::string copy = folder.file("copia.txt");
+    struct Row {
+        Words words;
+        std::string lost;
     };
-    for (const Words& words : rows) {
-        const Outcome outcome = run(words);
-        EXPECT_EQ(outcome.status, 1) << testing::PrintToString(words);
-        EXPECT_THAT(outcome.boxes, HasSubstr("el destino es el mismo archivo"));
-        EXPECT_EQ(contentOf(source), before);
+    const Row rows[] = {
+        {{"report-to-text", source, "-o", source}, source},
+        {{"report-to-text", folder.file("LOTE.rpt"), "-o", source}, source},
+        {{"report-to-text", source, "-o", link}, source},
+        {{"report-to-text", source, "-o", hard}, source},
+        {{"export", nbr, source, "--format", "txt", "-o", source}, source},
+        {{"export", source, "--format", "bmp", "-o", link}, source},
+        {{"export", nbr, "--format", "txt", "-o", summary}, summary},
+        {{"export", nbr, zones, "--format", "geojson", "-o", table}, table},
+        {{"export-track", nbr, "-o", nbr}, ""},
+        {{"export-track", zones, "-o", zones}, zones},
+        {{"export-track", nbr, zones, folder.file("zonas.nbr")}, zones},
+        {{"render", source, "-o", folder.file("foto.png")}, source},
+        {{"prescribe", "--channel", zones + ",D", "-o", folder.file("zonas.pre")}, zones},
+        {{"glg", source, "-o", source}, source},
+    };
+    std::filesystem::create_symlink(nativePath(source), nativePath(folder.file("foto.png")));
+    std::filesystem::create_symlink(nativePath(zones), nativePath(folder.file("zonas.pre")));
+    std::filesystem::copy(nativePath(nbr), nativePath(folder.file("zonas.nbr")));
+    for (const Row& row : rows) {
+        const std::string before = contentOf(row.lost.empty() ? nbr : row.lost);
+        const Outcome outcome = run(row.words);
+        if (!row.lost.empty()) {
+            EXPECT_EQ(outcome.status, 1) << testing::PrintToString(row.words);
+            EXPECT_THAT(outcome.boxes, HasSubstr("se perdería " + row.lost));
+        }
+        EXPECT_EQ(contentOf(row.lost.empty() ? nbr : row.lost), before);
     }
+    EXPECT_EQ(run({"export", nbr, "--format", "txt", "-o", copy}).status, 0);
+    EXPECT_EQ(run({"export", nbr, "--format", "txt", "-o", copy}).status, 0) << "its own earlier";
 }
 
 /// What a signal does while the object lives.

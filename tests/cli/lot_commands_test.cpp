@@ -106,10 +106,24 @@ TEST_F(LotCommands, LotsThatTouchBecomeOne) {
 
 TEST_F(LotCommands, LotsApartGoToNumberedFilesAndAHoleIsTold) {
     const std::string target = folder.file("union.lot");
-    const Words ring = {square("a.lot", 0, 0, 2), square("b.lot", 1, 0, 2)};
-    ASSERT_EQ(run({"merge", ring[0], ring[1], square("c.lot", 20, 0, 1), "-o", target}), 0);
+    const Words ring = {square("a.lot", 0, 0, 2, "A\r\n"), square("b.lot", 1, 0, 2, "B\r\n")};
+    folder.write("UNION-3.lot", "de antes");
+    folder.write("union-x.lot", "otro");
+    ASSERT_EQ(run({"merge", ring[0], square("c.lot", 20, 0, 1, "C\r\n"), ring[1], "-o", target}),
+              0);
     EXPECT_EQ(out.str(), folder.file("union-1.lot") + "\n" + folder.file("union-2.lot") + "\n");
-    EXPECT_EQ(boxes.str(), "Quedan 2 contornos separados\n");
+    EXPECT_EQ(boxes.str(), "Quedan 2 contornos separados\n"
+                           "Quedan al lado lotes numerados de antes: UNION-3.lot\n");
+    EXPECT_TRUE(contentOf(folder.file("union-1.lot")).starts_with("A\r\nB\r\n"));
+    EXPECT_TRUE(contentOf(folder.file("union-2.lot")).starts_with("C\r\n"));
+    EXPECT_TRUE(isThere("UNION-3.lot"));
+    const std::string before = contentOf(ring[0]);
+    EXPECT_EQ(run({"merge", ring[0], ring[1], "-o", ring[0]}), 1);
+    EXPECT_NE(boxes.str().find("se perdería " + ring[0]), std::string::npos);
+    EXPECT_EQ(contentOf(ring[0]), before);
+    std::filesystem::remove(folder.file("UNION-3.lot"));
+    std::filesystem::remove(folder.file("union-1.lot"));
+    std::filesystem::remove(folder.file("union-2.lot"));
     EXPECT_FALSE(isThere("union.lot"));
     const std::string frame = folder.write(
         "marco.lot", "0,0\r\n0,4\r\n4,4\r\n4,0\r\n3,0\r\n3,3\r\n1,3\r\n1,1\r\n3,1\r\n3,0\r\n");

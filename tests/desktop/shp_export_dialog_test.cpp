@@ -105,6 +105,16 @@ TEST_F(ShpExportTest, OneFileCanGoElsewhere) {
     EXPECT_EQ(sizeOf("a.shp"), 0U);
 }
 
+TEST_F(ShpExportTest, OneFileLeftAsItIsIsAListOfOne) {
+    inDialog({track("a.nbr")}, [&](ShpExportDialog& dialog) {
+        press(dialog, "cmdExport");
+        auto& lines = in<QListWidget>(dialog, "msgs");
+        ASSERT_EQ(lines.count(), 1);
+        EXPECT_EQ(lines.item(0)->text(), "Exportando a.nbr:...........Ok");
+    });
+    EXPECT_GT(sizeOf("a.shp"), 100U);
+}
+
 TEST_F(ShpExportTest, ClosingDuringARunStopsAfterThePresentFile) {
     const std::vector<std::string> paths{track("a.nbr"), track("b.nbr")};
     inDialog(paths, [&](ShpExportDialog& dialog) {

@@ -262,6 +262,16 @@ TEST(Generation, AnEarlierPrescriptionOutlivesWhatFails) {
         EXPECT_EQ(readFile(desk.prePath)->text() == "earlier", cancelAfter <= 2);
         EXPECT_EQ(desk.files().size(), cancelAfter > 2 ? 2U : 1U);
     }
+    for (const char* const name : {"lote.rpt", "LOTE.RPT"}) {
+        Desk worked;  // the console has written its report beside the earlier prescription
+        worked.folder.write("lote.pre", "earlier");
+        worked.folder.write(name, std::string(5000, '\0') + "x");
+        EXPECT_FALSE(worked.pre({oneZone(1)}));
+        EXPECT_THAT(worked.dialogs.messages, ElementsAre(HasSubstr(worked.folder.file(name))));
+        EXPECT_THAT(worked.dialogs.inputs, IsEmpty()) << "refused before any question";
+        EXPECT_EQ(readFile(worked.prePath)->text(), "earlier");
+        EXPECT_EQ(contentOf(worked.folder.file(name)).size(), 5001U);
+    }
     Desk blocked;
     blocked.folder.write("lote.pre", "earlier");
     blocked.folder.write("lote.rpt/in the way", "");  // the companion's name is taken by a folder

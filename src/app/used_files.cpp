@@ -1,0 +1,87 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/used_files.h"
+
+#include <string>
+
+#include "app/export_formats.h"
+#include "app/session.h"
+#include "app/track_batch.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "export/shape_set.h"
+#include "presc/generation.h"
+#include "presc/gph_presc_vex.h"
+#include "work/companion_names.h"
+
+namespace campora {
+
+namespace {
+
+constexpr std::string_view kShapeEnding = ".shp";
+
+/// Names, without folder, of what may stand beside a file and belong to it.
+std::vector<std::string> namesBeside(std::string_view path) {
+    const std::string stem(fileStem(path));
+    const std::string ending = pathEnding(path);
+    std::vector<std::string> names;
+    if (ending == kShapeEnding) {
+        names = shapeSetFiles(stem);
+        names.insert(names.end(), {stem + ".qpj", stem + ".shp.xml"});
+    } else if (ending == ".pre") {
+        names.emplace_back(fileNamePart(companionPath(path)));
+    } else if (ending == ".rpt") {
+        names = {stem + ".campora.json", std::string(fileNamePart(path)) + ".campora.json"};
+    } else if (const CompanionNames pair = companionNames(path); !pair.trackPath.empty()) {
+        names = {std::string(fileNamePart(pair.trackPath)),
+                 std::string(fileNamePart(pair.summaryPath))};
+    }
+    return names;
+}
+
+void addFileOf(FilesInUse& used, const File& file) {
+    addOpened(used, file.File_diskPath());
+    if (const auto* const prescription = dynamic_cast<const GphPrescVex*>(&file)) {
+        for (int i = 0; i < prescription->channelsCnt(); ++i) {
+            addOpened(used, prescription->channel(i).File_diskPath());
+        }
+    }
+}
+
+}  // namespace
+
+void addOpened(FilesInUse& files, std::string_view path) {
+    if (!path.empty()) {
+        files.addWith(path, namesBeside(path));
+    }
+}
+
+std::vector<std::string> targetsOf(const ExportFormat& format, const std::string& path) {
+    return format.ending == kShapeEnding ? shapeSetFiles(shapeBaseOf(path))
+                                         : std::vector<std::string>{path};
+}
+
+FilesInUse Session::filesInUse(const File* but) const {
+    FilesInUse used;
+    used.add(pathText(nativePath(programFolder_) / kRegistrationsFile));
+    for (int i = 0; i < files_.loadedCount(); ++i) {
+        if (&files_.file(i) != but) {
+            addFileOf(used, files_.file(i));
+        }
+    }
+    if (saved_) {
+        for (const std::unique_ptr<File>& file : saved_->files.files) {
+            addFileOf(used, *file);
+        }
+    }
+    for (const std::string& source : sources_) {
+        addOpened(used, source);
+    }
+    for (const std::string& source : lots_.mergedFrom()) {
+        addOpened(used, source);
+    }
+    return used;
+}
+
+}  // namespace campora
