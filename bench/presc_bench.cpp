@@ -65,7 +65,8 @@ std::string writeZones(const TempFolder& folder, std::int64_t zones, bool distin
                         kSide * static_cast<double>(i / kRow)};
         std::vector<std::string> cells;
         for (int column = 0; column < kColumns; ++column) {
-            cells.push_back(std::to_string(distinct ? random() / 1000.0 : random() % 20));
+            cells.push_back(std::to_string(distinct ? static_cast<double>(random()) / 1000.0
+                                                    : static_cast<double>(random() % 20)));
         }
         map.zones.push_back({{squareAt(at, kSide)}, std::move(cells)});
     }

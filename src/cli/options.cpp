@@ -57,7 +57,8 @@ bool setDecimal(Arguments& arguments, std::string_view value) {
 
 bool setSwath(Arguments& arguments, std::string_view value) {
     arguments.swath = value;
-    return parse<double>(replaceAll(value, ",", ".")).has_value();
+    // Empty: an answer all the same, and no good one.
+    return value.empty() || parse<double>(replaceAll(value, ",", ".")).has_value();
 }
 
 bool setColumns(Arguments& arguments, std::string_view value) {

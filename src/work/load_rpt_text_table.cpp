@@ -26,7 +26,7 @@ std::optional<TableForm> chooseForm(std::size_t columns, std::string_view path,
         const std::optional<std::string> answer = context.dialogs.inputBox(
             {TextId::AskColumns, std::string(context.texts(TextId::ProgramName)), "8",
              std::string(path)});
-        if (!answer || trim(*answer).empty()) {
+        if (!answer) {
             return std::nullopt;
         }
         wanted = leadingNumber(*answer).value_or(0);

@@ -75,7 +75,7 @@ std::optional<float> askSwath(std::string_view path, const WorkReaderContext& co
     const std::optional<std::string> answer =
         context.dialogs.inputBox({TextId::AskSwath, std::string(context.texts(TextId::ProgramName)),
                                   "16", std::string(path)});
-    if (!answer || trim(*answer).empty()) {
+    if (!answer) {
         return std::nullopt;
     }
     const std::int32_t metres = roundToInt32(leadingNumber(*answer).value_or(0));

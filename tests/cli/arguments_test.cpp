@@ -99,7 +99,7 @@ TEST(Arguments, AWrongCommandLineIsExplained) {
 
 TEST(Arguments, AWrongValueIsNamed) {
     const std::pair<const char*, std::vector<const char*>> rows[] = {
-        {"--swath", {"", "ancho", "16m", "nan"}},
+        {"--swath", {"ancho", "16m", "nan"}},
         {"--columns", {"6"}},
         {"--decimal", {";"}},
         {"--language", {"de"}},

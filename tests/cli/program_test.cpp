@@ -150,7 +150,7 @@ TEST(Program, OptionsAnswerTheQuestions) {
     const std::string report = folder.write("viejo.rpt", fourFields.bytes());
     const Outcome answered = run({"info", report, "--swath", "40"});
     EXPECT_NE(answered.out.find("Hect. Trabajadas: 0.4"), std::string::npos) << answered.out;
-    EXPECT_EQ(run({"info", report, "--swath", ""}).status, 2);
+    EXPECT_EQ(run({"info", report, "--swath", ""}).status, 1);
 }
 
 TEST(Program, TellsAndCopiesTheOrdersOfAFolder) {

@@ -103,10 +103,11 @@ TEST(InfoOfSharedSamples, SeveralFilesAndOtherAnswersAreAsExpected) {
     }
     for (const json& expected : readJson(*folder + "/expected_runs.json")) {
         const auto options = expected["options"].get<Words>();
+        json result = run(*folder, expected["files"].get<Words>(), options);
         if (options == Words{"--swath", ""}) {
-            continue;  // no answer any more but a wrong command line, which shows the usage
+            EXPECT_EQ(result["boxes"].size(), 1U) << "an empty answer is told";
+            result["boxes"] = json::array();
         }
-        const json result = run(*folder, expected["files"].get<Words>(), options);
         const std::string where = expected["files"].dump() + expected["options"].dump();
         for (const char* part : {"exit", "boxes", "output"}) {
             expectSame(result[part], expected[part], where + "/" + part);

@@ -68,7 +68,7 @@ TEST_F(WindowTest, ShowsWhatIsToBeSaidAboutAFile) {
     EXPECT_THAT(toUtf8(last.text(1)), HasSubstr(remark));
     const auto marked = summary.findItems("(!)", Qt::MatchContains, 1);
     ASSERT_EQ(marked.size(), 1);
-    EXPECT_EQ(toUtf8(marked.front()->text(0)), "Hectáreas fumig: ");
+    EXPECT_EQ(toUtf8(marked.front()->text(0)), "Hectáreas fumig:");
 }
 
 TEST_F(WindowTest, OpenCommandReplacesWhatIsOpen) {

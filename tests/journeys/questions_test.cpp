@@ -133,7 +133,7 @@ TEST_F(Questions, CopiesOfOrdersAskBeforeTheyReplace) {
     QTimer::singleShot(kThought + 1000, &window(), [this] {
         inNextDialog<QMessageBox>([](QMessageBox& told) { told.accept(); });
     });
-    EXPECT_FALSE(copyOrder(scanFolder(folder.file("tarjeta"), {}).at(0), folder.file("copia"),
+    EXPECT_FALSE(copyOrder(scanFolder(folder.file("tarjeta"), {}).at(0), folder.file("copia"), {},
                            session().platform().dialogs, session().texts()));
     EXPECT_EQ(asked, 1);
 }

@@ -190,7 +190,7 @@ TEST(LoadRptFile, AFileWithoutSwathAsksForIt) {
         reading.dialogs.inputAnswers = {answer};
         const auto work = reading.report(report.bytes());
         EXPECT_THAT(reading.dialogs.inputs, ElementsAre("192|Campora|16"));
-        EXPECT_EQ(reading.dialogs.messages.empty(), swath > 0 || *answer == '\0');
+        EXPECT_EQ(reading.dialogs.messages.empty(), swath > 0);
         ASSERT_EQ(work.has_value(), swath > 0);
         if (work) {
             EXPECT_EQ(reportRecordOf(*work, 0, 0).trocha(), swath);

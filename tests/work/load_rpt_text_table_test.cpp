@@ -92,7 +92,7 @@ TEST(LoadRptTextTable, AsksWhenTheHeadingsAreNeitherFourNorEight) {
         reading.dialogs.inputAnswers = {answer};
         SCOPED_TRACE(answer.value_or("cancelled"));
         EXPECT_EQ(reading.table(table).has_value(), loads);
-        EXPECT_EQ(reading.dialogs.messages.size(), answer == "5" ? 1U : 0U);
+        EXPECT_EQ(reading.dialogs.messages.size(), answer && !loads ? 1U : 0U);
         EXPECT_THAT(reading.dialogs.inputs, ElementsAre("1111|Campora|8"));
     }
 }
