@@ -7,8 +7,10 @@
 #include <string>
 
 #include <QComboBox>
+#include <QImage>
 #include <QListWidget>
 #include <QMessageBox>
+#include <QProcess>
 #include <QPushButton>
 
 #include "app/export_formats.h"
@@ -87,6 +89,14 @@ TEST_F(Export, AJobInEveryFormat) {
         EXPECT_GT(sizeOf(name + std::string(format.ending)), 100U);
         EXPECT_EQ(asked, format.after == AfterExport::AskToOpen);
     }
+    // The batch program makes the same picture of the whole map, scale bar and all.
+    const QImage shown(toQt(folder.file("salida-png.png")));
+    const QString size = QString("%1x%2").arg(shown.width()).arg(shown.height());
+    ASSERT_EQ(QProcess::execute(CAMPORA_BATCH_PROGRAM,
+                                {"render", CAMPORA_SOURCE_DIR "/samples/lote-demo.rpt", "--size",
+                                 size, "-o", toQt(folder.file("lotes.png"))}),
+              0);
+    EXPECT_EQ(contentOf(folder.file("lotes.png")), contentOf(folder.file("salida-png.png")));
     EXPECT_EQ(others.opened(), "salida-kml.kml\nsalida-txt.txt\nsalida-txt-comma.txt\n");
 }
 
