@@ -165,7 +165,9 @@ void readBack(WatchedSession& watched, const std::string& path) {
         }
     } else if (pathEnding(path) == ".txt") {
         const int before = watched.dialogs.said();
-        if (!watched.session.loadFile(path, false, false) && watched.dialogs.said() == before) {
+        // The one of the format before has the same name, and is open when it was read.
+        if (!watched.session.files().isLoaded(path) &&
+            !watched.session.loadFile(path, false, false) && watched.dialogs.said() == before) {
             stop("text table refused in silence", path);
         }
     }

@@ -7,10 +7,13 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
+#include "base/failure.h"
 #include "base/files.h"
 #include "export/txt_export.h"
 #include "support/file_set.h"
@@ -24,6 +27,16 @@
 using namespace campora;
 
 namespace {
+
+/// As the program opens one: what is plainly no table is thrown out, and told.
+std::optional<LoadedWork> tableOf(std::string_view bytes, const WorkReaderContext& context) {
+    try {
+        return readRptTextTable("a.txt", FileBytes(std::string(bytes)), context);
+    } catch (const FormatError& error) {
+        context.dialogs.message(context.texts.sentence(error.failure()), MessageIcon::Error, "");
+        return std::nullopt;
+    }
+}
 
 /// Every position on the globe; answers how many there are.
 std::size_t countPoints(const File& file) {
@@ -57,9 +70,9 @@ void checkRoundTrip(const File& file, std::size_t points, const UserLocale& loca
     }
     const std::string text = "title\r\n" + std::string(readFile(path)->text());
     const RptTextTable table = splitTable(text);
-    const auto records =
+    const TableRecords read =
         decodeRecords(table.records, TableForm::EightColumns, locale.decimalSymbol(), 0);
-    if (table.columns != 8 || records.size() != points) {
+    if (table.columns != 8 || read.records.size() != points) {
         stop("a table that was exported reads otherwise", text);
     }
 }
@@ -76,8 +89,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const ChosenLocale locale(set);
     const Texts texts;
     const Registrations none;
-    const auto work = readRptTextTable("a.txt", FileBytes(std::string(set.files.front().bytes)),
-                                       {dialogs, locale, texts, none});
+    const std::optional<LoadedWork> work =
+        tableOf(set.files.front().bytes, {dialogs, locale, texts, none});
     if (!work) {
         if (dialogs.said() == 0) {
             stop("silent refusal");
