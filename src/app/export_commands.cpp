@@ -103,7 +103,7 @@ void ExportCommands::tellDroppedColumns(const ExportFormat& format,
 }
 
 bool ExportCommands::write(const ExportFormat& format, const FilesInUse& inUse,
-                           std::vector<Gph*> layers, const std::string& path) {
+                           const std::vector<Gph*>& layers, const std::string& path) {
     std::optional<Failure> failure = whyNoTarget(path);
     if (!failure) {
         failure = inUse.whyNotTarget(targetsOf(format, path));

@@ -63,7 +63,7 @@ private:
     [[nodiscard]] std::string endedPath(const std::string& chosen, std::string_view ending) const;
     /// Writes the layers, unless the target is in use; false when that failed, which is said, or
     /// was cancelled.
-    bool write(const ExportFormat& format, const FilesInUse& inUse, std::vector<Gph*> layers,
+    bool write(const ExportFormat& format, const FilesInUse& inUse, const std::vector<Gph*>& layers,
                const std::string& path);
     /// Says which files made the table of a format do without columns, if any did.
     void tellDroppedColumns(const ExportFormat& format, const std::vector<Gph*>& layers) const;

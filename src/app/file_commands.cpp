@@ -185,7 +185,7 @@ void FileCommands::saveAs() {
     const CompanionNames target = companionNames(path);
     session_.setTitle(false);
     const std::string summary = findIgnoringCase(source.summaryPath);
-    const bool hasSummary = canOpen(summary);
+    const bool hasSummary = isThere(summary);
     FilesInUse inUse = session_.filesInUse();
     addOpened(inUse, source.trackPath);
     const std::string targets[] = {target.trackPath, target.summaryPath};

@@ -80,8 +80,10 @@ void Session::showLegend() {
 
 LegendContent Session::legendContent() {
     const ColorScale* const scale = legendScale();
-    LegendContent legend = campora::legendContent(
-        style_, scale, lastKind_.value_or(WorkKind::Sprayer), texts_, platform_.locale);
+    const bool isMixed = !workIn(true).empty() && !workIn(false).empty();
+    // One name is to do for sprayed and sown ground.
+    const WorkKind kind = isMixed ? WorkKind::OlderForm : lastKind_.value_or(WorkKind::Sprayer);
+    LegendContent legend = campora::legendContent(style_, scale, kind, texts_, platform_.locale);
     if (scale != nullptr) {
         addSpreading(legend, *scale);
     }

@@ -101,9 +101,12 @@ bool SummaryCommands::keep(SummaryEdits edits) {
     const Texts& texts = session_.texts();
     const std::string path = file->File_diskPath();
     const ReadEdits there = readEdits(path);
-    if (there.unused &&
-        !dialogs.askYesNo(texts.format(TextId::AskReplaceEdits, {texts.sentence(*there.unused)}),
-                          MessageIcon::Question, texts(TextId::ProgramName))) {
+    std::optional<Failure> doubt = there.unused;
+    if (!doubt && there.edits != file->File_resumen().edits && there.edits != edits) {
+        doubt = Failure{TextId::EditsChangedMeanwhile, {editsPath(path)}};
+    }
+    if (doubt && !dialogs.askYesNo(texts.format(TextId::AskReplaceEdits, {texts.sentence(*doubt)}),
+                                   MessageIcon::Question, texts(TextId::ProgramName))) {
         return false;
     }
     if (std::optional<Failure> failure = writeEdits(path, edits)) {

@@ -5,12 +5,14 @@
 
 #ifndef _WIN32
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <string>
 
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -158,6 +160,25 @@ void dress(const Descriptor& file, const fs::path& like) {
         static_cast<void>(::fchown(file.number(), static_cast<uid_t>(-1), about.st_gid) == 0);
     }
     static_cast<void>(::fchmod(file.number(), about.st_mode & 07777) == 0);
+}
+
+bool speaksFor(const Descriptor& file, const fs::path& folder) {
+    struct stat own {};
+    struct stat about {};
+    const fs::path place = folder.empty() ? fs::path(".") : folder;
+    if (::fstat(file.number(), &own) != 0 || ::stat(place.c_str(), &about) != 0) {
+        return false;
+    }
+    return (about.st_mode & S_ISVTX) == 0 || own.st_uid == ::geteuid() || own.st_uid == 0;
+}
+
+void allowManyFiles() {
+    constexpr rlim_t kEnough = 65536;
+    rlimit limit{};
+    if (::getrlimit(RLIMIT_NOFILE, &limit) == 0 && limit.rlim_cur < kEnough) {
+        limit.rlim_cur = std::min(limit.rlim_max, kEnough);
+        static_cast<void>(::setrlimit(RLIMIT_NOFILE, &limit) == 0);
+    }
 }
 
 bool hasName(const Descriptor& file) {

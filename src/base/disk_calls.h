@@ -61,6 +61,11 @@ void removeUnlocked(const std::filesystem::path& path);
 [[nodiscard]] std::error_code flush(const Descriptor& file);
 /// Owner, group and permissions of `like`, as far as this user may give them.
 void dress(const Descriptor& file, const std::filesystem::path& like);
+/// Whether whoever made the file might move all others in the folder too.
+[[nodiscard]] bool speaksFor(const Descriptor& file, const std::filesystem::path& folder);
+/// As many files may be open at once as the system lets this user have: those of a set all are
+/// until it is complete. To be called at the start of a program.
+void allowManyFiles();
 /// Whether a name leads to the file.
 [[nodiscard]] bool hasName(const Descriptor& file);
 

@@ -113,6 +113,12 @@ void dress(const Descriptor& /*file*/, const fs::path& /*like*/) {
     // New files have the permissions of their folder.
 }
 
+bool speaksFor(const Descriptor& /*file*/, const fs::path& /*folder*/) {
+    return true;
+}
+
+void allowManyFiles() {}
+
 bool hasName(const Descriptor& /*file*/) {
     return true;
 }

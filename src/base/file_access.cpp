@@ -38,6 +38,8 @@ constexpr Reason kReasons[] = {
     {std::errc::not_enough_memory, TextId::FileTooLarge},
     {std::errc::filename_too_long, TextId::FileNameTooLong},
     {std::errc::io_error, TextId::DiskError},
+    {std::errc::too_many_files_open, TextId::TooManyFiles},
+    {std::errc::too_many_files_open_in_system, TextId::TooManyFiles},
     {std::errc::too_many_symbolic_link_levels, TextId::LinksInACircle},
     {std::errc::file_exists, TextId::FileExists},
     {std::errc::device_or_resource_busy, TextId::FileBusy},

@@ -111,8 +111,11 @@ Result<FileBytes> readFile(std::string_view path) {
 }
 
 bool canOpen(std::string_view path) {
-    const Result<fs::path> file = ordinaryFile(TextId::FileCannotBeRead, path);
-    return file && !whyUnsettled(*file) && openStream(*file, FileMode::Read);
+    return withinLimit([path = std::string(path)] {
+               const Result<fs::path> file = ordinaryFile(TextId::FileCannotBeRead, path);
+               return file && !whyUnsettled(*file) && openStream(*file, FileMode::Read);
+           })
+        .value_or(false);
 }
 
 std::optional<Failure> writeFile(std::string_view path, std::span<const std::byte> bytes) {

@@ -172,6 +172,10 @@ std::error_code OwnFile::replace(const fs::path& target) {
 FolderLock::FolderLock(const fs::path& folder, int seconds) : folder_(openFolder(folder)) {
     using Clock = std::chrono::steady_clock;
     constexpr std::chrono::milliseconds kPause{2};
+    if (!folder_ && (errno == EMFILE || errno == ENFILE)) {
+        state_ = LockState::Busy;  // it knows locks, but there is no room for one more file
+        return;
+    }
     const Clock::time_point end = Clock::now() + std::chrono::seconds(seconds);
     while ((state_ = tryLock(folder_)) == LockState::Busy && Clock::now() < end) {
         std::this_thread::sleep_for(kPause);

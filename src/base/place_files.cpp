@@ -58,8 +58,11 @@ std::optional<Failure> placeOne(const FilePlacement& file) {
         error = file.file->becomeNew(file.target);
     }
     if (error == std::errc::file_exists || (replaces && !error)) {
-        dress(file.file->descriptor(), file.target);
-        error = file.file->replace(file.target);
+        error = file.file->takeName();
+        if (!error) {
+            dress(file.file->descriptor(), file.target);
+            error = file.file->replace(file.target);
+        }
     }
     return failureOf(file, error ? error : lock.flush());
 }
@@ -160,10 +163,10 @@ private:
             members_.push_back(std::move(member));
             return error;
         }
-        if (replaces) {
+        error = file.file->takeName();
+        if (replaces && !error) {
             dress(file.file->descriptor(), file.target);
         }
-        error = file.file->takeName();
         const std::optional<FileMark> mark =
             error ? std::nullopt : markOf(file.file->path(), error);
         if (!error) {

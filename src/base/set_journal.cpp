@@ -111,13 +111,21 @@ Result<std::vector<SetMember>> unfinishedSet(const fs::path& folder) {
     if (tryLock(journal) == LockState::Busy) {
         return Failure{TextId::FolderBusy, {}};
     }
+    if (!speaksFor(journal, folder)) {
+        return unfinished(
+            fileFailure(TextId::FileCannotBeRead, pathText(path), TextId::FileNoPermission));
+    }
     std::string text;
     if (const std::error_code error = readAt(journal, 0, kMostBytes, text)) {
         return unfinished(reasonOf(error));
     }
+    if (text.empty()) {
+        return std::vector<SetMember>();  // written before anything was moved, or it would be whole
+    }
     std::optional<std::vector<SetMember>> set = decode(text);
     if (!set) {
-        return unfinished({TextId::WrongFileFormat, {}});
+        return unfinished(
+            fileFailure(TextId::FileCannotBeRead, pathText(path), TextId::WrongFileFormat));
     }
     return std::move(*set);
 }
@@ -160,7 +168,7 @@ std::error_code restore(const fs::path& folder, const SetMember& member) {
 }  // namespace
 
 std::optional<FileMark> markOf(const fs::path& file, std::error_code& error) {
-    constexpr std::size_t kPart = std::size_t{1} << 19U;
+    constexpr std::size_t kPart = std::size_t{1} << 20U;
     const fs::file_status status = fs::symlink_status(file, error);
     if (error || !fs::is_regular_file(status)) {
         return std::nullopt;
@@ -172,12 +180,9 @@ std::optional<FileMark> markOf(const fs::path& file, std::error_code& error) {
         error = lastError();
     }
     mark.sum = 14695981039346656037U;  // FNV-1a
-    for (const std::uint64_t begin :
-         {std::uint64_t{0}, mark.size - std::min<std::uint64_t>(mark.size, kPart)}) {
-        std::string part;
-        if (!error) {
-            error = readAt(content, begin, kPart, part);
-        }
+    std::string part(kPart, '\0');
+    for (std::uint64_t offset = 0; !error && part.size() == kPart; offset += part.size()) {
+        error = readAt(content, offset, kPart, part);
         for (const char byte : part) {
             mark.sum = (mark.sum ^ static_cast<unsigned char>(byte)) * 1099511628211U;
         }

@@ -15,7 +15,7 @@
 
 namespace campora {
 
-/// What tells a file from any other: its size and a sum of its beginning and its end.
+/// What tells a file from any other: its size and a sum of all its bytes.
 struct FileMark {
     std::uint64_t size = 0;
     std::uint64_t sum = 0;

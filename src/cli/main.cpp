@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 
 #include "app/data_folder.h"
+#include "base/disk_calls.h"
 #include "base/interruption.h"
 #include "cli/program.h"
 
@@ -47,6 +48,7 @@ int main(int argc, char* argv[]) {
     // Standard error is for the boxes of the program; what Qt remarks about the desktop is none.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     const Start begin = start(argc, argv);
+    campora::allowManyFiles();
     const campora::InterruptionWatch watch;
     return campora::runProgram(begin.arguments, begin.dataFolder, {std::cout, std::cerr});
 }

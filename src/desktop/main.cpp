@@ -5,6 +5,7 @@
 
 #include <QApplication>
 
+#include "base/disk_calls.h"
 #include "base/interruption.h"
 #include "desktop/look.h"
 #include "desktop/program.h"
@@ -12,6 +13,7 @@
 int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     campora::applyLook();
+    campora::allowManyFiles();
     const campora::InterruptionWatch watch;
     campora::Program program;
     program.endWith(watch);

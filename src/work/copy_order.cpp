@@ -60,7 +60,7 @@ private:
         return false;
     }
     [[nodiscard]] bool mayReplace(const std::string& target, const FileBytes& content) const {
-        if (!canOpen(target)) {
+        if (!isThere(target) || isFolder(target)) {
             return true;
         }
         const Result<FileBytes> old = readFile(target);

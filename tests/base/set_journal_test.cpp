@@ -91,6 +91,24 @@ TEST(SetJournal, WhoeverReadsOrWritesTakesAHalfWrittenSetBack) {
     }
 }
 
+TEST(SetJournal, AByteInTheMiddleMakesTheFileAnothers) {
+    const std::string zeros(std::size_t{3} << 20U, '\0');
+    std::string worked = zeros;
+    worked[zeros.size() / 2] = 1;
+    for (const std::string& found : {zeros, worked}) {
+        const TempFolder folder;
+        std::error_code error;
+        const std::string path = folder.write("a.rpt", zeros);
+        const SetMember set[] = {
+            {"a.rpt", std::string(kDraft), {}, markOf(nativePath(path), error).value()}};
+        OwnFile journal;
+        ASSERT_FALSE(writeJournal(nativePath(folder.path()), set, journal));
+        journal = OwnFile();
+        (void)folder.write("a.rpt", found);
+        EXPECT_EQ(readFile(path) ? 1 : 0, found == zeros ? 0 : 1);
+    }
+}
+
 TEST(SetJournal, ASetThatIsUnderWayIsLeftAlone) {
     const LeftFolder left(kRows[3]);
     const auto failure = writeFile(left.folder.file("b.pre"), bytesOf("b"));

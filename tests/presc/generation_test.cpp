@@ -104,7 +104,7 @@ TEST_F(GenerationTest, AGridHasAMarginOfTwoCellsAndADoseWhereAZoneIs) {
     EXPECT_THAT(dialogs.messages,
                 ElementsAre("Information|Campora|Se guardó " + prePath +
                             ": 1566 celdas, 62.64 ha\n"
-                            "Canal 1: 1250 celdas con dosis, 50 ha, 4250 de producto"));
+                            "Canal 1: 1250 celdas con dosis, 50 ha, 4250 unid de producto"));
 }
 
 TEST_F(GenerationTest, EveryChannelHasItsFallbackDose) {
