@@ -3,6 +3,7 @@
 
 #include "app/temporary_folder.h"
 
+#include <cstddef>
 #include <filesystem>
 #include <random>
 #include <string_view>
@@ -25,8 +26,8 @@ constexpr std::string_view kLock = ".campora-owner";
 constexpr int kDigits = 8;  // of each of two numbers
 
 bool isOurName(std::string_view name) {
-    return name.size() == kBegin.size() + 2 * kDigits && name.starts_with(kBegin) &&
-           name.find_first_not_of("0123456789ABCDEF", kBegin.size()) == name.npos;
+    return name.size() == kBegin.size() + std::size_t{2} * kDigits && name.starts_with(kBegin) &&
+           name.find_first_not_of("0123456789ABCDEF", kBegin.size()) == std::string_view::npos;
 }
 
 /// Deletes what programs that run no more have left in `parent`.

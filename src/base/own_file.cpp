@@ -62,9 +62,10 @@ std::string freshName() {
 
 bool isOwnName(std::string_view name) {
     constexpr std::string_view kHex = "0123456789abcdefABCDEF";
-    return name.size() == kBegin.size() + 2 * kDigits + kEnd.size() && name.starts_with(kBegin) &&
-           name.ends_with(kEnd) &&
-           name.substr(kBegin.size(), 2 * kDigits).find_first_not_of(kHex) == name.npos;
+    return name.size() == kBegin.size() + std::size_t{2} * kDigits + kEnd.size() &&
+           name.starts_with(kBegin) && name.ends_with(kEnd) &&
+           name.substr(kBegin.size(), std::size_t{2} * kDigits).find_first_not_of(kHex) ==
+               std::string_view::npos;
 }
 
 OwnFile& OwnFile::operator=(OwnFile&& other) noexcept {

@@ -72,7 +72,7 @@ bool isSound(const SetMember& member) {
 
 std::optional<std::vector<SetMember>> decode(std::string_view text) {
     std::vector<std::string_view> fields;
-    for (std::size_t end = text.find('\0'); end != text.npos; end = text.find('\0')) {
+    for (std::size_t end = text.find('\0'); end != std::string_view::npos; end = text.find('\0')) {
         fields.push_back(text.substr(0, end));
         text.remove_prefix(end + 1);
     }

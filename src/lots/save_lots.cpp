@@ -53,7 +53,8 @@ std::string olderLots(std::string_view path, std::span<const std::string> saved)
         }
         const std::string_view number = std::string_view(lower).substr(
             start.size(), lower.size() - start.size() - kLotEnding.size());
-        return !number.empty() && number.find_first_not_of("0123456789") == number.npos &&
+        return !number.empty() &&
+               number.find_first_not_of("0123456789") == std::string_view::npos &&
                std::none_of(saved.begin(), saved.end(),
                             [&](const std::string& one) { return isSameFile(one, file); });
     };
