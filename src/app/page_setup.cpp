@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <iterator>
 
-#include "app/settings.h"
 #include "base/numbers.h"
 
 namespace campora {
@@ -24,28 +23,6 @@ constexpr Paper kPapers[] = {
 };
 constexpr std::size_t kFirstPaper = 1;
 
-struct MarginSetting {
-    SettingId id;
-    std::int32_t PageMargins::*margin;
-};
-constexpr MarginSetting kMargins[] = {
-    {SettingId::PrintMarginLeft, &PageMargins::left},
-    {SettingId::PrintMarginTop, &PageMargins::top},
-    {SettingId::PrintMarginRight, &PageMargins::right},
-    {SettingId::PrintMarginBottom, &PageMargins::bottom},
-};
-
-struct SwitchSetting {
-    SettingId id;
-    bool PageSetup::*on;
-};
-constexpr SwitchSetting kSwitches[] = {
-    {SettingId::PrintLandscape, &PageSetup::landscape},
-    {SettingId::PrintLegend, &PageSetup::legend},
-    {SettingId::PrintSummary, &PageSetup::summary},
-    {SettingId::PrintsDescription, &PageSetup::description},
-};
-
 std::string millimetres(double length) {
     return numberText(roundToInt32(length));
 }
@@ -54,6 +31,12 @@ std::string millimetres(double length) {
 
 std::span<const Paper> papers() {
     return kPapers;
+}
+
+const Paper& paperOf(std::string_view key) {
+    const auto* const found = std::find_if(std::begin(kPapers), std::end(kPapers),
+                                           [key](const Paper& paper) { return paper.key == key; });
+    return found == std::end(kPapers) ? kPapers[kFirstPaper] : *found;
 }
 
 std::string paperText(const Paper& paper, const Texts& texts) {
@@ -71,31 +54,6 @@ PageRect PageSetup::inside() const {
     return {static_cast<double>(margins.left), static_cast<double>(margins.top),
             whole.width - margins.left - margins.right,
             whole.height - margins.top - margins.bottom};
-}
-
-PageSetup readPageSetup(const SettingsStore& settings) {
-    PageSetup setup;
-    const std::string key = readText(settings, SettingId::PrintPaper);
-    const auto* const found = std::find_if(std::begin(kPapers), std::end(kPapers),
-                                           [&key](const Paper& paper) { return paper.key == key; });
-    setup.paper = found == std::end(kPapers) ? kPapers[kFirstPaper] : *found;
-    for (const auto& [id, margin] : kMargins) {
-        setup.margins.*margin = readNumber(settings, id);
-    }
-    for (const auto& [id, on] : kSwitches) {
-        setup.*on = readSwitch(settings, id);
-    }
-    return setup;
-}
-
-void writePageSetup(SettingsStore& settings, const PageSetup& setup) {
-    writeText(settings, SettingId::PrintPaper, setup.paper.key);
-    for (const auto& [id, margin] : kMargins) {
-        writeNumber(settings, id, setup.margins.*margin);
-    }
-    for (const auto& [id, on] : kSwitches) {
-        writeSwitch(settings, id, setup.*on);
-    }
 }
 
 }  // namespace campora

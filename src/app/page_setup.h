@@ -9,7 +9,6 @@
 #include <string_view>
 
 #include "base/texts.h"
-#include "platform/settings_store.h"
 
 namespace campora {
 
@@ -36,6 +35,8 @@ struct Paper {
 };
 
 [[nodiscard]] std::span<const Paper> papers();
+/// The one with that key, or A4.
+[[nodiscard]] const Paper& paperOf(std::string_view key);
 /// "A4 (210 × 297 mm)".
 [[nodiscard]] std::string paperText(const Paper& paper, const Texts& texts);
 
@@ -67,9 +68,5 @@ struct PageSetup {
     /// The sheet without its margins.
     [[nodiscard]] PageRect inside() const;
 };
-
-/// As the user left it; A4 in landscape at first.
-[[nodiscard]] PageSetup readPageSetup(const SettingsStore& settings);
-void writePageSetup(SettingsStore& settings, const PageSetup& setup);
 
 }  // namespace campora

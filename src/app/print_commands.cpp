@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <span>
 
+#include "app/page_settings.h"
 #include "app/session.h"
 #include "app/settings.h"
 #include "app/window_title.h"

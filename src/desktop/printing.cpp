@@ -12,6 +12,7 @@
 
 #include "app/session.h"
 #include "app/settings.h"
+#include "app/window_title.h"
 #include "desktop/page_setup_dialog.h"
 #include "desktop/pointer_override.h"
 #include "desktop/print_dialog.h"
@@ -105,7 +106,7 @@ Result<std::string> Printing::makePdf(int dotsPerInch) const {
     case Drawn::Whole:
         break;
     }
-    return pagePdf(page, map, commands_.documentName());
+    return pagePdf(page, map, {commands_.documentName(), versionTitle()});
 }
 
 PrintTarget Printing::proposedTarget() const {

@@ -13,7 +13,6 @@
 #include <QPainterPath>
 #include <QPdfWriter>
 
-#include "app/window_title.h"
 #include "base/plain_text.h"
 #include "paint/raster_canvas.h"
 
@@ -144,7 +143,7 @@ void paintPage(QPainter& painter, double dotsPerMm, const PageLayout& page, cons
     painter.restore();
 }
 
-std::string pagePdf(const PageLayout& page, const QImage& map, const std::string& title) {
+std::string pagePdf(const PageLayout& page, const QImage& map, const PdfNames& names) {
     constexpr int kResolution = 1200;
     QByteArray bytes;
     QBuffer buffer(&bytes);
@@ -152,8 +151,8 @@ std::string pagePdf(const PageLayout& page, const QImage& map, const std::string
     {
         QPdfWriter writer(&buffer);
         writer.setResolution(kResolution);
-        writer.setTitle(qtText(title));
-        writer.setCreator(qtText(versionTitle()));
+        writer.setTitle(qtText(names.title));
+        writer.setCreator(qtText(names.program));
         const QSizeF sheet(page.sheet.width, page.sheet.height);
         writer.setPageLayout(
             QPageLayout(QPageSize(sheet, QPageSize::Millimeter, QString(), QPageSize::ExactMatch),

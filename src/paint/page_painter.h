@@ -32,8 +32,14 @@ using DrawPageMap = std::function<bool(MapCanvas& canvas)>;
 /// pictures. `dotsPerMm`: of the painter's device.
 void paintPage(QPainter& painter, double dotsPerMm, const PageLayout& page, const QImage& map);
 
+/// What a document says of itself.
+struct PdfNames {
+    std::string title;
+    /// Name and version of what made it.
+    std::string program;
+};
+
 /// The bytes of a PDF of that one page, in which the map's picture has lost nothing.
-[[nodiscard]] std::string pagePdf(const PageLayout& page, const QImage& map,
-                                  const std::string& title);
+[[nodiscard]] std::string pagePdf(const PageLayout& page, const QImage& map, const PdfNames& names);
 
 }  // namespace campora

@@ -110,7 +110,7 @@ TEST_F(PagePainter, ThePdfIsOnePageThatHoldsItsTextsAsTexts) {
     for (const bool landscape : {true, false}) {
         setup.landscape = landscape;
         const QImage map = pageMapPicture(page(), canvas(), 150, fillRed);
-        const std::string pdf = pagePdf(page(), map, "lote & \"norte\"");
+        const std::string pdf = pagePdf(page(), map, {"lote & \"norte\"", "Campora"});
         EXPECT_TRUE(pdf.starts_with("%PDF-"));
         EXPECT_NE(pdf.find("/Count 1"), std::string::npos);
         EXPECT_NE(pdf.find(landscape ? "/MediaBox [0 0 842." : "/MediaBox [0 0 595."),

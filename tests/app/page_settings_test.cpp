@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "app/page_setup.h"
+#include "app/page_settings.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +10,7 @@
 namespace campora {
 namespace {
 
-TEST(PageSetup, ComesBackFromTheSettingsAsItWas) {
+TEST(PageSettings, ComeBackAsTheyWere) {
     for (const Paper& paper : papers()) {
         PageSetup setup;
         setup.paper = paper;
@@ -27,7 +27,7 @@ TEST(PageSetup, ComesBackFromTheSettingsAsItWas) {
     }
 }
 
-TEST(PageSetup, NonsenseInTheSettingsIsAnOrdinaryPage) {
+TEST(PageSettings, NonsenseIsAnOrdinaryPage) {
     MemorySettings settings;
     settings.values = {{"printPaper", "B0"}, {"printLandscape", "sí"}, {"printMarginTop", "-400"}};
     const PageSetup setup = readPageSetup(settings);
@@ -36,7 +36,7 @@ TEST(PageSetup, NonsenseInTheSettingsIsAnOrdinaryPage) {
     EXPECT_EQ(setup.inside(), (PageRect{10, 10, 277, 190}));
 }
 
-TEST(PageSetup, PapersAreNamedInTheUsersLanguageWithTheirSize) {
+TEST(PageSettings, PapersAreNamedInTheUsersLanguageWithTheirSize) {
     EXPECT_EQ(paperText(papers()[1], Texts(Language::Portuguese)), "A4 (210 × 297 mm)");
     EXPECT_EQ(paperText(papers()[3], Texts(Language::Spanish)), "Carta (216 × 279 mm)");
 }
