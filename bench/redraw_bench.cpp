@@ -7,7 +7,7 @@
 
 #include <benchmark/benchmark.h>
 
-#include "app/draw_layers.h"
+#include "app/map/draw_layers.h"
 #include "colour/color_scale.h"
 #include "field.h"
 #include "paint/raster_canvas.h"

@@ -4,7 +4,7 @@
 // What an element of a replay costs on the canvas that the window shows, without waiting between
 // elements, and what a click for information costs on a large track.
 
-#include "app/replay.h"
+#include "app/map/replay.h"
 
 #include <memory>
 #include <vector>

@@ -8,8 +8,8 @@
 #include <optional>
 #include <string>
 
-#include "app/file_loading.h"
-#include "app/load_project.h"
+#include "app/open/file_loading.h"
+#include "app/open/load_project.h"
 #include "base/paths.h"
 #include "support/file_set.h"
 #include "support/scratch_folder.h"

@@ -14,7 +14,7 @@
 #include <string_view>
 #include <vector>
 
-#include "app/export_formats.h"
+#include "app/out/export_formats.h"
 #include "app/session.h"
 #include "base/paths.h"
 #include "paint/picture_file.h"

@@ -8,7 +8,7 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "app/project_file.h"
+#include "app/open/project_file.h"
 #include "base/encoding.h"
 
 using namespace campora;

@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "app/dose_columns.h"
+#include "app/presc/dose_columns.h"
 #include "app/session.h"
 #include "base/files.h"
 #include "base/numbers.h"

@@ -12,9 +12,9 @@
 #include <QElapsedTimer>
 #include <QMainWindow>
 
-#include "desktop/look.h"
-#include "desktop/qt_dialogs.h"
-#include "desktop/qt_locale.h"
+#include "desktop/platform/qt_dialogs.h"
+#include "desktop/platform/qt_locale.h"
+#include "desktop/widgets/look.h"
 #include "platform/quiet_dialogs.h"
 #include "presc/generation.h"
 #include "presc/layer_zones.h"

@@ -12,8 +12,8 @@
 #include <QElapsedTimer>
 #include <QTimer>
 
-#include "desktop/look.h"
 #include "desktop/program.h"
+#include "desktop/widgets/look.h"
 #include "support/temp_folder.h"
 #include "window/large_report.h"
 

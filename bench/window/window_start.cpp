@@ -13,11 +13,11 @@
 #include <QProcess>
 #include <QTimer>
 
-#include "desktop/look.h"
-#include "desktop/map_area.h"
-#include "desktop/map_widget.h"
+#include "desktop/platform/qt_text.h"
 #include "desktop/program.h"
-#include "desktop/qt_text.h"
+#include "desktop/widgets/look.h"
+#include "desktop/widgets/map_area.h"
+#include "desktop/widgets/map_widget.h"
 #include "support/temp_folder.h"
 #include "window/large_report.h"
 

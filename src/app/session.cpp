@@ -7,8 +7,8 @@
 #include <cstddef>
 #include <utility>
 
-#include "app/draw_layers.h"
-#include "app/place_marks.h"
+#include "app/map/draw_layers.h"
+#include "app/map/place_marks.h"
 #include "app/settings.h"
 #include "app/summary_names.h"
 #include "app/window_title.h"

@@ -8,7 +8,7 @@
 #include <span>
 #include <utility>
 
-#include "app/legend.h"
+#include "app/colours/legend.h"
 #include "app/session.h"
 #include "base/numbers.h"
 #include "model/file_gph_group.h"

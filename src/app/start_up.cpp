@@ -5,7 +5,7 @@
 
 #include <charconv>
 
-#include "app/file_types.h"
+#include "app/open/file_types.h"
 #include "app/session.h"
 #include "app/settings.h"
 #include "base/numbers.h"

@@ -5,9 +5,9 @@
 
 #include <string>
 
-#include "app/export_formats.h"
+#include "app/out/export_formats.h"
+#include "app/out/track_batch.h"
 #include "app/session.h"
-#include "app/track_batch.h"
 #include "base/paths.h"
 #include "base/text.h"
 #include "export/shape_set.h"

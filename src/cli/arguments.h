@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
-#include "app/export_formats.h"
-#include "app/track_export.h"
+#include "app/out/export_formats.h"
+#include "app/out/track_export.h"
 #include "base/failure.h"
 #include "base/lon_lat.h"
 #include "base/texts.h"

@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "app/export_formats.h"
+#include "app/out/export_formats.h"
 #include "base/interruption.h"
 #include "cli/batch_platform.h"
 #include "cli/commands.h"

@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "app/lot_commands.h"
+#include "app/lots/lot_commands.h"
 
 #include <iterator>
 #include <optional>

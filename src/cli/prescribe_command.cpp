@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "app/dose_columns.h"
+#include "app/presc/dose_columns.h"
 #include "app/used_files.h"
 #include "base/files.h"
 #include "base/numbers.h"

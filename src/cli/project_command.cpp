@@ -3,7 +3,7 @@
 
 #include <utility>
 
-#include "app/load_project.h"
+#include "app/open/load_project.h"
 #include "base/files.h"
 #include "cli/batch_platform.h"
 #include "cli/commands.h"

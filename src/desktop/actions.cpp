@@ -14,9 +14,9 @@
 #include <QToolButton>
 
 #include "desktop/main_window.h"
-#include "desktop/map_area.h"
-#include "desktop/map_widget.h"
-#include "desktop/qt_text.h"
+#include "desktop/platform/qt_text.h"
+#include "desktop/widgets/map_area.h"
+#include "desktop/widgets/map_widget.h"
 
 namespace campora {
 

@@ -18,13 +18,13 @@
 #include <QVBoxLayout>
 
 #include "base/paths.h"
-#include "desktop/coord_dialog.h"
-#include "desktop/elided_label.h"
-#include "desktop/lot_keys.h"
-#include "desktop/lot_vertex_model.h"
-#include "desktop/pointer_override.h"
-#include "desktop/qt_text.h"
-#include "desktop/section_heading.h"
+#include "desktop/dialogs/coord_dialog.h"
+#include "desktop/platform/pointer_override.h"
+#include "desktop/platform/qt_text.h"
+#include "desktop/widgets/elided_label.h"
+#include "desktop/widgets/lot_keys.h"
+#include "desktop/widgets/lot_vertex_model.h"
+#include "desktop/widgets/section_heading.h"
 
 namespace campora {
 

@@ -7,8 +7,8 @@
 
 #include "base/disk_calls.h"
 #include "base/interruption.h"
-#include "desktop/look.h"
 #include "desktop/program.h"
+#include "desktop/widgets/look.h"
 
 int main(int argc, char* argv[]) {
     QApplication application(argc, argv);

@@ -21,20 +21,20 @@
 #include <QVBoxLayout>
 #include <QWindow>
 
-#include "app/page_scale.h"
 #include "app/settings.h"
 #include "app/start_up.h"
-#include "desktop/elided_label.h"
-#include "desktop/file_list.h"
-#include "desktop/legend_view.h"
 #include "desktop/lot_panel.h"
-#include "desktop/map_area.h"
-#include "desktop/map_widget.h"
-#include "desktop/pointer_override.h"
-#include "desktop/qt_text.h"
-#include "desktop/replay_bar.h"
-#include "desktop/side_panel.h"
-#include "desktop/summary_table.h"
+#include "desktop/platform/pointer_override.h"
+#include "desktop/platform/qt_text.h"
+#include "desktop/widgets/elided_label.h"
+#include "desktop/widgets/file_list.h"
+#include "desktop/widgets/legend_view.h"
+#include "desktop/widgets/map_area.h"
+#include "desktop/widgets/map_widget.h"
+#include "desktop/widgets/replay_bar.h"
+#include "desktop/widgets/side_panel.h"
+#include "desktop/widgets/summary_table.h"
+#include "pages/page_scale.h"
 
 namespace campora {
 

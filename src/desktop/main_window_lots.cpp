@@ -9,10 +9,10 @@
 
 #include "desktop/lot_panel.h"
 #include "desktop/main_window.h"
-#include "desktop/map_area.h"
-#include "desktop/map_widget.h"
-#include "desktop/pointer_override.h"
-#include "desktop/side_panel.h"
+#include "desktop/platform/pointer_override.h"
+#include "desktop/widgets/map_area.h"
+#include "desktop/widgets/map_widget.h"
+#include "desktop/widgets/side_panel.h"
 
 namespace campora {
 

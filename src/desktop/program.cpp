@@ -14,7 +14,7 @@
 
 #include "app/data_folder.h"
 #include "app/start_up.h"
-#include "desktop/qt_text.h"
+#include "desktop/platform/qt_text.h"
 
 namespace campora {
 

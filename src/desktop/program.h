@@ -4,19 +4,19 @@
 #pragma once
 
 #ifdef Q_OS_WIN
-#include "desktop/windows_classes.h"
+#include "desktop/platform/windows_classes.h"
 #else
-#include "desktop/freedesktop_classes.h"
+#include "desktop/platform/freedesktop_classes.h"
 #endif
 #include "base/interruption.h"
 #include "desktop/main_window.h"
-#include "desktop/qt_clipboard.h"
-#include "desktop/qt_clock.h"
-#include "desktop/qt_dialogs.h"
-#include "desktop/qt_locale.h"
-#include "desktop/qt_settings_store.h"
-#include "desktop/qt_shell.h"
-#include "desktop/widget_texts.h"
+#include "desktop/platform/qt_clipboard.h"
+#include "desktop/platform/qt_clock.h"
+#include "desktop/platform/qt_dialogs.h"
+#include "desktop/platform/qt_locale.h"
+#include "desktop/platform/qt_settings_store.h"
+#include "desktop/platform/qt_shell.h"
+#include "desktop/platform/widget_texts.h"
 
 namespace campora {
 

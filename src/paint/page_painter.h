@@ -8,8 +8,8 @@
 
 #include <QImage>
 
-#include "app/page_layout.h"
 #include "base/failure.h"
+#include "pages/page_layout.h"
 #include "platform/map_canvas.h"
 
 class QPainter;

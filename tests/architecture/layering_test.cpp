@@ -23,7 +23,7 @@ const std::map<std::string, int, std::less<>> kHeight = {
     {"cli", 7}, {"desktop", 7},
     {"paint", 6},
     {"app", 5},
-    {"work", 4}, {"presc", 4}, {"lots", 4}, {"export", 4}, {"coord", 4},
+    {"work", 4}, {"presc", 4}, {"lots", 4}, {"export", 4}, {"coord", 4}, {"pages", 4},
     {"model", 3},
     {"colour", 2}, {"rtree", 2},
     {"platform", 1},

@@ -13,10 +13,10 @@
 #include <QTimer>
 #include <gtest/gtest.h>
 
-#include "desktop/color_list.h"
-#include "desktop/dose_column_dialog.h"
-#include "desktop/qt_text.h"
-#include "desktop/select_dose_dialog.h"
+#include "desktop/dialogs/dose_column_dialog.h"
+#include "desktop/dialogs/select_dose_dialog.h"
+#include "desktop/platform/qt_text.h"
+#include "desktop/widgets/color_list.h"
 #include "support/session_desk.h"
 #include "support/zone_map.h"
 

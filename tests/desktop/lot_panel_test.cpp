@@ -11,7 +11,7 @@
 #include <QTimer>
 #include <QToolBar>
 
-#include "desktop/coord_dialog.h"
+#include "desktop/dialogs/coord_dialog.h"
 #include "desktop/window_fixture.h"
 #include "support/lot_files.h"
 

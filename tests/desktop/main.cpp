@@ -4,7 +4,7 @@
 #include <QApplication>
 #include <gmock/gmock.h>
 
-#include "desktop/look.h"
+#include "desktop/widgets/look.h"
 
 /// Window tests run off the screen, whatever display there is.
 int main(int argc, char* argv[]) {

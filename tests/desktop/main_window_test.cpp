@@ -12,9 +12,9 @@
 #include <QStatusBar>
 #include <gmock/gmock.h>
 
-#include "desktop/color_list.h"
-#include "desktop/legend_view.h"
-#include "desktop/summary_table.h"
+#include "desktop/widgets/color_list.h"
+#include "desktop/widgets/legend_view.h"
+#include "desktop/widgets/summary_table.h"
 #include "desktop/window_fixture.h"
 
 namespace campora {

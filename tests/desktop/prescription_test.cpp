@@ -6,9 +6,9 @@
 #include <QTimer>
 #include <QToolButton>
 
-#include "desktop/color_list.h"
-#include "desktop/dose_column_dialog.h"
-#include "desktop/select_dose_dialog.h"
+#include "desktop/dialogs/dose_column_dialog.h"
+#include "desktop/dialogs/select_dose_dialog.h"
+#include "desktop/widgets/color_list.h"
 #include "desktop/window_fixture.h"
 #include "support/zone_map.h"
 

@@ -9,10 +9,10 @@
 
 #include <gtest/gtest.h>
 
-#include "desktop/qt_locale.h"
-#include "desktop/qt_settings_store.h"
-#include "desktop/qt_shell.h"
-#include "desktop/qt_text.h"
+#include "desktop/platform/qt_locale.h"
+#include "desktop/platform/qt_settings_store.h"
+#include "desktop/platform/qt_shell.h"
+#include "desktop/platform/qt_text.h"
 #include "support/temp_folder.h"
 
 namespace campora {

@@ -12,12 +12,12 @@
 #include <gtest/gtest.h>
 
 #include "base/texts.h"
-#include "desktop/file_list.h"
 #include "desktop/main_window.h"
-#include "desktop/map_area.h"
-#include "desktop/map_widget.h"
-#include "desktop/qt_text.h"
-#include "desktop/side_panel.h"
+#include "desktop/platform/qt_text.h"
+#include "desktop/widgets/file_list.h"
+#include "desktop/widgets/map_area.h"
+#include "desktop/widgets/map_widget.h"
+#include "desktop/widgets/side_panel.h"
 #include "support/scripted_platform.h"
 #include "support/temp_folder.h"
 #include "support/work_files.h"

@@ -13,9 +13,9 @@
 #include <QProcess>
 #include <QPushButton>
 
-#include "app/export_formats.h"
+#include "app/out/export_formats.h"
 #include "base/paths.h"
-#include "desktop/shp_export_dialog.h"
+#include "desktop/dialogs/shp_export_dialog.h"
 #include "journeys/journey.h"
 #include "support/work_files.h"
 

@@ -19,12 +19,12 @@
 #include <QTimer>
 #include <gtest/gtest.h>
 
-#include "desktop/file_list.h"
-#include "desktop/map_area.h"
-#include "desktop/map_widget.h"
+#include "desktop/platform/qt_text.h"
 #include "desktop/program.h"
-#include "desktop/qt_text.h"
-#include "desktop/side_panel.h"
+#include "desktop/widgets/file_list.h"
+#include "desktop/widgets/map_area.h"
+#include "desktop/widgets/map_widget.h"
+#include "desktop/widgets/side_panel.h"
 #include "support/temp_folder.h"
 
 namespace campora {

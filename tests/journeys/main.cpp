@@ -4,7 +4,7 @@
 #include <QApplication>
 #include <gtest/gtest.h>
 
-#include "desktop/look.h"
+#include "desktop/widgets/look.h"
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);

@@ -12,10 +12,10 @@
 #include <QMessageBox>
 
 #include "base/paths.h"
-#include "desktop/color_list.h"
-#include "desktop/dose_column_dialog.h"
-#include "desktop/legend_view.h"
-#include "desktop/select_dose_dialog.h"
+#include "desktop/dialogs/dose_column_dialog.h"
+#include "desktop/dialogs/select_dose_dialog.h"
+#include "desktop/widgets/color_list.h"
+#include "desktop/widgets/legend_view.h"
 #include "journeys/journey.h"
 #include "support/zone_map.h"
 

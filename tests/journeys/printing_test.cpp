@@ -15,9 +15,9 @@
 #include <QStandardPaths>
 
 #include "base/files.h"
-#include "desktop/page_setup_dialog.h"
-#include "desktop/print_dialog.h"
-#include "desktop/print_preview.h"
+#include "desktop/dialogs/page_setup_dialog.h"
+#include "desktop/dialogs/print_dialog.h"
+#include "desktop/dialogs/print_preview.h"
 #include "journeys/journey.h"
 
 namespace campora {

@@ -1,0 +1,204 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/colours/legend_commands.h"
+
+#include <cmath>
+
+#include "app/session.h"
+#include "app/settings.h"
+#include "base/numbers.h"
+#include "base/typed_number.h"
+
+namespace campora {
+
+namespace {
+
+constexpr Color kYellow = Color::rgb(255, 255, 0);
+constexpr Color kGreen = Color::rgb(0, 255, 0);
+constexpr Color kRed = Color::rgb(255, 0, 0);
+
+constexpr ReadyRamp kRamps[] = {
+    {TextId::RampYellowGreenRed, kYellow, kGreen, kRed},
+    {TextId::RampRedYellowGreen, kRed, kYellow, kGreen},
+    {TextId::RampGreenYellowRed, kGreen, kYellow, kRed},
+    {TextId::RampBlueYellow, Color::rgb(0, 34, 78), Color::rgb(125, 124, 120),
+     Color::rgb(254, 232, 56)},
+    {TextId::RampVioletYellow, Color::rgb(68, 1, 84), Color::rgb(33, 145, 140),
+     Color::rgb(253, 231, 37)},
+    {TextId::RampGreys, Color::rgb(224, 224, 224), std::nullopt, Color::rgb(32, 32, 32)},
+};
+
+}  // namespace
+
+std::span<const ReadyRamp> readyRamps() {
+    return kRamps;
+}
+
+ColorScale& LegendCommands::scale() const {
+    return session_.shownScale();
+}
+
+bool LegendCommands::hasClass(int index) const {
+    return index >= 0 && index < scale().count();
+}
+
+bool LegendCommands::classesMayChange() const {
+    if (!scale().allowClassEdit) {
+        refuse(std::string(session_.texts()(TextId::ClassesAreFixed)));
+        return false;
+    }
+    return true;
+}
+
+void LegendCommands::addClass() {
+    if (!classesMayChange()) {
+        return;
+    }
+    if (scale().count() >= kMostClasses) {
+        setClassNumber(kMostClasses + 1);
+        return;
+    }
+    scale().addClass();
+}
+
+void LegendCommands::removeClass() {
+    if (classesMayChange()) {
+        scale().quitClass();
+    }
+}
+
+void LegendCommands::askClassNumber() {
+    if (!classesMayChange()) {
+        return;
+    }
+    if (const auto number = ask(TextId::AskClassNumber, TextId::ScaleHeading, scale().count())) {
+        setClassNumber(*number);
+    }
+}
+
+void LegendCommands::setClassNumber(double number) {
+    if (number < 1 || number > kMostClasses || number != std::floor(number)) {
+        refuse(session_.texts().format(TextId::BadClassNumber, {typed(number)}));
+        return;
+    }
+    scale().setClassNumber(static_cast<int>(number));
+}
+
+void LegendCommands::askExtremes() {
+    if (!classesMayChange()) {
+        return;
+    }
+    const auto lower = ask(TextId::AskLowerExtreme, TextId::ScaleHeading, scale().valueMin());
+    if (!lower) {
+        return;
+    }
+    const auto upper = ask(TextId::AskUpperExtreme, TextId::ScaleHeading, scale().valueMax());
+    if (!upper) {
+        return;
+    }
+    if (*lower >= *upper) {
+        refuse(session_.texts().format(TextId::BadExtremes, {typed(*lower), typed(*upper)}));
+        return;
+    }
+    scale().openEnds = false;
+    scale().calcRanges(*lower, *upper, true);
+}
+
+void LegendCommands::spreadClasses(bool spread) {
+    const int before = scale().count();
+    session_.style().spreadClasses = spread;
+    writeSwitch(session_.platform().settings, SettingId::SpreadClasses, spread);
+    session_.refreshColorScale();
+    if (scale().count() > 1 && before > 1 && scale().count() != before) {
+        scale().setClassNumber(before);  // which draws
+    } else {
+        session_.redraw();
+    }
+}
+
+void LegendCommands::chooseRampStart() {
+    ColorScale& shown = scale();
+    if (const auto chosen = session_.platform().dialogs.chooseColor(shown.colorStart)) {
+        shown.degrade(*chosen, shown.colorMiddle, shown.colorEnd, true);
+    }
+}
+
+void LegendCommands::chooseRampMiddle() {
+    ColorScale& shown = scale();
+    const Color before = shown.colorMiddle.value_or(shown.colorStart);
+    if (const auto chosen = session_.platform().dialogs.chooseColor(before)) {
+        shown.degrade(shown.colorStart, chosen, shown.colorEnd, true);
+    }
+}
+
+void LegendCommands::dropRampMiddle() {
+    scale().degrade2(scale().colorStart, scale().colorEnd, true);
+}
+
+void LegendCommands::chooseRampEnd() {
+    ColorScale& shown = scale();
+    if (const auto chosen = session_.platform().dialogs.chooseColor(shown.colorEnd)) {
+        shown.degrade(shown.colorStart, shown.colorMiddle, *chosen, true);
+    }
+}
+
+void LegendCommands::useReadyRamp(int index) {
+    const auto ramps = readyRamps();
+    if (index >= 0 && static_cast<std::size_t>(index) < ramps.size()) {
+        const ReadyRamp& ramp = ramps[static_cast<std::size_t>(index)];
+        scale().degrade(ramp.start, ramp.middle, ramp.end, true);
+    }
+}
+
+void LegendCommands::chooseClassColor(int index) {
+    if (!hasClass(index)) {
+        return;
+    }
+    const Color before = scale().getClass(index).color;
+    if (const auto chosen = session_.platform().dialogs.chooseColor(before)) {
+        scale().setClassColor(index, *chosen);
+    }
+}
+
+void LegendCommands::askClassValue(int index) {
+    if (!hasClass(index)) {
+        return;
+    }
+    if (!scale().allowValueChange) {
+        refuse(std::string(session_.texts()(TextId::ValuesAreFixed)));
+        return;
+    }
+    const double before = scale().getClass(index).lower;
+    const auto value = ask(TextId::AskClassValue, scale().valueChangeCaption, before);
+    if (!value) {
+        return;
+    }
+    scale().setClassValue(index, *value, session_.platform().dialogs, session_.texts());
+    session_.showLegend();
+    session_.redraw();
+}
+
+std::optional<double> LegendCommands::ask(TextId prompt, TextId caption, double proposed) const {
+    const std::optional<std::string> answer = session_.platform().dialogs.inputBox(
+        {prompt, std::string(session_.texts()(caption)), typed(proposed)});
+    if (!answer || answer->empty()) {
+        return std::nullopt;
+    }
+    const std::optional<double> number = typedNumber(*answer);
+    if (!number) {
+        refuse(session_.texts().format(TextId::AnswerNotANumber, {*answer}));
+    }
+    return number;
+}
+
+std::string LegendCommands::typed(double value) const {
+    return numberToType(value, session_.platform().locale.decimalSymbol());
+}
+
+void LegendCommands::refuse(const std::string& text) const {
+    session_.platform().dialogs.message(text, MessageIcon::Exclamation,
+                                        session_.texts()(TextId::ProgramName));
+}
+
+}  // namespace campora

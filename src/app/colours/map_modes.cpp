@@ -1,0 +1,353 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/colours/map_modes.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <variant>
+
+#include "app/session.h"
+#include "base/numbers.h"
+#include "base/text.h"
+#include "base/typed_number.h"
+#include "model/exportable.h"
+#include "model/work_layer.h"
+#include "work/gph_track.h"
+#include "work/vex_alarmas.h"
+
+namespace campora {
+
+namespace {
+
+constexpr int kBits = 32;
+
+WorkKind kindOfEntry(int index) {
+    return index < kBits ? WorkKind::Seeder : WorkKind::Sprayer;
+}
+
+/// The first entry is the plain text; the others name the console that reports the alarm.
+std::string alarmCaption(const Texts& texts, int index) {
+    std::string text(alarmText(texts, kindOfEntry(index), index % kBits));
+    if (text.empty() || index == 0) {
+        return text;
+    }
+    return texts.format(index < kBits ? TextId::SeederAlarm : TextId::SprayerAlarm, {text});
+}
+
+/// Dose channels of a layer of work; the records of a track have equally many.
+int channelsOf(const Gph& layer) {
+    const auto* const track = dynamic_cast<const GphTrack*>(&layer);
+    const auto* const reports =
+        track != nullptr ? std::get_if<GphTrack::RptRecords>(&track->records()) : nullptr;
+    const bool isReport = reports != nullptr && !reports->empty();
+    return isReport ? static_cast<int>(reports->front().getCaudal().size()) : 0;
+}
+
+int channelsOf(const File& file) {
+    if (const auto* const several = dynamic_cast<const MultiChannel*>(&file)) {
+        return several->channelsCnt();
+    }
+    int most = 0;
+    for (const Gph* layer : file.File_gphList()) {
+        most = std::max(most, channelsOf(*layer));
+    }
+    return most;
+}
+
+std::string_view withoutPercent(std::string_view answer) {
+    answer = trim(answer);
+    return answer.ends_with('%') ? answer.substr(0, answer.size() - 1) : answer;
+}
+
+}  // namespace
+
+std::vector<AlarmEntry> MapModes::alarmEntries() const {
+    std::vector<AlarmEntry> entries;
+    entries.reserve(kAlarmEntries);
+    for (int i = 0; i < kAlarmEntries; ++i) {
+        std::string caption = alarmCaption(session_.texts(), i);
+        const bool visible = !caption.empty();
+        entries.push_back({std::move(caption), visible,
+                           session_.style().isAlarmChecked(kindOfEntry(i), i % kBits)});
+    }
+    return entries;
+}
+
+void MapModes::mnuAlarmsAll() {
+    setAlarms(~std::uint32_t{0});
+}
+
+void MapModes::mnuAlarmsNone() {
+    setAlarms(0);
+}
+
+void MapModes::setAlarms(std::uint32_t bits) {
+    session_.style().alarmSelection.fill(bits);
+    redraw();
+}
+
+void MapModes::mnuAlarmsAlarm(int index) {
+    if (index < 0 || index >= kAlarmEntries) {
+        return;
+    }
+    const auto place = static_cast<unsigned>(index);
+    session_.style().alarmSelection[place / kBits] ^= 1U << (place % kBits);
+    redraw();
+}
+
+void MapModes::mnuAlarmsPaint() {
+    toggle(ColorMode::Alarm);
+}
+
+void MapModes::mnuColorDateMap() {
+    toggle(ColorMode::Date);
+}
+
+void MapModes::mnuColorErrorMap() {
+    toggle(ColorMode::Error);
+}
+
+void MapModes::toggle(ColorMode mode) {
+    MapStyle& style = session_.style();
+    const ColorMode before = style.mode;
+    style.mode = before == mode ? ColorMode::Dose : mode;
+    if (before == ColorMode::Alarm && style.mode == ColorMode::Dose) {
+        showAgain();  // the alarm map had the classes of the dose
+        return;
+    }
+    if (before == ColorMode::Error && style.mode != ColorMode::Error) {
+        session_.recalcErrorAreas();
+    }
+    showNewClasses();
+}
+
+void MapModes::mnuColorErrorMapMin() {
+    MapStyle& style = session_.style();
+    const Texts& texts = session_.texts();
+    const Platform& platform = session_.platform();
+    const std::optional<std::string> answer = platform.dialogs.inputBox(
+        {TextId::AskErrorLimit, std::string(texts(TextId::ErrorMap)),
+         numberToType(style.errorLimit, platform.locale.decimalSymbol())});
+    if (!answer || answer->empty()) {
+        return;
+    }
+    const std::optional<double> percent = typedNumber(withoutPercent(*answer));
+    if (!percent) {
+        refuse(TextId::AnswerNotANumber, *answer);
+        return;
+    }
+    style.errorLimit = static_cast<float>(*percent);
+    if (style.mode == ColorMode::Error) {
+        showNewClasses();
+    } else {
+        mnuColorErrorMap();
+    }
+}
+
+bool MapModes::isOn(ColorMode mode) const {
+    return session_.style().mode == mode;
+}
+
+bool MapModes::canShowDates() const {
+    return session_.ranges().date.has_value();
+}
+
+void MapModes::mnuEditGraduated() {
+    MapStyle& style = session_.style();
+    style.graduated = !style.graduated;
+    showAgain();
+}
+
+void MapModes::mnuEditGraduatedByLtsHect() {
+    graduateBy(GraduatedBy::Hectare);
+}
+
+void MapModes::mnuEditGraduatedByLtsMin() {
+    graduateBy(GraduatedBy::Minute);
+}
+
+void MapModes::graduateBy(GraduatedBy by) {
+    session_.style().by = by;
+    showNewClasses();
+}
+
+bool MapModes::isGraduated() const {
+    return session_.style().graduated;
+}
+
+bool MapModes::isGraduatedBy(GraduatedBy by) const {
+    return session_.style().by == by;
+}
+
+int MapModes::channelCount() const {
+    int most = session_.style().selectedChannel + 1;  // the one in use is always offered
+    for (int i = 0; i < session_.files().loadedCount(); ++i) {
+        most = std::max(most, channelsOf(session_.files().file(i)));
+    }
+    return most;
+}
+
+std::string MapModes::channelCaption(int index) const {
+    return session_.texts().format(TextId::ReportPointChannel, {numberText(index + 1)});
+}
+
+void MapModes::mnuColorScaleSelTotal() {
+    session_.style().selectedChannel = -1;
+    for (int i = 0; i < session_.files().loadedCount(); ++i) {
+        if (auto* const several = dynamic_cast<MultiChannel*>(&session_.files().file(i))) {
+            several->showTotal();
+        }
+    }
+    showNewClasses();
+}
+
+void MapModes::mnuColorScaleSelCH(int index) {
+    const Texts& texts = session_.texts();
+    session_.style().selectedChannel = index;
+    for (int i = 0; i < session_.files().loadedCount(); ++i) {
+        File& file = session_.files().file(i);
+        auto* const several = dynamic_cast<MultiChannel*>(&file);
+        if (several == nullptr) {
+            continue;
+        }
+        if (index < several->channelsCnt()) {
+            several->setCurrentChannel(index);
+        } else {
+            session_.platform().dialogs.message(
+                texts.format(TextId::FileWithoutChannel, {file.File_name(), numberText(index + 1)}),
+                MessageIcon::Exclamation, texts(TextId::ProgramName));
+        }
+    }
+    showNewClasses();
+}
+
+bool MapModes::isChannel(int index) const {
+    return session_.style().selectedChannel == index;
+}
+
+void MapModes::mnuEditDrawAll() {
+    session_.style().drawAll = !session_.style().drawAll;
+    redraw();
+}
+
+void MapModes::mnuEditDoted() {
+    bool& dotted = session_.style().drawDotted;
+    dotted = !dotted;
+    writeSwitch(session_.platform().settings, SettingId::DrawDotted, dotted);
+    redraw();
+}
+
+void MapModes::mnuEditDrawBorder() {
+    bool& borders = session_.style().drawBorders;
+    borders = !borders;
+    writeSwitch(session_.platform().settings, SettingId::DrawBorders, borders);
+    redraw();
+}
+
+TextId MapModes::drawAllCaption() const {
+    switch (session_.lastKind().value_or(WorkKind::Sprayer)) {
+    case WorkKind::Seeder:
+        return TextId::OnlySown;
+    case WorkKind::OlderForm:
+        return TextId::OnlyWorked;
+    case WorkKind::Sprayer:
+        break;
+    }
+    return TextId::OnlySprayed;
+}
+
+bool MapModes::isOnlyWorked() const {
+    return !session_.style().drawAll;
+}
+
+bool MapModes::isDotted() const {
+    return session_.style().drawDotted;
+}
+
+bool MapModes::isBordered() const {
+    return session_.style().drawBorders;
+}
+
+bool MapModes::isSpeedShown() const {
+    return session_.replay().speedShown();
+}
+
+void MapModes::mnuEditViewVel() {
+    session_.replay().setSpeedShown(!isSpeedShown());
+    session_.platform().window.commandsChanged();
+}
+
+void MapModes::mnuEditTrocha() {
+    const std::optional<std::string> answer = session_.platform().dialogs.inputBox(
+        {TextId::AskSwath, std::string(session_.texts()(TextId::ProgramName)), {}});
+    if (!answer || answer->empty()) {
+        return;
+    }
+    const std::optional<double> metres = typedNumber(*answer);
+    const float swath =
+        static_cast<float>(std::min(metres.value_or(0), static_cast<double>(kWidestSwath)));
+    if (swath <= 0) {
+        refuse(metres ? TextId::SwathNotPositive : TextId::AnswerNotANumber, *answer);
+        return;
+    }
+    for (Gph* layer : session_.getGphList()) {
+        if (auto* const work = dynamic_cast<WorkLayer*>(layer)) {
+            work->trocha(swath);
+        }
+    }
+    if (isOn(ColorMode::Error)) {
+        session_.recalcErrorAreas();
+    }
+    session_.redraw();
+}
+
+void MapModes::chooseColor(SettingId id) {
+    const auto settings = colorSettings();
+    const auto found = std::find_if(settings.begin(), settings.end(),
+                                    [id](const ColorSetting& row) { return row.id == id; });
+    Color& color = session_.style().colors.*found->color;
+    const std::optional<Color> chosen = session_.platform().dialogs.chooseColor(color);
+    if (!chosen) {
+        return;
+    }
+    color = *chosen;
+    writeColor(session_.platform().settings, id, color);
+    showAgain();
+}
+
+void MapModes::mnuEditColorDefect() {
+    session_.style().colors = {};
+    for (const auto& [id, color] : colorSettings()) {
+        writeColor(session_.platform().settings, id, session_.style().colors.*color);
+    }
+    showAgain();
+}
+
+void MapModes::showNewClasses() {
+    session_.refreshColorScale();
+    if (isOn(ColorMode::Error)) {
+        session_.recalcErrorAreas();
+    }
+    redraw();
+}
+
+void MapModes::showAgain() {
+    session_.showLegend();
+    redraw();
+}
+
+void MapModes::redraw() {
+    session_.redraw();
+    session_.platform().window.commandsChanged();
+}
+
+void MapModes::refuse(TextId text, const std::string& answer) {
+    const Texts& texts = session_.texts();
+    session_.platform().dialogs.message(texts.format(text, {answer}), MessageIcon::Exclamation,
+                                        texts(TextId::ProgramName));
+}
+
+}  // namespace campora

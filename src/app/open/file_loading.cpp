@@ -1,0 +1,140 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/open/file_loading.h"
+
+#include <algorithm>
+#include <iterator>
+#include <string>
+#include <utility>
+
+#include "base/files.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "lots/load_lot.h"
+#include "presc/gph_presc.h"
+#include "presc/load_grid.h"
+
+namespace campora {
+
+namespace {
+
+/// A project is known by its first line; this is the ending that they mostly have.
+constexpr std::string_view kProjectEnding = ".fsp";
+
+using WorkLoader = std::optional<LoadedWork> (*)(std::string_view, const WorkReaderContext&);
+
+template <WorkLoader load>
+std::optional<OpenedFile> openWork(std::string_view path, const OpenContext& context) {
+    std::optional<LoadedWork> work = load(path, context);
+    if (!work) {
+        return std::nullopt;
+    }
+    work->group->ranges = work->ranges;
+    return OpenedFile{std::move(work->group), work->kind, work->hasFlowStops};
+}
+
+/// Maps of other programs that people have and try to open.
+constexpr std::string_view kForeignMaps[] = {".gpkg", ".geojson", ".json", ".kml",
+                                             ".kmz",  ".gpx",     ".dxf",  ".tab"};
+
+/// What there is to be done about a map that is none of the program's.
+std::string foreignMapText(std::string_view path, const Texts& texts) {
+    std::string endings;
+    for (const FileFormat& format : fileFormats()) {
+        endings.append(format.ending).append(", ");
+    }
+    return texts.format(TextId::FileNotCompatibleNamed, {std::string(path)}) + "\n" +
+           texts.format(TextId::FormatsThatOpen, {endings + std::string(kProjectEnding)}) + "\n" +
+           std::string(texts(TextId::FormatNeedsShape));
+}
+
+std::optional<OpenedFile> openGrid(std::string_view path, const OpenContext& context) {
+    const bool isForeign = std::any_of(
+        std::begin(kForeignMaps), std::end(kForeignMaps),
+        [name = lowerCase(path)](std::string_view ending) { return name.ends_with(ending); });
+    if (isForeign && canOpen(path)) {
+        context.dialogs.message(foreignMapText(path, context.texts), MessageIcon::Error,
+                                context.texts(TextId::WrongFileFormat));
+        return std::nullopt;
+    }
+    std::unique_ptr<File> grid =
+        loadGrid(path, {context.dialogs, context.locale, context.texts, context.colors});
+    if (!grid) {
+        return std::nullopt;
+    }
+    return OpenedFile{std::move(grid), std::nullopt, std::nullopt};
+}
+
+std::optional<OpenedFile> openZones(std::string_view path, const OpenContext& context) {
+    if (!canOpen(path)) {
+        const Result<FileBytes> file = readFile(path);
+        const Failure why =
+            file ? Failure{TextId::FileNotCompatibleNamed, {std::string(path)}} : file.failure();
+        context.dialogs.message(context.texts.sentence(why), MessageIcon::Error,
+                                context.texts(TextId::WrongFileFormat));
+        return std::nullopt;
+    }
+    auto zones = std::make_unique<GphPresc>(context.colors.shape);
+    if (!zones->loadFromFile(path, context.dialogs, context.texts)) {
+        return std::nullopt;
+    }
+    return OpenedFile{std::move(zones), std::nullopt, std::nullopt};
+}
+
+std::optional<OpenedFile> openLot(std::string_view path, const OpenContext& context) {
+    std::unique_ptr<File> lot = loadLot(path, {context.dialogs, context.locale, context.texts});
+    if (!lot) {
+        return std::nullopt;
+    }
+    return OpenedFile{std::move(lot), std::nullopt, std::nullopt};
+}
+
+constexpr FileFormat kFormats[] = {
+    {".rpt", TextId::FilterReports, true, false, openWork<loadRptFile>},
+    {".txt", TextId::FilterTextTables, true, false, openWork<loadRptTextTable>},
+    {".nbr", TextId::FilterTrackFiles, false, true, openWork<loadTrackFile>},
+    {".shp", TextId::FilterShapes, false, false, openZones},
+    {".vrt", TextId::FilterPrescriptions, false, false, openGrid},
+    {".lot", TextId::FilterLotes, false, false, openLot},
+    // The last: files without an ending of the table are offered to its reader.
+    {".pre", TextId::FilterPrescriptions, false, false, openGrid},
+};
+
+std::string patternOf(const FileFormat& format) {
+    return std::string("*").append(format.ending);
+}
+
+}  // namespace
+
+std::span<const FileFormat> fileFormats() {
+    return kFormats;
+}
+
+const FileFormat* formatOf(std::string_view path) {
+    const std::string ending = pathEnding(path);
+    const auto* const found =
+        std::find_if(std::begin(kFormats), std::end(kFormats),
+                     [&ending](const FileFormat& format) { return format.ending == ending; });
+    return found == std::end(kFormats) ? nullptr : found;
+}
+
+const FileFormat& formatToOpen(std::string_view path) {
+    const FileFormat* const format = formatOf(path);
+    return format != nullptr ? *format : *std::rbegin(kFormats);
+}
+
+std::vector<FileFilter> openFilters(const Texts& texts) {
+    std::vector<FileFilter> filters{{std::string(texts(TextId::FilterSupported)), {}}};
+    for (const FileFormat& format : kFormats) {
+        filters.front().patterns.push_back(patternOf(format));
+        filters.push_back({std::string(texts(format.filterCaption)), {patternOf(format)}});
+    }
+    const std::string projects = std::string("*").append(kProjectEnding);
+    filters.front().patterns.push_back(projects);
+    filters.push_back({std::string(texts(TextId::FilterProjects)), {projects}});
+    filters.push_back({std::string(texts(TextId::FilterAllFiles)), {"*"}});
+    return filters;
+}
+
+}  // namespace campora

@@ -1,0 +1,159 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/open/summary_commands.h"
+
+#include <cstddef>
+#include <utility>
+#include <vector>
+
+#include "app/session.h"
+#include "base/files.h"
+#include "base/paths.h"
+#include "work/companion_names.h"
+#include "work/edits_file.h"
+#include "work/summary_file.h"
+
+namespace campora {
+
+namespace {
+
+constexpr std::string_view kTrackEnding = ".nbr";
+
+}  // namespace
+
+void addKeptEdits(File& file) {
+    FileProperties& summary = file.File_resumen();
+    if (!summary.sourcePath.empty()) {
+        return;
+    }
+    ReadEdits read = readEdits(file.File_diskPath());
+    summary.edits = std::move(read.edits);
+    if (read.unused) {
+        file.addRemark(std::move(*read.unused));
+    }
+}
+
+bool SummaryCommands::canEdit() const {
+    const File* const file = session_.files().currentFile();
+    return file != nullptr && !file->File_diskPath().empty();
+}
+
+std::string SummaryCommands::summaryFile() {
+    File* const file = session_.files().currentFile();
+    if (file == nullptr) {
+        return {};
+    }
+    FileProperties& summary = file->File_resumen();
+    const std::string path = file->File_diskPath();
+    if (summary.sourcePath.empty() && pathEnding(path) == kTrackEnding) {
+        FileProperties found;
+        loadSummaryFile(findIgnoringCase(companionNames(path).summaryPath), found);
+        if (!found.sourcePath.empty()) {
+            summary = std::move(found);
+            show();
+        }
+    }
+    return summary.sourcePath;
+}
+
+void SummaryCommands::reread() {
+    File* const file = session_.files().currentFile();
+    if (file == nullptr) {
+        return;
+    }
+    FileProperties& summary = file->File_resumen();
+    const std::string path = summary.sourcePath;
+    if (canOpen(path)) {
+        loadSummaryFile(path, summary);
+        show();
+    }
+}
+
+SummaryRows SummaryCommands::rows() const {
+    std::vector<SummaryEntry> entries;
+    if (File* const file = session_.files().currentFile()) {
+        for (const ShownProperty& row : shownProperties(file->File_resumen())) {
+            entries.push_back({row.property, row.value, row.unit});
+        }
+    }
+    return SummaryRows(std::move(entries));
+}
+
+bool SummaryCommands::keep(const SummaryRows& rows) {
+    File* const file = session_.files().currentFile();
+    if (file == nullptr) {
+        return false;
+    }
+    std::vector<FileProperty> shown;
+    for (const SummaryEntry& row : rows.rows()) {
+        shown.push_back({row.name, row.value, row.unit});
+    }
+    return keep(editsThatMake(shown, file->File_resumen()));
+}
+
+bool SummaryCommands::keep(SummaryEdits edits) {
+    File* const file = session_.files().currentFile();
+    if (file == nullptr || edits == file->File_resumen().edits) {
+        return file != nullptr;
+    }
+    Dialogs& dialogs = session_.platform().dialogs;
+    const Texts& texts = session_.texts();
+    const std::string path = file->File_diskPath();
+    const ReadEdits there = readEdits(path);
+    std::optional<Failure> doubt = there.unused;
+    if (!doubt && there.edits != file->File_resumen().edits && there.edits != edits) {
+        doubt = Failure{TextId::EditsChangedMeanwhile, {editsPath(path)}};
+    }
+    if (doubt && !dialogs.askYesNo(texts.format(TextId::AskReplaceEdits, {texts.sentence(*doubt)}),
+                                   MessageIcon::Question, texts(TextId::ProgramName))) {
+        return false;
+    }
+    if (std::optional<Failure> failure = writeEdits(path, edits)) {
+        dialogs.message(texts.sentence(because(TextId::EditsNotKept, {path}, std::move(*failure))),
+                        MessageIcon::Error, texts(TextId::Error));
+        return false;
+    }
+    file->File_resumen().edits = std::move(edits);
+    file->dropRemarks(TextId::EditsNotUsed);
+    session_.loadFileList(true);  // where the remark stood
+    show();
+    return true;
+}
+
+bool SummaryCommands::isEdited(int row) const {
+    File* const file = session_.files().currentFile();
+    if (file == nullptr || row < 0) {
+        return false;
+    }
+    const std::vector<ShownProperty> shown = shownProperties(file->File_resumen());
+    const auto index = static_cast<std::size_t>(row);
+    return index < shown.size() && shown[index].origin != ShownProperty::Origin::Measured;
+}
+
+bool SummaryCommands::hasEdits() const {
+    File* const file = session_.files().currentFile();
+    return file != nullptr && !file->File_resumen().edits.empty();
+}
+
+void SummaryCommands::backToMeasured(int row) {
+    if (isEdited(row)) {
+        static_cast<void>(keep(withoutEdit(session_.files().currentFile()->File_resumen(), row)));
+    }
+}
+
+void SummaryCommands::backToMeasured() {
+    if (hasEdits()) {
+        static_cast<void>(keep(SummaryEdits()));
+    }
+}
+
+void SummaryCommands::show() {
+    if (session_.style().mode == ColorMode::Error) {
+        session_.recalcErrorAreas();  // its entry stands in no file
+    } else {
+        session_.showSummary();
+    }
+}
+
+}  // namespace campora

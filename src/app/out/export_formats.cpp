@@ -1,0 +1,145 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/out/export_formats.h"
+
+#include <algorithm>
+#include <cstddef>
+
+#include "app/session.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "export/geojson_export.h"
+#include "export/kml_export.h"
+#include "export/shp_export.h"
+#include "export/txt_export.h"
+
+namespace campora {
+
+namespace {
+
+/// The writers of sets of files add the endings themselves.
+std::string_view basePath(const ExportJob& job) {
+    constexpr std::size_t kEnding = 4;
+    return std::string_view(job.path).substr(0, job.path.size() - kEnding);
+}
+
+std::optional<Failure> writeShpPolygons(const ExportJob& job) {
+    return exportShpPolygons(job.layers, basePath(job), job.session.style(), job.progress);
+}
+
+std::optional<Failure> writeShpPoints(const ExportJob& job) {
+    return exportShpPoints(job.layers, basePath(job), job.progress);
+}
+
+std::optional<Failure> writeShpGis(const ExportJob& job) {
+    return exportShpGis(job.layers, basePath(job), {job.session.style(), &job.session.texts()},
+                        job.session.platform().clock.today(), job.progress);
+}
+
+std::optional<Failure> writeGeoJson(const ExportJob& job) {
+    return exportGeoJson(job.layers, job.path, {job.session.style(), &job.session.texts()},
+                         job.progress);
+}
+
+std::optional<Failure> writeKml(const ExportJob& job) {
+    return kmlExport(job.layers, job.path, job.session.programFolder(), job.session.style(),
+                     job.progress);
+}
+
+template <char kDecimalSymbol>
+std::optional<Failure> writeText(const ExportJob& job) {
+    TextTableForm form;
+    form.decimalSymbol = kDecimalSymbol;
+    return txtExport(job.layers, job.path, form, job.session.platform().locale, job.progress);
+}
+
+template <PictureForm kForm>
+std::optional<Failure> writePicture(const ExportJob& job) {
+    return job.savePicture(job.session.platform().canvas.picture(), job.path, kForm);
+}
+
+// clang-format off
+constexpr ExportFormat kFormats[] = {
+    {"shp-polygon", ".shp", TextId::FilterShapePolygons, ExportSource::Layers,
+     AfterExport::Nothing, polygonLayers, writeShpPolygons},
+    {"shp-point", ".shp", TextId::FilterShapePoints, ExportSource::Layers,
+     AfterExport::Nothing, pointLayers, writeShpPoints},
+    {"bmp", ".bmp", TextId::FilterBitmap, ExportSource::Picture,
+     AfterExport::Nothing, nullptr, writePicture<PictureForm::Bmp>},
+    {"kml", ".kml", TextId::FilterKml, ExportSource::Layers,
+     AfterExport::AskToOpen, nullptr, writeKml},
+    {"txt", ".txt", TextId::FilterText, ExportSource::Layers,
+     AfterExport::Open, nullptr, writeText<'.'>},
+    {"txt-comma", ".txt", TextId::FilterTextComma, ExportSource::Layers,
+     AfterExport::Open, nullptr, writeText<','>},
+    {"shp-gis", ".shp", TextId::FilterShapeGis, ExportSource::Layers,
+     AfterExport::Nothing, nullptr, writeShpGis},
+    {"geojson", ".geojson", TextId::FilterGeoJson, ExportSource::Layers,
+     AfterExport::Nothing, nullptr, writeGeoJson},
+    {"png", ".png", TextId::FilterPng, ExportSource::Picture,
+     AfterExport::Nothing, nullptr, writePicture<PictureForm::Png>},
+};
+// clang-format on
+
+constexpr std::size_t kFirstText = 4;
+static_assert(kFormats[kFirstText].word == "txt" && kFormats[kFirstText + 1].word == "txt-comma");
+
+}  // namespace
+
+std::span<const ExportFormat> exportFormats() {
+    return kFormats;
+}
+
+const ExportFormat* exportFormatOf(std::string_view word) {
+    const auto* const found =
+        std::find_if(std::begin(kFormats), std::end(kFormats),
+                     [word](const ExportFormat& format) { return format.word == word; });
+    return found == std::end(kFormats) ? nullptr : found;
+}
+
+std::span<const ExportFormat> textFormats() {
+    return exportFormats().subspan(kFirstText, 2);
+}
+
+std::vector<const Gph*> layersWithoutColumns(const ExportFormat& format,
+                                             const std::vector<Gph*>& layers) {
+    std::vector<const Gph*> without;
+    if (format.tableLayers == nullptr) {
+        return without;
+    }
+    bool others = false;
+    for (const ExportLayer& layer :
+         format.tableLayers(std::vector<const Gph*>(layers.begin(), layers.end()))) {
+        if (layer.count > 0 && layer.data == nullptr) {
+            without.push_back(layer.gph);
+        }
+        others = others || (layer.count > 0 && layer.data != nullptr);
+    }
+    return others ? without : std::vector<const Gph*>();
+}
+
+std::vector<FileFilter> exportFilters(std::span<const ExportFormat> formats, const Texts& texts) {
+    std::vector<FileFilter> filters;
+    for (const ExportFormat& format : formats) {
+        filters.push_back(
+            {std::string(texts(format.caption)), {std::string("*").append(format.ending)}});
+    }
+    return filters;
+}
+
+std::string pathForFormat(std::string_view path, std::string_view ending) {
+    const std::string name = lowerCase(fileNamePart(path));
+    if (name.empty() || name.ends_with(ending)) {
+        return std::string(path);
+    }
+    for (const ExportFormat& format : kFormats) {
+        if (name.ends_with(format.ending) && name.size() > format.ending.size()) {
+            path.remove_suffix(format.ending.size());
+            break;
+        }
+    }
+    return std::string(path).append(ending);
+}
+
+}  // namespace campora

@@ -1,0 +1,117 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/out/track_batch.h"
+
+#include <cstddef>
+#include <span>
+
+#include "app/session.h"
+#include "app/used_files.h"
+#include "base/files.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "export/shape_set.h"
+#include "platform/left_undone.h"
+#include "platform/quiet_dialogs.h"
+#include "work/work_reader.h"
+
+namespace campora {
+
+namespace {
+
+constexpr std::string_view kResultDots = ":...........";
+
+/// Keeps what the reader of a file says, instead of a box for each file of a batch.
+class RemarkDialogs final : public QuietDialogs {
+public:
+    std::string remarks;
+
+    void message(std::string_view text, MessageIcon /*icon*/,
+                 std::string_view /*caption*/) override {
+        remarks.append(remarks.empty() ? "" : "\n").append(trim(replaceAll(text, "\r\n", "\n")));
+    }
+};
+
+}  // namespace
+
+std::string shapeBaseOf(std::string_view trackPath) {
+    const std::string ending = pathEnding(trackPath);
+    const std::size_t cut = ending.starts_with('.') ? ending.size() : 0;
+    return std::string(trackPath.substr(0, trackPath.size() - cut));
+}
+
+TrackExportOutcome TrackBatch::exportOne(const std::string& source,
+                                         std::string_view basePath) const {
+    if (const auto refused = inUse_.whyNotTarget(shapeSetFiles(basePath))) {
+        return {false, session_.texts().sentence(*refused)};
+    }
+    RemarkDialogs dialogs;
+    const Platform& platform = session_.platform();
+    const std::optional<LoadedWork> work = loadTrackFile(
+        source, {dialogs, platform.locale, session_.texts(), session_.registrations()});
+    if (!work) {
+        return {false, dialogs.remarks};
+    }
+    const std::optional<Failure> failure = exportTrack(*work->group, basePath, options);
+    return {!failure, failure ? session_.texts().sentence(*failure) : dialogs.remarks};
+}
+
+void TrackBatch::lookWhatIsInUse(const std::vector<std::string>& sources) {
+    inUse_ = session_.filesInUse();
+    for (const std::string& source : sources) {
+        addOpened(inUse_, source);
+    }
+}
+
+bool TrackBatch::exportList(const std::vector<std::string>& paths) {
+    if (running_) {
+        return false;
+    }
+    running_ = true;
+    stopped_ = false;
+    bool all = true;
+    lookWhatIsInUse(paths);
+    const Texts& texts = session_.texts();
+    for (const std::string& path : paths) {
+        std::string line = std::string(texts(TextId::Exporting)) + ' ';
+        line += fileNamePart(path);
+        onBegin(line);
+        session_.platform().clock.processEvents();
+        const std::string found = findIgnoringCase(path);
+        const TrackExportOutcome outcome = exportOne(found, shapeBaseOf(found));
+        line += kResultDots;
+        line += texts(outcome.written ? TextId::ExportOk : TextId::Error);
+        onDone(line, outcome);
+        all = all && outcome.written;
+        session_.platform().clock.processEvents();
+        if (stopped_) {
+            tellLeftUndone(
+                TextId::ExportCancelled,
+                std::span(paths).subspan(static_cast<std::size_t>(&path - paths.data()) + 1),
+                session_.platform().dialogs, texts);
+            break;
+        }
+    }
+    running_ = false;
+    return all && !stopped_;
+}
+
+bool TrackBatch::exportFiles(const std::string& source, const std::string& target) {
+    const std::string base = pathEnding(target) == ".shp" ? shapeBaseOf(target) : target;
+    const Texts& texts = session_.texts();
+    const std::optional<Failure> refused = whyNoTarget(target);
+    lookWhatIsInUse({source});
+    const TrackExportOutcome outcome = refused ? TrackExportOutcome{false, texts.sentence(*refused)}
+                                               : exportOne(findIgnoringCase(source), base);
+    std::string text(texts(outcome.written ? TextId::FileExported : TextId::FileNotExported));
+    if (!outcome.remark.empty()) {
+        text.append("\r\n").append(outcome.remark);
+    }
+    session_.platform().dialogs.message(
+        text, outcome.written ? MessageIcon::Information : MessageIcon::Exclamation,
+        texts(TextId::ProgramName));
+    return outcome.written;
+}
+
+}  // namespace campora

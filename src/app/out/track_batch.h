@@ -1,0 +1,66 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "app/out/track_export.h"
+#include "base/files_in_use.h"
+
+namespace campora {
+
+class Session;
+
+/// What came of the export of one track file.
+struct TrackExportOutcome {
+    bool written = false;
+    /// Why it was not, or what the reader remarked on the file; empty for nothing.
+    std::string remark;
+};
+
+/// The dialog that exports track files without its widgets. Pending events run between the files,
+/// so `stop` may be called before `exportList` returns.
+class TrackBatch {
+public:
+    /// `session` outlives the batch.
+    explicit TrackBatch(const Session& session) : session_(session) {}
+
+    TrackExportOptions options;
+    /// Told when a file is begun ("Exportando x.nbr") and again when it is done
+    /// ("Exportando x.nbr:...........Ok").
+    std::function<void(const std::string& line)> onBegin;
+    std::function<void(const std::string& line, const TrackExportOutcome& outcome)> onDone;
+
+    /// Exports each file to a shapefile of its name beside it, whatever became of those before;
+    /// false when one failed or the user stopped.
+    bool exportList(const std::vector<std::string>& paths);
+    /// Exports a file to a shapefile, whose path may end in ".shp", and says what came of it.
+    bool exportFiles(const std::string& source, const std::string& target);
+    /// The run ends with the file it is at.
+    void stop() { stopped_ = true; }
+    [[nodiscard]] bool isRunning() const { return running_; }
+
+private:
+    /// One file, unless its shapefile would stand in the place of a file in use.
+    [[nodiscard]] TrackExportOutcome exportOne(const std::string& source,
+                                               std::string_view basePath) const;
+    /// The files of the map and these.
+    void lookWhatIsInUse(const std::vector<std::string>& sources);
+
+    const Session& session_;
+    /// What is in use, the files to read among it; made once for a run.
+    FilesInUse inUse_;
+    bool running_ = false;
+    bool stopped_ = false;
+};
+
+/// The path of the shapefile beside a track file, without its ending: the last four characters of
+/// the path go when they are one ("x.nbr"), that is, begin with a point.
+[[nodiscard]] std::string shapeBaseOf(std::string_view trackPath);
+
+}  // namespace campora

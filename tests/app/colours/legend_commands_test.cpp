@@ -1,0 +1,250 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/colours/legend_commands.h"
+
+#include <cstdint>
+#include <initializer_list>
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "support/session_desk.h"
+
+namespace campora {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::SizeIs;
+
+using Bounds = std::vector<double>;
+
+/// A started session whose current file has a scale of its own, with classes from 0 to 100.
+struct LegendDesk : SessionDesk {
+    LegendDesk() {
+        session.start();
+        NamedFile& file = add("plan");
+        addScale(file, 100);
+        scale().setClassNumber(4);
+        session.selectFile(0);
+        canvas.forget();
+    }
+    [[nodiscard]] ColorScale& scale() { return *session.files().file(0).File_escalaColores(); }
+    /// The lower bounds and the last upper one.
+    [[nodiscard]] Bounds bounds() {
+        Bounds found;
+        for (const Clase& clase : scale().classes()) {
+            found.push_back(clase.lower);
+        }
+        found.push_back(scale().classes().back().upper);
+        return found;
+    }
+    void makeSingleValues(std::initializer_list<double> values) {
+        SetList set;
+        for (const double value : values) {
+            set.addDosis(value);
+        }
+        scale().loadFromSetList(set, 0);
+        scale().allowValueChange = true;
+        session.showLegend();
+        canvas.forget();
+    }
+
+    LegendCommands& commands = session.legend();
+};
+
+struct LegendCommandsTest : testing::Test, LegendDesk {};
+
+TEST_F(LegendCommandsTest, WorkOnTheScaleThatIsShown) {
+    commands.addClass();
+    EXPECT_EQ(bounds(), (Bounds{0, 20, 40, 60, 80, 100}));
+    EXPECT_EQ(window.legend.classes.size(), 5U);
+    EXPECT_GT(redraws(), 0U);
+    canvas.forget();
+    session.defaultScale().setClassColor(0, {0x123456});
+    EXPECT_EQ(redraws(), 0U) << "not the scale in the legend";
+    session.selectFile(std::nullopt);
+    commands.removeClass();
+    EXPECT_EQ(session.defaultScale().count(), 5);
+    EXPECT_EQ(scale().count(), 5) << "not the one in the legend";
+}
+
+/// Steps of 10 m, one in 150 with a dose of 3000 and the others from 80 to 89.
+std::string creepingReport(const TempFolder& folder, int span = 10) {
+    RptBytes bytes(1);
+    for (int i = 0; i < 300; ++i) {
+        RptBytes::Record record;
+        record.position = fixAt(10.0 * i, 0);
+        record.realTenths[0] = i % 150 == 75 ? 30000 : 800 + 10 * (i % span);
+        bytes.add(record);
+    }
+    return folder.write("lote.rpt", bytes.bytes());
+}
+
+TEST(LegendCommands, ClassesCanBeSpreadOverMostOfTheArea) {
+    SessionDesk desk;
+    desk.session.start();
+    desk.session.loadFile(creepingReport(desk.folder), false, true);
+    const LegendContent& legend = desk.window.legend;
+    EXPECT_EQ(legend.remark, "Una clase cubre el 99 % de la superficie trabajada.");
+    EXPECT_EQ(legend.offer, "Repartir las clases");
+    EXPECT_EQ(desk.session.defaultScale().valueMax(), 3000);
+    desk.session.legend().addClass();
+    desk.session.legend().spreadClasses(true);
+    const ColorScale& scale = desk.session.defaultScale();
+    EXPECT_EQ(scale.valueMin(), 80);
+    EXPECT_EQ(scale.valueMax(), 89);
+    EXPECT_THAT(legend.classes, SizeIs(6)) << "as many as before";
+    EXPECT_EQ(legend.classes.front().text, "< 81.5");
+    EXPECT_EQ(legend.classes.back().text, "> 87.5");
+    EXPECT_EQ(legend.remark + legend.offer, "");
+    EXPECT_TRUE(legend.canSpread && legend.spread);
+
+    SessionDesk next;
+    next.settings.values = desk.settings.values;
+    next.session.start();
+    next.session.loadFile(creepingReport(next.folder), false, true);
+    EXPECT_EQ(next.session.defaultScale().valueMax(), 89) << "it is remembered";
+    next.session.legend().spreadClasses(false);
+    EXPECT_EQ(next.session.defaultScale().valueMax(), 3000);
+}
+
+TEST(LegendCommands, WorkOfOneDoseCannotBeSpread) {
+    SessionDesk desk;
+    desk.session.start();
+    desk.session.loadFile(creepingReport(desk.folder, 1), false, true);
+    EXPECT_EQ(desk.window.legend.remark, "Una clase cubre el 99 % de la superficie trabajada.");
+    EXPECT_EQ(desk.window.legend.offer, "");
+    desk.session.legend().spreadClasses(true);
+    EXPECT_EQ(desk.session.defaultScale().valueMax(), 3000);
+    EXPECT_FALSE(desk.session.defaultScale().openEnds);
+}
+
+TEST(LegendCommands, TheNumberOfClassesStaysWithinItsLimits) {
+    const auto classesAfter = [](const char* typed, std::size_t refusals) {
+        LegendDesk desk;
+        desk.dialogs.inputAnswers = {typed};
+        desk.commands.askClassNumber();
+        EXPECT_THAT(desk.dialogs.inputs, ElementsAre(HasSubstr("|Escala de colores|4")));
+        EXPECT_THAT(desk.dialogs.messages, SizeIs(refusals)) << typed;
+        return desk.scale().count();
+    };
+    EXPECT_EQ(classesAfter(" 1 ", 0), 1);
+    EXPECT_EQ(classesAfter("64", 0), 64);
+    EXPECT_EQ(classesAfter("", 0), 4);
+    for (const char* typed : {"0", "65", "2,5"}) {
+        EXPECT_EQ(classesAfter(typed, 1), 4) << typed;
+    }
+    LegendDesk desk;
+    desk.scale().setClassNumber(64);
+    desk.commands.addClass();
+    EXPECT_EQ(desk.scale().count(), 64);
+    EXPECT_THAT(desk.dialogs.messages, ElementsAre(HasSubstr("1 a 64: 65")));
+    desk.scale().setClassNumber(1);
+    desk.commands.removeClass();
+    EXPECT_EQ(desk.scale().count(), 1);
+}
+
+TEST(LegendCommands, ExtremesAreTypedInAnyForm) {
+    struct Row {
+        const char* name;
+        std::vector<std::string> answers;
+        Bounds bounds;
+        const char* says = nullptr;
+    };
+    const Bounds before = {0, 25, 50, 75, 100};
+    const Row rows[] = {
+        {"with a comma", {"10,5", "12,5"}, {10.5, 11, 11.5, 12, 12.5}},
+        {"with a point", {"-1.5", "0.5"}, {-1.5, -1, -0.5, 0, 0.5}},
+        {"equal", {"7", "7"}, before, "menor que el máximo: 7 y 7"},
+        {"swapped", {"100", "50"}, before, "menor que el máximo"},
+        {"no number", {"1", "alto"}, before, "alto"},
+        {"cancelled later", {"1", ""}, before},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        LegendDesk desk;
+        desk.dialogs.inputAnswers.assign(row.answers.begin(), row.answers.end());
+        desk.commands.askExtremes();
+        EXPECT_EQ(desk.bounds(), row.bounds);
+        EXPECT_TRUE(desk.dialogs.inputAnswers.empty());
+        EXPECT_EQ(desk.dialogs.messages.size(), row.says == nullptr ? 0U : 1U);
+        if (row.says != nullptr) {
+            EXPECT_THAT(desk.dialogs.messages.at(0), HasSubstr(row.says));
+        }
+    }
+}
+
+TEST(LegendCommands, FixedClassesAreNotTouched) {
+    using Command = void (LegendCommands::*)();
+    for (const Command command : {&LegendCommands::addClass, &LegendCommands::removeClass,
+                                  &LegendCommands::askClassNumber, &LegendCommands::askExtremes}) {
+        LegendDesk desk;
+        desk.scale().allowClassEdit = false;
+        (desk.commands.*command)();
+        EXPECT_EQ(desk.bounds(), (Bounds{0, 25, 50, 75, 100}));
+        EXPECT_THAT(
+            desk.dialogs.messages,
+            ElementsAre("Exclamation|Campora|Las clases de esta escala no se pueden cambiar"));
+        EXPECT_TRUE(desk.dialogs.inputs.empty());
+    }
+}
+
+TEST(LegendCommands, RampColoursAreChosenOneByOne) {
+    LegendDesk desk;
+    desk.scale().setClassNumber(3);
+    const auto colors = [&desk] {
+        std::vector<std::uint32_t> found;
+        for (const LegendRow& row : desk.window.legend.classes) {
+            found.push_back(row.color.value);
+        }
+        return found;
+    };
+    desk.dialogs.colorAnswers = {std::nullopt, Color{1}, Color{2}, Color{9}, Color{0x100}};
+    desk.commands.chooseRampStart();
+    EXPECT_THAT(colors(), ElementsAre(0x00FFFFU, 0x00FF00U, 0x0000FFU)) << "cancelled";
+    desk.commands.chooseRampStart();
+    desk.commands.chooseRampMiddle();
+    desk.commands.chooseRampEnd();
+    EXPECT_THAT(colors(), ElementsAre(1U, 2U, 9U));
+    desk.commands.dropRampMiddle();
+    EXPECT_THAT(colors(), ElementsAre(1U, 5U, 9U));
+    desk.commands.chooseClassColor(1);
+    EXPECT_THAT(colors(), ElementsAre(1U, 0x100U, 9U));
+}
+
+TEST(LegendCommands, AValueIsTypedWhereItMayChange) {
+    // The value of the second class, 150 before, and the number of refusals.
+    const std::tuple<const char*, double, int> rows[] = {
+        {"160,0", 160, 0}, {"160.0", 160, 0}, {"", 150, 0}, {"mucho", 150, 1}};
+    for (const auto& [typed, value, refusals] : rows) {
+        SCOPED_TRACE(typed);
+        LegendDesk desk;
+        desk.makeSingleValues({100, 150, 200});
+        desk.dialogs.inputAnswers = {typed};
+        desk.commands.askClassValue(1);
+        EXPECT_THAT(desk.dialogs.inputs, ElementsAre(HasSubstr("|150")));
+        EXPECT_EQ(desk.bounds()[1], value);
+        EXPECT_EQ(desk.redraws(), value == 150 ? 0U : 1U);
+        EXPECT_EQ(desk.window.legend.classes[1].text, value == 150 ? "150" : "160");
+        EXPECT_THAT(desk.dialogs.messages, SizeIs(refusals));
+    }
+}
+
+TEST_F(LegendCommandsTest, FixedValuesAndIntervalsKeepTheirs) {
+    commands.askClassValue(0);
+    scale().allowValueChange = true;
+    dialogs.inputAnswers = {"5"};
+    commands.askClassValue(0);
+    commands.askClassValue(4);
+    EXPECT_EQ(bounds(), (Bounds{0, 25, 50, 75, 100}));
+    EXPECT_THAT(dialogs.messages,
+                ElementsAre("Exclamation|Campora|Los valores de esta escala no se pueden cambiar",
+                            "Exclamation|Campora|No se puede cambiar un intervalo"));
+}
+
+}  // namespace
+}  // namespace campora

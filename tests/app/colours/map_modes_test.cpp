@@ -1,0 +1,370 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/colours/map_modes.h"
+
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "base/typed_number.h"
+#include "model/exportable.h"
+#include "support/session_desk.h"
+#include "work/gph_track.h"
+
+namespace campora {
+namespace {
+
+using testing::Each;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+using Handler = void (MapModes::*)();
+using Lines = std::vector<std::string>;
+
+constexpr std::uint32_t kSprayer = 0x6001;
+constexpr std::uint32_t kSeeder = 0x2104;
+
+/// A started session with its modes.
+struct ModesDesk : SessionDesk {
+    ModesDesk() {
+        session.start();
+        forget();
+    }
+    /// A report of two steps of 10 m with the alarm of bit 8; 50 % too much in the first channel,
+    /// 20 % too little in the second.
+    void open(const std::string& name, int channels = 1, std::uint32_t serial = kSprayer) {
+        RptBytes bytes(channels, serial);
+        for (int i = 0; i < 3; ++i) {
+            RptBytes::Record record;
+            record.position = fixAt(10.0 * i, 0);
+            record.realTenths = {1500, 800, 100, 100};
+            record.spec = {100, 100, 10, 10};
+            record.alarms = 1U << 8U;
+            bytes.add(record);
+        }
+        ASSERT_TRUE(session.loadFile(folder.write(name, bytes.bytes()), false, true));
+        forget();
+    }
+    void forget() {
+        canvas.forget();
+        window.commandChanges = 0;
+        dialogs.messages.clear();
+    }
+    /// Fill colours of the polygons drawn since; steps of one colour may share a polygon.
+    [[nodiscard]] Lines fills() const {
+        Lines found;
+        for (const std::string& call : canvas.callsOf("polygon")) {
+            found.push_back(call.substr(call.find("fill=") + 5, 8));
+        }
+        return found;
+    }
+    [[nodiscard]] ColorMode mode() { return session.style().mode; }
+
+    MapModes modes{session};
+};
+
+/// A file with several channels.
+struct ChannelsFile : NamedFile, MultiChannel {
+    ChannelsFile(const std::string& name, int channels) : NamedFile(name), count(channels) {}
+    void setCurrentChannel(int channel) override { current = channel; }
+    void showTotal() override { current = -1; }
+    [[nodiscard]] int channelsCnt() const override { return count; }
+
+    int count;
+    int current = 0;
+};
+
+struct MapModesTest : testing::Test, ModesDesk {};
+
+TEST(TypedNumber, TakesEitherDecimalSymbolAndNothingElse) {
+    const std::map<std::string, double> numbers = {{"12,5", 12.5}, {"12.5", 12.5}, {" 7 ", 7},
+                                                   {"+3", 3},      {"-0,5", -0.5}, {".5", 0.5}};
+    for (const auto& [typed, number] : numbers) {
+        EXPECT_EQ(typedNumber(typed), number) << typed;
+    }
+    for (const char* typed :
+         {"", "doce", "1.234,5", "12 m", "+-3", "1e3", "nan", "inf", "1000000000000000"}) {
+        EXPECT_EQ(typedNumber(typed), std::nullopt) << typed;
+    }
+}
+
+TEST_F(MapModesTest, SelectedAlarmsColourThePointsThatHaveThem) {
+    open("lote.rpt");
+    modes.mnuAlarmsPaint();
+    const Lines alarm = {"0x0000FF"};
+    const Lines none = {"0x00FF00"};
+    EXPECT_EQ(fills(), alarm);
+    const auto toggle = [this](int index) {
+        forget();
+        modes.mnuAlarmsAlarm(index);
+        return fills();
+    };
+    forget();
+    modes.mnuAlarmsNone();
+    EXPECT_EQ(fills(), none);
+    EXPECT_EQ(toggle(8), none) << "of the seeders";
+    EXPECT_EQ(toggle(40), alarm) << "of the sprayers";
+    EXPECT_EQ(toggle(40), none);
+    EXPECT_EQ(toggle(64), Lines{}) << "beyond the menu";
+    forget();
+    modes.mnuAlarmsAll();
+    EXPECT_EQ(fills(), alarm);
+    const std::vector<AlarmEntry> entries = modes.alarmEntries();
+    EXPECT_EQ(entries.at(32), (AlarmEntry{"Ondel - Presión Máxima", true, true}));
+    EXPECT_EQ(entries.at(0), (AlarmEntry{"Falla de siembra", true, true}));
+}
+
+TEST(MapModes, TheThreeMapsExcludeEachOther) {
+    const std::pair<Handler, ColorMode> maps[] = {
+        {&MapModes::mnuAlarmsPaint, ColorMode::Alarm},
+        {&MapModes::mnuColorDateMap, ColorMode::Date},
+        {&MapModes::mnuColorErrorMap, ColorMode::Error},
+    };
+    for (const auto& [first, firstMode] : maps) {
+        for (const auto& [second, secondMode] : maps) {
+            ModesDesk desk;
+            desk.open("lote.rpt");
+            (desk.modes.*first)();
+            EXPECT_TRUE(desk.modes.isOn(firstMode));
+            const bool isAlarm = firstMode == ColorMode::Alarm;
+            EXPECT_EQ(desk.window.legend.classes.empty(), isAlarm) << "no dose has a colour there";
+            desk.session.defaultScale().setClassNumber(3);
+            desk.forget();
+            (desk.modes.*second)();
+            if (isAlarm && second == first) {
+                EXPECT_EQ(desk.session.defaultScale().count(), 3) << "as the user left them";
+            }
+            EXPECT_EQ(desk.mode(), first == second ? ColorMode::Dose : secondMode);
+            EXPECT_EQ(desk.redraws(), 1U);
+            EXPECT_EQ(desk.window.commandChanges, 1);
+        }
+    }
+}
+
+TEST_F(MapModesTest, TheDateMapNeedsADate) {
+    ASSERT_TRUE(session.loadFile(track("log0001.nbr", 5), false, true));
+    EXPECT_FALSE(modes.canShowDates());
+    modes.mnuColorDateMap();
+    EXPECT_EQ(mode(), ColorMode::Dose);
+    open("lote.rpt");
+    EXPECT_TRUE(modes.canShowDates());
+    modes.mnuColorDateMap();
+    EXPECT_TRUE(session.defaultScale().isDate);
+    EXPECT_EQ(window.legend.classes.front().text, "05/03/2018");
+    modes.mnuColorDateMap();
+    EXPECT_FALSE(session.defaultScale().isDate);
+}
+
+TEST_F(MapModesTest, TheErrorMapTellsColoursAndHectares) {
+    open("lote.rpt", 2);
+    modes.mnuColorErrorMap();
+    EXPECT_EQ(fills(), Lines{"0xFF00FF"}) << "15 % in total";
+    EXPECT_EQ(window.summary.back(), (SummaryRow{"Hectareas Error", "0.04 Has"}));
+    dialogs.inputAnswers = {"16"};
+    modes.mnuColorErrorMapMin();
+    EXPECT_EQ(window.summary.back().value, "0 Has");
+    modes.mnuColorScaleSelCH(1);
+    EXPECT_EQ(window.summary.back().value, "0.04 Has") << "20 % in the second channel";
+    EXPECT_EQ(window.legend.classes.size(), 1U) << "one specified dose";
+    modes.mnuColorScaleSelTotal();
+    EXPECT_EQ(window.summary.back().value, "0 Has");
+    EXPECT_EQ(session.defaultScale().valueMax(), 230) << "the doses of the total again";
+    modes.mnuColorDateMap();
+    EXPECT_EQ(window.summary.back(), (SummaryRow{"Hectareas Error", " "}));
+}
+
+TEST(MapModes, TheAllowedErrorIsTakenAsTyped) {
+    const std::tuple<const char*, std::optional<float>, const char*> rows[] = {
+        {"12,5", 12.5F, "Errores > 12,5%"},
+        {"20%", 20.0F, "Errores > 20%"},
+        {"mucho", std::nullopt, nullptr},
+    };
+    for (const auto& [answer, limit, legend] : rows) {
+        SCOPED_TRACE(answer);
+        ModesDesk desk;
+        desk.locale = FixedLocale(',');
+        desk.open("lote.rpt");
+        desk.session.style().errorLimit = 2.5F;
+        desk.dialogs.inputAnswers = {answer};
+        desk.modes.mnuColorErrorMapMin();
+        EXPECT_EQ(desk.session.style().errorLimit, limit.value_or(2.5F));
+        EXPECT_EQ(desk.modes.isOn(ColorMode::Error), limit.has_value());
+        if (limit) {
+            EXPECT_EQ(desk.window.legend.reference.back().text, legend);
+        } else {
+            EXPECT_THAT(desk.dialogs.messages, ElementsAre(HasSubstr(answer)));
+        }
+    }
+}
+
+TEST_F(MapModesTest, GraduatedWorkTakesTheColoursOfTheScale) {
+    open("lote.rpt");
+    ASSERT_TRUE(modes.isGraduated());
+    modes.mnuEditGraduated();
+    EXPECT_EQ(fills(), Lines{"0xFF8080"});
+    EXPECT_TRUE(window.legend.classes.empty());
+    forget();
+    modes.mnuEditGraduated();
+    EXPECT_EQ(fills(), Lines{"0x00FFFF"});
+    EXPECT_FALSE(window.legend.classes.empty());
+
+    ASSERT_TRUE(session.loadFile(track("log0001.nbr", 5), false, true));
+    modes.mnuEditGraduatedByLtsMin();
+    EXPECT_TRUE(modes.isGraduatedBy(GraduatedBy::Minute));
+    EXPECT_EQ(window.legend.unit, "lts/min");
+    modes.mnuEditGraduatedByLtsHect();
+    EXPECT_TRUE(modes.isGraduatedBy(GraduatedBy::Hectare));
+    EXPECT_EQ(window.legend.unit, "lt/hect");
+}
+
+TEST_F(MapModesTest, AFileWithoutTheChannelIsNamedAndKeepsItsOwn) {
+    auto two = std::make_unique<ChannelsFile>("dos.pre", 2);
+    auto three = std::make_unique<ChannelsFile>("tres.pre", 3);
+    const ChannelsFile& fewer = *two;
+    const ChannelsFile& several = *three;
+    session.addFile(std::move(two), true, false);
+    session.addFile(std::move(three), true, false);
+    open("lote.rpt", 3);
+    modes.mnuColorScaleSelCH(2);
+    EXPECT_THAT(dialogs.messages,
+                ElementsAre("Exclamation|Campora|Advertencia: dos.pre no tiene un Canal 3"));
+    EXPECT_EQ(fewer.current, 0);
+    EXPECT_EQ(several.current, 2);
+    EXPECT_EQ(session.style().selectedChannel, 2);
+    EXPECT_EQ(window.legend.classes.front().text, "10") << "the doses of that channel";
+    EXPECT_EQ(redraws(), 1U);
+    modes.mnuColorScaleSelTotal();
+    EXPECT_EQ(several.current, -1);
+}
+
+TEST(MapModes, DrawingOptionsAreSeenAndSomeAreKept) {
+    using Stored = decltype(MemorySettings::values);
+    const std::tuple<Handler, bool (MapModes::*)() const, std::string> rows[] = {
+        {&MapModes::mnuEditDrawAll, &MapModes::isOnlyWorked, ""},  // not kept
+        {&MapModes::mnuEditDoted, &MapModes::isDotted, "DrawDotted"},
+        {&MapModes::mnuEditDrawBorder, &MapModes::isBordered, "DrawBorders"},
+    };
+    for (const auto& [handler, isOn, key] : rows) {
+        SCOPED_TRACE(key);
+        ModesDesk desk;
+        const bool before = (desk.modes.*isOn)();
+        for (const bool expected : {!before, before}) {
+            desk.forget();
+            (desk.modes.*handler)();
+            EXPECT_EQ((desk.modes.*isOn)(), expected);
+            EXPECT_EQ(desk.redraws(), 1U);
+            const Stored kept = {{key, expected ? "True" : "False"}};
+            EXPECT_EQ(desk.settings.values, key.empty() ? Stored() : kept);
+        }
+    }
+}
+
+TEST_F(MapModesTest, TheMachineReadLastNamesItsWork) {
+    const auto caption = [this] { return std::string(session.texts()(modes.drawAllCaption())); };
+    EXPECT_EQ(caption(), "Ver solo fumigado");
+    open("siembra.rpt", 1, kSeeder);
+    EXPECT_EQ(caption(), "Ver solo sembrado");
+    modes.mnuEditGraduated();
+    EXPECT_EQ(window.legend.reference.front().text, "Sembrado");
+    session.loadFile(track("log0001.nbr", 5), false, true);
+    EXPECT_EQ(caption(), "Ver solo sembrado") << "a track file is no report";
+    open("lote.rpt");
+    EXPECT_EQ(caption(), "Ver solo fumigado");
+}
+
+TEST_F(MapModesTest, LitresAndUnitsOfSeedHaveAScaleEach) {
+    session.loadFile(report("siembra.rpt", 30000, kSeeder), false, true);
+    session.loadFile(report("lote.rpt", 1000), false, true);
+    const auto shown = [this](int row) {
+        session.selectFile(row);
+        return window.legend.classes.front().text + " " + window.legend.unit;
+    };
+    EXPECT_EQ(shown(0), "3000 - 3000.4 unid/hect");
+    EXPECT_EQ(shown(1), "100 - 100.4 lt/hect");
+    session.legend().addClass();
+    EXPECT_EQ(session.defaultScale().count(), 6);
+    forget();
+    session.redraw();
+    const Lines colours = fills();
+    EXPECT_EQ(colours.front(), "0x00FFFF") << "the least of the litres";
+    EXPECT_EQ(colours.back(), "0x00FF00") << "the middle of the seeds";
+    session.removeCurrentFile();
+    EXPECT_EQ(window.legend.unit, "unid/hect");
+}
+
+TEST(MapModes, ASwathWidthIsGivenToAllWork) {
+    struct Row {
+        const char* answer;
+        float metres;  ///< 20 as before
+        const char* says = nullptr;
+    };
+    const Row rows[] = {
+        {"250", 200}, {"18,5", 18.5F},    {"18.5", 18.5F},
+        {"", 20},     {"0", 20, "mayor"}, {"ancho", 20, "ancho"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.answer);
+        ModesDesk desk;
+        desk.open("uno.rpt");
+        desk.open("dos.rpt");
+        desk.modes.mnuColorErrorMap();
+        desk.forget();
+        desk.dialogs.inputAnswers = {row.answer};
+        desk.modes.mnuEditTrocha();
+        EXPECT_EQ(desk.dialogs.inputs, Lines{"192|Campora|"});
+        for (const Gph* layer : desk.session.getGphList()) {
+            EXPECT_EQ(dynamic_cast<const GphTrack&>(*layer).pointInfo(1).trocha(), row.metres);
+        }
+        EXPECT_EQ(desk.redraws(), row.metres == 20 ? 0U : 1U);
+        EXPECT_EQ(desk.window.summary.back().value, row.metres == 200     ? "0.4 Has"
+                                                    : row.metres == 18.5F ? "0.037 Has"
+                                                                          : "0.04 Has");
+        EXPECT_EQ(desk.dialogs.messages.size(), row.says == nullptr ? 0U : 1U);
+        if (row.says != nullptr) {
+            EXPECT_THAT(desk.dialogs.messages.at(0), HasSubstr(row.says));
+        }
+    }
+}
+
+TEST(MapModes, AChosenColourIsKeptAndSeen) {
+    const std::tuple<Handler, const char*, Color MapColors::*> rows[] = {
+        {&MapModes::mnuEditColorFum, "mapDrawcolor", &MapColors::draw},
+        {&MapModes::mnuEditColorNofum, "mapNoDrawcolor", &MapColors::noDraw},
+        {&MapModes::mnuEditColorBack, "mapBackcolor", &MapColors::back},
+        {&MapModes::mnuEditColorText, "mapForecolor", &MapColors::fore},
+        {&MapModes::mnuEditColorAlarms, "mapAlarmColor", &MapColors::alarm},
+        {&MapModes::mnuEditColorNoAlarms, "mapNoAlarmColor", &MapColors::noAlarm},
+        {&MapModes::mnuEditColorShapes, "mapShapeColor", &MapColors::shape},
+        {&MapModes::mnuEditColorLotes, "mapLoteColor", &MapColors::lote},
+    };
+    for (const auto& [handler, key, color] : rows) {
+        SCOPED_TRACE(key);
+        ModesDesk desk;
+        desk.dialogs.colorAnswers = {std::nullopt, Color{0x0000AB}};
+        (desk.modes.*handler)();
+        EXPECT_TRUE(desk.settings.values.empty()) << "cancelled";
+        (desk.modes.*handler)();
+        MapColors expected;
+        EXPECT_THAT(desk.dialogs.colors, Each(expected.*color));
+        expected.*color = {0x0000AB};
+        EXPECT_EQ(desk.session.style().colors, expected);
+        EXPECT_EQ(desk.settings.values, (decltype(desk.settings.values){{key, "171"}}));
+        EXPECT_EQ(desk.redraws(), 1U);
+
+        desk.modes.mnuEditColorDefect();
+        MapStyle stored;
+        readStyleSettings(desk.settings, stored);
+        EXPECT_EQ(stored.colors, MapColors{});
+        EXPECT_EQ(desk.session.style().colors, MapColors{});
+    }
+}
+
+}  // namespace
+}  // namespace campora

@@ -1,0 +1,205 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/lots/lot_commands.h"
+
+#include <gtest/gtest.h>
+
+#include "support/lot_files.h"
+#include "support/session_desk.h"
+
+namespace campora {
+namespace {
+
+using Names = std::vector<std::string>;
+
+struct LotCommandsTest : testing::Test, SessionDesk {
+    LotCommandsTest() {
+        session.start();
+        settings.values["LotesPath"] = folder.path();
+    }
+    void openLot(const std::string& name, const std::vector<LonLat>& vertices) {
+        ASSERT_TRUE(session.loadFile(writeLot(folder, name, vertices, name), false, true));
+    }
+
+    LotCommands& commands = session.lots();
+};
+
+TEST_F(LotCommandsTest, AreThereForWhatIsOpen) {
+    commands.mnuLoteEdit();
+    commands.mnuLoteSave();
+    commands.mnuLoteMerge();
+    EXPECT_FALSE(session.lotEditor().isOpen());
+    ASSERT_TRUE(session.loadFile(report("a.rpt"), false, true));
+    EXPECT_FALSE(commands.canEdit() || commands.canSave() || commands.canMerge());
+    openLot("a.lot", squareRing(-60, -34, 1));
+    session.selectFile(1);
+    EXPECT_TRUE(commands.canEdit() && commands.canSave());
+    EXPECT_FALSE(commands.canMerge());
+    openLot("b.lot", squareRing(-59, -34, 1));
+    EXPECT_TRUE(commands.canMerge());
+    commands.mnuLoteEdit();
+    EXPECT_EQ(session.lotEditor().path(), folder.file("a.lot"));
+    commands.mnuLote();
+    EXPECT_FALSE(session.lotEditor().isOpen());
+}
+
+TEST_F(LotCommandsTest, MergedLotsAreShownAndSaved) {
+    openLot("a.lot", squareRing(-60, -34, 1));
+    openLot("b.lot", squareRing(-59.5, -34, 1));
+    commands.mnuLoteMerge();
+    EXPECT_EQ(listed(), (Names{"Fusionado", "a.lot", "b.lot"}));
+    EXPECT_EQ(window.selected, 0);
+    EXPECT_EQ(window.title, "Campora - [Untitled]");
+    commands.mnuLoteMerge();
+    EXPECT_EQ(listed(), (Names{"Fusionado", "a.lot", "b.lot"}));
+    EXPECT_TRUE(dialogs.messages.empty());
+
+    dialogs.saveAnswers.push_back({folder.file("los dos"), 0});
+    commands.mnuLoteSave();
+    EXPECT_EQ(dialogs.saves[0].name, "Fusionado.lot");
+    EXPECT_EQ(listed(), (Names{"los dos.lot", "a.lot", "b.lot"}));
+    const LotFile merged = decodeLot(contentOf(folder.file("los dos.lot")));
+    EXPECT_EQ(merged.vertices.size(), 4U);
+    EXPECT_EQ(merged.description, "a.lot\r\nb.lot\r\n");
+}
+
+TEST_F(LotCommandsTest, LotsApartAreSavedEachInAFile) {
+    openLot("a.lot", squareRing(-60, -34, 1));
+    openLot("b.lot", squareRing(-50, -34, 2));
+    commands.mnuLoteMerge();
+    EXPECT_EQ(dialogs.messages, Names{"Exclamation|Lote Virtual|Quedan 2 contornos separados"});
+    EXPECT_FALSE(commands.canEdit());
+    folder.write("x-2.lot", "");
+    dialogs.saveAnswers = {{folder.file("x.lot"), 0}, {folder.file("x.lot"), 0}};
+    dialogs.yesNoAnswers = {false};
+    commands.mnuLoteSave();
+    EXPECT_EQ(contentOf(folder.file("x-1.lot")), "");
+    dialogs.yesNoAnswers = {true};
+    commands.mnuLoteSave();
+    EXPECT_EQ(listed(), (Names{"x-1.lot", "a.lot", "b.lot", "x-2.lot"}));
+    EXPECT_EQ(decodeLot(contentOf(folder.file("x-1.lot"))).vertices.size(), 4U);
+}
+
+TEST_F(LotCommandsTest, AnEditedResultOfMergingIsNoLongerUntitledOnceItIsSaved) {
+    openLot("a.lot", squareRing(-60, -34, 1));
+    openLot("b.lot", squareRing(-59.5, -34, 1));
+    commands.mnuLoteMerge();
+    commands.mnuLoteEdit();
+    dialogs.inputAnswers.push_back("5");
+    dialogs.saveAnswers.push_back({folder.file("lote05.lot"), 0});
+    session.lotEditor().save();
+    EXPECT_EQ(listed(), (Names{"lote05.lot", "a.lot", "b.lot"}));
+}
+
+TEST_F(LotCommandsTest, AnOpenFileIsWrittenOverByNoneButItself) {
+    openLot("a.lot", squareRing(-60, -34, 1));
+    openLot("b.lot", squareRing(-59, -34, 1));
+    const std::string before = contentOf(folder.file("a.lot"));
+    const auto saveTo = [this](const char* name) {
+        dialogs.messages.clear();
+        dialogs.saveAnswers.push_back({folder.file(name), 0});
+        commands.mnuLoteSave();
+        return dialogs.messages.empty() ? std::string() : dialogs.messages[0];
+    };
+    EXPECT_NE(saveTo("b.lot").find("se perdería " + folder.file("b.lot")), std::string::npos);
+    EXPECT_EQ(saveTo("a.lot"), "") << "its own";
+    commands.mnuLoteMerge();
+    EXPECT_NE(saveTo("a.lot").find("se perdería "), std::string::npos);
+    session.removeFile(&session.files().file(1));
+    EXPECT_NE(saveTo("a.lot").find("se perdería "), std::string::npos) << "it was merged from it";
+    EXPECT_EQ(contentOf(folder.file("a.lot")), before);
+    EXPECT_EQ(saveTo("c.lot"), "");
+    EXPECT_EQ(listed(), (Names{"c.lot", "b.lot"}));
+}
+
+TEST_F(LotCommandsTest, AResultAloneIsMergedAgain) {
+    openLot("a.lot", squareRing(-60, -34, 1));
+    openLot("b.lot", squareRing(-50, -34, 2));
+    commands.mnuLoteMerge();
+    session.removeFile(&session.files().file(1));
+    EXPECT_FALSE(commands.canMerge()) << "one is on disk, and what was taken off stays off";
+    session.removeFile(&session.files().file(1));
+    ASSERT_TRUE(commands.canMerge());
+    commands.mnuLoteMerge();
+    EXPECT_EQ(listed(), Names{"Fusionado"});
+    EXPECT_EQ(lotsOf(session.files().file(0)).size(), 2U);
+}
+
+TEST_F(LotCommandsTest, ALotTakenOffTheMapDoesNotComeBackByMerging) {
+    openLot("a.lot", squareRing(-60, -34, 1));
+    openLot("b.lot", squareRing(-59.5, -34, 1));
+    openLot("c.lot", squareRing(-59, -34, 1));
+    commands.mnuLoteMerge();
+    session.removeFile(&session.files().file(1));
+    commands.mnuLoteMerge();
+    EXPECT_EQ(listed(), (Names{"Fusionado", "b.lot", "c.lot"}));
+    EXPECT_EQ(session.files().file(0).File_bound().minX, -59.5);
+    session.removeFile(&session.files().file(1));
+    EXPECT_FALSE(commands.canMerge());
+}
+
+TEST_F(LotCommandsTest, AResultOfMergingThatIsNotSavedGoesOnlyWhenTheUserAgrees) {
+    openLot("a.lot", squareRing(-60, -34, 1));
+    openLot("b.lot", squareRing(-59.5, -34, 1));
+    EXPECT_TRUE(session.mayCloseFiles());
+    commands.mnuLoteMerge();
+    struct Row {
+        const char* name;
+        void (*run)(LotCommandsTest& test);
+        Names after;
+    };
+    const Row rows[] = {
+        {"closing", [](LotCommandsTest& t) { EXPECT_FALSE(t.session.mayCloseFiles()); }, {}},
+        {"removing", [](LotCommandsTest& t) { t.session.removeCurrentFile(); }, {"a.lot", "b.lot"}},
+        {"a recent file",
+         [](LotCommandsTest& t) { t.session.fileCommands().openRecent(t.folder.file("a.lot")); },
+         {"a.lot"}},
+        {"the open dialog",
+         [](LotCommandsTest& t) {
+             t.dialogs.openAnswers.push_back({t.folder.file("b.lot")});
+             t.session.fileCommands().fileOpen();
+         },
+         {"b.lot"}},
+    };
+    const Names merged{"Fusionado", "a.lot", "b.lot"};
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        dialogs.questions.clear();
+        dialogs.yesNoAnswers = {false};
+        row.run(*this);
+        EXPECT_EQ(dialogs.questions, Names{"Exclamation|Lote Virtual|Fusionado no se guardó. "
+                                           "¿Perderlo de todos modos?"});
+        EXPECT_EQ(listed(), merged);
+        if (row.after.empty()) {
+            continue;
+        }
+        dialogs.yesNoAnswers = {true};
+        row.run(*this);
+        EXPECT_EQ(listed(), row.after);
+        dialogs.yesNoAnswers = {};
+        for (const char* name : {"a.lot", "b.lot"}) {
+            session.loadFile(folder.file(name), false, true);
+        }
+        if (listed().front() == "b.lot") {
+            break;
+        }
+        commands.mnuLoteMerge();
+    }
+    dialogs.questions.clear();
+    session.removeCurrentFile();  // this one is on disk
+    EXPECT_TRUE(dialogs.questions.empty());
+}
+
+TEST_F(LotCommandsTest, TheProposedNumberIsTheLotsOwnOrTheNextFree) {
+    EXPECT_EQ(proposedLotNumber(session, R"(C:\Lotes\LOTE07.lot)"), "7");
+    EXPECT_EQ(proposedLotNumber(session, "lote7.lot"), "1");
+    folder.write("lote01.lot", "");
+    folder.write("lote02.lot", "");
+    EXPECT_EQ(proposedLotNumber(session, ""), "3");
+    EXPECT_EQ(lotFileName(0), "lote00.lot");
+    EXPECT_EQ(lotFileName(42), "lote42.lot");
+}
+
+}  // namespace
+}  // namespace campora

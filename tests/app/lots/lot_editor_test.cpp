@@ -1,0 +1,369 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/lots/lot_editor.h"
+
+#include <filesystem>
+
+#include <gtest/gtest.h>
+
+#include "support/lot_files.h"
+#include "support/session_desk.h"
+
+namespace campora {
+namespace {
+
+using Button = MapTools::Button;
+using Names = std::vector<std::string>;
+
+/// A lot as large as the map is open; the canvas is 1000 by 500 units.
+struct LotEditorTest : testing::Test, SessionDesk {
+    static constexpr double kSide = 0.5;
+
+    LotEditorTest() {
+        session.start();
+        session.loadFile(writeLot(folder, "campo.lot", squareRing(-60, -34, kSide), "Campo 1"),
+                         false, true);
+        session.selectFile(std::nullopt);
+    }
+    void click(CanvasPoint at) { drag(at, at); }
+    void drag(CanvasPoint from, CanvasPoint to, Button button = Button::Left) {
+        session.tools().press(button, from);
+        session.tools().move(to);
+        session.tools().release(button, to);
+    }
+    [[nodiscard]] CanvasPoint onCanvas(LonLat position) const {
+        return const_cast<Session&>(session).view().transform().mapToScreen(position.x, position.y);
+    }
+    /// Vertices as they lie on the canvas.
+    [[nodiscard]] std::vector<CanvasPoint> drawn() const {
+        return window.overlay.lot ? window.overlay.lot->vertices : std::vector<CanvasPoint>();
+    }
+    void drawTriangle() {
+        for (const CanvasPoint at : {CanvasPoint{100, 450}, {900, 450}, {500, 50}}) {
+            click(at);
+        }
+    }
+
+    LotEditor& editor = session.lotEditor();
+};
+
+TEST_F(LotEditorTest, AClickAppendsAVertexAndADragMovesTheMap) {
+    editor.open();
+    EXPECT_EQ(canvas.pointer(), PointerShape::Crosshair);
+    drawTriangle();
+    EXPECT_EQ(drawn(), (std::vector<CanvasPoint>{{100, 450}, {900, 450}, {500, 50}}));
+    EXPECT_EQ(window.overlay.vertex, (CanvasPoint{500, 50}));
+    session.view().zoomIn();
+    const auto before = drawn();
+    drag({500, 200}, {450, 200});
+    EXPECT_EQ(editor.draft().vertices().size(), 3U);
+    EXPECT_EQ(drawn().front().x, before.front().x - 50);
+    drag({500, 200}, {500, 300});  // straight down: no click either
+    EXPECT_EQ(editor.draft().vertices().size(), 3U);
+    session.tools().setTool(MapTools::Tool::Ruler);
+    click({400, 400});
+    EXPECT_EQ(editor.draft().vertices().size(), 3U);
+}
+
+TEST_F(LotEditorTest, AVertexIsDraggedWithAnyButtonButTheRightOne) {
+    editor.open();
+    drawTriangle();
+    const LonLat first = editor.draft().vertices()[0];
+    session.tools().setTool(MapTools::Tool::Info);
+    drag({105, 445}, {205, 345}, Button::Middle);
+    EXPECT_EQ(drawn()[0], (CanvasPoint{200, 350}));
+    EXPECT_EQ(session.tools().tool(), MapTools::Tool::Info);
+    editor.undo();
+    EXPECT_EQ(editor.draft().vertices()[0], first);
+    // The next release ends the move, whatever its button, and does nothing else.
+    session.tools().press(Button::Left, {100, 450});
+    session.tools().move({300, 300});
+    session.tools().release(Button::Right, {300, 300});
+    EXPECT_EQ(session.tools().tool(), MapTools::Tool::Info);
+    EXPECT_EQ(drawn()[0], (CanvasPoint{300, 300}));
+    session.tools().release(Button::Left, {310, 310});
+    EXPECT_EQ(drawn()[0], (CanvasPoint{300, 300}));
+    drag({300, 300}, {400, 400}, Button::Right);
+    EXPECT_EQ(drawn()[0], (CanvasPoint{300, 300}));
+}
+
+TEST_F(LotEditorTest, AClickOnAVertexSelectsItAndEscapeGivesAMoveUp) {
+    editor.open();
+    drawTriangle();
+    const std::vector<LonLat> before = editor.draft().vertices();
+    click({104, 446});
+    EXPECT_EQ(editor.draft().selected(), std::size_t{0});
+    EXPECT_EQ(window.overlay.vertex, (CanvasPoint{100, 450}));
+    session.tools().press(Button::Left, {100, 450});
+    session.tools().move({300, 300});
+    session.tools().escape();
+    session.tools().release(Button::Left, {300, 300});
+    EXPECT_EQ(editor.draft().vertices(), before);
+}
+
+TEST_F(LotEditorTest, ANewVertexIsPulledOutOfTheMiddleOfASide) {
+    editor.open();
+    click({100, 450});
+    click({900, 450});
+    EXPECT_EQ(window.overlay.lot->handles, std::vector<CanvasPoint>({{500, 450}}));
+    drag({500, 450}, {520, 100});
+    EXPECT_EQ(drawn(), (std::vector<CanvasPoint>{{100, 450}, {520, 100}, {900, 450}}));
+    editor.undo();
+    EXPECT_EQ(drawn().size(), 2U);
+    click({500, 455});
+    EXPECT_EQ(drawn()[1], (CanvasPoint{500, 450}));
+    EXPECT_TRUE(window.overlay.lot->handles.empty() ||
+                window.overlay.lot->handles.front().x == 500);
+}
+
+TEST_F(LotEditorTest, TellsFiguresAndWhetherTheOutlineCrossesItself) {
+    locale = FixedLocale(',');
+    int changes = 0;
+    editor.onChanged = [&] { ++changes; };
+    editor.open();
+    EXPECT_EQ(editor.figures(), "Superficie: 0,00 ha\nPerímetro: 0 m");
+    for (const LonLat corner : squareRing(-62, -34, 0.01)) {
+        editor.add(corner);
+    }
+    EXPECT_EQ(editor.figures(), "Superficie: 102,74 ha\nPerímetro: 4072 m");
+    EXPECT_FALSE(editor.crossesItself());
+    editor.select(0);
+    editor.moveSelected({-61.98, -33.995});
+    EXPECT_TRUE(editor.crossesItself());
+    EXPECT_EQ(changes, 7);
+    editor.onChanged = nullptr;
+}
+
+TEST_F(LotEditorTest, TheInsideIsOpenUntilItIsToBeFilled) {
+    editor.open();
+    drawTriangle();
+    EXPECT_FALSE(window.overlay.lot->filled);
+    editor.setTransparent(false);
+    EXPECT_TRUE(window.overlay.lot->filled);
+    dialogs.colorAnswers.push_back(Color{0x123456});
+    session.modes().mnuEditColorLotes();
+    EXPECT_EQ(window.overlay.lot->color, Color{0x123456});
+}
+
+TEST_F(LotEditorTest, SavesWithItsNumberAndShowsTheLot) {
+    settings.values["LotesPath"] = folder.path();
+    const std::string target = folder.file("lote07.lot");
+    editor.open();
+    drawTriangle();
+    editor.setDescription("Maíz\n7");
+    dialogs.inputAnswers.push_back(" 7 ");
+    dialogs.saveAnswers.push_back({target, 0});
+    const float scale = session.view().scaleX();
+    editor.save();
+    EXPECT_EQ(dialogs.inputs.back(),
+              std::to_string(static_cast<int>(TextId::AskLoteNumber)) + "|Lote Virtual|1");
+    ASSERT_EQ(dialogs.saves.size(), 1U);
+    EXPECT_EQ(dialogs.saves[0].caption, "Exportar a...");
+    EXPECT_EQ(dialogs.saves[0].name, "lote07.lot");
+    EXPECT_EQ(dialogs.saves[0].folder, folder.path());
+    EXPECT_EQ(dialogs.saves[0].filters[0].caption, "Lote Virtual (lot)");
+    EXPECT_EQ(settings.values["LotesPath"], folder.path() + "/");
+    EXPECT_TRUE(contentOf(target).starts_with("Ma\xEDz\r\n7_\r\n"));
+    EXPECT_EQ(listed(), (Names{"campo.lot", "lote07.lot"}));
+    EXPECT_EQ(window.selected, 1);
+    EXPECT_EQ(session.view().scaleX(), scale);
+    EXPECT_FALSE(editor.draft().isChanged());
+    EXPECT_EQ(editor.path(), target);
+
+    // What is mended goes into the same file and takes the place of what the map showed.
+    editor.removeSelected();
+    editor.add({-59.9, -33.9});
+    editor.saveBack();
+    EXPECT_EQ(listed(), (Names{"campo.lot", "lote07.lot"}));
+    EXPECT_EQ(decodeLot(contentOf(target)).vertices.back(), (LonLat{-59.9, -33.9}));
+    EXPECT_TRUE(dialogs.messages.empty());
+    editor.clear();
+    EXPECT_EQ(editor.path(), "");
+    EXPECT_TRUE(editor.close());
+    EXPECT_TRUE(dialogs.questions.empty());
+}
+
+TEST_F(LotEditorTest, WithoutANumberNothingIsSaved) {
+    struct Row {
+        const char* answer;
+        bool refused;
+    };
+    editor.open();
+    drawTriangle();
+    for (const Row& row : {Row{"", false},
+                           {"  ", false},
+                           {"-1", true},
+                           {"100", true},
+                           {"7.5", true},
+                           {"siete", true}}) {
+        SCOPED_TRACE(row.answer);
+        dialogs.messages.clear();
+        dialogs.inputAnswers.push_back(row.answer);
+        editor.save();
+        EXPECT_EQ(dialogs.messages, row.refused
+                                        ? Names{"Exclamation|Lote Virtual|Número de lote inválido"}
+                                        : Names());
+    }
+    EXPECT_TRUE(dialogs.saves.empty());
+    dialogs.inputAnswers.push_back("99");
+    dialogs.saveAnswers.push_back({});
+    editor.save();
+    EXPECT_EQ(dialogs.saves.back().name, "lote99.lot");
+    EXPECT_TRUE(editor.draft().isChanged());
+    EXPECT_FALSE(settings.values.contains("LotesPath"));
+}
+
+TEST_F(LotEditorTest, FewVerticesAndADiskThatFailsAreTold) {
+    editor.open();
+    click({100, 450});
+    click({900, 450});
+    const Names tooFew{"Exclamation|Lote Virtual|Un lote necesita al menos tres vértices"};
+    editor.save();
+    EXPECT_EQ(dialogs.messages, tooFew);
+    editor.viewInEarth();
+    EXPECT_EQ(dialogs.messages.size(), 2U);
+    click({500, 50});
+    dialogs.inputAnswers.push_back("1");
+    dialogs.saveAnswers.push_back({folder.file("falta/lote01.lot"), 0});
+    editor.save();
+    EXPECT_EQ(dialogs.messages.size(), 3U);
+    EXPECT_TRUE(editor.draft().isChanged());
+    EXPECT_EQ(listed(), Names{"campo.lot"});
+}
+
+TEST_F(LotEditorTest, OffersTheSelectedLot) {
+    session.selectFile(0);
+    dialogs.yesNoAnswers = {true};
+    editor.open();
+    EXPECT_EQ(dialogs.questions.size(), 1U);
+    EXPECT_EQ(editor.draft().vertices(), squareRing(-60, -34, kSide));
+    EXPECT_EQ(editor.draft().description(), "Campo 1\r\n");
+    EXPECT_EQ(editor.path(), folder.file("campo.lot"));
+    EXPECT_FALSE(editor.draft().canUndo());
+    EXPECT_TRUE(editor.close());
+    EXPECT_EQ(window.overlay.lot, std::nullopt);
+    EXPECT_EQ(window.overlay.vertex, std::nullopt);
+    dialogs.yesNoAnswers = {false};
+    editor.open();
+    EXPECT_TRUE(editor.draft().vertices().empty());
+    EXPECT_EQ(editor.path(), "");
+}
+
+TEST_F(LotEditorTest, AsksBeforeWhatIsNotSavedIsLost) {
+    editor.open();
+    drawTriangle();
+    dialogs.yesNoAnswers = {false};
+    EXPECT_FALSE(editor.close());
+    EXPECT_TRUE(editor.isOpen());
+    dialogs.yesNoAnswers = {false};
+    editor.edit(session.files().file(0));
+    EXPECT_EQ(drawn().size(), 3U);
+    dialogs.yesNoAnswers = {true};
+    editor.edit(session.files().file(0));
+    EXPECT_EQ(drawn().size(), 4U);
+    EXPECT_TRUE(editor.close());
+    EXPECT_EQ(dialogs.questions.size(), 3U);
+    click({500, 50});
+    EXPECT_FALSE(editor.isOpen());
+    EXPECT_EQ(window.overlay.lot, std::nullopt);
+}
+
+TEST_F(LotEditorTest, ADrawingThatWasClearedIsAskedAboutAndComesBackWithItsFile) {
+    editor.edit(session.files().file(0));
+    editor.add({-59.9, -33.9});
+    editor.clear();
+    EXPECT_EQ(editor.path(), "");
+    dialogs.yesNoAnswers = {false};
+    EXPECT_FALSE(editor.close());
+    editor.undo();
+    EXPECT_EQ(editor.path(), folder.file("campo.lot"));
+    editor.saveBack();
+    EXPECT_EQ(decodeLot(contentOf(folder.file("campo.lot"))).vertices.size(), 5U);
+    EXPECT_EQ(listed(), Names{"campo.lot"});
+    EXPECT_TRUE(editor.close());
+}
+
+TEST_F(LotEditorTest, TheMapLeavesOutWhatIsEdited) {
+    const auto lotsOnMap = [this] {
+        canvas.forget();
+        session.redraw();
+        return canvas.callsOf("polygon").size() / 2;  // inside and outline
+    };
+    ASSERT_EQ(lotsOnMap(), 1U);
+    canvas.forget();
+    editor.edit(session.files().file(0));
+    EXPECT_EQ(redraws(), 1U);
+    EXPECT_EQ(canvas.callsOf("polygon").size(), 0U);
+    editor.saveBack();
+    EXPECT_EQ(lotsOnMap(), 0U);
+    editor.clear();
+    EXPECT_EQ(lotsOnMap(), 1U);  // another one is drawn now
+    editor.undo();
+    EXPECT_EQ(lotsOnMap(), 0U);
+    canvas.forget();
+    EXPECT_TRUE(editor.close());
+    EXPECT_EQ(redraws(), 1U);
+    EXPECT_EQ(canvas.callsOf("polygon").size(), 2U);
+    // A new one joins the map, but not under its drawing.
+    settings.values["LotesPath"] = folder.path();
+    session.selectFile(std::nullopt);
+    editor.open();
+    drawTriangle();
+    dialogs.inputAnswers.push_back("1");
+    dialogs.saveAnswers.push_back({folder.file("lote01.lot"), 0});
+    editor.save();
+    EXPECT_EQ(lotsOnMap(), 1U);
+    EXPECT_TRUE(editor.close());
+    EXPECT_EQ(lotsOnMap(), 2U);
+}
+
+TEST_F(LotEditorTest, KeepsTheLotWhenTheMapChanges) {
+    editor.open();
+    drawTriangle();
+    const LonLat vertex = editor.draft().vertices()[0];
+    session.removeFile(&session.files().file(0));
+    EXPECT_EQ(window.overlay.lot, std::nullopt);
+    EXPECT_EQ(editor.draft().vertices().size(), 3U);
+    session.loadFile(writeLot(folder, "otro.lot", squareRing(-61, -35, 2)), false, true);
+    ASSERT_EQ(drawn().size(), 3U);
+    EXPECT_EQ(drawn()[0], onCanvas(vertex));
+}
+
+TEST_F(LotEditorTest, APositionThatIsLookedForIsMarkedBesideTheLot) {
+    editor.open();
+    drawTriangle();
+    session.view().zoomIn();
+    EXPECT_TRUE(session.tools().goTo({-59.75, -33.75}));
+    EXPECT_EQ(window.overlay.vertex, onCanvas({-59.75, -33.75}));
+    editor.select(0);
+    session.tools().setTool(MapTools::Tool::None);
+    EXPECT_EQ(drawn().size(), 3U);
+}
+
+TEST_F(LotEditorTest, HandsADocumentToTheProgramThatShowsIt) {
+    for (const char* name :
+         {"kmlhead.inc", "kmlheadb.inc", "kmlPolyhead.inc", "kmlPolyend.inc", "kmlend.inc"}) {
+        folder.write(name, std::string(name) + "\r\n");
+    }
+    editor.open();
+    editor.add({-58, -34});
+    editor.add({-57, -34});
+    editor.add({-57, -33.5});
+    editor.viewInEarth();
+    ASSERT_EQ(shell.opened.size(), 1U);
+    EXPECT_EQ(fileNamePart(shell.opened[0]), "Lote Virtual.kml");
+    const std::string document = contentOf(shell.opened[0]);
+    EXPECT_NE(document.find("-57.,-33.5,50\r\n"), std::string::npos) << document;
+    EXPECT_TRUE(dialogs.messages.empty());
+    shell.succeeds = false;
+    editor.viewInEarth();
+    EXPECT_EQ(dialogs.messages.size(), 1U);
+    std::filesystem::remove(nativePath(folder.file("kmlend.inc")));
+    editor.viewInEarth();
+    EXPECT_EQ(dialogs.messages.size(), 2U);
+    EXPECT_EQ(shell.opened.size(), 2U);
+}
+
+}  // namespace
+}  // namespace campora

@@ -1,0 +1,295 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/map/replay.h"
+
+#include <memory>
+
+#include <gtest/gtest.h>
+
+#include "support/named_file.h"
+#include "support/recording_canvas.h"
+#include "support/scripted_platform.h"
+#include "support/scripted_window.h"
+#include "support/work_records.h"
+#include "work/gph_track.h"
+
+namespace campora {
+namespace {
+
+using State = Replay::State;
+
+/// Writes its name when it is drawn whole, and "nameN" for element N.
+class Steps : public NamedLayer {
+public:
+    Steps(const std::string& name, std::int32_t count)
+        : NamedLayer(name), name_(name), count_(count) {}
+
+    [[nodiscard]] std::int32_t Gph_count() const override { return count_; }
+    [[nodiscard]] bool Gph_animable() const override { return count_ > 0; }
+    bool Gph_plotN(MapContext& context, std::int32_t n) const override {
+        context.canvas.text({}, name_ + std::to_string(n), TextAnchor::TopLeft, false);
+        return true;
+    }
+
+    void plotOnTop(MapContext& context) const override {
+        if (count_ == 0) {
+            context.canvas.point({}, {});
+        }
+    }
+
+private:
+    std::string name_;
+    std::int32_t count_;
+};
+
+/// A window whose slider reports what it is told as a movement by the user.
+class EchoingWindow : public ScriptedWindow {
+public:
+    Replay* replayTold = nullptr;
+    void setReplay(const ReplayState& state) override {
+        ScriptedWindow::setReplay(state);
+        if (replayTold != nullptr) {
+            replayTold->seek(state.position);
+        }
+    }
+};
+
+/// A prescription "p" between two tracks, "a" of 3 steps and "b" of 5.
+struct Desk {
+    Desk() {
+        layers.push_back(std::make_unique<Steps>("a", 3));
+        layers.push_back(std::make_unique<Steps>("p", 0));
+        layers.push_back(std::make_unique<Steps>("b", 5));
+        window.replayTold = &replay;
+        replay.setSpeed(0);
+        replay.prepareReplay();
+    }
+
+    /// What was drawn since the last call: the names in order, "|" for a cleared canvas.
+    std::string drawn() {
+        std::string names;
+        for (const std::string& call : canvas.calls()) {
+            if (call.starts_with("clear")) {
+                names += "| ";
+            } else if (call.starts_with("text")) {
+                const std::size_t name = call.find('"') + 1;
+                names += call.substr(name, call.size() - name - 1) + " ";
+            }
+        }
+        canvas.forget();
+        return names;
+    }
+    /// Does something when events have acted so many times from now.
+    void after(int events, std::function<void()> act) {
+        const int when = clock.events + events;
+        clock.onEvents = [when, act](int count) {
+            if (count == when) {
+                act();
+            }
+        };
+    }
+    [[nodiscard]] ReplayState at(std::int32_t position, bool playing = false) const {
+        return {true, playing, 8, position, replay.speed()};
+    }
+
+    RecordingCanvas canvas{{1000, 500}};
+    EchoingWindow window;
+    ScriptedClock clock;
+    MapStyle style;
+    Texts texts{Language::Spanish};
+    FixedLocale locale{','};
+    int hidden = 0;
+    std::vector<std::unique_ptr<Gph>> layers;
+    MapView view{canvas, window, style, [this](MapContext& context) {
+                     replay.stopReplay();
+                     context.canvas.text({}, "map", TextAnchor::TopLeft, false);
+                 }};
+    Replay replay{canvas,
+                  window,
+                  clock,
+                  view,
+                  style,
+                  texts,
+                  locale,
+                  [this] {
+                      std::vector<Gph*> all;
+                      for (const auto& layer : layers) {
+                          all.push_back(layer.get());
+                      }
+                      return all;
+                  },
+                  [this] { ++hidden; }};
+};
+
+struct ReplayTest : testing::Test, Desk {};
+
+TEST_F(ReplayTest, PlaysEveryElementOnceAfterWhatDoesNotMove) {
+    EXPECT_EQ(window.replay, at(0));
+    std::vector<std::int32_t> positions;
+    clock.onEvents = [&](int) {
+        EXPECT_FALSE(window.mapActive);
+        EXPECT_FALSE(window.fileMenuActive);
+        EXPECT_TRUE(window.replay.playing);
+        positions.push_back(window.replay.position);
+    };
+    replay.play();
+    const std::vector<std::string> calls = canvas.calls();
+    EXPECT_TRUE(calls.at(calls.size() - 2).starts_with("point")) << "what lies on top of all";
+    EXPECT_GT(canvas.callsOf("point").size(), 5U) << "and after each element";
+    EXPECT_EQ(drawn(), "| p a0 a1 a2 b0 b1 b2 b3 b4 ");
+    EXPECT_EQ(positions, (std::vector<std::int32_t>{0, 1, 2, 2, 4, 5, 6, 7}));
+    EXPECT_EQ(window.replay, at(0));
+    EXPECT_EQ(replay.state(), State::Idle);
+    EXPECT_TRUE(window.mapActive);
+    EXPECT_TRUE(window.fileMenuActive);
+    EXPECT_EQ(hidden, 1);
+
+    layers.erase(layers.begin());
+    layers.pop_back();
+    replay.prepareReplay();
+    EXPECT_EQ(window.replay, ReplayState{}) << "nothing to replay";
+    replay.play();
+    EXPECT_EQ(drawn(), "");
+}
+
+TEST(Replay, SeeksAndPausesAndPlaysOn) {
+    struct Row {
+        const char* name;
+        std::int32_t target;
+        const char* drawn;
+        State state;
+        std::int32_t position;
+        const char* playedOn;
+    };
+    const Row rows[] = {
+        {"within the first", 1, "| p a0 a1 a2 ", State::Paused, 2, "a2 b0 b1 b2 b3 b4 "},
+        {"within the second", 4, "| p a b0 b1 b2 ", State::Paused, 5, "b2 b3 b4 "},
+        {"the last element", 7, "| p a b0 b1 b2 b3 b4 ", State::Idle, 0,
+         "| p a0 a1 a2 b0 b1 b2 b3 b4 "},
+        {"the end", 8, "| p a b ", State::Idle, 8, "| p a0 a1 a2 b0 b1 b2 b3 b4 "},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        Desk d;
+        d.replay.setSpeed(250);
+        d.replay.seek(row.target);
+        EXPECT_EQ(d.clock.sleeps.size(), 0U);
+        EXPECT_EQ(d.drawn(), row.drawn);
+        EXPECT_EQ(d.replay.state(), row.state);
+        EXPECT_EQ(d.window.replay, d.at(row.position));
+        d.replay.play();
+        EXPECT_EQ(d.drawn(), row.playedOn);
+        EXPECT_EQ(d.replay.state(), State::Idle);
+    }
+}
+
+TEST(Replay, WhatTheUserDoesMeanwhileActsOnTheReplayThatRuns) {
+    using Act = std::function<void(Replay&)>;
+    const Act play = [](Replay& r) { r.play(); };
+    const Act stop = [](Replay& r) { r.stop(); };
+    const Act redraw = [](Replay& r) { r.stopReplay(); };
+    const auto slider = [](std::int32_t to) { return [to](Replay& r) { r.seek(to); }; };
+    struct Row {
+        const char* name;
+        std::vector<Act> acts;  ///< when "a1" is drawn
+        const char* drawn;
+        std::int32_t pausedAt;  ///< 0: it is over
+    };
+    const Row rows[] = {
+        {"pause", {play}, "| p a0 a1 ", 1},
+        {"stop", {stop}, "| p a0 a1 | map ", 0},
+        {"a redraw", {redraw}, "| p a0 a1 ", 0},
+        {"the slider", {slider(6)}, "| p a0 a1 a2 b0 b1 b2 b3 b4 ", 0},
+        {"pause and play on", {play, play}, "| p a0 a1 a2 b0 b1 b2 b3 b4 ", 0},
+        {"stop and play", {stop, play}, "| p a0 a1 | map | p a0 a1 a2 b0 b1 b2 b3 b4 ", 0},
+        {"pause and slider", {play, slider(4)}, "| p a0 a1 | p a b0 b1 b2 ", 5},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        Desk d;
+        d.after(2, [&] {
+            for (const Act& act : row.acts) {
+                act(d.replay);
+            }
+        });
+        d.replay.play();
+        EXPECT_EQ(d.drawn(), row.drawn);
+        EXPECT_EQ(d.replay.state(), row.pausedAt > 0 ? State::Paused : State::Idle);
+        EXPECT_EQ(d.window.replay, d.at(row.pausedAt));
+        EXPECT_TRUE(d.window.mapActive);
+    }
+}
+
+TEST_F(ReplayTest, ASeekGivesWayToANewerOneAndIsFinishedBeforePlaying) {
+    after(1, [&] {
+        replay.seek(1);
+        replay.seek(4);
+    });
+    replay.seek(2);
+    EXPECT_EQ(drawn(), "| p a0 | p a b0 b1 b2 ");
+    EXPECT_EQ(window.replay, at(5));
+
+    after(1, [&] { replay.play(); });
+    replay.seek(0);
+    EXPECT_EQ(drawn(), "| p a0 a1 a1 a2 b0 b1 b2 b3 b4 ");
+
+    after(1, [&] {
+        replay.play();
+        replay.stop();
+    });
+    replay.seek(5);
+    EXPECT_EQ(drawn(), "| p a b0 | map ");
+    EXPECT_EQ(window.replay, at(0));
+}
+
+TEST_F(ReplayTest, RepeatsUntilStopped) {
+    replay.repeat = true;
+    after(20, [&] { replay.stop(); });
+    replay.play();
+    EXPECT_EQ(drawn(), "| p a0 a1 a2 b0 b1 b2 b3 b4 | p a0 a1 a2 b0 b1 b2 b3 b4 "
+                       "| p a0 a1 a2 b0 | map ");
+    replay.seek(8);
+    EXPECT_EQ(drawn(), "| p a b ");
+}
+
+TEST_F(ReplayTest, WaitsBetweenElementsWhileEventsAct) {
+    clock.now = 0xFFFFFFF0U;  // begins again at 0 meanwhile
+    replay.setSpeed(12);
+    replay.play();
+    EXPECT_EQ(clock.now, 0xFFFFFFF0U + 6 * 48);  // not before the first of each track
+    EXPECT_EQ(clock.sleeps, std::vector<std::uint32_t>(6 * 8, 6));
+
+    replay.setSpeed(1000);
+    EXPECT_EQ(replay.speed(), 250);
+    clock.sleeps.clear();
+    after(3, [&] { replay.play(); });
+    replay.play();
+    EXPECT_EQ(clock.sleeps.size(), 1U) << "a pause ends the wait";
+    EXPECT_EQ(window.replay, at(1));
+}
+
+TEST_F(ReplayTest, ReadsOutTheSpeedOfTheElement) {
+    auto track = std::make_unique<GphTrack>();
+    for (int i = 0; i < 4; ++i) {
+        TrackDataRPT::Fields fields = reportFields(100);
+        fields.speed = 10.5F + static_cast<float>(i);
+        const LonLat at = atMetres(0, 10.0 * i);
+        track->addPoint(at.x, at.y, TrackDataRPT(fields));
+    }
+    layers.clear();
+    layers.push_back(std::move(track));
+    view.totalBound = layers.front()->Gph_bound();
+    view.fitView();
+    view.ZoomUno();
+    replay.prepareReplay();
+    replay.setSpeedShown(true);
+    EXPECT_EQ(window.speed, "");
+    replay.seek(0);
+    EXPECT_EQ(window.speed, "11,5 km/h");
+    replay.stop();
+    EXPECT_EQ(window.speed, "");
+}
+
+}  // namespace
+}  // namespace campora

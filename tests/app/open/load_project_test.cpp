@@ -1,0 +1,161 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/open/load_project.h"
+
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "app/open/project_file.h"
+#include "support/session_desk.h"
+
+namespace campora {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+using Names = std::vector<std::string>;
+
+constexpr const char* kHeader = "*FurrowScope Project File*\r\n";
+
+TEST(ProjectFile, TheFirstLineSaysWhetherItIsOne) {
+    const TempFolder folder;
+    const std::pair<std::string, bool> rows[] = {
+        {"Mi FurrowScope Project File, version 1", true},
+        {"*FURROWSCOPE PROJECT FILE*\nlote.rpt", true},
+        {"\xEF\xBB\xBF"
+         "furrowscope project file\r\n",
+         true},
+        {"\r\nfurrowscope project file", false},
+        {"furrowscope  project file", false},
+        {"furrowscope project\nfile", false},
+        {"", false},
+    };
+    for (const auto& [text, expected] : rows) {
+        SCOPED_TRACE(text);
+        EXPECT_EQ(decodeProject(text, "").has_value(), expected);
+        EXPECT_EQ(isProject(folder.write("lista.rpt", text)), expected);
+    }
+    EXPECT_FALSE(isProject(folder.path()));
+    EXPECT_FALSE(isProject(folder.file("falta.fsp")));
+}
+
+TEST(ProjectFile, EveryLineIsACommentOrAPath) {
+    const std::string text = std::string(kHeader) + "  #comentario\r\n"
+                                                    "\r\n"
+                                                    "\\ejemplos\\lote.shp\n"
+                                                    " /log0012.nbr\t\r\n"
+                                                    "C:\\datos\\\xD1"
+                                                    "and\xFA #2.rpt";
+    EXPECT_THAT(decodeProject(text, "C:\\Prog").value(),
+                ElementsAre("", "C:\\Prog\\\\ejemplos\\lote.shp", "C:\\Prog\\/log0012.nbr",
+                            "C:\\datos\\Ñandú #2.rpt"));
+    EXPECT_THAT(decodeProject(std::string(kHeader) + "\\a", "/opt/").value(),
+                ElementsAre("/opt/\\a"));
+}
+
+TEST(LoadProject, OpensTheFilesBesideTheOpenOnesAndShowsThemOnce) {
+    SessionDesk desk;
+    desk.session.start();
+    ASSERT_TRUE(desk.session.loadFile(desk.report("abierto.rpt"), true, true));
+    desk.report("Lote 1.rpt", 1000, 0x6002);
+    desk.report("lote 2.rpt", 1000, 0x6003);
+    const std::string project = desk.folder.write(
+        "campo.fsp", std::string(kHeader) + "\\LOTE 1.RPT\r\n/lote 2.rpt\r\n/lote 1.rpt\r\n");
+    const std::size_t before = desk.redraws();
+    EXPECT_TRUE(loadProject(desk.session, project));
+    EXPECT_EQ(desk.listed(), (Names{"abierto.rpt", "Lote 1.rpt", "lote 2.rpt"}));
+    EXPECT_EQ(desk.redraws(), before + 1);
+    EXPECT_THAT(desk.dialogs.messages, IsEmpty());
+    EXPECT_FALSE(loadProject(desk.session, desk.folder.file("lote 2.rpt")));
+    EXPECT_FALSE(loadProject(desk.session, desk.folder.file("falta.fsp")));
+}
+
+TEST(LoadProject, MissingFilesAreNamedAndOthersOpened) {
+    SessionDesk desk;
+    desk.session.start();
+    desk.report("lote.rpt");
+    desk.folder.write("carta.doc", "Estimado");
+    const std::string folder = desk.folder.path();
+    const std::string project = desk.folder.write(
+        "campo.fsp", std::string(kHeader) + "\r\n/falta.rpt\r\n/carta.doc\r\n/lote.rpt\r\n");
+    EXPECT_TRUE(loadProject(desk.session, project));
+    EXPECT_EQ(desk.listed(), Names{"lote.rpt"});
+    EXPECT_THAT(
+        desk.dialogs.messages,
+        ElementsAre("Exclamation|Campora|No se encuentra el archivo: ",
+                    "Exclamation|Campora|No se encuentra el archivo: " + folder + "\\/falta.rpt"));
+}
+
+TEST(LoadProject, OneWithoutAUsableEntryIsRefused) {
+    SessionDesk desk;
+    const std::string project =
+        desk.folder.write("campo.fsp", std::string(kHeader) + "/carta.doc\r\n# nada\r\n");
+    desk.folder.write("carta.doc", "Estimado");
+    EXPECT_TRUE(loadProject(desk.session, project));
+    EXPECT_THAT(desk.dialogs.messages, ElementsAre("Exclamation|Campora|El proyecto " + project +
+                                                   " no tiene archivos que se puedan abrir"));
+}
+
+TEST(LoadProject, ProjectsInProjectsAreReadOnce) {
+    SessionDesk desk;
+    desk.report("a.rpt", 1000, 0x6001);
+    desk.report("b.rpt", 1000, 0x6002);
+    desk.report("c.rpt", 1000, 0x6003);
+    desk.folder.write("dentro.txt", std::string(kHeader) + "/campo.fsp\r\n/b.rpt\r\n/DENTRO.TXT");
+    const std::string project = desk.folder.write(
+        "campo.fsp", std::string(kHeader) + "/campo.fsp\r\n/a.rpt\r\n/dentro.txt\r\n/c.rpt");
+    desk.session.start();
+    EXPECT_TRUE(loadProject(desk.session, project));
+    EXPECT_EQ(desk.listed(), (Names{"a.rpt", "b.rpt", "c.rpt"}));
+    EXPECT_THAT(desk.dialogs.messages, IsEmpty());
+}
+
+TEST(LoadProject, OtherComputersAreAskedAboutOnceBeforeTheyAreTouched) {
+    for (const bool yes : {false, true}) {
+        SessionDesk desk;
+        desk.report("lote.rpt");
+        const std::string project = desk.folder.write(
+            "campo.fsp", std::string(kHeader) + "\\\\Galpon\\a\\1.rpt\r\n/lote.rpt\r\n"
+                                                "\\\\galpon\\b\\2.rpt\r\n");
+        desk.session.start();
+        desk.dialogs.yesNoAnswers = {yes};
+        EXPECT_TRUE(loadProject(desk.session, project));
+        EXPECT_EQ(desk.listed(), Names{"lote.rpt"});
+        EXPECT_THAT(desk.dialogs.questions,
+                    ElementsAre("Question|Campora|" + project +
+                                " nombra archivos de otra computadora, galpon.\nSi no está "
+                                "conectada, la espera puede ser larga. ¿Buscarlos ahí?"));
+        if (yes) {
+            EXPECT_EQ(desk.dialogs.messages.size(), 2U) << "one a file that is missing";
+        } else {
+            EXPECT_THAT(
+                desk.dialogs.messages,
+                ElementsAre("Exclamation|Campora|Archivos de galpon que no se buscaron: 2"));
+        }
+    }
+}
+
+TEST(LoadProject, ACancelledSearchOpensNothingAndSaysWhatWasLeft) {
+    SessionDesk desk;
+    desk.report("lote.rpt");
+    std::string lines = "/lote.rpt\r\n";
+    for (int i = 0; i < 999; ++i) {
+        lines += "# falta\r\n/lote.rpt\r\n";
+    }
+    const std::string project = desk.folder.write("campo.fsp", std::string(kHeader) + lines);
+    desk.session.start();
+    desk.dialogs.cancelAfter = 2;
+    EXPECT_TRUE(loadProject(desk.session, project));
+    EXPECT_THAT(desk.listed(), IsEmpty());
+    EXPECT_THAT(desk.dialogs.messages,
+                ElementsAre("Exclamation|Campora|La apertura del proyecto se canceló. Archivos que "
+                            "no se buscaron: 744"));
+}
+
+}  // namespace
+}  // namespace campora

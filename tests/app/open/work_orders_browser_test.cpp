@@ -1,0 +1,159 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/open/work_orders_browser.h"
+
+#include <filesystem>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "base/paths.h"
+#include "support/session_desk.h"
+
+namespace campora {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+using Names = std::vector<std::string>;
+
+/// A card with order 15 of two works and a work without a number, and an open report.
+struct WorkOrdersBrowserTest : testing::Test, SessionDesk {
+    std::string card = folder.file("card");
+    std::vector<int> percents;
+    WorkOrdersBrowser::Step step = [this](int percent) {
+        percents.push_back(percent);
+        return true;
+    };
+
+    void SetUp() override {
+        session.start();
+        ASSERT_TRUE(session.loadFile(report("abierto.rpt"), true, true));
+        writeTrack("card/log1.nbr", "15", "6001");
+        writeTrack("card/log2.nbr", "15", "6002");
+        writeTrack("card/log3.nbr", "0", "6003");
+    }
+    void writeTrack(const std::string& name, const std::string& order, const std::string& serial,
+                    int points = 3) const {
+        TrackText track;
+        track.order = order;
+        track.serial = serial;
+        for (int i = 0; i < points; ++i) {
+            track.addPoint(100U * static_cast<std::uint32_t>(i), 0, 5, 20);
+        }
+        folder.write(name, track.bytes());
+    }
+};
+
+TEST_F(WorkOrdersBrowserTest, ListsTheOrdersOfAFolder) {
+    WorkOrdersBrowser browser(session);
+    EXPECT_TRUE(browser.showFolder(card));
+    EXPECT_THAT(browser.rows(), ElementsAre(OrderRow{"Orden 15", "15/07/16", "18:03:32", "2"},
+                                            OrderRow{"Sin número", "15/07/16", "18:03:32", "1"}));
+    browser.select(2);
+    EXPECT_EQ(browser.selected(), std::nullopt);
+    EXPECT_EQ(browser.open(step), 0);
+}
+
+TEST_F(WorkOrdersBrowserTest, AScanGivesWayToTheNextFolder) {
+    folder.write("leer/LEEME.TXT", "");
+    WorkOrdersBrowser browser(session);
+    bool changed = false;
+    clock.onEvents = [&](int) {
+        if (!std::exchange(changed, true)) {
+            EXPECT_TRUE(browser.showFolder(folder.file("leer")));
+        }
+    };
+    EXPECT_FALSE(browser.showFolder(card));
+    EXPECT_EQ(browser.folder(), folder.file("leer"));
+    EXPECT_THAT(browser.orders(), IsEmpty());
+    clock.onEvents = [&](int) { browser.cancel(); };
+    EXPECT_FALSE(browser.showFolder(card));
+    EXPECT_THAT(browser.orders(), IsEmpty());
+}
+
+TEST_F(WorkOrdersBrowserTest, OpensTheFilesOfAnOrderBesideTheOthers) {
+    WorkOrdersBrowser browser(session);
+    browser.showFolder(card);
+    browser.select(0);
+    const std::size_t before = redraws();
+    EXPECT_EQ(browser.open(step), 2);
+    EXPECT_EQ(listed(), (Names{"abierto.rpt", "15 - log1.nbr", "15 - log2.nbr"}));
+    EXPECT_THAT(percents, ElementsAre(50, 100));
+    EXPECT_EQ(redraws(), before + 1);
+    browser.select(1);
+    EXPECT_EQ(browser.open([](int) { return false; }), 1);
+    browser.cancel();
+    EXPECT_EQ(session.plotCount(), 4) << "what was opened stays";
+}
+
+TEST_F(WorkOrdersBrowserTest, APreviewComesAndGoesWithTheSelection) {
+    const Names open = {"abierto.rpt"};
+    const Names alone = {"15 - log1.nbr", "15 - log2.nbr"};
+    const Names adding = {"abierto.rpt", "15 - log1.nbr", "15 - log2.nbr"};
+    WorkOrdersBrowser browser(session);
+    EXPECT_THAT(browser.previewChoices(),
+                ElementsAre(OrderPreview::None, OrderPreview::Alone, OrderPreview::Adding));
+    browser.showFolder(card);
+    browser.select(0);
+    EXPECT_EQ(listed(), open);
+    browser.choosePreview(OrderPreview::Alone);
+    EXPECT_EQ(listed(), alone);
+    browser.choosePreview(OrderPreview::Adding);
+    EXPECT_EQ(listed(), adding);
+    browser.select(1);
+    EXPECT_EQ(listed(), (Names{"abierto.rpt", "log3.nbr"}));
+    browser.select(std::nullopt);
+    EXPECT_EQ(listed(), open);
+    browser.select(0);
+    browser.showFolder(card);
+    EXPECT_EQ(listed(), open) << "another folder has no selection";
+    browser.select(0);
+    browser.choosePreview(OrderPreview::Alone);
+    EXPECT_EQ(browser.open(step), 2);
+    EXPECT_EQ(listed(), adding);
+}
+
+TEST_F(WorkOrdersBrowserTest, CancellingPutsBackWhatAPreviewReplaced) {
+    writeTrack("menos.nbr", "15", "6001", 2);  // the work of log1.nbr, less complete
+    ASSERT_TRUE(session.loadFile(folder.file("menos.nbr"), false, true));
+    const Names before = listed();
+    const std::string title = window.title;
+    for (const OrderPreview preview : {OrderPreview::Alone, OrderPreview::Adding}) {
+        WorkOrdersBrowser browser(session);
+        browser.showFolder(card);
+        browser.choosePreview(preview);
+        browser.select(0);
+        EXPECT_NE(listed(), before);
+        browser.cancel();
+        EXPECT_EQ(listed(), before);
+        EXPECT_EQ(window.title, title);
+    }
+    EXPECT_THAT(dialogs.questions, IsEmpty()) << "a preview asks nothing";
+    session.reset();
+    EXPECT_EQ(WorkOrdersBrowser(session).previewChoices().size(), 2U);
+}
+
+TEST_F(WorkOrdersBrowserTest, CopiesToAFolderThatItRemembers) {
+    WorkOrdersBrowser browser(session);
+    browser.showFolder(card);
+    browser.select(0);
+    dialogs.folderAnswers = {"", folder.path(), ""};
+    for (int i = 0; i < 3; ++i) {
+        browser.copy();
+    }
+    ASSERT_EQ(dialogs.folders.size(), 3U);
+    EXPECT_EQ(dialogs.folders[0].folder, card);
+    EXPECT_EQ(dialogs.folders[2].folder, folder.path());
+    EXPECT_EQ(settings.values["SelectFolder"], folder.path());
+    EXPECT_THAT(dialogs.messages, ElementsAre("Information|Campora| 2 archivos copiados"));
+    EXPECT_TRUE(std::filesystem::exists(nativePath(folder.file("log2.nbr"))));
+}
+
+}  // namespace
+}  // namespace campora

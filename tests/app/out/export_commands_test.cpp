@@ -1,0 +1,275 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/out/export_commands.h"
+
+#include <filesystem>
+#include <set>
+
+#include <gtest/gtest.h>
+
+#include "base/paths.h"
+#include "support/session_desk.h"
+
+namespace campora {
+namespace {
+
+using Names = std::vector<std::string>;
+
+/// Place of a format in the save dialog.
+int filterOf(std::string_view word) {
+    return static_cast<int>(exportFormatOf(word) - exportFormats().data());
+}
+
+struct ExportCommandsTest : testing::Test, SessionDesk {
+    ExportCommandsTest() {
+        session.start();
+        for (const char* name :
+             {"kmlhead.inc", "kmlheadb.inc", "kmlPolyhead.inc", "kmlPolyend.inc", "kmlend.inc"}) {
+            folder.write("kml/" + std::string(name), "-");
+        }
+    }
+    void openReport() {
+        ASSERT_TRUE(session.loadFile(report("Lote 3.5 norte.rpt"), false, true));
+        before = filesIn();
+    }
+    /// The names of the files in the folder.
+    [[nodiscard]] std::set<std::string> filesIn() const {
+        std::set<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(folder.path())) {
+            names.insert(pathText(entry.path().filename()));
+        }
+        return names;
+    }
+    /// Those that were not there before.
+    [[nodiscard]] Names made() const {
+        Names names;
+        for (const std::string& name : filesIn()) {
+            if (!before.contains(name)) {
+                names.push_back(name);
+            }
+        }
+        return names;
+    }
+    void exportTo(std::string_view name, std::string_view word) {
+        dialogs.saveAnswers = {{name.empty() ? "" : folder.file(name), filterOf(word)}};
+        commands.mnuFileExport();
+    }
+
+    ExportCommands& commands = session.exports();
+    std::set<std::string> before;
+};
+
+TEST_F(ExportCommandsTest, TheSaveDialogOffersTheFormatsInTheirOrder) {
+    openReport();
+    settings.values["ExportPath"] = folder.file("gone");
+    exportTo("", "kml");
+    const SaveRequest& request = dialogs.saves.at(0);
+    EXPECT_EQ(request.caption, "Exportar a...");
+    EXPECT_EQ(request.folder, session.programFolder());
+    EXPECT_EQ(request.name, "Lote 3.5 norte");
+    Names shown;
+    for (const FileFilter& filter : request.filters) {
+        shown.push_back(filter.caption + "|" + filter.patterns.at(0));
+    }
+    EXPECT_EQ(shown, (Names{"ESRI Shapefile Polygonos(shp shx dbf)|*.shp",
+                            "ESRI Shapefile Puntos(shp shx dbf)|*.shp", "Mapa de Bits|*.bmp",
+                            "Google Earth|*.kml", "Archivo de texto|*.txt",
+                            "Archivo de texto (Separador decimal ',')|*.txt",
+                            "Shapefile para SIG (anillos cerrados)|*.shp", "GeoJSON|*.geojson",
+                            "Imagen PNG|*.png"}));
+    EXPECT_EQ(made(), Names{}) << "the user cancelled";
+    EXPECT_EQ(settings.values["ExportPath"], folder.file("gone"));
+}
+
+TEST_F(ExportCommandsTest, TheChosenFormatDecidesWhatIsWrittenAndUnderWhichName) {
+    openReport();
+    struct Row {
+        const char* name;
+        const char* word;
+        Names files;
+    };
+    const Row rows[] = {
+        {"campo.shp",
+         "shp-polygon",
+         {"campo.cpg", "campo.dbf", "campo.prj", "campo.shp", "campo.shx"}},
+        {"CAMPO.SHP",
+         "shp-point",
+         {"CAMPO.SHP", "CAMPO.cpg", "CAMPO.dbf", "CAMPO.prj", "CAMPO.shx"}},
+        {"lote 3.5",
+         "shp-gis",
+         {"lote 3.5.cpg", "lote 3.5.dbf", "lote 3.5.prj", "lote 3.5.shp", "lote 3.5.shx"}},
+        {"campo.shp", "geojson", {"campo.geojson"}},
+        {"campo.kml", "txt", {"campo.txt"}},
+        {".txt", "txt", {".txt"}},
+        {"Ca\u00f1ada & \"Sur\".txt", "txt-comma", {"Ca\u00f1ada & \"Sur\".txt"}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        exportTo(row.name, row.word);
+        const Names files = made();
+        if (row.word != std::string("shp-point")) {  // the case of its other endings is open
+            EXPECT_EQ(files, row.files);
+        } else {
+            EXPECT_EQ(files.size(), row.files.size());
+        }
+        for (const std::string& name : files) {
+            std::filesystem::remove(nativePath(folder.file(name)));
+        }
+    }
+    EXPECT_EQ(dialogs.messages, Names{});
+    EXPECT_EQ(settings.values["ExportPath"], folder.path() + "/");
+}
+
+TEST_F(ExportCommandsTest, AnotherNameThanTheOneChosenIsNotOverwrittenUnasked) {
+    openReport();
+    folder.write("campo.txt", "old");
+    dialogs.yesNoAnswers = {false};
+    exportTo("campo", "txt");
+    EXPECT_EQ(contentOf(folder.file("campo.txt")), "old");
+    EXPECT_EQ(settings.values.count("ExportPath"), 0U);
+    exportTo("campo.txt", "txt");  // the dialog itself has asked
+    EXPECT_NE(contentOf(folder.file("campo.txt")), "old");
+}
+
+TEST_F(ExportCommandsTest, AKmlDocumentIsOpenedWhenTheUserWantsIt) {
+    openReport();
+    dialogs.yesNoAnswers = {false, true, true};
+    exportTo("a.kml", "kml");
+    EXPECT_EQ(dialogs.questions, Names{"Question|Campora|Desea abrir el archivo exportado?\r\n"
+                                       "Debe tener Google Earth instalado.\n" +
+                                       folder.file("a.kml")});
+    EXPECT_EQ(shell.opened, Names{});
+    exportTo("b.kml", "kml");
+    EXPECT_EQ(shell.opened, Names{folder.file("b.kml")});
+    shell.succeeds = false;
+    exportTo("c.kml", "kml");
+    ASSERT_EQ(dialogs.messages.size(), 1U);
+    EXPECT_EQ(dialogs.messages[0],
+              "Exclamation|Campora|El archivo se export\u00f3, pero el sistema "
+              "no pudo abrirlo: " +
+                  folder.file("c.kml"));
+}
+
+TEST_F(ExportCommandsTest, ATextIsOpenedWithoutAsking) {
+    openReport();
+    exportTo("a.txt", "txt");
+    exportTo("b.txt", "txt-comma");
+    EXPECT_EQ(shell.opened, (Names{folder.file("a.txt"), folder.file("b.txt")}));
+}
+
+TEST_F(ExportCommandsTest, AFailureNamesTheFileAndTheReason) {
+    openReport();
+    std::filesystem::remove(folder.file("kml/kmlend.inc"));
+    exportTo("a.kml", "kml");
+    exportTo("gone/b.txt", "txt");
+    ASSERT_EQ(dialogs.messages.size(), 2U);
+    EXPECT_EQ(dialogs.messages[0],
+              "Exclamation|Campora|Error al exportar el archivo\r\nNo se puede leer el archivo " +
+                  folder.file("kmlend.inc") + ": no existe");
+    EXPECT_TRUE(dialogs.messages[1].starts_with(
+        "Exclamation|Campora|Error al exportar el archivo\r\nNo se puede guardar el archivo " +
+        folder.file("gone/b.txt")))
+        << dialogs.messages[1];
+    EXPECT_EQ(made(), Names{});
+    EXPECT_EQ(shell.opened, Names{});
+}
+
+TEST_F(ExportCommandsTest, AMapWithoutWhatAFormatNeedsGivesAMessageAndNoFile) {
+    add("bare");
+    before = filesIn();
+    for (const char* word : {"shp-polygon", "shp-point", "kml", "txt", "shp-gis", "geojson"}) {
+        exportTo("a", word);
+        ASSERT_EQ(dialogs.messages.size(), 1U) << word;
+        EXPECT_TRUE(dialogs.messages[0].starts_with("Exclamation|Campora|Error al exportar"));
+        EXPECT_EQ(made(), Names{}) << word;
+        dialogs.messages.clear();
+    }
+}
+
+TEST_F(ExportCommandsTest, CancellingLeavesNoFileAndSaysNothing) {
+    openReport();
+    dialogs.cancelAfter = 1;
+    for (const char* word : {"kml", "txt"}) {
+        exportTo("a", word);
+        EXPECT_EQ(made(), Names{}) << word;
+    }
+    EXPECT_EQ(dialogs.messages, Names{});
+    EXPECT_EQ(dialogs.questions, Names{});
+    EXPECT_EQ(dialogs.progresses.at(0), "Exportando a.kml: 0");
+}
+
+TEST_F(ExportCommandsTest, APictureIsWhatTheMapShows) {
+    openReport();
+    Names saved;
+    commands.savePicture = [&](const Picture& /*picture*/, std::string_view path,
+                               PictureForm form) -> std::optional<Failure> {
+        saved.push_back(std::string(fileNamePart(path)) +
+                        (form == PictureForm::Bmp ? " BMP" : " PNG"));
+        return std::nullopt;
+    };
+    exportTo("a.png", "bmp");
+    exportTo("a", "png");
+    EXPECT_EQ(saved, (Names{"a.bmp BMP", "a.png PNG"}));
+}
+
+TEST_F(ExportCommandsTest, AReportBecomesATextBesideTheMap) {
+    const std::string path = report("Lote.RPT");
+    settings.values["OpenPath"] = folder.path();
+    before = filesIn();
+    dialogs.openAnswers = {{path}};
+    dialogs.saveAnswers = {{folder.file("salida.txt"), 1}};
+    commands.mnuFileExportRpt();
+    EXPECT_EQ(dialogs.opens.at(0).caption, "Seleccione el archivo RPT...");
+    EXPECT_EQ(dialogs.opens[0].folder, folder.path());
+    EXPECT_EQ(dialogs.saves.at(0).name, "Lote.txt");
+    EXPECT_EQ(dialogs.saves[0].filters.size(), 2U);
+    EXPECT_EQ(made(), Names{"salida.txt"});
+    EXPECT_EQ(shell.opened, Names{folder.file("salida.txt")});
+    EXPECT_EQ(settings.values["OpenPath"], folder.path() + "/");
+    EXPECT_EQ(settings.values["ExportPath"], folder.path() + "/");
+    EXPECT_EQ(session.plotCount(), 0);
+    const std::string text = contentOf(folder.file("salida.txt"));
+    EXPECT_EQ(
+        text.substr(0, text.find('\n')),
+        "Longitud\tLatitud\tD_Real1\tD_Espec1\tVelocidad\tAlarmas\tAnchoLabor\tHora\tFecha\r");
+    EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 4);
+    EXPECT_EQ(text.find('.'), std::string::npos) << "in data lines every point is a comma";
+}
+
+TEST_F(ExportCommandsTest, ABrokenReportIsRefusedBeforeATargetIsAskedFor) {
+    dialogs.openAnswers = {{folder.write("roto.rpt", "no es un informe")}};
+    commands.mnuFileExportRpt();
+    EXPECT_EQ(dialogs.messages.size(), 1U);
+    EXPECT_EQ(dialogs.saves.size(), 0U);
+}
+
+TEST_F(ExportCommandsTest, GlgHoldsThePointsOfAllTracksInOrder) {
+    EXPECT_FALSE(commands.canExportGlg());
+    EXPECT_FALSE(commands.exportGlg(folder.file("nada.glg")));
+    EXPECT_EQ(dialogs.messages.size(), 1U);
+    openReport();
+    ASSERT_TRUE(session.loadFile(track("log1.nbr", 50), false, true));
+    EXPECT_TRUE(commands.canExportGlg());
+    dialogs.saveAnswers = {{folder.file("puntos"), 0}};
+    commands.mnuFileExportGlg();
+    const std::string bytes = contentOf(folder.file("puntos.glg"));
+    ASSERT_EQ(bytes.size(), 6U * 8U);
+    // The logger's first point, 31.5 south and 60.5 west, comes after the three of the report.
+    EXPECT_EQ(bytes.substr(24, 8), std::string("\x26\x5F\x46\x80\x86\x28\x87\x80", 8));
+}
+
+TEST_F(ExportCommandsTest, TrackFilesAreHandedToTheirDialog) {
+    std::vector<Names> shown;
+    commands.showTrackExport = [&](const Names& paths) { shown.push_back(paths); };
+    dialogs.openAnswers = {{}, {folder.file("a b.nbr"), folder.file("c.nbr")}};
+    commands.mnuFileExportSel();
+    commands.mnuFileExportSel();
+    EXPECT_EQ(shown, std::vector<Names>({{folder.file("a b.nbr"), folder.file("c.nbr")}}));
+    EXPECT_EQ(dialogs.opens.at(0).caption, "Exportar:");
+    EXPECT_EQ(dialogs.opens[0].filters.at(0).caption, "Archivos de Nimbra");
+    EXPECT_TRUE(dialogs.opens[0].several);
+}
+
+}  // namespace
+}  // namespace campora

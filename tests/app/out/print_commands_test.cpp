@@ -1,0 +1,149 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/out/print_commands.h"
+
+#include <filesystem>
+
+#include <gmock/gmock.h>
+
+#include "app/settings.h"
+#include "base/files.h"
+#include "base/paths.h"
+#include "support/session_desk.h"
+
+namespace campora {
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+double halfEach(std::string_view text, PageFont font) {
+    return static_cast<double>(text.size()) * font.emMm / 2;
+}
+
+std::vector<std::string> textsOf(const PageLayout& page) {
+    std::vector<std::string> texts;
+    for (const PageText& text : page.texts) {
+        texts.push_back(text.text);
+    }
+    return texts;
+}
+
+struct PrintDesk : SessionDesk {
+    PrintCommands print{session};
+
+    /// What the program says when the page goes to that path.
+    std::string saved(const std::string& path, const Result<std::string>& pdf) {
+        dialogs.saveAnswers.push_back({path});
+        dialogs.messages.clear();
+        print.savePdf([&] { return pdf; });
+        return dialogs.messages.empty() ? "" : dialogs.messages.back();
+    }
+};
+
+TEST(PrintCommands, ThePageTellsOfTheSelectedFile) {
+    PrintDesk desk;
+    desk.add("uno.rpt");
+    desk.add("dos.rpt");
+    desk.session.selectFile(1);
+    desk.print.change(desk.print.setup(), "Glifosato\n2 l/ha");
+    const std::vector<std::string> texts = textsOf(desk.print.page(halfEach));
+    for (const char* said : {"dos.rpt y 1 más", "/campo/dos.rpt", "Área:", "12.5 Has", "Glifosato",
+                             "2 l/ha", "Fondo"}) {
+        EXPECT_THAT(texts, Contains(said));
+    }
+    EXPECT_THAT(texts, Contains("Impreso el " + dateText(desk.clock.today(), "dd/mm/yyyy")));
+    EXPECT_EQ(desk.print.documentName(), "dos");
+    EXPECT_EQ(desk.settings.values["printDescription"], "Glifosato\n2 l/ha");
+    EXPECT_EQ(desk.session.printDescription, "Glifosato\n2 l/ha");
+
+    desk.session.selectFile(std::nullopt);
+    EXPECT_THAT(textsOf(desk.print.page(halfEach)), Contains("uno.rpt y 1 más"));
+}
+
+TEST(PrintCommands, TheMapIsDrawnAgainAndTheWindowStaysAsItWas) {
+    PrintDesk desk;
+    desk.add("a");
+    desk.add("b");
+    desk.session.view().zoomIn();
+    desk.session.style().colors.back = Color{0x123456};
+    const MapView::Place place = desk.session.view().place();
+    desk.canvas.forget();
+
+    const PageLayout page = desk.print.page(halfEach);
+    RecordingCanvas paper(desk.print.mapCanvas(page));
+    EXPECT_TRUE(desk.print.drawMap(page, paper, nullptr));
+    EXPECT_EQ(paper.calls().front(), "clear 0x123456");
+    EXPECT_EQ(paper.callsOf("text").size(), 4U);
+    EXPECT_THAT(desk.canvas.calls(), IsEmpty());
+    EXPECT_EQ(desk.session.view().place().scale, place.scale);
+    EXPECT_EQ(desk.session.view().place().scrollX, place.scrollX);
+    EXPECT_EQ(desk.session.view().place().scrollY, place.scrollY);
+}
+
+TEST(PrintCommands, DrawingCanBeCancelled) {
+    PrintDesk desk;
+    desk.add("a");
+    desk.dialogs.cancelAfter = 2;
+    const auto progress = desk.dialogs.progress("x");
+    const PageLayout page = desk.print.page(halfEach);
+    RecordingCanvas paper(desk.print.mapCanvas(page));
+    EXPECT_FALSE(desk.print.drawMap(page, paper, progress.get()));
+    EXPECT_EQ(paper.callsOf("text").size(), 1U);
+}
+
+TEST(PrintCommands, KeepsToTheMarginsThatThePrinterNeeds) {
+    PrintDesk desk;
+    desk.add("a");
+    const PageLayout page = desk.print.page(halfEach, {4, 25, 0, 0});
+    EXPECT_EQ(page.frame.x, 10);
+    EXPECT_EQ(page.frame.y, 25);
+}
+
+TEST(PrintCommands, WritesThePdfWhereTheUserSaysAndOffersToOpenIt) {
+    PrintDesk desk;
+    desk.add("uno.rpt");
+    const std::string path = desk.folder.file("página.pdf");
+    desk.dialogs.yesNoAnswers = {true, false, true};
+    EXPECT_EQ(desk.saved(path, std::string("%PDF")), "");
+    EXPECT_EQ(readFile(path)->text(), "%PDF");
+    EXPECT_EQ(desk.dialogs.saves.back().name, "uno.pdf");
+    EXPECT_THAT(desk.shell.opened, ElementsAre(path));
+
+    EXPECT_EQ(desk.saved(path, std::string("%PDF-2")), "");
+    EXPECT_EQ(desk.dialogs.saves.back().folder, folderPart(path));
+    EXPECT_EQ(desk.shell.opened.size(), 1U);
+    desk.shell.succeeds = false;
+    EXPECT_THAT(desk.saved(path, std::string("%PDF")), HasSubstr("Ningún programa pudo abrir"));
+}
+
+TEST(PrintCommands, AFailureIsReportedAndLeavesNothing) {
+    struct Row {
+        const char* name;
+        std::string path;
+        Result<std::string> pdf;
+        std::string message;
+    };
+    PrintDesk desk;
+    desk.add("uno.rpt");
+    desk.folder.write("carpeta/x", "");
+    const Row rows[] = {
+        {"a folder", desk.folder.file("carpeta"), std::string("%PDF"), "carpeta"},
+        {"no such folder", desk.folder.file("no/hay.pdf"), std::string("%PDF"), "hay.pdf"},
+        {"no memory", desk.folder.file("grande.pdf"), Failure{TextId::PageTooLarge, {}}, "memoria"},
+    };
+    for (const Row& row : rows) {
+        EXPECT_THAT(desk.saved(row.path, row.pdf), HasSubstr(row.message)) << row.name;
+    }
+    EXPECT_EQ(desk.saved("", std::string("%PDF")), "");
+    EXPECT_EQ(desk.saved(desk.folder.file("cancelado.pdf"), std::string()), "");
+    EXPECT_FALSE(std::filesystem::exists(nativePath(desk.folder.file("cancelado.pdf"))));
+    EXPECT_FALSE(std::filesystem::exists(nativePath(desk.folder.file("grande.pdf"))));
+    EXPECT_THAT(desk.dialogs.questions, IsEmpty());
+}
+
+}  // namespace
+}  // namespace campora

@@ -1,0 +1,94 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/out/track_batch.h"
+
+#include <filesystem>
+
+#include <gtest/gtest.h>
+
+#include "base/paths.h"
+#include "support/session_desk.h"
+
+namespace campora {
+namespace {
+
+using Names = std::vector<std::string>;
+
+struct TrackBatchTest : testing::Test, SessionDesk {
+    TrackBatchTest() {
+        session.start();
+        batch.onBegin = [this](const std::string& line) { begun.push_back(line); };
+        batch.onDone = [this](const std::string& line, const TrackExportOutcome& outcome) {
+            done.push_back(line);
+            remarks.push_back(outcome.remark);
+        };
+    }
+    [[nodiscard]] bool isThere(std::string_view name) const {
+        return std::filesystem::exists(nativePath(folder.file(name)));
+    }
+
+    TrackBatch batch{session};
+    Names begun;
+    Names done;
+    Names remarks;
+};
+
+TEST_F(TrackBatchTest, AFileThatFailsKeepsNoOtherFromBeingExported) {
+    const Names paths{track("Log1.nbr", 50), folder.write("roto.nbr", "*TRACKER*\r\n"),
+                      track("log 2.NBR", 60)};
+    EXPECT_FALSE(batch.exportList(paths));
+    EXPECT_EQ(begun, (Names{"Exportando Log1.nbr", "Exportando roto.nbr", "Exportando log 2.NBR"}));
+    EXPECT_EQ(done,
+              (Names{"Exportando Log1.nbr:...........Ok", "Exportando roto.nbr:...........Error",
+                     "Exportando log 2.NBR:...........Ok"}));
+    EXPECT_EQ(remarks, (Names{"", "El archivo no es compatible: " + paths[1], ""}));
+    for (const char* name : {"Log1.shp", "Log1.shx", "Log1.dbf", "log 2.shp"}) {
+        EXPECT_TRUE(isThere(name)) << name;
+    }
+    EXPECT_FALSE(isThere("roto.shp"));
+    EXPECT_EQ(dialogs.messages, Names{});
+    EXPECT_GE(clock.events, 3);
+}
+
+TEST_F(TrackBatchTest, StoppingEndsTheRunAfterThePresentFile) {
+    const Names paths{track("a.nbr", 50), track("b.nbr", 50), track("c.nbr", 50)};
+    clock.onEvents = [this](int) {
+        if (begun.size() == 2) {
+            EXPECT_TRUE(batch.isRunning());
+            EXPECT_FALSE(batch.exportList({})) << "one run at a time";
+            batch.stop();
+        }
+    };
+    EXPECT_FALSE(batch.exportList(paths));
+    EXPECT_EQ(done.size(), 2U);
+    EXPECT_EQ(
+        dialogs.messages,
+        Names{"Information|Campora|Se canceló la exportación. No se exportaron:\n" + paths[2]});
+    EXPECT_FALSE(batch.isRunning());
+    EXPECT_TRUE(isThere("b.shp"));
+    EXPECT_FALSE(isThere("c.shp"));
+}
+
+TEST_F(TrackBatchTest, OneFileGoesWhereItIsWantedAndWhatCameOfItIsSaid) {
+    const std::string source = track("a.nbr", 50);
+    EXPECT_TRUE(batch.exportFiles(source, folder.file("otra.shp")));
+    EXPECT_TRUE(isThere("otra.dbf"));
+    EXPECT_TRUE(batch.exportFiles(source, folder.file("sin final 3.5")));
+    EXPECT_TRUE(isThere("sin final 3.5.shp"));
+    EXPECT_FALSE(batch.exportFiles(source, folder.file("gone/otra.shp")));
+    EXPECT_FALSE(batch.exportFiles(folder.file("gone.nbr"), folder.file("x.shp")));
+    ASSERT_EQ(dialogs.messages.size(), 4U);
+    EXPECT_EQ(dialogs.messages[0], "Information|Campora|Archivo exportado correctamente.");
+    EXPECT_TRUE(dialogs.messages[2].starts_with(
+        "Exclamation|Campora|Se ha producido un error en la exportaci\u00f3n.\r\n"
+        "No se puede guardar el archivo "))
+        << dialogs.messages[2];
+    EXPECT_EQ(dialogs.messages[3],
+              "Exclamation|Campora|Se ha producido un error en la exportaci\u00f3n.\r\n"
+              "No se puede leer el archivo " +
+                  folder.file("gone.nbr") + ": no existe");
+}
+
+}  // namespace
+}  // namespace campora

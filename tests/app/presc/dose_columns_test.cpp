@@ -1,0 +1,299 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/presc/dose_columns.h"
+
+#include <filesystem>
+#include <tuple>
+
+#include <gtest/gtest.h>
+
+#include "app/presc/dose_choice.h"
+#include "base/paths.h"
+#include "support/session_desk.h"
+#include "support/zone_map.h"
+
+namespace campora {
+namespace {
+
+using Messages = std::vector<std::string>;
+
+struct DoseColumnsTest : testing::Test, SessionDesk {
+    /// A map of these doses is chosen for the row.
+    void choose(int row, const std::vector<std::string>& doses, LonLat corner = {-60, -33}) {
+        const std::string name = "canal" + std::to_string(row);
+        dialogs.openAnswers.push_back({rowOfZones(doses, corner).write(folder, name)});
+        columns.chooseFile(row);
+    }
+    /// The map of that path is chosen for the first row, and its first column.
+    void take(const std::string& path) {
+        dialogs.messages.clear();
+        dialogs.questions.clear();
+        dialogs.openAnswers.push_back({path});
+        columns.chooseFile(0);
+        columns.chooseColumn(0, 1);
+    }
+    static std::vector<std::string> doses(int count) {
+        std::vector<std::string> texts;
+        for (int i = 1; i <= count; ++i) {
+            texts.push_back(std::to_string(i));
+        }
+        return texts;
+    }
+
+    DoseColumns columns{session};
+};
+
+TEST_F(DoseColumnsTest, TellsWhatAColumnHolds) {
+    EXPECT_EQ(columns.doseLabel(0), "Archivo no cargado");
+    choose(0, {"10", "20", "30", "20"});
+    EXPECT_EQ(columns.columns(0), (std::vector<std::string>{"DOSIS", "NOMBRE"}));
+    columns.chooseColumn(0, 2);
+    EXPECT_EQ(columns.doseLabel(0), "Invalido: Valores No Numericos");
+    columns.chooseColumn(0, 1);
+    EXPECT_EQ(columns.doseLabel(0), "4 dosis diferentes");
+    dialogs.openAnswers.push_back({});
+    columns.chooseFile(0);  // cancelled
+    EXPECT_EQ(columns.column(0), 1);
+    choose(0, {"1"});  // another map has other columns
+    EXPECT_EQ(columns.column(0), GphPresc::kNoColumn);
+}
+
+TEST_F(DoseColumnsTest, AMapThatCannotBeReadLeavesItsRowWithoutOne) {
+    choose(0, {"1"});
+    dialogs.openAnswers.push_back({folder.write("malo.shp", "nada")});
+    columns.chooseFile(0);
+    EXPECT_EQ(dialogs.messages.size(), 1U);
+    EXPECT_EQ(columns.doseLabel(0), "Archivo no cargado");
+    EXPECT_TRUE(columns.columns(0).empty());
+    EXPECT_FALSE(columns.isBusy());
+}
+
+TEST_F(DoseColumnsTest, WarnsOfMapsThatLieFarApart) {
+    for (const auto& [metres, warned] : {std::pair(4000.0, false), {6000, true}}) {
+        dialogs.messages.clear();
+        DoseColumns fresh(session);
+        fresh.addChannel();
+        for (const int row : {0, 1}) {
+            dialogs.openAnswers.push_back(
+                {rowOfZones({"1"}, {-60, -33 + row * metres / 111320}).write(folder, "m")});
+            fresh.chooseFile(row);
+        }
+        EXPECT_EQ(dialogs.messages,
+                  warned ? Messages{"Exclamation|Campora|CUIDADO: Los mapas que está cargando "
+                                    "parecen estar muy distanciados uno del otro"}
+                         : Messages{})
+            << metres;
+        EXPECT_EQ(fresh.columns(1).size(), 2U);
+    }
+}
+
+TEST_F(DoseColumnsTest, ConfirmsOnlyWhenEveryRowIsComplete) {
+    const auto expectRefusal = [this](const std::string& says) {
+        dialogs.messages.clear();
+        EXPECT_FALSE(columns.confirm());
+        EXPECT_EQ(dialogs.messages, Messages{"Exclamation|Campora|" + says});
+    };
+    const std::string noMap = "Debe cargar archivos shape para todos los canales";
+    expectRefusal("Canal 1: " + noMap);
+    choose(0, {"10", "20"});
+    expectRefusal("Canal 1: Debe seleccionar una columna de dosis para todos los canales");
+    columns.chooseColumn(0, 2);
+    expectRefusal("Canal 1: La columna no puede utilizarse porque contiene valores no numéricos\n"
+                  "El registro 1 tiene «zona 0». Corrija la tabla o elija otra columna");
+    columns.chooseColumn(0, 1);
+    columns.addChannel();
+    expectRefusal("Canal 2: " + noMap);
+    choose(1, {"5"});
+    columns.chooseColumn(1, 1);
+
+    std::vector<std::pair<int, int>> progress;
+    columns.onProgress = [&](int row, int percent) {
+        EXPECT_TRUE(columns.isBusy());
+        progress.emplace_back(row, percent);
+    };
+    dialogs.messages.clear();
+    ASSERT_TRUE(columns.confirm());
+    EXPECT_TRUE(dialogs.messages.empty());
+    EXPECT_EQ(progress,
+              (std::vector<std::pair<int, int>>{{0, 0}, {0, 50}, {0, 100}, {1, 0}, {1, 100}}));
+    EXPECT_EQ(clock.events, 5 + 3 + 2);  // while the maps were read too
+    const std::vector<std::unique_ptr<GphPresc>> channels = columns.getChannels();
+    ASSERT_EQ(channels.size(), 2U);
+    EXPECT_EQ(channels[0]->name(), "canal0.shp");
+    EXPECT_EQ(channels[0]->columnaDosis(), 1);
+    EXPECT_EQ(channels[1]->polygons()[0].dosis, 5);
+}
+
+TEST_F(DoseColumnsTest, AsksBeforeItTakesManyDoses) {
+    const std::tuple<int, std::optional<Answer>, bool> rows[] = {
+        {15, std::nullopt, true}, {16, Answer::No, false}, {16, Answer::Yes, true}};
+    for (const auto& [distinct, answer, confirmed] : rows) {
+        dialogs.questions.clear();
+        choose(0, doses(distinct));
+        columns.chooseColumn(0, 1);
+        if (answer) {
+            dialogs.answers.push_back(*answer);
+        }
+        EXPECT_EQ(columns.confirm(), confirmed) << distinct;
+        EXPECT_EQ(dialogs.questions.size(), answer ? 1U : 0U);
+    }
+}
+
+TEST_F(DoseColumnsTest, AsksHowAColumnIsToBeRead) {
+    struct Row {
+        std::vector<std::string> cells;
+        std::optional<Answer> answer;
+        bool confirmed;
+        const char* says;
+        ColumnAnswers beforehand;  ///< of the batch program
+        std::vector<float> doses;
+    };
+    const ColumnAnswers blanks{true, {}};
+    const ColumnAnswers comma{false, DecimalSign::Comma};
+    const Row rows[] = {
+        {{"10", "", "30", " "},
+         Answer::Yes,
+         true,
+         "columna DOSIS: 2 (la primera, el registro 2)",
+         {},
+         {10, 0, 30, 0}},
+        {{"10", ""},
+         Answer::No,
+         false,
+         "recibirán la dosis de resguardo.\n¿Usar la columna así?",
+         {},
+         {}},
+        {{"10", ""}, {}, false, "Para usarla así: --blanks empty", {}, {}},
+        {{"10", ""}, {}, true, "", blanks, {10, 0}},
+        {{"10", "12,5", ""},
+         Answer::Yes,
+         true,
+         "«12,5» (registro 2) se leerá como 12.5.\n¿Usar",
+         {},
+         {10, 12.5F, 0}},
+        {{"10", "12,5", ""}, {}, false, "--blanks empty --decimal-column comma", {}, {}},
+        {{"10", "12,5"}, {}, true, "", comma, {10, 12.5F}},
+        {{"950", "1.200"}, Answer::Yes, true, "¿Son miles? Sí: 1200. No: 1.2.", {}, {950, 1200}},
+        {{"950", "1.200"}, Answer::No, true, "«1.200» (registro 2)", {}, {950, 1.2F}},
+        {{"950", "1.200"}, Answer::Cancel, false, "(el signo separa los miles)", {}, {}},
+        {{"950", "1.200"}, {}, false, "--decimal-column comma|point", {}, {}},
+        {{"950", "1.200"}, {}, true, "", comma, {950, 1200}},
+        {{"950", "120 kg/ha"}, {}, false, "El registro 2 tiene «120 kg/ha»", {}, {}},
+        {{"", " "}, {}, false, "El registro 1 tiene «»", {}, {}},
+        {{"10", "-9999"},
+         {},
+         false,
+         "el registro 2 tiene la dosis -9999, que ninguna consola",
+         {},
+         {}},
+        {{"10", "72.5"},
+         {},
+         true,
+         "(registro 2: 72.5). Un archivo PRE guarda enteros: 72.5 será 72.",
+         {},
+         {10, 72.5F}},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(testing::PrintToString(row.cells) + row.says);
+        const bool isBatch = !row.answer;
+        columns.answers = isBatch ? std::optional(row.beforehand) : std::nullopt;
+        take(rowOfZones(row.cells).write(folder, "m"));
+        if (row.answer) {
+            dialogs.answers = {*row.answer};
+            dialogs.yesNoAnswers = {*row.answer == Answer::Yes};
+        }
+        ASSERT_EQ(columns.confirm(), row.confirmed);
+        std::string said;
+        for (const std::string& text : isBatch ? dialogs.messages : dialogs.questions) {
+            said += text;
+        }
+        EXPECT_NE(said.find(row.says), std::string::npos) << said;
+        if (row.confirmed) {
+            const auto channels = columns.getChannels();
+            for (std::size_t i = 0; i < row.doses.size(); ++i) {
+                EXPECT_EQ(channels[0]->polygons()[i].dosis, row.doses[i]);
+            }
+        }
+    }
+}
+
+TEST_F(DoseColumnsTest, SaysWhatIsWrongWithAMap) {
+    ShapeBytes points(1);
+    points.addPoint({-60, -33});
+    DbaseBytes table({{"DOSIS"}});
+    table.addRow({"1"});
+    folder.write("puntos.dbf", table.bytes());
+    folder.write("sola.prj", "");
+    const std::string alone = rowOfZones({"1"}).write(folder, "sola");
+    std::filesystem::remove(nativePath(folder.file("sola.dbf")));
+    const std::string metres = rowOfZones({"1"}, {5'500'000, 6'300'000}).write(folder, "metros");
+    folder.write("metros.prj", "PROJCS[\"POSGAR_2007_5\",GEOGCS[\"G\",DATUM[\"D_POSGAR_2007\"]]]");
+    const std::string other = rowOfZones({"1"}).write(folder, "otro");
+    folder.write("otro.prj", "GEOGCS[\"Inchauspe\",DATUM[\"D_Campo_Inchauspe\",SPHEROID[]]]");
+    const std::string near = rowOfZones({"1"}).write(folder, "igual");
+    folder.write("igual.prj", "GEOGCS[\"W\",DATUM[\"D_WGS_1984\",SPHEROID[]]]");
+    ZoneMap both = rowOfZones({"1", "2", "3"});
+    both.zones[1].rings = {squareAt({-59.9902, -33}, 0.01)};   // 2 % of it over the first
+    both.zones[2].rings = {squareAt({-59.98025, -33}, 0.01)};  // half a per cent over the second
+    const std::tuple<std::string, bool, std::string> rows[] = {
+        {folder.write("puntos.shp", points.bytes()), false, "Los mapas no contienen polígonos"},
+        {alone, false, "no tiene tabla de valores: falta sola.dbf"},
+        {metres, false, "no son grados sino de «POSGAR_2007_5»"},
+        {other, true, "CUIDADO: otro.shp usa el datum «D_Campo_Inchauspe»"},
+        {near, true, ""},
+        {both.write(folder, "doble"), true,
+         "de doble.shp que se superponen (registros): 1 y 2. Cada"},
+    };
+    for (const auto& [path, isTaken, says] : rows) {
+        SCOPED_TRACE(path);
+        take(path);
+        EXPECT_EQ(columns.columns(0).empty(), !isTaken);
+        ASSERT_EQ(dialogs.messages.size(), says.empty() ? 0U : 1U);
+        EXPECT_TRUE(says.empty() || dialogs.messages[0].find(says) != std::string::npos)
+            << dialogs.messages[0];
+    }
+}
+
+struct DoseChoiceTest : testing::Test, SessionDesk {
+    DoseChoiceTest() {
+        SetList set;
+        for (const double dose : {0.0, 50.0, 72.5}) {
+            set.addDosis(dose);
+        }
+        scale.loadFromSetList(set, 0);
+    }
+
+    ColorScale scale;
+};
+
+TEST_F(DoseChoiceTest, OffersTheDosesOfTheScale) {
+    DoseChoice choice(&scale, 50, session);
+    ASSERT_EQ(choice.legend().classes.size(), 3U);
+    EXPECT_EQ(choice.legend().classes[2], (LegendRow{scale.getClass(2).color, "72.5"}));
+    EXPECT_EQ(choice.way(), DoseChoice::Way::Existing);
+    choice.selectClass(3);
+    EXPECT_EQ(choice.accept(), std::nullopt);
+    EXPECT_EQ(dialogs.messages, Messages{"Exclamation|Campora|Debe seleccionar una dosis"});
+    choice.selectClass(2);
+    EXPECT_EQ(choice.accept(), 72.5F);
+}
+
+TEST_F(DoseChoiceTest, TakesANewDose) {
+    DoseChoice choice(nullptr, 12.5F, session);
+    EXPECT_EQ(choice.way(), DoseChoice::Way::New);
+    EXPECT_EQ(choice.accept(), 12.5F);
+    const std::vector<std::pair<std::string, std::optional<float>>> cases{
+        {" 80 ", 80.F}, {"7,25", 7.25F}, {"", std::nullopt}, {"cien", std::nullopt}, {"5x", {}}};
+    for (const auto& [text, dose] : cases) {
+        dialogs.messages.clear();
+        choice.setText(text);
+        EXPECT_EQ(choice.accept(), dose) << text;
+        EXPECT_EQ(dialogs.messages,
+                  dose ? Messages{}
+                       : Messages{"Exclamation|Campora|La dosis debe ser un valor numérico"});
+    }
+}
+
+}  // namespace
+}  // namespace campora

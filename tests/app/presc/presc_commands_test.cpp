@@ -1,0 +1,222 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/presc/presc_commands.h"
+
+#include <algorithm>
+#include <filesystem>
+
+#include <gtest/gtest.h>
+
+#include "base/paths.h"
+#include "support/session_desk.h"
+#include "support/zone_map.h"
+
+namespace campora {
+namespace {
+
+using Names = std::vector<std::string>;
+
+struct PrescCommandsTest : testing::Test, SessionDesk {
+    PrescCommandsTest() {
+        session.start();
+        commands.chooseChannels = [this] { return std::move(chosen); };
+        commands.askDose = [this](const ColorScale& scale, float current) {
+            asked.emplace_back(scale.count(), current);
+            return std::exchange(answer, std::nullopt);
+        };
+    }
+    /// A prescription of maps of these doses, one a channel.
+    void create(const std::vector<std::vector<std::string>>& channels) {
+        for (const std::vector<std::string>& doses : channels) {
+            auto presc = std::make_unique<GphPresc>();
+            const std::string name = "canal" + std::to_string(chosen.size() + 1);
+            const std::string path = rowOfZones(doses).write(folder, name);
+            ASSERT_TRUE(presc->loadFromFile(path, dialogs, session.texts()));
+            presc->setColumnaDosis(1);
+            chosen.push_back(std::move(presc));
+        }
+        commands.mnuFilePrescript();
+    }
+    /// The dose tool on the middle of zone n.
+    void clickOn(int n) {
+        session.tools().setTool(MapTools::Tool::PrescDosis);
+        const CanvasPoint at = session.view().transform().mapToScreen(-59.995 + 0.01 * n, -32.995);
+        session.tools().press(MapTools::Button::Left, at);
+        session.tools().release(MapTools::Button::Left, at);
+    }
+    [[nodiscard]] Names legend() const {
+        Names values;
+        for (const LegendRow& row : window.legend.classes) {
+            values.push_back(row.text);
+        }
+        return values;
+    }
+
+    PrescCommands& commands = session.prescription();
+    std::vector<std::unique_ptr<GphPresc>> chosen;
+    std::vector<std::pair<int, float>> asked;
+    std::optional<float> answer;
+};
+
+TEST_F(PrescCommandsTest, MakesAPrescriptionBesideWhatIsOpenAndClosesIt) {
+    commands.mnuFilePrescript();  // cancelled
+    EXPECT_FALSE(commands.isOpen());
+    ASSERT_TRUE(session.loadFile(report("a.rpt"), true, true));
+    create({{"10", "20"}, {"5", "6"}});
+    EXPECT_EQ(listed(), (Names{"Prescripción", "a.rpt"}));
+    EXPECT_EQ(legend(), (Names{"0", "10", "20"}));
+    EXPECT_EQ(commands.prescriptCaption(), TextId::ActionClosePrescription);
+
+    session.reloadFiles();
+    EXPECT_EQ(listed(), (Names{"Prescripción", "a.rpt"}));
+    session.modes().mnuColorScaleSelCH(1);
+    EXPECT_EQ(legend(), (Names{"0", "5", "6"}));
+
+    session.tools().setTool(MapTools::Tool::PrescDosis);
+    commands.mnuFilePrescript();
+    EXPECT_EQ(listed(), Names{"a.rpt"});
+    EXPECT_EQ(session.tools().tool(), MapTools::Tool::None);
+    EXPECT_EQ(commands.prescriptCaption(), TextId::ActionNewPrescription);
+}
+
+TEST_F(PrescCommandsTest, ChangedDosesAreNotLostUnasked) {
+    create({{"10", "20"}});
+    answer = 15.0F;
+    clickOn(0);
+    dialogs.yesNoAnswers = {false, false, false};
+    commands.mnuFilePrescript();
+    session.removeCurrentFile();
+    dialogs.openAnswers = {{report("a.rpt")}};
+    session.fileCommands().fileOpen();
+    EXPECT_EQ(dialogs.questions.size(), 3U);
+    ASSERT_TRUE(commands.isOpen());
+
+    dialogs.saveAnswers = {{folder.file("zonas.pre"), 0}};
+    dialogs.inputAnswers = {"100", "0"};
+    commands.mnuFileSavePrescript();
+    ASSERT_FALSE(dialogs.messages.empty()) << "what was written";
+    commands.mnuFilePrescript();
+    EXPECT_FALSE(commands.isOpen()) << "saved: nothing to ask";
+}
+
+TEST_F(PrescCommandsTest, TheDoseToolChangesAZoneOfTheCurrentChannel) {
+    create({{"10", "20"}, {"5", "6"}});
+    commands.prescription()->setCurrentChannel(1);
+    clickOn(1);  // cancelled
+    EXPECT_EQ(legend(), (Names{"0", "10", "20"}));
+    answer = 7.5F;
+    clickOn(0);
+    clickOn(2);  // where no zone is
+    EXPECT_EQ(asked, (std::vector<std::pair<int, float>>{{3, 6.F}, {3, 5.F}}));
+    EXPECT_EQ(commands.prescription()->channel(0).polygons()[0].dosis, 10);
+    EXPECT_EQ(commands.prescription()->channel(1).polygons()[0].dosis, 7.5F);
+    const SummaryRow product = window.summary.back();
+    EXPECT_EQ(product.property, "Producto total (C 2)");
+    EXPECT_TRUE(product.value.ends_with(" unid")) << product.value;
+    EXPECT_NEAR(std::stod(product.value), (8 + 6) * 103.95, 15) << "in whole doses, as a PRE";
+
+    ASSERT_TRUE(session.loadFile(folder.file("canal1.shp"), false, true));
+    session.removeFile(commands.prescription());
+    clickOn(0);
+    EXPECT_EQ(asked.size(), 2U);
+    EXPECT_EQ(session.tools().tool(), MapTools::Tool::None);
+}
+
+TEST_F(PrescCommandsTest, TheLegendChangesADoseAndTheSummaryFollows) {
+    create({{"10", "20", "10"}});
+    dialogs.inputAnswers.push_back("40");
+    session.legend().askClassValue(1);
+    EXPECT_EQ(legend(), (Names{"0", "20", "40"}));
+    EXPECT_EQ(window.legend.valueChangeCaption, "Cambiar Dosis");
+    EXPECT_NEAR(std::stod(window.summary.back().value), 100 * 103.95, 100);
+}
+
+TEST_F(PrescCommandsTest, SavesAPreThatShowsTheChangedDoses) {
+    create({{"10", "20"}});
+    answer = 33.F;
+    clickOn(1);
+    const std::string path = folder.file("salida/uno.pre");
+    std::filesystem::create_directories(nativePath(folder.file("salida")));
+    dialogs.saveAnswers.push_back({path, 0});
+    dialogs.inputAnswers = {"50", "1"};
+    commands.mnuFileSavePrescript();
+    ASSERT_EQ(dialogs.saves.size(), 1U);
+    EXPECT_EQ(dialogs.saves[0].name, "canal1.pre");
+    EXPECT_EQ(settings.values["SavePath"], folder.file("salida/"));
+    EXPECT_EQ(dialogs.inputs[0], "192|Campora|20");
+    EXPECT_TRUE(std::filesystem::exists(nativePath(folder.file("salida/uno.rpt"))));
+
+    const std::vector<SummaryRow> panel = window.summary;
+    ASSERT_TRUE(session.loadFile(path, true, true));
+    EXPECT_FALSE(commands.isOpen());
+    EXPECT_EQ(legend(), (Names{"1", "10", "33"}));
+    for (const std::string figure : {"Superficie (C 1)", "Producto total (C 1)"}) {
+        const auto valueIn = [&figure](const std::vector<SummaryRow>& rows) {
+            const auto row = std::find_if(rows.begin(), rows.end(), [&](const SummaryRow& each) {
+                return each.property == figure;
+            });
+            return row == rows.end() ? figure : row->value.substr(0, row->value.find(' '));
+        };
+        EXPECT_EQ(valueIn(panel), valueIn(window.summary)) << "after the save, to the cell";
+    }
+}
+
+TEST_F(PrescCommandsTest, SavesAVrtUnderItsName) {
+    create({{"10", "20"}});
+    const std::string path = folder.file("uno.vrt");
+    dialogs.saveAnswers.push_back({path, 0});
+    dialogs.inputAnswers = {"20.5", "Lote 7", "maiz"};
+    commands.mnuFileSaveVrt();
+    EXPECT_EQ(dialogs.saves[0].name, "canal1.vrt");
+    EXPECT_TRUE(dialogs.inputs[1].ends_with("|Campora|canal1"));
+    ASSERT_TRUE(session.loadFile(path, true, true));
+    ASSERT_GE(window.summary.size(), 3U);
+    EXPECT_EQ(window.summary[0].value, "Lote 7 ");
+    EXPECT_EQ(window.summary[1].value, "maiz ");
+    EXPECT_TRUE(window.summary[2].value.starts_with("20.5 "));
+}
+
+TEST_F(PrescCommandsTest, ASaveThatIsCancelledOrNoNumberWritesNothing) {
+    commands.mnuFileSavePrescript();
+    commands.mnuFileSaveVrt();
+    EXPECT_TRUE(dialogs.saves.empty());  // nothing to save
+    create({{"10"}});
+    const std::string path = folder.file("uno.pre");
+    dialogs.saveAnswers = {{"", 0}, {path, 0}, {path, 0}, {path, 0}, {path, 0}};
+    dialogs.inputAnswers = {"", "ancho", std::nullopt, "100", std::nullopt};
+    for (int i = 0; i < 5; ++i) {
+        commands.mnuFileSavePrescript();
+    }
+    EXPECT_EQ(dialogs.messages,
+              Names{"Exclamation|Campora|el ancho de las celdas debe ser mayor que 0 y hasta "
+                    "32767 metros: ancho"});
+    EXPECT_EQ(dialogs.inputFiles.back(), folder.file("canal1.shp"));
+    for (const auto& answers : std::vector<std::deque<std::optional<std::string>>>{
+             {std::nullopt}, {"20", std::nullopt}, {"20", "Lote 7", std::nullopt}}) {
+        dialogs.saveAnswers = {{path, 0}};
+        dialogs.inputAnswers = answers;
+        commands.mnuFileSaveVrt();
+        EXPECT_EQ(dialogs.inputFiles.back(), path);
+    }
+    EXPECT_EQ(dialogs.messages.size(), 1U);
+    EXPECT_FALSE(std::filesystem::exists(nativePath(path)));
+}
+
+TEST_F(PrescCommandsTest, AMapOpensAsAFileOfItsOwn) {
+    const std::string path = rowOfZones({"10", "20"}).write(folder, "lote");
+    session.style().colors.shape = Color::rgb(1, 2, 3);
+    session.style().graduated = false;  // which is about records, not about maps
+    ASSERT_TRUE(session.loadFile(path, true, true));
+    const std::vector<std::string> zones = canvas.callsOf("polypolygon");
+    ASSERT_FALSE(zones.empty());
+    EXPECT_TRUE(zones.back().starts_with("polypolygon fill=0x030201")) << zones.back();
+
+    EXPECT_FALSE(session.loadFile(folder.file("falta.shp"), true, true));
+    ASSERT_EQ(dialogs.messages.size(), 1U);
+    EXPECT_NE(dialogs.messages[0].find("falta.shp"), std::string::npos);
+    EXPECT_EQ(listed(), Names{"lote.shp"});
+}
+
+}  // namespace
+}  // namespace campora

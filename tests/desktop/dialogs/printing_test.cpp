@@ -1,0 +1,163 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+// Page set-up, the dialog to print, the preview, the About box and the window of keys.
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPrintPreviewWidget>
+#include <QPrinter>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSpinBox>
+#include <QTreeWidget>
+#include <gmock/gmock.h>
+
+#include "campora_version.h"
+#include "desktop/dialogs/about_dialog.h"
+#include "desktop/dialogs/keys_dialog.h"
+#include "desktop/dialogs/page_setup_dialog.h"
+#include "desktop/dialogs/print_dialog.h"
+#include "desktop/dialogs/print_preview.h"
+#include "desktop/window_fixture.h"
+
+namespace campora {
+namespace {
+
+using testing::HasSubstr;
+
+TEST(PageSetupDialog, AnswersWhatIsSetInIt) {
+    PageSetup setup;
+    setup.paper = papers()[1];
+    PageSetupDialog dialog(setup, "uno\ndos", Texts(), nullptr);
+    EXPECT_EQ(dialog.setup().paper.key, "A4");
+    EXPECT_TRUE(dialog.setup().landscape);
+    EXPECT_EQ(dialog.setup().margins, setup.margins);
+    EXPECT_EQ(dialog.description(), "uno\ndos");
+
+    dialog.findChild<QComboBox*>("paper")->setCurrentIndex(3);
+    QTest::mouseClick(dialog.findChild<QRadioButton*>("portrait"), Qt::LeftButton);
+    dialog.findChild<QSpinBox*>("marginLeft")->setValue(25);
+    dialog.findChild<QCheckBox*>("includeSummary")->setChecked(false);
+    dialog.findChild<QPlainTextEdit*>("description")->setPlainText("Viento: 8 km/h");
+    EXPECT_EQ(dialog.setup().paper.key, "Letter");
+    EXPECT_FALSE(dialog.setup().landscape);
+    EXPECT_EQ(dialog.setup().margins, (PageMargins{25, 10, 10, 10}));
+    EXPECT_TRUE(dialog.setup().legend && !dialog.setup().summary);
+    EXPECT_EQ(dialog.description(), "Viento: 8 km/h");
+}
+
+TEST(PrintDialog, AlwaysOffersAPdfFile) {
+    struct Row {
+        const char* name;
+        QStringList printers;
+        QString proposed;
+        QString chosen;
+    };
+    const Row rows[] = {
+        {"no printer", {}, "Oficina", ""},
+        {"the last one", {"Casa", "Oficina"}, "Oficina", "Oficina"},
+        {"the last one is gone", {"Casa"}, "Oficina", ""},
+        {"a file", {"Casa"}, "", ""},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        PrintDialog dialog(row.printers, {row.proposed, 3, 300}, Texts(), nullptr);
+        auto* const printer = dialog.findChild<QComboBox*>("printer");
+        EXPECT_EQ(printer->count(), row.printers.size() + 1);
+        EXPECT_EQ(dialog.target().printer, row.chosen);
+        EXPECT_EQ(dialog.target().copies, row.chosen.isEmpty() ? 1 : 3);
+        EXPECT_EQ(dialog.target().dotsPerInch, 300);
+        EXPECT_EQ(dialog.findChild<QSpinBox*>("copies")->isEnabled(), !row.chosen.isEmpty());
+        EXPECT_EQ(dialog.findChild<QLabel*>("noPrinters") != nullptr, row.printers.isEmpty());
+    }
+}
+
+TEST_F(WindowTest, ThePreviewTurnsThePageAndLeavesTheMapAlone) {
+    open({writeReport("lote.rpt")});
+    action(TextId::ActionZoomIn)->trigger();
+    const MapView::Place place = view().place();
+    const QImage before = map().canvas().image().copy();
+
+    PrintPreview preview(window->session(), window.get());
+    preview.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&preview));
+    const auto* pages = preview.findChild<QPrintPreviewWidget*>();
+    EXPECT_EQ(pages->pageCount(), 1);
+    EXPECT_EQ(pages->orientation(), QPageLayout::Landscape);
+    preview.findChild<QAction*>("previewPortrait")->trigger();
+    EXPECT_EQ(pages->orientation(), QPageLayout::Portrait);
+    EXPECT_EQ(settings.values["printLandscape"], "False");
+    for (const char* name :
+         {"previewFitWidth", "previewZoomIn", "previewZoomOut", "previewFitPage"}) {
+        preview.findChild<QAction*>(name)->trigger();
+    }
+    EXPECT_EQ(pages->zoomMode(), QPrintPreviewWidget::FitInView);
+    QTest::keyClick(&preview, Qt::Key_Escape);
+    EXPECT_FALSE(preview.isVisible());
+
+    EXPECT_EQ(view().place().scrollX, place.scrollX);
+    EXPECT_EQ(view().place().scale, place.scale);
+    EXPECT_EQ(map().canvas().image(), before);
+}
+
+TEST_F(WindowTest, PrintingNeedsAMap) {
+    for (const TextId id :
+         {TextId::ActionPageSetup, TextId::ActionPrintPreview, TextId::ActionPrint}) {
+        EXPECT_FALSE(action(id)->isEnabled());
+    }
+    open({writeReport("lote.rpt")});
+    window->active(false, false);  // as a running replay does
+    EXPECT_FALSE(action(TextId::ActionPrint)->isEnabled());
+    window->active(true, false);
+    EXPECT_TRUE(action(TextId::ActionPrint)->isEnabled());
+    EXPECT_TRUE(action(TextId::ActionPrintPreview)->isEnabled());
+}
+
+TEST_F(WindowTest, EscapeOnTheMapLeavesTheTool) {
+    open({writeReport("lote.rpt")});
+    action(TextId::ActionMeasure)->trigger();
+    EXPECT_FALSE(action(TextId::ActionMoveMap)->isChecked());
+    QTest::keyClick(&map(), Qt::Key_Escape);
+    EXPECT_EQ(window->session().tools().tool(), MapTools::Tool::None);
+    EXPECT_TRUE(action(TextId::ActionMoveMap)->isChecked());
+}
+
+TEST(AboutDialog, TellsTheVersionAndCopiesIt) {
+    MemoryClipboard clipboard;
+    AboutDialog dialog(Texts(), clipboard, nullptr);
+    QTest::mouseClick(dialog.findChild<QPushButton*>("copyVersion"), Qt::LeftButton);
+    EXPECT_THAT(clipboard.text, HasSubstr("Campora " + std::string(kVersion)));
+    EXPECT_THAT(clipboard.text, HasSubstr(std::string("Qt ") + qVersion()));
+    EXPECT_EQ(toQt(clipboard.text), dialog.findChild<QPlainTextEdit*>("details")->toPlainText());
+    dialog.show();
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+    EXPECT_FALSE(dialog.isVisible());
+}
+
+TEST(KeysDialog, TellsEveryKeyOfEveryCommand) {
+    for (const Language language : {Language::Spanish, Language::Portuguese, Language::English}) {
+        const Texts texts(language);
+        const KeysDialog dialog(texts, nullptr);
+        const auto* rows = dialog.findChild<QTreeWidget*>();
+        for (const ActionRow& row : actionRows()) {
+            const QString words = toQt(texts(row.text)).remove('&').remove("...");
+            const auto found = rows->findItems(words, Qt::MatchExactly | Qt::MatchRecursive, 1);
+            QStringList keys;
+            for (const QTreeWidgetItem* item : found) {
+                keys += item->text(0).split("   ");
+            }
+            for (const QKeySequence& key : keysOf(row)) {
+                EXPECT_TRUE(keys.contains(key.toString(QKeySequence::NativeText))) << row.name;
+            }
+        }
+        EXPECT_FALSE(rows->findItems(toQt(texts(TextId::GestureWheel)),
+                                     Qt::MatchExactly | Qt::MatchRecursive, 0)
+                         .isEmpty());
+    }
+}
+
+}  // namespace
+}  // namespace campora

@@ -1,0 +1,130 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "desktop/dialogs/shp_export_dialog.h"
+
+#include <filesystem>
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSlider>
+
+#include "desktop/window_fixture.h"
+
+namespace campora {
+namespace {
+
+class ShpExportTest : public WindowTest {
+protected:
+    [[nodiscard]] std::string track(const std::string& name) const {
+        TrackText text;
+        for (std::uint32_t i = 0; i < 30; ++i) {
+            text.addPoint(100 * i, 0, 50, 20);
+        }
+        return folder.write(name, text.bytes());
+    }
+    /// Opens the dialog by its command and acts in it once it stands.
+    void inDialog(const std::vector<std::string>& chosen,
+                  std::function<void(ShpExportDialog&)> act) {
+        dialogs.openAnswers.push_back(chosen);
+        bool acted = false;
+        QTimer::singleShot(0, window.get(), [&] {
+            auto* const dialog = dynamic_cast<ShpExportDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            act(*dialog);
+            acted = true;
+            dialog->close();
+        });
+        action(TextId::ActionExportFiles)->trigger();
+        EXPECT_TRUE(acted);
+    }
+    template <typename Widget>
+    static Widget& in(ShpExportDialog& dialog, const char* name) {
+        return *dialog.findChild<Widget*>(name);
+    }
+    static void press(ShpExportDialog& dialog, const char* name) {
+        QTest::mouseClick(&in<QPushButton>(dialog, name), Qt::LeftButton);
+    }
+    [[nodiscard]] std::uintmax_t sizeOf(const char* name) const {
+        std::error_code error;
+        const auto size = std::filesystem::file_size(folder.file(name), error);
+        return error ? 0 : size;
+    }
+};
+
+TEST_F(ShpExportTest, AListIsExportedLineByLine) {
+    const std::vector<std::string> paths{track("a.nbr"), folder.write("b.nbr", "x"),
+                                         track("c.nbr")};
+    inDialog(paths, [&](ShpExportDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), "Exportar a shp (Poligonos)");
+        EXPECT_EQ(in<QLineEdit>(dialog, "txtOrig").text(), "a.nbr; b.nbr; c.nbr");
+        EXPECT_EQ(in<QLineEdit>(dialog, "txtDest").text(), toQt(folder.path() + "/"));
+        auto& slider = in<QSlider>(dialog, "Slider1");
+        EXPECT_EQ(slider.value(), 10);
+        slider.setValue(500);
+        EXPECT_EQ(in<QLabel>(dialog, "lblSlider").text(), "100");
+        press(dialog, "cmdExport");
+        auto& lines = in<QListWidget>(dialog, "msgs");
+        ASSERT_EQ(lines.count(), 3);
+        EXPECT_EQ(lines.item(0)->text(), "Exportando a.nbr:...........Ok");
+        EXPECT_EQ(lines.item(1)->text(), "Exportando b.nbr:...........Error");
+        EXPECT_EQ(lines.item(2)->text(), "Exportando c.nbr:...........Ok");
+        EXPECT_TRUE(in<QLabel>(dialog, "lblRemark").text().endsWith("/b.nbr"));
+        EXPECT_TRUE(in<QPushButton>(dialog, "cmdExport").isHidden());
+        EXPECT_EQ(in<QPushButton>(dialog, "CmdCancel").text(), "Cerrar");
+    });
+    EXPECT_EQ(sizeOf("a.shx"), 108U) << "one polygon of at most 100 points";
+    EXPECT_EQ(sizeOf("b.shx"), 0U);
+    EXPECT_EQ(sizeOf("c.shx"), 108U);
+}
+
+TEST_F(ShpExportTest, OneFileCanGoElsewhere) {
+    const std::string path = track("a.nbr");
+    inDialog({path}, [&](ShpExportDialog& dialog) {
+        EXPECT_EQ(in<QLineEdit>(dialog, "txtOrig").text(), toQt(path));
+        auto& target = in<QLineEdit>(dialog, "txtDest");
+        EXPECT_EQ(target.text(), toQt(folder.file("a.shp")));
+        target.clear();
+        EXPECT_FALSE(in<QPushButton>(dialog, "cmdExport").isEnabled());
+        dialogs.saveAnswers = {{folder.file("otra.shp"), 0}};
+        for (auto* const button : dialog.findChildren<QPushButton*>()) {
+            if (button->accessibleName() == "Elegir el archivo de destino") {
+                QTest::mouseClick(button, Qt::LeftButton);
+            }
+        }
+        EXPECT_EQ(target.text(), toQt(folder.file("otra.shp")));
+        press(dialog, "cmdExport");
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    EXPECT_EQ(dialogs.messages,
+              std::vector<std::string>{"Information|Campora|Archivo exportado correctamente."});
+    EXPECT_GT(sizeOf("otra.shp"), 100U);
+    EXPECT_EQ(sizeOf("a.shp"), 0U);
+}
+
+TEST_F(ShpExportTest, OneFileLeftAsItIsIsAListOfOne) {
+    inDialog({track("a.nbr")}, [&](ShpExportDialog& dialog) {
+        press(dialog, "cmdExport");
+        auto& lines = in<QListWidget>(dialog, "msgs");
+        ASSERT_EQ(lines.count(), 1);
+        EXPECT_EQ(lines.item(0)->text(), "Exportando a.nbr:...........Ok");
+    });
+    EXPECT_GT(sizeOf("a.shp"), 100U);
+}
+
+TEST_F(ShpExportTest, ClosingDuringARunStopsAfterThePresentFile) {
+    const std::vector<std::string> paths{track("a.nbr"), track("b.nbr")};
+    inDialog(paths, [&](ShpExportDialog& dialog) {
+        clock.onEvents = [&](int) { dialog.close(); };
+        press(dialog, "cmdExport");
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    EXPECT_GT(sizeOf("a.shp"), 100U);
+    EXPECT_EQ(sizeOf("b.shp"), 0U);
+}
+
+}  // namespace
+}  // namespace campora

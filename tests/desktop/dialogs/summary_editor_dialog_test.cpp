@@ -1,0 +1,120 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "desktop/dialogs/summary_editor_dialog.h"
+
+#include <filesystem>
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <QTreeWidget>
+#include <gtest/gtest.h>
+
+#include "base/files.h"
+#include "base/paths.h"
+#include "desktop/dialogs/property_editor.h"
+#include "desktop/platform/qt_text.h"
+#include "support/scripted_platform.h"
+#include "support/temp_folder.h"
+
+namespace campora {
+namespace {
+
+/// The widgets of a summary editor by their names.
+struct EditorWidgets {
+    QWidget& dialog;
+
+    [[nodiscard]] QTreeWidget& list() const { return *dialog.findChild<QTreeWidget*>("DataList"); }
+    [[nodiscard]] QPushButton& button(const char* name) const {
+        return *dialog.findChild<QPushButton*>(name);
+    }
+    [[nodiscard]] QLineEdit& field(const char* name) const {
+        return *dialog.findChild<QLineEdit*>(name);
+    }
+    [[nodiscard]] QString names() const {
+        QStringList texts;
+        for (int i = 0; i < list().topLevelItemCount(); ++i) {
+            texts += list().topLevelItem(i)->text(0);
+        }
+        return texts.join(' ');
+    }
+};
+
+class SummaryEditorDialogTest : public ::testing::Test {
+protected:
+    TempFolder folder;
+    ScriptedDialogs dialogs;
+    Texts texts;
+    std::string path = folder.write("card/Wrk0001.txt", "A:,1,m\r\nB:,2,\r\nC:,3,\r\n");
+    SummaryEditor editor{path, dialogs, texts};
+    SummaryEditorDialog dialog{editor, dialogs, texts, nullptr};
+    EditorWidgets widgets{dialog};
+};
+
+TEST_F(SummaryEditorDialogTest, RowsAreChangedWithTheButtons) {
+    EXPECT_EQ(widgets.names(), "A B C");
+    EXPECT_EQ(widgets.field("txtCampo3").text(), "m");
+    EXPECT_FALSE(widgets.button("cmdQuit").isEnabled());
+    widgets.list().setCurrentItem(widgets.list().topLevelItem(1));
+    EXPECT_EQ(widgets.field("txtCampo1").text(), "B");
+    widgets.button("cmdUp").click();
+    EXPECT_EQ(widgets.names(), "B A C");
+    EXPECT_EQ(widgets.list().indexOfTopLevelItem(widgets.list().currentItem()), 0);
+    widgets.button("cmdDown").click();
+    widgets.button("cmdDown").click();
+    EXPECT_EQ(widgets.names(), "A C B");
+    widgets.field("txtCampo1").setText("D");
+    widgets.button("cmdAdd").click();
+    EXPECT_EQ(widgets.names(), "A C D B");
+    QTest::keyClick(&widgets.field("txtCampo1"), Qt::Key_Return);
+    EXPECT_EQ(widgets.names(), "A C D D");
+    dialogs.answers = {Answer::Yes};
+    widgets.button("cmdQuit").click();
+    EXPECT_EQ(widgets.names(), "A C D");
+    EXPECT_FALSE(widgets.button("cmdChange").isEnabled());
+    widgets.button("cmdAcept").click();
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+    EXPECT_EQ(readFile(path)->text(),
+              "\"A:\",\"1\",\"m\"\r\n\"C:\",\"3\",\"\"\r\n\"D:\",\"2\",\"\"\r\n");
+}
+
+TEST_F(SummaryEditorDialogTest, StaysOpenWhenTheFileCannotBeWritten) {
+    dialog.show();
+    std::filesystem::remove_all(nativePath(folder.file("card")));
+    widgets.button("cmdAcept").click();
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(dialogs.messages.size(), 1U);
+    widgets.button("CmdCancel").click();
+    EXPECT_FALSE(dialog.isVisible());
+}
+
+TEST(PropertyEditor, HandsOverWhatStandsInTheFieldsWhenAccepted) {
+    ScriptedDialogs dialogs;
+    const Texts texts;
+    for (const char* button : {"CmdCancel", "cmdAcept"}) {
+        QTimer::singleShot(0, [button] {
+            const EditorWidgets widgets{*QApplication::activeModalWidget()};
+            widgets.list().setCurrentItem(widgets.list().topLevelItem(0));
+            widgets.field("txtCampo2").setText("13");
+            widgets.button(button).click();  // without the button that changes the row
+            widgets.button("CmdCancel").click();
+        });
+        std::vector<SummaryEntry> kept;
+        editProperties(
+            SummaryRows({{"Hectáreas fumig: ", "12", ""}}),
+            [&kept](const SummaryRows& rows) {
+                kept = rows.rows();
+                return false;  // and the dialog stays
+            },
+            dialogs, texts, nullptr);
+        const bool accepted = button == std::string_view("cmdAcept");
+        ASSERT_EQ(kept.size(), accepted ? 1U : 0U);
+        EXPECT_TRUE(!accepted || kept.front().value == "13");
+    }
+}
+
+}  // namespace
+}  // namespace campora

@@ -1,0 +1,122 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "desktop/widgets/map_widget.h"
+
+#include <QScrollBar>
+#include <QWheelEvent>
+
+#include "desktop/widgets/edge_arrow.h"
+#include "desktop/window_fixture.h"
+
+namespace campora {
+namespace {
+
+class MapWidgetTest : public WindowTest {
+protected:
+    void SetUp() override {
+        WindowTest::SetUp();
+        open({writeReport("lote.rpt")});
+    }
+    void wheel(QPoint at, int delta) {
+        QWheelEvent turn(at, map().mapToGlobal(at), {}, {0, delta}, Qt::NoButton, Qt::NoModifier,
+                         Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&map(), &turn);
+    }
+    /// Off by at most so many pixels from where the position is shown now.
+    void expectShownAt(LonLat position, QPoint pixel, double pixels) {
+        constexpr double units = RasterCanvas::kUnitsPerPixel;
+        const CanvasPoint now = view().transform().mapToScreen(position.x, position.y);
+        EXPECT_NEAR(now.x / units, pixel.x(), pixels);
+        EXPECT_NEAR(now.y / units, pixel.y(), pixels);
+    }
+};
+
+TEST_F(MapWidgetTest, WheelZoomsAboutThePointer) {
+    const QPoint pointer(map().width() / 3, map().height() / 2);
+    const LonLat held = under(pointer);
+    const float whole = view().scaleX();
+    wheel(pointer, 240);
+    EXPECT_FLOAT_EQ(view().scaleX(), whole / 1.5F / 1.5F);
+    expectShownAt(held, pointer, 3);
+    EXPECT_TRUE(view().isPictureMoved());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !view().isPictureMoved(); }));
+    const QImage settled = map().canvas().image();
+    view().setView(view().scaleX(), view().scaleY(), view().scrollX(), view().scrollY());
+    EXPECT_EQ(map().canvas().image(), settled);
+}
+
+TEST_F(MapWidgetTest, MiddleButtonDragsTheMapWithThePointer) {
+    view().zoomIn();
+    view().zoomIn();
+    const QPoint from = map().rect().center();
+    const LonLat held = under(from);
+    QTest::mousePress(&map(), Qt::MiddleButton, {}, from);
+    for (int i = 1; i <= 10; ++i) {
+        const QPointF to = from + QPoint(7 * i, -3 * i);
+        QMouseEvent move(QEvent::MouseMove, to, map().mapToGlobal(to), Qt::NoButton,
+                         Qt::MiddleButton, Qt::NoModifier);
+        QApplication::sendEvent(&map(), &move);
+    }
+    EXPECT_TRUE(view().isPictureMoved());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !view().isPictureMoved(); }))
+        << "drawn while the button is held";
+    QTest::mouseRelease(&map(), Qt::MiddleButton, {}, from + QPoint(70, -30));
+    expectShownAt(held, from + QPoint(70, -30), 3);
+}
+
+TEST_F(MapWidgetTest, KeysZoomAndScroll) {
+    const float whole = view().scaleX();
+    map().setFocus();
+    QTest::keyClick(&map(), Qt::Key_Plus);
+    QTest::keyClick(&map(), Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_FLOAT_EQ(view().scaleX(), whole / 2.25F);
+    QTest::keyClick(&map(), Qt::Key_Minus);
+    EXPECT_FLOAT_EQ(view().scaleX(), whole / 1.5F);
+
+    const std::int32_t before = view().scrollX();
+    QTest::keyClick(&map(), Qt::Key_Right);
+    EXPECT_GT(view().scrollX(), before);
+    QTest::keyClick(&map(), Qt::Key_Left);
+    EXPECT_NEAR(view().scrollX(), before, 1);
+
+    QTest::keyClick(&map(), Qt::Key_0, Qt::ControlModifier);
+    EXPECT_FLOAT_EQ(view().scaleX(), whole);
+}
+
+TEST_F(MapWidgetTest, EdgeArrowsScrollTheirWayAndGoAtTheEdge) {
+    view().zoomIn();
+    QList<EdgeArrow*> shown;
+    for (EdgeArrow* arrow : map().findChildren<EdgeArrow*>()) {
+        EXPECT_TRUE(map().rect().contains(arrow->geometry()));
+        if (arrow->isVisible()) {
+            shown.push_back(arrow);
+        }
+    }
+    ASSERT_EQ(shown.size(), 4);
+    EdgeArrow* const east = *std::max_element(shown.begin(), shown.end(),
+                                              [](auto* a, auto* b) { return a->x() < b->x(); });
+    const LonLat before = under({0, 0});
+    QTest::mouseClick(east, Qt::LeftButton);
+    EXPECT_GT(under({0, 0}).x, before.x);
+    QTest::mouseClick(east, Qt::LeftButton);
+    QTest::mouseClick(east, Qt::LeftButton);
+    EXPECT_FALSE(east->isVisible());
+}
+
+TEST_F(MapWidgetTest, ScrollBarsFollowTheViewAndMoveIt) {
+    QScrollBar& bar = window->mapArea().horizontalBar();
+    const QSize size = map().size();
+    EXPECT_FALSE(bar.isVisible());
+    view().zoomIn();
+    EXPECT_TRUE(bar.isVisible());
+    EXPECT_EQ(map().size(), size);
+    EXPECT_EQ(bar.value(), view().scrollX());
+
+    bar.setValue(bar.maximum());
+    EXPECT_EQ(view().scrollX(), bar.maximum());
+    EXPECT_FALSE(controls().arrows.right);
+}
+
+}  // namespace
+}  // namespace campora

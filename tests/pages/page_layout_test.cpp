@@ -1,0 +1,196 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "pages/page_layout.h"
+
+#include <string>
+#include <vector>
+
+#include <gmock/gmock.h>
+
+namespace campora {
+namespace {
+
+using testing::Contains;
+using testing::Each;
+using testing::HasSubstr;
+using testing::Not;
+
+/// Characters are half as wide as they are high.
+double halfEach(std::string_view text, PageFont font) {
+    double width = 0;
+    for (const char byte : text) {
+        width += (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U ? font.emMm / 2 : 0;
+    }
+    return width;
+}
+
+PageContent content(int classes, int figures, int lines) {
+    PageContent made;
+    made.title = "lote norte.rpt";
+    made.path = "campo/2026/lote norte.rpt";
+    made.program = "Campora 9.9.9";
+    made.printedOn = "Impreso el 31/12/2026";
+    made.legend.unit = "lt/hect";
+    for (int i = 0; i < classes; ++i) {
+        made.legend.classes.push_back({Color::rgb(i, 0, 0), "clase " + std::to_string(i)});
+    }
+    made.legend.reference = {{Color{}, "Fumigado"}, {Color{}, "No fumigado"}, {Color{}, "Fondo"}};
+    for (int i = 0; i < figures; ++i) {
+        made.summary.push_back({"Dato " + std::to_string(i) + ":", std::to_string(i) + " hect"});
+    }
+    for (int i = 0; i < lines; ++i) {
+        made.description += "renglón " + std::to_string(i) + "\n";
+    }
+    return made;
+}
+
+PageSetup setupOf(std::string_view paper, bool landscape, PageMargins margins = {}) {
+    PageSetup setup;
+    for (const Paper& row : papers()) {
+        setup.paper = row.key == paper ? row : setup.paper;
+    }
+    setup.landscape = landscape;
+    setup.margins = margins;
+    return setup;
+}
+
+constexpr MapExtent kExtent{{-60, -33}, 4000, 3000};
+
+PageLayout layOut(const PageSetup& setup, const PageContent& content,
+                  const MapExtent& extent = kExtent) {
+    return layOutPage(setup, content, extent, Texts(Language::English), '.', halfEach);
+}
+
+std::vector<PageRect> everything(const PageLayout& page) {
+    std::vector<PageRect> rects{page.map, page.bar, page.northArrow};
+    for (const PageText& text : page.texts) {
+        rects.push_back(text.place);
+    }
+    for (const PageSwatch& swatch : page.swatches) {
+        rects.push_back(swatch.place);
+    }
+    return rects;
+}
+
+constexpr double kHair = 1e-6;
+
+bool overlap(const PageRect& a, const PageRect& b) {
+    return a.x + kHair < b.right() && b.x + kHair < a.right() && a.y + kHair < b.bottom() &&
+           b.y + kHair < a.bottom();
+}
+
+bool holds(const PageRect& outer, const PageRect& inner) {
+    return inner.x >= outer.x - kHair && inner.y >= outer.y - kHair &&
+           inner.right() <= outer.right() + kHair && inner.bottom() <= outer.bottom() + kHair;
+}
+
+void expectSound(const PageLayout& page) {
+    const std::vector<PageRect> rects = everything(page);
+    for (std::size_t i = 0; i < rects.size(); ++i) {
+        EXPECT_TRUE(holds(page.frame, rects[i])) << i;
+        EXPECT_TRUE(rects[i].width > 0 && rects[i].height > 0) << i;
+        for (std::size_t k = i + 1; k < rects.size(); ++k) {
+            EXPECT_FALSE(overlap(rects[i], rects[k])) << i << " and " << k;
+        }
+    }
+    for (const PageText& text : page.texts) {
+        EXPECT_LE(halfEach(text.text, text.font), text.place.width + kHair) << text.text;
+    }
+}
+
+std::vector<std::string> textsOf(const PageLayout& page) {
+    std::vector<std::string> texts;
+    for (const PageText& text : page.texts) {
+        texts.push_back(text.text);
+    }
+    return texts;
+}
+
+TEST(PageLayout, NothingLiesOnAnythingElseWhateverThePaper) {
+    struct Row {
+        const char* name;
+        PageContent content;
+    };
+    PageContent longNames = content(5, 9, 3);
+    longNames.title.append(200, 'W');
+    longNames.path.append(300, 'm');
+    longNames.program.append(80, 'v');
+    longNames.printedOn.append(80, '0');
+    longNames.legend.classes[2].text.append(90, '8');
+    longNames.summary[3].property.append(60, 'q');
+    longNames.summary[4].value.append(60, 'z');
+    longNames.description.append(500, 'x');
+    const Row rows[] = {
+        {"usual", content(5, 9, 3)},        {"bare", content(0, 0, 0)},
+        {"ten lines", content(5, 9, 10)},   {"many classes", content(40, 9, 10)},
+        {"endless", content(200, 99, 300)}, {"long names", longNames},
+    };
+    for (const Paper& paper : papers()) {
+        for (const bool landscape : {true, false}) {
+            for (const std::int32_t margin : {0, PageMargins::kMost}) {
+                for (const Row& row : rows) {
+                    SCOPED_TRACE(std::string(paper.key) + (landscape ? " landscape " : " ") +
+                                 std::to_string(margin) + " " + row.name);
+                    const PageLayout page =
+                        layOut(setupOf(paper.key, landscape, {margin, margin, margin, margin}),
+                               row.content);
+                    expectSound(page);
+                    EXPECT_GT(page.map.width * page.map.height,
+                              page.frame.width * page.frame.height * 0.3);
+                }
+            }
+        }
+    }
+}
+
+TEST(PageLayout, SaysAllThatItIsGiven) {
+    for (const bool landscape : {true, false}) {
+        const std::vector<std::string> texts =
+            textsOf(layOut(setupOf("A4", landscape), content(5, 9, 10)));
+        for (const char* said :
+             {"lote norte.rpt", "campo/2026/lote norte.rpt", "Campora 9.9.9",
+              "Impreso el 31/12/2026", "Colour scale (lt/hect)", "clase 4", "Other colours",
+              "Fondo", "Summary", "Dato 8:", "8 hect", "Description", "renglón 9", "N"}) {
+            EXPECT_THAT(texts, Contains(said)) << landscape;
+        }
+    }
+}
+
+TEST(PageLayout, LeavesOutWhatIsNotWantedOrEmpty) {
+    PageSetup setup = setupOf("A4", true);
+    const PageLayout full = layOut(setup, content(5, 9, 3));
+    setup.legend = false;
+    setup.summary = false;
+    setup.description = false;
+    const PageLayout bare = layOut(setup, content(5, 9, 3));
+    EXPECT_TRUE(bare.swatches.empty());
+    EXPECT_EQ(full.swatches.size(), 8U);
+    for (const char* gone : {"clase 4", "Summary", "Description", "renglón 1"}) {
+        EXPECT_THAT(textsOf(bare), Not(Contains(gone)));
+    }
+    EXPECT_THAT(textsOf(layOut(setupOf("A4", false), content(5, 0, 0))),
+                Each(Not(testing::AnyOf("Summary", "Description"))));
+    EXPECT_GT(layOut(setupOf("A4", false), content(5, 0, 0)).map.height,
+              layOut(setupOf("A4", false), content(5, 9, 20)).map.height);
+}
+
+TEST(PageLayout, TellsHowMuchIsLeftOut) {
+    const std::vector<std::string> texts = textsOf(layOut(setupOf("A5", true), content(5, 9, 200)));
+    EXPECT_THAT(texts, Contains(HasSubstr(" more")));
+    EXPECT_THAT(texts, Contains("Dato 8:"));
+}
+
+TEST(PageLayout, TheBarAndTheScaleSpeakOfTheSameMap) {
+    for (const bool landscape : {true, false}) {
+        const PageLayout page = layOut(setupOf("A4", landscape), content(5, 9, 3));
+        EXPECT_DOUBLE_EQ(page.scale, scaleThatShows(kExtent, page.map));
+        EXPECT_THAT(textsOf(page), Contains("Scale 1:" + groupedNumber(page.scale)));
+        const double metres = page.bar.width * page.scale / 1000;
+        EXPECT_THAT(textsOf(page), Contains(distanceText(std::round(metres), '.')));
+        EXPECT_NEAR(metres, std::round(metres), 1e-6);
+    }
+}
+
+}  // namespace
+}  // namespace campora
