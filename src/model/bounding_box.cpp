@@ -7,13 +7,8 @@
 
 #include "base/numbers.h"
 #include "model/geodesy.h"
-#include "model/gph.h"
 
 namespace campora {
-
-void BoundingBox::addGph(const Gph& gph) {
-    addBoundingBox(gph.Gph_bound());
-}
 
 bool BoundingBox::equals(const BoundingBox& other) const {
     return minX == other.minX && minY == other.minY && maxX == other.maxX && maxY == other.maxY &&

@@ -7,8 +7,6 @@
 
 namespace campora {
 
-class Gph;
-
 /// Extent of map content in degrees and, accumulated beside it, in metres. The metres depend on the
 /// order in which points came, because the cosine is that of each point's own latitude.
 struct BoundingBox {
@@ -23,7 +21,11 @@ struct BoundingBox {
 
     /// Empty again; the numbers stay until the next add.
     void clear() { isSet = false; }
-    void addGph(const Gph& gph);
+    /// The extent of a layer.
+    template <typename Layer>
+    void addGph(const Layer& layer) {
+        addBoundingBox(layer.Gph_bound());
+    }
     /// All six numbers equal; `isSet` does not count.
     [[nodiscard]] bool equals(const BoundingBox& other) const;
     void addBoundingBox(const BoundingBox& other);
