@@ -9,11 +9,11 @@
 #include <string>
 #include <vector>
 
-#include "model/exportable.h"
 #include "model/file.h"
 #include "presc/channel_zones.h"
 #include "presc/gph_presc.h"
 #include "presc/grid_layout.h"
+#include "presc/multi_channel.h"
 
 namespace campora {
 

@@ -13,6 +13,7 @@
 #include "model/exportable.h"
 #include "model/file.h"
 #include "model/still_layer.h"
+#include "presc/multi_channel.h"
 
 namespace campora {
 

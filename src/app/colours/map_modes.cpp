@@ -13,8 +13,8 @@
 #include "base/numbers.h"
 #include "base/text.h"
 #include "base/typed_number.h"
-#include "model/exportable.h"
 #include "model/work_layer.h"
+#include "presc/multi_channel.h"
 #include "work/gph_track.h"
 #include "work/vex_alarmas.h"
 

@@ -14,7 +14,7 @@
 #include <gtest/gtest.h>
 
 #include "base/typed_number.h"
-#include "model/exportable.h"
+#include "presc/multi_channel.h"
 #include "support/session_desk.h"
 #include "work/gph_track.h"
 
