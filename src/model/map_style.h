@@ -27,7 +27,6 @@ struct MapColors {
 
 enum class ColorMode { Dose, Alarm, Date, Error };
 enum class GraduatedBy { Hectare, Minute };
-enum class WorkKind : unsigned char { Seeder = 0, Sprayer = 1, OlderForm = 2 };
 
 /// Everything that decides how layers look. Menus and options change it, records and layers read
 /// it.
@@ -62,18 +61,6 @@ struct MapStyle {
     /// Whether the legend shows a scale beside the map, whose colours records then take.
     [[nodiscard]] bool scaleShown() const {
         return scale != nullptr && (graduated || mode != ColorMode::Dose);
-    }
-    /// The scale of the work of such a machine; there is one while `scaleShown`.
-    [[nodiscard]] const ColorScale& scaleOf(WorkKind kind) const {
-        return kind == WorkKind::Sprayer || unitScale == nullptr ? *scale : *unitScale;
-    }
-    /// The selection for machines of that kind, a bit an alarm.
-    [[nodiscard]] std::uint32_t checkedAlarms(WorkKind kind) const {
-        return alarmSelection[kind == WorkKind::Sprayer ? 1 : 0];
-    }
-    [[nodiscard]] bool isAlarmChecked(WorkKind kind, int bit) const {
-        return bit >= 0 && bit < 32 &&
-               ((checkedAlarms(kind) >> static_cast<unsigned>(bit)) & 1U) != 0;
     }
 };
 

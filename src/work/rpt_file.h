@@ -9,6 +9,7 @@
 #include <string>
 
 #include "work/report_record.h"
+#include "work/work_kind.h"
 
 namespace campora {
 

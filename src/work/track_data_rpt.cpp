@@ -137,7 +137,7 @@ float TrackDataRPT::getError(int channel) const {
 }
 
 bool TrackDataRPT::onAlarm(const MapStyle& style) const {
-    return (alarms_ & knownAlarms(kind_) & style.checkedAlarms(kind_)) != 0;
+    return (alarms_ & knownAlarms(kind_) & checkedAlarms(style, kind_)) != 0;
 }
 
 Color TrackDataRPT::color(const MapStyle& style) const {
@@ -149,7 +149,7 @@ Color TrackDataRPT::color(const MapStyle& style) const {
         // A record without a date belongs to no day of the map; any class of the scale would claim
         // that it was worked on that day.
         return hasDate_ && style.scale != nullptr
-                   ? style.scaleOf(kind_).getColor(dayNumber(fecha()))
+                   ? scaleOf(style, kind_).getColor(dayNumber(fecha()))
                    : colors.noDraw;
     }
     if (!style.scaleShown()) {
@@ -158,7 +158,7 @@ Color TrackDataRPT::color(const MapStyle& style) const {
     if (style.mode == ColorMode::Error && getError(style.selectedChannel) >= style.errorLimit) {
         return style.errorSample;
     }
-    return style.scaleOf(kind_).getColor(scaledValue(style));
+    return scaleOf(style, kind_).getColor(scaledValue(style));
 }
 
 double TrackDataRPT::scaledValue(const MapStyle& style) const {

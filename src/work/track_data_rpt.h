@@ -10,6 +10,7 @@
 
 #include "base/dates.h"
 #include "model/track_data.h"
+#include "work/work_kind.h"
 
 namespace campora {
 

@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "base/texts.h"
-#include "model/map_style.h"
+#include "work/work_kind.h"
 
 namespace campora {
 

@@ -14,6 +14,7 @@
 #include "platform/dialogs.h"
 #include "platform/user_locale.h"
 #include "work/registrations.h"
+#include "work/work_kind.h"
 
 namespace campora {
 

@@ -8,6 +8,7 @@
 #include "model/map_style.h"
 #include "platform/main_window_controls.h"
 #include "platform/user_locale.h"
+#include "work/work_kind.h"
 
 namespace campora {
 

@@ -17,6 +17,7 @@
 #include "presc/multi_channel.h"
 #include "work/gph_track.h"
 #include "work/vex_alarmas.h"
+#include "work/work_kind.h"
 
 namespace campora {
 
@@ -71,7 +72,7 @@ std::vector<AlarmEntry> MapModes::alarmEntries() const {
         std::string caption = alarmCaption(session_.texts(), i);
         const bool visible = !caption.empty();
         entries.push_back({std::move(caption), visible,
-                           session_.style().isAlarmChecked(kindOfEntry(i), i % kBits)});
+                           isAlarmChecked(session_.style(), kindOfEntry(i), i % kBits)});
     }
     return entries;
 }

@@ -12,6 +12,7 @@
 #include "base/texts.h"
 #include "model/file.h"
 #include "platform/dialogs.h"
+#include "work/work_kind.h"
 #include "work/work_reader.h"
 
 namespace campora {
