@@ -16,7 +16,7 @@
 
 namespace campora {
 
-/// One class of a colour scale: an interval of values, or one value when both bounds are equal.
+/// A class of a colour scale: an interval of values, or one value when both bounds are equal.
 struct Clase {
     Color color;
     double lower = 0;
@@ -104,14 +104,24 @@ public:
     /// Gives a single-value class another value. An interval is refused with a message.
     void setClassValue(int index, double value, Dialogs& dialogs, const Texts& texts);
 
+    // `notify`: whether listeners are told. Those without it tell them unless they say otherwise.
+    /// Gradation: colours all classes in a ramp from `c1` over `c2` to `c3`, and keeps these for
+    /// classes to come. Without `c2` as `degrade2`.
     void degrade(Color c1, std::optional<Color> c2, Color c3, bool notify);
+    /// The same in a ramp of two colours.
     void degrade2(Color c1, Color c2, bool notify);
+    /// Makes the classes equally wide from `min` to `max`, which are the extremes from now on.
     void calcRanges(double min, double max, bool notify);
+    /// One class more between the same extremes. Tells the listeners twice.
     void addClass();
+    /// Takes the last class out; the others share the extremes. A single class stays.
     void quitClass();
+    /// Appends a class, whose bounds are above those of the last one. Tells nobody.
     void addClassManual(double lower, double upper);
+    /// So many new classes between the same extremes, or between others.
     void setClassNumber(int n);
     void setClassNumberExt(int n, double min, double max);
+    /// Leaves a single class with these bounds; the extremes stay. Tells nobody.
     void clearClass(double lower, double upper);
     /// One class a value, from value - value * tolerance to value + value * tolerance.
     /// An empty set changes nothing.

@@ -36,6 +36,7 @@ public:
     [[nodiscard]] virtual std::string File_icon() const = 0;
     /// The file's own scale, or null.
     [[nodiscard]] virtual ColorScale* File_escalaColores() = 0;
+    /// The summary.
     [[nodiscard]] virtual FileProperties& File_resumen() = 0;
     [[nodiscard]] virtual const BoundingBox& File_bound() const = 0;
     /// The layers, first drawn first; they live as long as the file.

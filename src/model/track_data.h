@@ -16,15 +16,16 @@ class TrackData {
 public:
     virtual ~TrackData() = default;
 
-    /// Flow in litres per minute, or the total dose of a report's record.
+    /// Rate of application: litres per minute of a track file, and of a report's record the dose
+    /// of all channels together.
     [[nodiscard]] virtual float caudal() const = 0;
-    virtual void setCaudal(float flow) = 0;
+    virtual void caudal(float rate) = 0;
     /// Swath width in metres.
     [[nodiscard]] virtual float trocha() const = 0;
-    virtual void setTrocha(float metres) = 0;
+    virtual void trocha(float metres) = 0;
 
     [[nodiscard]] virtual Color color(const MapStyle& style) const = 0;
-    /// Lines ended by CR LF for the information box.
+    /// Summary: lines ended by CR LF for the information box.
     [[nodiscard]] virtual std::string resumen(const InfoContext& context) const = 0;
 
     [[nodiscard]] virtual int getColumnCount() const = 0;

@@ -98,7 +98,7 @@ void GphTrack::trocha(float metres) {
     std::visit(
         [metres](auto& records) {
             for (auto& record : records) {
-                record.setTrocha(metres);
+                record.trocha(metres);
             }
         },
         records_);

@@ -27,7 +27,9 @@ public:
     /// tracks.
     TrackDataNBR(float flow, float speed, float swath, std::shared_ptr<const LoggerSource> source);
 
+    /// Speed in km/h.
     [[nodiscard]] float velocidad() const { return speed_; }
+    /// Serial number of the logger.
     [[nodiscard]] const std::string& serie() const { return source_->serie; }
     [[nodiscard]] const std::string& path() const { return source_->path; }
 
@@ -37,10 +39,11 @@ public:
     /// What the scale colours: litres per hectare or per minute.
     [[nodiscard]] double scaledValue(const MapStyle& style) const;
 
+    /// Flow in litres per minute.
     [[nodiscard]] float caudal() const override { return flow_; }
-    void setCaudal(float flow) override { flow_ = flow; }
+    void caudal(float flow) override { flow_ = flow; }
     [[nodiscard]] float trocha() const override { return swath_; }
-    void setTrocha(float metres) override { swath_ = metres; }
+    void trocha(float metres) override { swath_ = metres; }
     [[nodiscard]] Color color(const MapStyle& style) const override;
     [[nodiscard]] std::string resumen(const InfoContext& context) const override;
     [[nodiscard]] int getColumnCount() const override;

@@ -122,7 +122,7 @@ float TrackDataRPT::caudal() const {
     return total(getCaudal());
 }
 
-void TrackDataRPT::setCaudal(float /*flow*/) {}
+void TrackDataRPT::caudal(float /*rate*/) {}
 
 float TrackDataRPT::getError(int channel) const {
     if (channel < 0) {

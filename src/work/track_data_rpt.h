@@ -39,14 +39,18 @@ public:
     explicit TrackDataRPT(const Fields& fields);
 
     [[nodiscard]] int channels() const { return channels_; }
-    [[nodiscard]] std::span<const std::int32_t> getCaudal() const;  ///< real doses, one a channel
-    [[nodiscard]] std::span<const std::int32_t> getDosis() const;   ///< specified doses
-    /// At most kMaxChannels doses; more throw `std::invalid_argument`. The number of channels
-    /// follows the real doses.
+    /// Real doses, one a channel; `caudal` is their sum.
+    [[nodiscard]] std::span<const std::int32_t> getCaudal() const;
+    /// Specified doses, one a channel; `dosisTotal` is their sum.
+    [[nodiscard]] std::span<const std::int32_t> getDosis() const;
+    /// Replace the real and the specified doses: at most kMaxChannels; more throw
+    /// `std::invalid_argument`. The number of channels follows the real doses.
     void setCaudal(std::span<const std::int32_t> real);
     void setDosis(std::span<const std::int32_t> spec);
 
+    /// Speed in km/h.
     [[nodiscard]] float velocidad() const { return speed_; }
+    /// A bit an alarm; `alarmText` says what it means.
     [[nodiscard]] std::uint32_t alarmas() const { return alarms_; }
     void clearAlarmas() { alarms_ = 0; }
     [[nodiscard]] std::int32_t pointIndex() const { return pointIndex_; }
@@ -57,12 +61,16 @@ public:
 
     /// Calendar date, normalized; meaningful with `hasDate`.
     [[nodiscard]] Date fecha() const;
+    /// Time of day, "hh:mm:ss".
     [[nodiscard]] std::string hora() const;
-    /// Days since 30 December 1899 with the time as fraction; `today` stands in without a date.
+    /// Date and time: days since 30 December 1899 with the time as fraction; `today` stands in
+    /// without a date.
     [[nodiscard]] double fechaHora(const Date& today) const;
+    /// Date and time in the user's short form; the time alone without a date.
     [[nodiscard]] std::string fechaHoraStr(const UserLocale& locale) const;
     /// How long after `other` this record is: whole days when there are any, then minutes.
     [[nodiscard]] std::string getTimeDifStr(const TrackDataRPT& other, const Texts& texts) const;
+    /// Sum of the specified doses.
     [[nodiscard]] float dosisTotal() const;
     /// Percentage by which the real dose misses the specified one in `channel` (-1: the totals).
     [[nodiscard]] float getError(int channel) const;
@@ -70,12 +78,12 @@ public:
     [[nodiscard]] double scaledValue(const MapStyle& style) const;
     [[nodiscard]] bool onAlarm(const MapStyle& style) const;
 
-    /// Sum of the real doses.
+    /// Sum of the real doses; for one channel the same as `getCaudal()[0]`.
     [[nodiscard]] float caudal() const override;
     /// Ignored: the total follows from the doses.
-    void setCaudal(float flow) override;
+    void caudal(float rate) override;
     [[nodiscard]] float trocha() const override { return swath_; }
-    void setTrocha(float metres) override { swath_ = metres; }
+    void trocha(float metres) override { swath_ = metres; }
     [[nodiscard]] Color color(const MapStyle& style) const override;
     [[nodiscard]] std::string resumen(const InfoContext& context) const override;
     [[nodiscard]] int getColumnCount() const override;
