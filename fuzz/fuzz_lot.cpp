@@ -10,7 +10,7 @@
 
 #include "base/failure.h"
 #include "lots/gph_lote.h"
-#include "lots/lot_file.h"
+#include "lots/lot.h"
 #include "lots/merge_outlines.h"
 #include "lots/ring_crossing.h"
 

@@ -13,7 +13,7 @@
 #include "work/gph_track.h"
 #include "work/pass_builder.h"
 #include "work/report_survey.h"
-#include "work/rpt_file.h"
+#include "work/rpt_view.h"
 
 namespace {
 

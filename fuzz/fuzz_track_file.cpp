@@ -9,7 +9,7 @@
 #include <string_view>
 
 #include "base/failure.h"
-#include "work/track_file.h"
+#include "work/track_log.h"
 
 using namespace campora;
 

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "base/texts.h"
-#include "lots/lot_file.h"
+#include "lots/lot.h"
 #include "model/file_gph_group.h"
 #include "platform/dialogs.h"
 #include "platform/user_locale.h"

@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "base/lon_lat.h"
-#include "lots/lot_file.h"
+#include "lots/lot.h"
 
 namespace campora {
 

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "base/texts.h"
-#include "lots/lot_file.h"
+#include "lots/lot.h"
 
 namespace campora {
 

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "base/failure.h"
-#include "lots/lot_file.h"
+#include "lots/lot.h"
 
 namespace campora {
 

@@ -10,7 +10,7 @@
 #include "work/pass_builder.h"
 #include "work/reader_tools.h"
 #include "work/report_survey.h"
-#include "work/rpt_file.h"
+#include "work/rpt_view.h"
 
 namespace campora {
 

@@ -14,7 +14,7 @@
 #include "work/gph_track.h"
 #include "work/reader_tools.h"
 #include "work/summary_file.h"
-#include "work/track_file.h"
+#include "work/track_log.h"
 #include "work/value_bounds.h"
 
 namespace campora {

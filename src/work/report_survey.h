@@ -13,7 +13,7 @@
 #include "model/value_ranges.h"
 #include "work/pass_rules.h"
 #include "work/report_check.h"
-#include "work/rpt_file.h"
+#include "work/rpt_view.h"
 #include "work/value_bounds.h"
 
 namespace campora {

@@ -18,7 +18,7 @@
 #include "base/paths.h"
 #include "base/text.h"
 #include "base/text_lines.h"
-#include "work/track_file.h"
+#include "work/track_log.h"
 
 namespace campora {
 

@@ -108,7 +108,7 @@ TEST(Layering, TheRuleTellsAllowedFromForbidden) {
         {"sideways in the core", "work", "export/dbf.h", true, false},
         {"sideways between the programs", "cli", "desktop/main_window.h", true, false},
         {"relative path", "work", "../base/numbers.h", true, false},
-        {"bare neighbour", "work", "rpt_file.h", true, false},
+        {"bare neighbour", "work", "rpt_view.h", true, false},
         {"unknown folder", "misc", "base/numbers.h", true, false},
         {"toolkit class in the core", "app", "QString", false, false},
         {"toolkit module in the core", "app", "QtCore/QString", false, false},

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "lots/lot_file.h"
+#include "lots/lot.h"
 #include "support/temp_folder.h"
 
 namespace campora {

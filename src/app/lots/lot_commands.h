@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "lots/lot_file.h"
+#include "lots/lot.h"
 #include "model/file.h"
 
 namespace campora {

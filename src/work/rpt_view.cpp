@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "work/rpt_file.h"
+#include "work/rpt_view.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "lots/lot_file.h"
+#include "lots/lot.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "work/track_file.h"
+#include "work/track_log.h"
 
 #include <algorithm>
 #include <array>
