@@ -20,8 +20,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     constexpr std::size_t kMostMerged = 200;
     try {
         const std::string_view bytes(reinterpret_cast<const char*>(data), size);
-        const LotFile lot = decodeLot(bytes);
-        const LotFile again = decodeLot(encodeLot(lot.vertices, lot.description));
+        const Lot lot = decodeLot(bytes);
+        const Lot again = decodeLot(encodeLot(lot.vertices, lot.description));
         // Only coordinates of ten decimals are kept, and letters may be read in another code page.
         if (again.vertices.size() != lot.vertices.size() ||
             decodeLot(encodeLot(again.vertices, again.description)).vertices != again.vertices) {

@@ -19,11 +19,11 @@ namespace {
 
 using namespace campora;
 
-void buildTracks(const RptFile& file) {
+void buildTracks(const RptView& report) {
     ValueRanges ranges;
-    const ReportSurvey survey = surveyReport(file, ranges);
+    const ReportSurvey survey = surveyReport(report, ranges);
     FileGphGroup group;
-    addPasses(group, survey.placements, [&](std::size_t i) { return file.record(i); });
+    addPasses(group, survey.placements, [&](std::size_t i) { return report.record(i); });
     for (const Gph* layer : group.File_gphList()) {
         for (const LonLat& point : dynamic_cast<const GphTrack&>(*layer).points()) {
             if (!isFix(point)) {
@@ -37,10 +37,10 @@ void buildTracks(const RptFile& file) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     try {
-        RptFile file(std::as_bytes(std::span(data, size)));
-        if (file.highestChannel() <= RptFile::kHighestChannel) {
-            file.setSwath(16);
-            buildTracks(file);
+        RptView report(std::as_bytes(std::span(data, size)));
+        if (report.highestChannel() <= RptView::kHighestChannel) {
+            report.setSwath(16);
+            buildTracks(report);
         }
     } catch (const FormatError&) {
         // Said to the user; nothing to build.

@@ -16,8 +16,8 @@ using namespace campora;
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string_view text(reinterpret_cast<const char*>(data), size);
     try {
-        const TrackFile file = decodeTrackFile(text);
-        if (!file.points.empty() && (file.passStarts.empty() || file.passStarts.front() != 0)) {
+        const TrackLog log = decodeTrackLog(text);
+        if (!log.points.empty() && (log.passStarts.empty() || log.passStarts.front() != 0)) {
             std::abort();  // points outside of any pass
         }
     } catch (const FormatError&) {

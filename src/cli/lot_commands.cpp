@@ -22,7 +22,7 @@ namespace campora {
 namespace {
 
 /// Says what could not be written; none then.
-std::optional<std::vector<std::string>> save(std::span<const LotFile> lots, const Arguments& to,
+std::optional<std::vector<std::string>> save(std::span<const Lot> lots, const Arguments& to,
                                              const Console& console) {
     const Result<std::vector<std::string>> saved = saveLots(lots, to.output);
     if (!saved) {
@@ -49,7 +49,7 @@ bool spares(const std::vector<std::string>& targets, const Arguments& arguments,
 }  // namespace
 
 int runLot(const Arguments& arguments, const Console& console) {
-    const LotFile lot{arguments.vertices, arguments.description};
+    const Lot lot{arguments.vertices, arguments.description};
     return save({&lot, 1}, arguments, console) ? exit_status::kDone : exit_status::kRefused;
 }
 
@@ -58,10 +58,10 @@ int runMerge(const Arguments& arguments, const Console& console) {
     const BatchLocale locale(arguments);
     const Texts texts(arguments.language);
     int status = exit_status::kDone;
-    std::vector<LotFile> lots;
+    std::vector<Lot> lots;
     for (const std::string& path : arguments.files) {
         if (const auto file = loadLot(path, {dialogs, locale, texts})) {
-            std::vector<LotFile> read = lotsOf(*file);
+            std::vector<Lot> read = lotsOf(*file);
             std::move(read.begin(), read.end(), std::back_inserter(lots));
         } else {
             status = exit_status::kRefused;

@@ -25,11 +25,11 @@ constexpr std::string_view kPerimeter = "Perímetro:";
 constexpr std::string_view kVertices = "Vértices:";
 constexpr std::string_view kDescription = "Descripcion";
 
-void fillSummary(std::span<const LotFile> lots, FileGphGroup& group, const UserLocale& locale) {
+void fillSummary(std::span<const Lot> lots, FileGphGroup& group, const UserLocale& locale) {
     double hectares = 0;
     double perimeter = 0;
     std::size_t vertices = 0;
-    for (const LotFile& lot : lots) {
+    for (const Lot& lot : lots) {
         hectares += ringAreaM2(lot.vertices) / 10'000.0;
         perimeter += ringPerimeter(lot.vertices);
         vertices += lot.vertices.size();
@@ -63,7 +63,7 @@ std::unique_ptr<FileGphGroup> loadLot(std::string_view path, const LotReaderCont
                                 context.texts(TextId::WrongFileFormat));
         return nullptr;
     }
-    const LotFile lot = decodeLot(file->text());
+    const Lot lot = decodeLot(file->text());
     if (lot.vertices.empty()) {
         tell(path, {TextId::LoteWithoutVertices, {}}, context);
         return nullptr;
@@ -75,13 +75,13 @@ std::unique_ptr<FileGphGroup> loadLot(std::string_view path, const LotReaderCont
     return group;
 }
 
-std::unique_ptr<FileGphGroup> makeLotGroup(std::span<const LotFile> lots, std::string_view path,
+std::unique_ptr<FileGphGroup> makeLotGroup(std::span<const Lot> lots, std::string_view path,
                                            std::string_view name, const UserLocale& locale) {
     auto group = std::make_unique<FileGphGroup>();
     group->icon = "ruler";
     group->path = path;
     group->name = name;
-    for (const LotFile& lot : lots) {
+    for (const Lot& lot : lots) {
         group->addGph(std::make_unique<GphLote>(lot.vertices, lot.description));
     }
     fillSummary(lots, *group, locale);

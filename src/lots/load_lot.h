@@ -30,7 +30,7 @@ struct LotReaderContext {
 /// An entry of the file list with a layer a lot and their figures in its summary: hectares and
 /// perimeter in all, vertices, and the description of the first lot. Not empty. `path` may be
 /// empty: of no file.
-[[nodiscard]] std::unique_ptr<FileGphGroup> makeLotGroup(std::span<const LotFile> lots,
+[[nodiscard]] std::unique_ptr<FileGphGroup> makeLotGroup(std::span<const Lot> lots,
                                                          std::string_view path,
                                                          std::string_view name,
                                                          const UserLocale& locale);

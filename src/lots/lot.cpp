@@ -122,9 +122,9 @@ std::string guarded(std::string line) {
 
 }  // namespace
 
-LotFile decodeLot(std::string_view bytes) {
+Lot decodeLot(std::string_view bytes) {
     const std::string text = decodeText(bytes);
-    LotFile lot;
+    Lot lot;
     TextLines lines(text);
     for (std::string_view line; lines.next(line);) {
         const std::optional<LonLat> numbers = numbersOf(line);

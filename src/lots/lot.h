@@ -15,8 +15,8 @@ namespace campora {
 
 inline constexpr std::string_view kLotEnding = ".lot";
 
-/// What a ".lot" file holds.
-struct LotFile {
+/// A lot as a ".lot" file holds it.
+struct Lot {
     /// The ring in order, in degrees; the first vertex is not repeated.
     std::vector<LonLat> vertices;
     /// Lines, each ended by CR LF.
@@ -24,7 +24,7 @@ struct LotFile {
     /// Lines of two numbers that are no position, which stand in the description; by their numbers.
     Occurrences noPositions = {};
 
-    bool operator==(const LotFile&) const = default;
+    bool operator==(const Lot&) const = default;
 };
 
 /// Lines of a description that a file keeps.
@@ -33,7 +33,7 @@ inline constexpr std::size_t kLotDescriptionLines = 10;
 /// The lines of a lot file: those whose first two pieces between commas are the numbers of a place
 /// on the globe are vertices (latitude first, both with their signs turned round), all others the
 /// description. A file without vertices gives a lot without.
-[[nodiscard]] LotFile decodeLot(std::string_view bytes);
+[[nodiscard]] Lot decodeLot(std::string_view bytes);
 
 /// The bytes of a lot file, in Windows-1252: the first ten lines of the description, with a "_"
 /// where one would be read back as a number or a vertex, then a line a vertex. Coordinates have ten

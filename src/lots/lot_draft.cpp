@@ -131,7 +131,7 @@ void LotDraft::redo() {
     step(redo_, undo_);
 }
 
-void LotDraft::start(LotFile lot, LotOrigin origin) {
+void LotDraft::start(Lot lot, LotOrigin origin) {
     *this = {};
     now_.vertices = lot.vertices;
     description_ = lot.description;

@@ -67,7 +67,7 @@ public:
     void redo();
 
     /// Another lot in place of this one, as it is in its file: nothing to undo.
-    void start(LotFile lot, LotOrigin origin = {});
+    void start(Lot lot, LotOrigin origin = {});
     /// The lot is in a file as it is now.
     void markSaved(std::string path);
     /// Whether there are vertices that would be lost; those that were cleared away unsaved count
@@ -78,7 +78,7 @@ private:
     /// Where the lot comes from, and what is there.
     struct Home {
         LotOrigin origin;
-        LotFile saved;
+        Lot saved;
     };
     struct Whole {
         std::string description;

@@ -15,7 +15,7 @@ namespace campora {
 
 namespace {
 
-std::string mergedDescription(std::span<const LotFile> lots, std::span<const std::size_t> which) {
+std::string mergedDescription(std::span<const Lot> lots, std::span<const std::size_t> which) {
     std::vector<std::string> kept;
     for (const std::size_t index : which) {
         for (std::string& line : descriptionLines(lots[index].description)) {
@@ -34,9 +34,9 @@ std::string mergedDescription(std::span<const LotFile> lots, std::span<const std
 
 }  // namespace
 
-MergedLots mergeLots(std::span<const LotFile> lots) {
+MergedLots mergeLots(std::span<const Lot> lots) {
     std::vector<Ring> rings;
-    for (const LotFile& lot : lots) {
+    for (const Lot& lot : lots) {
         rings.push_back(lot.vertices);
     }
     MergedOutlines outlines = mergeOutlines(rings);

@@ -16,14 +16,14 @@ namespace campora {
 struct MergedLots {
     /// One a ring, each with the lines of the descriptions of the lots in it, none twice, at most
     /// ten.
-    std::vector<LotFile> lots;
+    std::vector<Lot> lots;
     /// Empty places that now belong to the lots that surround them.
     int holes = 0;
     /// Lots that enclose nothing; they are left out.
     int withoutArea = 0;
 };
 
-[[nodiscard]] MergedLots mergeLots(std::span<const LotFile> lots);
+[[nodiscard]] MergedLots mergeLots(std::span<const Lot> lots);
 
 /// What the user should know about the result, a sentence each; empty for one lot without a remark.
 [[nodiscard]] std::vector<std::string> mergeRemarks(const MergedLots& merged, const Texts& texts);

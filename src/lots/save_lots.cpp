@@ -66,7 +66,7 @@ std::string olderLots(std::string_view path, std::span<const std::string> saved)
     return names;
 }
 
-Result<std::vector<std::string>> saveLots(std::span<const LotFile> lots, std::string_view path) {
+Result<std::vector<std::string>> saveLots(std::span<const Lot> lots, std::string_view path) {
     std::vector<std::string> paths = lotPaths(path, lots.size());
     std::vector<FileDraft> files;
     for (std::size_t i = 0; i < lots.size(); ++i) {

@@ -23,7 +23,7 @@ namespace campora {
 
 /// Writes each lot into its file, all or none, and answers the files. A failure names the file that
 /// could not be written.
-[[nodiscard]] Result<std::vector<std::string>> saveLots(std::span<const LotFile> lots,
+[[nodiscard]] Result<std::vector<std::string>> saveLots(std::span<const Lot> lots,
                                                         std::string_view path);
 
 }  // namespace campora

@@ -34,43 +34,43 @@ KindNames namesOf(WorkKind kind) {
     return {"Hect. Trabajadas: ", "unid/hect"};
 }
 
-void addDoseEntries(const RptFile& file, const ReportSurvey& survey, const UserLocale& locale,
+void addDoseEntries(const RptView& report, const ReportSurvey& survey, const UserLocale& locale,
                     FileProperties& summary) {
-    const std::int32_t channels = file.highestChannel() + 1;
+    const std::int32_t channels = report.highestChannel() + 1;
     for (std::int32_t channel = 0; channel < channels; ++channel) {
         const std::string suffix = channels == 1 ? ": " : " (C " + numberText(channel + 1) + "):";
         const auto sum = static_cast<double>(survey.doseSums[static_cast<std::size_t>(channel)]);
         summary.addProperty("Dosis Prom." + suffix, shownNumber(survey.perStep(sum), locale),
-                            namesOf(file.workKind()).doseUnit);
+                            namesOf(report.workKind()).doseUnit);
     }
 }
 
-void fillSummary(const RptFile& file, const ReportSurvey& survey, std::string_view path,
+void fillSummary(const RptView& report, const ReportSurvey& survey, std::string_view path,
                  const UserLocale& locale, FileProperties& summary) {
     summary.addProperty(summary_name::kFile, fileNamePart(path), "");
-    summary.addProperty("Numero de Serie:", file.serial(), "");
-    if (const std::uint32_t version = file.version(); version != 0) {
+    summary.addProperty("Numero de Serie:", report.serial(), "");
+    if (const std::uint32_t version = report.version(); version != 0) {
         summary.addProperty(
             "Ver. Firmware:", formatVersion(static_cast<std::uint16_t>(version & 0xFFFFU)), "");
         summary.addProperty(
             "Ver. Hardware:", formatVersion(static_cast<std::uint16_t>(version >> 16U)), "");
     }
-    summary.addProperty(namesOf(file.workKind()).area,
+    summary.addProperty(namesOf(report.workKind()).area,
                         shownNumber(survey.squareMetres / kSquareMetresPerHectare, locale), "");
-    addDoseEntries(file, survey, locale, summary);
+    addDoseEntries(report, survey, locale, summary);
     summary.addProperty(summary_name::kSpeed, shownNumber(survey.perStep(survey.speedSum), locale),
                         "km/h");
-    const TrackDataRPT first(file.record(*survey.start).fields);
+    const TrackDataRPT first(report.record(*survey.start).fields);
     summary.addProperty(summary_name::kStart, first.fechaHoraStr(locale), "");
     const double minutes = static_cast<double>(survey.workingSeconds) / 60;
     summary.addProperty(summary_name::kDuration, numberText(roundToInt32(minutes)), "min");
 }
 
-void addRemarks(const RptFile& file, const ReportSurvey& survey, const UserLocale& locale,
+void addRemarks(const RptView& report, const ReportSurvey& survey, const UserLocale& locale,
                 FileGphGroup& group) {
-    if (const std::size_t bytes = file.cutBytes(); bytes > 0) {
+    if (const std::size_t bytes = report.cutBytes(); bytes > 0) {
         group.addRemark(
-            {TextId::RemarkCutRecord, {numberText(bytes), numberText(file.recordSize())}});
+            {TextId::RemarkCutRecord, {numberText(bytes), numberText(report.recordSize())}});
     }
     if (survey.withoutPosition.count > 0) {
         group.addRemark(survey.withoutPosition.remark(TextId::RemarkNoPosition));
@@ -87,37 +87,37 @@ void addRemarks(const RptFile& file, const ReportSurvey& survey, const UserLocal
 
 std::optional<LoadedWork> readRptFile(std::string_view path, const FileBytes& bytes,
                                       const WorkReaderContext& context) {
-    RptFile file(bytes.bytes());
-    if (file.highestChannel() > RptFile::kHighestChannel) {
+    RptView report(bytes.bytes());
+    if (report.highestChannel() > RptView::kHighestChannel) {
         context.dialogs.message(
-            context.texts.format(TextId::TooManyChannels, {numberText(RptFile::kHighestChannel)}),
+            context.texts.format(TextId::TooManyChannels, {numberText(RptView::kHighestChannel)}),
             MessageIcon::Error, context.texts(TextId::ProgramName));
         return std::nullopt;
     }
     LoadedWork work = startWork(path);
-    ReportSurvey survey = surveyReport(file, work.ranges);
+    ReportSurvey survey = surveyReport(report, work.ranges);
     if (!survey.start) {
         return refuseWithoutPoints(path, context);
     }
     if (const std::optional<Failure> refusal = survey.check.refusal()) {
         throw FormatError(*refusal);
     }
-    if (file.form() == RptFile::Form::FourFields) {
+    if (report.form() == RptView::Form::FourFields) {
         const std::optional<float> swath = askSwath(path, context);
         if (!swath) {
             return std::nullopt;
         }
-        file.setSwath(*swath);
-        survey = surveyReport(file, work.ranges);
+        report.setSwath(*swath);
+        survey = surveyReport(report, work.ranges);
     }
-    addPasses(*work.group, survey.placements, [&](std::size_t i) { return file.record(i); });
+    addPasses(*work.group, survey.placements, [&](std::size_t i) { return report.record(i); });
     if (survey.alarmsAreCounter) {
         work.group->clearAlarmas();
     }
     work.group->icon = "rptfile";
-    work.kind = file.workKind();
-    fillSummary(file, survey, path, context.locale, work.group->File_resumen());
-    addRemarks(file, survey, context.locale, *work.group);
+    work.kind = report.workKind();
+    fillSummary(report, survey, path, context.locale, work.group->File_resumen());
+    addRemarks(report, survey, context.locale, *work.group);
     return work;
 }
 

@@ -33,21 +33,21 @@ std::string_view firstLineOf(std::string_view text) {
 
 /// Adds a track for every pass; widens the ranges of flow and litres per hectare. Whether a point
 /// without flow is among them.
-bool addTracks(const TrackFile& file, const std::shared_ptr<const LoggerSource>& source,
+bool addTracks(const TrackLog& log, const std::shared_ptr<const LoggerSource>& source,
                LoadedWork& work, BoundsCheck& bounds) {
     bool hasFlowStops = false;
-    for (std::size_t pass = 0; pass < file.passStarts.size(); ++pass) {
-        const std::size_t begin = file.passStarts[pass];
-        const bool isLast = pass + 1 == file.passStarts.size();
-        const std::size_t end = isLast ? file.points.size() : file.passStarts[pass + 1];
+    for (std::size_t pass = 0; pass < log.passStarts.size(); ++pass) {
+        const std::size_t begin = log.passStarts[pass];
+        const bool isLast = pass + 1 == log.passStarts.size();
+        const std::size_t end = isLast ? log.points.size() : log.passStarts[pass + 1];
         auto track = std::make_unique<GphTrack>();
         track->reserve(end - begin);
         for (std::size_t i = begin; i < end; ++i) {
-            const TrackPoint& point = file.points[i];
-            bounds.check(BoundedValue::Swath, file.header.swath, i + 1, point.position);
+            const TrackPoint& point = log.points[i];
+            bounds.check(BoundedValue::Swath, log.header.swath, i + 1, point.position);
             bounds.check(BoundedValue::Flow, point.flow, i + 1, point.position);
             bounds.check(BoundedValue::Speed, point.speed, i + 1, point.position);
-            const TrackDataNBR record(point.flow, point.speed, file.header.swath, source);
+            const TrackDataNBR record(point.flow, point.speed, log.header.swath, source);
             extend(work.ranges.flow, point.flow);
             extend(work.ranges.litres, record.litrosH());
             hasFlowStops = hasFlowStops || point.flow == 0;
@@ -68,13 +68,13 @@ std::string displayName(std::string_view path, const TrackHeader& header,
     return header.order == "0" ? name : header.order + " - " + name;
 }
 
-void addRemarks(const TrackFile& file, const BoundsCheck& bounds, const UserLocale& locale,
+void addRemarks(const TrackLog& log, const BoundsCheck& bounds, const UserLocale& locale,
                 FileGphGroup& group) {
-    if (file.shortLines.count > 0) {
-        group.addRemark(file.shortLines.remark(TextId::RemarkShortLines));
+    if (log.shortLines.count > 0) {
+        group.addRemark(log.shortLines.remark(TextId::RemarkShortLines));
     }
-    if (file.offGlobe.count > 0) {
-        group.addRemark(file.offGlobe.remark(TextId::RemarkOffGlobe));
+    if (log.offGlobe.count > 0) {
+        group.addRemark(log.offGlobe.remark(TextId::RemarkOffGlobe));
     }
     bounds.tell(group, locale);
     FileProperties& summary = group.File_resumen();
@@ -109,25 +109,25 @@ std::optional<LoadedWork> readTrackFile(std::string_view path, const FileBytes& 
     if (readTrackHeader(firstLineOf(bytes.text()), path, context.dialogs, context.texts) == 0) {
         return std::nullopt;
     }
-    const TrackFile file = decodeTrackFile(bytes.text());
-    if (file.points.empty()) {
+    const TrackLog log = decodeTrackLog(bytes.text());
+    if (log.points.empty()) {
         return refuseWithoutPoints(path, context);
     }
-    const TrackHeader& header = file.header;
+    const TrackHeader& header = log.header;
     const std::string registration = context.registrations.registrationOf(header.serial);
     LoadedWork work = startWork(path);
     FileGphGroup& group = *work.group;
     BoundsCheck bounds;
-    work.hasFlowStops = addTracks(file,
+    work.hasFlowStops = addTracks(log,
                                   std::make_shared<LoggerSource>(
                                       LoggerSource{header.serial, std::string(path), registration}),
                                   work, bounds);
     group.icon = "nbrfile";
     group.name = displayName(path, header, registration);
     group.id = lowerCase(header.serial) + '-' + header.startTime + '-' + header.date;
-    group.priority = static_cast<std::int32_t>(file.lines - 1);
+    group.priority = static_cast<std::int32_t>(log.lines - 1);
     loadSummaryFile(findIgnoringCase(companionNames(path).summaryPath), group.File_resumen());
-    addRemarks(file, bounds, context.locale, group);
+    addRemarks(log, bounds, context.locale, group);
     return work;
 }
 

@@ -82,14 +82,14 @@ void checkValues(LonLat position, const TrackDataRPT::Fields& fields, std::size_
     }
 }
 
-ReportSurvey surveyReport(const RptFile& file, ValueRanges& ranges) {
+ReportSurvey surveyReport(const RptView& report, ValueRanges& ranges) {
     ReportSurvey survey;
-    survey.placements.assign(file.recordCount(), Placement::LeftOut);
+    survey.placements.assign(report.recordCount(), Placement::LeftOut);
     PassSplitter splitter(kReportLimits);
     RunningTime time;
     CounterCheck counter;
-    for (std::size_t i = 0; i < file.recordCount(); ++i) {
-        const auto [position, fields] = file.record(i);
+    for (std::size_t i = 0; i < report.recordCount(); ++i) {
+        const auto [position, fields] = report.record(i);
         if (!isFix(position)) {
             survey.withoutPosition.add(i + 1);
             survey.check.addDropped();

@@ -45,11 +45,11 @@ struct ReportSurvey {
     }
 };
 
-/// Checks swath, speed and doses of a record on the map; `record`: its number in the file.
+/// Checks swath, speed and doses of a record on the map; `record`: its number in the report.
 void checkValues(LonLat position, const TrackDataRPT::Fields& fields, std::size_t record,
                  BoundsCheck& bounds);
 
 /// Also widens the ranges of doses and dates.
-[[nodiscard]] ReportSurvey surveyReport(const RptFile& file, ValueRanges& ranges);
+[[nodiscard]] ReportSurvey surveyReport(const RptView& report, ValueRanges& ranges);
 
 }  // namespace campora

@@ -36,13 +36,13 @@ constexpr std::int32_t kMostSlots = 4;   // in files of more than one channel
 constexpr std::size_t kFormProbe = 16;
 constexpr std::int32_t kHighestSpeed = 999;
 
-RptFile::Form olderForm(std::span<const std::byte> bytes) {
+RptView::Form olderForm(std::span<const std::byte> bytes) {
     if (bytes.size() < kFormProbe + sizeof(std::int32_t)) {
-        return RptFile::Form::FourFields;
+        return RptView::Form::FourFields;
     }
     const std::int32_t probe = ByteReader(bytes, kFormProbe).i32le();
-    return probe >= 0 && probe <= kHighestSpeed ? RptFile::Form::EightFields
-                                                : RptFile::Form::FourFields;
+    return probe >= 0 && probe <= kHighestSpeed ? RptView::Form::EightFields
+                                                : RptView::Form::FourFields;
 }
 
 bool hasMagic(std::span<const std::byte> bytes) {
@@ -61,8 +61,8 @@ LonLat readPosition(ByteReader& reader) {
     return position;
 }
 
-void readTime(std::uint32_t value, RptFile::Form form, TrackDataRPT::Fields& fields) {
-    if (form == RptFile::Form::Current) {
+void readTime(std::uint32_t value, RptView::Form form, TrackDataRPT::Fields& fields) {
+    if (form == RptView::Form::Current) {
         const DateTime stamp = decodeFatDateTime(value);
         fields.time = stamp.time;
         fields.date = stamp.date;
@@ -76,7 +76,7 @@ void readTime(std::uint32_t value, RptFile::Form form, TrackDataRPT::Fields& fie
 
 }  // namespace
 
-RptFile::RptFile(std::span<const std::byte> bytes) : bytes_(bytes) {
+RptView::RptView(std::span<const std::byte> bytes) : bytes_(bytes) {
     if (hasMagic(bytes)) {
         readHeader();
     } else {
@@ -89,7 +89,7 @@ RptFile::RptFile(std::span<const std::byte> bytes) : bytes_(bytes) {
     recordCount_ = (bytes_.size() - recordsAt_) / recordSize_;
 }
 
-void RptFile::readHeader() {
+void RptView::readHeader() {
     ByteReader reader(bytes_);
     reader.skip(header::kSize);
     reader.seek(header::kSerial);
@@ -103,11 +103,11 @@ void RptFile::readHeader() {
     recordsAt_ = header::kSize;
 }
 
-std::string RptFile::serial() const {
+std::string RptView::serial() const {
     return hexText(serialFirst_, 4) + '-' + hexText(serialSecond_, 8);
 }
 
-ReportRecord RptFile::record(std::size_t i) const {
+ReportRecord RptView::record(std::size_t i) const {
     ByteReader reader(bytes_, recordsAt_ + i * recordSize_);
     ReportRecord result;
     TrackDataRPT::Fields& fields = result.fields;

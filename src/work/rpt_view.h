@@ -13,9 +13,9 @@
 
 namespace campora {
 
-/// A binary report: a header, in the current form, and records to the end of the file. A last
-/// record that is not whole does not count.
-class RptFile {
+/// The bytes of a binary report, read record by record: a header, in the current form, and records
+/// to the end. A last record that is not whole does not count.
+class RptView {
 public:
     enum class Form {
         Current,      ///< with header and date
@@ -28,7 +28,7 @@ public:
 
     /// Recognises the form. The bytes must outlive this object.
     /// Throws `FormatError` when the file ends within its header.
-    explicit RptFile(std::span<const std::byte> bytes);
+    explicit RptView(std::span<const std::byte> bytes);
 
     [[nodiscard]] Form form() const { return form_; }
     [[nodiscard]] WorkKind workKind() const { return kind_; }

@@ -86,11 +86,11 @@ bool isLeap(LonLat from, LonLat to) {
 /// Reads the lines of points.
 class PointReader {
 public:
-    PointReader(float version, LonLat reference, TrackFile& file)
+    PointReader(float version, LonLat reference, TrackLog& log)
         : columns_(version < 2 ? kColumnsBelow2 : kColumnsFrom2),
           hasSpeed_(version >= kFirstVersionWithSpeed),
           reference_(reference),
-          file_(file) {}
+          log_(log) {}
 
     void read(std::string_view line, std::size_t lineNumber) {
         if (trim(line).empty()) {
@@ -98,17 +98,17 @@ public:
             return;
         }
         if (line.size() < columns_.shortest) {
-            file_.shortLines.add(lineNumber);
+            log_.shortLines.add(lineNumber);
             return;
         }
         const TrackPoint point = decode(line);
         if (std::abs(point.position.x) > 180 || std::abs(point.position.y) > 90) {
-            file_.offGlobe.add(lineNumber);
+            log_.offGlobe.add(lineNumber);
             return;
         }
-        auto& points = file_.points;
+        auto& points = log_.points;
         if (points.empty() || passEnded_ || isLeap(points.back().position, point.position)) {
-            file_.passStarts.push_back(points.size());
+            log_.passStarts.push_back(points.size());
         }
         passEnded_ = false;
         points.push_back(point);
@@ -137,7 +137,7 @@ private:
     PointColumns columns_;
     bool hasSpeed_;
     LonLat reference_;
-    TrackFile& file_;
+    TrackLog& log_;
     bool passEnded_ = false;
 };
 
@@ -153,14 +153,14 @@ TrackVersion trackVersion(std::string_view firstLine) {
     return {static_cast<float>(std::clamp(leadingNumber(text).value_or(0), -kMost, kMost)), text};
 }
 
-TrackFile decodeTrackFile(std::string_view text) {
-    TrackFile file;
+TrackLog decodeTrackLog(std::string_view text) {
+    TrackLog log;
     TextLines lines(text);
     std::array<std::string_view, header_line::kLast + 1> header;  // by number
     for (std::size_t number = 1; number <= header_line::kLast; ++number) {
         if (!lines.next(header[number])) {
-            file.lines = lines.lineNumber();
-            return file;
+            log.lines = lines.lineNumber();
+            return log;
         }
     }
     const std::string_view last = header[header_line::kLast];
@@ -168,19 +168,19 @@ TrackFile decodeTrackFile(std::string_view text) {
     const bool utf8 = isUtf8(text.substr(0, headerSize));
     const auto textOf = [&](std::size_t number) { return decodeText(header[number], utf8); };
     const auto numberOf = [&](std::size_t number) { return headerNumber(header[number], number); };
-    file.header = {std::string(trim(textOf(header_line::kOrder))), textOf(header_line::kDate),
-                   textOf(header_line::kStartTime), textOf(header_line::kSerial),
-                   static_cast<float>(numberOf(header_line::kSwath))};
+    log.header = {std::string(trim(textOf(header_line::kOrder))), textOf(header_line::kDate),
+                  textOf(header_line::kStartTime), textOf(header_line::kSerial),
+                  static_cast<float>(numberOf(header_line::kSwath))};
     const LonLat reference{-numberOf(header_line::kReferenceWest),
                            -numberOf(header_line::kReferenceSouth)};
 
-    PointReader reader(trackVersion(header[header_line::kVersion]).number, reference, file);
-    file.points.reserve(reader.mostPoints(text.size() - headerSize));
+    PointReader reader(trackVersion(header[header_line::kVersion]).number, reference, log);
+    log.points.reserve(reader.mostPoints(text.size() - headerSize));
     for (std::string_view line; lines.next(line);) {
         reader.read(line, lines.lineNumber());
     }
-    file.lines = lines.lineNumber();
-    return file;
+    log.lines = lines.lineNumber();
+    return log;
 }
 
 }  // namespace campora

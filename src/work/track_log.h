@@ -42,7 +42,8 @@ struct TrackPoint {
     float speed = 0;  ///< km/h, 0 in files that have none
 };
 
-struct TrackFile {
+/// What a logger recorded in one track file.
+struct TrackLog {
     TrackHeader header;
     /// Lines of the whole file.
     std::size_t lines = 0;
@@ -60,6 +61,6 @@ struct TrackFile {
 /// that are too short, and points beyond 90 or 180 degrees, are skipped and counted. A file that
 /// ends within its header has no points. `text`: the whole file, whose first line names a version.
 /// Throws `FormatError` (the line) when a reference coordinate or the swath width is no number.
-[[nodiscard]] TrackFile decodeTrackFile(std::string_view text);
+[[nodiscard]] TrackLog decodeTrackLog(std::string_view text);
 
 }  // namespace campora

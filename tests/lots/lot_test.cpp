@@ -21,24 +21,24 @@ using Vertices = std::vector<LonLat>;
 
 const Vertices kTriangle = {{-58.5, -34.25}, {-58.4, -34.25}, {-58.4, -34.3}};
 
-TEST(LotFile, HoldsTheDescriptionAndTheVerticesWithTheirSignsTurnedRound) {
+TEST(Lot, HoldsTheDescriptionAndTheVerticesWithTheirSignsTurnedRound) {
     const std::string bytes = encodeLot(kTriangle, "Campo 1");
     EXPECT_EQ(bytes, "Campo 1\r\n"
                      "34.25 , 58.5\r\n"
                      "34.25 , 58.4\r\n"
                      "34.3 , 58.4\r\n");
-    EXPECT_EQ(decodeLot(bytes), (LotFile{kTriangle, "Campo 1\r\n"}));
+    EXPECT_EQ(decodeLot(bytes), (Lot{kTriangle, "Campo 1\r\n"}));
 }
 
-TEST(LotFile, CoordinatesComeBackAsTheyWere) {
+TEST(Lot, CoordinatesComeBackAsTheyWere) {
     const Vertices vertices = {
         {-58, 0}, {0, 12.3456789012}, {180, -90}, {0.0000000001, -0.5}, {-179.9999999999, 89.1}};
     const std::string bytes = encodeLot(vertices, "");
     EXPECT_TRUE(bytes.starts_with(". , 58.\r\n-12.3456789012 , .\r\n90. , -180.\r\n"));
-    EXPECT_EQ(decodeLot(bytes), (LotFile{vertices, ""}));
+    EXPECT_EQ(decodeLot(bytes), (Lot{vertices, ""}));
 }
 
-TEST(LotFile, ALineIsAVertexWhenItsFirstTwoPiecesAreNumbers) {
+TEST(Lot, ALineIsAVertexWhenItsFirstTwoPiecesAreNumbers) {
     struct Row {
         const char* name;
         const char* line;
@@ -68,24 +68,24 @@ TEST(LotFile, ALineIsAVertexWhenItsFirstTwoPiecesAreNumbers) {
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
-        const LotFile lot = decodeLot(std::string(row.line) + "\r\n");
+        const Lot lot = decodeLot(std::string(row.line) + "\r\n");
         EXPECT_EQ(lot.vertices, row.vertices);
         EXPECT_EQ(lot.description,
                   row.vertices.empty() ? std::string(row.line) + "\r\n" : std::string());
     }
 }
 
-TEST(LotFile, TwoNumbersThatAreNoPositionAreDescription) {
+TEST(Lot, TwoNumbersThatAreNoPositionAreDescription) {
     for (const std::string line :
          {"90.1,0", "0,-180.1", "1e400,0", "0,1e400", "-1e400,-1e400", "99999999999,5"}) {
         SCOPED_TRACE(line);
-        const LotFile lot = decodeLot("Campo\r\n1,1\r\n" + line);
-        EXPECT_EQ(lot, (LotFile{{{-1, -1}}, "Campo\r\n" + line + "\r\n", {1, 3}}));
+        const Lot lot = decodeLot("Campo\r\n1,1\r\n" + line);
+        EXPECT_EQ(lot, (Lot{{{-1, -1}}, "Campo\r\n" + line + "\r\n", {1, 3}}));
         EXPECT_EQ(decodeLot(encodeLot(lot.vertices, lot.description)).description, lot.description);
     }
 }
 
-TEST(LotFile, LinesOfTheDescriptionStayDescription) {
+TEST(Lot, LinesOfTheDescriptionStayDescription) {
     struct Row {
         const char* name;
         const char* description;
@@ -107,22 +107,22 @@ TEST(LotFile, LinesOfTheDescriptionStayDescription) {
         SCOPED_TRACE(row.name);
         const std::string bytes = encodeLot({}, row.description);
         EXPECT_EQ(bytes, row.written);
-        EXPECT_EQ(decodeLot(bytes), (LotFile{{}, row.written}));
+        EXPECT_EQ(decodeLot(bytes), (Lot{{}, row.written}));
     }
 }
 
-TEST(LotFile, KeepsTenLinesOfTheDescription) {
+TEST(Lot, KeepsTenLinesOfTheDescription) {
     std::string eleven;
     for (int i = 1; i <= 11; ++i) {
         eleven += "línea " + std::to_string(i) + "\n";
     }
-    const LotFile lot = decodeLot(encodeLot(kTriangle, eleven));
+    const Lot lot = decodeLot(encodeLot(kTriangle, eleven));
     EXPECT_EQ(descriptionLines(lot.description).size(), 10U);
     EXPECT_TRUE(lot.description.ends_with("línea 10\r\n"));
     EXPECT_EQ(lot.vertices, kTriangle);
 }
 
-TEST(LotFile, IsWrittenInTheCodePageOfConsoles) {
+TEST(Lot, IsWrittenInTheCodePageOfConsoles) {
     EXPECT_EQ(encodeLot({}, "Ñandú \u4e00"), "\xD1"
                                              "and\xFA ?\r\n");
     EXPECT_TRUE(decodeLot(encodeLot({}, "ï»¿1,2")).vertices.empty());

@@ -42,7 +42,7 @@ TEST(MergeLots, SaysWhatTheUserShouldKnow) {
           "Lotes que no encierran ninguna superficie y no se unieron: 1"}},
     };
     for (const Row& row : rows) {
-        std::vector<LotFile> lots;
+        std::vector<Lot> lots;
         for (const std::vector<LonLat>& ring : row.rings) {
             lots.push_back({ring, ""});
         }
@@ -52,8 +52,8 @@ TEST(MergeLots, SaysWhatTheUserShouldKnow) {
 
 TEST(MergeLots, EachLineOfTheDescriptionsOnceAndAtMostTen) {
     const MergedLots merged =
-        mergeLots(std::vector<LotFile>{{squareRing(0, 0, 2), "1\r\n2\r\n3\r\n4\r\n5\r\n6\r\n"},
-                                       {squareRing(1, 1, 2), "3\n2\n7\n8\n9\n10\n11\n"}});
+        mergeLots(std::vector<Lot>{{squareRing(0, 0, 2), "1\r\n2\r\n3\r\n4\r\n5\r\n6\r\n"},
+                                   {squareRing(1, 1, 2), "3\n2\n7\n8\n9\n10\n11\n"}});
     ASSERT_EQ(merged.lots.size(), 1U);
     EXPECT_EQ(descriptionLines(merged.lots[0].description),
               (Lines{"1", "2", "3", "4", "5", "6", "7", "8", "9", "10"}));

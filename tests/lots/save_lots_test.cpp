@@ -21,7 +21,7 @@ TEST(SaveLots, OneHasItsNameSeveralAreNumbered) {
 
 TEST(SaveLots, WritesAllOrNamesTheOneThatFails) {
     const TempFolder folder;
-    const LotFile lots[] = {{{{-1, -2}}, "uno"}, {{{-3, -4}}, "dos"}};
+    const Lot lots[] = {{{{-1, -2}}, "uno"}, {{{-3, -4}}, "dos"}};
     const auto saved = saveLots(lots, folder.file("a.lot"));
     ASSERT_TRUE(saved);
     ASSERT_EQ(saved->size(), 2U);

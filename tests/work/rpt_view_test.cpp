@@ -21,7 +21,7 @@ RptBytes::Record record(std::int32_t realTenths, std::int32_t speedTenths = 120)
     return result;
 }
 
-TEST(RptFile, ReadsHeaderAndRecordsOfTheCurrentForm) {
+TEST(RptView, ReadsHeaderAndRecordsOfTheCurrentForm) {
     RptBytes report(3, 0x6203, 0xC0FFEE, 0x10041121);
     RptBytes::Record written = record(985);
     written.realTenths = {985, 80, 19, 7777};
@@ -32,13 +32,13 @@ TEST(RptFile, ReadsHeaderAndRecordsOfTheCurrentForm) {
     report.add(written);
 
     const FileBytes bytes(report.bytes());
-    const RptFile file(bytes.bytes());
-    EXPECT_EQ(file.form(), RptFile::Form::Current);
-    EXPECT_EQ(file.workKind(), WorkKind::Sprayer);
-    EXPECT_EQ(file.serial(), "6203-00C0FFEE");
-    EXPECT_EQ(file.version(), 0x10041121U);
-    ASSERT_EQ(file.recordCount(), 1U);
-    const auto [position, fields] = file.record(0);
+    const RptView view(bytes.bytes());
+    EXPECT_EQ(view.form(), RptView::Form::Current);
+    EXPECT_EQ(view.workKind(), WorkKind::Sprayer);
+    EXPECT_EQ(view.serial(), "6203-00C0FFEE");
+    EXPECT_EQ(view.version(), 0x10041121U);
+    ASSERT_EQ(view.recordCount(), 1U);
+    const auto [position, fields] = view.record(0);
     EXPECT_EQ(position.y, static_cast<float>(written.position.y));
     EXPECT_EQ(position.x, static_cast<float>(written.position.x));
     EXPECT_EQ(fields.channels, 3);
@@ -51,54 +51,54 @@ TEST(RptFile, ReadsHeaderAndRecordsOfTheCurrentForm) {
     EXPECT_EQ(fields.time, (TimeOfDay{18, 3, 32}));
 }
 
-TEST(RptFile, ChannelsDecideTheSizeOfARecord) {
+TEST(RptView, ChannelsDecideTheSizeOfARecord) {
     const std::tuple<std::int32_t, std::int32_t, std::size_t> rows[] = {
         {-5, 0, 32}, {0, 0, 32}, {1, 0, 32}, {2, 1, 56}, {5, 4, 56}, {2147483647, 2147483646, 56}};
     for (const auto& [channels, highest, size] : rows) {
         SCOPED_TRACE(channels);
         const FileBytes bytes(RptBytes(channels).bytes() + std::string(4 * size - 1, '\0'));
-        const RptFile file(bytes.bytes());
-        EXPECT_EQ(file.highestChannel(), highest);
-        EXPECT_EQ(file.recordCount(), 3U) << "the last one is not whole";
+        const RptView view(bytes.bytes());
+        EXPECT_EQ(view.highestChannel(), highest);
+        EXPECT_EQ(view.recordCount(), 3U) << "the last one is not whole";
     }
 }
 
-TEST(RptFile, FiveChannelsShareFourSlots) {
+TEST(RptView, FiveChannelsShareFourSlots) {
     RptBytes report(5);
     RptBytes::Record written = record(0);
     written.realTenths = {10, 20, 30, 40};
     report.add(written);
     const FileBytes bytes(report.bytes());
-    const auto fields = RptFile(bytes.bytes()).record(0).fields;
+    const auto fields = RptView(bytes.bytes()).record(0).fields;
     EXPECT_EQ(fields.channels, 5);
     EXPECT_EQ(fields.real, (TrackDataRPT::Doses{1, 2, 3, 4, 0}));
     EXPECT_FLOAT_EQ(fields.speed, 12) << "speed follows the fourth slot";
 }
 
-TEST(RptFile, TheFifthFieldTellsTheOlderFormsApart) {
-    const std::tuple<std::int32_t, RptFile::Form, std::size_t> rows[] = {
-        {0, RptFile::Form::EightFields, 1},
-        {999, RptFile::Form::EightFields, 1},
-        {1000, RptFile::Form::FourFields, 2},
-        {-1, RptFile::Form::FourFields, 2}};
+TEST(RptView, TheFifthFieldTellsTheOlderFormsApart) {
+    const std::tuple<std::int32_t, RptView::Form, std::size_t> rows[] = {
+        {0, RptView::Form::EightFields, 1},
+        {999, RptView::Form::EightFields, 1},
+        {1000, RptView::Form::FourFields, 2},
+        {-1, RptView::Form::FourFields, 2}};
     for (const auto& [speedTenths, form, records] : rows) {
         SCOPED_TRACE(speedTenths);
         RptBytes report;
         report.add(record(1000, speedTenths));
         const FileBytes bytes(report.bytes());
-        const RptFile file(bytes.bytes());
-        EXPECT_EQ(file.form(), form);
-        EXPECT_EQ(file.recordCount(), records);
+        const RptView view(bytes.bytes());
+        EXPECT_EQ(view.form(), form);
+        EXPECT_EQ(view.recordCount(), records);
     }
 }
 
-TEST(RptFile, TheOlderFormsHaveNoDate) {
+TEST(RptView, TheOlderFormsHaveNoDate) {
     RptBytes eight;
     RptBytes::Record written = record(534, 55);
     written.time.time = {16, 45, 11};
     eight.add(written);
     const FileBytes bytes(eight.bytes());
-    const auto fields = RptFile(bytes.bytes()).record(0).fields;
+    const auto fields = RptView(bytes.bytes()).record(0).fields;
     EXPECT_EQ(fields.time, (TimeOfDay{16, 45, 11}));
     EXPECT_FALSE(fields.date);
     EXPECT_EQ(fields.real[0], 53);
@@ -108,10 +108,10 @@ TEST(RptFile, TheOlderFormsHaveNoDate) {
     four.addFourFields(fixAt(0, 0), 1995);
     four.addFourFields(fixAt(5, 0), 42);
     const FileBytes fourBytes(four.bytes());
-    RptFile file(fourBytes.bytes());
-    file.setSwath(16);
-    EXPECT_EQ(file.record(0).fields.real[0], 200);
-    EXPECT_FLOAT_EQ(file.record(1).fields.swath, 16);
+    RptView view(fourBytes.bytes());
+    view.setSwath(16);
+    EXPECT_EQ(view.record(0).fields.real[0], 200);
+    EXPECT_FLOAT_EQ(view.record(1).fields.swath, 16);
 }
 
 }  // namespace

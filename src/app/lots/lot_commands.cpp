@@ -48,8 +48,8 @@ bool isUnsaved(const File& file) {
 
 }  // namespace
 
-std::vector<LotFile> lotsOf(const File& file) {
-    std::vector<LotFile> lots;
+std::vector<Lot> lotsOf(const File& file) {
+    std::vector<Lot> lots;
     for (const Gph* layer : file.File_gphList()) {
         const auto* const lot = dynamic_cast<const GphLote*>(layer);
         if (lot == nullptr) {
@@ -158,7 +158,7 @@ void LotCommands::mnuLoteSave() {
         return;
     }
     const File& file = *session_.files().currentFile();
-    const std::vector<LotFile> lots = lotsOf(file);
+    const std::vector<Lot> lots = lotsOf(file);
     std::string name = file.File_name();
     if (pathEnding(name) != kLotEnding) {
         name.append(kLotEnding);
@@ -201,11 +201,11 @@ void LotCommands::showSaved(const File& file, const std::vector<std::string>& pa
         session_.texts().format(TextId::LoteSaved, {std::string(fileNamePart(paths.front()))}));
 }
 
-std::vector<LotFile> LotCommands::openLots(bool unsaved) const {
-    std::vector<LotFile> all;
+std::vector<Lot> LotCommands::openLots(bool unsaved) const {
+    std::vector<Lot> all;
     for (int i = 0; i < session_.files().loadedCount(); ++i) {
         const File& file = session_.files().file(i);
-        std::vector<LotFile> lots = lotsOf(file);
+        std::vector<Lot> lots = lotsOf(file);
         if (isUnsaved(file) == unsaved) {
             std::move(lots.begin(), lots.end(), std::back_inserter(all));
         }
@@ -213,8 +213,8 @@ std::vector<LotFile> LotCommands::openLots(bool unsaved) const {
     return all;
 }
 
-std::vector<LotFile> LotCommands::lotsToMerge() const {
-    std::vector<LotFile> lots = openLots(false);
+std::vector<Lot> LotCommands::lotsToMerge() const {
+    std::vector<Lot> lots = openLots(false);
     return lots.empty() ? openLots(true) : lots;
 }
 

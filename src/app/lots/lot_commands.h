@@ -16,7 +16,7 @@ namespace campora {
 class Session;
 
 /// The lots of a file; empty when it holds anything else.
-[[nodiscard]] std::vector<LotFile> lotsOf(const File& file);
+[[nodiscard]] std::vector<Lot> lotsOf(const File& file);
 [[nodiscard]] bool isOneLot(const File& file);
 
 /// Lots are numbered from 0 on, below this.
@@ -64,8 +64,8 @@ public:
 
 private:
     /// Those of all open files that are, or are not, on disk.
-    [[nodiscard]] std::vector<LotFile> openLots(bool unsaved) const;
-    [[nodiscard]] std::vector<LotFile> lotsToMerge() const;
+    [[nodiscard]] std::vector<Lot> openLots(bool unsaved) const;
+    [[nodiscard]] std::vector<Lot> lotsToMerge() const;
     void tell(const std::string& text) const;
 
     /// Shows what was saved in place of the lots of `file`.

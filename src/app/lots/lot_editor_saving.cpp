@@ -81,7 +81,7 @@ void LotEditor::write(const std::string& target) {
         tell(*refused);
         return;
     }
-    const LotFile lot{draft_.vertices(), draft_.description()};
+    const Lot lot{draft_.vertices(), draft_.description()};
     const Result<std::vector<std::string>> saved = saveLots({&lot, 1}, target);
     if (!saved) {
         tell(saved.failure());

@@ -59,7 +59,7 @@ TEST_F(LotCommandsTest, MergedLotsAreShownAndSaved) {
     commands.mnuLoteSave();
     EXPECT_EQ(dialogs.saves[0].name, "Fusionado.lot");
     EXPECT_EQ(listed(), (Names{"los dos.lot", "a.lot", "b.lot"}));
-    const LotFile merged = decodeLot(contentOf(folder.file("los dos.lot")));
+    const Lot merged = decodeLot(contentOf(folder.file("los dos.lot")));
     EXPECT_EQ(merged.vertices.size(), 4U);
     EXPECT_EQ(merged.description, "a.lot\r\nb.lot\r\n");
 }
