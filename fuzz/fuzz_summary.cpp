@@ -18,13 +18,13 @@ using namespace campora;
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string_view text(reinterpret_cast<const char*>(data), size);
     const FileProperties summary = decodeSummary(text);
-    for (const FileProperty& entry : summary.entries()) {
+    for (const SummaryEntry& entry : summary.entries()) {
         if (!isUtf8(entry.property) || !isUtf8(entry.value) || !isUtf8(entry.unit)) {
             std::abort();  // texts inside the program are UTF-8
         }
     }
     std::vector<SummaryEntry> rows;
-    for (const FileProperty& entry : summary.entries()) {
+    for (const SummaryEntry& entry : summary.entries()) {
         rows.push_back(
             {entry.property.substr(0, entry.property.size() - 1), entry.value, entry.unit});
     }

@@ -27,17 +27,17 @@ std::string withUnit(const std::string& value, std::string_view unit, const Text
     return value + " " + shownUnit(unit, texts);
 }
 
-SummaryRow summaryRow(const ShownProperty& row, const Texts& texts) {
+SummaryRow summaryRow(const ShownEntry& row, const Texts& texts) {
     const std::string name = shownSummaryName(row.property, texts);
     const std::string value = withUnit(row.value, row.unit, texts);
     switch (row.origin) {
-    case ShownProperty::Origin::Edited:
+    case ShownEntry::Origin::Edited:
         return {name, texts.format(TextId::EditedValue, {std::string(trim(value))}), true,
                 texts.format(TextId::MeasuredValue,
                              {withUnit(row.measuredValue, row.measuredUnit, texts)})};
-    case ShownProperty::Origin::Added:
+    case ShownEntry::Origin::Added:
         return {name, value, true, std::string(texts(TextId::AddedByHand))};
-    case ShownProperty::Origin::Measured:
+    case ShownEntry::Origin::Measured:
         break;
     }
     return {name, value};
@@ -263,9 +263,9 @@ void Session::showCurrentFile() {
 std::vector<SummaryRow> Session::summaryRows() const {
     std::vector<SummaryRow> rows;
     if (File* const file = files_.currentFile()) {
-        for (const ShownProperty& row : shownProperties(file->File_resumen())) {
+        for (const ShownEntry& row : shownEntries(file->File_resumen())) {
             rows.push_back(summaryRow(row, texts_));
-            rows.back().isDoubtful = row.origin == ShownProperty::Origin::Measured &&
+            rows.back().isDoubtful = row.origin == ShownEntry::Origin::Measured &&
                                      file->File_resumen().isDoubtful(row.property);
             if (rows.back().isDoubtful) {
                 rows.back().value.append(" ").append(kDoubtMark);

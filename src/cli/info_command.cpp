@@ -35,8 +35,8 @@ public:
                      .append(doubtful ? " " : "")
                      .append(doubtful ? kDoubtMark : ""));
         }
-        for (const ShownProperty& row : shownProperties(summary)) {
-            if (row.origin != ShownProperty::Origin::Measured) {
+        for (const ShownEntry& row : shownEntries(summary)) {
+            if (row.origin != ShownEntry::Origin::Measured) {
                 const std::string value = row.value + " " + row.unit;
                 line(texts_.format(
                     TextId::EditedValue,

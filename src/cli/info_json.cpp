@@ -36,7 +36,7 @@ void writeBound(JsonWriter& json, const BoundingBox& box) {
 void writeSummary(JsonWriter& json, const FileProperties& summary) {
     json.key("summary");
     json.beginArray();
-    for (const FileProperty& entry : summary.entries()) {
+    for (const SummaryEntry& entry : summary.entries()) {
         json.beginObject();
         json.member("property", entry.property);
         json.member("value", entry.value);
@@ -53,8 +53,8 @@ void writeEdited(JsonWriter& json, const FileProperties& summary) {
     }
     json.key("edited");
     json.beginArray();
-    for (const ShownProperty& row : shownProperties(summary)) {
-        if (row.origin != ShownProperty::Origin::Measured) {
+    for (const ShownEntry& row : shownEntries(summary)) {
+        if (row.origin != ShownEntry::Origin::Measured) {
             json.beginObject();
             json.member("property", row.property);
             json.member("value", row.value);

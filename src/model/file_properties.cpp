@@ -33,7 +33,7 @@ void FileProperties::setProperty(std::string_view property, std::string_view val
                                  std::string_view unit) {
     const auto found =
         std::find_if(entries_.begin(), entries_.end(),
-                     [property](const FileProperty& entry) { return entry.property == property; });
+                     [property](const SummaryEntry& entry) { return entry.property == property; });
     if (found == entries_.end()) {
         addProperty(property, value, unit);
         return;

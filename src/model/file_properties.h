@@ -17,12 +17,12 @@ namespace campora {
 inline constexpr std::string_view kDoubtMark = "(!)";
 
 /// One entry of a summary. All three are data: they stay in the form they were read or made in.
-struct FileProperty {
+struct SummaryEntry {
     std::string property;
     std::string value;
     std::string unit;
 
-    bool operator==(const FileProperty&) const = default;
+    bool operator==(const SummaryEntry&) const = default;
 };
 
 /// The ordered summary of a file. Indices outside 0 to count() - 1 throw `std::out_of_range`.
@@ -34,7 +34,7 @@ public:
     SummaryEdits edits;
 
     [[nodiscard]] int count() const { return static_cast<int>(entries_.size()); }
-    [[nodiscard]] const std::vector<FileProperty>& entries() const { return entries_; }
+    [[nodiscard]] const std::vector<SummaryEntry>& entries() const { return entries_; }
 
     [[nodiscard]] const std::string& property(int i) const;
     /// Value, a blank and the unit ("12.5 Has"); the blank is there without a unit too.
@@ -57,7 +57,7 @@ public:
     }
 
 private:
-    std::vector<FileProperty> entries_;
+    std::vector<SummaryEntry> entries_;
     std::set<std::string, std::less<>> doubtful_;
 };
 

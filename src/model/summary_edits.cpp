@@ -20,7 +20,7 @@ public:
         : rows_(summary.entries()), taken_(rows_.size(), false) {}
 
     /// Null when no row of that name is left; editors trim the names that readers pad.
-    const FileProperty* take(const std::string& property) {
+    const SummaryEntry* take(const std::string& property) {
         for (std::size_t i = 0; i < rows_.size(); ++i) {
             if (!taken_[i] && trim(rows_[i].property) == trim(property)) {
                 taken_[i] = true;
@@ -29,8 +29,8 @@ public:
         }
         return nullptr;
     }
-    [[nodiscard]] std::vector<const FileProperty*> left() const {
-        std::vector<const FileProperty*> rows;
+    [[nodiscard]] std::vector<const SummaryEntry*> left() const {
+        std::vector<const SummaryEntry*> rows;
         for (std::size_t i = 0; i < rows_.size(); ++i) {
             if (!taken_[i]) {
                 rows.push_back(&rows_[i]);
@@ -40,29 +40,28 @@ public:
     }
 
 private:
-    const std::vector<FileProperty>& rows_;
+    const std::vector<SummaryEntry>& rows_;
     std::vector<bool> taken_;
 };
 
-ShownProperty asMeasured(const FileProperty& row) {
+ShownEntry asMeasured(const SummaryEntry& row) {
     return {row.property, row.value, row.unit};
 }
 
 /// None where a row that stood as it was measured is not measured any more.
-std::optional<ShownProperty> shownRow(const SummaryEdits::Row& row, const FileProperty* measured) {
-    using Origin = ShownProperty::Origin;
+std::optional<ShownEntry> shownRow(const SummaryEdits::Row& row, const SummaryEntry* measured) {
+    using Origin = ShownEntry::Origin;
     if (!row.value) {
         return measured != nullptr ? std::optional(asMeasured(*measured)) : std::nullopt;
     }
     const auto& [value, unit] = *row.value;
     if (measured == nullptr) {
-        return ShownProperty{row.property, value, unit, Origin::Added};
+        return ShownEntry{row.property, value, unit, Origin::Added};
     }
     if (measured->value == value && measured->unit == unit) {
         return asMeasured(*measured);
     }
-    return ShownProperty{row.property,   value,           unit,
-                         Origin::Edited, measured->value, measured->unit};
+    return ShownEntry{row.property, value, unit, Origin::Edited, measured->value, measured->unit};
 }
 
 /// Every measured row in its place.
@@ -70,35 +69,35 @@ bool changesNothing(const SummaryEdits& edits, const FileProperties& summary) {
     return edits.removed.empty() &&
            std::equal(edits.rows.begin(), edits.rows.end(), summary.entries().begin(),
                       summary.entries().end(),
-                      [](const SummaryEdits::Row& row, const FileProperty& entry) {
+                      [](const SummaryEdits::Row& row, const SummaryEntry& entry) {
                           return !row.value && row.property == entry.property;
                       });
 }
 
 }  // namespace
 
-std::vector<ShownProperty> shownProperties(const FileProperties& summary) {
-    std::vector<ShownProperty> shown;
+std::vector<ShownEntry> shownEntries(const FileProperties& summary) {
+    std::vector<ShownEntry> shown;
     Measured measured(summary);
     for (const SummaryEdits::Row& row : summary.edits.rows) {
-        if (std::optional<ShownProperty> found = shownRow(row, measured.take(row.property))) {
+        if (std::optional<ShownEntry> found = shownRow(row, measured.take(row.property))) {
             shown.push_back(std::move(*found));
         }
     }
     for (const std::string& removed : summary.edits.removed) {
         static_cast<void>(measured.take(removed));
     }
-    for (const FileProperty* row : measured.left()) {
+    for (const SummaryEntry* row : measured.left()) {
         shown.push_back(asMeasured(*row));
     }
     return shown;
 }
 
-SummaryEdits editsThatMake(std::span<const FileProperty> rows, const FileProperties& summary) {
+SummaryEdits editsThatMake(std::span<const SummaryEntry> rows, const FileProperties& summary) {
     SummaryEdits edits;
     Measured measured(summary);
-    for (const FileProperty& row : rows) {
-        const FileProperty* const same = measured.take(row.property);
+    for (const SummaryEntry& row : rows) {
+        const SummaryEntry* const same = measured.take(row.property);
         const bool isMeasured = same != nullptr && trim(same->value) == trim(row.value) &&
                                 trim(same->unit) == trim(row.unit);
         edits.rows.push_back({same != nullptr ? same->property : row.property, {}});
@@ -106,21 +105,21 @@ SummaryEdits editsThatMake(std::span<const FileProperty> rows, const FilePropert
             edits.rows.back().value = SummaryEdits::Value{row.value, row.unit};
         }
     }
-    for (const FileProperty* row : measured.left()) {
+    for (const SummaryEntry* row : measured.left()) {
         edits.removed.push_back(row->property);
     }
     return changesNothing(edits, summary) ? SummaryEdits() : edits;
 }
 
 SummaryEdits withoutEdit(const FileProperties& summary, int shownRow) {
-    std::vector<FileProperty> rows;
-    const std::vector<ShownProperty> shown = shownProperties(summary);
+    std::vector<SummaryEntry> rows;
+    const std::vector<ShownEntry> shown = shownEntries(summary);
     for (std::size_t i = 0; i < shown.size(); ++i) {
-        const ShownProperty& row = shown[i];
+        const ShownEntry& row = shown[i];
         const bool isAsked = static_cast<int>(i) == shownRow;
-        if (!isAsked || row.origin == ShownProperty::Origin::Measured) {
+        if (!isAsked || row.origin == ShownEntry::Origin::Measured) {
             rows.push_back({row.property, row.value, row.unit});
-        } else if (row.origin == ShownProperty::Origin::Edited) {
+        } else if (row.origin == ShownEntry::Origin::Edited) {
             rows.push_back({row.property, row.measuredValue, row.measuredUnit});
         }
     }

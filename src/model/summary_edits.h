@@ -10,7 +10,7 @@
 
 namespace campora {
 
-struct FileProperty;
+struct SummaryEntry;
 class FileProperties;
 
 /// What a person put in place of the figures of a summary, which stay what they are.
@@ -39,7 +39,7 @@ struct SummaryEdits {
 };
 
 /// A row of a summary as it is shown.
-struct ShownProperty {
+struct ShownEntry {
     std::string property;
     std::string value;
     std::string unit;
@@ -49,14 +49,14 @@ struct ShownProperty {
     std::string measuredValue = {};
     std::string measuredUnit = {};
 
-    bool operator==(const ShownProperty&) const = default;
+    bool operator==(const ShownEntry&) const = default;
 };
 
 /// The measured rows with the edits of the summary over them.
-[[nodiscard]] std::vector<ShownProperty> shownProperties(const FileProperties& summary);
+[[nodiscard]] std::vector<ShownEntry> shownEntries(const FileProperties& summary);
 
 /// What makes `rows` of the measured entries of `summary`; empty when they are the same.
-[[nodiscard]] SummaryEdits editsThatMake(std::span<const FileProperty> rows,
+[[nodiscard]] SummaryEdits editsThatMake(std::span<const SummaryEntry> rows,
                                          const FileProperties& summary);
 
 /// The edits without what they say about one shown row: an edited one is measured again, an added

@@ -78,7 +78,7 @@ void addRemarks(const TrackLog& log, const BoundsCheck& bounds, const UserLocale
     }
     bounds.tell(group, locale);
     FileProperties& summary = group.File_resumen();
-    for (const FileProperty& entry : summary.entries()) {
+    for (const SummaryEntry& entry : summary.entries()) {
         // The console's own sums; which of them counted the value it does not say.
         if (bounds.foundAny() && !trim(entry.unit).empty()) {
             summary.markDoubtful(entry.property);

@@ -50,7 +50,7 @@ void refuseAnswer(TextId why, const std::string& answer, std::string_view path,
 void tellBounds(const BoundsCheck& bounds, const UserLocale& locale, FileGphGroup& group) {
     bounds.tell(group, locale);
     FileProperties& summary = group.File_resumen();
-    for (const FileProperty& entry : summary.entries()) {
+    for (const SummaryEntry& entry : summary.entries()) {
         const bool isArea = entry.property.starts_with("Hect");
         const bool isDose = entry.property.starts_with("Dosis");
         const bool isSpeed = entry.property == summary_name::kSpeed;

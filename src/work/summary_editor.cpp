@@ -27,12 +27,12 @@ std::string oneLine(std::string_view field) {
 }
 
 SummaryEntry oneLine(const SummaryEntry& entry) {
-    return {oneLine(entry.name), oneLine(entry.value), oneLine(entry.unit)};
+    return {oneLine(entry.property), oneLine(entry.value), oneLine(entry.unit)};
 }
 
 SummaryEntry trimmed(const SummaryEntry& entry) {
-    const auto [name, value, unit] = oneLine(entry);
-    return {std::string(trim(name)), std::string(trim(value)), std::string(trim(unit))};
+    const auto [property, value, unit] = oneLine(entry);
+    return {std::string(trim(property)), std::string(trim(value)), std::string(trim(unit))};
 }
 
 std::string quoted(std::string_view field) {
@@ -49,7 +49,7 @@ bool isUtf8Beyond(std::string_view bytes) {
 
 std::vector<SummaryEntry> entriesOf(const FileProperties& summary) {
     std::vector<SummaryEntry> entries;
-    for (const FileProperty& row : summary.entries()) {
+    for (const SummaryEntry& row : summary.entries()) {
         entries.push_back({row.property.substr(0, row.property.size() - 1), row.value, row.unit});
     }
     return entries;
@@ -105,7 +105,7 @@ void SummaryRows::acceptFields() {
     const auto row = selected_
                          ? rows_.begin() + *selected_
                          : std::find_if(rows_.begin(), rows_.end(), [&](const SummaryEntry& entry) {
-                               return trim(entry.name) == typed.name;
+                               return trim(entry.property) == typed.property;
                            });
     if (row == rows_.end()) {
         rows_.push_back(typed);
@@ -175,7 +175,7 @@ void askAndRemove(SummaryRows& rows, Dialogs& dialogs, const Texts& texts) {
 std::string encodeSummary(const std::vector<SummaryEntry>& rows) {
     std::string text;
     for (const SummaryEntry& row : rows) {
-        text.append(quoted(row.name + ":")).append(",").append(quoted(row.value));
+        text.append(quoted(row.property + ":")).append(",").append(quoted(row.value));
         text.append(",").append(quoted(row.unit)).append("\r\n");
     }
     return text;

@@ -9,20 +9,13 @@
 #include <vector>
 
 #include "base/texts.h"
+#include "model/file_properties.h"
 #include "platform/dialogs.h"
 
 namespace campora {
 
-/// One row of a summary as it is edited; of a summary file, the name without the ":" at its end.
-struct SummaryEntry {
-    std::string name;
-    std::string value;
-    std::string unit;
-
-    bool operator==(const SummaryEntry&) const = default;
-};
-
-/// The rows of a summary with the one that is selected and the texts of the input fields.
+/// The rows of a summary with the one that is selected and the texts of the input fields. Of a
+/// summary file, the properties stand without the ":" at their end.
 class SummaryRows {
 public:
     /// What the user has typed.
@@ -93,8 +86,8 @@ private:
 /// Asks before the selected row is taken out; nothing happens without one.
 void askAndRemove(SummaryRows& rows, Dialogs& dialogs, const Texts& texts);
 
-/// The rows as the lines of a summary file: every field in double quotes, which are doubled inside
-/// (RFC 4180), CR LF at the end. UTF-8.
+/// The rows as the lines of a summary file, a ":" behind every property: every field in double
+/// quotes, which are doubled inside (RFC 4180), CR LF at the end. UTF-8.
 [[nodiscard]] std::string encodeSummary(const std::vector<SummaryEntry>& rows);
 
 }  // namespace campora

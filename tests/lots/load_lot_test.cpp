@@ -34,7 +34,7 @@ TEST_F(LoadLot, MakesAnEntryOfTheList) {
     EXPECT_EQ(file->icon, "ruler");
     EXPECT_EQ(file->File_diskPath(), path);
     EXPECT_EQ(file->File_id(), "");
-    const std::vector<FileProperty> expected = {
+    const std::vector<SummaryEntry> expected = {
         {"Nombre Archivo:", "Lote Ñ.lot", ""}, {"Superficie:", "124", "Has"},
         {"Perímetro:", "4453", "m"},           {"Vértices:", "4", ""},
         {"Descripcion", "Campo 1", ""},        {"", "Soja", ""},

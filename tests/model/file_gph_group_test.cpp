@@ -103,13 +103,13 @@ TEST(FileGphGroup, ErrorHectaresAndAlarmsComeFromItsWork) {
     group.calcErrorArea(style, comma);
     summary.addProperty("Operario:", "", "");
     style.mode = ColorMode::Alarm;
-    const std::vector<FileProperty> on = summary.entries();
+    const std::vector<SummaryEntry> on = summary.entries();
     group.calcErrorArea(style, comma);
 
-    EXPECT_EQ(on, (std::vector<FileProperty>{{"Fecha:", "29/11/2017", ""},
+    EXPECT_EQ(on, (std::vector<SummaryEntry>{{"Fecha:", "29/11/2017", ""},
                                              {"Hectareas Error", "3,8", "Has"},
                                              {"Operario:", "", ""}}));
-    EXPECT_EQ(summary.entries(), (std::vector<FileProperty>{{"Fecha:", "29/11/2017", ""},
+    EXPECT_EQ(summary.entries(), (std::vector<SummaryEntry>{{"Fecha:", "29/11/2017", ""},
                                                             {"Hectareas Error", "", ""},
                                                             {"Operario:", "", ""}}));
     group.clearAlarmas();

@@ -17,7 +17,7 @@ TEST(FileProperties, SetReplacesTheFirstOfItsNameOrAppends) {
     summary.addProperty("Dosis", "20", "lt");
     summary.setProperty("Dosis", "12,5", "lt/hect");
     summary.setProperty("Fecha", "hoy", "");
-    const std::vector<FileProperty> expected = {{"Dosis", "12,5", "lt/hect"},
+    const std::vector<SummaryEntry> expected = {{"Dosis", "12,5", "lt/hect"},
                                                 {"dosis", "1", ""},
                                                 {"Dosis", "20", "lt"},
                                                 {"Fecha", "hoy", ""}};

@@ -48,7 +48,7 @@ TEST_F(PrescVexTest, SumsUpItsChannelsByTheDosesOfNow) {
     add("dos", {"20", "30"}, {0, 0});
     const auto entries = [this] { return vex.File_resumen().entries(); };
     // 0.01 degrees squared at the equator: 111 x 111 cells of 10 m, or 11 x 11 of 100 m.
-    EXPECT_EQ(entries(), (std::vector<FileProperty>{{"Archivo (C 1)", "uno.shp", ""},
+    EXPECT_EQ(entries(), (std::vector<SummaryEntry>{{"Archivo (C 1)", "uno.shp", ""},
                                                     {"Columna (C 1)", "DOSIS", ""},
                                                     {"Archivo (C 2)", "dos.shp", ""},
                                                     {"Columna (C 2)", "DOSIS", ""},

@@ -64,7 +64,7 @@ inline std::vector<std::string> summaryLines(const LoadedWork& work) {
 
 /// The value of the entry of that name, "(none)" without one.
 inline std::string summaryValue(const LoadedWork& work, std::string_view property) {
-    for (const FileProperty& entry : work.group->File_resumen().entries()) {
+    for (const SummaryEntry& entry : work.group->File_resumen().entries()) {
         if (entry.property == property) {
             return entry.value;
         }

@@ -44,7 +44,7 @@ std::unique_ptr<FileGphGroup> open(Reader reader, const std::string& name) {
 
 /// The number in the summary entry whose name begins with `property`.
 double figure(FileGphGroup& group, std::string_view property, char symbol = '.') {
-    for (const FileProperty& entry : group.File_resumen().entries()) {
+    for (const SummaryEntry& entry : group.File_resumen().entries()) {
         if (entry.property.starts_with(property)) {
             return leadingNumber(entry.value, symbol).value_or(NAN);
         }

@@ -277,7 +277,7 @@ TEST(DamagedFiles, WhatOpensAllTheSameHasRemarks) {
         }
         EXPECT_EQ(remarks, row.remarks);
         std::vector<std::string> doubtful;
-        for (const FileProperty& entry : work.group->File_resumen().entries()) {
+        for (const SummaryEntry& entry : work.group->File_resumen().entries()) {
             if (work.group->File_resumen().isDoubtful(entry.property)) {
                 doubtful.push_back(entry.property);
             }

@@ -21,12 +21,12 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-/// "name|value|unit" a row, the selected one with a "*".
+/// "property|value|unit" a row, the selected one with a "*".
 std::vector<std::string> shown(const SummaryRows& rows) {
     std::vector<std::string> texts;
     for (const SummaryEntry& row : rows.rows()) {
         const bool selected = rows.selected() == static_cast<int>(texts.size());
-        texts.push_back((selected ? "*" : "") + row.name + "|" + row.value + "|" + row.unit);
+        texts.push_back((selected ? "*" : "") + row.property + "|" + row.value + "|" + row.unit);
     }
     return texts;
 }

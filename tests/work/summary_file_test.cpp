@@ -13,7 +13,7 @@
 namespace campora {
 namespace {
 
-using Entries = std::vector<FileProperty>;
+using Entries = std::vector<SummaryEntry>;
 
 TEST(SummaryFile, ReadsNameValueAndUnit) {
     const std::tuple<const char*, std::string, Entries> rows[] = {

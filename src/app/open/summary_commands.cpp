@@ -73,7 +73,7 @@ void SummaryCommands::reread() {
 SummaryRows SummaryCommands::rows() const {
     std::vector<SummaryEntry> entries;
     if (File* const file = session_.files().currentFile()) {
-        for (const ShownProperty& row : shownProperties(file->File_resumen())) {
+        for (const ShownEntry& row : shownEntries(file->File_resumen())) {
             entries.push_back({row.property, row.value, row.unit});
         }
     }
@@ -85,11 +85,7 @@ bool SummaryCommands::keep(const SummaryRows& rows) {
     if (file == nullptr) {
         return false;
     }
-    std::vector<FileProperty> shown;
-    for (const SummaryEntry& row : rows.rows()) {
-        shown.push_back({row.name, row.value, row.unit});
-    }
-    return keep(editsThatMake(shown, file->File_resumen()));
+    return keep(editsThatMake(rows.rows(), file->File_resumen()));
 }
 
 bool SummaryCommands::keep(SummaryEdits edits) {
@@ -126,9 +122,9 @@ bool SummaryCommands::isEdited(int row) const {
     if (file == nullptr || row < 0) {
         return false;
     }
-    const std::vector<ShownProperty> shown = shownProperties(file->File_resumen());
+    const std::vector<ShownEntry> shown = shownEntries(file->File_resumen());
     const auto index = static_cast<std::size_t>(row);
-    return index < shown.size() && shown[index].origin != ShownProperty::Origin::Measured;
+    return index < shown.size() && shown[index].origin != ShownEntry::Origin::Measured;
 }
 
 bool SummaryCommands::hasEdits() const {

@@ -155,8 +155,8 @@ void SummaryRowsView::showRows() {
         const QSignalBlocker quiet(list_);
         list_->clear();
         for (const SummaryEntry& row : rows_.rows()) {
-            new QTreeWidgetItem(list_,
-                                {shownName(row.name), shownName(row.value), shownName(row.unit)});
+            new QTreeWidgetItem(
+                list_, {shownName(row.property), shownName(row.value), shownName(row.unit)});
         }
         if (selected) {
             list_->setCurrentItem(list_->topLevelItem(*selected));
@@ -168,7 +168,7 @@ void SummaryRowsView::showRows() {
 }
 
 void SummaryRowsView::showFields() {
-    fields_[0]->setText(toQt(rows_.fields.name));
+    fields_[0]->setText(toQt(rows_.fields.property));
     fields_[1]->setText(toQt(rows_.fields.value));
     fields_[2]->setText(toQt(rows_.fields.unit));
 }

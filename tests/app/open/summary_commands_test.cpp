@@ -55,7 +55,7 @@ struct EditsDesk : SessionDesk {
 
 TEST(SummaryCommands, EditsAreShownBesideWhatWasMeasuredAndStay) {
     EditsDesk desk;
-    const std::vector<FileProperty> measured = desk.summary().entries();
+    const std::vector<SummaryEntry> measured = desk.summary().entries();
     const std::string speed = desk.row("Vel Promedio:").value;
     ASSERT_TRUE(desk.edit("Vel Promedio:", "9"));
     ASSERT_TRUE(desk.edit("Hectáreas fumig:", "3")) << "its name ends in a blank";
