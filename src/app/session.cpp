@@ -14,6 +14,7 @@
 #include "app/window_title.h"
 #include "base/text.h"
 #include "model/file_gph_group.h"
+#include "model/shown_summary.h"
 #include "work/color_modes.h"
 
 namespace campora {

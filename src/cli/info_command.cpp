@@ -11,6 +11,7 @@
 #include "cli/commands.h"
 #include "cli/info_json.h"
 #include "model/exportable.h"
+#include "model/shown_summary.h"
 
 namespace campora {
 

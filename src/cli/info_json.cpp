@@ -10,6 +10,7 @@
 #include "cli/json_writer.h"
 #include "lots/gph_lote.h"
 #include "model/exportable.h"
+#include "model/shown_summary.h"
 #include "presc/gph_presc.h"
 #include "presc/grid_layer.h"
 

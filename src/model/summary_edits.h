@@ -4,14 +4,10 @@
 #pragma once
 
 #include <optional>
-#include <span>
 #include <string>
 #include <vector>
 
 namespace campora {
-
-struct SummaryEntry;
-class FileProperties;
 
 /// What a person put in place of the figures of a summary, which stay what they are.
 struct SummaryEdits {
@@ -37,30 +33,5 @@ struct SummaryEdits {
     [[nodiscard]] bool empty() const { return rows.empty() && removed.empty(); }
     bool operator==(const SummaryEdits&) const = default;
 };
-
-/// A row of a summary as it is shown.
-struct ShownEntry {
-    std::string property;
-    std::string value;
-    std::string unit;
-    enum class Origin { Measured, Edited, Added };
-    Origin origin = Origin::Measured;
-    /// Of an edited row: what was measured.
-    std::string measuredValue = {};
-    std::string measuredUnit = {};
-
-    bool operator==(const ShownEntry&) const = default;
-};
-
-/// The measured rows with the edits of the summary over them.
-[[nodiscard]] std::vector<ShownEntry> shownEntries(const FileProperties& summary);
-
-/// What makes `rows` of the measured entries of `summary`; empty when they are the same.
-[[nodiscard]] SummaryEdits editsThatMake(std::span<const SummaryEntry> rows,
-                                         const FileProperties& summary);
-
-/// The edits without what they say about one shown row: an edited one is measured again, an added
-/// one is gone.
-[[nodiscard]] SummaryEdits withoutEdit(const FileProperties& summary, int shownRow);
 
 }  // namespace campora

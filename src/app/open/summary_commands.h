@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "model/summary_edits.h"
+#include "model/shown_summary.h"
 #include "work/summary_editor.h"
 
 namespace campora {

@@ -1,13 +1,13 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "model/summary_edits.h"
+#include "model/shown_summary.h"
 
 #include <algorithm>
 #include <cstddef>
+#include <optional>
 
 #include "base/text.h"
-#include "model/file_properties.h"
 
 namespace campora {
 
