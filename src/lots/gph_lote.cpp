@@ -105,7 +105,7 @@ std::int32_t GphLote::ExportablePolygon_polygonNCount(const MapStyle& /*style*/,
 
 LonLat GphLote::ExportablePolygon_polygonNpoint(std::int32_t polygon, std::int32_t point) const {
     if (polygon != 0) {
-        throw std::out_of_range("one polygon");
+        throw std::out_of_range("GphLote.polygonNpoint: the only polygon is 0");
     }
     const auto index = static_cast<std::size_t>(point);
     return vertices_.at(point >= getPointCnt() ? 0 : index);

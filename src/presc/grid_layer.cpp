@@ -123,7 +123,7 @@ ColorScale* GridLayer::File_escalaColores() {
 
 void GridLayer::checkCell(std::int32_t cell) const {
     if (cell < 0 || cell >= cellCount()) {
-        throw std::out_of_range("GphTrack.polygonNpoint: Numero de polygono fuera de rango");
+        throw std::out_of_range("GridLayer.polygonNpoint: Numero de polygono fuera de rango");
     }
 }
 
@@ -181,7 +181,7 @@ std::int32_t GridLayer::ExportablePolygon_polygonNCount(const MapStyle& /*style*
 
 LonLat GridLayer::ExportablePolygon_polygonNpoint(std::int32_t polygon, std::int32_t point) const {
     if (point < 0 || point >= kCorners) {
-        throw std::out_of_range("GphTrack.polygonNpoint: Punto del polygono fuera de rango");
+        throw std::out_of_range("GridLayer.polygonNpoint: Punto del polygono fuera de rango");
     }
     checkCell(polygon);
     LonLat place = corner(polygon);

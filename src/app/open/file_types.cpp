@@ -13,7 +13,7 @@ namespace {
 
 struct FileType {
     std::string_view ending;
-    /// The name under which the type is known, on machines that have had earlier programs too.
+    /// The name of the type, which never changes: a registration that is there is renewed.
     std::string_view type;
     std::string_view picture;
 };
