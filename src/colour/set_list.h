@@ -24,9 +24,8 @@ public:
     [[nodiscard]] const std::vector<double>& getSet() const;
     /// Number of distinct values.
     [[nodiscard]] int count() const { return static_cast<int>(getSet().size()); }
-    /// Sum and number of all values added, repeats included.
+    /// Sum of all values added, repeats included.
     [[nodiscard]] double sum() const { return sum_; }
-    [[nodiscard]] std::int32_t addedCount() const { return added_; }
 
     /// Mean of all values added; 0 for an empty set.
     [[nodiscard]] float getRealAverage() const;

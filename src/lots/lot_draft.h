@@ -59,7 +59,6 @@ public:
     void move(LonLat position);
     /// `keep`: false puts everything back as it was before the move.
     void endMove(bool keep);
-    [[nodiscard]] bool isMoving() const { return before_.has_value(); }
 
     [[nodiscard]] bool canUndo() const { return !undo_.empty(); }
     [[nodiscard]] bool canRedo() const { return !redo_.empty(); }

@@ -77,11 +77,6 @@ void GphTrack::reserve(std::size_t points) {
     }
 }
 
-void GphTrack::shrinkToFit() {
-    points_.shrink_to_fit();
-    std::visit([](auto& records) { records.shrink_to_fit(); }, records_);
-}
-
 const TrackData& GphTrack::pointInfo(std::int32_t index) const {
     return std::visit(
         [index](const auto& records) -> const TrackData& {

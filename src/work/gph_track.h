@@ -33,8 +33,6 @@ public:
     void addPoint(double x, double y, const TrackDataNBR& record);
     /// Makes room for this many points in all.
     void reserve(std::size_t points);
-    /// Gives back the room that was reserved and not used.
-    void shrinkToFit();
 
     [[nodiscard]] bool empty() const { return points_.empty(); }
     [[nodiscard]] const std::vector<LonLat>& points() const { return points_; }

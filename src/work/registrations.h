@@ -26,8 +26,6 @@ public:
     /// The first registration given for a serial stays.
     void add(std::string_view serial, std::string_view registration);
 
-    [[nodiscard]] std::size_t size() const { return bySerial_.size(); }
-
 private:
     std::map<std::string, std::string, std::less<>> bySerial_;
 };

@@ -85,6 +85,9 @@ TEST(ColorScale, AddedAndRemovedClassesShareTheExtremes) {
     scale.quitClass();
     ASSERT_EQ(scale.count(), 5);
     EXPECT_EQ(scale.getClass(4), (Clase{kRed, 80, 100}));
+    scale.clearClass(3, 7);
+    EXPECT_EQ(scale.classes(), (std::vector{Clase{kYellow, 3, 7}}));
+    EXPECT_EQ(scale.valueMax(), 100);
 }
 
 TEST(ColorScale, ClassPerValueOfASet) {

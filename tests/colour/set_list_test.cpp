@@ -32,11 +32,9 @@ TEST(SetList, KeepsDistinctValuesAndTotalsOfAll) {
         SCOPED_TRACE(row.name);
         SetList set;
         SetList older;
-        int numbers = 0;
         for (const double value : row.added) {
             set.addDosis(value);
             older.addDosisOld(value);
-            numbers += std::isnan(value) ? 0 : 1;
         }
         EXPECT_EQ(set.getSet(), row.ascending);
         EXPECT_EQ(older.getSet(),
@@ -44,7 +42,6 @@ TEST(SetList, KeepsDistinctValuesAndTotalsOfAll) {
         EXPECT_EQ(set.count(), static_cast<int>(row.ascending.size()));
         for (const SetList* list : {&set, &older}) {
             EXPECT_DOUBLE_EQ(list->sum(), row.sum);
-            EXPECT_EQ(list->addedCount(), numbers);
             EXPECT_FLOAT_EQ(list->getRealAverage(), row.realAverage);
         }
         EXPECT_FLOAT_EQ(set.getAverage(), row.average);
@@ -64,7 +61,7 @@ TEST(SetList, ManyValuesInAnyOrderStayDistinctAndAscending) {
     for (int i = 0; i < kMany; ++i) {
         ASSERT_EQ(set.getSet()[static_cast<std::size_t>(i)], i);
     }
-    EXPECT_EQ(set.addedCount(), 2 * kMany);
+    EXPECT_EQ(set.getRealAverage(), (kMany - 1) / 2.0F);
 }
 
 TEST(SetList, SumIsTakenToSinglePrecisionBeforeDividing) {

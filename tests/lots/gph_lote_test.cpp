@@ -43,6 +43,7 @@ TEST(GphLote, IsExportedAsAClosedRing) {
     EXPECT_EQ(lot.ExportablePolygon_polygonNCount(style, 1), 0);
     EXPECT_EQ(lot.ExportablePolygon_polygonNpoint(0, 2), (LonLat{-58.4, -34.3}));
     EXPECT_EQ(lot.ExportablePolygon_polygonNpoint(0, 3), (LonLat{-58.5, -34.25}));
+    EXPECT_EQ((LonLat{lot.getPointX(2), lot.getPointY(2)}), (LonLat{-58.4, -34.3}));
     EXPECT_EQ(GphLote().ExportablePolygon_polygonNCount(style, 0), 0);
 }
 

@@ -79,7 +79,7 @@ TEST_F(PrescTest, ARecordCountsOncePerPart) {
     presc.setColumnaDosis(1);
     ASSERT_NE(presc.currentDosisSet(), nullptr);  // an empty record has no say
     EXPECT_EQ(presc.currentDosisSet()->sum(), 60);
-    EXPECT_EQ(presc.currentDosisSet()->addedCount(), 4);
+    EXPECT_EQ(presc.currentDosisSet()->getRealAverage(), 15);
     EXPECT_EQ(presc.Gph_count(), 3);
     EXPECT_EQ(presc.searchOrder(), (std::vector<std::int32_t>{0, 1}));
 }

@@ -221,6 +221,17 @@ TEST(R2Tree, ModesOfFinding) {
     EXPECT_FALSE(R2Tree().Find(0, 0, 0, 0, 3));
 }
 
+TEST(R2Tree, CountsItsNodesTheirRoomAndItsSteps) {
+    R2Tree tree;
+    for (int i = 0; i < 51; ++i) {
+        tree.Insert(i, 0, i, 0, i);
+    }
+    EXPECT_EQ(tree.NodesCount(), 3);
+    EXPECT_DOUBLE_EQ(tree.SpaceUtilization(), 53.0 / 150);
+    EXPECT_TRUE(tree.Find(0, 50, 0, 0, R2Tree::kOverlapping));
+    EXPECT_EQ(tree.Accesses(), 3);
+}
+
 TEST(R2Tree, TakesTheWidestCoordinates) {
     constexpr std::int32_t low = std::numeric_limits<std::int32_t>::min();
     constexpr std::int32_t high = std::numeric_limits<std::int32_t>::max();

@@ -38,8 +38,9 @@ TEST(TrackDataNBR, DescribesItself) {
     const Texts texts;
     const FixedLocale locale(',');
     const MapStyle style;
-    EXPECT_EQ(loggerRecord(25.5F, 200, 20, {"6001", "log0001.nbr", "LV-XYZ"})
-                  .resumen({texts, locale, style}),
+    const TrackDataNBR record = loggerRecord(25.5F, 200, 20, {"6001", "log0001.nbr", "LV-XYZ"});
+    EXPECT_EQ(record.serie() + record.path(), "6001log0001.nbr");
+    EXPECT_EQ(record.resumen({texts, locale, style}),
               "Velocidad: 200 km/h\r\nCaudal: 25,5 lts/min\r\nAncho de labor: 20 mts\r\n"
               "Lt/Hect: 3,8\r\nAvion: LV-XYZ\r\n");
 }

@@ -71,6 +71,18 @@ TEST(TrackDataRPT, TotalsOfLargeDosesDoNotWrap) {
     EXPECT_EQ(record.dosisTotal(), 1e10F);
 }
 
+TEST(TrackDataRPT, TellsItsTimeAndHowLongAfterAnotherItIs) {
+    TrackDataRPT::Fields later = twoChannels();
+    later.time = {6, 0, 0};
+    EXPECT_EQ(TrackDataRPT(later).fechaHora(kDay), dayNumber(kDay) + 0.25);
+    const TrackDataRPT first(twoChannels());
+    EXPECT_EQ(TrackDataRPT(later).getTimeDifStr(first, Texts()), "1375");
+    later.date = Date{2018, 3, 2};
+    EXPECT_EQ(TrackDataRPT(later).getTimeDifStr(first, Texts()), "2 Días1375");
+    later.date.reset();
+    EXPECT_EQ(TrackDataRPT(later).getTimeDifStr(first, Texts()), "1375");
+}
+
 TEST(TrackDataRPT, TakesItsColourFromTheMode) {
     ColorScale scale;
     scale.calcRanges(0, 240, false);
