@@ -31,7 +31,7 @@ public:
     [[nodiscard]] std::int32_t getPointCnt() const {
         return static_cast<std::int32_t>(vertices_.size());
     }
-    /// Hectares, by `polygonArea`.
+    /// Hectares, by `polygonArea` and as exact as it.
     [[nodiscard]] float hectares() const;
 
     [[nodiscard]] std::string_view Gph_kind() const override { return "GphLote"; }

@@ -12,7 +12,8 @@ namespace campora {
 /// A layer of recorded work, as far as a file group deals with it.
 class WorkLayer : public Gph {
 public:
-    /// Hectares worked with an error above `limit` percent in the channel that `style` selects.
+    /// Hectares worked with an error above `limit` percent in the channel that `style` selects:
+    /// length times width of steps, so that ground worked twice counts twice.
     [[nodiscard]] virtual float getHectareasError(const MapStyle& style, float limit) const = 0;
     /// Whether a record says what dose it should have had, which makes an error of another one.
     [[nodiscard]] virtual bool hasSpecifiedDose() const = 0;

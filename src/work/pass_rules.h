@@ -59,6 +59,7 @@ public:
     /// `swath`: metres. The area of a step is as wide as the record it starts from.
     Placement place(LonLat position, float swath);
 
+    /// Length times width of every step: ground that was worked twice counts twice.
     [[nodiscard]] double squareMetres() const { return squareMetres_; }
     [[nodiscard]] std::int64_t steps() const { return steps_; }
 

@@ -72,7 +72,8 @@ private:
 /// wrongly, never no.
 [[nodiscard]] bool swathMayCover(LonLat from, LonLat to, double widthMetres, LonLat position);
 
-/// Length of a step on the ground, metres, with the cosine of the latitude where it ends.
+/// Length of a step on the ground, metres, with the cosine of the latitude where it ends: off by
+/// some millionths for a step of 10 metres.
 [[nodiscard]] double stepMetres(LonLat from, LonLat to);
 
 }  // namespace campora

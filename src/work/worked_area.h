@@ -14,7 +14,8 @@
 
 namespace campora {
 
-/// What was worked with one value: a dose, or litres per minute.
+/// What was worked with one value: a dose, or litres per minute. Length times width of steps:
+/// ground that was worked twice counts twice.
 struct ValueArea {
     double value = 0;
     double squareMetres = 0;
