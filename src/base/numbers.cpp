@@ -16,9 +16,6 @@ namespace {
 constexpr bool isBlank(char c) {
     return c == ' ' || c == '\t';
 }
-constexpr bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
 
 template <typename Float>
 std::string fixedText(Float value) {

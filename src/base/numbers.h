@@ -13,6 +13,10 @@
 
 namespace campora {
 
+[[nodiscard]] constexpr bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
 /// Nearest whole number, halves to even (2.5 gives 2, 3.5 gives 4).
 [[nodiscard]] double roundHalfEven(double value);
 

@@ -24,10 +24,6 @@ constexpr double kFinestMinute = 1e8;
 /// In degrees. Keeps a whole minute from coming out as 59.99999999 seconds of the one before.
 constexpr double kNudge = 5e-13;
 
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
 /// The number that the whole text is: a sign, digits and a decimal symbol, nothing else. A lone
 /// decimal symbol, which is what a number looks like while it is typed, is 0.
 std::optional<double> wholeNumber(std::string_view text, char decimalSymbol) {

@@ -24,10 +24,6 @@ constexpr double kDateLine = 180;
 /// What keeps a line of the description from being read as something else.
 constexpr char kMark = '_';
 
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
 std::size_t takeDigits(std::string_view& text) {
     const auto* const end = std::find_if_not(text.begin(), text.end(), isDigit);
     const auto count = static_cast<std::size_t>(end - text.begin());

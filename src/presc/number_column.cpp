@@ -8,15 +8,13 @@
 #include <cmath>
 #include <cstddef>
 
+#include "base/numbers.h"
+
 namespace campora {
 
 namespace {
 
 constexpr std::size_t kGroup = 3;
-
-bool isDigit(char c) {
-    return c >= '0' && c <= '9';
-}
 
 /// Whether the digits before the decimals stand in groups of three with `separator` between them,
 /// the first group as short as need be and without a zero in front.
