@@ -70,7 +70,7 @@ public:
             return;
         }
         target_ = *place;
-        tidy(target_.parent_path());
+        removeLeftovers(target_.parent_path());
         const std::error_code error = file_.create(target_.parent_path());
         if (error == std::errc::no_such_file_or_directory) {
             // The folder is there, and takes no new files; what is missing is not the target.

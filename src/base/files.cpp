@@ -66,7 +66,7 @@ bool readAll(std::FILE* file, std::size_t expected, std::atomic<std::size_t>& pr
 /// Why a file that a program was killed over is not whole with its set.
 std::optional<Failure> whyUnsettled(const fs::path& file) {
     std::error_code ignored;
-    return settle(linkedFile(file, ignored));
+    return settleSetOf(linkedFile(file, ignored));
 }
 
 Result<FileBytes> readWaiting(const std::string& path, std::atomic<std::size_t>& progress) {

@@ -236,7 +236,7 @@ std::optional<Failure> undoUnfinishedSet(const fs::path& folder) {
     return error ? std::optional(unfinished(reasonOf(error))) : std::nullopt;
 }
 
-void tidy(const fs::path& folder) {
+void removeLeftovers(const fs::path& folder) {
     const FolderLock lock(folder, 0);
     if (!lock.isHeld() || undoUnfinishedSet(folder)) {
         return;
@@ -252,7 +252,7 @@ void tidy(const fs::path& folder) {
     std::for_each(left.begin(), left.end(), removeUnlocked);
 }
 
-std::optional<Failure> settle(const fs::path& file) {
+std::optional<Failure> settleSetOf(const fs::path& file) {
     const fs::path folder = file.parent_path();
     std::error_code ignored;
     if (!isTaken(folder / kJournal, ignored)) {

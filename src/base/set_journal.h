@@ -54,10 +54,10 @@ struct SetMember {
 [[nodiscard]] std::optional<Failure> undoUnfinishedSet(const std::filesystem::path& folder);
 
 /// Deletes what programs that run no more have left in a folder, unless others are at work there.
-void tidy(const std::filesystem::path& folder);
+void removeLeftovers(const std::filesystem::path& folder);
 
 /// To be called before a file is read: it is not of a half-written set any more; else why not.
-[[nodiscard]] std::optional<Failure> settle(const std::filesystem::path& file);
+[[nodiscard]] std::optional<Failure> settleSetOf(const std::filesystem::path& file);
 
 /// How long a program waits for another that writes into the same folder, seconds.
 inline constexpr int kFolderPatience = 10;

@@ -30,11 +30,11 @@ void SetList::addDosis(double value) {
     // follow each time: they wait behind the others until as many more have come.
     values_.push_back(value);
     if (values_.size() > 2 * sorted_ + kMostWaiting) {
-        settle();
+        sortIn();
     }
 }
 
-void SetList::settle() const {
+void SetList::sortIn() const {
     const auto waiting = values_.begin() + static_cast<std::ptrdiff_t>(sorted_);
     std::stable_sort(waiting, values_.end());
     std::inplace_merge(values_.begin(), waiting, values_.end());
@@ -44,7 +44,7 @@ void SetList::settle() const {
 
 const std::vector<double>& SetList::getSet() const {
     if (sorted_ < values_.size()) {
-        settle();
+        sortIn();
     }
     return values_;
 }

@@ -38,7 +38,7 @@ private:
     [[nodiscard]] bool addToTotals(double value);
 
     /// Takes the values that wait behind the sorted ones in among them.
-    void settle() const;
+    void sortIn() const;
 
     mutable std::vector<double> values_;
     /// So many values, from the first on, are in order and distinct.
