@@ -3,15 +3,13 @@
 
 #include "app/temporary_folder.h"
 
-#include <cstddef>
 #include <filesystem>
-#include <random>
 #include <string_view>
 #include <system_error>
 #include <vector>
 
 #include "base/file_access.h"
-#include "base/numbers.h"
+#include "base/fresh_name.h"
 #include "base/paths.h"
 
 namespace campora {
@@ -20,15 +18,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::string_view kBegin = "campora-";
+constexpr OwnNames kFolders{"campora-"};
 /// Locked as long as its owner runs; the folder itself is locked by those who write into it.
 constexpr std::string_view kLock = ".campora-owner";
-constexpr int kDigits = 8;  // of each of two numbers
-
-bool isOurName(std::string_view name) {
-    return name.size() == kBegin.size() + std::size_t{2} * kDigits && name.starts_with(kBegin) &&
-           name.find_first_not_of("0123456789ABCDEF", kBegin.size()) == std::string_view::npos;
-}
 
 /// Deletes what programs that run no more have left in `parent`.
 void tidyFolders(const fs::path& parent) {
@@ -37,7 +29,7 @@ void tidyFolders(const fs::path& parent) {
     for (fs::directory_iterator entry(parent, error); !error && entry != fs::directory_iterator();
          entry.increment(error)) {
         std::error_code ignored;
-        if (isOurName(pathText(entry->path().filename())) &&
+        if (isOwnName(pathText(entry->path().filename()), kFolders) &&
             entry->symlink_status(ignored).type() == fs::file_type::directory) {
             left.push_back(entry->path());
         }
@@ -70,9 +62,7 @@ Result<std::string> TemporaryFolder::file(std::string_view name) {
         const fs::path parent = fs::temp_directory_path(error);
         tidyFolders(parent);
         // A name that nobody foresees: whoever made the folder first could put a link into it.
-        std::random_device random;
-        const fs::path made = parent / (std::string(kBegin) + hexText(random(), kDigits) +
-                                        hexText(random(), kDigits));
+        const fs::path made = parent / freshName(kFolders);
         if (error || !fs::create_directory(made, error)) {
             return fileFailure(TextId::FileCannotBeWritten, pathText(made), error);
         }

@@ -7,13 +7,12 @@
 #include <cerrno>
 #include <chrono>
 #include <cstddef>
-#include <random>
 #include <string>
 #include <thread>
 #include <utility>
 
 #include "base/file_access.h"
-#include "base/numbers.h"
+#include "base/fresh_name.h"
 
 namespace campora {
 
@@ -21,9 +20,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::string_view kBegin = ".campora-";
-constexpr std::string_view kEnd = ".tmp";
-constexpr int kDigits = 8;  // of each of two numbers
 constexpr int kTries = 100;
 
 /// What another file holds, where a file without a name could not be given one.
@@ -51,22 +47,6 @@ bool isUnableToName(const std::error_code& error) {
 }
 
 }  // namespace
-
-std::string freshName() {
-    std::random_device random;
-    std::string name(kBegin);
-    name += hexText(random(), kDigits);
-    name += hexText(random(), kDigits);
-    return name.append(kEnd);
-}
-
-bool isOwnName(std::string_view name) {
-    constexpr std::string_view kHex = "0123456789abcdefABCDEF";
-    return name.size() == kBegin.size() + std::size_t{2} * kDigits + kEnd.size() &&
-           name.starts_with(kBegin) && name.ends_with(kEnd) &&
-           name.substr(kBegin.size(), std::size_t{2} * kDigits).find_first_not_of(kHex) ==
-               std::string_view::npos;
-}
 
 OwnFile& OwnFile::operator=(OwnFile&& other) noexcept {
     std::swap(folder_, other.folder_);

@@ -4,19 +4,12 @@
 #pragma once
 
 #include <filesystem>
-#include <string>
-#include <string_view>
 #include <system_error>
 #include <utility>
 
 #include "base/disk_calls.h"
 
 namespace campora {
-
-/// A name that begins with a point and that no other file has.
-[[nodiscard]] std::string freshName();
-/// Whether it is such a name.
-[[nodiscard]] bool isOwnName(std::string_view name);
 
 /// A file of this program's own in a folder, deleted with the object. Without a name as long as it
 /// needs none, where the system can do that: then nothing is left even when the program is killed.

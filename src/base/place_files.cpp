@@ -10,6 +10,7 @@
 
 #include "base/disk_calls.h"
 #include "base/file_access.h"
+#include "base/fresh_name.h"
 #include "base/paths.h"
 #include "base/set_journal.h"
 

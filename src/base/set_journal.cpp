@@ -13,6 +13,7 @@
 
 #include "base/disk_calls.h"
 #include "base/file_access.h"
+#include "base/fresh_name.h"
 #include "base/paths.h"
 
 namespace campora {
