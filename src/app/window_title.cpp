@@ -5,6 +5,7 @@
 
 #include <cstddef>
 
+#include "base/encoding.h"
 #include "campora_version.h"
 
 namespace campora {
@@ -13,17 +14,6 @@ namespace {
 
 constexpr std::string_view kSeparators = "\\/";
 constexpr int kMostCharacters = 50;
-
-/// The last characters of a UTF-8 text.
-std::string_view lastCharacters(std::string_view text, int count) {
-    std::size_t begin = text.size();
-    for (int seen = 0; begin > 0 && seen < count;) {
-        --begin;
-        const bool startsCharacter = (static_cast<unsigned char>(text[begin]) & 0xC0U) != 0x80U;
-        seen += startsCharacter ? 1 : 0;
-    }
-    return text.substr(begin);
-}
 
 std::string bracketed(std::string_view text) {
     return "Campora - [" + std::string(text) + "]";

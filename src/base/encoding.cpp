@@ -3,8 +3,6 @@
 
 #include "base/encoding.h"
 
-#include <algorithm>
-#include <array>
 #include <cstdint>
 #include <cstring>
 #include <optional>
@@ -14,22 +12,20 @@ namespace campora {
 namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-constexpr char16_t kReplacement = 0xFFFD;
+constexpr char32_t kReplacement = 0xFFFD;
 
-/// The characters 0x80 to 0x9F of Windows-1252, 0 where the code page leaves the byte open.
 /// Source: Unicode Consortium, mapping table CP1252.TXT.
-constexpr std::array<char16_t, 32> kHigh1252 = {
-    0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,  //
-    0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0,      0x017D, 0,       //
-    0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,  //
-    0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
+// clang-format off
+constexpr UpperHalf k1252 =
+    u"€\uFFFD‚ƒ„…†‡ˆ‰Š‹Œ\uFFFDŽ\uFFFD\uFFFD‘’“”•–—˜™š›œ\uFFFDžŸ"
+    u"\u00A0¡¢£¤¥¦§¨©ª«¬\u00AD®¯°±²³´µ¶·¸¹º»¼½¾¿"
+    u"ÀÁÂÃÄÅÆÇÈÉÊËÌÍÎÏÐÑÒÓÔÕÖ×ØÙÚÛÜÝÞß"
+    u"àáâãäåæçèéêëìíîïðñòóôõö÷øùúûüýþÿ";
+// clang-format on
+static_assert(k1252.size() == 128);
 
 constexpr bool isAscii(char c) {
     return static_cast<unsigned char>(c) < 0x80;
-}
-
-constexpr bool isContinuation(char c) {
-    return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;
 }
 
 /// The end of the ASCII characters that begin at `at`.
@@ -58,7 +54,7 @@ std::optional<Utf8Character> multibyteCharacter(std::string_view bytes) {
     }
     char32_t value = lead & (0xFFU >> (length + 1));
     for (const char c : bytes.substr(1, length - 1)) {
-        if (!isContinuation(c)) {
+        if (!continuesCharacter(c)) {
             return std::nullopt;
         }
         value = value << 6U | (static_cast<unsigned char>(c) & 0x3FU);
@@ -71,33 +67,15 @@ std::optional<Utf8Character> multibyteCharacter(std::string_view bytes) {
     return Utf8Character{value, length};
 }
 
-/// Appends a character of the basic plane above ASCII.
-void appendUtf8(std::string& text, char16_t character) {
-    const auto code = static_cast<unsigned>(character);
-    if (code < 0x800) {
-        text.push_back(static_cast<char>(0xC0U | code >> 6U));
-    } else {
-        text.push_back(static_cast<char>(0xE0U | code >> 12U));
-        text.push_back(static_cast<char>(0x80U | (code >> 6U & 0x3FU)));
-    }
-    text.push_back(static_cast<char>(0x80U | (code & 0x3FU)));
-}
-
-char16_t characterOf1252(unsigned char byte) {
-    if (byte >= 0xA0) {
-        return byte;
-    }
-    const char16_t character = kHigh1252[byte - 0x80U];
-    return character == 0 ? kReplacement : character;
-}
-
 /// `character` is not ASCII.
 char byteOf1252(char32_t character) {
     if (character >= 0xA0 && character <= 0xFF) {
         return static_cast<char>(character);
     }
-    const auto* const found = std::find(kHigh1252.begin(), kHigh1252.end(), character);
-    return found == kHigh1252.end() ? '?' : static_cast<char>(0x80 + (found - kHigh1252.begin()));
+    const std::size_t place = character == kReplacement || character > 0xFFFF
+                                  ? k1252.npos
+                                  : k1252.find(static_cast<char16_t>(character));
+    return place == k1252.npos ? '?' : static_cast<char>(0x80U + place);
 }
 
 }  // namespace
@@ -118,7 +96,30 @@ bool isUtf8(std::string_view bytes) {
     return true;
 }
 
-std::string fromWindows1252(std::string_view bytes) {
+std::string_view lastCharacters(std::string_view text, int count) {
+    std::size_t begin = text.size();
+    while (begin > 0 && count > 0) {
+        --begin;
+        count -= continuesCharacter(text[begin]) ? 0 : 1;
+    }
+    return text.substr(begin);
+}
+
+void appendUtf8(std::string& text, char32_t character) {
+    if (character < 0x80) {
+        text.push_back(static_cast<char>(character));
+        return;
+    }
+    if (character < 0x800) {
+        text.push_back(static_cast<char>(0xC0U | character >> 6U));
+    } else {
+        text.push_back(static_cast<char>(0xE0U | character >> 12U));
+        text.push_back(static_cast<char>(0x80U | (character >> 6U & 0x3FU)));
+    }
+    text.push_back(static_cast<char>(0x80U | (character & 0x3FU)));
+}
+
+std::string fromCodePage(std::string_view bytes, UpperHalf upper) {
     std::string text;
     text.reserve(bytes.size() + bytes.size() / 8);
     for (std::size_t at = 0; at < bytes.size();) {
@@ -126,10 +127,14 @@ std::string fromWindows1252(std::string_view bytes) {
         text.append(bytes.substr(at, end - at));
         at = end;
         for (; at < bytes.size() && !isAscii(bytes[at]); ++at) {
-            appendUtf8(text, characterOf1252(static_cast<unsigned char>(bytes[at])));
+            appendUtf8(text, upper[static_cast<unsigned char>(bytes[at]) - 0x80U]);
         }
     }
     return text;
+}
+
+std::string fromWindows1252(std::string_view bytes) {
+    return fromCodePage(bytes, k1252);
 }
 
 std::string toWindows1252(std::string_view text) {

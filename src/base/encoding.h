@@ -5,7 +5,6 @@
 
 #include <cstddef>
 #include <optional>
-#include <span>
 #include <string>
 #include <string_view>
 
@@ -21,6 +20,23 @@ struct Utf8Character {
 [[nodiscard]] std::optional<Utf8Character> firstCharacter(std::string_view text);
 
 [[nodiscard]] bool isUtf8(std::string_view bytes);
+
+/// Whether a byte of UTF-8 goes on with a character instead of beginning one.
+[[nodiscard]] constexpr bool continuesCharacter(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
+}
+
+/// The last characters of a text; all of it where it has no more.
+[[nodiscard]] std::string_view lastCharacters(std::string_view text, int count);
+
+/// `character`: of the basic plane.
+void appendUtf8(std::string& text, char32_t character);
+
+/// The characters of the bytes 0x80 to 0xFF in a code page, U+FFFD for those that it leaves open.
+using UpperHalf = std::u16string_view;
+
+/// Bytes of a code page whose lower half is ASCII, to UTF-8.
+[[nodiscard]] std::string fromCodePage(std::string_view bytes, UpperHalf upper);
 
 /// Windows-1252 to UTF-8; the five bytes that the code page leaves open become U+FFFD.
 [[nodiscard]] std::string fromWindows1252(std::string_view bytes);

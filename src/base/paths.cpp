@@ -56,14 +56,7 @@ std::string_view fileStem(std::string_view path) {
 }
 
 std::string pathEnding(std::string_view path) {
-    std::size_t begin = path.size();
-    for (int characters = 0; begin > 0 && characters < 4; ++characters) {
-        --begin;
-        while (begin > 0 && (static_cast<unsigned char>(path[begin]) & 0xC0U) == 0x80U) {
-            --begin;
-        }
-    }
-    return lowerCase(path.substr(begin));
+    return lowerCase(lastCharacters(path, 4));
 }
 
 bool isThere(std::string_view path) {

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+#include "base/encoding.h"
+
 namespace campora {
 
 namespace {
@@ -35,15 +37,6 @@ constexpr unsigned lowerLatin(unsigned c) {
     return (c % 2 == 1) == oddCapitals ? c + 1 : c;
 }
 
-void appendCharacter(std::string& text, unsigned character) {
-    if (character < 0x80) {
-        text.push_back(static_cast<char>(character));
-        return;
-    }
-    text.push_back(static_cast<char>(0xC0U | (character >> 6U)));
-    text.push_back(static_cast<char>(0x80U | (character & 0x3FU)));
-}
-
 }  // namespace
 
 std::string_view trim(std::string_view text) {
@@ -72,11 +65,12 @@ std::string lowerCase(std::string_view text) {
     lower.reserve(text.size());
     for (std::size_t i = 0; i < text.size(); ++i) {
         const auto lead = static_cast<unsigned char>(text[i]);
-        const auto next = static_cast<unsigned char>(i + 1 < text.size() ? text[i + 1] : '\0');
+        const char next = i + 1 < text.size() ? text[i + 1] : '\0';
         // U+00C0 to U+017F take two bytes, of which the first is 0xC3 to 0xC5; no longer character
         // holds such a byte.
-        if (lead >= 0xC3 && lead <= 0xC5 && (next & 0xC0U) == 0x80U) {
-            appendCharacter(lower, lowerLatin((lead & 0x1FU) << 6U | (next & 0x3FU)));
+        if (lead >= 0xC3 && lead <= 0xC5 && continuesCharacter(next)) {
+            appendUtf8(lower, lowerLatin((lead & 0x1FU) << 6U |
+                                         (static_cast<unsigned char>(next) & 0x3FU)));
             ++i;
         } else {
             lower.push_back(lowerAscii(text[i]));

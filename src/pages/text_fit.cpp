@@ -5,6 +5,7 @@
 
 #include <cstddef>
 
+#include "base/encoding.h"
 #include "base/text.h"
 
 namespace campora {
@@ -17,7 +18,7 @@ constexpr std::string_view kEllipsis = "…";
 std::vector<std::size_t> cutsOf(std::string_view text) {
     std::vector<std::size_t> cuts;
     for (std::size_t i = 0; i < text.size(); ++i) {
-        if ((static_cast<unsigned char>(text[i]) & 0xC0U) != 0x80U) {
+        if (!continuesCharacter(text[i])) {
             cuts.push_back(i);
         }
     }

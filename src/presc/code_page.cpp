@@ -16,8 +16,6 @@ namespace campora {
 
 namespace {
 
-using UpperHalf = std::u16string_view;  // characters of the bytes 128 to 255
-
 // clang-format off
 constexpr UpperHalf kDos437 =
     u"ÇüéâäàåçêëèïîìÄÅÉæÆôöòûùÿÖÜ¢£¥₧ƒ"
@@ -36,27 +34,6 @@ constexpr UpperHalf kDos860 =
     u"αßΓπΣσµτΦΘΩδ∞φε∩≡±≥≤⌠⌡÷≈°∙·√ⁿ²■\u00A0";
 // clang-format on
 static_assert(kDos437.size() == 128 && kDos850.size() == 128 && kDos860.size() == 128);
-
-std::string decodeDos(std::string_view bytes, UpperHalf upper) {
-    std::string text;
-    text.reserve(bytes.size());
-    for (const char byte : bytes) {
-        const auto value = static_cast<unsigned char>(byte);
-        if (value < 0x80U) {
-            text += byte;
-            continue;
-        }
-        const unsigned code = upper[value - 0x80U];
-        if (code < 0x800U) {
-            text += static_cast<char>(0xC0U | (code >> 6U));
-        } else {
-            text += static_cast<char>(0xE0U | (code >> 12U));
-            text += static_cast<char>(0x80U | ((code >> 6U) & 0x3FU));
-        }
-        text += static_cast<char>(0x80U | (code & 0x3FU));
-    }
-    return text;
-}
 
 std::string digitsOf(std::string_view text) {
     std::string digits;
@@ -111,11 +88,11 @@ std::string decodeCodePage(std::string_view bytes, CodePage page) {
     case CodePage::Utf8:
         return decodeText(bytes, true);
     case CodePage::Dos437:
-        return decodeDos(bytes, kDos437);
+        return fromCodePage(bytes, kDos437);
     case CodePage::Dos850:
-        return decodeDos(bytes, kDos850);
+        return fromCodePage(bytes, kDos850);
     case CodePage::Dos860:
-        return decodeDos(bytes, kDos860);
+        return fromCodePage(bytes, kDos860);
     case CodePage::Windows1252:
         break;
     }

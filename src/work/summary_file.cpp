@@ -66,11 +66,7 @@ std::optional<std::array<std::string, kFields>> splitLine(std::string_view line)
 
 /// Without its last character, which may take several bytes.
 std::string_view withoutLast(std::string_view text) {
-    std::size_t end = text.size();
-    while (end > 0 && (static_cast<unsigned char>(text[end - 1]) & 0xC0U) == 0x80U) {
-        --end;
-    }
-    return text.substr(0, end > 0 ? end - 1 : 0);
+    return text.substr(0, text.size() - lastCharacters(text, 1).size());
 }
 
 }  // namespace
