@@ -9,8 +9,8 @@
 #include <string_view>
 #include <vector>
 
+#include "app/open/summary_editor.h"
 #include "base/encoding.h"
-#include "work/summary_editor.h"
 #include "work/summary_file.h"
 
 using namespace campora;

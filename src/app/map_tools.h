@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 
+#include "app/loaded_file_list.h"
 #include "app/map_view.h"
 #include "base/texts.h"
 #include "coord/coord_functions.h"
@@ -17,7 +18,6 @@
 #include "platform/main_window_controls.h"
 #include "platform/map_canvas.h"
 #include "platform/user_locale.h"
-#include "work/loaded_file_list.h"
 
 namespace campora {
 

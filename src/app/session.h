@@ -12,6 +12,7 @@
 
 #include "app/colours/legend_commands.h"
 #include "app/colours/map_modes.h"
+#include "app/loaded_file_list.h"
 #include "app/lots/lot_commands.h"
 #include "app/lots/lot_editor.h"
 #include "app/map/place_marks.h"
@@ -37,7 +38,6 @@
 #include "platform/settings_store.h"
 #include "platform/shell.h"
 #include "platform/user_locale.h"
-#include "work/loaded_file_list.h"
 #include "work/registrations.h"
 
 namespace campora {

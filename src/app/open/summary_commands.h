@@ -5,8 +5,8 @@
 
 #include <string>
 
+#include "app/open/summary_editor.h"
 #include "model/shown_summary.h"
-#include "work/summary_editor.h"
 
 namespace campora {
 

@@ -5,9 +5,9 @@
 
 #include <functional>
 
+#include "app/open/summary_editor.h"
 #include "base/texts.h"
 #include "platform/dialogs.h"
-#include "work/summary_editor.h"
 
 class QWidget;
 

@@ -8,7 +8,7 @@
 
 #include <QDialog>
 
-#include "work/summary_editor.h"
+#include "app/open/summary_editor.h"
 
 namespace campora {
 

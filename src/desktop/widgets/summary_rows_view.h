@@ -8,9 +8,9 @@
 
 #include <QWidget>
 
+#include "app/open/summary_editor.h"
 #include "base/texts.h"
 #include "platform/dialogs.h"
-#include "work/summary_editor.h"
 
 class QLineEdit;
 class QPushButton;

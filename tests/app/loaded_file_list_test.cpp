@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "work/loaded_file_list.h"
+#include "app/loaded_file_list.h"
 
 #include <filesystem>
 #include <memory>

@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "work/summary_editor.h"
+#include "app/open/summary_editor.h"
 
 #include <algorithm>
 #include <span>
