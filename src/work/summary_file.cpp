@@ -17,6 +17,7 @@ namespace campora {
 
 namespace {
 
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr std::size_t kFields = 3;  // name, value, unit
 /// Far more than a console writes: the rest of a file that is something else is not kept.
 constexpr int kMostEntries = 32767;
@@ -69,14 +70,28 @@ std::string_view withoutLast(std::string_view text) {
     return text.substr(0, text.size() - lastCharacters(text, 1).size());
 }
 
+/// Texts of consoles are plain ASCII as often as not, which leaves the encoding open; they read
+/// Windows-1252.
+bool isUtf8Beyond(std::string_view bytes) {
+    const bool ascii = std::all_of(bytes.begin(), bytes.end(),
+                                   [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+    return !ascii && isUtf8(bytes);
+}
+
+std::string quoted(std::string_view field) {
+    return '"' + replaceAll(field, "\"", "\"\"") + '"';
+}
+
 }  // namespace
 
 SummaryContent splitSummary(std::string_view bytes) {
     SummaryContent content;
+    SummaryFrame& frame = content.frame;
+    frame.utf8 = isUtf8Beyond(bytes);
     const std::string text = decodeText(bytes);
     TextLines lines(text);
     TextLines raw(bytes);  // the same lines as on disk
-    content.unread = bytes;
+    std::string_view unread = bytes;
     for (std::string_view line, rawLine; lines.next(line) && raw.next(rawLine);) {
         const auto fields = splitLine(line);
         if (!fields || content.entries.count() == kMostEntries) {
@@ -84,9 +99,21 @@ SummaryContent splitSummary(std::string_view bytes) {
         }
         const auto& [name, value, unit] = *fields;
         content.entries.addProperty(std::string(trim(withoutLast(name))) + ':', value, unit);
-        content.unread = raw.rest();
+        unread = raw.rest();
     }
+    frame.unread = unread;
+    const bool marked = bytes.starts_with(kByteOrderMark) && !unread.starts_with(kByteOrderMark);
+    frame.byteOrderMark = marked ? kByteOrderMark : "";
     return content;
+}
+
+std::string encodeSummary(std::span<const SummaryEntry> entries, const SummaryFrame& frame) {
+    std::string text;
+    for (const SummaryEntry& entry : entries) {
+        text.append(quoted(entry.property + ":")).append(",").append(quoted(entry.value));
+        text.append(",").append(quoted(entry.unit)).append("\r\n");
+    }
+    return frame.byteOrderMark + (frame.utf8 ? text : toWindows1252(text)) + frame.unread;
 }
 
 FileProperties decodeSummary(std::string_view bytes) {

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <span>
+#include <string>
 #include <string_view>
 
 #include "model/file_properties.h"
@@ -14,13 +16,24 @@ namespace campora {
 /// character gives way to ":". A blank line or one of another shape ends the summary.
 [[nodiscard]] FileProperties decodeSummary(std::string_view bytes);
 
-/// What a summary file holds: its entries and, from the first line of another shape on, the bytes
-/// that are none; they belong to the bytes given.
+/// What stands around the entries of a summary file and goes back with them when they are changed.
+struct SummaryFrame {
+    bool utf8 = false;  ///< else Windows-1252, as texts that leave it open are
+    std::string byteOrderMark;
+    /// From the first line of another shape on.
+    std::string unread;
+};
+
 struct SummaryContent {
     FileProperties entries;
-    std::string_view unread;
+    SummaryFrame frame;
 };
 [[nodiscard]] SummaryContent splitSummary(std::string_view bytes);
+
+/// The bytes of a summary file with these entries, a ":" behind every property: a line each, every
+/// field in double quotes, which are doubled inside (RFC 4180), CR LF at the end.
+[[nodiscard]] std::string encodeSummary(std::span<const SummaryEntry> entries,
+                                        const SummaryFrame& frame);
 
 /// Fills `summary` from a file and notes the file as its source. A file that cannot be read leaves
 /// the summary empty and without source; an empty path changes nothing.

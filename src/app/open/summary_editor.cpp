@@ -7,16 +7,12 @@
 #include <span>
 #include <utility>
 
-#include "base/encoding.h"
 #include "base/files.h"
 #include "base/text.h"
-#include "work/summary_file.h"
 
 namespace campora {
 
 namespace {
-
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 /// A line of the file is one record: a break inside a field becomes a blank.
 std::string oneLine(std::string_view field) {
@@ -33,18 +29,6 @@ SummaryEntry oneLine(const SummaryEntry& entry) {
 SummaryEntry trimmed(const SummaryEntry& entry) {
     const auto [property, value, unit] = oneLine(entry);
     return {std::string(trim(property)), std::string(trim(value)), std::string(trim(unit))};
-}
-
-std::string quoted(std::string_view field) {
-    return '"' + replaceAll(field, "\"", "\"\"") + '"';
-}
-
-/// Texts of consoles are plain ASCII as often as not, which leaves the encoding open; they read
-/// Windows-1252.
-bool isUtf8Beyond(std::string_view bytes) {
-    const bool ascii = std::all_of(bytes.begin(), bytes.end(),
-                                   [](char c) { return static_cast<unsigned char>(c) < 0x80; });
-    return !ascii && isUtf8(bytes);
 }
 
 std::vector<SummaryEntry> entriesOf(const FileProperties& summary) {
@@ -138,24 +122,15 @@ SummaryEditor::SummaryEditor(std::string_view path, Dialogs& dialogs, const Text
     }
     const SummaryContent content = splitSummary(file->text());
     wasRead_ = true;
-    utf8_ = isUtf8Beyond(file->text());
-    byteOrderMark_ = file->text().starts_with(kByteOrderMark) ? kByteOrderMark : "";
-    unread_ = content.unread;
+    frame_ = content.frame;
     rows_ = SummaryRows(entriesOf(content.entries));
-}
-
-void SummaryEditor::quit() {
-    askAndRemove(rows_, dialogs_, texts_);
 }
 
 bool SummaryEditor::accept() {
     if (!wasRead_) {
         return true;
     }
-    const std::string text = encodeSummary(rows_.rows());
-    const bool marked = !byteOrderMark_.empty() && !unread_.starts_with(kByteOrderMark);
-    const std::string bytes =
-        (marked ? byteOrderMark_ : std::string()) + (utf8_ ? text : toWindows1252(text)) + unread_;
+    const std::string bytes = encodeSummary(rows_.rows(), frame_);
     if (const std::optional<Failure> failure =
             writeFile(path_, std::as_bytes(std::span(bytes.data(), bytes.size())))) {
         dialogs_.message(texts_.sentence(*failure), MessageIcon::Error, texts_(TextId::Error));
@@ -170,15 +145,6 @@ void askAndRemove(SummaryRows& rows, Dialogs& dialogs, const Texts& texts) {
                                texts(TextId::ProgramName)) == Answer::Yes) {
         rows.remove();
     }
-}
-
-std::string encodeSummary(const std::vector<SummaryEntry>& rows) {
-    std::string text;
-    for (const SummaryEntry& row : rows) {
-        text.append(quoted(row.property + ":")).append(",").append(quoted(row.value));
-        text.append(",").append(quoted(row.unit)).append("\r\n");
-    }
-    return text;
 }
 
 }  // namespace campora

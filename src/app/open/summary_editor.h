@@ -11,6 +11,7 @@
 #include "base/texts.h"
 #include "model/file_properties.h"
 #include "platform/dialogs.h"
+#include "work/summary_file.h"
 
 namespace campora {
 
@@ -65,8 +66,6 @@ public:
     [[nodiscard]] SummaryRows& rows() { return rows_; }
     [[nodiscard]] const SummaryRows& rows() const { return rows_; }
 
-    /// Takes the selected row out when the user says so.
-    void quit();
     /// Writes the rows back when the file was read at opening, in the encoding that it had. False
     /// when that failed, which has been reported: the editor stays open.
     [[nodiscard]] bool accept();
@@ -77,17 +76,10 @@ private:
     const Texts& texts_;
     SummaryRows rows_;
     bool wasRead_ = false;
-    bool utf8_ = false;
-    std::string byteOrderMark_;
-    /// What follows the rows and is no summary; it goes back as it was.
-    std::string unread_;
+    SummaryFrame frame_;
 };
 
 /// Asks before the selected row is taken out; nothing happens without one.
 void askAndRemove(SummaryRows& rows, Dialogs& dialogs, const Texts& texts);
-
-/// The rows as the lines of a summary file, a ":" behind every property: every field in double
-/// quotes, which are doubled inside (RFC 4180), CR LF at the end. UTF-8.
-[[nodiscard]] std::string encodeSummary(const std::vector<SummaryEntry>& rows);
 
 }  // namespace campora

@@ -13,7 +13,6 @@
 #include "base/paths.h"
 #include "support/scripted_platform.h"
 #include "support/temp_folder.h"
-#include "work/summary_file.h"
 
 namespace campora {
 namespace {
@@ -125,13 +124,13 @@ TEST_F(SummaryEditorTest, ChangesAreWrittenAsTheConsoleReadsThem) {
 
 TEST_F(SummaryEditorTest, ARowGoesOnlyWhenTheUserSaysSo) {
     SummaryEditor editor(folder.write("Wrk0001.txt", "A:,1,\r\nB:,2,\r\n"), dialogs, texts);
-    editor.quit();
+    askAndRemove(editor.rows(), dialogs, texts);
     EXPECT_THAT(dialogs.questions, IsEmpty()) << "nothing is selected";
     editor.rows().select(0);
     dialogs.answers = {Answer::No, Answer::Yes};
-    editor.quit();
+    askAndRemove(editor.rows(), dialogs, texts);
     EXPECT_THAT(shown(editor.rows()), ElementsAre("*A|1|", "B|2|"));
-    editor.quit();
+    askAndRemove(editor.rows(), dialogs, texts);
     EXPECT_THAT(shown(editor.rows()), ElementsAre("B|2|"));
     EXPECT_THAT(dialogs.questions,
                 testing::Each("Exclamation|Campora|Seguro que desea eliminar los campos "
