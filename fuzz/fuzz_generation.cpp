@@ -20,6 +20,7 @@
 #include "presc/generation.h"
 #include "presc/grid_geometry.h"
 #include "presc/pre_file.h"
+#include "presc/tree_units.h"
 #include "presc/vrt_file.h"
 #include "presc/zone_raster.h"
 #include "support/file_set.h"
@@ -83,14 +84,13 @@ struct Zones {
     /// Zone by zone, as a click on the map looks for it.
     [[nodiscard]] const GphPolygonMulti* at(LonLat position) const {
         const GphPolygonMulti* found = nullptr;
-        const std::int32_t x = indexCoordinate(position.x);
-        const std::int32_t y = indexCoordinate(position.y);
+        const std::int32_t x = treeUnits(position.x);
+        const std::int32_t y = treeUnits(position.y);
         for (const std::int32_t index : order) {
             const GphPolygonMulti& zone = zones[static_cast<std::size_t>(index)];
             const BoundingBox& box = zone.Gph_bound();
-            if (x >= indexCoordinate(box.minX) && x <= indexCoordinate(box.maxX) &&
-                y >= indexCoordinate(box.minY) && y <= indexCoordinate(box.maxY) &&
-                zone.ringAt(position) >= 0) {
+            if (x >= treeUnits(box.minX) && x <= treeUnits(box.maxX) && y >= treeUnits(box.minY) &&
+                y <= treeUnits(box.maxY) && zone.ringAt(position) >= 0) {
                 found = &zone;
             }
         }
@@ -146,7 +146,7 @@ CellCentres centresFrom(LonLat origin, double perDegreeX, double metres, int col
 /// The grid has a margin of two cells and begins in the north-west, the VRT's in the south-west.
 Grid readPre(const FileBytes& bytes, const BoundingBox& bound, int metres) {
     const PreFile file = decodePre(bytes.bytes());
-    const double perDegree = metresPerDegreeAt(bound.maxY);
+    const double perDegree = wholeMetresPerDegree(bound.maxY);
     const LonLat origin{bound.minX - 2.0 * metres / perDegree,
                         bound.maxY + 2.0 * metres / METERS_PER_DEGREE};
     return {centresFrom(origin, perDegree, metres, file.header.columns, file.header.rows, -1),
@@ -156,7 +156,7 @@ Grid readPre(const FileBytes& bytes, const BoundingBox& bound, int metres) {
 Grid readVrt(const FileBytes& bytes, const BoundingBox& bound, float metres) {
     const VrtFile file = decodeVrt(bytes.bytes());
     const LonLat origin{static_cast<double>(file.header.x0), static_cast<double>(file.header.y0)};
-    return {centresFrom(origin, metresPerDegreeAt(bound.minY), static_cast<double>(metres),
+    return {centresFrom(origin, wholeMetresPerDegree(bound.minY), static_cast<double>(metres),
                         file.header.columns, file.header.rows, 1),
             static_cast<std::size_t>(file.header.channels), file.doses, VrtFile::kDoseUnits, false};
 }

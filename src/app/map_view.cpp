@@ -138,7 +138,7 @@ void MapView::zoomToBox(const BoundingBox& box) {
     const Fit fit =
         fitOf(box, kBoxRoom, maxScale_ > 0 ? std::min(maxScale_, kFinestScale) : kFinestScale);
     const double eastM =
-        (box.minX - totalBound.minX) * std::cos(toRadians(box.minY)) * METERS_PER_DEGREE;
+        (box.minX - totalBound.minX) * cosineOfLatitude(box.minY) * METERS_PER_DEGREE;
     const double northM = (box.minY - totalBound.minY) * METERS_PER_DEGREE;
     setView(fit.scale, fit.scale, roundToInt32(eastM + x_.margin - fit.marginX),
             roundToInt32(northM + y_.margin - fit.marginY));
@@ -169,7 +169,7 @@ void MapView::computeOrigin() {
     const double northM = static_cast<double>(y_.scroll) - y_.margin;
     const double eastM = static_cast<double>(x_.scroll) - x_.margin;
     origin_.y = northM / METERS_PER_DEGREE + totalBound.minY;
-    origin_.x = eastM / (std::cos(toRadians(origin_.y)) * METERS_PER_DEGREE) + totalBound.minX;
+    origin_.x = eastM / metresPerDegreeEast(origin_.y) + totalBound.minX;
     x_.viewM = x_.scale * static_cast<float>(width);
     y_.viewM = y_.scale * static_cast<float>(height);
 }
@@ -277,10 +277,10 @@ void MapView::centreOn(LonLat position) {
     y_.scroll =
         y_.within(roundToInt32(northM + y_.margin - y_.viewM / 2.0), totalBound.heightM, y_.viewM);
     computeOrigin();
-    const double degreeM = METERS_PER_DEGREE * std::cos(toRadians(position.y));
+    const double degreeM = metresPerDegreeEast(position.y);
     const double leftEdge = position.x - x_.viewM / 2.0 / degreeM;
     const double eastM =
-        (leftEdge - totalBound.minX) * std::cos(toRadians(origin_.y)) * METERS_PER_DEGREE;
+        (leftEdge - totalBound.minX) * cosineOfLatitude(origin_.y) * METERS_PER_DEGREE;
     setView(x_.scale, y_.scale,
             x_.within(roundToInt32(eastM + x_.margin), totalBound.widthM, x_.viewM), y_.scroll);
     updateScrollBars();

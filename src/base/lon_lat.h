@@ -14,4 +14,8 @@ struct LonLat {
     bool operator==(const LonLat&) const = default;
 };
 
+/// Degrees: the greatest latitude and the greatest longitude of a place.
+inline constexpr double kPole = 90;
+inline constexpr double kDateLine = 180;
+
 }  // namespace campora

@@ -12,14 +12,15 @@
 #include <system_error>
 #include <utility>
 
+#include "base/lon_lat.h"
 #include "base/paths.h"
 #include "base/text.h"
+#include "presc/channel_zones.h"
 
 namespace campora {
 
 namespace {
 
-constexpr std::size_t kMostProductChannels = 4;
 constexpr int kMostPixels = 16384;  // 1 GiB a picture
 
 /// The whole text as a number; "." is its decimal symbol.
@@ -137,7 +138,7 @@ bool addChannel(Arguments& arguments, std::string_view value) {
     constexpr std::string_view kEnding = ".shp,";
     const std::size_t ending = lowerCase(value).find(kEnding);
     std::vector<ChannelSource>& channels = arguments.prescription.channels;
-    if (ending == std::string::npos || channels.size() >= kMostProductChannels) {
+    if (ending == std::string::npos || std::ssize(channels) >= kMostChannels) {
         return false;
     }
     const std::size_t fileEnd = ending + kEnding.size() - 1;
@@ -301,7 +302,7 @@ std::optional<LonLat> parseVertex(std::string_view word) {
     const std::size_t comma = std::min(word.find(','), word.size());
     const auto x = parse<double>(word.substr(0, comma));
     const auto y = parse<double>(word.substr(std::min(comma + 1, word.size())));
-    if (!x || !y || std::fabs(*x) > 180 || std::fabs(*y) > 90) {
+    if (!x || !y || std::fabs(*x) > kDateLine || std::fabs(*y) > kPole) {
         return std::nullopt;
     }
     return LonLat{*x, *y};

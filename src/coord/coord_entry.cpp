@@ -14,9 +14,6 @@ namespace campora {
 namespace {
 
 constexpr std::size_t kBoxesAnAxis = 3;
-/// In degrees.
-constexpr double kPole = 90;
-constexpr double kDateLine = 180;
 /// Parts of a degree, and of a minute or second, that are typed at the finest: hundredths of a
 /// millimetre.
 constexpr double kFinestDegree = 1e10;

@@ -9,6 +9,7 @@
 
 #include "base/number_forms.h"
 #include "base/numbers.h"
+#include "model/measures.h"
 
 namespace campora {
 
@@ -26,9 +27,6 @@ constexpr int kFlow = 2;
 constexpr int kLitres = 3;
 constexpr std::array kColumns = {Column{"Velocidad", 4, 0}, Column{"Caudal", 4, 0},
                                  Column{"LitroHect", 6, 2}};
-
-constexpr double kMetresPerMinute = 1000.0 / 60;  // of 1 km/h
-constexpr double kSquareMetresPerHectare = 10000;
 
 }  // namespace
 
@@ -67,7 +65,8 @@ void Shp::add(const SwathFigure& figure) {
     table.recordField(kFlow, std::int64_t{flow});
     if (speed > 0.5) {
         const double width = roundHalfEven(figure.swathMetres);
-        const double litres = flow * kSquareMetresPerHectare / (kMetresPerMinute * speed * width);
+        const double litres =
+            flow * kSquareMetresPerHectare / (kMetresPerMinutePerKmh * speed * width);
         const std::string text = width > 0 ? fixedNumberText(litres, 2) : std::string();
         table.recordField(kLitres, text);
     }

@@ -8,13 +8,13 @@
 #include <utility>
 
 #include "base/number_forms.h"
+#include "model/measures.h"
 #include "model/ring_geometry.h"
 
 namespace campora {
 
 namespace {
 
-constexpr float kSquareMetresPerHectare = 10'000;
 constexpr int kOutlinePixels = 2;
 
 /// The form "#.#": no zero before the point and none behind it.
@@ -54,7 +54,7 @@ double GphLote::getPointY(std::int32_t i) const {
 }
 
 float GphLote::hectares() const {
-    return polygonArea(vertices_) / kSquareMetresPerHectare;
+    return static_cast<float>(polygonArea(vertices_) / kSquareMetresPerHectare);
 }
 
 void GphLote::Gph_plot(MapContext& context) const {

@@ -11,6 +11,7 @@
 #include "base/numbers.h"
 #include "base/paths.h"
 #include "lots/gph_lote.h"
+#include "model/measures.h"
 #include "model/ring_geometry.h"
 #include "model/shown_number.h"
 
@@ -30,7 +31,7 @@ void fillSummary(std::span<const Lot> lots, FileGphGroup& group, const UserLocal
     double perimeter = 0;
     std::size_t vertices = 0;
     for (const Lot& lot : lots) {
-        hectares += ringAreaM2(lot.vertices) / 10'000.0;
+        hectares += ringAreaM2(lot.vertices) / kSquareMetresPerHectare;
         perimeter += ringPerimeter(lot.vertices);
         vertices += lot.vertices.size();
     }

@@ -19,8 +19,6 @@ namespace campora {
 
 namespace {
 
-constexpr double kPole = 90;
-constexpr double kDateLine = 180;
 /// What keeps a line of the description from being read as something else.
 constexpr char kMark = '_';
 

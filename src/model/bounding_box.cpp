@@ -38,7 +38,7 @@ void BoundingBox::addBoundingBox(const BoundingBox& other) {
         heightM = neededHeight;
     }
     // The cosine is that of the southern edge as it stands now, with the other box in.
-    const double cosine = std::cos(toRadians(minY));
+    const double cosine = cosineOfLatitude(minY);
     double neededWidth = other.widthM;
     if (other.minX < minX) {
         widthM += (minX - other.minX) * METERS_PER_DEGREE * cosine;
@@ -58,7 +58,7 @@ void BoundingBox::addPoint(double x, double y) {
         return;
     }
     if (x < minX) {
-        widthM += (minX - x) * METERS_PER_DEGREE * std::cos(toRadians(minY));
+        widthM += (minX - x) * METERS_PER_DEGREE * cosineOfLatitude(minY);
         minX = x;
     }
     if (y < minY) {
@@ -78,7 +78,7 @@ void BoundingBox::addPoint(double x, double y) {
     // A cosine never makes the length longer, so most points inside the box need none.
     const double dxAtEquator = (x - minX) * METERS_PER_DEGREE;
     if (dxAtEquator > widthM) {
-        const double dx = dxAtEquator * std::cos(toRadians(y));
+        const double dx = dxAtEquator * cosineOfLatitude(y);
         if (dx > widthM) {
             widthM = dx;
         }

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <cmath>
+
 namespace campora {
 
 /// Figures are those of a sphere of this size. Against the ellipsoid of WGS 84, lengths to the
@@ -16,6 +18,34 @@ inline constexpr double kHalfPi = 1.5707963267949;
 
 [[nodiscard]] constexpr double toRadians(double degrees) {
     return degrees * (kPi / 180);
+}
+
+[[nodiscard]] inline double cosineOfLatitude(double degrees) {
+    return std::cos(toRadians(degrees));
+}
+
+/// Metres in a degree of longitude; `latitude` in degrees.
+[[nodiscard]] inline double metresPerDegreeEast(double latitude) {
+    return METERS_PER_DEGREE * cosineOfLatitude(latitude);
+}
+
+// Three figures multiply by pi before they divide by 180. For some latitudes their cosine differs
+// in its last digit from `cosineOfLatitude`, and that digit shows where it is made much of; they
+// keep their arithmetic so that the same file gives the same figures and the same bytes for ever.
+
+/// Of a single precision sum of products, whose last digits the order of rounding decides.
+[[nodiscard]] inline double cosineOfSummedArea(double degrees) {
+    return std::cos(degrees * kPi / 180);
+}
+
+/// Of the cells of grids, whose files keep metres of a degree rounded to whole numbers.
+[[nodiscard]] inline double cosineOfGridEdge(double degrees) {
+    return std::cos(degrees * kPi / 180);
+}
+
+/// Of steps between which an angle of exactly a right or a half turn divides a pass.
+[[nodiscard]] inline double cosineOfStep(double degrees) {
+    return std::cos(degrees * kPi / 180);
 }
 
 /// Radians, 0 to pi; values beyond -1 and 1 count as -1 and 1.

@@ -18,7 +18,7 @@ struct Metres {
 };
 
 Metres localMetres(LonLat position) {
-    return {position.x * METERS_PER_DEGREE * std::cos(position.y * kPi / 180),
+    return {position.x * METERS_PER_DEGREE * cosineOfSummedArea(position.y),
             position.y * METERS_PER_DEGREE};
 }
 
@@ -46,7 +46,7 @@ double ringAreaM2(std::span<const LonLat> ring) {
     }
     const LonLat origin = ring.front();
     const auto fromOrigin = [origin](LonLat position) {
-        return Metres{(position.x - origin.x) * METERS_PER_DEGREE * std::cos(toRadians(position.y)),
+        return Metres{(position.x - origin.x) * METERS_PER_DEGREE * cosineOfLatitude(position.y),
                       (position.y - origin.y) * METERS_PER_DEGREE};
     };
     double twiceArea = 0;
@@ -64,7 +64,7 @@ double ringPerimeter(std::span<const LonLat> ring) {
     for (std::size_t i = 0; i < ring.size(); ++i) {
         const LonLat& a = ring[i];
         const LonLat& b = ring[i + 1 < ring.size() ? i + 1 : 0];
-        const double perDegree = METERS_PER_DEGREE * std::cos(toRadians((a.y + b.y) / 2));
+        const double perDegree = metresPerDegreeEast((a.y + b.y) / 2);
         metres += std::hypot((b.x - a.x) * perDegree, (b.y - a.y) * METERS_PER_DEGREE);
     }
     return metres;

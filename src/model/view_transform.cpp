@@ -30,7 +30,7 @@ ViewTransform::ViewTransform(float scaleX, float scaleY, LonLat origin, CanvasSi
     seeRows({0, canvas.height});
     safeLatitude_ = std::min(std::max(std::abs(visibleMinY_), std::abs(visibleMaxY_)) + kStepReach,
                              kMaxSafeLatitude);
-    degreesPerMetreX_ = 1 / (METERS_PER_DEGREE * std::cos(toRadians(safeLatitude_)));
+    degreesPerMetreX_ = 1 / metresPerDegreeEast(safeLatitude_);
     visibleMinX_ = origin.x - penM * degreesPerMetreX_;
     visibleMaxX_ = origin.x + (widthM + penM) * degreesPerMetreX_;
 }
@@ -54,7 +54,7 @@ ViewTransform ViewTransform::within(CanvasRows rows) const {
 }
 
 CanvasPoint ViewTransform::mapToScreen(double x, double y) const {
-    return mapToScreen(x, y, std::cos(toRadians(y)));
+    return mapToScreen(x, y, cosineOfLatitude(y));
 }
 
 CanvasPoint ViewTransform::mapToScreen(double x, double y, double cosine) const {
@@ -67,7 +67,7 @@ LonLat ViewTransform::screenToMap(float sx, float sy) const {
     const double y =
         (canvas_.height - static_cast<double>(sy)) * scaleY_ / METERS_PER_DEGREE + origin_.y;
     const double metresX = static_cast<double>(sx) * scaleX_;
-    return {metresX / (std::cos(toRadians(y)) * METERS_PER_DEGREE) + origin_.x, y};
+    return {metresX / metresPerDegreeEast(y) + origin_.x, y};
 }
 
 // Every comparison is written so that one with not-a-number does not make it a no.

@@ -19,10 +19,6 @@ constexpr double kMetresPerKm = 1000;
 /// Digits of a scale: the page shows less than a hundredth more than the screen.
 constexpr int kScaleDigits = 3;
 
-double metresPerDegreeEast(double latitude) {
-    return METERS_PER_DEGREE * std::cos(toRadians(latitude));
-}
-
 CanvasSize canvasOf(const PageRect& map) {
     return {roundToInt32(map.width * kUnitsPerPageMm), roundToInt32(map.height * kUnitsPerPageMm)};
 }

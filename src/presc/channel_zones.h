@@ -13,6 +13,9 @@
 
 namespace campora {
 
+/// Product channels of a prescription, at most.
+inline constexpr int kMostChannels = 4;
+
 /// The zones of one product channel, as far as grids are made of them. Looks at the layer, which
 /// must outlive it and not change.
 struct ChannelZones {

@@ -16,6 +16,7 @@
 #include "base/text.h"
 #include "base/typed_number.h"
 #include "model/geodesy.h"
+#include "model/measures.h"
 #include "presc/dose_grid.h"
 #include "presc/dose_raster.h"
 #include "presc/grid_geometry.h"
@@ -28,7 +29,6 @@ namespace campora {
 namespace {
 
 constexpr double kMinutesPerDegree = 60;
-constexpr double kSquareMetresPerHectare = 10'000;
 constexpr double kHundredths = 100;
 constexpr std::size_t kCompanionRecord = 32;
 constexpr std::int64_t kMostInHeader = std::numeric_limits<std::int16_t>::max();
@@ -50,7 +50,7 @@ std::optional<Failure> faultOf(std::span<const ChannelZones> channels, const Bou
     if (std::optional<Failure> fault = cellSizeFault(metres)) {
         return fault;
     }
-    if (metresPerDegreeAt(bound.minY) <= 0 || metresPerDegreeAt(bound.maxY) <= 0) {
+    if (wholeMetresPerDegree(bound.minY) <= 0 || wholeMetresPerDegree(bound.maxY) <= 0) {
         return Failure{TextId::PrescriptionAtPole, {}};
     }
     return doseFault(channels, scale);

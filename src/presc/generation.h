@@ -16,8 +16,6 @@
 
 namespace campora {
 
-/// Most channels of a prescription.
-inline constexpr std::size_t kMostChannels = 4;
 /// The questions for the doses of cells without a zone, channel 1 first.
 inline constexpr TextId kFallbackQuestions[kMostChannels] = {
     TextId::AskFallbackDose1, TextId::AskFallbackDose2, TextId::AskFallbackDose3,

@@ -19,7 +19,7 @@ GridCells cellsOf(PreFile file) {
     const double north = decodePreCoordinate(header.latitude);
     const double west = decodePreCoordinate(header.longitude);
     const double metres = header.cellSize;
-    const double perDegree = metresPerDegreeAt(north);
+    const double perDegree = wholeMetresPerDegree(north);
     GridCells cells;
     for (int column = 0; column < header.columns; ++column) {
         cells.columnX.push_back(west + metres * column / perDegree);

@@ -13,23 +13,18 @@
 #include "base/numbers.h"
 #include "base/paths.h"
 #include "base/typed_number.h"
+#include "model/measures.h"
 #include "model/shown_number.h"
 #include "presc/shape_polygons.h"
+#include "presc/tree_units.h"
 
 namespace campora {
 
 namespace {
 
-constexpr double kSquareMetresPerHectare = 10'000;
-/// Steps of the tree's whole numbers in a degree.
-constexpr double kTreeSteps = 10'000'000;
 /// Canvas units from the pointer to a line or a point that it means.
 constexpr std::int32_t kReach = 90;
 constexpr std::string_view kLineEnd = "\r\n";
-
-std::int32_t toTree(double degrees) {
-    return roundToInt32(degrees * kTreeSteps);
-}
 
 /// A cell as the information box shows it.
 struct CellText {
@@ -159,8 +154,8 @@ void GphPresc::addPolygon(GphPolygonMulti polygon) {
     const BoundingBox& box = polygon.Gph_bound();
     if (box.isSet) {
         bound_.addBoundingBox(box);
-        tree_.Insert(toTree(box.minX), toTree(box.minY), toTree(box.maxX), toTree(box.maxY),
-                     Gph_count());
+        tree_.Insert(treeUnits(box.minX), treeUnits(box.minY), treeUnits(box.maxX),
+                     treeUnits(box.maxY), Gph_count());
     }
     polygons_.push_back(std::move(polygon));
 }
@@ -303,8 +298,8 @@ void GphPresc::colorAgain() {
 
 std::vector<std::int32_t> GphPresc::recordsNear(const BoundingBox& box) const {
     const std::optional<R2TreeFound> found =
-        tree_.Find(toTree(box.minX), toTree(box.maxX), toTree(box.minY), toTree(box.maxY),
-                   R2Tree::kOverlapping);
+        tree_.Find(treeUnits(box.minX), treeUnits(box.maxX), treeUnits(box.minY),
+                   treeUnits(box.maxY), R2Tree::kOverlapping);
     std::vector<std::int32_t> records;
     for (const R2TreeEntry* entry : found->entries) {
         records.push_back(entry->ChildID);
@@ -313,8 +308,8 @@ std::vector<std::int32_t> GphPresc::recordsNear(const BoundingBox& box) const {
 }
 
 std::int32_t GphPresc::polygonIndexAt(LonLat position) const {
-    const std::int32_t x = toTree(position.x);
-    const std::int32_t y = toTree(position.y);
+    const std::int32_t x = treeUnits(position.x);
+    const std::int32_t y = treeUnits(position.y);
     const std::optional<R2TreeFound> found = tree_.Find(x, x, y, y, R2Tree::kOverlapping);
     // The one that the search hands out last lies on top.
     const auto hit =

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "base/numbers.h"
+#include "model/measures.h"
 #include "presc/dose_raster.h"
 #include "presc/grid_geometry.h"
 #include "presc/grid_layer.h"
@@ -16,8 +17,6 @@
 namespace campora {
 
 namespace {
-
-constexpr double kSquareMetresPerHectare = 10'000;
 
 /// "Archivo (C 2)" for channel 1. Summaries are data: their names are the same in every language.
 std::string entryName(std::string_view what, std::size_t channel) {
@@ -54,7 +53,8 @@ void GphPrescVex::countCells() {
     counts_.assign(channels_.size(), {});
     const std::vector<ChannelZones> channels = zones();
     const BoundingBox bound = boundOf(channels);
-    if (!bound.isSet || metresPerDegreeAt(bound.maxY) <= 0 || metresPerDegreeAt(bound.minY) <= 0) {
+    if (!bound.isSet || wholeMetresPerDegree(bound.maxY) <= 0 ||
+        wholeMetresPerDegree(bound.minY) <= 0) {
         return;
     }
     countedMetres_ = rule_.metres;

@@ -20,7 +20,7 @@ GridCells cellsOf(const VrtHeader& header, std::vector<std::int16_t> doses) {
     const double west = header.x0;
     const double south = header.y0;
     const double metres = header.resolution;
-    const double stepX = metres / metresPerDegreeAt(south);
+    const double stepX = metres / wholeMetresPerDegree(south);
     const double stepY = metres / METERS_PER_DEGREE;
     GridCells cells;
     for (std::int32_t column = 0; column < header.columns; ++column) {

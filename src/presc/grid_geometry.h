@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include <cmath>
 #include <cstdint>
 
 #include "base/numbers.h"
@@ -13,8 +12,8 @@ namespace campora {
 
 /// Metres in a degree of longitude as grids count them: whole, at one edge for all rows. 0 at a
 /// pole.
-[[nodiscard]] inline std::int32_t metresPerDegreeAt(double latitude) {
-    return roundToInt32(std::cos(latitude * kPi / 180) * METERS_PER_DEGREE);
+[[nodiscard]] inline std::int32_t wholeMetresPerDegree(double latitude) {
+    return roundToInt32(cosineOfGridEdge(latitude) * METERS_PER_DEGREE);
 }
 
 /// The nearest number of single precision. Not inline: GCC 12 leaves the rounding out where two

@@ -13,12 +13,12 @@
 #include "base/numbers.h"
 #include "base/paths.h"
 #include "model/geodesy.h"
+#include "model/measures.h"
 
 namespace campora {
 
 namespace {
 
-constexpr double kSquareMetresPerHectare = 10'000;
 constexpr int kCorners = 4;
 
 std::string entryName(std::string_view what, std::size_t channel) {
@@ -140,7 +140,7 @@ LonLat GridLayer::corner(std::int32_t cell) const {
 }
 
 double GridLayer::cellWidth() const {
-    return cells_.metres / (std::cos(bound_.maxY * kPi / 180) * METERS_PER_DEGREE);
+    return cells_.metres / (cosineOfGridEdge(bound_.maxY) * METERS_PER_DEGREE);
 }
 
 double GridLayer::cellRise() const {

@@ -14,7 +14,7 @@ constexpr double kMargin = 2;  // cells between the map and the grid's edge
 
 /// North to south.
 GridLayout preLayout(const BoundingBox& bound, double metres, const GridSize& size) {
-    GridLayout grid{metres, metresPerDegreeAt(bound.maxY), {}, {}};
+    GridLayout grid{metres, wholeMetresPerDegree(bound.maxY), {}, {}};
     const double perDegree = grid.metresPerDegree;
     const double top = bound.maxY + kMargin * metres / METERS_PER_DEGREE;
     const double left = bound.minX - kMargin * metres / perDegree;
@@ -32,7 +32,7 @@ GridLayout preLayout(const BoundingBox& bound, double metres, const GridSize& si
 
 /// South to north; the origin is the one that the file keeps in single precision.
 GridLayout vrtLayout(const BoundingBox& bound, double metres, const GridSize& size) {
-    GridLayout grid{metres, metresPerDegreeAt(bound.minY), {}, {}};
+    GridLayout grid{metres, wholeMetresPerDegree(bound.minY), {}, {}};
     const double perDegree = grid.metresPerDegree;
     const double west = inSinglePrecision(bound.minX - kMargin * metres / perDegree);
     const double south = inSinglePrecision(bound.minY - kMargin * metres / METERS_PER_DEGREE);

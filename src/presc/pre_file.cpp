@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "base/byte_writer.h"
+#include "base/lon_lat.h"
 #include "base/numbers.h"
 #include "presc/dose_grid.h"
 #include "presc/grid_geometry.h"
@@ -40,8 +41,6 @@ constexpr double kMinutes = 60;
 constexpr double kFieldUnits = 1000;
 constexpr double kDegreeUnits = 100;
 constexpr double kDecimals = 1e5;
-constexpr double kMostLatitude = 90;
-constexpr double kMostLongitude = 180;
 
 std::int16_t i16(ByteReader& reader) {
     return static_cast<std::int16_t>(reader.u16le());
@@ -73,8 +72,8 @@ PreHeader readHeader(ByteReader& reader) {
 
 bool isPossible(const PreHeader& header, LonLat origin) {
     return header.columns > 0 && header.rows > 0 && header.cellSize > 0 &&
-           std::abs(origin.y) < kMostLatitude && metresPerDegreeAt(origin.y) > 0 &&
-           std::abs(origin.x) <= kMostLongitude;
+           std::abs(origin.y) < kPole && wholeMetresPerDegree(origin.y) > 0 &&
+           std::abs(origin.x) <= kDateLine;
 }
 
 void put(std::string& bytes, const Label& label) {

@@ -22,7 +22,7 @@ struct PreHeader {
     std::int16_t rows = 0;
     /// Metres.
     std::int16_t cellSize = 0;
-    std::int16_t metresPerMinuteOfLatitude = 1855;
+    std::int16_t metresPerMinuteOfLatitude = 0;
     /// At the north edge.
     std::int16_t metresPerMinuteOfLongitude = 0;
     int channels = 1;
@@ -33,8 +33,6 @@ struct PreHeader {
 /// A PRE file: a grid of square cells from its north-west corner, row by row southward, with a dose
 /// in whole units a channel.
 struct PreFile {
-    static constexpr int kMostChannels = 255;
-
     PreHeader header;
     /// Row by row, in a row west to east, in a cell channel 1 first.
     std::vector<std::int16_t> doses;

@@ -35,8 +35,6 @@ constexpr std::size_t kLeast = 4;        // the type
 constexpr std::size_t kRecordHeader = 8;  // number and length in words, i32 big-endian each
 constexpr std::size_t kIndexEntry = 8;    // offset and length in words, i32 big-endian each
 constexpr std::size_t kPartStartBytes = 4;
-constexpr double kMostLongitude = 180;
-constexpr double kMostLatitude = 90;
 
 /// The type without its Z or M; none for types that are not known.
 std::optional<ShapeType> plainType(std::int32_t type) {
@@ -294,7 +292,7 @@ void ShapeFile::checkVertices(std::size_t record) const {
     const std::int32_t vertices = shape.vertexCount();
     for (std::int32_t i = 0; i < vertices; ++i) {
         const LonLat vertex = shape.vertex(i);
-        if (std::abs(vertex.x) <= kMostLongitude && std::abs(vertex.y) <= kMostLatitude) {
+        if (std::abs(vertex.x) <= kDateLine && std::abs(vertex.y) <= kPole) {
             continue;
         }
         if (!std::isfinite(vertex.x) || !std::isfinite(vertex.y)) {

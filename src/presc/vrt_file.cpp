@@ -7,6 +7,7 @@
 
 #include "base/byte_writer.h"
 #include "base/encoding.h"
+#include "base/lon_lat.h"
 #include "presc/dose_grid.h"
 #include "presc/grid_geometry.h"
 
@@ -21,9 +22,6 @@ constexpr std::size_t kX0 = 4;
 constexpr std::size_t kNameSize = 16;
 constexpr std::size_t kDescriptionSize = 64;
 constexpr std::size_t kCells = 109;  // after 4 zero bytes
-
-constexpr float kMostLatitude = 90;
-constexpr float kMostLongitude = 180;
 
 /// Up to the first zero byte.
 std::string readText(ByteReader& reader, std::size_t size) {
@@ -40,8 +38,8 @@ void appendText(std::string& bytes, std::string_view text, std::size_t size) {
 
 bool isPossible(const VrtHeader& header) {
     return header.columns > 0 && header.rows > 0 && header.channels > 0 && header.resolution > 0 &&
-           std::isfinite(header.resolution) && std::abs(header.y0) < kMostLatitude &&
-           metresPerDegreeAt(header.y0) > 0 && std::abs(header.x0) <= kMostLongitude;
+           std::isfinite(header.resolution) && std::abs(header.y0) < kPole &&
+           wholeMetresPerDegree(header.y0) > 0 && std::abs(header.x0) <= kDateLine;
 }
 
 }  // namespace

@@ -7,14 +7,12 @@
 #include <tuple>
 #include <utility>
 
-#include "base/numbers.h"
 #include "model/ring_geometry.h"
+#include "presc/tree_units.h"
 
 namespace campora {
 
 namespace {
-
-constexpr double kIndexSteps = 10'000'000;
 
 /// Places in an axis; the last is one past the end.
 struct Range {
@@ -30,7 +28,7 @@ public:
     explicit Axis(std::vector<double> values) : values_(std::move(values)) {
         indexed_.reserve(values_.size());
         for (const double value : values_) {
-            indexed_.push_back(indexCoordinate(value));
+            indexed_.push_back(treeUnits(value));
         }
     }
 
@@ -44,8 +42,8 @@ public:
     }
     /// What a search finds in a box from `low` to `high`, both ends included.
     [[nodiscard]] Range foundIn(double low, double high) const {
-        const auto first = std::lower_bound(indexed_.begin(), indexed_.end(), indexCoordinate(low));
-        const auto last = std::upper_bound(first, indexed_.end(), indexCoordinate(high));
+        const auto first = std::lower_bound(indexed_.begin(), indexed_.end(), treeUnits(low));
+        const auto last = std::upper_bound(first, indexed_.end(), treeUnits(high));
         return {static_cast<std::size_t>(first - indexed_.begin()),
                 static_cast<std::size_t>(last - indexed_.begin())};
     }
@@ -172,10 +170,6 @@ private:
 };
 
 }  // namespace
-
-std::int32_t indexCoordinate(double degrees) {
-    return roundToInt32(degrees * kIndexSteps);
-}
 
 std::optional<std::vector<std::int32_t>>
 zonesUnder(const ChannelZones& channel, const CellCentres& centres,

@@ -30,7 +30,4 @@ inline constexpr std::int32_t kNoZone = -1;
 zonesUnder(const ChannelZones& channel, const CellCentres& centres,
            const std::function<bool(std::size_t zonesDone)>& goOn);
 
-/// A coordinate as the whole number of the search index: ten-millionths of a degree.
-[[nodiscard]] std::int32_t indexCoordinate(double degrees);
-
 }  // namespace campora

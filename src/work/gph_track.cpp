@@ -7,6 +7,7 @@
 #include <cmath>
 #include <stdexcept>
 
+#include "model/measures.h"
 #include "model/ring_geometry.h"
 #include "work/swath_geometry.h"
 
@@ -112,7 +113,7 @@ float GphTrack::getHectareasError(const MapStyle& style, float limit) const {
             squareMetres += stepMetres(points_[i], points_[i + 1]) * record.trocha();
         }
     }
-    return static_cast<float>(squareMetres / 10000);
+    return static_cast<float>(squareMetres / kSquareMetresPerHectare);
 }
 
 bool GphTrack::hasSpecifiedDose() const {

@@ -7,6 +7,7 @@
 #include "base/numbers.h"
 #include "base/paths.h"
 #include "base/text.h"
+#include "model/measures.h"
 #include "model/shown_number.h"
 #include "work/pass_builder.h"
 #include "work/reader_tools.h"

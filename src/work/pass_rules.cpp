@@ -19,7 +19,7 @@ double dot(const StepDirection& a, const StepDirection& b) {
 }  // namespace
 
 StepDirection stepDirection(LonLat from, LonLat to) {
-    return {(to.x - from.x) * std::cos(from.y * kPi / 180), to.y - from.y};
+    return {(to.x - from.x) * cosineOfStep(from.y), to.y - from.y};
 }
 
 float turningAngle(const StepDirection& arriving, const StepDirection& leaving) {

@@ -8,6 +8,7 @@
 #include "base/numbers.h"
 #include "base/paths.h"
 #include "base/text.h"
+#include "model/measures.h"
 
 namespace campora {
 
@@ -71,19 +72,18 @@ LoadedWork startWork(std::string_view path) {
 }
 
 std::optional<float> askSwath(std::string_view path, const WorkReaderContext& context) {
-    constexpr std::int32_t kWidest = 200;
     const std::optional<std::string> answer =
         context.dialogs.inputBox({TextId::AskSwath, std::string(context.texts(TextId::ProgramName)),
                                   "16", std::string(path)});
     if (!answer) {
         return std::nullopt;
     }
-    const std::int32_t metres = roundToInt32(leadingNumber(*answer).value_or(0));
+    const double metres = roundToInt32(leadingNumber(*answer).value_or(0));
     if (metres < 1) {
         refuseAnswer(TextId::SwathNotPositive, *answer, path, context);
         return std::nullopt;
     }
-    return static_cast<float>(std::min(metres, kWidest));
+    return static_cast<float>(std::min(metres, kWidestSwath));
 }
 
 }  // namespace campora

@@ -22,8 +22,6 @@ inline constexpr std::string_view kStart = "Hora inicio:";
 inline constexpr std::string_view kDuration = "Duración:";
 }  // namespace summary_name
 
-inline constexpr double kSquareMetresPerHectare = 10'000;
-
 using WorkReader = std::optional<LoadedWork> (*)(std::string_view path, const FileBytes& file,
                                                  const WorkReaderContext& context);
 
@@ -47,8 +45,9 @@ void refuseAnswer(TextId why, const std::string& answer, std::string_view path,
 /// A remark for each kind of value beyond its bound, and a mark on the figures that count them.
 void tellBounds(const BoundsCheck& bounds, const UserLocale& locale, FileGphGroup& group);
 
-/// Asks for the swath width of a file that has none: a whole number of metres, at most 200. None
-/// when the user cancels, gives no answer, or one that is no width, which is said.
+/// Asks for the swath width of a file that has none: a whole number of metres, at most
+/// `kWidestSwath`. None when the user cancels, gives no answer, or one that is no width, which is
+/// said.
 [[nodiscard]] std::optional<float> askSwath(std::string_view path,
                                             const WorkReaderContext& context);
 

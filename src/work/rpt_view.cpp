@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "base/byte_reader.h"
+#include "base/lon_lat.h"
 #include "base/numbers.h"
 
 namespace campora {
@@ -137,7 +138,7 @@ ReportRecord RptView::record(std::size_t i) const {
 bool isFix(const LonLat& position) {
     const double latitude = std::abs(position.y);
     const double longitude = std::abs(position.x);
-    return latitude > 0 && latitude < 90 && longitude > 0 && longitude < 180;
+    return latitude > 0 && latitude < kPole && longitude > 0 && longitude < kDateLine;
 }
 
 std::string formatVersion(std::uint16_t word) {

@@ -58,7 +58,7 @@ Offset offsetAt(std::size_t points, std::size_t i, LeftOfStep leftOfStep) {
 }
 
 LonLat onGlobe(LonLat corner) {
-    return {std::clamp(corner.x, -180.0, 180.0), std::clamp(corner.y, -90.0, 90.0)};
+    return {std::clamp(corner.x, -kDateLine, kDateLine), std::clamp(corner.y, -kPole, kPole)};
 }
 
 SwathCorners cornersAt(LonLat point, Offset offset, double half, double cosine) {
@@ -76,7 +76,7 @@ double degreesOf(double metres) {
 SwathCorners swathCorners(std::span<const LonLat> pass, std::size_t i, double widthMetres) {
     const Offset offset = offsetAt(
         pass.size(), i, [pass](std::size_t step) { return leftOf(pass[step], pass[step + 1]); });
-    return cornersAt(pass[i], offset, degreesOf(widthMetres / 2), std::cos(toRadians(pass[i].y)));
+    return cornersAt(pass[i], offset, degreesOf(widthMetres / 2), cosineOfLatitude(pass[i].y));
 }
 
 SwathSides::Corners SwathSides::corners(std::size_t i, double widthMetres) {
@@ -117,14 +117,14 @@ bool swathMayCover(LonLat from, LonLat to, double widthMetres, LonLat position) 
         return false;
     }
     const double cosine =
-        std::min(std::abs(std::cos(toRadians(south))), std::abs(std::cos(toRadians(north))));
+        std::min(std::abs(cosineOfLatitude(south)), std::abs(cosineOfLatitude(north)));
     const double reachX = reachY / cosine;
     const auto [west, east] = std::minmax(from.x, to.x);
     return position.x >= west - reachX && position.x <= east + reachX;
 }
 
 double stepMetres(LonLat from, LonLat to) {
-    const double x = (to.x - from.x) * METERS_PER_DEGREE * std::cos(toRadians(to.y));
+    const double x = (to.x - from.x) * METERS_PER_DEGREE * cosineOfLatitude(to.y);
     const double y = (to.y - from.y) * METERS_PER_DEGREE;
     return std::sqrt(x * x + y * y);
 }

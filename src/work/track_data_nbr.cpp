@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "base/numbers.h"
+#include "model/measures.h"
 #include "model/shown_number.h"
 
 namespace campora {
@@ -38,10 +39,8 @@ TrackDataNBR::TrackDataNBR(float flow, float speed, float swath,
     : flow_(flow), speed_(speed), swath_(swath), source_(std::move(source)) {}
 
 float TrackDataNBR::litrosH() const {
-    constexpr double kMetresPerMinute = 1000.0 / 60;  // of 1 km/h
-    constexpr double kSquareMetresPerHectare = 10000;
     // A speed that rounds to 0 counts as none.
-    const double areaPerMinute = kMetresPerMinute * roundHalfEven(speed_) * swath_;
+    const double areaPerMinute = kMetresPerMinutePerKmh * roundHalfEven(speed_) * swath_;
     if (areaPerMinute == 0) {
         return 0;
     }

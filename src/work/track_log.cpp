@@ -102,7 +102,7 @@ public:
             return;
         }
         const TrackPoint point = decode(line);
-        if (std::abs(point.position.x) > 180 || std::abs(point.position.y) > 90) {
+        if (std::abs(point.position.x) > kDateLine || std::abs(point.position.y) > kPole) {
             log_.offGlobe.add(lineNumber);
             return;
         }

@@ -9,6 +9,7 @@
 
 #include "base/lon_lat.h"
 #include "model/file.h"
+#include "model/measures.h"
 #include "platform/user_locale.h"
 
 namespace campora {
@@ -25,10 +26,10 @@ struct ValueBound {
 /// By `BoundedValue`. What lies beyond is a damaged value, no work: a bit that was turned round, a
 /// field of another layout.
 inline constexpr std::array kValueBounds{
-    ValueBound{200, TextId::RemarkSwath},  // metres: the most that the program asks for
-    ValueBound{400, TextId::RemarkSpeed},  // km/h: aircraft spray below 300
-    ValueBound{3000, TextId::RemarkFlow},  // l/min: aircraft dump some 2,000
-    ValueBound{4999, TextId::RemarkDose}   // l, kg or units/ha: what is more counts in no sum
+    ValueBound{kWidestSwath, TextId::RemarkSwath},  // metres
+    ValueBound{400, TextId::RemarkSpeed},           // km/h: aircraft spray below 300
+    ValueBound{3000, TextId::RemarkFlow},           // l/min: aircraft dump some 2,000
+    ValueBound{4999, TextId::RemarkDose}  // l, kg or units/ha: what is more counts in no sum
 };
 
 [[nodiscard]] constexpr bool isSound(BoundedValue value, double amount) {

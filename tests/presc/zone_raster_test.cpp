@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include "presc/tree_units.h"
 #include "support/zone_layers.h"
 
 namespace campora {
@@ -24,11 +25,10 @@ std::int32_t zoneAt(const ChannelZones& channel, LonLat position) {
     for (const std::int32_t zone : channel.order) {
         const GphPolygonMulti& polygon = channel.zones[static_cast<std::size_t>(zone)];
         const BoundingBox& box = polygon.Gph_bound();
-        const std::int32_t x = indexCoordinate(position.x);
-        const std::int32_t y = indexCoordinate(position.y);
-        if (x >= indexCoordinate(box.minX) && x <= indexCoordinate(box.maxX) &&
-            y >= indexCoordinate(box.minY) && y <= indexCoordinate(box.maxY) &&
-            polygon.ringAt(position) >= 0) {
+        const std::int32_t x = treeUnits(position.x);
+        const std::int32_t y = treeUnits(position.y);
+        if (x >= treeUnits(box.minX) && x <= treeUnits(box.maxX) && y >= treeUnits(box.minY) &&
+            y <= treeUnits(box.maxY) && polygon.ringAt(position) >= 0) {
             found = zone;
         }
     }

@@ -13,6 +13,7 @@
 #include "base/numbers.h"
 #include "base/text.h"
 #include "base/typed_number.h"
+#include "model/measures.h"
 #include "model/work_layer.h"
 #include "presc/multi_channel.h"
 #include "work/gph_track.h"
@@ -288,8 +289,7 @@ void MapModes::mnuEditTrocha() {
         return;
     }
     const std::optional<double> metres = typedNumber(*answer);
-    const float swath =
-        static_cast<float>(std::min(metres.value_or(0), static_cast<double>(kWidestSwath)));
+    const float swath = static_cast<float>(std::min(metres.value_or(0), kWidestSwath));
     if (swath <= 0) {
         refuse(metres ? TextId::SwathNotPositive : TextId::AnswerNotANumber, *answer);
         return;

@@ -31,8 +31,6 @@ class MapModes {
 public:
     /// Seeders' alarms by bit, then those of sprayers.
     static constexpr int kAlarmEntries = 64;
-    /// Metres; wider ones are brought down to it.
-    static constexpr float kWidestSwath = 200;
 
     /// `session` outlives this.
     explicit MapModes(Session& session) : session_(session) {}
@@ -83,7 +81,8 @@ public:
     void mnuEditViewVel();
     [[nodiscard]] bool isSpeedShown() const;
 
-    /// Asks for a swath width in metres and gives it to all work that is open.
+    /// Asks for a swath width in metres and gives it to all work that is open; a wider one than
+    /// `kWidestSwath` is brought down to it.
     void mnuEditTrocha();
 
     void mnuEditColorAlarms() { chooseColor(SettingId::AlarmColor); }

@@ -10,10 +10,12 @@
 
 #include "app/lots/lot_commands.h"
 #include "app/session.h"
+#include "base/lon_lat.h"
 #include "base/number_forms.h"
 #include "base/numbers.h"
 #include "base/plain_text.h"
 #include "lots/ring_crossing.h"
+#include "model/measures.h"
 #include "model/ring_geometry.h"
 
 namespace campora {
@@ -154,7 +156,8 @@ void LotEditor::setTransparent(bool transparent) {
 
 std::string LotEditor::figures() const {
     const char symbol = session_.platform().locale.decimalSymbol();
-    std::string hectares = fixedNumberText(ringAreaM2(draft_.vertices()) / 10'000.0, 2);
+    std::string hectares =
+        fixedNumberText(ringAreaM2(draft_.vertices()) / kSquareMetresPerHectare, 2);
     std::replace(hectares.begin(), hectares.end(), '.', symbol);
     const double metres = draft_.vertices().size() < 2 ? 0 : ringPerimeter(draft_.vertices());
     return session_.texts().format(TextId::LoteFigures,
@@ -169,7 +172,7 @@ LonLat LotEditor::middleOfMap() const {
 LonLat LotEditor::positionAt(CanvasPoint at) const {
     const LonLat position =
         session_.view().transform().screenToMap(static_cast<float>(at.x), static_cast<float>(at.y));
-    return {std::clamp(position.x, -180.0, 180.0), std::clamp(position.y, -90.0, 90.0)};
+    return {std::clamp(position.x, -kDateLine, kDateLine), std::clamp(position.y, -kPole, kPole)};
 }
 
 void LotEditor::click(CanvasPoint at) {

@@ -12,6 +12,7 @@
 
 #include "app/presc/column_question.h"
 #include "app/session.h"
+#include "presc/channel_zones.h"
 #include "presc/gph_presc.h"
 
 namespace campora {
@@ -20,7 +21,6 @@ namespace campora {
 /// each with a map and the column of its doses. Pending events run during the long operations.
 class DoseColumns {
 public:
-    static constexpr int kMostChannels = 4;
     /// More distinct doses than these are asked about: some consoles cannot show them.
     static constexpr std::size_t kMostDoses = 16;
     /// Metres between maps from which on they seem to belong to different places.

@@ -48,7 +48,7 @@ DoseColumnDialog::DoseColumnDialog(const Session& session, QWidget* parent)
     setWindowTitle(word(TextId::DosesTitle));
     grid_->setHorizontalSpacing(kGap);
     grid_->setVerticalSpacing(kGap / 2);
-    for (int row = 0; row < DoseColumns::kMostChannels; ++row) {
+    for (int row = 0; row < kMostChannels; ++row) {
         addRow(*grid_, row);
     }
     grid_->setColumnStretch(kDoses, 1);
@@ -162,7 +162,7 @@ void DoseColumnDialog::showProgress(int row, int percent) {
 }
 
 void DoseColumnDialog::showRows() {
-    for (int row = 0; row < DoseColumns::kMostChannels; ++row) {
+    for (int row = 0; row < kMostChannels; ++row) {
         showRow(row);
     }
     cmdAdd_->setEnabled(columns_.canAdd());

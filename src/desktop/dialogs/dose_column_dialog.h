@@ -57,7 +57,7 @@ private:
     const Session& session_;
     DoseColumns columns_;
     QGridLayout* grid_;
-    std::array<RowWidgets, DoseColumns::kMostChannels> rows_;
+    std::array<RowWidgets, kMostChannels> rows_;
     QProgressBar* progress_;
     QPushButton* cmdAdd_ = nullptr;
     QPushButton* cmdRemove_ = nullptr;
