@@ -8,6 +8,7 @@
 #include "app/out/export_formats.h"
 #include "app/out/track_batch.h"
 #include "app/session.h"
+#include "base/file_endings.h"
 #include "base/paths.h"
 #include "base/text.h"
 #include "export/shape_set.h"
@@ -19,8 +20,6 @@ namespace campora {
 
 namespace {
 
-constexpr std::string_view kShapeEnding = ".shp";
-
 /// Names, without folder, of what may stand beside a file and belong to it.
 std::vector<std::string> namesBeside(std::string_view path) {
     const std::string stem(fileStem(path));
@@ -29,9 +28,9 @@ std::vector<std::string> namesBeside(std::string_view path) {
     if (ending == kShapeEnding) {
         names = shapeSetFiles(stem);
         names.insert(names.end(), {stem + ".qpj", stem + ".shp.xml"});
-    } else if (ending == ".pre") {
+    } else if (ending == kPreEnding) {
         names.emplace_back(fileNamePart(companionPath(path)));
-    } else if (ending == ".rpt") {
+    } else if (ending == kReportEnding) {
         names = {stem + ".campora.json", std::string(fileNamePart(path)) + ".campora.json"};
     } else if (const CompanionNames pair = companionNames(path); !pair.trackPath.empty()) {
         names = {std::string(fileNamePart(pair.trackPath)),

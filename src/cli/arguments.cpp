@@ -7,6 +7,7 @@
 #include <iterator>
 #include <string_view>
 
+#include "base/file_endings.h"
 #include "base/paths.h"
 #include "base/text.h"
 #include "cli/options.h"
@@ -136,11 +137,11 @@ std::optional<Failure> checkOptions(const Arguments& parsed) {
     if (parsed.output.empty() && needsOutput(parsed.command)) {
         return Failure{TextId::CliMissingOption, {"-o"}};
     }
-    if (prescribes && pathEnding(parsed.output) != (isVrt ? ".vrt" : ".pre")) {
+    if (prescribes && pathEnding(parsed.output) != (isVrt ? kVrtEnding : kPreEnding)) {
         return Failure{TextId::CliBadValue, {"-o", parsed.output}};
     }
     const bool writesLots = parsed.command == Command::Lot || parsed.command == Command::Merge;
-    if (writesLots && pathEnding(parsed.output) != ".lot") {
+    if (writesLots && pathEnding(parsed.output) != kLotEnding) {
         return Failure{TextId::CliBadValue, {"-o", parsed.output}};
     }
     const bool isBatch = parsed.command == Command::ExportTrack && parsed.files.size() > 1;

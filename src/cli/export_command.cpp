@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "app/out/export_formats.h"
+#include "base/file_endings.h"
 #include "base/interruption.h"
 #include "cli/batch_platform.h"
 #include "cli/commands.h"
@@ -26,8 +27,9 @@ int exportWith(MapCanvas& canvas, const Arguments& arguments, const Console& con
         drawWholeMap(session, arguments);
     }
     // A set of files is named by its shapefile, whatever was typed; any other file has its name.
-    const std::string path =
-        format.ending == ".shp" ? pathForFormat(arguments.output, format.ending) : arguments.output;
+    const std::string path = format.ending == kShapeEnding
+                                 ? pathForFormat(arguments.output, format.ending)
+                                 : arguments.output;
     const bool written = session.exports().exportMap(format, path);
     return all && written ? exit_status::kDone : exit_status::kRefused;
 }

@@ -12,6 +12,7 @@
 #include <system_error>
 #include <utility>
 
+#include "base/file_endings.h"
 #include "base/lon_lat.h"
 #include "base/paths.h"
 #include "base/text.h"
@@ -87,7 +88,7 @@ bool setCopy(Arguments& arguments, std::string_view value) {
 bool setOutput(Arguments& arguments, std::string_view value) {
     arguments.output = value;
     const std::string ending = pathEnding(value);
-    return ending == ".png" || ending == ".bmp";
+    return ending == kPngEnding || ending == kBmpEnding;
 }
 
 bool setSize(Arguments& arguments, std::string_view value) {

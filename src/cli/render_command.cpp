@@ -1,6 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
+#include "base/file_endings.h"
 #include "base/interruption.h"
 #include "base/paths.h"
 #include "cli/batch_platform.h"
@@ -29,7 +30,7 @@ int runRender(const Arguments& arguments, const Console& console) {
         session.view().DrawMap();
     }
     const PictureForm form =
-        pathEnding(arguments.output) == ".bmp" ? PictureForm::Bmp : PictureForm::Png;
+        pathEnding(arguments.output) == kBmpEnding ? PictureForm::Bmp : PictureForm::Png;
     if (const auto failure = savePicture(canvas.picture(), arguments.output, form)) {
         console.boxes << oneLine(session.texts().sentence(*failure)) << '\n';
         return exit_status::kRefused;

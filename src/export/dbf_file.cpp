@@ -11,6 +11,7 @@
 
 #include "base/byte_writer.h"
 #include "base/encoding.h"
+#include "base/file_endings.h"
 #include "base/numbers.h"
 
 namespace campora {
@@ -101,7 +102,7 @@ std::string DbfFile::header() const {
 }
 
 std::optional<Failure> DbfFile::createDBF(std::string_view basePath) {
-    const std::string path = std::string(basePath) + ".dbf";
+    const std::string path = std::string(basePath).append(kTableEnding);
     if (kFrameBytes + kFieldBytes * fields_.size() > kMostBytes || record_.size() > kMostBytes) {
         return because(TextId::FileCannotBeWritten, {path}, {TextId::TableTooWide, {}});
     }

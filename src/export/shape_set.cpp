@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "base/byte_writer.h"
+#include "base/file_endings.h"
 
 namespace campora {
 
@@ -30,7 +31,8 @@ constexpr std::string_view kReference =
     R"(GEOGCS["GCS_WGS_1984",DATUM["D_WGS_1984",SPHEROID["WGS_1984",6378137.0,298.257223563]],)"
     R"(PRIMEM["Greenwich",0.0],UNIT["Degree",0.0174532925199433]])";
 constexpr std::string_view kCodePage = "1252";
-constexpr std::string_view kWritten[] = {".shp", ".shx", ".dbf", ".prj", ".cpg"};
+constexpr std::string_view kWritten[] = {kShapeEnding, kShapeIndexEnding, kTableEnding,
+                                         kReferenceEnding, kCodePageEnding};
 /// Indexes that other programs leave beside a set; they would look for the new figures in the
 /// places of the old ones.
 constexpr std::string_view kForeignIndexes[] = {".qix", ".sbn", ".sbx"};
@@ -69,8 +71,8 @@ ShapeSet::ShapeSet(std::string_view basePath, FigureType type, std::optional<Dat
     : basePath_(basePath),
       type_(type),
       table_(today),
-      main_(basePath_ + ".shp"),
-      index_(basePath_ + ".shx") {}
+      main_(std::string(basePath_).append(kShapeEnding)),
+      index_(std::string(basePath_).append(kShapeIndexEnding)) {}
 
 std::optional<Failure> ShapeSet::create(const BoundingBox& box) {
     std::string bytes;
@@ -164,7 +166,7 @@ void ShapeSet::writeLength(FileDraft& file) {
 
 std::optional<Failure> ShapeSet::finish() {
     if (isTooLarge_) {
-        return because(TextId::FileCannotBeWritten, {basePath_ + ".shp"},
+        return because(TextId::FileCannotBeWritten, {std::string(basePath_).append(kShapeEnding)},
                        {TextId::FileTooLarge, {}});
     }
     writeLength(main_);
@@ -173,8 +175,8 @@ std::optional<Failure> ShapeSet::finish() {
     files.push_back(std::move(main_));
     files.push_back(std::move(index_));
     files.push_back(table_.takeDraft());
-    files.emplace_back(basePath_ + ".prj").write(kReference);
-    files.emplace_back(basePath_ + ".cpg").write(kCodePage);
+    files.emplace_back(std::string(basePath_).append(kReferenceEnding)).write(kReference);
+    files.emplace_back(std::string(basePath_).append(kCodePageEnding)).write(kCodePage);
     std::vector<std::string> outdated;
     for (const std::string_view ending : kForeignIndexes) {
         outdated.push_back(std::string(basePath_).append(ending));

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <utility>
 
+#include "base/file_endings.h"
 #include "base/number_forms.h"
 #include "base/numbers.h"
 #include "model/measures.h"
@@ -49,8 +50,9 @@ std::int32_t Shp::average(std::string_view column, double sum, std::int32_t poin
 
 void Shp::refuse(std::string_view column, std::string value) {
     if (!failure_) {
-        failure_ = because(TextId::FileCannotBeWritten, {basePath_ + ".dbf"},
-                           {TextId::CellDoesNotFit, {std::string(column), std::move(value)}});
+        failure_ =
+            because(TextId::FileCannotBeWritten, {std::string(basePath_).append(kTableEnding)},
+                    {TextId::CellDoesNotFit, {std::string(column), std::move(value)}});
     }
 }
 

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "base/encoding.h"
+#include "base/file_endings.h"
 #include "base/number_forms.h"
 #include "base/numbers.h"
 #include "export/export_layers.h"
@@ -225,8 +226,8 @@ public:
             return std::nullopt;
         }
         if (attributes_.failure()) {
-            return because(TextId::FileCannotBeWritten, {basePath_ + ".dbf"},
-                           *attributes_.failure());
+            return because(TextId::FileCannotBeWritten,
+                           {std::string(basePath_).append(kTableEnding)}, *attributes_.failure());
         }
         if (set_.recordCount() == 0 && !set_.hasFailed()) {
             return Failure{nothing, {}, {}};

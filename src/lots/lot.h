@@ -13,8 +13,6 @@
 
 namespace campora {
 
-inline constexpr std::string_view kLotEnding = ".lot";
-
 /// A lot as a ".lot" file holds it.
 struct Lot {
     /// The ring in order, in degrees; the first vertex is not repeated.

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "base/file_draft.h"
+#include "base/file_endings.h"
 #include "base/folder_files.h"
 #include "base/numbers.h"
 #include "base/paths.h"

@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "base/file_draft.h"
+#include "base/file_endings.h"
 #include "base/files.h"
 #include "base/numbers.h"
 #include "base/text.h"
@@ -272,7 +273,7 @@ std::optional<GridRule> generateVRT(std::string_view path, float resolution, con
 }
 
 std::string companionPath(std::string_view path) {
-    constexpr std::string_view kEnding = "rpt";
+    constexpr std::string_view kEnding = kReportEnding.substr(1);
     return std::string(path.substr(0, path.size() - std::min(path.size(), kEnding.size())))
         .append(kEnding);
 }

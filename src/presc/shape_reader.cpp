@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "base/encoding.h"
+#include "base/file_endings.h"
 #include "base/file_head.h"
 #include "base/numbers.h"
 #include "base/paths.h"
@@ -44,8 +45,8 @@ Failure withProjection(Failure failure, const CoordinateSystem& system) {
 
 CoordinateSystem readCoordinateSystem(std::string_view base) {
     constexpr std::size_t kLongest = 20'000;
-    return coordinateSystemOf(
-        decodeText(readFileHead(companionOf(base, ".prj"), kLongest).value_or(std::string())));
+    return coordinateSystemOf(decodeText(
+        readFileHead(companionOf(base, kReferenceEnding), kLongest).value_or(std::string())));
 }
 
 }  // namespace
@@ -62,7 +63,7 @@ std::optional<Failure> ShapeReader::open(std::string_view path) {
     files->shapeBytes = std::move(*main);
     const std::string_view base = withoutEnding(path);
     files->system = readCoordinateSystem(base);
-    const FileBytes index = readIfPossible(companionOf(base, ".shx"));
+    const FileBytes index = readIfPossible(companionOf(base, kShapeIndexEnding));
     try {
         files->shapes = ShapeFile(files->shapeBytes.bytes(), index.bytes());
     } catch (const FormatError& error) {
@@ -81,7 +82,7 @@ std::optional<Failure> ShapeReader::open(std::string_view path) {
 }
 
 void ShapeReader::readTable(std::string_view base, Files& files) {
-    const std::string path = companionOf(base, ".dbf");
+    const std::string path = companionOf(base, kTableEnding);
     if (!isThere(path)) {
         files.tableMissing = true;
         return;
@@ -94,7 +95,7 @@ void ShapeReader::readTable(std::string_view base, Files& files) {
     files.tableBytes = std::move(*table);
     constexpr std::size_t kLongestPageName = 64;
     const std::string page =
-        readFileHead(companionOf(base, ".cpg"), kLongestPageName).value_or(std::string());
+        readFileHead(companionOf(base, kCodePageEnding), kLongestPageName).value_or(std::string());
     try {
         files.table = DbaseFile(files.tableBytes.bytes(), page);
     } catch (const FormatError& error) {

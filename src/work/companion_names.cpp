@@ -3,6 +3,7 @@
 
 #include "work/companion_names.h"
 
+#include "base/file_endings.h"
 #include "base/files.h"
 #include "base/paths.h"
 #include "base/text.h"
@@ -10,9 +11,6 @@
 namespace campora {
 
 namespace {
-
-constexpr std::string_view kTrackEnding = ".nbr";
-constexpr std::string_view kSummaryEnding = ".txt";
 
 /// `path` with another ending and, in the lower-cased file name, `to` for every `from`.
 std::string renamed(std::string_view path, std::string_view ending, std::string_view from,
@@ -24,14 +22,14 @@ std::string renamed(std::string_view path, std::string_view ending, std::string_
 }
 
 std::string summaryOf(std::string_view path) {
-    return renamed(path, kSummaryEnding, "log", "Wrk");
+    return renamed(path, kTextEnding, "log", "Wrk");
 }
 
 }  // namespace
 
 CompanionNames companionNames(std::string_view path) {
     const std::string ending = pathEnding(path);
-    if (ending == kSummaryEnding) {
+    if (ending == kTextEnding) {
         return {std::string(path), renamed(path, kTrackEnding, "wrk", "Log")};
     }
     if (ending == kTrackEnding) {

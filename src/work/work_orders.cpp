@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "base/encoding.h"
+#include "base/file_endings.h"
 #include "base/file_head.h"
 #include "base/folder_files.h"
 #include "base/numbers.h"
@@ -24,7 +25,6 @@ namespace campora {
 
 namespace {
 
-constexpr std::string_view kTrackEnding = ".nbr";
 /// Nine short lines take a tenth of this.
 constexpr std::size_t kHeadBytes = 2048;
 

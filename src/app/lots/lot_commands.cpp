@@ -12,6 +12,7 @@
 #include "app/lots/lot_editor.h"
 #include "app/save_target.h"
 #include "app/session.h"
+#include "base/file_endings.h"
 #include "base/numbers.h"
 #include "base/paths.h"
 #include "base/text.h"
@@ -19,6 +20,7 @@
 #include "lots/load_lot.h"
 #include "lots/merge_lots.h"
 #include "lots/save_lots.h"
+#include "platform/file_filter.h"
 
 namespace campora {
 
@@ -88,7 +90,7 @@ std::string askLotTarget(const Session& session, const std::string& name) {
     const SaveRequest request{std::string(texts(TextId::ExportTitle)),
                               startFolder(session, SettingId::LotesPath),
                               name,
-                              {{std::string(texts(TextId::FilterLote)), {"*.lot"}}}};
+                              {fileFilter(texts, TextId::FilterLote, kLotEnding)}};
     std::string path = session.platform().dialogs.saveFile(request).path;
     if (path.empty()) {
         return {};

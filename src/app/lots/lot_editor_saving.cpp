@@ -10,6 +10,7 @@
 #include "app/lots/lot_commands.h"
 #include "app/lots/lot_editor.h"
 #include "app/session.h"
+#include "base/file_endings.h"
 #include "base/paths.h"
 #include "base/text.h"
 #include "base/typed_number.h"
@@ -102,8 +103,8 @@ void LotEditor::viewInEarth() {
     if (refuseFewVertices()) {
         return;
     }
-    const std::string name(path().empty() ? session_.texts()(TextId::LoteTitle) : fileStem(path()));
-    const Result<std::string> document = documents_.file(name + ".kml");
+    std::string name(path().empty() ? session_.texts()(TextId::LoteTitle) : fileStem(path()));
+    const Result<std::string> document = documents_.file(name.append(kKmlEnding));
     if (!document) {
         tell(document.failure());
         return;

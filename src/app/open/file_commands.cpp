@@ -15,9 +15,11 @@
 #include "app/settings.h"
 #include "app/used_files.h"
 #include "base/file_draft.h"
+#include "base/file_endings.h"
 #include "base/files.h"
 #include "base/paths.h"
 #include "base/text.h"
+#include "platform/file_filter.h"
 #include "platform/quiet_dialogs.h"
 #include "presc/shape_reader.h"
 #include "work/companion_names.h"
@@ -171,15 +173,13 @@ void FileCommands::saveAs() {
         !saveFolder_.empty() && isFolder(saveFolder_) ? saveFolder_ : session_.programFolder();
     const std::string chosen =
         platform.dialogs
-            .saveFile({std::string(texts(TextId::SaveAsTitle)),
-                       folder,
-                       "",
-                       {{std::string(texts(TextId::FilterNimbra)), {"*.nbr"}}}})
+            .saveFile({std::string(texts(TextId::SaveAsTitle)), folder, "", {trackFilter(texts)}})
             .path;
     if (chosen.empty()) {
         return;
     }
-    const std::string path = pathEnding(chosen) == ".nbr" ? chosen : chosen + ".nbr";
+    const std::string path =
+        pathEnding(chosen) == kTrackEnding ? chosen : std::string(chosen).append(kTrackEnding);
     saveFolder_ = folderOf(path);
     const CompanionNames source = companionNames(session_.lastTrackFile());
     const CompanionNames target = companionNames(path);

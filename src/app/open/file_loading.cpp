@@ -8,19 +8,18 @@
 #include <string>
 #include <utility>
 
+#include "base/file_endings.h"
 #include "base/files.h"
 #include "base/paths.h"
 #include "base/text.h"
 #include "lots/load_lot.h"
+#include "platform/file_filter.h"
 #include "presc/gph_presc.h"
 #include "presc/load_grid.h"
 
 namespace campora {
 
 namespace {
-
-/// A project is known by its first line; this is the ending that they mostly have.
-constexpr std::string_view kProjectEnding = ".fsp";
 
 using WorkLoader = std::optional<LoadedWork> (*)(std::string_view, const WorkReaderContext&);
 
@@ -91,19 +90,15 @@ std::optional<OpenedFile> openLot(std::string_view path, const OpenContext& cont
 }
 
 constexpr FileFormat kFormats[] = {
-    {".rpt", TextId::FilterReports, true, false, openWork<loadRptFile>},
-    {".txt", TextId::FilterTextTables, true, false, openWork<loadRptTextTable>},
-    {".nbr", TextId::FilterTrackFiles, false, true, openWork<loadTrackFile>},
-    {".shp", TextId::FilterShapes, false, false, openZones},
-    {".vrt", TextId::FilterPrescriptions, false, false, openGrid},
-    {".lot", TextId::FilterLotes, false, false, openLot},
+    {kReportEnding, TextId::FilterReports, true, false, openWork<loadRptFile>},
+    {kTextEnding, TextId::FilterTextTables, true, false, openWork<loadRptTextTable>},
+    {kTrackEnding, TextId::FilterTrackFiles, false, true, openWork<loadTrackFile>},
+    {kShapeEnding, TextId::FilterShapes, false, false, openZones},
+    {kVrtEnding, TextId::FilterPrescriptions, false, false, openGrid},
+    {kLotEnding, TextId::FilterLotes, false, false, openLot},
     // The last: files without an ending of the table are offered to its reader.
-    {".pre", TextId::FilterPrescriptions, false, false, openGrid},
+    {kPreEnding, TextId::FilterPrescriptions, false, false, openGrid},
 };
-
-std::string patternOf(const FileFormat& format) {
-    return std::string("*").append(format.ending);
-}
 
 }  // namespace
 
@@ -127,12 +122,13 @@ const FileFormat& formatToOpen(std::string_view path) {
 std::vector<FileFilter> openFilters(const Texts& texts) {
     std::vector<FileFilter> filters{{std::string(texts(TextId::FilterSupported)), {}}};
     for (const FileFormat& format : kFormats) {
-        filters.front().patterns.push_back(patternOf(format));
-        filters.push_back({std::string(texts(format.filterCaption)), {patternOf(format)}});
+        filters.push_back(fileFilter(texts, format.filterCaption, format.ending));
     }
-    const std::string projects = std::string("*").append(kProjectEnding);
-    filters.front().patterns.push_back(projects);
-    filters.push_back({std::string(texts(TextId::FilterProjects)), {projects}});
+    // A project is known by its first line; this is the ending that they mostly have.
+    filters.push_back(fileFilter(texts, TextId::FilterProjects, kProjectEnding));
+    for (std::size_t i = 1; i < filters.size(); ++i) {
+        filters.front().patterns.push_back(filters[i].patterns.front());
+    }
     filters.push_back({std::string(texts(TextId::FilterAllFiles)), {"*"}});
     return filters;
 }

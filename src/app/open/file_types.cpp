@@ -5,6 +5,7 @@
 
 #include <string>
 
+#include "base/file_endings.h"
 #include "base/paths.h"
 
 namespace campora {
@@ -19,8 +20,8 @@ struct FileType {
 };
 
 constexpr FileType kTypes[] = {
-    {".rpt", "FurrowScope.RptFile", "rpt.ico"},
-    {".pre", "FurrowScope.PreFile", "pre.ico"},
+    {kReportEnding, "FurrowScope.RptFile", "rpt.ico"},
+    {kPreEnding, "FurrowScope.PreFile", "pre.ico"},
 };
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "app/open/file_loading.h"
+#include "base/file_endings.h"
 #include "base/file_head.h"
 #include "base/folder_files.h"
 #include "base/paths.h"
@@ -24,8 +25,9 @@ constexpr std::size_t kBlankReport = 4096;
 
 /// The report that is written beside a prescription holds zeros until the console has worked.
 bool isBlankReport(const std::string& path) {
-    if (pathEnding(path) != ".rpt" ||
-        !isThere(findIgnoringCase(path.substr(0, path.size() - 3) + "pre"))) {
+    if (pathEnding(path) != kReportEnding ||
+        !isThere(findIgnoringCase(
+            std::string(path, 0, path.size() - kReportEnding.size()).append(kPreEnding)))) {
         return false;
     }
     const std::optional<std::string> head = readFileHead(path, kBlankReport);

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "app/session.h"
+#include "base/file_endings.h"
 #include "base/files.h"
 #include "base/paths.h"
 #include "work/companion_names.h"
@@ -15,12 +16,6 @@
 #include "work/summary_file.h"
 
 namespace campora {
-
-namespace {
-
-constexpr std::string_view kTrackEnding = ".nbr";
-
-}  // namespace
 
 void addKeptEdits(File& file) {
     FileProperties& summary = file.File_resumen();

@@ -8,8 +8,10 @@
 
 #include "app/save_target.h"
 #include "app/settings.h"
+#include "base/file_endings.h"
 #include "base/numbers.h"
 #include "base/paths.h"
+#include "platform/file_filter.h"
 
 namespace campora {
 
@@ -127,11 +129,10 @@ void WorkOrdersBrowser::copy() {
     const Texts& texts = session_.texts();
     const Platform& platform = session_.platform();
     const std::string last = readText(platform.settings, SettingId::SelectFolder);
-    const std::string destination =
-        platform.dialogs.chooseFolder({std::string(texts(TextId::ChooseFolder)),
-                                       isFolder(last) ? last : folder_,
-                                       std::string(texts(TextId::FilesOfOrder)),
-                                       {std::string(texts(TextId::FilterLogs)), {"*.nbr"}}});
+    const std::string destination = platform.dialogs.chooseFolder(
+        {std::string(texts(TextId::ChooseFolder)), isFolder(last) ? last : folder_,
+         std::string(texts(TextId::FilesOfOrder)),
+         fileFilter(texts, TextId::FilterLogs, kTrackEnding)});
     if (!destination.empty()) {
         writeText(platform.settings, SettingId::SelectFolder, destination);
         copyOrder(order, destination, session_.filesInUse(), platform.dialogs, texts);

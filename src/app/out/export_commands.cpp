@@ -12,9 +12,11 @@
 #include "app/save_target.h"
 #include "app/session.h"
 #include "app/used_files.h"
+#include "base/file_endings.h"
 #include "base/files.h"
 #include "base/paths.h"
 #include "base/plain_text.h"
+#include "platform/file_filter.h"
 #include "work/glg_points.h"
 #include "work/gph_track.h"
 #include "work/work_reader.h"
@@ -22,9 +24,6 @@
 namespace campora {
 
 namespace {
-
-constexpr std::string_view kGlgEnding = ".glg";
-constexpr std::string_view kReportEnding = ".rpt";
 
 /// Sets a flag for as long as it lives.
 class WhileBusy {
@@ -178,7 +177,7 @@ void ExportCommands::mnuFileExportSel() {
     const Texts& texts = session_.texts();
     OpenRequest request{std::string(texts(TextId::ExportFilesTitle)),
                         startFolder(session_, SettingId::OpenPath),
-                        {{std::string(texts(TextId::FilterNimbra)), {"*.nbr"}}}};
+                        {trackFilter(texts)}};
     request.several = true;
     const std::vector<std::string> paths = platform.dialogs.openFiles(request);
     if (paths.empty()) {
@@ -223,7 +222,7 @@ void ExportCommands::mnuFileExportRpt() {
     const std::vector<std::string> chosen =
         platform.dialogs.openFiles({std::string(texts(TextId::ChooseReport)),
                                     startFolder(session_, SettingId::OpenPath),
-                                    {{std::string(texts(TextId::FilterRpt)), {"*.rpt"}}}});
+                                    {fileFilter(texts, TextId::FilterRpt, kReportEnding)}});
     if (busy_ || chosen.empty()) {
         return;
     }
@@ -234,7 +233,7 @@ void ExportCommands::mnuFileExportRpt() {
         return;
     }
     const std::optional<Target> target =
-        askTarget(textFormats(), std::string(fileStem(report)) + ".txt");
+        askTarget(textFormats(), std::string(fileStem(report)).append(kTextEnding));
     if (target && write(*target->format, inUseWith(report), read->File_gphList(), target->path)) {
         openWithShell(target->path);
     }
@@ -274,7 +273,7 @@ void ExportCommands::mnuFileExportGlg() {
         platform.dialogs.saveFile({std::string(texts(TextId::ExportTitle)),
                                    startFolder(session_, SettingId::ExportPath),
                                    proposed,
-                                   {{std::string(texts(TextId::FilterGlg)), {"*.glg"}}}});
+                                   {fileFilter(texts, TextId::FilterGlg, kGlgEnding)}});
     const std::string path = endedPath(answer.path, kGlgEnding);
     if (!path.empty()) {
         writeText(platform.settings, SettingId::ExportPath, folderOf(path));

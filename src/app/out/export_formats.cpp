@@ -7,12 +7,14 @@
 #include <cstddef>
 
 #include "app/session.h"
+#include "base/file_endings.h"
 #include "base/paths.h"
 #include "base/text.h"
 #include "export/geojson_export.h"
 #include "export/kml_export.h"
 #include "export/shp_export.h"
 #include "export/txt_export.h"
+#include "platform/file_filter.h"
 
 namespace campora {
 
@@ -20,8 +22,7 @@ namespace {
 
 /// The writers of sets of files add the endings themselves.
 std::string_view basePath(const ExportJob& job) {
-    constexpr std::size_t kEnding = 4;
-    return std::string_view(job.path).substr(0, job.path.size() - kEnding);
+    return std::string_view(job.path).substr(0, job.path.size() - kShapeEnding.size());
 }
 
 std::optional<Failure> writeShpPolygons(const ExportJob& job) {
@@ -61,23 +62,23 @@ std::optional<Failure> writePicture(const ExportJob& job) {
 
 // clang-format off
 constexpr ExportFormat kFormats[] = {
-    {"shp-polygon", ".shp", TextId::FilterShapePolygons, ExportSource::Layers,
+    {"shp-polygon", kShapeEnding, TextId::FilterShapePolygons, ExportSource::Layers,
      AfterExport::Nothing, polygonLayers, writeShpPolygons},
-    {"shp-point", ".shp", TextId::FilterShapePoints, ExportSource::Layers,
+    {"shp-point", kShapeEnding, TextId::FilterShapePoints, ExportSource::Layers,
      AfterExport::Nothing, pointLayers, writeShpPoints},
-    {"bmp", ".bmp", TextId::FilterBitmap, ExportSource::Picture,
+    {"bmp", kBmpEnding, TextId::FilterBitmap, ExportSource::Picture,
      AfterExport::Nothing, nullptr, writePicture<PictureForm::Bmp>},
-    {"kml", ".kml", TextId::FilterKml, ExportSource::Layers,
+    {"kml", kKmlEnding, TextId::FilterKml, ExportSource::Layers,
      AfterExport::AskToOpen, nullptr, writeKml},
-    {"txt", ".txt", TextId::FilterText, ExportSource::Layers,
+    {"txt", kTextEnding, TextId::FilterText, ExportSource::Layers,
      AfterExport::Open, nullptr, writeText<'.'>},
-    {"txt-comma", ".txt", TextId::FilterTextComma, ExportSource::Layers,
+    {"txt-comma", kTextEnding, TextId::FilterTextComma, ExportSource::Layers,
      AfterExport::Open, nullptr, writeText<','>},
-    {"shp-gis", ".shp", TextId::FilterShapeGis, ExportSource::Layers,
+    {"shp-gis", kShapeEnding, TextId::FilterShapeGis, ExportSource::Layers,
      AfterExport::Nothing, nullptr, writeShpGis},
-    {"geojson", ".geojson", TextId::FilterGeoJson, ExportSource::Layers,
+    {"geojson", kGeoJsonEnding, TextId::FilterGeoJson, ExportSource::Layers,
      AfterExport::Nothing, nullptr, writeGeoJson},
-    {"png", ".png", TextId::FilterPng, ExportSource::Picture,
+    {"png", kPngEnding, TextId::FilterPng, ExportSource::Picture,
      AfterExport::Nothing, nullptr, writePicture<PictureForm::Png>},
 };
 // clang-format on
@@ -122,8 +123,7 @@ std::vector<const Gph*> layersWithoutColumns(const ExportFormat& format,
 std::vector<FileFilter> exportFilters(std::span<const ExportFormat> formats, const Texts& texts) {
     std::vector<FileFilter> filters;
     for (const ExportFormat& format : formats) {
-        filters.push_back(
-            {std::string(texts(format.caption)), {std::string("*").append(format.ending)}});
+        filters.push_back(fileFilter(texts, format.caption, format.ending));
     }
     return filters;
 }

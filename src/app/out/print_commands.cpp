@@ -11,10 +11,12 @@
 #include "app/settings.h"
 #include "app/window_title.h"
 #include "base/dates.h"
+#include "base/file_endings.h"
 #include "base/files.h"
 #include "base/numbers.h"
 #include "base/paths.h"
 #include "base/text.h"
+#include "platform/file_filter.h"
 
 namespace campora {
 
@@ -106,8 +108,8 @@ void PrintCommands::savePdf(const std::function<Result<std::string>()>& makePdf)
     const std::string path = platform.dialogs
                                  .saveFile({std::string(texts(TextId::SavePdfTitle)),
                                             readText(platform.settings, SettingId::PrintPath),
-                                            documentName() + ".pdf",
-                                            {{std::string(texts(TextId::PrinterPdf)), {"*.pdf"}}}})
+                                            documentName().append(kPdfEnding),
+                                            {fileFilter(texts, TextId::PrinterPdf, kPdfEnding)}})
                                  .path;
     if (path.empty()) {
         return;

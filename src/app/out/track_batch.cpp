@@ -8,6 +8,7 @@
 
 #include "app/session.h"
 #include "app/used_files.h"
+#include "base/file_endings.h"
 #include "base/files.h"
 #include "base/paths.h"
 #include "base/text.h"
@@ -98,7 +99,7 @@ bool TrackBatch::exportList(const std::vector<std::string>& paths) {
 }
 
 bool TrackBatch::exportFiles(const std::string& source, const std::string& target) {
-    const std::string base = pathEnding(target) == ".shp" ? shapeBaseOf(target) : target;
+    const std::string base = pathEnding(target) == kShapeEnding ? shapeBaseOf(target) : target;
     const Texts& texts = session_.texts();
     const std::optional<Failure> refused = whyNoTarget(target);
     lookWhatIsInUse({source});

@@ -9,9 +9,11 @@
 #include <utility>
 
 #include "app/settings.h"
+#include "base/file_endings.h"
 #include "base/numbers.h"
 #include "base/paths.h"
 #include "base/plain_text.h"
+#include "platform/file_filter.h"
 #include "presc/zone_overlaps.h"
 
 namespace campora {
@@ -60,7 +62,7 @@ void DoseColumns::chooseFile(int row) {
     const Texts& texts = session_.texts();
     OpenRequest request{std::string(texts(TextId::Open)),
                         readText(platform.settings, SettingId::PrescOpenPath),
-                        {{std::string(texts(TextId::FilterShapes)), {"*.shp"}}}};
+                        {fileFilter(texts, TextId::FilterShapes, kShapeEnding)}};
     if (request.folder.empty()) {
         request.folder = session_.programFolder();
     }
@@ -106,7 +108,8 @@ std::string DoseColumns::faultOf(const GphPresc& presc, const std::string& path)
                             {path, std::string(texts(TextId::FiguresNone))});
     }
     if (presc.isTableMissing()) {
-        const std::string table = path.substr(0, path.size() - pathEnding(path).size()) + ".dbf";
+        const std::string table =
+            path.substr(0, path.size() - pathEnding(path).size()).append(kTableEnding);
         return texts.format(TextId::MapWithoutTable, {path, std::string(fileNamePart(table))});
     }
     return {};

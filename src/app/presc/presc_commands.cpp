@@ -8,22 +8,23 @@
 
 #include "app/session.h"
 #include "app/settings.h"
+#include "base/file_endings.h"
 #include "base/numbers.h"
 #include "base/paths.h"
 #include "base/plain_text.h"
 #include "base/text.h"
 #include "base/typed_number.h"
+#include "platform/file_filter.h"
 #include "presc/generation.h"
 
 namespace campora {
 
 namespace {
 
-constexpr std::string_view kShapeEnding = ".shp";
 /// Metres.
 constexpr std::string_view kProposedCell = "20";
 
-/// The name of a file with another ending in place of ".shp".
+/// The name of a file with another ending in place of that of shapefiles.
 std::string withEnding(std::string name, std::string_view ending) {
     if (pathEnding(name) == kShapeEnding) {
         name.resize(name.size() - kShapeEnding.size());
@@ -92,7 +93,7 @@ std::string PrescCommands::askTarget(TextId filter, std::string_view ending) con
     SaveRequest request{std::string(texts(TextId::SaveAsTitle)),
                         readText(platform.settings, SettingId::SavePath),
                         withEnding(prescription()->channel(0).name(), ending),
-                        {{std::string(texts(filter)), {std::string("*").append(ending)}}}};
+                        {fileFilter(texts, filter, ending)}};
     if (request.folder.empty()) {
         request.folder = session_.programFolder();
     }
@@ -147,7 +148,7 @@ void PrescCommands::mnuFileSavePrescript() {
     if (open == nullptr) {
         return;
     }
-    const std::string path = askTarget(TextId::FilterPreFiles, ".pre");
+    const std::string path = askTarget(TextId::FilterPreFiles, kPreEnding);
     if (path.empty()) {
         return;
     }
@@ -164,7 +165,7 @@ void PrescCommands::mnuFileSaveVrt() {
     if (open == nullptr) {
         return;
     }
-    const std::string path = askTarget(TextId::FilterPrescriptions, ".vrt");
+    const std::string path = askTarget(TextId::FilterPrescriptions, kVrtEnding);
     if (path.empty()) {
         return;
     }

@@ -15,9 +15,11 @@
 #include <QVBoxLayout>
 
 #include "app/session.h"
+#include "base/file_endings.h"
 #include "base/paths.h"
 #include "desktop/platform/pointer_override.h"
 #include "desktop/platform/qt_text.h"
+#include "platform/file_filter.h"
 
 namespace campora {
 
@@ -192,20 +194,21 @@ void ShpExportDialog::showList() {
 }
 
 bool ShpExportDialog::isAsProposed() const {
-    return paths_.size() > 1 || (toUtf8(txtOrig_->text()) == paths_.front() &&
-                                 toUtf8(txtDest_->text()) == shapeBaseOf(paths_.front()) + ".shp");
+    return paths_.size() > 1 ||
+           (toUtf8(txtOrig_->text()) == paths_.front() &&
+            toUtf8(txtDest_->text()) == shapeBaseOf(paths_.front()).append(kShapeEnding));
 }
 
 void ShpExportDialog::setSource(const std::string& path) {
     txtOrig_->setText(toQt(path));
-    txtDest_->setText(toQt(path.empty() ? path : shapeBaseOf(path) + ".shp"));
+    txtDest_->setText(toQt(path.empty() ? path : shapeBaseOf(path).append(kShapeEnding)));
 }
 
 void ShpExportDialog::browseSource() {
     const std::vector<std::string> chosen =
         session_.platform().dialogs.openFiles({toUtf8(word(TextId::ExportFilesTitle)),
                                                folderOf(toUtf8(txtOrig_->text())),
-                                               {{toUtf8(word(TextId::FilterNimbra)), {"*.nbr"}}}});
+                                               {trackFilter(session_.texts())}});
     if (!chosen.empty()) {
         setSource(chosen.front());
     }
@@ -219,7 +222,7 @@ void ShpExportDialog::browseTarget() {
             .saveFile({toUtf8(word(TextId::ExportTitle)),
                        folderOf(present),
                        std::string(fileNamePart(present)),
-                       {{toUtf8(word(TextId::FilterShapePolygons)), {"*.shp"}}}})
+                       {fileFilter(session_.texts(), TextId::FilterShapePolygons, kShapeEnding)}})
             .path;
     if (!chosen.empty()) {
         txtDest_->setText(toQt(chosen));
