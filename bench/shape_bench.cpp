@@ -16,7 +16,7 @@
 #include "base/numbers.h"
 #include "field.h"
 #include "paint/raster_canvas.h"
-#include "presc/shape_polygons.h"
+#include "presc/read_figure.h"
 #include "support/shape_bytes.h"
 #include "support/shared_samples.h"
 #include "support/temp_folder.h"

@@ -14,7 +14,7 @@
 
 #include "base/encoding.h"
 #include "base/failure.h"
-#include "presc/dbase_file.h"
+#include "presc/dbase_view.h"
 
 using namespace campora;
 

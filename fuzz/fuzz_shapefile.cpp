@@ -13,7 +13,7 @@
 #include <vector>
 
 #include "base/failure.h"
-#include "presc/shape_file.h"
+#include "presc/shapefile_view.h"
 
 namespace {
 

@@ -11,7 +11,7 @@
 #include "base/file_endings.h"
 #include "base/paths.h"
 #include "base/text.h"
-#include "export/shape_set.h"
+#include "export/shapefile_writer.h"
 #include "presc/generation.h"
 #include "presc/gph_presc_vex.h"
 #include "work/companion_names.h"

@@ -15,7 +15,7 @@
 #include "base/number_forms.h"
 #include "base/numbers.h"
 #include "export/export_layers.h"
-#include "export/shape_set.h"
+#include "export/shapefile_writer.h"
 #include "export/valid_polygons.h"
 
 namespace campora {

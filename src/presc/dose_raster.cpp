@@ -8,7 +8,7 @@
 #include <limits>
 
 #include "base/numbers.h"
-#include "presc/vrt_file.h"
+#include "presc/vrt_grid.h"
 
 namespace campora {
 

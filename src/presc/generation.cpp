@@ -22,8 +22,8 @@
 #include "presc/dose_raster.h"
 #include "presc/grid_geometry.h"
 #include "presc/grid_layout.h"
-#include "presc/pre_file.h"
-#include "presc/vrt_file.h"
+#include "presc/pre_grid.h"
+#include "presc/vrt_grid.h"
 
 namespace campora {
 

@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "presc/grid_layer.h"
-#include "presc/pre_file.h"
+#include "presc/pre_grid.h"
 
 namespace campora {
 

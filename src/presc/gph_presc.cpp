@@ -15,7 +15,7 @@
 #include "base/typed_number.h"
 #include "model/measures.h"
 #include "model/shown_number.h"
-#include "presc/shape_polygons.h"
+#include "presc/read_figure.h"
 #include "presc/tree_units.h"
 
 namespace campora {

@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "presc/grid_layer.h"
-#include "presc/vrt_file.h"
+#include "presc/vrt_grid.h"
 
 namespace campora {
 

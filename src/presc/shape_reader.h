@@ -14,8 +14,8 @@
 #include "base/files.h"
 #include "model/cell_value.h"
 #include "presc/coordinate_system.h"
-#include "presc/dbase_file.h"
-#include "presc/shape_file.h"
+#include "presc/dbase_view.h"
+#include "presc/shapefile_view.h"
 
 namespace campora {
 

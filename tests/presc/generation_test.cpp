@@ -13,8 +13,8 @@
 #include <gtest/gtest.h>
 
 #include "base/files.h"
-#include "presc/pre_file.h"
-#include "presc/vrt_file.h"
+#include "presc/pre_grid.h"
+#include "presc/vrt_grid.h"
 #include "support/scripted_platform.h"
 #include "support/temp_folder.h"
 #include "support/zone_layers.h"

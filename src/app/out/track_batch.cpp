@@ -12,7 +12,7 @@
 #include "base/files.h"
 #include "base/paths.h"
 #include "base/text.h"
-#include "export/shape_set.h"
+#include "export/shapefile_writer.h"
 #include "platform/left_undone.h"
 #include "platform/quiet_dialogs.h"
 #include "work/work_reader.h"

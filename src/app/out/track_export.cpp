@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "export/shp.h"
+#include "export/track_shapefile_writer.h"
 #include "work/gph_track.h"
 #include "work/swath_groups.h"
 

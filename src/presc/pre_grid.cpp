@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "presc/pre_file.h"
+#include "presc/pre_grid.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "presc/shape_polygons.h"
+#include "presc/read_figure.h"
 
 #include <cstddef>
 #include <utility>

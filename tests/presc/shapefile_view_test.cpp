@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "presc/shape_file.h"
+#include "presc/shapefile_view.h"
 
 #include <cmath>
 #include <limits>

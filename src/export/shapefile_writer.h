@@ -15,7 +15,7 @@
 #include "base/failure.h"
 #include "base/file_draft.h"
 #include "base/lon_lat.h"
-#include "export/dbf_file.h"
+#include "export/dbase_writer.h"
 #include "model/bounding_box.h"
 
 namespace campora {

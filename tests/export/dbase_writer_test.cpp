@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "export/dbf_file.h"
+#include "export/dbase_writer.h"
 
 #include <stdexcept>
 

@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "export/shp.h"
+#include "export/track_shapefile_writer.h"
 
 #include <array>
 #include <cstddef>

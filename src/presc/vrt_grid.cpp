@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "presc/vrt_file.h"
+#include "presc/vrt_grid.h"
 
 #include <cmath>
 

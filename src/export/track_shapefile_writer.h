@@ -11,7 +11,7 @@
 
 #include "base/failure.h"
 #include "base/lon_lat.h"
-#include "export/shape_set.h"
+#include "export/shapefile_writer.h"
 #include "model/bounding_box.h"
 
 namespace campora {

@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "presc/dbase_file.h"
+#include "presc/dbase_view.h"
 
 #include <algorithm>
 #include <charconv>

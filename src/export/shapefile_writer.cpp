@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "export/shape_set.h"
+#include "export/shapefile_writer.h"
 
 #include <algorithm>
 #include <utility>
