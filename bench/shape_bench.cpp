@@ -47,7 +47,7 @@ std::vector<GphPolygonMulti> readFigures(ShapeReader& reader) {
     std::vector<GphPolygonMulti> figures;
     figures.reserve(static_cast<std::size_t>(reader.recordCount()));
     for (reader.moveFirst(); reader.record() <= reader.recordCount(); reader.moveNext()) {
-        figures.push_back(readPolygon(reader));
+        figures.push_back(readFigure(reader));
         figures.back().color = {static_cast<std::uint32_t>(figures.size() * 7919)};
     }
     return figures;

@@ -20,7 +20,7 @@ using namespace campora;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     try {
-        const DbaseFile table(std::as_bytes(std::span(data, size)));
+        const DbaseView table(std::as_bytes(std::span(data, size)));
         // One row before and one behind those that are there; a narrow row makes many of them.
         constexpr std::int32_t kMost = 1000;
         for (std::int32_t row = -1; row <= std::min(table.rowCount(), kMost); ++row) {

@@ -145,20 +145,20 @@ CellCentres centresFrom(LonLat origin, double perDegreeX, double metres, int col
 
 /// The grid has a margin of two cells and begins in the north-west, the VRT's in the south-west.
 Grid readPre(const FileBytes& bytes, const BoundingBox& bound, int metres) {
-    const PreFile file = decodePre(bytes.bytes());
+    const PreGrid grid = decodePre(bytes.bytes());
     const double perDegree = wholeMetresPerDegree(bound.maxY);
     const LonLat origin{bound.minX - 2.0 * metres / perDegree,
                         bound.maxY + 2.0 * metres / METERS_PER_DEGREE};
-    return {centresFrom(origin, perDegree, metres, file.header.columns, file.header.rows, -1),
-            static_cast<std::size_t>(file.header.channels), file.doses, 1, true};
+    return {centresFrom(origin, perDegree, metres, grid.header.columns, grid.header.rows, -1),
+            static_cast<std::size_t>(grid.header.channels), grid.doses, 1, true};
 }
 
 Grid readVrt(const FileBytes& bytes, const BoundingBox& bound, float metres) {
-    const VrtFile file = decodeVrt(bytes.bytes());
-    const LonLat origin{static_cast<double>(file.header.x0), static_cast<double>(file.header.y0)};
+    const VrtGrid grid = decodeVrt(bytes.bytes());
+    const LonLat origin{static_cast<double>(grid.header.x0), static_cast<double>(grid.header.y0)};
     return {centresFrom(origin, wholeMetresPerDegree(bound.minY), static_cast<double>(metres),
-                        file.header.columns, file.header.rows, 1),
-            static_cast<std::size_t>(file.header.channels), file.doses, VrtFile::kDoseUnits, false};
+                        grid.header.columns, grid.header.rows, 1),
+            static_cast<std::size_t>(grid.header.channels), grid.doses, VrtGrid::kDoseUnits, false};
 }
 
 }  // namespace

@@ -19,12 +19,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return 0;
     }
     try {
-        const PreFile file = decodePre(bytes);
-        const std::string again = encodePre(file.header, file.doses);
-        if (decodePre(std::as_bytes(std::span(again.data(), again.size()))).doses != file.doses) {
+        const PreGrid grid = decodePre(bytes);
+        const std::string again = encodePre(grid.header, grid.doses);
+        if (decodePre(std::as_bytes(std::span(again.data(), again.size()))).doses != grid.doses) {
             std::abort();  // what was written is not what was read
         }
-        const GphPRE layer("a.pre", file, {}, '.');
+        const GphPRE layer("a.pre", grid, {}, '.');
         if (layer.cellCount() < 1 || !layer.Gph_bound().isSet) {
             std::abort();  // a grid without cells reached the map
         }

@@ -19,7 +19,7 @@ namespace {
 
 using namespace campora;
 
-void checkShape(const Shape& shape, std::vector<ShapePart>& parts) {
+void checkShape(const ShapeView& shape, std::vector<ShapePart>& parts) {
     shape.collectParts(parts);
     std::int32_t next = 0;
     for (const ShapePart& part : parts) {
@@ -46,7 +46,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto file = bytes.subspan(2);
     const std::size_t length = std::min<std::size_t>(data[0] + 256U * data[1], file.size());
     try {
-        const ShapeFile shapes(file.first(length), file.subspan(length));
+        const ShapefileView shapes(file.first(length), file.subspan(length));
         std::vector<ShapePart> parts;
         for (std::int32_t record = 0; record < shapes.recordCount(); ++record) {
             checkShape(shapes.shape(record), parts);

@@ -19,12 +19,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         return 0;
     }
     try {
-        const VrtFile file = decodeVrt(bytes);
-        const std::string again = encodeVrt(file.header, file.doses);
-        if (decodeVrt(std::as_bytes(std::span(again.data(), again.size()))).doses != file.doses) {
+        const VrtGrid grid = decodeVrt(bytes);
+        const std::string again = encodeVrt(grid.header, grid.doses);
+        if (decodeVrt(std::as_bytes(std::span(again.data(), again.size()))).doses != grid.doses) {
             std::abort();  // what was written is not what was read
         }
-        const GphVRT layer("a.vrt", file, {}, '.');
+        const GphVRT layer("a.vrt", grid, {}, '.');
         if (layer.cellCount() < 1 || !layer.Gph_bound().isSet) {
             std::abort();  // a grid without cells reached the map
         }

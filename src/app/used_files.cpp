@@ -26,7 +26,7 @@ std::vector<std::string> namesBeside(std::string_view path) {
     const std::string ending = pathEnding(path);
     std::vector<std::string> names;
     if (ending == kShapeEnding) {
-        names = shapeSetFiles(stem);
+        names = filesOfShapefile(stem);
         names.insert(names.end(), {stem + ".qpj", stem + ".shp.xml"});
     } else if (ending == kPreEnding) {
         names.emplace_back(fileNamePart(companionPath(path)));
@@ -57,7 +57,7 @@ void addOpened(FilesInUse& files, std::string_view path) {
 }
 
 std::vector<std::string> targetsOf(const ExportFormat& format, const std::string& path) {
-    return format.ending == kShapeEnding ? shapeSetFiles(shapeBaseOf(path))
+    return format.ending == kShapeEnding ? filesOfShapefile(shapeBaseOf(path))
                                          : std::vector<std::string>{path};
 }
 

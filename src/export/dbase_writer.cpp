@@ -33,13 +33,13 @@ bool isAscii(std::string_view text) {
                        [](char c) { return static_cast<unsigned char>(c) < 0x80U; });
 }
 
-char typeLetter(DbfType type) {
+char typeLetter(DbaseType type) {
     switch (type) {
-    case DbfType::Numeric:
+    case DbaseType::Numeric:
         return 'N';
-    case DbfType::Character:
+    case DbaseType::Character:
         return 'C';
-    case DbfType::Date:
+    case DbaseType::Date:
         break;
     }
     return 'D';
@@ -65,21 +65,21 @@ std::string dateCell(const CellValue& value) {
 
 }  // namespace
 
-DbfFile::DbfFile(std::optional<Date> today) : today_(today) {}
+DbaseWriter::DbaseWriter(std::optional<Date> today) : today_(today) {}
 
-int DbfFile::addField(std::string_view name, DbfType type, int length, int decimals) {
-    const int bytes = type == DbfType::Date ? kDateLength : length;
+int DbaseWriter::addField(std::string_view name, DbaseType type, int length, int decimals) {
+    const int bytes = type == DbaseType::Date ? kDateLength : length;
     if (bytes < 1 || bytes > kMostLengthByte) {
-        throw std::invalid_argument("DbfFile: length of a field");
+        throw std::invalid_argument("DbaseWriter: length of a field");
     }
     const std::string letters = toWindows1252(name).substr(0, kNameBytes);
     fields_.push_back({letters, type, record_.size(), static_cast<std::size_t>(bytes),
-                       type == DbfType::Numeric ? decimals : bytes});
+                       type == DbaseType::Numeric ? decimals : bytes});
     record_.assign(record_.size() + fields_.back().length, ' ');
     return static_cast<int>(fields_.size());
 }
 
-std::string DbfFile::header() const {
+std::string DbaseWriter::header() const {
     const Date date = normalized(today_.value_or(kPlainDate));
     std::string bytes;
     appendLittle(bytes, std::uint8_t{3});
@@ -94,14 +94,14 @@ std::string DbfFile::header() const {
         bytes.append(4, '\0');
         appendLittle(bytes, static_cast<std::uint8_t>(field.length));
         // Other programs take anything but 0 for the high byte of a text's length.
-        const bool isPlainNumber = field.type == DbfType::Numeric || !today_;
+        const bool isPlainNumber = field.type == DbaseType::Numeric || !today_;
         appendLittle(bytes, static_cast<std::uint8_t>(isPlainNumber ? field.decimals : 0));
         bytes.append(kFieldReserved, '\0');
     }
     return bytes + '\r';
 }
 
-std::optional<Failure> DbfFile::createDBF(std::string_view basePath) {
+std::optional<Failure> DbaseWriter::createDBF(std::string_view basePath) {
     const std::string path = std::string(basePath).append(kTableEnding);
     if (kFrameBytes + kFieldBytes * fields_.size() > kMostBytes || record_.size() > kMostBytes) {
         return because(TextId::FileCannotBeWritten, {path}, {TextId::TableTooWide, {}});
@@ -112,7 +112,7 @@ std::optional<Failure> DbfFile::createDBF(std::string_view basePath) {
     return draft_->failure();
 }
 
-std::string DbfFile::plainText(const CellValue& value) {
+std::string DbaseWriter::plainText(const CellValue& value) {
     const auto text = [](const auto& cell) -> std::string {
         using Cell = std::decay_t<decltype(cell)>;
         if constexpr (std::is_same_v<Cell, Date>) {
@@ -128,12 +128,12 @@ std::string DbfFile::plainText(const CellValue& value) {
     return std::visit(text, value);
 }
 
-void DbfFile::recordField(int field, const CellValue& value) {
+void DbaseWriter::recordField(int field, const CellValue& value) {
     if (field <= 0) {
         return;
     }
     const Field& target = fields_.at(static_cast<std::size_t>(field) - 1);
-    if (target.type == DbfType::Date) {
+    if (target.type == DbaseType::Date) {
         put(target, dateCell(value));
         return;
     }
@@ -141,28 +141,28 @@ void DbfFile::recordField(int field, const CellValue& value) {
     if (!isAscii(text)) {
         text = toWindows1252(text);
     }
-    if (target.type == DbfType::Numeric || (text.size() >= target.length && !today_)) {
+    if (target.type == DbaseType::Numeric || (text.size() >= target.length && !today_)) {
         std::replace(text.begin(), text.end(), ',', '.');
     }
     put(target, text);
 }
 
-void DbfFile::put(const Field& field, std::string_view text) {
+void DbaseWriter::put(const Field& field, std::string_view text) {
     const std::size_t size = std::min(text.size(), field.length);
     const std::size_t blanks = field.length - size;
-    const bool onRight = today_ && field.type == DbfType::Numeric;
+    const bool onRight = today_ && field.type == DbaseType::Numeric;
     const auto begin = record_.begin() + static_cast<std::ptrdiff_t>(field.offset);
     const auto value = begin + static_cast<std::ptrdiff_t>(onRight ? blanks : 0);
     std::fill_n(begin, field.length, ' ');
     std::copy_n(text.begin(), size, value);
 }
 
-void DbfFile::writeRecord() {
+void DbaseWriter::writeRecord() {
     draft_->write(record_);
     ++records_;
 }
 
-FileDraft DbfFile::takeDraft() {
+FileDraft DbaseWriter::takeDraft() {
     std::string counts;
     appendLittle(counts, records_);
     appendLittle(counts, static_cast<std::uint16_t>(kFieldBytes * fields_.size() + kFrameBytes));
@@ -173,7 +173,7 @@ FileDraft DbfFile::takeDraft() {
     return draft;
 }
 
-std::optional<Failure> DbfFile::closeDBF() {
+std::optional<Failure> DbaseWriter::closeDBF() {
     return takeDraft().finish();
 }
 

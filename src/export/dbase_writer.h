@@ -17,11 +17,11 @@
 namespace campora {
 
 /// Types of fields, as `addField` numbers them.
-enum class DbfType { Numeric = 0, Character = 1, Date = 2 };
+enum class DbaseType { Numeric = 0, Character = 1, Date = 2 };
 
 /// Writes a dBASE III table, in Windows-1252: `addField` for each field, `createDBF`, then for each
 /// record `recordField` and `writeRecord`, and `closeDBF`. Fields count from 1.
-class DbfFile {
+class DbaseWriter {
 public:
     static constexpr int kMostLength = 254;
     static constexpr int kDateLength = 8;
@@ -29,11 +29,11 @@ public:
     /// With `today` the table is as other programs write it: that date in the header, numbers on
     /// the right of their fields, texts untouched. Without it the date is always 30 January 1999,
     /// and numbers stand on the left.
-    explicit DbfFile(std::optional<Date> today = std::nullopt);
+    explicit DbaseWriter(std::optional<Date> today = std::nullopt);
 
     /// The number of the new field. `name`: UTF-8, of which 11 characters stay. `length`: 1 to
     /// 255, of a date 8 in any case. All values are empty again.
-    int addField(std::string_view name, DbfType type, int length, int decimals);
+    int addField(std::string_view name, DbaseType type, int length, int decimals);
     /// Begins the table that will replace `basePath` + ".dbf". More fields than the header can
     /// count are a failure.
     [[nodiscard]] std::optional<Failure> createDBF(std::string_view basePath);
@@ -56,7 +56,7 @@ public:
 private:
     struct Field {
         std::string name;  // Windows-1252
-        DbfType type;
+        DbaseType type;
         std::size_t offset;  // in the record
         std::size_t length;
         int decimals;

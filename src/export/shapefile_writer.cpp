@@ -43,7 +43,7 @@ std::int32_t words(std::uint64_t bytes) {
 
 }  // namespace
 
-std::vector<std::string> shapeSetFiles(std::string_view basePath) {
+std::vector<std::string> filesOfShapefile(std::string_view basePath) {
     std::vector<std::string> files;
     for (const std::string_view ending : kWritten) {
         files.push_back(std::string(basePath).append(ending));
@@ -54,27 +54,27 @@ std::vector<std::string> shapeSetFiles(std::string_view basePath) {
     return files;
 }
 
-void ShapeSet::Box::add(LonLat point) {
+void ShapefileWriter::Box::add(LonLat point) {
     minX = std::min(minX, point.x);
     minY = std::min(minY, point.y);
     maxX = std::max(maxX, point.x);
     maxY = std::max(maxY, point.y);
 }
 
-void ShapeSet::Box::append(std::string& bytes) const {
+void ShapefileWriter::Box::append(std::string& bytes) const {
     for (const double limit : {minX, minY, maxX, maxY}) {
         appendLittle(bytes, limit);
     }
 }
 
-ShapeSet::ShapeSet(std::string_view basePath, FigureType type, std::optional<Date> today)
+ShapefileWriter::ShapefileWriter(std::string_view basePath, ShapeType type, std::optional<Date> today)
     : basePath_(basePath),
       type_(type),
       table_(today),
       main_(std::string(basePath_).append(kShapeEnding)),
       index_(std::string(basePath_).append(kShapeIndexEnding)) {}
 
-std::optional<Failure> ShapeSet::create(const BoundingBox& box) {
+std::optional<Failure> ShapefileWriter::create(const BoundingBox& box) {
     std::string bytes;
     appendBig(bytes, header::kCode);
     bytes.append(header::kUnused, '\0');
@@ -94,7 +94,7 @@ std::optional<Failure> ShapeSet::create(const BoundingBox& box) {
     return table_.createDBF(basePath_);
 }
 
-void ShapeSet::addPolygon(std::span<const std::span<const LonLat>> parts) {
+void ShapefileWriter::addPolygon(std::span<const std::span<const LonLat>> parts) {
     Box box;
     std::size_t points = 0;
     for (const auto& part : parts) {
@@ -122,7 +122,7 @@ void ShapeSet::addPolygon(std::span<const std::span<const LonLat>> parts) {
     writeRecord();
 }
 
-void ShapeSet::addPoint(LonLat point) {
+void ShapefileWriter::addPoint(LonLat point) {
     content_.clear();
     appendLittle(content_, static_cast<std::int32_t>(type_));
     appendLittle(content_, point.x);
@@ -131,7 +131,7 @@ void ShapeSet::addPoint(LonLat point) {
     writeRecord();
 }
 
-void ShapeSet::writeRecord() {
+void ShapefileWriter::writeRecord() {
     const std::uint64_t offset = main_.size();
     isTooLarge_ = isTooLarge_ || offset + kRecordHeader + content_.size() > kMostBytes;
     if (isTooLarge_) {
@@ -149,11 +149,11 @@ void ShapeSet::writeRecord() {
     index_.write(heading_);
 }
 
-bool ShapeSet::hasFailed() const {
+bool ShapefileWriter::hasFailed() const {
     return isTooLarge_ || main_.failure() || index_.failure();
 }
 
-void ShapeSet::writeLength(FileDraft& file) {
+void ShapefileWriter::writeLength(FileDraft& file) {
     std::string length;
     appendBig(length, words(file.size()));
     file.overwrite(header::kLength, length);
@@ -164,7 +164,7 @@ void ShapeSet::writeLength(FileDraft& file) {
     }
 }
 
-std::optional<Failure> ShapeSet::finish() {
+std::optional<Failure> ShapefileWriter::finish() {
     if (isTooLarge_) {
         return because(TextId::FileCannotBeWritten, {std::string(basePath_).append(kShapeEnding)},
                        {TextId::FileTooLarge, {}});

@@ -21,21 +21,21 @@
 namespace campora {
 
 /// The files of a set: those that are written, and the indexes of others that go with the old ones.
-[[nodiscard]] std::vector<std::string> shapeSetFiles(std::string_view basePath);
+[[nodiscard]] std::vector<std::string> filesOfShapefile(std::string_view basePath);
 
 /// Types of figures that are written.
-enum class FigureType : std::int32_t { Point = 1, Polygon = 5 };
+enum class ShapeType : std::int32_t { Point = 1, Polygon = 5 };
 
 /// Writes a main file, its index, its table and the notes on reference system and code page beside
 /// them ("ESRI Shapefile Technical Description", 1998). Figures and records of the table are
 /// written in step by the caller.
-class ShapeSet {
+class ShapefileWriter {
 public:
-    /// `basePath`: without ending. `today`: as for `DbfFile`.
-    ShapeSet(std::string_view basePath, FigureType type, std::optional<Date> today = std::nullopt);
+    /// `basePath`: without ending. `today`: as for `DbaseWriter`.
+    ShapefileWriter(std::string_view basePath, ShapeType type, std::optional<Date> today = std::nullopt);
 
     /// Its fields are added before `create`, its records after it.
-    [[nodiscard]] DbfFile& table() { return table_; }
+    [[nodiscard]] DbaseWriter& table() { return table_; }
     /// `box`: of the header.
     [[nodiscard]] std::optional<Failure> create(const BoundingBox& box);
     /// `parts`: one span of points, in degrees, for every ring.
@@ -65,8 +65,8 @@ private:
     void writeLength(FileDraft& file);
 
     std::string basePath_;
-    FigureType type_;
-    DbfFile table_;
+    ShapeType type_;
+    DbaseWriter table_;
     FileDraft main_;
     FileDraft index_;
     std::int32_t records_ = 0;

@@ -26,7 +26,7 @@ constexpr std::size_t kNameLetters = 10;
 constexpr int kRealDecimals = 3;
 
 struct FieldForm {
-    DbfType type;
+    DbaseType type;
     int length;
     int decimals;
 };
@@ -34,18 +34,18 @@ struct FieldForm {
 FieldForm formOf(ColumnType type) {
     switch (type) {
     case ColumnType::Integer:
-        return {DbfType::Numeric, 6, 0};
+        return {DbaseType::Numeric, 6, 0};
     case ColumnType::Real:
-        return {DbfType::Numeric, 15, kRealDecimals};
+        return {DbaseType::Numeric, 15, kRealDecimals};
     case ColumnType::Text:
-        return {DbfType::Character, 10, 0};
+        return {DbaseType::Character, 10, 0};
     case ColumnType::Date:
         break;
     }
-    return {DbfType::Date, DbfFile::kDateLength, 0};
+    return {DbaseType::Date, DbaseWriter::kDateLength, 0};
 }
 
-constexpr FieldForm kIdForm{DbfType::Numeric, 5, 0};
+constexpr FieldForm kIdForm{DbaseType::Numeric, 5, 0};
 
 /// The first letters of a UTF-8 name.
 std::string shortName(std::string_view name) {
@@ -87,7 +87,7 @@ public:
     /// What a cell cannot hold, as a failure without a path.
     [[nodiscard]] const std::optional<Failure>& failure() const { return failure_; }
 
-    void addFields(DbfFile& table) {
+    void addFields(DbaseWriter& table) {
         if (columns_.empty()) {
             table.addField("id", kIdForm.type, widthOfIds(), kIdForm.decimals);
             return;
@@ -100,7 +100,7 @@ public:
         }
     }
 
-    void writeRecord(DbfFile& table, std::size_t layer, std::int32_t row) {
+    void writeRecord(DbaseWriter& table, std::size_t layer, std::int32_t row) {
         if (columns_.empty()) {
             table.recordField(1, numberText(row));
         }
@@ -111,7 +111,7 @@ public:
     }
 
 private:
-    void record(DbfFile& table, int field, const ExportColumn& column, const CellValue& cell) {
+    void record(DbaseWriter& table, int field, const ExportColumn& column, const CellValue& cell) {
         switch (column.type) {
         case ColumnType::Integer:
             if (!forGis_ && !fits16Bits(cell)) {
@@ -143,7 +143,7 @@ private:
         if (column.type == ColumnType::Integer) {
             return integerText(cell).size();
         }
-        return toWindows1252(DbfFile::plainText(cell)).size();
+        return toWindows1252(DbaseWriter::plainText(cell)).size();
     }
 
     /// Wide enough for all cells of the column, which becomes one of reals at the first fraction;
@@ -162,12 +162,12 @@ private:
                     return widthOfCells(index);
                 }
                 widest = std::max(widest, width(column, cell));
-                if (widest > DbfFile::kMostLength && column.type != ColumnType::Text) {
+                if (widest > DbaseWriter::kMostLength && column.type != ColumnType::Text) {
                     refuse(column, realText(cell));
                 }
             }
         }
-        return static_cast<int>(std::min<std::size_t>(widest, DbfFile::kMostLength));
+        return static_cast<int>(std::min<std::size_t>(widest, DbaseWriter::kMostLength));
     }
 
     [[nodiscard]] int widthOfIds() const {
@@ -189,7 +189,7 @@ private:
 /// One export: layers into a set.
 class Export {
 public:
-    Export(std::vector<ExportLayer> layers, std::string_view basePath, FigureType type,
+    Export(std::vector<ExportLayer> layers, std::string_view basePath, ShapeType type,
            ExportProgress& progress)
         : basePath_(basePath),
           layers_(std::move(layers)),
@@ -203,7 +203,7 @@ public:
           layers_(std::move(layers)),
           forGis_(true),
           set_(basePath,
-               layers_.front().polygons != nullptr ? FigureType::Polygon : FigureType::Point,
+               layers_.front().polygons != nullptr ? ShapeType::Polygon : ShapeType::Point,
                today),
           attributes_(layers_, ExportColumns::ofAll(layers_, texts), true),
           progress_(progress) {}
@@ -287,7 +287,7 @@ private:
     std::string basePath_;
     std::vector<ExportLayer> layers_;
     bool forGis_ = false;
-    ShapeSet set_;
+    ShapefileWriter set_;
     AttributeTable attributes_;
     ExportProgress& progress_;
     std::vector<LonLat> ring_;
@@ -304,7 +304,7 @@ std::optional<Failure> exportShpPolygons(std::span<const Gph* const> layers,
     if (figureCount(found) == 0) {
         return Failure{TextId::NoPolygonsToExport, {}, {}};
     }
-    return Export(std::move(found), basePath, FigureType::Polygon, progress)
+    return Export(std::move(found), basePath, ShapeType::Polygon, progress)
         .run(style, TextId::NoPolygonsToExport);
 }
 
@@ -314,7 +314,7 @@ std::optional<Failure> exportShpPoints(std::span<const Gph* const> layers,
     if (figureCount(found) == 0) {
         return Failure{TextId::NoPointsToExport, {}, {}};
     }
-    return Export(std::move(found), basePath, FigureType::Point, progress)
+    return Export(std::move(found), basePath, ShapeType::Point, progress)
         .run(MapStyle(), TextId::NoPointsToExport);
 }
 

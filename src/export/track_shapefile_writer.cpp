@@ -31,15 +31,15 @@ constexpr std::array kColumns = {Column{"Velocidad", 4, 0}, Column{"Caudal", 4, 
 
 }  // namespace
 
-Shp::Shp(std::string_view basePath, const BoundingBox& extent)
-    : basePath_(basePath), set_(basePath, FigureType::Polygon) {
+TrackShapefileWriter::TrackShapefileWriter(std::string_view basePath, const BoundingBox& extent)
+    : basePath_(basePath), set_(basePath, ShapeType::Polygon) {
     for (const Column& column : kColumns) {
-        set_.table().addField(column.name, DbfType::Numeric, column.length, column.decimals);
+        set_.table().addField(column.name, DbaseType::Numeric, column.length, column.decimals);
     }
     failure_ = set_.create(extent);
 }
 
-std::int32_t Shp::average(std::string_view column, double sum, std::int32_t points) {
+std::int32_t TrackShapefileWriter::average(std::string_view column, double sum, std::int32_t points) {
     const std::int32_t rounded = roundToInt32(sum / points);
     const auto narrow = static_cast<std::int16_t>(rounded);
     if (narrow != rounded) {
@@ -48,7 +48,7 @@ std::int32_t Shp::average(std::string_view column, double sum, std::int32_t poin
     return rounded;
 }
 
-void Shp::refuse(std::string_view column, std::string value) {
+void TrackShapefileWriter::refuse(std::string_view column, std::string value) {
     if (!failure_) {
         failure_ =
             because(TextId::FileCannotBeWritten, {std::string(basePath_).append(kTableEnding)},
@@ -56,13 +56,13 @@ void Shp::refuse(std::string_view column, std::string value) {
     }
 }
 
-void Shp::add(const SwathFigure& figure) {
+void TrackShapefileWriter::add(const SwathFigure& figure) {
     if (hasFailed()) {
         return;
     }
     const std::int32_t speed = average(kColumns[kSpeed - 1].name, figure.sumSpeed, figure.points);
     const std::int32_t flow = average(kColumns[kFlow - 1].name, figure.sumFlow, figure.points);
-    DbfFile& table = set_.table();
+    DbaseWriter& table = set_.table();
     table.recordField(kSpeed, std::int64_t{speed});
     table.recordField(kFlow, std::int64_t{flow});
     if (speed > 0.5) {
@@ -77,7 +77,7 @@ void Shp::add(const SwathFigure& figure) {
     table.writeRecord();
 }
 
-std::optional<Failure> Shp::finish() {
+std::optional<Failure> TrackShapefileWriter::finish() {
     return failure_ ? failure_ : set_.finish();
 }
 

@@ -29,10 +29,10 @@ struct SwathFigure {
 
 /// Writes a work as a polygon shapefile with the averaged speed ("Velocidad", km/h), flow
 /// ("Caudal", litres per minute) and litres per hectare ("LitroHect") of every polygon.
-class Shp {
+class TrackShapefileWriter {
 public:
     /// `basePath`: without ending. `extent`: of the work's points.
-    Shp(std::string_view basePath, const BoundingBox& extent);
+    TrackShapefileWriter(std::string_view basePath, const BoundingBox& extent);
 
     /// Averages are whole numbers, halves to even; litres per hectare follow from them and from the
     /// swath width in whole metres. A record without speed keeps the litres per hectare of the one
@@ -52,7 +52,7 @@ private:
     void refuse(std::string_view column, std::string value);
 
     std::string basePath_;
-    ShapeSet set_;
+    ShapefileWriter set_;
     std::optional<Failure> failure_;
 };
 

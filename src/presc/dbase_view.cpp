@@ -94,7 +94,7 @@ bool isNumberColumn(char type) {
 
 }  // namespace
 
-DbaseFile::DbaseFile(std::span<const std::byte> bytes, std::string_view codePageName)
+DbaseView::DbaseView(std::span<const std::byte> bytes, std::string_view codePageName)
     : bytes_(bytes) {
     if (bytes.size() < header::kColumns || !isKnownVersion(static_cast<std::uint8_t>(bytes[0]))) {
         throw FormatError({TextId::TableNone, {}, {}});
@@ -118,7 +118,7 @@ DbaseFile::DbaseFile(std::span<const std::byte> bytes, std::string_view codePage
     readColumns(firstRow_);
 }
 
-void DbaseFile::readColumns(std::size_t headerSize) {
+void DbaseView::readColumns(std::size_t headerSize) {
     std::size_t offset = 1;  // the mark of deleted rows
     for (std::size_t at = header::kColumns; at + column::kSize <= headerSize; at += column::kSize) {
         ByteReader reader(bytes_, at);
@@ -140,15 +140,15 @@ void DbaseFile::readColumns(std::size_t headerSize) {
     }
 }
 
-const DbaseFile::Column& DbaseFile::at(int column) const {
+const DbaseView::Column& DbaseView::at(int column) const {
     return columns_.at(static_cast<std::size_t>(column));
 }
 
-const std::string& DbaseFile::fieldName(int column) const {
+const std::string& DbaseView::fieldName(int column) const {
     return at(column).name;
 }
 
-std::string_view DbaseFile::cell(std::int32_t row, const Column& column) const {
+std::string_view DbaseView::cell(std::int32_t row, const Column& column) const {
     if (row < 0 || row >= rowCount_) {
         return {};
     }
@@ -156,7 +156,7 @@ std::string_view DbaseFile::cell(std::int32_t row, const Column& column) const {
     return withoutPadding(textOf(bytes_.subspan(at, column.width)));
 }
 
-std::optional<double> DbaseFile::number(std::int32_t row, int column) const {
+std::optional<double> DbaseView::number(std::int32_t row, int column) const {
     const Column& of = at(column);
     if (!isNumberColumn(of.type) && of.type != 'C') {
         return std::nullopt;
@@ -164,7 +164,7 @@ std::optional<double> DbaseFile::number(std::int32_t row, int column) const {
     return wholeNumber(cell(row, of));
 }
 
-CellValue DbaseFile::value(std::int32_t row, int column) const {
+CellValue DbaseView::value(std::int32_t row, int column) const {
     const Column& of = at(column);
     if (isNumberColumn(of.type)) {
         const std::optional<double> value = number(row, column);
@@ -181,7 +181,7 @@ CellValue DbaseFile::value(std::int32_t row, int column) const {
     return decodeCodePage(text, codePage_);
 }
 
-std::string DbaseFile::text(std::int32_t row, int column) const {
+std::string DbaseView::text(std::int32_t row, int column) const {
     constexpr std::string_view kTextTypes = "CNFLD";
     const Column& of = at(column);
     return kTextTypes.find(of.type) == std::string_view::npos
@@ -189,7 +189,7 @@ std::string DbaseFile::text(std::int32_t row, int column) const {
                : decodeCodePage(cell(row, of), codePage_);
 }
 
-bool DbaseFile::isTextColumn(int column) const {
+bool DbaseView::isTextColumn(int column) const {
     return at(column).type == 'C';
 }
 

@@ -18,13 +18,13 @@ namespace campora {
 
 /// A dBASE III table (also as dBASE IV and FoxPro write it). Rows and columns count from 0.
 /// The bytes must outlive it.
-class DbaseFile {
+class DbaseView {
 public:
-    DbaseFile() = default;
+    DbaseView() = default;
     /// `codePageName`: what the file beside the table says about its code page; empty when there is
     /// none, the table's own byte then decides. Throws `FormatError` when the bytes are no such
     /// table or the header is damaged.
-    explicit DbaseFile(std::span<const std::byte> bytes, std::string_view codePageName = {});
+    explicit DbaseView(std::span<const std::byte> bytes, std::string_view codePageName = {});
 
     [[nodiscard]] int fieldCount() const { return static_cast<int>(columns_.size()); }
     /// UTF-8; throws `std::out_of_range` for a bad column, as the others do.

@@ -56,7 +56,7 @@ bool DoseScale::holds(double wholeSteps) const {
 }
 
 DoseScale doseScaleOf(GridKind kind) {
-    return {kind == GridKind::Pre ? 1 : VrtFile::kDoseUnits};
+    return {kind == GridKind::Pre ? 1 : VrtGrid::kDoseUnits};
 }
 
 std::optional<Failure> doseFault(std::span<const ChannelZones> channels, const DoseScale& scale) {

@@ -14,8 +14,8 @@ namespace campora {
 
 namespace {
 
-GridCells cellsOf(PreFile file) {
-    const PreHeader& header = file.header;
+GridCells cellsOf(PreGrid grid) {
+    const PreHeader& header = grid.header;
     const double north = decodePreCoordinate(header.latitude);
     const double west = decodePreCoordinate(header.longitude);
     const double metres = header.cellSize;
@@ -29,14 +29,14 @@ GridCells cellsOf(PreFile file) {
     }
     cells.metres = metres;
     cells.channels = header.channels;
-    cells.doses = std::move(file.doses);
+    cells.doses = std::move(grid.doses);
     return cells;
 }
 
 }  // namespace
 
-GphPRE::GphPRE(std::string_view path, PreFile file, Color background, char symbol)
-    : GridLayer(path, cellsOf(std::move(file)), background) {
+GphPRE::GphPRE(std::string_view path, PreGrid grid, Color background, char symbol)
+    : GridLayer(path, cellsOf(std::move(grid)), background) {
     summary_.addProperty("Ancho Labor", summaryFigure(cellMetres(), symbol), "mts");
     summary_.addProperty("Cant. de Canales", numberText(channelsCnt()), "");
     addChannelEntries(symbol);

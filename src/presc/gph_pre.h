@@ -15,7 +15,7 @@ namespace campora {
 class GphPRE final : public GridLayer {
 public:
     /// `path` names the file; `symbol`: decimal, of the figures in the summary.
-    GphPRE(std::string_view path, PreFile file, Color background, char symbol);
+    GphPRE(std::string_view path, PreGrid grid, Color background, char symbol);
 
     [[nodiscard]] std::string_view Gph_kind() const override { return "GphPRE"; }
     [[nodiscard]] std::string File_icon() const override { return "dosis2"; }

@@ -104,7 +104,7 @@ void GphPresc::readRecords() {
     for (reader_.moveFirst(); reader_.record() <= records; reader_.moveNext()) {
         report(reader_.record(), records);
         collectDoses(reader_.partCount());
-        addPolygon(readPolygon(reader_));
+        addPolygon(readFigure(reader_));
     }
     const auto first =
         std::find_if(polygons_.begin(), polygons_.end(),

@@ -33,15 +33,15 @@ GridCells cellsOf(const VrtHeader& header, std::vector<std::int16_t> doses) {
     cells.metres = metres;
     cells.channels = header.channels;
     cells.doses = std::move(doses);
-    cells.doseSteps = static_cast<int>(VrtFile::kDoseUnits);
+    cells.doseSteps = static_cast<int>(VrtGrid::kDoseUnits);
     return cells;
 }
 
 }  // namespace
 
-GphVRT::GphVRT(std::string_view path, VrtFile file, Color background, char symbol)
-    : GridLayer(path, cellsOf(file.header, std::move(file.doses)), background),
-      header_(std::move(file.header)) {
+GphVRT::GphVRT(std::string_view path, VrtGrid grid, Color background, char symbol)
+    : GridLayer(path, cellsOf(grid.header, std::move(grid.doses)), background),
+      header_(std::move(grid.header)) {
     summary_.addProperty("Nombre", header_.name, "");
     summary_.addProperty("Descripcion", header_.description, "");
     summary_.addProperty("Resolución", summaryFigure(header_.resolution, symbol, kResolutionDigits),

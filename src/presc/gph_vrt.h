@@ -15,7 +15,7 @@ namespace campora {
 class GphVRT final : public GridLayer {
 public:
     /// `path` names the file; `symbol`: decimal, of the figures in the summary.
-    GphVRT(std::string_view path, VrtFile file, Color background, char symbol);
+    GphVRT(std::string_view path, VrtGrid grid, Color background, char symbol);
 
     [[nodiscard]] const VrtHeader& header() const { return header_; }
 

@@ -116,17 +116,17 @@ bool isPreFile(std::span<const std::byte> bytes) {
     });
 }
 
-PreFile decodePre(std::span<const std::byte> bytes) {
+PreGrid decodePre(std::span<const std::byte> bytes) {
     ByteReader reader(bytes);
-    PreFile file{readHeader(reader), {}};
-    const PreHeader& header = file.header;
+    PreGrid grid{readHeader(reader), {}};
+    const PreHeader& header = grid.header;
     const LonLat origin{decodePreCoordinate(header.longitude),
                         decodePreCoordinate(header.latitude)};
     if (!isPossible(header, origin)) {
         throw FormatError(impossibleGrid(header.columns, header.rows, header.cellSize, origin));
     }
-    file.doses = readDoses(reader, header.columns, header.rows, header.channels);
-    return file;
+    grid.doses = readDoses(reader, header.columns, header.rows, header.channels);
+    return grid;
 }
 
 std::string encodePre(const PreHeader& header, std::span<const std::int16_t> doses) {

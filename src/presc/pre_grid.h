@@ -32,7 +32,7 @@ struct PreHeader {
 
 /// A PRE file: a grid of square cells from its north-west corner, row by row southward, with a dose
 /// in whole units a channel.
-struct PreFile {
+struct PreGrid {
     PreHeader header;
     /// Row by row, in a row west to east, in a cell channel 1 first.
     std::vector<std::int16_t> doses;
@@ -49,7 +49,7 @@ struct PreFile {
 
 /// `bytes` has passed `isPreFile`; what follows the last cell is left aside. Throws `FormatError`
 /// when the file is cut, or has a size or a place that no grid can have.
-[[nodiscard]] PreFile decodePre(std::span<const std::byte> bytes);
+[[nodiscard]] PreGrid decodePre(std::span<const std::byte> bytes);
 
 /// `doses` has the cells and channels that `header` says.
 [[nodiscard]] std::string encodePre(const PreHeader& header, std::span<const std::int16_t> doses);

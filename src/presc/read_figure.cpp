@@ -26,7 +26,7 @@ FigureKind kindOf(ShapeType type) {
 
 }  // namespace
 
-GphPolygonMulti readPolygon(const ShapeReader& reader) {
+GphPolygonMulti readFigure(const ShapeReader& reader) {
     GphPolygonMulti figure;
     figure.kind = kindOf(reader.figureType());
     const std::int32_t parts = reader.partCount();

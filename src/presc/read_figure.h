@@ -10,6 +10,6 @@ namespace campora {
 
 /// The current record of the reader: a ring a part, in order; in a record of several parts those
 /// that are holes are marked. A record without parts gives a figure without rings.
-[[nodiscard]] GphPolygonMulti readPolygon(const ShapeReader& reader);
+[[nodiscard]] GphPolygonMulti readFigure(const ShapeReader& reader);
 
 }  // namespace campora

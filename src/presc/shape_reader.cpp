@@ -65,7 +65,7 @@ std::optional<Failure> ShapeReader::open(std::string_view path) {
     files->system = readCoordinateSystem(base);
     const FileBytes index = readIfPossible(companionOf(base, kShapeIndexEnding));
     try {
-        files->shapes = ShapeFile(files->shapeBytes.bytes(), index.bytes());
+        files->shapes = ShapefileView(files->shapeBytes.bytes(), index.bytes());
     } catch (const FormatError& error) {
         return because(TextId::FileCannotBeRead, {std::string(path)},
                        withProjection(error.failure(), files->system));
@@ -97,7 +97,7 @@ void ShapeReader::readTable(std::string_view base, Files& files) {
     const std::string page =
         readFileHead(companionOf(base, kCodePageEnding), kLongestPageName).value_or(std::string());
     try {
-        files.table = DbaseFile(files.tableBytes.bytes(), page);
+        files.table = DbaseView(files.tableBytes.bytes(), page);
     } catch (const FormatError& error) {
         files.tableWarning = because(TextId::TableLeftOut, {},
                                      because(TextId::FileCannotBeRead, {path}, error.failure()));
@@ -106,7 +106,7 @@ void ShapeReader::readTable(std::string_view base, Files& files) {
 
 void ShapeReader::place(std::int32_t record) {
     record_ = record;
-    shape_ = record > recordCount() ? Shape() : files_->shapes.shape(record - 1);
+    shape_ = record > recordCount() ? ShapeView() : files_->shapes.shape(record - 1);
     shape_.collectParts(parts_);
 }
 

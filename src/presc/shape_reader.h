@@ -92,8 +92,8 @@ private:
     struct Files {
         FileBytes shapeBytes;
         FileBytes tableBytes;
-        ShapeFile shapes;
-        DbaseFile table;
+        ShapefileView shapes;
+        DbaseView table;
         std::optional<Failure> damage;
         std::optional<Failure> tableWarning;
         bool tableMissing = false;
@@ -112,7 +112,7 @@ private:
 
     std::unique_ptr<const Files> files_;
     std::int32_t record_ = 1;
-    Shape shape_;
+    ShapeView shape_;
     std::vector<ShapePart> parts_;
 };
 

@@ -99,11 +99,11 @@ std::optional<std::size_t> contentBytes(std::span<const std::byte> bytes, std::s
 
 }  // namespace
 
-void Shape::refuseIndex() {
+void ShapeView::refuseIndex() {
     throw std::out_of_range("no such vertex");
 }
 
-void Shape::collectParts(std::vector<ShapePart>& parts) const {
+void ShapeView::collectParts(std::vector<ShapePart>& parts) const {
     parts.clear();
     const std::int32_t vertices = vertexCount();
     if (partStarts_.empty()) {
@@ -126,7 +126,7 @@ void Shape::collectParts(std::vector<ShapePart>& parts) const {
     }
 }
 
-void Shape::markHoles(std::vector<ShapePart>& parts) const {
+void ShapeView::markHoles(std::vector<ShapePart>& parts) const {
     std::vector<LonLat> points;
     points.reserve(static_cast<std::size_t>(vertexCount()));
     for (std::int32_t i = 0; i < vertexCount(); ++i) {
@@ -145,7 +145,7 @@ void Shape::markHoles(std::vector<ShapePart>& parts) const {
     }
 }
 
-ShapeFile::ShapeFile(std::span<const std::byte> bytes, std::span<const std::byte> index)
+ShapefileView::ShapefileView(std::span<const std::byte> bytes, std::span<const std::byte> index)
     : bytes_(bytes) {
     if (bytes.size() < 4 || ByteReader(bytes).i32be() != header::kCode) {
         throw FormatError({TextId::ShapeNone, {}, {}});
@@ -171,7 +171,7 @@ ShapeFile::ShapeFile(std::span<const std::byte> bytes, std::span<const std::byte
     }
 }
 
-bool ShapeFile::takeIndex(std::span<const std::byte> index) {
+bool ShapefileView::takeIndex(std::span<const std::byte> index) {
     if (index.size() < header::kSize || ByteReader(index).i32be() != header::kCode) {
         return false;
     }
@@ -196,7 +196,7 @@ bool ShapeFile::takeIndex(std::span<const std::byte> index) {
     return !offsets_.empty();  // one without entries may have been left behind unfinished
 }
 
-void ShapeFile::walk() {
+void ShapefileView::walk() {
     // A length that was never filled in says nothing; a shorter one leaves what follows aside.
     ByteReader reader(bytes_, header::kLength);
     const std::size_t declared = wordsToBytes(reader.i32be());
@@ -217,14 +217,14 @@ void ShapeFile::walk() {
     }
 }
 
-Shape ShapeFile::shape(std::int32_t record) const {
+ShapeView ShapefileView::shape(std::int32_t record) const {
     if (record < 0 || record >= recordCount()) {
         throw std::out_of_range("no such record");
     }
     return decode(static_cast<std::size_t>(record));
 }
 
-Shape ShapeFile::decode(std::size_t record) const {
+ShapeView ShapefileView::decode(std::size_t record) const {
     ByteReader reader(bytes_, offsets_[record] + 4);
     const std::size_t size = wordsToBytes(reader.i32be());
     const std::size_t start = reader.offset();
@@ -236,14 +236,14 @@ Shape ShapeFile::decode(std::size_t record) const {
     // The content from `at` on: so many starts of parts and so many points.
     const auto figure = [&](std::size_t at, std::int64_t parts, std::int64_t points) {
         const std::int64_t needed = parts * static_cast<std::int64_t>(kPartStartBytes) +
-                                    points * static_cast<std::int64_t>(Shape::kVertexBytes);
+                                    points * static_cast<std::int64_t>(ShapeView::kVertexBytes);
         if (parts < 0 || points < 0 || at > size || needed > static_cast<std::int64_t>(size - at)) {
             refuseRecord(TextId::ShapeRecordDamaged, record, start);
         }
         reader.seek(start + at);
         const auto starts = reader.take(static_cast<std::size_t>(parts) * kPartStartBytes);
-        return Shape(*type, starts,
-                     reader.take(static_cast<std::size_t>(points) * Shape::kVertexBytes));
+        return ShapeView(*type, starts,
+                     reader.take(static_cast<std::size_t>(points) * ShapeView::kVertexBytes));
     };
     const auto count = [&](std::size_t at) {
         if (at + 4 > size) {
@@ -268,8 +268,8 @@ Shape ShapeFile::decode(std::size_t record) const {
     return {};
 }
 
-void ShapeFile::checkParts(std::size_t record) const {
-    const Shape shape = decode(record);
+void ShapefileView::checkParts(std::size_t record) const {
+    const ShapeView shape = decode(record);
     const std::int32_t vertices = shape.vertexCount();
     const std::size_t offset = offsets_[record];
     const bool hasParts = shape.type() == ShapeType::PolyLine || shape.type() == ShapeType::Polygon;
@@ -287,8 +287,8 @@ void ShapeFile::checkParts(std::size_t record) const {
     }
 }
 
-void ShapeFile::checkVertices(std::size_t record) const {
-    const Shape shape = decode(record);
+void ShapefileView::checkVertices(std::size_t record) const {
+    const ShapeView shape = decode(record);
     const std::int32_t vertices = shape.vertexCount();
     for (std::int32_t i = 0; i < vertices; ++i) {
         const LonLat vertex = shape.vertex(i);

@@ -34,10 +34,10 @@ struct ShapePart {
 };
 
 /// One figure: a look into the bytes of its file.
-class Shape {
+class ShapeView {
 public:
-    Shape() = default;
-    Shape(ShapeType type, std::span<const std::byte> partStarts,
+    ShapeView() = default;
+    ShapeView(ShapeType type, std::span<const std::byte> partStarts,
           std::span<const std::byte> vertices)
         : type_(type), partStarts_(partStarts), vertices_(vertices) {}
 
@@ -60,7 +60,7 @@ public:
     void collectParts(std::vector<ShapePart>& parts) const;
 
 private:
-    friend class ShapeFile;
+    friend class ShapefileView;
 
     static constexpr std::size_t kVertexBytes = 16;
 
@@ -74,15 +74,15 @@ private:
 
 /// The figures of a shapefile's main file ("ESRI Shapefile Technical Description", 1998).
 /// The bytes must outlive it.
-class ShapeFile {
+class ShapefileView {
 public:
-    ShapeFile() = default;
+    ShapefileView() = default;
     /// `index`: the bytes of the index file, left aside when it is not sound; may be empty.
     /// Every record is looked at once; they end before the first that is damaged or of a type that
     /// is not known. Throws `FormatError` when the bytes are no shapefile, and for a coordinate
     /// that is no number or cannot be degrees, as the others are of no use either then. Boxes and
     /// the numbers of records are not believed, nor needed.
-    explicit ShapeFile(std::span<const std::byte> bytes, std::span<const std::byte> index = {});
+    explicit ShapefileView(std::span<const std::byte> bytes, std::span<const std::byte> index = {});
 
     [[nodiscard]] std::int32_t recordCount() const {
         return static_cast<std::int32_t>(offsets_.size());
@@ -90,13 +90,13 @@ public:
     /// Why the records end before the file does, with the place; none for a sound file.
     [[nodiscard]] const std::optional<Failure>& damage() const { return damage_; }
     /// `record`: from 0; throws `std::out_of_range` for a bad one.
-    [[nodiscard]] Shape shape(std::int32_t record) const;
+    [[nodiscard]] ShapeView shape(std::int32_t record) const;
 
 private:
     [[nodiscard]] bool takeIndex(std::span<const std::byte> index);
     void walk();
     /// `record`: from 0. Throws `FormatError` for a damaged one.
-    [[nodiscard]] Shape decode(std::size_t record) const;
+    [[nodiscard]] ShapeView decode(std::size_t record) const;
     // Both throw `FormatError`, the first as `decode`.
     void checkParts(std::size_t record) const;
     void checkVertices(std::size_t record) const;

@@ -48,10 +48,10 @@ bool isVrtFile(std::span<const std::byte> bytes) {
     return bytes.size() >= sizeof(kMagic) && ByteReader(bytes).u32le() == kMagic;
 }
 
-VrtFile decodeVrt(std::span<const std::byte> bytes) {
+VrtGrid decodeVrt(std::span<const std::byte> bytes) {
     ByteReader reader(bytes, kX0);
-    VrtFile file;
-    VrtHeader& header = file.header;
+    VrtGrid grid;
+    VrtHeader& header = grid.header;
     header.x0 = reader.f32le();
     header.y0 = reader.f32le();
     header.resolution = reader.f32le();
@@ -65,8 +65,8 @@ VrtFile decodeVrt(std::span<const std::byte> bytes) {
         throw FormatError(
             impossibleGrid(header.columns, header.rows, header.resolution, {header.x0, header.y0}));
     }
-    file.doses = readDoses(reader, header.columns, header.rows, header.channels);
-    return file;
+    grid.doses = readDoses(reader, header.columns, header.rows, header.channels);
+    return grid;
 }
 
 std::string encodeVrt(const VrtHeader& header, std::span<const std::int16_t> doses) {

@@ -33,7 +33,7 @@ struct VrtHeader {
 
 /// A VRT file: a grid of square cells from its south-west corner, row by row northward, with a dose
 /// in hundredths a channel.
-struct VrtFile {
+struct VrtGrid {
     static constexpr double kDoseUnits = 100;
 
     VrtHeader header;
@@ -46,7 +46,7 @@ struct VrtFile {
 
 /// `bytes` has passed `isVrtFile`; what follows the last cell is left aside. Throws `FormatError`
 /// when the file is cut, or has a size or a place that no grid can have.
-[[nodiscard]] VrtFile decodeVrt(std::span<const std::byte> bytes);
+[[nodiscard]] VrtGrid decodeVrt(std::span<const std::byte> bytes);
 
 /// `doses` has the cells and channels that `header` says.
 [[nodiscard]] std::string encodeVrt(const VrtHeader& header, std::span<const std::int16_t> doses);

@@ -17,7 +17,7 @@ constexpr Date kToday{2026, 11, 3};
 
 struct DbfTest : testing::Test {
     /// The file's bytes behind its header of one field; the test fails when it is not that long.
-    std::string recordsOf(DbfFile& table) {
+    std::string recordsOf(DbaseWriter& table) {
         EXPECT_EQ(table.closeDBF(), std::nullopt);
         const std::string bytes = contentOf(path);
         EXPECT_GE(bytes.size(), 65U);
@@ -30,11 +30,11 @@ struct DbfTest : testing::Test {
 };
 
 TEST_F(DbfTest, WholeFileByteForByte) {
-    DbfFile table;
-    EXPECT_EQ(table.addField("id", DbfType::Numeric, 5, 0), 1);
-    EXPECT_EQ(table.addField("Descripci\u00f3n larga", DbfType::Character, 10, 3), 2);
-    EXPECT_EQ(table.addField("Fecha", DbfType::Date, 4, 1), 3);
-    EXPECT_EQ(table.addField("Dosis", DbfType::Numeric, 15, 3), 4);
+    DbaseWriter table;
+    EXPECT_EQ(table.addField("id", DbaseType::Numeric, 5, 0), 1);
+    EXPECT_EQ(table.addField("Descripci\u00f3n larga", DbaseType::Character, 10, 3), 2);
+    EXPECT_EQ(table.addField("Fecha", DbaseType::Date, 4, 1), 3);
+    EXPECT_EQ(table.addField("Dosis", DbaseType::Numeric, 15, 3), 4);
     ASSERT_EQ(table.createDBF(base), std::nullopt);
     table.recordField(1, std::int64_t{7});
     table.recordField(2, std::string("Ca\u00f1ada"));
@@ -59,8 +59,8 @@ TEST_F(DbfTest, WholeFileByteForByte) {
 }
 
 TEST_F(DbfTest, CountsStandInTheHeaderWhenTheTableIsClosed) {
-    DbfFile table;
-    table.addField("id", DbfType::Numeric, 5, 0);
+    DbaseWriter table;
+    table.addField("id", DbaseType::Numeric, 5, 0);
     ASSERT_EQ(table.createDBF(base), std::nullopt);
     for (std::int64_t row = 0; row < 300; ++row) {
         table.recordField(1, row);
@@ -77,38 +77,39 @@ TEST_F(DbfTest, CountsStandInTheHeaderWhenTheTableIsClosed) {
 TEST_F(DbfTest, ValuesByTheTypeOfTheirField) {
     struct Row {
         const char* name;
-        DbfType type;
+        DbaseType type;
         CellValue value;
         const char* plain;
         const char* gis;
     };
     const Row rows[] = {
-        {"whole", DbfType::Numeric, std::int64_t{-12}, "-12     ", "     -12"},
-        {"single", DbfType::Numeric, 12.3F, "12.3    ", "    12.3"},
-        {"double", DbfType::Numeric, 0.1, "0.1     ", "     0.1"},
-        {"decimal comma", DbfType::Numeric, std::string("1,25"), "1.25    ", "    1.25"},
-        {"too long", DbfType::Numeric, std::string("123456789"), "12345678", "12345678"},
-        {"no number", DbfType::Numeric, {}, "        ", "        "},
-        {"text", DbfType::Character, std::string("a,b"), "a,b     ", "a,b     "},
-        {"text that fills the field", DbfType::Character, std::string("a,b.c,de"), "a.b.c.de",
+        {"whole", DbaseType::Numeric, std::int64_t{-12}, "-12     ", "     -12"},
+        {"single", DbaseType::Numeric, 12.3F, "12.3    ", "    12.3"},
+        {"double", DbaseType::Numeric, 0.1, "0.1     ", "     0.1"},
+        {"decimal comma", DbaseType::Numeric, std::string("1,25"), "1.25    ", "    1.25"},
+        {"too long", DbaseType::Numeric, std::string("123456789"), "12345678", "12345678"},
+        {"no number", DbaseType::Numeric, {}, "        ", "        "},
+        {"text", DbaseType::Character, std::string("a,b"), "a,b     ", "a,b     "},
+        {"text that fills the field", DbaseType::Character, std::string("a,b.c,de"), "a.b.c.de",
          "a,b.c,de"},
-        {"text that is cut", DbfType::Character, std::string("12345678,"), "12345678", "12345678"},
-        {"letters that take two bytes elsewhere", DbfType::Character,
+        {"text that is cut", DbaseType::Character, std::string("12345678,"), "12345678",
+         "12345678"},
+        {"letters that take two bytes elsewhere", DbaseType::Character,
          std::string("\u00e1\u00e1\u00e1,\u00e1\u00e1\u00e1"), "\xE1\xE1\xE1,\xE1\xE1\xE1 ",
          "\xE1\xE1\xE1,\xE1\xE1\xE1 "},
-        {"letters that the code page lacks", DbfType::Character, std::string("\u4e2d\u20ac"),
+        {"letters that the code page lacks", DbaseType::Character, std::string("\u4e2d\u20ac"),
          "?\x80      ", "?\x80      "},
-        {"number as text", DbfType::Character, 1.5, "1.5     ", "1.5     "},
-        {"date", DbfType::Date, Date{2011, 3, 5}, "20110305", "20110305"},
-        {"day before the first", DbfType::Date, Date{2011, 3, 0}, "20110228", "20110228"},
-        {"date by its number", DbfType::Date, std::int64_t{40607}, "20110305", "20110305"},
-        {"no date", DbfType::Date, {}, "        ", "        "},
-        {"text for a date", DbfType::Date, std::string("ayer"), "        ", "        "},
+        {"number as text", DbaseType::Character, 1.5, "1.5     ", "1.5     "},
+        {"date", DbaseType::Date, Date{2011, 3, 5}, "20110305", "20110305"},
+        {"day before the first", DbaseType::Date, Date{2011, 3, 0}, "20110228", "20110228"},
+        {"date by its number", DbaseType::Date, std::int64_t{40607}, "20110305", "20110305"},
+        {"no date", DbaseType::Date, {}, "        ", "        "},
+        {"text for a date", DbaseType::Date, std::string("ayer"), "        ", "        "},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
         for (const bool forGis : {false, true}) {
-            DbfFile table(forGis ? std::optional(kToday) : std::nullopt);
+            DbaseWriter table(forGis ? std::optional(kToday) : std::nullopt);
             table.addField("c", row.type, 8, 2);
             ASSERT_EQ(table.createDBF(base), std::nullopt);
             table.recordField(1, row.value);
@@ -119,8 +120,8 @@ TEST_F(DbfTest, ValuesByTheTypeOfTheirField) {
 }
 
 TEST_F(DbfTest, AFieldThatIsNotSetRepeatsItsValue) {
-    DbfFile table;
-    table.addField("c", DbfType::Character, 3, 0);
+    DbaseWriter table;
+    table.addField("c", DbaseType::Character, 3, 0);
     ASSERT_EQ(table.createDBF(base), std::nullopt);
     table.recordField(0, std::string("xxx"));
     table.recordField(-1, std::string("xxx"));
@@ -135,9 +136,9 @@ TEST_F(DbfTest, AFieldThatIsNotSetRepeatsItsValue) {
 }
 
 TEST_F(DbfTest, ForOtherProgramsTheHeaderHasTheDay) {
-    DbfFile table(kToday);
-    table.addField("nota", DbfType::Character, 10, 0);
-    table.addField("dia", DbfType::Date, 8, 0);
+    DbaseWriter table(kToday);
+    table.addField("nota", DbaseType::Character, 10, 0);
+    table.addField("dia", DbaseType::Date, 8, 0);
     ASSERT_EQ(table.createDBF(base), std::nullopt);
     ASSERT_EQ(table.closeDBF(), std::nullopt);
     const std::string bytes = contentOf(path);
@@ -162,9 +163,9 @@ TEST_F(DbfTest, WhatTheHeaderCannotCountIsRefused) {
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
-        DbfFile table;
+        DbaseWriter table;
         for (int i = 0; i < row.fields; ++i) {
-            table.addField("c", DbfType::Character, row.length, 0);
+            table.addField("c", DbaseType::Character, row.length, 0);
         }
         const auto failure = table.createDBF(base);
         EXPECT_EQ(!failure, row.isFine);
@@ -174,9 +175,9 @@ TEST_F(DbfTest, WhatTheHeaderCannotCountIsRefused) {
         }
         EXPECT_EQ(contentOf(path), "old") << "nothing is closed yet";
     }
-    DbfFile table;
-    EXPECT_THROW(table.addField("c", DbfType::Numeric, 0, 0), std::invalid_argument);
-    EXPECT_THROW(table.addField("c", DbfType::Character, 256, 0), std::invalid_argument);
+    DbaseWriter table;
+    EXPECT_THROW(table.addField("c", DbaseType::Numeric, 0, 0), std::invalid_argument);
+    EXPECT_THROW(table.addField("c", DbaseType::Character, 256, 0), std::invalid_argument);
 }
 
 }  // namespace

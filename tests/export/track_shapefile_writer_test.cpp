@@ -18,7 +18,7 @@ struct ShpTrackTest : testing::Test {
     }
     /// The rows of the table, in one.
     std::string rows(const std::vector<SwathFigure>& figures) {
-        Shp shapes(base, {});
+        TrackShapefileWriter shapes(base, {});
         for (const SwathFigure& one : figures) {
             shapes.add(one);
         }
@@ -66,7 +66,7 @@ TEST_F(ShpTrackTest, FilesOfTheTrack) {
     BoundingBox extent;
     extent.addPoint(-1, 0);
     extent.addPoint(2, 4);
-    Shp shapes(base, extent);
+    TrackShapefileWriter shapes(base, extent);
     shapes.add(figure(200, 100, 1, 15));
     EXPECT_EQ(shapes.recordCount(), 1);
     ASSERT_EQ(shapes.finish(), std::nullopt);
@@ -94,7 +94,7 @@ TEST_F(ShpTrackTest, AValueThatWouldBecomeAnotherOneIsAFailure) {
         figure(32768, 0, 1, 15), figure(0, -65600, 2, 15),  // beyond 16 bits
     };
     for (const SwathFigure& bad : rows) {
-        Shp shapes(base, {});
+        TrackShapefileWriter shapes(base, {});
         shapes.add(bad);
         EXPECT_TRUE(shapes.hasFailed());
         const auto failure = shapes.finish();

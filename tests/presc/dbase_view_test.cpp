@@ -15,7 +15,7 @@ namespace {
 
 const CellValue kEmpty;
 
-TEST(DbaseFile, ReadsCellsByTheTypeOfTheirColumn) {
+TEST(DbaseView, ReadsCellsByTheTypeOfTheirColumn) {
     const std::tuple<const char*, char, std::string, CellValue, std::optional<double>> rows[] = {
         {"number", 'N', "12.50", 12.5, 12.5},
         {"a plus", 'N', "+3", 3.0, 3},
@@ -42,19 +42,19 @@ TEST(DbaseFile, ReadsCellsByTheTypeOfTheirColumn) {
         DbaseBytes table({{"A", 'C', 3}, {"B", type, 10}});
         table.addRow({"xyz", cell});
         const std::string bytes = table.bytes();
-        const DbaseFile file(bytesOf(bytes));
+        const DbaseView file(bytesOf(bytes));
         EXPECT_EQ(file.value(0, 1), value);
         EXPECT_EQ(file.number(0, 1), number);
         EXPECT_EQ(file.value(0, 0), CellValue(std::string("xyz")));
     }
 }
 
-TEST(DbaseFile, KnowsItsColumnsAndRows) {
+TEST(DbaseView, KnowsItsColumnsAndRows) {
     DbaseBytes table({{"DOSIS", 'N', 6}, {"ELEVENCHARS", 'C', 4}});
     table.addRow({"1", "a"});
     table.addRow({"2", "b"}, true);
     const std::string bytes = table.bytes();
-    const DbaseFile file(bytesOf(bytes));
+    const DbaseView file(bytesOf(bytes));
     ASSERT_EQ(file.fieldCount(), 2);
     EXPECT_EQ(file.fieldName(0), "DOSIS");
     EXPECT_EQ(file.fieldName(1), "ELEVENCHARS");
@@ -66,19 +66,19 @@ TEST(DbaseFile, KnowsItsColumnsAndRows) {
     }
 }
 
-TEST(DbaseFile, CountsTheRowsThatAreThere) {
+TEST(DbaseView, CountsTheRowsThatAreThere) {
     DbaseBytes table({{"A", 'C', 4}});
     table.addRow({"abcd"});
     table.addRow({"efgh"});
     std::string bytes = table.bytes();
     putLittle(bytes, 4, -1);
-    EXPECT_EQ(DbaseFile(bytesOf(bytes)).rowCount(), 2);
-    EXPECT_EQ(DbaseFile(bytesOf(bytes.substr(0, bytes.size() - 3))).rowCount(), 1);
+    EXPECT_EQ(DbaseView(bytesOf(bytes)).rowCount(), 2);
+    EXPECT_EQ(DbaseView(bytesOf(bytes.substr(0, bytes.size() - 3))).rowCount(), 1);
     putLittle(bytes, 4, 1);
-    EXPECT_EQ(DbaseFile(bytesOf(bytes)).rowCount(), 1) << "the header says how many";
+    EXPECT_EQ(DbaseView(bytesOf(bytes)).rowCount(), 1) << "the header says how many";
 }
 
-TEST(DbaseFile, ReadsTextsInTheirCodePage) {
+TEST(DbaseView, ReadsTextsInTheirCodePage) {
     const std::tuple<const char*, std::string, int, std::string, std::string> rows[] = {
         {"nothing said", "", 0, "A\xF1o", "Año"},
         {"a page that is not known", "big5", 0xC9, "A\xF1o", "Año"},
@@ -93,7 +93,7 @@ TEST(DbaseFile, ReadsTextsInTheirCodePage) {
         DbaseBytes table({{cell, 'C', 10}}, language);
         table.addRow({cell});
         const std::string bytes = table.bytes();
-        const DbaseFile file(bytesOf(bytes), cpg);
+        const DbaseView file(bytesOf(bytes), cpg);
         EXPECT_EQ(file.fieldName(0), text);
         EXPECT_EQ(file.value(0, 0), CellValue(text));
     }
@@ -102,7 +102,7 @@ TEST(DbaseFile, ReadsTextsInTheirCodePage) {
 /// What the user reads about the table; empty when it is taken.
 std::string fault(const std::string& bytes) {
     try {
-        const DbaseFile file(bytesOf(bytes));
+        const DbaseView file(bytesOf(bytes));
         for (std::int32_t row = 0; row < file.rowCount(); ++row) {
             for (int column = 0; column < file.fieldCount(); ++column) {
                 (void)file.value(row, column);
@@ -114,7 +114,7 @@ std::string fault(const std::string& bytes) {
     }
 }
 
-TEST(DbaseFile, SaysWhatIsWrong) {
+TEST(DbaseView, SaysWhatIsWrong) {
     DbaseBytes table({{"A", 'N', 4}, {"B", 'D', 8}, {"C", 'L', 1}});
     table.addRow({"1", "20240101", "T"});
     table.addRow({"2", "20240102", "F"});

@@ -52,13 +52,13 @@ struct Desk {
                            {dialogs, texts, locale})
             .has_value();
     }
-    [[nodiscard]] PreFile readPre() const {
+    [[nodiscard]] PreGrid readPre() const {
         const Result<FileBytes> file = readFile(prePath);
-        return file ? decodePre(file->bytes()) : PreFile();
+        return file ? decodePre(file->bytes()) : PreGrid();
     }
-    [[nodiscard]] VrtFile readVrt() const {
+    [[nodiscard]] VrtGrid readVrt() const {
         const Result<FileBytes> file = readFile(vrtPath);
-        return file ? decodeVrt(file->bytes()) : VrtFile();
+        return file ? decodeVrt(file->bytes()) : VrtGrid();
     }
     [[nodiscard]] std::vector<std::string> files() const {
         std::vector<std::string> names;
@@ -90,15 +90,15 @@ struct GenerationTest : testing::Test, Desk {};
 TEST_F(GenerationTest, AGridHasAMarginOfTwoCellsAndADoseWhereAZoneIs) {
     dialogs.inputAnswers = {""};
     ASSERT_TRUE(pre({oneZone(85)}));
-    const PreFile file = readPre();
-    EXPECT_EQ(file.header.columns, 54);
-    EXPECT_EQ(file.header.rows, 29);
-    EXPECT_EQ(file.header.cellSize, 20);
-    EXPECT_EQ(file.header.metresPerMinuteOfLatitude, 1855);
-    EXPECT_EQ(file.header.metresPerMinuteOfLongitude, 1855);
-    EXPECT_EQ(std::count(file.doses.begin(), file.doses.end(), 85), 50 * 25);
-    EXPECT_EQ(file.doses.at(2 * 54 + 2), 85) << "the north-west corner of the field";
-    EXPECT_EQ(file.doses.at(2 * 54 + 1), 0);
+    const PreGrid grid = readPre();
+    EXPECT_EQ(grid.header.columns, 54);
+    EXPECT_EQ(grid.header.rows, 29);
+    EXPECT_EQ(grid.header.cellSize, 20);
+    EXPECT_EQ(grid.header.metresPerMinuteOfLatitude, 1855);
+    EXPECT_EQ(grid.header.metresPerMinuteOfLongitude, 1855);
+    EXPECT_EQ(std::count(grid.doses.begin(), grid.doses.end(), 85), 50 * 25);
+    EXPECT_EQ(grid.doses.at(2 * 54 + 2), 85) << "the north-west corner of the field";
+    EXPECT_EQ(grid.doses.at(2 * 54 + 1), 0);
     EXPECT_THAT(files(), ElementsAre("lote.pre", "lote.rpt"));
     EXPECT_EQ(std::filesystem::file_size(folder.file("lote.rpt")), 54U * 29 * 32 - 2);
     EXPECT_THAT(dialogs.messages,
@@ -113,11 +113,11 @@ TEST_F(GenerationTest, EveryChannelHasItsFallbackDose) {
     layer.meanDose = 71.9F;
     ASSERT_TRUE(pre({layer, oneZone(13.5F), oneZone(1)}));
     EXPECT_THAT(dialogs.inputs, ElementsAre("2150|Campora|71", "2151|Campora|0", "2152|Campora|0"));
-    const PreFile file = readPre();
-    EXPECT_EQ(file.header.channels, 3);
-    ASSERT_EQ(file.doses.size(), 54U * 29 * 3);
-    EXPECT_THAT(std::vector(file.doses.begin(), file.doses.begin() + 3), ElementsAre(33, 0, -2));
-    const auto inside = file.doses.begin() + (2 * 54 + 2) * 3;
+    const PreGrid grid = readPre();
+    EXPECT_EQ(grid.header.channels, 3);
+    ASSERT_EQ(grid.doses.size(), 54U * 29 * 3);
+    EXPECT_THAT(std::vector(grid.doses.begin(), grid.doses.begin() + 3), ElementsAre(33, 0, -2));
+    const auto inside = grid.doses.begin() + (2 * 54 + 2) * 3;
     EXPECT_THAT(std::vector(inside, inside + 3), ElementsAre(12, 14, 1)) << "halves to even";
 }
 
@@ -132,15 +132,15 @@ TEST_F(GenerationTest, AVrtGoesNorthInHundredthsWithoutQuestions) {
     ZoneLayer layer = oneZone(12.34F);
     layer.add(7, {field(20, 20)});
     ASSERT_TRUE(vrt({layer}));
-    const VrtFile file = readVrt();
-    EXPECT_EQ(file.header.columns, 54);
-    EXPECT_EQ(file.header.rows, 29);
-    EXPECT_EQ(file.header.name, "Norte");
-    EXPECT_EQ(file.header.x0, static_cast<float>(10 - 40 / kDegree));
-    EXPECT_EQ(file.header.y0, static_cast<float>(-40 / kDegree));
-    EXPECT_EQ(file.doses.at(0), 0);
-    EXPECT_EQ(file.doses.at(2 * 54 + 2), 700) << "the south-west corner, laid last";
-    EXPECT_EQ(file.doses.at(2 * 54 + 3), 1234);
+    const VrtGrid grid = readVrt();
+    EXPECT_EQ(grid.header.columns, 54);
+    EXPECT_EQ(grid.header.rows, 29);
+    EXPECT_EQ(grid.header.name, "Norte");
+    EXPECT_EQ(grid.header.x0, static_cast<float>(10 - 40 / kDegree));
+    EXPECT_EQ(grid.header.y0, static_cast<float>(-40 / kDegree));
+    EXPECT_EQ(grid.doses.at(0), 0);
+    EXPECT_EQ(grid.doses.at(2 * 54 + 2), 700) << "the south-west corner, laid last";
+    EXPECT_EQ(grid.doses.at(2 * 54 + 3), 1234);
     EXPECT_THAT(dialogs.inputs, IsEmpty());
     EXPECT_THAT(files(), ElementsAre("lote.vrt"));
 }
@@ -157,9 +157,9 @@ TEST(Generation, TheCentresOfAVrtCountFromItsOriginInSinglePrecision) {
     layer.add(2, {rectangleRing(centre - 0.05 * metre, 0, centre + 0.05 * metre, 20 * metre)});
     Desk desk;
     ASSERT_TRUE(desk.vrt({layer}, 1));
-    const VrtFile file = desk.readVrt();
-    ASSERT_EQ(file.header.x0, -104.0000229F);
-    EXPECT_EQ(std::count(file.doses.begin(), file.doses.end(), 200), 20);
+    const VrtGrid grid = desk.readVrt();
+    ASSERT_EQ(grid.header.x0, -104.0000229F);
+    EXPECT_EQ(std::count(grid.doses.begin(), grid.doses.end(), 200), 20);
 }
 
 TEST(Generation, AGridTooLargeForConsolesIsAskedAbout) {

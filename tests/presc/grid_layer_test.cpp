@@ -29,7 +29,7 @@ using Doses = std::vector<std::int16_t>;
 constexpr Color kBack{0x123456};
 constexpr double kHeight = 20 / 111320.0;
 
-PreFile preFile(std::int16_t columns, std::int16_t rows, int channels, Doses doses) {
+PreGrid preFile(std::int16_t columns, std::int16_t rows, int channels, Doses doses) {
     return {{encodePreCoordinate(-34.5), encodePreCoordinate(-58.25), columns, rows, 20, 1855, 1529,
              channels},
             std::move(doses)};

@@ -22,7 +22,7 @@ PreHeader smallHeader(int channels) {
     return {3430000, 5815500, 2, 1, 20, 1855, 1529, channels};
 }
 
-TEST(PreFile, EveryByteHasItsPlace) {
+TEST(PreGrid, EveryByteHasItsPlace) {
     using namespace std::string_literals;
     const std::string expected =
         "[LATITUD] = \xC0\x59\x51\x4A"s   // 3430000
@@ -34,12 +34,12 @@ TEST(PreFile, EveryByteHasItsPlace) {
     header.longitude = 5815458.0F;
     EXPECT_EQ(encodePre(header, Doses{1, -2, 32767, -32768}), expected);
 
-    const PreFile read = decodePre(bytesOf(expected));
+    const PreGrid read = decodePre(bytesOf(expected));
     EXPECT_EQ(read.header, header);
     EXPECT_EQ(read.doses, (Doses{1, -2, 32767, -32768}));
 }
 
-TEST(PreFile, CoordinatesAreNegatedDegreesAndMinutes) {
+TEST(PreGrid, CoordinatesAreNegatedDegreesAndMinutes) {
     const std::tuple<double, float, float> rows[] = {
         {-34.5, 3430000.0F, -34.5F},           {-58.258333, 5815500.0F, -58.25833F},
         {-0.00001, 1.0F, -0.00002F},           {50.25, -5055000.0F, 50.25F},
@@ -51,7 +51,7 @@ TEST(PreFile, CoordinatesAreNegatedDegreesAndMinutes) {
     }
 }
 
-TEST(PreFile, AFileThatLiesIsRefused) {
+TEST(PreGrid, AFileThatLiesIsRefused) {
     using namespace std::string_literals;
     const std::tuple<const char*, std::size_t, std::string, TextId> rows[] = {
         {"no columns", 43, "\x00\x00"s, TextId::GridImpossible},
@@ -72,7 +72,7 @@ TEST(PreFile, AFileThatLiesIsRefused) {
     }
 }
 
-TEST(PreFile, ACutFileIsRefusedAndALongOneRead) {
+TEST(PreGrid, ACutFileIsRefusedAndALongOneRead) {
     const std::string whole = encodePre(smallHeader(2), Doses{1, 2, 3, 4});
     for (std::size_t size = 54; size < whole.size(); ++size) {
         EXPECT_THROW(static_cast<void>(decodePre(bytesOf(whole.substr(0, size)))), FormatError)

@@ -29,7 +29,7 @@ const Ring kTouching = {{0, 0}, {4, 2}, {2, 4}, {0, 0}};
 /// On one line but for the last digits, which turn it clockwise.
 const Ring kFlatInDegrees = {{-61.1, -33.1}, {-61.2, -33.2}, {-61.3, -33.3}, {-61.1, -33.1}};
 
-Parts partsOf(const Shape& shape) {
+Parts partsOf(const ShapeView& shape) {
     Parts parts{{7, 7, true}};
     shape.collectParts(parts);
     return parts;
@@ -40,7 +40,7 @@ Parts partsOf(const Shape& shape) {
 std::string fault(const std::string& bytes, const std::string& index = {}) {
     const Texts texts(Language::English);
     try {
-        const ShapeFile file(bytesOf(bytes), bytesOf(index));
+        const ShapefileView file(bytesOf(bytes), bytesOf(index));
         for (std::int32_t i = 0; i < file.recordCount(); ++i) {
             (void)partsOf(file.shape(i));
         }
@@ -59,7 +59,7 @@ ShapeBytes twoRecords() {
     return shapes;
 }
 
-TEST(ShapeFile, ReadsEveryTypeAndSkipsItsZAndM) {
+TEST(ShapefileView, ReadsEveryTypeAndSkipsItsZAndM) {
     const std::pair<std::int32_t, Parts> rows[] = {{1, {{0, 0, false}}},
                                                    {3, {{0, 1, false}, {2, 2, false}}},
                                                    {5, {{0, 1, false}, {2, 2, false}}},
@@ -77,9 +77,9 @@ TEST(ShapeFile, ReadsEveryTypeAndSkipsItsZAndM) {
             }
             shapes.addNull();
             const std::string bytes = shapes.bytes();
-            const ShapeFile file(bytesOf(bytes));
+            const ShapefileView file(bytesOf(bytes));
             ASSERT_EQ(file.recordCount(), 2);
-            const Shape shape = file.shape(0);
+            const ShapeView shape = file.shape(0);
             EXPECT_EQ(shape.vertex(0), (LonLat{-61.5, -33.25}));
             EXPECT_EQ(partsOf(shape), parts);
             EXPECT_EQ(partsOf(file.shape(1)), Parts());
@@ -87,7 +87,7 @@ TEST(ShapeFile, ReadsEveryTypeAndSkipsItsZAndM) {
     }
 }
 
-TEST(ShapeFile, HolesRunAgainstTheClockBesideARingThatRunsWithIt) {
+TEST(ShapefileView, HolesRunAgainstTheClockBesideARingThatRunsWithIt) {
     const std::tuple<const char*, std::int32_t, std::vector<Ring>, std::vector<bool>> rows[] = {
         {"outer and hole", 5, {kClockwise, kAgainst}, {false, true}},
         {"hole first", 5, {kAgainst, kClockwise}, {true, false}},
@@ -109,30 +109,30 @@ TEST(ShapeFile, HolesRunAgainstTheClockBesideARingThatRunsWithIt) {
         shapes.addPolygon(rings);
         const std::string bytes = shapes.bytes();
         std::vector<bool> holes;
-        for (const ShapePart& part : partsOf(ShapeFile(bytesOf(bytes)).shape(0))) {
+        for (const ShapePart& part : partsOf(ShapefileView(bytesOf(bytes)).shape(0))) {
             holes.push_back(part.isHole);
         }
         EXPECT_EQ(holes, expected) << name;
     }
 }
 
-TEST(ShapeFile, LeavesOutPartsWithoutVertices) {
+TEST(ShapefileView, LeavesOutPartsWithoutVertices) {
     ShapeBytes shapes(5);
     shapes.addPolygon({{}, kClockwise, {}, kAgainst, {}});
     shapes.addPolygon({{}, {}});
     const std::string bytes = shapes.bytes();
-    const ShapeFile file(bytesOf(bytes));
+    const ShapefileView file(bytesOf(bytes));
     EXPECT_EQ(partsOf(file.shape(0)), (Parts{{0, 4, false}, {5, 9, true}}));
     EXPECT_EQ(partsOf(file.shape(1)), Parts());
 }
 
-TEST(ShapeFile, TakesASoundIndexAndDoesWithoutAnyOther) {
+TEST(ShapefileView, TakesASoundIndexAndDoesWithoutAnyOther) {
     const ShapeBytes shapes = twoRecords();
     const std::string bytes = shapes.bytes();
     std::string reversed = shapes.index();
     const std::string first = reversed.substr(100, 8);
     reversed = reversed.substr(0, 100) + reversed.substr(108) + first;
-    const ShapeFile file(bytesOf(bytes), bytesOf(reversed));
+    const ShapefileView file(bytesOf(bytes), bytesOf(reversed));
     EXPECT_EQ(partsOf(file.shape(0)).size(), 1U) << "the order is that of the index";
     EXPECT_EQ(partsOf(file.shape(1)).size(), 2U);
 
@@ -150,23 +150,23 @@ TEST(ShapeFile, TakesASoundIndexAndDoesWithoutAnyOther) {
         {"one record twice", reversed.substr(0, 100) + first + first},
     };
     for (const auto& [name, index] : rows) {
-        const ShapeFile without(bytesOf(bytes), bytesOf(index));
+        const ShapefileView without(bytesOf(bytes), bytesOf(index));
         ASSERT_EQ(without.recordCount(), 2) << name;
         EXPECT_EQ(partsOf(without.shape(0)).size(), 2U) << name << ": the order of the file";
     }
 }
 
-TEST(ShapeFile, ReadsPastALengthThatWasNeverFilledIn) {
+TEST(ShapefileView, ReadsPastALengthThatWasNeverFilledIn) {
     std::string bytes = twoRecords().bytes();
     for (const std::int32_t words : {0, 50, -1}) {
         putBig(bytes, 24, words);
-        EXPECT_EQ(ShapeFile(bytesOf(bytes)).recordCount(), 2) << words;
+        EXPECT_EQ(ShapefileView(bytesOf(bytes)).recordCount(), 2) << words;
     }
     bytes = twoRecords().bytes() + "whatever";
-    EXPECT_EQ(ShapeFile(bytesOf(bytes)).recordCount(), 2);
+    EXPECT_EQ(ShapefileView(bytesOf(bytes)).recordCount(), 2);
 }
 
-TEST(ShapeFile, SaysWhatIsWrongAndWhere) {
+TEST(ShapefileView, SaysWhatIsWrongAndWhere) {
     const ShapeBytes shapes = twoRecords();
     const std::string good = shapes.bytes();
     const std::size_t first = shapes.contentAt(0);
@@ -226,7 +226,7 @@ TEST(ShapeFile, SaysWhatIsWrongAndWhere) {
     }
 }
 
-TEST(ShapeFile, AnyDamageIsSaidOrHarmless) {
+TEST(ShapefileView, AnyDamageIsSaidOrHarmless) {
     ShapeBytes shapes = twoRecords();
     shapes.addNull();
     const std::string good = shapes.bytes();

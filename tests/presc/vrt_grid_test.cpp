@@ -23,7 +23,7 @@ VrtHeader smallHeader() {
     return {-61.25F, -33.5F, 7.5F, 2, 1, 2, "Lote 7", "Maíz"};
 }
 
-TEST(VrtFile, EveryByteHasItsPlace) {
+TEST(VrtGrid, EveryByteHasItsPlace) {
     const std::string expected = "\x9B\x1A\x6F\x01"s +
                                  "\x00\x00\x75\xC2"s
                                  "\x00\x00\x06\xC2"s
@@ -37,22 +37,22 @@ TEST(VrtFile, EveryByteHasItsPlace) {
     EXPECT_EQ(encodeVrt(smallHeader(), Doses{1250, 0, -1, -32768}), expected);
 
     ASSERT_TRUE(isVrtFile(bytesOf(expected)));
-    const VrtFile read = decodeVrt(bytesOf(expected));
+    const VrtGrid read = decodeVrt(bytesOf(expected));
     EXPECT_EQ(read.header, smallHeader());
     EXPECT_EQ(read.doses, (Doses{1250, 0, -1, -32768}));
 }
 
-TEST(VrtFile, TextsAreCutToTheirFields) {
+TEST(VrtGrid, TextsAreCutToTheirFields) {
     VrtHeader header = smallHeader();
     header.name = "Ñandú de veinte letras";
     header.description = std::string(70, 'd');
-    const VrtFile read = decodeVrt(bytesOf(encodeVrt(header, Doses{1, 2, 3, 4})));
+    const VrtGrid read = decodeVrt(bytesOf(encodeVrt(header, Doses{1, 2, 3, 4})));
     EXPECT_EQ(read.header.name, "Ñandú de veinte ");
     EXPECT_EQ(read.header.description, std::string(64, 'd'));
     EXPECT_EQ(read.doses, (Doses{1, 2, 3, 4}));
 }
 
-TEST(VrtFile, AFileThatLiesIsRefused) {
+TEST(VrtGrid, AFileThatLiesIsRefused) {
     const std::tuple<const char*, std::size_t, std::string, TextId> rows[] = {
         {"west edge not a number", 4, "\x00\x00\xC0\x7F"s, TextId::GridImpossible},
         {"south edge at the pole", 8, "\x00\x00\xB4\x42"s, TextId::GridImpossible},
@@ -72,7 +72,7 @@ TEST(VrtFile, AFileThatLiesIsRefused) {
     }
 }
 
-TEST(VrtFile, ACutFileIsRefusedAndALongOneRead) {
+TEST(VrtGrid, ACutFileIsRefusedAndALongOneRead) {
     const std::string whole = encodeVrt(smallHeader(), Doses{1, 2, 3, 4});
     for (std::size_t size = 4; size < whole.size(); ++size) {
         EXPECT_THROW(static_cast<void>(decodeVrt(bytesOf(whole.substr(0, size)))), FormatError)

@@ -44,7 +44,7 @@ std::string shapeBaseOf(std::string_view trackPath) {
 
 TrackExportOutcome TrackBatch::exportOne(const std::string& source,
                                          std::string_view basePath) const {
-    if (const auto refused = inUse_.whyNotTarget(shapeSetFiles(basePath))) {
+    if (const auto refused = inUse_.whyNotTarget(filesOfShapefile(basePath))) {
         return {false, session_.texts().sentence(*refused)};
     }
     RemarkDialogs dialogs;

@@ -35,7 +35,7 @@ BoundingBox boxOf(const std::vector<const GphTrack*>& passes) {
 }
 
 void exportPass(const GphTrack& pass, const TrackExportOptions& options, std::vector<LonLat>& ring,
-                Shp& shapes) {
+                TrackShapefileWriter& shapes) {
     const auto most = static_cast<std::size_t>(
         std::clamp(options.polygonLength, kShortestPolygon, kLongestPolygon));
     std::size_t step = 0;
@@ -55,7 +55,7 @@ void exportPass(const GphTrack& pass, const TrackExportOptions& options, std::ve
 std::optional<Failure> exportTrack(const File& work, std::string_view basePath,
                                    const TrackExportOptions& options) {
     const std::vector<const GphTrack*> passes = passesOf(work);
-    Shp shapes(basePath, boxOf(passes));
+    TrackShapefileWriter shapes(basePath, boxOf(passes));
     std::vector<LonLat> ring;
     for (const GphTrack* const pass : passes) {
         exportPass(*pass, options, ring, shapes);
