@@ -13,18 +13,16 @@
 #include "base/encoding.h"
 #include "base/file_endings.h"
 #include "base/numbers.h"
+#include "model/dbase_layout.h"
 
 namespace campora {
 
 namespace {
 
+namespace header = dbase::header;
+namespace description = dbase::field;
+
 constexpr Date kPlainDate{1999, 1, 30};
-constexpr std::size_t kCounts = 4;  // bytes from the start of the header
-constexpr std::size_t kHeaderReserved = 20;
-constexpr std::size_t kNameBytes = 11;
-constexpr std::size_t kFieldReserved = 14;
-constexpr std::size_t kFieldBytes = 32;  // a descriptor
-constexpr std::size_t kFrameBytes = 33;  // header and end of the descriptors
 constexpr std::size_t kMostBytes = std::numeric_limits<std::uint16_t>::max();
 constexpr int kMostLengthByte = 255;
 
@@ -36,13 +34,13 @@ bool isAscii(std::string_view text) {
 char typeLetter(DbaseType type) {
     switch (type) {
     case DbaseType::Numeric:
-        return 'N';
+        return dbase::type::kNumber;
     case DbaseType::Character:
-        return 'C';
+        return dbase::type::kText;
     case DbaseType::Date:
         break;
     }
-    return 'D';
+    return dbase::type::kDate;
 }
 
 std::string dateDigits(const Date& date) {
@@ -72,43 +70,48 @@ int DbaseWriter::addField(std::string_view name, DbaseType type, int length, int
     if (bytes < 1 || bytes > kMostLengthByte) {
         throw std::invalid_argument("DbaseWriter: length of a field");
     }
-    const std::string letters = toWindows1252(name).substr(0, kNameBytes);
+    const std::string letters = toWindows1252(name).substr(0, description::kNameSize);
     fields_.push_back({letters, type, record_.size(), static_cast<std::size_t>(bytes),
                        type == DbaseType::Numeric ? decimals : bytes});
     record_.assign(record_.size() + fields_.back().length, ' ');
     return static_cast<int>(fields_.size());
 }
 
-std::string DbaseWriter::header() const {
+std::string DbaseWriter::head() const {
     const Date date = normalized(today_.value_or(kPlainDate));
     std::string bytes;
-    appendLittle(bytes, std::uint8_t{3});
+    appendLittle(bytes, header::kVersion);
     for (const int part : {date.year - 1900, date.month, date.day}) {
         appendLittle(bytes, static_cast<std::uint8_t>(part));
     }
-    bytes.append(8 + kHeaderReserved, '\0');
+    bytes.resize(header::kFields, '\0');  // the counts are known at the end
     for (const Field& field : fields_) {
+        const std::size_t start = bytes.size();
         bytes += field.name;
-        bytes.append(kNameBytes - field.name.size(), '\0');
+        bytes.resize(start + description::kType, '\0');
         bytes += typeLetter(field.type);
-        bytes.append(4, '\0');
+        bytes.resize(start + description::kWidth, '\0');
         appendLittle(bytes, static_cast<std::uint8_t>(field.length));
         // Other programs take anything but 0 for the high byte of a text's length.
         const bool isPlainNumber = field.type == DbaseType::Numeric || !today_;
         appendLittle(bytes, static_cast<std::uint8_t>(isPlainNumber ? field.decimals : 0));
-        bytes.append(kFieldReserved, '\0');
+        bytes.resize(start + description::kSize, '\0');
     }
-    return bytes + '\r';
+    return bytes + char{header::kFieldsEnd};
+}
+
+std::size_t DbaseWriter::headerSize() const {
+    return header::kLeast + description::kSize * fields_.size();
 }
 
 std::optional<Failure> DbaseWriter::createDBF(std::string_view basePath) {
     const std::string path = std::string(basePath).append(kTableEnding);
-    if (kFrameBytes + kFieldBytes * fields_.size() > kMostBytes || record_.size() > kMostBytes) {
+    if (headerSize() > kMostBytes || record_.size() > kMostBytes) {
         return because(TextId::FileCannotBeWritten, {path}, {TextId::TableTooWide, {}});
     }
     draft_.emplace(path);
     records_ = 0;
-    draft_->write(header());
+    draft_->write(head());
     return draft_->failure();
 }
 
@@ -165,9 +168,9 @@ void DbaseWriter::writeRecord() {
 FileDraft DbaseWriter::takeDraft() {
     std::string counts;
     appendLittle(counts, records_);
-    appendLittle(counts, static_cast<std::uint16_t>(kFieldBytes * fields_.size() + kFrameBytes));
+    appendLittle(counts, static_cast<std::uint16_t>(headerSize()));
     appendLittle(counts, static_cast<std::uint16_t>(record_.size()));
-    draft_->overwrite(kCounts, counts);
+    draft_->overwrite(header::kRecordCount, counts);
     FileDraft draft = std::move(*draft_);
     draft_.reset();
     return draft;

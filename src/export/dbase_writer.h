@@ -13,6 +13,7 @@
 #include "base/failure.h"
 #include "base/file_draft.h"
 #include "model/cell_value.h"
+#include "model/dbase_layout.h"
 
 namespace campora {
 
@@ -24,7 +25,7 @@ enum class DbaseType { Numeric = 0, Character = 1, Date = 2 };
 class DbaseWriter {
 public:
     static constexpr int kMostLength = 254;
-    static constexpr int kDateLength = 8;
+    static constexpr int kDateLength = dbase::kDateWidth;
 
     /// With `today` the table is as other programs write it: that date in the header, numbers on
     /// the right of their fields, texts untouched. Without it the date is always 30 January 1999,
@@ -62,12 +63,13 @@ private:
         int decimals;
     };
 
-    [[nodiscard]] std::string header() const;
+    [[nodiscard]] std::size_t headerSize() const;
+    [[nodiscard]] std::string head() const;
     void put(const Field& field, std::string_view text);
 
     std::optional<Date> today_;
     std::vector<Field> fields_;
-    std::string record_ = " ";  // the mark of deleted ones, then the values
+    std::string record_{dbase::kNotDeleted};  // then the values
     std::int32_t records_ = 0;
     std::optional<FileDraft> draft_;
 };

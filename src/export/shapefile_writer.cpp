@@ -14,17 +14,8 @@ namespace campora {
 
 namespace {
 
-// Bytes from the start of the main file and of the index, which begin alike.
-namespace header {
-constexpr std::int32_t kCode = 9994;  // i32 big-endian at 0, then five that mean nothing
-constexpr std::size_t kUnused = 20;
-constexpr std::uint64_t kLength = 24;  // i32 big-endian, of the file, 16-bit words
-constexpr std::int32_t kVersion = 1000;
-constexpr std::uint64_t kBox = 36;  // f64 each: least x and y, greatest x and y
-constexpr std::size_t kNoBox = 32;  // bytes of the box of Z and M values
-}  // namespace header
+namespace header = shapefile::header;
 
-constexpr std::uint64_t kRecordHeader = 8;
 constexpr std::uint64_t kMostBytes = 2 * std::uint64_t{std::numeric_limits<std::int32_t>::max()};
 
 constexpr std::string_view kReference =
@@ -67,7 +58,8 @@ void ShapefileWriter::Box::append(std::string& bytes) const {
     }
 }
 
-ShapefileWriter::ShapefileWriter(std::string_view basePath, ShapeType type, std::optional<Date> today)
+ShapefileWriter::ShapefileWriter(std::string_view basePath, ShapeType type,
+                                 std::optional<Date> today)
     : basePath_(basePath),
       type_(type),
       table_(today),
@@ -77,13 +69,13 @@ ShapefileWriter::ShapefileWriter(std::string_view basePath, ShapeType type, std:
 std::optional<Failure> ShapefileWriter::create(const BoundingBox& box) {
     std::string bytes;
     appendBig(bytes, header::kCode);
-    bytes.append(header::kUnused, '\0');
-    appendBig(bytes, 0);  // the length is known at the end
+    bytes.resize(header::kLength, '\0');
+    appendBig(bytes, 0);  // known at the end
     appendLittle(bytes, header::kVersion);
     appendLittle(bytes, static_cast<std::int32_t>(type_));
     const Box written = box.isSet ? Box{box.minX, box.minY, box.maxX, box.maxY} : Box{0, 0, 0, 0};
     written.append(bytes);
-    bytes.append(header::kNoBox, '\0');
+    bytes.resize(header::kSize, '\0');
     main_.write(bytes);
     index_.write(bytes);
     for (const FileDraft* file : {&main_, &index_}) {
@@ -133,7 +125,7 @@ void ShapefileWriter::addPoint(LonLat point) {
 
 void ShapefileWriter::writeRecord() {
     const std::uint64_t offset = main_.size();
-    isTooLarge_ = isTooLarge_ || offset + kRecordHeader + content_.size() > kMostBytes;
+    isTooLarge_ = isTooLarge_ || offset + shapefile::kRecordHeader + content_.size() > kMostBytes;
     if (isTooLarge_) {
         return;
     }

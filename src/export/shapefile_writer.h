@@ -17,14 +17,12 @@
 #include "base/lon_lat.h"
 #include "export/dbase_writer.h"
 #include "model/bounding_box.h"
+#include "model/shapefile_layout.h"
 
 namespace campora {
 
 /// The files of a set: those that are written, and the indexes of others that go with the old ones.
 [[nodiscard]] std::vector<std::string> filesOfShapefile(std::string_view basePath);
-
-/// Types of figures that are written.
-enum class ShapeType : std::int32_t { Point = 1, Polygon = 5 };
 
 /// Writes a main file, its index, its table and the notes on reference system and code page beside
 /// them ("ESRI Shapefile Technical Description", 1998). Figures and records of the table are
@@ -32,7 +30,8 @@ enum class ShapeType : std::int32_t { Point = 1, Polygon = 5 };
 class ShapefileWriter {
 public:
     /// `basePath`: without ending. `today`: as for `DbaseWriter`.
-    ShapefileWriter(std::string_view basePath, ShapeType type, std::optional<Date> today = std::nullopt);
+    ShapefileWriter(std::string_view basePath, ShapeType type,
+                    std::optional<Date> today = std::nullopt);
 
     /// Its fields are added before `create`, its records after it.
     [[nodiscard]] DbaseWriter& table() { return table_; }

@@ -203,8 +203,7 @@ public:
           layers_(std::move(layers)),
           forGis_(true),
           set_(basePath,
-               layers_.front().polygons != nullptr ? ShapeType::Polygon : ShapeType::Point,
-               today),
+               layers_.front().polygons != nullptr ? ShapeType::Polygon : ShapeType::Point, today),
           attributes_(layers_, ExportColumns::ofAll(layers_, texts), true),
           progress_(progress) {}
 

@@ -39,7 +39,8 @@ TrackShapefileWriter::TrackShapefileWriter(std::string_view basePath, const Boun
     failure_ = set_.create(extent);
 }
 
-std::int32_t TrackShapefileWriter::average(std::string_view column, double sum, std::int32_t points) {
+std::int32_t TrackShapefileWriter::average(std::string_view column, double sum,
+                                           std::int32_t points) {
     const std::int32_t rounded = roundToInt32(sum / points);
     const auto narrow = static_cast<std::int16_t>(rounded);
     if (narrow != rounded) {

@@ -10,29 +10,14 @@
 #include "base/byte_reader.h"
 #include "base/failure.h"
 #include "base/numbers.h"
+#include "model/dbase_layout.h"
 
 namespace campora {
 
 namespace {
 
-// Bytes from the start of the file, little-endian.
-namespace header {
-constexpr std::size_t kRowCount = 4;   // u32
-constexpr std::size_t kSize = 8;       // u16, of the header with its columns
-constexpr std::size_t kRowSize = 10;   // u16, the mark of deleted rows included
-constexpr std::size_t kLanguage = 29;  // u8
-constexpr std::size_t kColumns = 32;   // the columns begin
-constexpr std::size_t kLeast = 33;     // a header without columns
-constexpr std::uint8_t kColumnsEnd = 0x0D;
-}  // namespace header
-
-// Bytes from the start of a column's description.
-namespace column {
-constexpr std::size_t kNameSize = 11;  // ended by a zero byte when shorter
-constexpr std::size_t kType = 11;      // a letter
-constexpr std::size_t kWidth = 16;     // u8
-constexpr std::size_t kSize = 32;
-}  // namespace column
+namespace header = dbase::header;
+namespace description = dbase::field;
 
 std::string_view textOf(std::span<const std::byte> bytes) {
     return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
@@ -42,8 +27,8 @@ std::string_view textOf(std::span<const std::byte> bytes) {
 bool isKnownVersion(std::uint8_t version) {
     constexpr std::uint8_t kFoxPro = 0x30;
     constexpr std::uint8_t kFoxPro2Memo = 0xF5;
-    return (version & 0x07U) == 3 || (version >= kFoxPro && version <= kFoxPro + 2) ||
-           version == kFoxPro2Memo;
+    return (version & 0x07U) == header::kVersion ||
+           (version >= kFoxPro && version <= kFoxPro + 2) || version == kFoxPro2Memo;
 }
 
 /// Some programs pad with zero bytes instead of blanks.
@@ -71,10 +56,9 @@ std::optional<double> wholeNumber(std::string_view text) {
 }
 
 CellValue dateOf(std::string_view text) {
-    constexpr std::size_t kDigits = 8;  // yyyymmdd
     int number = 0;
     const char* const end = text.data() + text.size();
-    if (text.size() != kDigits || std::from_chars(text.data(), end, number).ptr != end) {
+    if (text.size() != dbase::kDateWidth || std::from_chars(text.data(), end, number).ptr != end) {
         return {};
     }
     const Date date{number / 10000, number / 100 % 100, number % 100};
@@ -85,7 +69,7 @@ CellValue dateOf(std::string_view text) {
 }
 
 bool isNumberColumn(char type) {
-    return type == 'N' || type == 'F';
+    return type == dbase::type::kNumber || type == dbase::type::kFloat;
 }
 
 [[noreturn]] void damagedAt(std::size_t offset) {
@@ -96,18 +80,18 @@ bool isNumberColumn(char type) {
 
 DbaseView::DbaseView(std::span<const std::byte> bytes, std::string_view codePageName)
     : bytes_(bytes) {
-    if (bytes.size() < header::kColumns || !isKnownVersion(static_cast<std::uint8_t>(bytes[0]))) {
+    if (bytes.size() < header::kFields || !isKnownVersion(static_cast<std::uint8_t>(bytes[0]))) {
         throw FormatError({TextId::TableNone, {}, {}});
     }
-    ByteReader reader(bytes, header::kRowCount);
+    ByteReader reader(bytes, header::kRecordCount);
     const std::uint32_t rows = reader.u32le();
     firstRow_ = reader.u16le();
     rowSize_ = reader.u16le();
     if (firstRow_ < header::kLeast) {
-        damagedAt(header::kSize);
+        damagedAt(header::kHeaderSize);
     }
     if (rowSize_ == 0) {
-        damagedAt(header::kRowSize);
+        damagedAt(header::kRecordSize);
     }
     reader.seek(firstRow_);
     rowCount_ =
@@ -120,18 +104,19 @@ DbaseView::DbaseView(std::span<const std::byte> bytes, std::string_view codePage
 
 void DbaseView::readColumns(std::size_t headerSize) {
     std::size_t offset = 1;  // the mark of deleted rows
-    for (std::size_t at = header::kColumns; at + column::kSize <= headerSize; at += column::kSize) {
+    for (std::size_t at = header::kFields; at + description::kSize <= headerSize;
+         at += description::kSize) {
         ByteReader reader(bytes_, at);
-        const std::string_view name = textOf(reader.take(column::kNameSize));
-        if (static_cast<std::uint8_t>(name[0]) == header::kColumnsEnd) {
+        const std::string_view name = textOf(reader.take(description::kNameSize));
+        if (static_cast<std::uint8_t>(name[0]) == header::kFieldsEnd) {
             break;
         }
-        reader.seek(at + column::kType);
+        reader.seek(at + description::kType);
         const char type = static_cast<char>(reader.u8());
-        reader.seek(at + column::kWidth);
+        reader.seek(at + description::kWidth);
         const std::size_t width = reader.u8();
         if (offset + width > rowSize_) {
-            damagedAt(at + column::kWidth);
+            damagedAt(at + description::kWidth);
         }
         columns_.push_back(
             {decodeCodePage(withoutPadding(name.substr(0, name.find('\0'))), codePage_), type,
@@ -158,7 +143,7 @@ std::string_view DbaseView::cell(std::int32_t row, const Column& column) const {
 
 std::optional<double> DbaseView::number(std::int32_t row, int column) const {
     const Column& of = at(column);
-    if (!isNumberColumn(of.type) && of.type != 'C') {
+    if (!isNumberColumn(of.type) && of.type != dbase::type::kText) {
         return std::nullopt;
     }
     return wholeNumber(cell(row, of));
@@ -171,10 +156,11 @@ CellValue DbaseView::value(std::int32_t row, int column) const {
         return value ? CellValue(*value) : CellValue();
     }
     const std::string_view text = cell(row, of);
-    if (of.type == 'D') {
+    if (of.type == dbase::type::kDate) {
         return dateOf(text);
     }
-    const bool isText = of.type == 'C' || (of.type == 'L' && text != "?");
+    const bool isText =
+        of.type == dbase::type::kText || (of.type == dbase::type::kLogical && text != "?");
     if (!isText || text.empty()) {
         return {};
     }
@@ -190,7 +176,7 @@ std::string DbaseView::text(std::int32_t row, int column) const {
 }
 
 bool DbaseView::isTextColumn(int column) const {
-    return at(column).type == 'C';
+    return at(column).type == dbase::type::kText;
 }
 
 }  // namespace campora

@@ -14,27 +14,12 @@ namespace campora {
 
 namespace {
 
-// Bytes from the start of the main file and of the index, which begin alike.
-namespace header {
-constexpr std::size_t kLength = 24;  // i32 big-endian, of the file, 16-bit words
-constexpr std::size_t kType = 32;    // i32
-constexpr std::size_t kSize = 100;
-constexpr std::int32_t kCode = 9994;  // i32 big-endian at 0
-}  // namespace header
-
-// Bytes from the start of a record's content.
-namespace content {
-constexpr std::size_t kPoint = 4;        // f64 x, f64 y
-constexpr std::size_t kPointCount = 36;  // i32, of a set of points
-constexpr std::size_t kPoints = 40;      // of a set of points
-constexpr std::size_t kPartCount = 36;   // i32, of lines and polygons; their point count follows
-constexpr std::size_t kPartStarts = 44;  // i32 each, then the points
-constexpr std::size_t kLeast = 4;        // the type
-}  // namespace content
-
-constexpr std::size_t kRecordHeader = 8;  // number and length in words, i32 big-endian each
-constexpr std::size_t kIndexEntry = 8;    // offset and length in words, i32 big-endian each
-constexpr std::size_t kPartStartBytes = 4;
+namespace header = shapefile::header;
+namespace content = shapefile::content;
+using shapefile::kIndexEntry;
+using shapefile::kPartStartBytes;
+using shapefile::kRecordHeader;
+using shapefile::kVertexBytes;
 
 /// The type without its Z or M; none for types that are not known.
 std::optional<ShapeType> plainType(std::int32_t type) {
@@ -236,14 +221,14 @@ ShapeView ShapefileView::decode(std::size_t record) const {
     // The content from `at` on: so many starts of parts and so many points.
     const auto figure = [&](std::size_t at, std::int64_t parts, std::int64_t points) {
         const std::int64_t needed = parts * static_cast<std::int64_t>(kPartStartBytes) +
-                                    points * static_cast<std::int64_t>(ShapeView::kVertexBytes);
+                                    points * static_cast<std::int64_t>(kVertexBytes);
         if (parts < 0 || points < 0 || at > size || needed > static_cast<std::int64_t>(size - at)) {
             refuseRecord(TextId::ShapeRecordDamaged, record, start);
         }
         reader.seek(start + at);
         const auto starts = reader.take(static_cast<std::size_t>(parts) * kPartStartBytes);
         return ShapeView(*type, starts,
-                     reader.take(static_cast<std::size_t>(points) * ShapeView::kVertexBytes));
+                         reader.take(static_cast<std::size_t>(points) * kVertexBytes));
     };
     const auto count = [&](std::size_t at) {
         if (at + 4 > size) {

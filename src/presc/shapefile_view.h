@@ -12,17 +12,9 @@
 #include "base/byte_reader.h"
 #include "base/failure.h"
 #include "base/lon_lat.h"
+#include "model/shapefile_layout.h"
 
 namespace campora {
-
-/// Types of figures; the variants with Z and M values are 10 and 20 higher.
-enum class ShapeType : std::int32_t {
-    Null = 0,
-    Point = 1,
-    PolyLine = 3,
-    Polygon = 5,
-    MultiPoint = 8,
-};
 
 /// A run of vertices of a figure, both ends included.
 struct ShapePart {
@@ -33,25 +25,25 @@ struct ShapePart {
     bool operator==(const ShapePart&) const = default;
 };
 
-/// One figure: a look into the bytes of its file.
+/// One figure, in the bytes of its file.
 class ShapeView {
 public:
     ShapeView() = default;
     ShapeView(ShapeType type, std::span<const std::byte> partStarts,
-          std::span<const std::byte> vertices)
+              std::span<const std::byte> vertices)
         : type_(type), partStarts_(partStarts), vertices_(vertices) {}
 
     /// Without its Z or M.
     [[nodiscard]] ShapeType type() const { return type_; }
     [[nodiscard]] std::int32_t vertexCount() const {
-        return static_cast<std::int32_t>(vertices_.size() / kVertexBytes);
+        return static_cast<std::int32_t>(vertices_.size() / shapefile::kVertexBytes);
     }
     /// Degrees; throws `std::out_of_range` for a bad index.
     [[nodiscard]] LonLat vertex(std::int32_t index) const {
         if (index < 0 || index >= vertexCount()) {
             refuseIndex();
         }
-        ByteReader reader(vertices_, static_cast<std::size_t>(index) * kVertexBytes);
+        ByteReader reader(vertices_, static_cast<std::size_t>(index) * shapefile::kVertexBytes);
         const double x = reader.f64le();
         return {x, reader.f64le()};
     }
@@ -61,8 +53,6 @@ public:
 
 private:
     friend class ShapefileView;
-
-    static constexpr std::size_t kVertexBytes = 16;
 
     [[noreturn]] static void refuseIndex();
     void markHoles(std::vector<ShapePart>& parts) const;
