@@ -11,6 +11,22 @@
 
 namespace campora {
 
+// Two edges can only meet where they share longitudes: in the order of their western ends each is
+// looked at with those that begin before it ends, and no pair that meets is left out. Two cross
+// when each has the ends of the other on either side; an end on an edge divides that edge there.
+// Which side it is on is only believed beyond what rounding can do to the two products; what is
+// nearer counts as on the line. A crossing is no place of 64-bit floats in general, and an edge
+// that is led over the nearest one may meet others anew: all is looked at again until nothing is
+// divided, eight times at most. Edges that come in pairs part nothing by the even-odd rule and go.
+//
+// Costs the sorting of the edges, then the pairs that share longitudes: few for rings as swaths and
+// fields give them, the square of the corners at worst, each time over.
+//
+// Corners of the ring stay as they are. A crossing lies on both edges to some 1e-13 degrees, a
+// hundred-thousandth of a millimetre, or to half a step of the fine grid, 0.06 mm; where along
+// them, when they run nearly side by side, is less sure. What would still cross after the last time
+// is as thin as that.
+
 namespace {
 
 using Edge = SegmentGraph::Edge;

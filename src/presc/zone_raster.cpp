@@ -12,6 +12,20 @@
 
 namespace campora {
 
+// A centre lies in a ring when the edges that it has to its east are odd in number. The test of one
+// centre computes where each edge crosses the parallel of the centre; those places are the same for
+// all centres of a row, so that a row is parted once, at its crossings in order, in place of once a
+// cell. Both compute them by `crossingX` from the same corners and compare the same numbers, and
+// both ask the boxes in the units of the search tree first: every cell has, bit for bit, the zone
+// that a search with its centre finds, and where zones lie on each other the one found last.
+//
+// A zone costs its edges times the rows that each of them spans, the sorting of those crossings and
+// the cells that it covers, whatever else the map holds; a search a cell costs all cells times the
+// corners of a zone. Memory: a number a cell.
+//
+// A crossing is rounded to a double, some millionths of a millimetre on the ground. A centre nearer
+// to an edge than that may fall on either side, the same one every time.
+
 namespace {
 
 /// Places in an axis; the last is one past the end.
