@@ -100,7 +100,7 @@ int runInfo(const Arguments& arguments, const Console& console) {
     const bool all = batch.openFiles();
     Session& session = batch.session();
     if (arguments.json) {
-        writeInfoJson(session, console.out);
+        printJson(infoJson(session), console.out);
     } else {
         const InfoText text(arguments, session.texts(), console.out);
         for (int i = 0; i < session.plotCount(); ++i) {

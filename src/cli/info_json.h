@@ -3,15 +3,14 @@
 
 #pragma once
 
-#include <ostream>
-
 #include "app/session.h"
+#include "cli/json_document.h"
 
 namespace campora {
 
-/// All that a session holds as one JSON object: "files" in list order, each with its summary,
-/// layers and scale, and the "ranges" of the values loaded. What has never been set is null; dates
+/// All that a session holds as one object: "files" in list order, each with its summary, layers and
+/// scale, and the "ranges" of the values loaded. What has never been set is null; dates
 /// are yyyy-mm-dd, colours "#RRGGBB", positions degrees.
-void writeInfoJson(Session& session, std::ostream& out);
+[[nodiscard]] Json infoJson(Session& session);
 
 }  // namespace campora

@@ -10,7 +10,7 @@
 #include "base/plain_text.h"
 #include "cli/batch_platform.h"
 #include "cli/commands.h"
-#include "cli/json_writer.h"
+#include "cli/json_document.h"
 #include "work/work_orders.h"
 
 namespace campora {
@@ -38,29 +38,18 @@ std::optional<Failure> folderFailure(const std::string& folder) {
     return std::nullopt;
 }
 
-void writeJson(const Orders& orders, std::ostream& out) {
-    JsonWriter json(out);
-    json.beginObject();
-    json.key("orders");
-    json.beginArray();
+Json ordersJson(const Orders& orders) {
+    Json rows = Json::array();
     for (const WorkOrder& order : orders) {
-        json.beginObject();
-        json.member("number", order.number);
-        json.member("date", order.date);
-        json.member("startTime", order.startTime);
-        json.key("files");
-        json.beginArray();
-        for (const std::string& file : order.files) {
-            json.value(file);
-        }
-        json.endArray();
-        json.endObject();
+        rows.push_back({{"number", order.number},
+                        {"date", order.date},
+                        {"startTime", order.startTime},
+                        {"files", order.files}});
     }
-    json.endArray();
-    json.endObject();
+    return {{"orders", rows}};
 }
 
-void writeText(const Orders& orders, const Texts& texts, std::ostream& out) {
+void printOrders(const Orders& orders, const Texts& texts, std::ostream& out) {
     for (const WorkOrder& order : orders) {
         out << plainLine(orderCaption(order, texts) + "  " + order.date + "  " + order.startTime)
             << '\n';
@@ -97,9 +86,9 @@ int runOrders(const Arguments& arguments, const Console& console) {
     }
     const Orders orders = scanFolder(folder, {});
     if (arguments.json) {
-        writeJson(orders, console.out);
+        printJson(ordersJson(orders), console.out);
     } else {
-        writeText(orders, texts, console.out);
+        printOrders(orders, texts, console.out);
     }
     const bool copied = failure || !arguments.copy || copy(orders, arguments, dialogs, texts);
     return !failure && copied ? exit_status::kDone : exit_status::kRefused;

@@ -8,15 +8,12 @@
 #include <utility>
 
 #include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
 
 #include "cli/batch_platform.h"
 #include "support/named_file.h"
 
 namespace campora {
 namespace {
-
-using nlohmann::json;
 
 TEST(InfoJson, TellsScalesAndWhatIsMissing) {
     const Arguments arguments;
@@ -34,11 +31,9 @@ TEST(InfoJson, TellsScalesAndWhatIsMissing) {
     file->scale->setClassNumberExt(2, 10, 20);
     file->scale->setClassColor(1, Color::rgb(0x12, 0xAB, 0));
     batch.session().addFile(std::move(file), true, false);
-    std::ostringstream out;
-    writeInfoJson(batch.session(), out);
-    const json layer = {
+    const Json layer = {
         {"kind", "NamedLayer"}, {"elements", 1}, {"points", nullptr}, {"bound", nullptr}};
-    const json expected = {
+    const Json expected = {
         {"name", "zonas.shp"},
         {"path", "/campo/zonas.shp"},
         {"icon", ""},
@@ -54,7 +49,7 @@ TEST(InfoJson, TellsScalesAndWhatIsMissing) {
         {"scale",
          {{{"lower", 10}, {"upper", 15}, {"color", "#FFFF00"}},
           {{"lower", 15}, {"upper", 20}, {"color", "#12AB00"}}}}};
-    EXPECT_EQ(json::parse(out.str())["files"], json::array({expected}));
+    EXPECT_EQ(infoJson(batch.session())["files"], Json::array({expected}));
 }
 
 }  // namespace
