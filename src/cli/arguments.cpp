@@ -155,7 +155,7 @@ std::optional<Failure> checkOptions(const Arguments& parsed) {
 void describe(std::string& text, const Option& option, const Texts& texts) {
     constexpr std::size_t kColumn = 42;
     std::string line = "      " + std::string(option.name);
-    line.append(" ").append(option.value);
+    line.append(" ").append(shownValue(option));
     line.resize(std::max(line.size() + 1, kColumn), ' ');
     text.append(line).append(texts(option.help)).append("\n");
 }

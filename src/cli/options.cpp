@@ -22,6 +22,8 @@ namespace campora {
 
 namespace {
 
+/// Stands for the words of the table of formats.
+constexpr std::string_view kExportFormats = "FORMAT";
 constexpr int kMostPixels = 16384;  // 1 GiB a picture
 
 /// The whole text as a number; "." is its decimal symbol.
@@ -85,7 +87,7 @@ bool setCopy(Arguments& arguments, std::string_view value) {
     return number.has_value();
 }
 
-bool setOutput(Arguments& arguments, std::string_view value) {
+bool setPicturePath(Arguments& arguments, std::string_view value) {
     arguments.output = value;
     const std::string ending = pathEnding(value);
     return ending == kPngEnding || ending == kBmpEnding;
@@ -135,7 +137,7 @@ bool setErrorLimit(Arguments& arguments, std::string_view value) {
 
 /// FILE.shp,COLUMN or FILE.shp,COLUMN,FALLBACK; the file's name may have commas, and so may the
 /// fallback.
-bool addChannel(Arguments& arguments, std::string_view value) {
+bool addChannelSource(Arguments& arguments, std::string_view value) {
     constexpr std::string_view kEnding = ".shp,";
     const std::size_t ending = lowerCase(value).find(kEnding);
     std::vector<ChannelSource>& channels = arguments.prescription.channels;
@@ -165,7 +167,7 @@ bool setOversize(Arguments& arguments, std::string_view value) {
         {{"keep", Answer::No}, {"cancel", Answer::Cancel}, {"change", Answer::Yes}});
 }
 
-bool setFormat(Arguments& arguments, std::string_view value) {
+bool setGridKind(Arguments& arguments, std::string_view value) {
     return choose<GridKind>(arguments.prescription.kind, value,
                             {{"pre", GridKind::Pre}, {"vrt", GridKind::Vrt}});
 }
@@ -222,8 +224,7 @@ constexpr Option kOptions[] = {
      }},
     {kEvery, "--help", "", TextId::CliHelp, [](Arguments&, std::string_view) { return true; }},
     {Command::Info, "--json", "", TextId::CliJson, setJson},
-    {Command::Export, "--format", "shp-polygon|shp-point|bmp|kml|txt|txt-comma|shp-gis|geojson|png",
-     TextId::CliExportFormat, setExportFormat},
+    {Command::Export, "--format", kExportFormats, TextId::CliExportFormat, setExportFormat},
     {Command::Export, "-o", "PATH", TextId::CliExportOutput, setPath},
     {Command::ExportTrack, "--polygon-length", "N", TextId::CliPolygonLength, setPolygonLength},
     {Command::ExportTrack, "--only-sprayed", "", TextId::CliOnlySprayed,
@@ -240,13 +241,13 @@ constexpr Option kOptions[] = {
      }},
     {Command::Glg, "-o", "OUT.glg", TextId::CliExportOutput, setPath},
     {Command::Prescribe, "--channel", "FILE.shp,COLUMN[,FALLBACK]", TextId::CliPrescChannel,
-     addChannel},
+     addChannelSource},
     {Command::Prescribe, "-o", "OUT.pre|OUT.vrt", TextId::SaveAsTitle, setPath},
     {Command::Prescribe, "--oversize", "keep|cancel|change", TextId::CliOversize, setOversize},
     {Command::Prescribe, "--blanks", "empty", TextId::CliBlanks, setBlanks},
     {Command::Prescribe, "--decimal-column", "comma|point", TextId::CliDecimalColumn,
      setDecimalColumn},
-    {Command::Prescribe, "--format", "pre|vrt", TextId::FilterPrescriptions, setFormat},
+    {Command::Prescribe, "--format", "pre|vrt", TextId::FilterPrescriptions, setGridKind},
     {Command::Prescribe, "--resolution", "R", TextId::SummaryResolution, setResolution},
     {Command::Prescribe, "--name", "T", TextId::DialogName,
      [](Arguments& a, std::string_view value) {
@@ -268,7 +269,7 @@ constexpr Option kOptions[] = {
     {Command::Orders, "--json", "", TextId::CliJson, setJson},
     {Command::Orders, "--copy", "N DEST", TextId::CliCopyOrder, setCopy},
     {Command::Project, "--json", "", TextId::CliJson, setJson},
-    {Command::Render, "-o", "OUT.png|OUT.bmp", TextId::CliOutput, setOutput},
+    {Command::Render, "-o", "OUT.png|OUT.bmp", TextId::CliOutput, setPicturePath},
     {Command::Render, "--size", "WxH", TextId::CliSize, setSize},
     {Command::Render, "--mode", "dose|alarm|date|error|plain", TextId::CliMode, setMode},
     {Command::Render, "--by", "ha|min", TextId::CliBy, setBy},
@@ -311,6 +312,17 @@ std::optional<LonLat> parseVertex(std::string_view word) {
 
 std::span<const Option> allOptions() {
     return kOptions;
+}
+
+std::string shownValue(const Option& option) {
+    if (option.value != kExportFormats) {
+        return std::string(option.value);
+    }
+    std::string words;
+    for (const ExportFormat& format : exportFormats()) {
+        words.append(words.empty() ? "" : "|").append(format.word);
+    }
+    return words;
 }
 
 }  // namespace campora

@@ -5,6 +5,7 @@
 
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "base/text_id.h"
@@ -16,7 +17,7 @@ struct Option {
     /// None: an option of every command.
     std::optional<Command> command;
     std::string_view name;
-    /// What stands for the values, a word each, in the usage; empty for a switch, which has none.
+    /// What stands for the values, a word each; empty for a switch, which has none.
     std::string_view value;
     TextId help;
     /// Called with each value in turn, and once for a switch. False when the value is none for this
@@ -26,6 +27,9 @@ struct Option {
 
 /// The options of all commands, in the order of the usage.
 [[nodiscard]] std::span<const Option> allOptions();
+
+/// The values of an option in the usage.
+[[nodiscard]] std::string shownValue(const Option& option);
 
 /// "X,Y": longitude and latitude in degrees, on the globe.
 [[nodiscard]] std::optional<LonLat> parseVertex(std::string_view word);

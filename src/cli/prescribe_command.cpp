@@ -69,8 +69,7 @@ std::string joined(const std::vector<std::string>& names) {
 
 /// Reads the map of the next channel and chooses its column; false when that cannot be, which is
 /// said.
-bool addChannel(DoseColumns& columns, int row, const ChannelSource& source,
-                const Session& session) {
+bool addColumn(DoseColumns& columns, int row, const ChannelSource& source, const Session& session) {
     Dialogs& dialogs = session.platform().dialogs;
     const Texts& texts = session.texts();
     if (row > 0) {
@@ -143,7 +142,7 @@ int runPrescribe(const Arguments& arguments, const Console& console) {
     columns.warnsOfDecimals = order.kind == GridKind::Pre;
     int row = 0;
     for (const ChannelSource& source : order.channels) {
-        if (!addChannel(columns, row++, source, session)) {
+        if (!addColumn(columns, row++, source, session)) {
             return exit_status::kRefused;
         }
     }
