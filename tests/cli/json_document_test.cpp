@@ -22,11 +22,13 @@ TEST(JsonDocument, MembersStandInTheirOrderAndNumbersReadBackAsTheSameValue) {
     constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
     const Json document = {
         {"name", "a\xF1o\x1B"},
+        {"steers", "\u202E\u0085"},
         {"empty", Json::array()},
         {"list", {1, nullptr, Json::object(), {{"x", 2.5}}, true}},
         {"apart", {0.1F, asDecimal(0.1F), 12.0, 1e21, kNone, std::numeric_limits<int>::min()}}};
     EXPECT_EQ(printed(document), R"({
   "name": "año\u001B",
+  "steers": "\u202E\u0085",
   "empty": [],
   "list": [
     1,

@@ -6,12 +6,9 @@
 
 #include <filesystem>
 #include <fstream>
-#include <sstream>
+#include <optional>
 #include <string>
-#include <vector>
 
-#include <QByteArray>
-#include <QCryptographicHash>
 #include <QImage>
 #include <QPoint>
 #include <gmock/gmock.h>
@@ -20,137 +17,66 @@
 
 #include "base/files.h"
 #include "base/paths.h"
-#include "cli/arguments.h"
-#include "cli/program.h"
+#include "base/sha256.h"
+#include "support/batch_run.h"
 #include "support/shape_bytes.h"
 #include "support/shared_samples.h"
-#include "support/temp_folder.h"
 
 namespace campora {
 namespace {
 
 using nlohmann::json;
 using testing::HasSubstr;
-using Words = std::vector<std::string>;
 
-struct Outcome {
-    int status = 0;
-    std::string out;
-    std::string boxes;
+struct Prescribe : BatchRun {
+    /// Two squares of 111 m at the equator side by side, doses 10 and 20; NOMBRE is no number.
+    Prescribe() {
+        ShapeBytes shapes(5);
+        DbaseBytes table({{"DOSIS", 'N', 10}, {"NOMBRE", 'C', 10}});
+        for (int i = 0; i < 2; ++i) {
+            const double x = -60 + 0.001 * i;
+            shapes.addPolygon({{{x, 0}, {x, 0.001}, {x + 0.001, 0.001}, {x + 0.001, 0}, {x, 0}}});
+            table.addRow({std::to_string(10 + 10 * i), "lote"});
+        }
+        folder.write("mapa.dbf", table.bytes());
+        folder.write("mapa.shp", shapes.bytes());
+    }
+
+    std::string map = folder.file("mapa.shp");
+    std::string grid = folder.file("out.pre");
 };
 
-Outcome run(const Words& words) {
-    std::ostringstream out;
-    std::ostringstream boxes;
-    const int status = runProgram(words, "", {out, boxes});
-    return {status, out.str(), boxes.str()};
-}
-
-/// Two squares of 111 m at the equator side by side, doses 10 and 20; NOMBRE is no number.
-std::string writeMap(const TempFolder& folder, const std::string& name) {
-    ShapeBytes shapes(5);
-    DbaseBytes table({{"DOSIS", 'N', 10}, {"NOMBRE", 'C', 10}});
-    for (int i = 0; i < 2; ++i) {
-        const double x = -60 + 0.001 * i;
-        shapes.addPolygon({{{x, 0}, {x, 0.001}, {x + 0.001, 0.001}, {x + 0.001, 0}, {x, 0}}});
-        table.addRow({std::to_string(10 + 10 * i), "lote"});
-    }
-    folder.write(name + ".dbf", table.bytes());
-    return folder.write(name + ".shp", shapes.bytes());
-}
-
-TEST(Prescribe, TakesItsOrdersFromTheCommandLine) {
-    const Result<Arguments> parsed = parseArguments(
-        Words{"prescribe", "--channel", "a,b.SHP,DOSIS", "--channel", "c.shp,SEMILLA,12,5",
-              "--channel", "d.shp,X,", "--format", "vrt", "--resolution", "7,5", "--oversize",
-              "change", "--name", "N", "--description", "D", "-o", "out.vrt"});
-    ASSERT_TRUE(parsed);
-    const PrescriptionOrder& order = parsed->prescription;
-    EXPECT_EQ(order.channels, (std::vector<ChannelSource>{{"a,b.SHP", "DOSIS", std::nullopt},
-                                                          {"c.shp", "SEMILLA", "12,5"},
-                                                          {"d.shp", "X", ""}}));
-    EXPECT_EQ(order.kind, GridKind::Vrt);
-    EXPECT_EQ(order.resolution, 7.5F);
-    EXPECT_EQ(order.oversize, Answer::Yes);
-    EXPECT_EQ(order.name + order.description, "ND");
-}
-
-TEST(Prescribe, AWrongCommandLineIsRefused) {
-    const Words rows[] = {
-        {"prescribe", "-o", "a.pre"},
-        {"prescribe", "--channel", "a.shp,D"},
-        {"prescribe", "--channel", "a.shp", "-o", "a.pre"},
-        {"prescribe", "--channel", "a.shp,,5", "-o", "a.pre"},
-        {"prescribe", "--channel", "a.shp,D", "-o", "a.vrt"},
-        {"prescribe", "--channel", "a.shp,D", "-o", "a.vrt", "--format", "vrt"},
-        {"prescribe", "--channel", "a.shp,D", "-o", "a.pre", "--oversize", "no"},
-        {"prescribe", "--channel", "a.shp,D", "-o", "a.pre", "--blanks", "0"},
-        {"prescribe", "--channel", "a.shp,D", "-o", "a.pre", "--decimal-column", ";"},
-    };
-    for (const Words& words : rows) {
-        EXPECT_EQ(run(words).status, 2) << testing::PrintToString(words);
-    }
-}
-
-TEST(Prescribe, SaysWhatItWroteAndAnswersAsItIsTold) {
-    const TempFolder folder;
-    const std::string map = writeMap(folder, "mapa");
+TEST_F(Prescribe, SaysWhatItWroteAndAnswersAsItIsTold) {
     struct Row {
         const char* name;
         const char* channel;
         const char* size;
-        const char* oversize;
         int status;
         const char* says;
     };
     const Row rows[] = {
-        {"as proposed", "DOSIS", "10", "keep", 0, "Canal 1: 390 celdas con dosis, 3.9 ha, "},
-        {"no fallback", "DOSIS,", "10", "keep", 0, "Canal 1: 242 celdas con dosis, 2.42 ha, "},
-        {"a size of 0", "DOSIS", "0", "keep", 1, "mayor que 0"},
-        {"no such column", "dosis", "10", "keep", 1,
-         "la columna «dosis». Elija una de estas: DOSIS, N"},
-        {"texts", "NOMBRE", "10", "keep", 1, "contiene valores no numéricos"},
+        {"as proposed", "DOSIS", "10", 0, "Canal 1: 390 celdas con dosis, 3.9 ha, "},
+        {"no fallback", "DOSIS,", "10", 0, "Canal 1: 242 celdas con dosis, 2.42 ha, "},
+        {"a size of 0", "DOSIS", "0", 1, "mayor que 0"},
+        {"no such column", "dosis", "10", 1, "la columna «dosis». Elija una de estas: DOSIS, N"},
+        {"texts", "NOMBRE", "10", 1, "contiene valores no numéricos"},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
-        const std::string out = folder.file("out.pre");
-        const Outcome outcome = run({"prescribe", "--channel", map + "," + row.channel, "--swath",
-                                     row.size, "--oversize", row.oversize, "-o", out});
+        const Outcome outcome = run(
+            {"prescribe", "--channel", map + "," + row.channel, "--swath", row.size, "-o", grid});
         EXPECT_EQ(outcome.status, row.status);
         EXPECT_THAT(outcome.boxes, HasSubstr(row.says));
-        EXPECT_EQ(std::filesystem::exists(out), row.status == 0);
-        std::filesystem::remove(out);
+        EXPECT_EQ(std::filesystem::exists(grid), row.status == 0);
+        std::filesystem::remove(grid);
     }
     const Outcome missing =
-        run({"prescribe", "--channel", folder.file("no.shp") + ",D", "-o", folder.file("out.pre")});
+        run({"prescribe", "--channel", folder.file("no.shp") + ",D", "-o", grid});
     EXPECT_EQ(missing.status, 1);
     EXPECT_THAT(missing.boxes, HasSubstr("no.shp: no existe"));
 }
 
-TEST(Prescribe, ColumnsOfPeopleAreReadAsItIsTold) {
-    const auto samples = sharedSample("samples/presc");
-    if (!samples) {
-        GTEST_SKIP() << "no shared samples";
-    }
-    const TempFolder folder;
-    const std::string channel = *samples + "/nulls.shp,CON_NULO,7";
-    const std::string out = folder.file("out.pre");
-    const Outcome refused = run({"prescribe", "--channel", channel, "-o", out});
-    EXPECT_EQ(refused.status, 1);
-    EXPECT_THAT(refused.boxes, HasSubstr("Zonas sin valor en la columna CON_NULO: 1 (la primera"));
-    EXPECT_FALSE(std::filesystem::exists(out));
-    const Outcome taken = run({"prescribe", "--channel", channel, "--blanks", "empty", "-o", out});
-    EXPECT_EQ(taken.status, 0) << taken.boxes;
-    const Outcome overlap =
-        run({"prescribe", "--channel", *samples + "/overlap.shp,DOSIS", "-o", out});
-    EXPECT_EQ(overlap.status, 0);
-    EXPECT_THAT(overlap.boxes, HasSubstr("note: Polígonos de overlap.shp que se superponen"));
-}
-
-TEST(Prescribe, EveryChannelOfAPrescriptionCanBeDrawn) {
-    const TempFolder folder;
-    const std::string map = writeMap(folder, "mapa");
-    const std::string grid = folder.file("out.pre");
+TEST_F(Prescribe, EveryChannelOfAPrescriptionCanBeDrawn) {
     ASSERT_EQ(run({"prescribe", "--channel", map + ",DOSIS,", "--channel", map + ",DOSIS,7",
                    "--swath", "10", "-o", grid})
                   .status,
@@ -176,62 +102,69 @@ TEST(Prescribe, EveryChannelOfAPrescriptionCanBeDrawn) {
     }
 }
 
-TEST(Prescribe, ADamagedMapIsToldAsFarAsItIsSoundAndPrescribesNothing) {
-    const TempFolder folder;
-    const std::string map = writeMap(folder, "mapa");
+TEST_F(Prescribe, ADamagedMapIsToldAsFarAsItIsSoundAndPrescribesNothing) {
     std::filesystem::resize_file(map, std::filesystem::file_size(map) - 1);
     const Outcome told = run({"info", "--json", map});
     EXPECT_EQ(told.status, 1);
     EXPECT_THAT(told.boxes, HasSubstr("se leyeron solo 1 registros de " + map));
     EXPECT_EQ(json::parse(told.out)["files"][0]["layers"][0]["polygons"], 1);
-    const std::string out = folder.file("out.pre");
-    EXPECT_EQ(run({"prescribe", "--channel", map + ",DOSIS", "-o", out}).status, 1);
-    EXPECT_FALSE(std::filesystem::exists(out));
+    EXPECT_EQ(run({"prescribe", "--channel", map + ",DOSIS", "-o", grid}).status, 1);
+    EXPECT_FALSE(std::filesystem::exists(grid));
 }
 
-std::string sha256(const std::string& path) {
-    const Result<FileBytes> file = readFile(path);
-    if (!file) {
-        return "not there";
+struct SharedPrescriptions : BatchRun {
+    void SetUp() override {
+        if (!samples) {
+            GTEST_SKIP() << "no shared samples";
+        }
+        all = json::parse(std::ifstream(*samples + "/expected.json"));
     }
-    const std::string_view text = file->text();
-    return QCryptographicHash::hash(QByteArray(text.data(), static_cast<qsizetype>(text.size())),
-                                    QCryptographicHash::Sha256)
-        .toHex()
-        .toStdString();
+    /// What `info --json` says, with paths reduced to the names of files.
+    static json infoOf(const std::string& path) {
+        json info = json::parse(run({"info", "--json", path}).out);
+        for (json& file : info["files"]) {
+            file["path"] = fileNamePart(file["path"].get<std::string>());
+        }
+        return info;
+    }
+
+    std::optional<std::string> samples = sharedSample("samples/presc");
+    json all;
+};
+
+TEST_F(SharedPrescriptions, ColumnsOfPeopleAreReadAsItIsTold) {
+    const std::string grid = folder.file("out.pre");
+    const std::string channel = *samples + "/nulls.shp,CON_NULO,7";
+    const Outcome refused = run({"prescribe", "--channel", channel, "-o", grid});
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_THAT(refused.boxes, HasSubstr("Zonas sin valor en la columna CON_NULO: 1 (la primera"));
+    EXPECT_FALSE(std::filesystem::exists(grid));
+    const Outcome taken = run({"prescribe", "--channel", channel, "--blanks", "empty", "-o", grid});
+    EXPECT_EQ(taken.status, 0) << taken.boxes;
+    const Outcome overlap =
+        run({"prescribe", "--channel", *samples + "/overlap.shp,DOSIS", "-o", grid});
+    EXPECT_EQ(overlap.status, 0);
+    EXPECT_THAT(overlap.boxes, HasSubstr("note: Polígonos de overlap.shp que se superponen"));
 }
 
-/// What `info --json` says, with paths reduced to the names of files.
-json infoOf(const std::string& path) {
-    json info = json::parse(run({"info", "--json", path}).out);
-    for (json& file : info["files"]) {
-        file["path"] = fileNamePart(file["path"].get<std::string>());
-    }
-    return info;
-}
-
-TEST(SharedPrescriptions, AreMadeByteForByte) {
-    const auto folder = sharedSample("samples/presc");
-    if (!folder) {
-        GTEST_SKIP() << "no shared samples";
-    }
-    const json all = json::parse(std::ifstream(*folder + "/expected.json"));
+TEST_F(SharedPrescriptions, AreMadeByteForByte) {
     for (const json& prescription : all["prescriptions"]) {
         for (const std::string kind : {"pre", "vrt"}) {
             SCOPED_TRACE(prescription["name"].get<std::string>() + " " + kind);
             const json& expected = prescription[kind];
-            const TempFolder out;
             Words words{"prescribe"};
             for (const std::string word : expected["args"]) {
                 const bool isMap = words.back() == "--channel";
-                words.push_back(isMap ? *folder + "/" + word : word);
+                words.push_back(isMap ? *samples + "/" + word : word);
             }
-            words.insert(words.end(), {"-o", out.file("out." + kind)});
+            words.insert(words.end(), {"-o", folder.file("out." + kind)});
             EXPECT_EQ(run(words).status, expected["exit"]);
             for (const auto& [ending, file] : expected["files"].items()) {
-                EXPECT_EQ(sha256(out.file("out." + ending)), file["sha256"]);
+                const Result<FileBytes> bytes = readFile(folder.file("out." + ending));
+                ASSERT_TRUE(bytes);
+                EXPECT_EQ(sha256(bytes->bytes()), file["sha256"]);
             }
-            json info = infoOf(out.file("out." + kind));
+            json info = infoOf(folder.file("out." + kind));
             json& summary = info["files"][0]["summary"];
             const std::size_t channels = info["files"][0]["layers"][0]["channels"].size();
             ASSERT_GT(summary.size(), channels);
@@ -241,14 +174,9 @@ TEST(SharedPrescriptions, AreMadeByteForByte) {
     }
 }
 
-TEST(SharedPrescriptions, MapsAreToldAsExpected) {
-    const auto folder = sharedSample("samples/presc");
-    if (!folder) {
-        GTEST_SKIP() << "no shared samples";
-    }
-    const json all = json::parse(std::ifstream(*folder + "/expected.json"));
+TEST_F(SharedPrescriptions, MapsAreToldAsExpected) {
     for (const auto& [name, expected] : all["info"].items()) {
-        EXPECT_TRUE(infoOf(*folder + "/" + name) == expected) << name;
+        EXPECT_TRUE(infoOf(*samples + "/" + name) == expected) << name;
     }
 }
 

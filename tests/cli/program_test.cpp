@@ -5,63 +5,32 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <iterator>
 #include <sstream>
 #include <string>
 #include <utility>
-#include <vector>
 
 #include <QImage>
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "base/paths.h"
-#include "cli/batch_platform.h"
-#include "support/temp_folder.h"
-#include "support/work_files.h"
+#include "support/batch_run.h"
 
 namespace campora {
 namespace {
 
-using Words = std::vector<std::string>;
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+using Program = BatchRun;
 
-struct Outcome {
-    int status = 0;
-    std::string out;
-    std::string boxes;
-};
-
-Outcome run(const Words& words, const std::string& dataFolder = "") {
-    std::ostringstream out;
-    std::ostringstream boxes;
-    const int status = runProgram(words, dataFolder, {out, boxes});
-    return {status, out.str(), boxes.str()};
+auto linesOf(const std::string& text) {
+    return std::count(text.begin(), text.end(), '\n');
 }
 
-/// A report of three points, 10 m apart from west to east, with a swath of 20 m.
-std::string reportBytes(std::int32_t realTenths = 1000) {
-    RptBytes bytes(1);
-    for (int i = 0; i < 3; ++i) {
-        RptBytes::Record record;
-        record.position = fixAt(10.0 * i, 0);
-        record.realTenths[0] = realTenths;
-        record.alarms = 1;
-        bytes.add(record);
-    }
-    return bytes.bytes();
-}
-
-std::string trackBytes(int points) {
-    TrackText text;
-    for (int i = 0; i < points; ++i) {
-        text.addPoint(100U * static_cast<std::uint32_t>(i), 0, 5, 20);
-    }
-    return text.bytes();
-}
-
-TEST(Program, TellsWhatIsInAFile) {
-    const TempFolder folder;
+TEST_F(Program, TellsWhatIsInAFile) {
     folder.write("matriculas.txt", "6001:LV-XYZ");
-    const std::string path = folder.write("log0001.nbr", trackBytes(3));
+    const std::string path = track("log0001.nbr", 3);
     folder.write("Wrk0001.txt", "Lote,La Loma,\r\nAncho.,18,mts\r\n");
     const Outcome outcome = run({"info", path}, folder.path());
     EXPECT_EQ(outcome.status, 0);
@@ -74,32 +43,27 @@ TEST(Program, TellsWhatIsInAFile) {
                                "  Ancho: 18 mts\n"
                                "  Capas GphTrack: 1 (2 elementos, 3 puntos)\n"
                                "  Extensión: (-60.5002; -31.5) a (-60.5; -31.5), 19 x 0 m\n");
-    EXPECT_EQ(
-        run({"info", path, "--program-dir", folder.file("otra")}, folder.path()).out.find("LV-XYZ"),
-        std::string::npos);
+    EXPECT_THAT(run({"info", path, "--program-dir", folder.file("otra")}, folder.path()).out,
+                Not(HasSubstr("LV-XYZ")));
 }
 
-TEST(Program, NotesWhatIsToBeSaidAboutAFileThatOpens) {
-    const TempFolder folder;
+TEST_F(Program, NotesWhatIsToBeSaidAboutAFileThatOpens) {
     std::string bytes = reportBytes();
     bytes[32 + 32 + 27] = 1;  // the highest byte of a swath
     const std::string path = folder.write("lote.rpt", bytes + "xyz");
     const Outcome outcome = run({"info", "--json", "--language", "en", path});
     const std::string cut = "The last record is cut off and was not read: it has 3 bytes of 32";
     EXPECT_EQ(outcome.status, 0);
-    EXPECT_EQ(outcome.boxes.find("note: " + path + ": " + cut + "\nnote: "), 0U) << outcome.boxes;
-    EXPECT_EQ(std::count(outcome.boxes.begin(), outcome.boxes.end(), '\n'), 2);
-    EXPECT_NE(outcome.out.find("\"remarks\": ["), std::string::npos);
-    EXPECT_NE(outcome.out.find("\"" + cut + "\","), std::string::npos);
-    EXPECT_EQ(outcome.out.find("(!)"), std::string::npos) << "values stay bare";
-    EXPECT_NE(run({"info", path}).out.find(" (!)\n"), std::string::npos);
-    EXPECT_EQ(run({"info", "--json", folder.write("sano.rpt", reportBytes())}).out.find("remarks"),
-              std::string::npos);
+    EXPECT_THAT(outcome.boxes, StartsWith("note: " + path + ": " + cut + "\nnote: "));
+    EXPECT_EQ(linesOf(outcome.boxes), 2);
+    EXPECT_THAT(outcome.out, HasSubstr("\"" + cut + "\","));
+    EXPECT_THAT(outcome.out, Not(HasSubstr("(!)"))) << "values stay bare";
+    EXPECT_THAT(run({"info", path}).out, HasSubstr(" (!)\n"));
+    EXPECT_THAT(run({"info", "--json", report("sano.rpt")}).out, Not(HasSubstr("remarks")));
 }
 
-TEST(Program, AFileThatIsRefusedDoesNotStopTheOthers) {
-    const TempFolder folder;
-    const std::string good = folder.write("bueno.rpt", reportBytes());
+TEST_F(Program, AFileThatIsRefusedDoesNotStopTheOthers) {
+    const std::string good = report("bueno.rpt");
     const std::pair<std::string, int> rows[] = {
         {folder.file("falta.rpt"), 1},
         {folder.write("carta.doc", "Estimado"), 1},
@@ -111,55 +75,45 @@ TEST(Program, AFileThatIsRefusedDoesNotStopTheOthers) {
         SCOPED_TRACE(path);
         const Outcome outcome = run({"info", good, path, "--json"});
         EXPECT_EQ(outcome.status, 1);
-        EXPECT_EQ(std::count(outcome.boxes.begin(), outcome.boxes.end(), '\n'), boxes);
-        EXPECT_NE(outcome.out.find("\"name\": \"bueno.rpt\""), std::string::npos);
+        EXPECT_EQ(linesOf(outcome.boxes), boxes);
+        EXPECT_THAT(outcome.out, HasSubstr("\"name\": \"bueno.rpt\""));
     }
 }
 
-TEST(Program, NamesDoNotSteerTheTerminal) {
-    const TempFolder folder;
+TEST_F(Program, NamesDoNotSteerTheTerminal) {
     const std::string name = "a\x1B[2J\u202Eb\u0085.rpt";
-    const std::string good = folder.write(name, reportBytes());
-    const Outcome outcome = run({"info", good, folder.file("no\n" + name)});
-    EXPECT_EQ(outcome.out.substr(0, outcome.out.find('\n')), "a\uFFFD[2J\uFFFDb\uFFFD.rpt");
-    for (const std::string& text : {outcome.out, outcome.boxes}) {
-        EXPECT_EQ(text.find("\x1B"), std::string::npos);
-        EXPECT_EQ(text.find("\u202E"), std::string::npos);
-    }
-    EXPECT_EQ(std::count(outcome.boxes.begin(), outcome.boxes.end(), '\n'), 1);
-    EXPECT_NE(run({"info", "--json", good}).out.find("a\\u001B[2J\\u202Eb\\u0085.rpt"),
-              std::string::npos);
+    const Outcome outcome = run({"info", report(name), folder.file("no\n" + name)});
+    EXPECT_THAT(outcome.out, StartsWith("a\uFFFD[2J\uFFFDb\uFFFD.rpt\n"));
+    EXPECT_THAT(outcome.out + outcome.boxes, Not(HasSubstr("\x1B")));
+    EXPECT_EQ(linesOf(outcome.boxes), 1);
 }
 
-TEST(Program, OptionsAnswerTheQuestions) {
-    const TempFolder folder;
-    const std::string more = folder.write("log0001.nbr", trackBytes(4));
-    const std::string less = folder.write("log0002.nbr", trackBytes(3));
+TEST_F(Program, OptionsAnswerTheQuestions) {
+    const std::string more = track("log0001.nbr", 4);
+    const std::string less = track("log0002.nbr", 3);
     const Outcome no = run({"info", more, less});
     EXPECT_EQ(no.status, 1);
     EXPECT_EQ(no.boxes, "El archivo  |  | " + less +
                             " |  | corresponde a un trabajo ya cargdo y mas completo en |  | " +
                             more + " |  | Desea eliminar del disco el archivo viejo?\n");
-    EXPECT_TRUE(std::filesystem::exists(nativePath(less)));
+    EXPECT_TRUE(isThere("log0002.nbr"));
     EXPECT_EQ(run({"info", more, less, "--yes"}).status, 1);
-    EXPECT_FALSE(std::filesystem::exists(nativePath(less)));
+    EXPECT_FALSE(isThere("log0002.nbr"));
 
     RptBytes fourFields;
     fourFields.addFourFields(fixAt(0, 0), 1000);
     fourFields.addFourFields(fixAt(100, 0), 1000);
-    const std::string report = folder.write("viejo.rpt", fourFields.bytes());
-    const Outcome answered = run({"info", report, "--swath", "40"});
-    EXPECT_NE(answered.out.find("Hect. Trabajadas: 0.4"), std::string::npos) << answered.out;
-    EXPECT_EQ(run({"info", report, "--swath", ""}).status, 1);
+    const std::string old = folder.write("viejo.rpt", fourFields.bytes());
+    EXPECT_THAT(run({"info", old, "--swath", "40"}).out, HasSubstr("Hect. Trabajadas: 0.4"));
+    EXPECT_EQ(run({"info", old, "--swath", ""}).status, 1);
 }
 
-TEST(Program, TellsAndCopiesTheOrdersOfAFolder) {
-    const TempFolder folder;
-    TrackText track;
-    track.order = "15";
-    const std::string first = folder.write("LOG1.NBR", track.bytes());
-    track.order = "S/N";
-    const std::string second = folder.write("log2.nbr", track.bytes());
+TEST_F(Program, TellsAndCopiesTheOrdersOfAFolder) {
+    TrackText text;
+    text.order = "15";
+    const std::string first = folder.write("LOG1.NBR", text.bytes());
+    text.order = "S/N";
+    const std::string second = folder.write("log2.nbr", text.bytes());
     const std::string copy = folder.file("copia");
     std::filesystem::create_directory(nativePath(copy));
     const Outcome listed = run({"orders", folder.path()});
@@ -169,7 +123,6 @@ TEST(Program, TellsAndCopiesTheOrdersOfAFolder) {
     const Outcome copied = run({"orders", folder.path(), "--copy", "15", copy});
     EXPECT_EQ(copied.status, 0);
     EXPECT_EQ(copied.boxes, " 1 archivos copiados\n");
-    EXPECT_TRUE(std::filesystem::exists(nativePath(copy + "/LOG1.NBR")));
 
     folder.write("copia/LOG1.NBR", "otra cosa");
     const std::pair<Words, int> rows[] = {
@@ -181,119 +134,91 @@ TEST(Program, TellsAndCopiesTheOrdersOfAFolder) {
     for (const auto& [words, boxes] : rows) {
         const Outcome outcome = run(words);
         EXPECT_EQ(outcome.status, 1);
-        EXPECT_EQ(std::count(outcome.boxes.begin(), outcome.boxes.end(), '\n'), boxes)
-            << outcome.boxes;
+        EXPECT_EQ(linesOf(outcome.boxes), boxes) << outcome.boxes;
     }
-    EXPECT_EQ(std::filesystem::file_size(nativePath(copy + "/LOG1.NBR")), 9U);
+    EXPECT_EQ(contentOf(copy + "/LOG1.NBR"), "otra cosa");
     EXPECT_EQ(run({"orders", folder.path(), "--copy", "15", copy, "--yes"}).status, 0);
+    EXPECT_EQ(contentOf(copy + "/LOG1.NBR"), contentOf(first));
 }
 
-TEST(Program, TellsWhatTheFilesOfAProjectHold) {
-    const TempFolder folder;
-    const std::string report = folder.write("lote.rpt", reportBytes());
+TEST_F(Program, TellsWhatTheFilesOfAProjectHold) {
+    const std::string source = report("lote.rpt");
     const std::string header = "FurrowScope project file\n";
     const std::string good = folder.write("a.fsp", header + "/LOTE.RPT");
     const Outcome outcome = run({"project", good, "--json", "--program-dir", folder.path()});
     EXPECT_EQ(outcome.status, 0);
     EXPECT_EQ(outcome.boxes, "");
-    EXPECT_NE(outcome.out.find("\"name\": \"lote.rpt\""), std::string::npos);
+    EXPECT_THAT(outcome.out, HasSubstr("\"name\": \"lote.rpt\""));
     const std::pair<std::string, int> rows[] = {
         {folder.write("b.fsp", header + "/lote.rpt\n/falta.rpt"), 1},
-        {folder.write("c.fsp", header + "/lote.rpt\n" + report), 0},  // open already
+        {folder.write("c.fsp", header + "/lote.rpt\n" + source), 0},  // open already
         {folder.write("d.fsp", header), 1},
-        {report, 1},
+        {source, 1},
         {folder.file("falta.fsp"), 1},
     };
     for (const auto& [path, boxes] : rows) {
         SCOPED_TRACE(path);
         const Outcome refused = run({"project", path}, folder.path());
         EXPECT_EQ(refused.status, 1);
-        EXPECT_EQ(std::count(refused.boxes.begin(), refused.boxes.end(), '\n'), boxes);
+        EXPECT_EQ(linesOf(refused.boxes), boxes);
     }
 }
 
-TEST(Program, AWrongCommandLineShowsTheUsage) {
+TEST_F(Program, AWrongCommandLineShowsTheUsage) {
     const Outcome outcome = run({"info", "a.rpt", "--size", "2x2", "--language", "en"});
     EXPECT_EQ(outcome.status, 2);
     EXPECT_EQ(outcome.out, "");
-    EXPECT_TRUE(outcome.boxes.starts_with("Unknown option: --size\n\nUsage: campora-cli "));
+    EXPECT_THAT(outcome.boxes, StartsWith("Unknown option: --size\n\nUsage: campora-cli "));
     const Outcome help = run({"--help"});
     EXPECT_EQ(help.status, 0);
-    EXPECT_TRUE(help.out.starts_with("Uso: campora-cli "));
     EXPECT_EQ(help.boxes, "");
+    EXPECT_THAT(help.out, StartsWith("Uso: campora-cli "));
+    EXPECT_THAT(
+        help.out,
+        HasSubstr(
+            "\n      --format shp-polygon|shp-point|bmp|kml|txt|txt-comma|shp-gis|geojson|png "));
 }
 
-TEST(Program, OutputThatCannotBePrintedIsNotDone) {
-    const TempFolder folder;
+TEST_F(Program, OutputThatCannotBePrintedIsNotDone) {
     std::ostringstream out;
     std::ostringstream boxes;
     out.setstate(std::ios::badbit);
-    EXPECT_EQ(runProgram(Words{"info", folder.write("lote.rpt", reportBytes())}, "", {out, boxes}),
-              1);
+    EXPECT_EQ(runProgram(Words{"info", report("lote.rpt")}, "", {out, boxes}), 1);
 }
 
-/// Renders a report at half the usual size and answers the picture.
-QImage render(const TempFolder& folder, const std::string& report, const Words& options) {
+TEST_F(Program, TheMapHasTheChosenColours) {
     const std::string picture = folder.file("mapa.png");
-    Words words = {"render", report, "-o", picture, "--size", "600x450"};
-    words.insert(words.end(), options.begin(), options.end());
-    const Outcome outcome = run(words);
-    EXPECT_EQ(outcome.status, 0);
-    EXPECT_EQ(outcome.boxes, "");
-    return QImage(QString::fromStdString(picture));
-}
-
-int pixelsOf(QRgb color, const QImage& picture) {
-    int count = 0;
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            count += picture.pixel(x, y) == color ? 1 : 0;
-        }
-    }
-    return count;
-}
-
-TEST(Program, RendersTheMapInTheChosenColours) {
     const std::pair<Words, QRgb> rows[] = {
         {{}, qRgb(255, 255, 0)},
         {{"--mode", "plain"}, qRgb(0x80, 0x80, 0xFF)},
-        {{"--mode", "alarm"}, qRgb(255, 0, 0)},
         {{"--mode", "error", "--channel", "1"}, qRgb(255, 0, 255)},
-        {{"--mode", "error", "--error-limit", "60"}, qRgb(255, 255, 0)},
     };
-    const TempFolder folder;
-    const std::string report = folder.write("lote.rpt", reportBytes(1500));
     for (const auto& [options, swath] : rows) {
-        const QImage picture = render(folder, report, options);
-        ASSERT_EQ(picture.size(), QSize(600, 450));
+        Words words = {"render", folder.write("lote.rpt", reportBytes(1500)),
+                       "-o",     picture,
+                       "--size", "600x450"};
+        words.insert(words.end(), options.begin(), options.end());
+        const Outcome outcome = run(words);
+        EXPECT_EQ(outcome.status, 0);
+        EXPECT_EQ(outcome.boxes, "");
+        const QImage image(QString::fromStdString(picture));
+        ASSERT_EQ(image.size(), QSize(600, 450));
         // The two steps meet in the middle; this is inside the first.
-        EXPECT_EQ(picture.pixel(150, 232), swath) << testing::PrintToString(options);
+        EXPECT_EQ(image.pixel(150, 232), swath) << testing::PrintToString(options);
     }
 }
 
-TEST(Program, StepsWithoutFlowAreDrawnAsTheOptionsSay) {
-    const TempFolder folder;
-    const std::string report = folder.write("lote.rpt", reportBytes(0));
-    const QRgb white = qRgb(255, 255, 255);
-    EXPECT_NE(render(folder, report, {}).pixel(150, 232), white);
-    EXPECT_EQ(render(folder, report, {"--only-worked"}).pixel(150, 232), white);
-    const QImage dotted = render(folder, report, {"--only-worked", "--dotted"});
-    EXPECT_GT(pixelsOf(qRgb(0, 255, 0x40), dotted), 0);
-    EXPECT_EQ(dotted.pixel(150, 300), white);
-}
-
-TEST(Program, APictureThatCannotBeMadeLeavesNothing) {
-    const TempFolder folder;
-    const std::string report = folder.write("lote.rpt", reportBytes());
+TEST_F(Program, APictureThatCannotBeMadeLeavesNothing) {
+    const std::string source = report("lote.rpt");
     const std::string old = folder.write("mapa.png", "the old one");
     EXPECT_EQ(run({"render", folder.file("falta.rpt"), "-o", old}).status, 1);
-    EXPECT_EQ(std::filesystem::file_size(nativePath(old)), 11U);
+    EXPECT_EQ(contentOf(old), "the old one");
 
-    const Outcome outcome = run({"render", report, "-o", folder.file("falta/mapa.png")});
+    const Outcome outcome = run({"render", source, "-o", folder.file("falta/mapa.png")});
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_NE(outcome.boxes.find("mapa.png"), std::string::npos);
+    EXPECT_THAT(outcome.boxes, HasSubstr("mapa.png"));
 
-    EXPECT_EQ(run({"render", report, folder.file("falta.rpt"), "-o", old}).status, 1);
+    EXPECT_EQ(run({"render", source, folder.file("falta.rpt"), "-o", old}).status, 1);
     EXPECT_FALSE(QImage(QString::fromStdString(old)).isNull()) << "what could be done is done";
     const auto files = std::filesystem::directory_iterator(nativePath(folder.path()));
     EXPECT_EQ(std::distance(begin(files), end(files)), 2);

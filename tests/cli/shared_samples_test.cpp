@@ -8,55 +8,20 @@
 
 #include <cmath>
 #include <fstream>
-#include <sstream>
+#include <optional>
 #include <string>
-#include <vector>
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
 #include "base/paths.h"
 #include "base/text.h"
-#include "cli/program.h"
+#include "support/batch_run.h"
 
 namespace campora {
 namespace {
 
 using nlohmann::json;
-using Words = std::vector<std::string>;
-
-json readJson(const std::string& path) {
-    return json::parse(std::ifstream(path));
-}
-
-/// One run in the form of the expectation files: paths reduced to the name of the file, without
-/// what is remarked on the files.
-json run(const std::string& folder, const Words& files, const Words& options) {
-    Words words = {"info", "--json", "--program-dir", folder};
-    for (const std::string& file : files) {
-        words.push_back(folder + "/" + file);
-    }
-    words.insert(words.end(), options.begin(), options.end());
-    std::ostringstream out;
-    std::ostringstream boxes;
-    json result;
-    result["exit"] = runProgram(words, "", {out, boxes});
-    const std::string shortened =
-        replaceAll(replaceAll(boxes.str(), folder + "/copia/", ""), folder + "/", "");
-    result["boxes"] = json::array();
-    for (const std::string_view line : split(shortened, '\n')) {
-        if (!line.empty() && !line.starts_with("note: ")) {
-            result["boxes"].push_back(line);
-        }
-    }
-    result["output"] = json::parse(out.str());
-    for (json& file : result["output"]["files"]) {
-        file["path"] = fileNamePart(file["path"].get<std::string>());
-        file.erase("remarks");
-    }
-    return result;
-}
-
 /// Degrees and metres may differ by a billionth, ranges are 32-bit floats; all else is the same.
 void expectSame(const json& actual, const json& expected, const std::string& where) {
     if (expected.is_structured()) {
@@ -82,49 +47,77 @@ void expectSame(const json& actual, const json& expected, const std::string& whe
     }
 }
 
-TEST(InfoOfSharedSamples, EveryFileAloneIsAsExpected) {
-    const auto folder = sharedSample("samples/work");
-    if (!folder) {
-        GTEST_SKIP() << "no shared samples";
+struct SharedWork : BatchRun {
+    void SetUp() override {
+        if (!samples) {
+            GTEST_SKIP() << "no shared samples";
+        }
     }
-    const json all = readJson(*folder + "/expected.json");
-    for (const auto& [name, expected] : all.items()) {
-        const bool comma = name.find("coma decimal") != std::string::npos;
-        const json result = run(*folder, {name}, {"--decimal", comma ? "," : "."});
-        expectSame(result["output"], expected, name);
-        EXPECT_EQ(result["exit"], expected["files"].empty() ? 1 : 0) << name;
+    [[nodiscard]] json expected(const std::string& name) const {
+        return json::parse(std::ifstream(*samples + "/" + name));
+    }
+    /// What a run says, with paths reduced to the names of files, without what is remarked on them.
+    static json filesIn(const Outcome& outcome) {
+        json output = json::parse(outcome.out);
+        for (json& file : output["files"]) {
+            file["path"] = fileNamePart(file["path"].get<std::string>());
+            file.erase("remarks");
+        }
+        return output;
+    }
+    /// A run in the form of the expectations.
+    [[nodiscard]] json info(const Words& files, const Words& options) const {
+        Words words = {"info", "--json", "--program-dir", *samples};
+        for (const std::string& file : files) {
+            words.push_back(*samples + "/" + file);
+        }
+        words.insert(words.end(), options.begin(), options.end());
+        const Outcome outcome = run(words);
+        json result{{"exit", outcome.status}, {"boxes", json::array()}};
+        const std::string shortened =
+            replaceAll(replaceAll(outcome.boxes, *samples + "/copia/", ""), *samples + "/", "");
+        for (const std::string_view line : split(shortened, '\n')) {
+            if (!line.empty() && !line.starts_with("note: ")) {
+                result["boxes"].push_back(line);
+            }
+        }
+        result["output"] = filesIn(outcome);
+        return result;
+    }
+
+    std::optional<std::string> samples = sharedSample("samples/work");
+};
+
+TEST_F(SharedWork, EveryFileAloneIsAsExpected) {
+    const json all = expected("expected.json");
+    for (const auto& [name, file] : all.items()) {
+        const bool comma = name.find("coma decimal") != name.npos;
+        const json result = info({name}, {"--decimal", comma ? "," : "."});
+        expectSame(result["output"], file, name);
+        EXPECT_EQ(result["exit"], file["files"].empty() ? 1 : 0) << name;
     }
 }
 
-TEST(InfoOfSharedSamples, SeveralFilesAndOtherAnswersAreAsExpected) {
-    const auto folder = sharedSample("samples/work");
-    if (!folder) {
-        GTEST_SKIP() << "no shared samples";
-    }
-    for (const json& expected : readJson(*folder + "/expected_runs.json")) {
-        const auto options = expected["options"].get<Words>();
-        json result = run(*folder, expected["files"].get<Words>(), options);
+TEST_F(SharedWork, SeveralFilesAndOtherAnswersAreAsExpected) {
+    for (const json& wanted : expected("expected_runs.json")) {
+        const auto options = wanted["options"].get<Words>();
+        json result = info(wanted["files"].get<Words>(), options);
         if (options == Words{"--swath", ""}) {
             EXPECT_EQ(result["boxes"].size(), 1U) << "an empty answer is told";
             result["boxes"] = json::array();
         }
-        const std::string where = expected["files"].dump() + expected["options"].dump();
+        const std::string where = wanted["files"].dump() + wanted["options"].dump();
         for (const char* part : {"exit", "boxes", "output"}) {
-            expectSame(result[part], expected[part], where + "/" + part);
+            expectSame(result[part], wanted[part], where + "/" + part);
         }
     }
 }
 
-TEST(OrdersOfSharedSamples, TheMemoryCardHoldsThreeOrders) {
-    const auto works = sharedSample("samples/work");
-    if (!works) {
-        GTEST_SKIP() << "no shared samples";
-    }
-    std::ostringstream out;
-    std::ostringstream boxes;
-    EXPECT_EQ(runProgram(Words{"orders", *works + "/tarjeta", "--json"}, "", {out, boxes}), 0);
-    EXPECT_EQ(boxes.str(), "");
-    json orders = json::parse(out.str())["orders"];
+TEST_F(SharedWork, TheMemoryCardHoldsThreeOrders) {
+    const Outcome outcome = run({"orders", *samples + "/tarjeta", "--json"});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.boxes, "");
+    json orders = json::parse(outcome.out)["orders"];
     for (json& order : orders) {
         for (json& file : order["files"]) {
             file = fileNamePart(file.get<std::string>());
@@ -139,24 +132,14 @@ TEST(OrdersOfSharedSamples, TheMemoryCardHoldsThreeOrders) {
          "files": ["log0006.nbr", "LOG0007.NBR"]}])"));
 }
 
-TEST(ProjectOfSharedSamples, HoldsWhatItsFilesHold) {
-    const auto folder = sharedSample("samples/work");
-    if (!folder) {
-        GTEST_SKIP() << "no shared samples";
-    }
+TEST_F(SharedWork, AProjectHoldsWhatItsFilesHold) {
+    const Outcome outcome =
+        run({"project", *samples + "/campania 2017.fsp", "--json", "--program-dir", *samples});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_EQ(outcome.boxes, "");
     const Words files = {"Lote Norte 29-11.rpt", "log0012.nbr", "log0105.nbr",
                          "Siembra soja lote 7.rpt"};
-    std::ostringstream out;
-    std::ostringstream boxes;
-    const Words words = {"project", *folder + "/campania 2017.fsp", "--json", "--program-dir",
-                         *folder};
-    EXPECT_EQ(runProgram(words, "", {out, boxes}), 0);
-    EXPECT_EQ(boxes.str(), "");
-    json project = json::parse(out.str());
-    for (json& file : project["files"]) {
-        file["path"] = fileNamePart(file["path"].get<std::string>());
-    }
-    EXPECT_EQ(project, run(*folder, files, {})["output"]);
+    EXPECT_EQ(filesIn(outcome), info(files, {})["output"]);
 }
 
 }  // namespace
