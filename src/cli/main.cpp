@@ -10,7 +10,7 @@
 #include "app/data_folder.h"
 #include "base/disk_calls.h"
 #include "base/interruption.h"
-#include "cli/program.h"
+#include "cli/run_program.h"
 
 namespace {
 

@@ -12,7 +12,7 @@
 #include <gtest/gtest.h>
 
 #include "app/settings.h"
-#include "cli/program.h"
+#include "cli/run_program.h"
 #include "support/temp_folder.h"
 #include "support/zone_map.h"
 

@@ -13,7 +13,7 @@
 #include <gtest/gtest.h>
 
 #include "base/paths.h"
-#include "cli/program.h"
+#include "cli/run_program.h"
 #include "support/temp_folder.h"
 #include "support/work_files.h"
 

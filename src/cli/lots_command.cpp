@@ -1,14 +1,13 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "app/lots/lot_commands.h"
-
 #include <iterator>
 #include <optional>
 #include <span>
 #include <string>
 #include <vector>
 
+#include "app/lots/lot_commands.h"
 #include "app/used_files.h"
 #include "base/plain_text.h"
 #include "cli/batch_platform.h"

@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "cli/program.h"
+#include "cli/run_program.h"
 
 #include "base/interruption.h"
 #include "base/plain_text.h"
