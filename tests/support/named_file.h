@@ -10,23 +10,21 @@
 #include <vector>
 
 #include "model/file.h"
+#include "model/still_layer.h"
 
 namespace campora {
 
 /// A layer that draws its name.
-class NamedLayer : public Gph {
+class NamedLayer : public StillLayer {
 public:
     explicit NamedLayer(std::string name) : name_(std::move(name)) {}
 
     [[nodiscard]] std::string_view Gph_kind() const override { return "NamedLayer"; }
     [[nodiscard]] std::int32_t Gph_count() const override { return 1; }
     [[nodiscard]] const BoundingBox& Gph_bound() const override { return bound_; }
-    [[nodiscard]] bool Gph_animable() const override { return false; }
     void Gph_plot(MapContext& context) const override {
         context.canvas.text({}, name_, TextAnchor::TopLeft, false);
     }
-    bool Gph_plotN(MapContext& /*context*/, std::int32_t /*n*/) const override { return false; }
-    [[nodiscard]] float Gph_delayN(std::int32_t /*n*/) const override { return 0; }
     [[nodiscard]] std::int32_t Gph_mouseOver(const ViewTransform& /*view*/,
                                              const MapStyle& /*style*/, LonLat /*position*/,
                                              std::int32_t /*start*/) const override {

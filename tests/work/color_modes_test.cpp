@@ -58,39 +58,30 @@ struct Fixture {
     int points = 0;
 };
 
-using Range = std::optional<ValueRange<float>>;
 using Bounds = std::vector<std::pair<double, double>>;
 
 TEST(ColorModes, DoseClassesCoverWhatIsLoaded) {
-    struct Row {
-        const char* name;
-        GraduatedBy by;
-        Range flow, litres, dose;
-        int classes;
-        double least, greatest;
+    using By = GraduatedBy;
+    const std::optional flow = ValueRange<float>{5, 25};
+    const std::optional litres = ValueRange<float>{1, 9};
+    const std::optional dose = ValueRange<float>{50, 250};
+    const std::tuple<const char*, By, ValueRanges, int, double, double> rows[] = {
+        {"reports", By::Hectare, {{}, {}, dose, {}}, 5, 50, 250},
+        {"track files", By::Hectare, {flow, litres, {}, {}}, 5, 1, 9},
+        {"both", By::Hectare, {flow, litres, dose, {}}, 5, 1, 250},
+        {"track files by minute", By::Minute, {flow, litres, {}, {}}, 5, 5, 25},
+        {"without speed", By::Hectare, {flow, ValueRange<float>{}, {}, {}}, 1, 0, 0},
+        {"nothing: the classes stay", By::Hectare, {}, 6, 0, 100},
     };
-    const Range flow = {{5, 25}};
-    const Range litres = {{1, 9}};
-    const Range dose = {{50, 250}};
-    const Row rows[] = {
-        {"reports", GraduatedBy::Hectare, {}, {}, dose, 5, 50, 250},
-        {"track files", GraduatedBy::Hectare, flow, litres, {}, 5, 1, 9},
-        {"both", GraduatedBy::Hectare, flow, litres, dose, 5, 1, 250},
-        {"track files by minute", GraduatedBy::Minute, flow, litres, {}, 5, 5, 25},
-        {"track files without speed", GraduatedBy::Hectare, flow, Range{{0, 0}}, {}, 1, 0, 0},
-        {"nothing: the classes stay", GraduatedBy::Hectare, {}, {}, {}, 6, 0, 100},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto& [name, by, ranges, classes, least, greatest] : rows) {
+        SCOPED_TRACE(name);
         Fixture f;
-        f.style.by = row.by;
-        f.ranges.flow = row.flow;
-        f.ranges.litres = row.litres;
-        f.ranges.dose = row.dose;
+        f.style.by = by;
+        f.ranges = ranges;
         f.setUp();
-        EXPECT_EQ(f.scale.count(), row.classes);
-        EXPECT_EQ(f.scale.classes().front().lower, row.least);
-        EXPECT_EQ(f.scale.classes().back().upper, row.greatest);
+        EXPECT_EQ(f.scale.count(), classes);
+        EXPECT_EQ(f.scale.classes().front().lower, least);
+        EXPECT_EQ(f.scale.classes().back().upper, greatest);
     }
 }
 

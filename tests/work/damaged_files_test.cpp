@@ -4,6 +4,7 @@
 // Every reader is given good files that are cut short or in which bits have flipped. Whatever comes
 // of it, the user learns of a file that did not open, and what opened can be drawn.
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <optional>
@@ -179,6 +180,20 @@ std::string trackWith(const TrackText& header, std::string_view line) {
     return track.bytes();
 }
 
+/// "RemarkCutRecord 3 32" for each, with its arguments, joined by ", ".
+std::string told(const std::vector<Remark>& remarks) {
+    std::string text;
+    for (const Remark& remark : remarks) {
+        const auto row = std::find_if(textRows().begin(), textRows().end(),
+                                      [&](const TextRow& each) { return each.id == remark.text; });
+        text.append(text.empty() ? "" : ", ").append(row->name);
+        for (const std::string& argument : remark.arguments) {
+            text.append(" ").append(argument);
+        }
+    }
+    return text;
+}
+
 TEST(DamagedFiles, WhatOpensAllTheSameHasRemarks) {
     using Record = RptBytes::Record;
     TrackText newest;
@@ -186,103 +201,43 @@ TEST(DamagedFiles, WhatOpensAllTheSameHasRemarks) {
     newest.west = "179.9";
     TrackText wide;
     wide.swath = "200.5";
-    struct Row {
-        const char* name;
-        Reader read;
-        std::string bytes;
-        std::vector<std::string> remarks;
-        std::vector<std::string> doubtful;
+    const std::string sound = reportWith(fix(80, 0));
+    const std::string cutTable =
+        sampleTable() + "-61.2\t-90.1\t1\t1\t1\t0\t3086\t10:20:00\n-61.2\t-34";
+    const auto report = &WorkReading::report;
+    const auto track = &WorkReading::track;
+    const std::tuple<Reader, std::string, const char*, const char*> rows[] = {
+        {report, sound, "", ""},
+        {report, reportWith(fixWith(&Record::swathCm, 20000)), "", ""},
+        {report, sound + "\1\2\3", "RemarkCutRecord 3 32", ""},
+        {report, reportWith(Record{}), "RemarkNoPosition 1 9", ""},
+        {report, reportWith(fix(99000, 0)), "RemarkFarRecords 1 9 10", ""},
+        {report, reportWith(fixWith(&Record::swathCm, 20001)),
+         "RemarkSwath 1 200 9 200.01 (0.009702; 0.008983)", "Hectáreas fumig: "},
+        {report, reportWith(fixWith(&Record::swathCm, -1)),
+         "RemarkSwath 1 200 9 -0.01 (0.009702; 0.008983)", "Hectáreas fumig: "},
+        {report, reportWith(fixWith(&Record::speedTenths, 4001)),
+         "RemarkSpeed 1 400 9 400.1 (0.009702; 0.008983)", "Vel Promedio:"},
+        {report, reportWith(fixWith(&Record::spec, std::array<std::int32_t, 4>{5000})),
+         "RemarkDose 1 4999 9 5000 (0.009702; 0.008983)", "Dosis Prom.: "},
+        {&WorkReading::table, cutTable, "RemarkOffGlobe 1 15, RemarkRestUnread 16", ""},
+        {track, trackWith(newest, "00000640000000014"), "RemarkShortLines 1 13", ""},
+        {track, trackWith(newest, "00FFFFF000000001400C"), "RemarkOffGlobe 1 13", ""},
+        {track, trackWith(wide, "0012C00000FFF00C"),
+         "RemarkSwath 4 200 1 200.5 (-60.5; -31.5), RemarkFlow 1 3000 4 4095 (-60.5003; -31.5)",
+         ""},
     };
-    const Row rows[] = {
-        {"sound", &WorkReading::report, reportWith(fix(80, 0)), {}, {}},
-        {"at the bounds",
-         &WorkReading::report,
-         reportWith(fixWith(&Record::swathCm, 20000)),
-         {},
-         {}},
-        {"cut off",
-         &WorkReading::report,
-         reportWith(fix(80, 0)) + "\1\2\3",
-         {"El último registro está cortado y no se leyó: tiene 3 bytes de 32"},
-         {}},
-        {"no position",
-         &WorkReading::report,
-         reportWith(Record{}),
-         {"Registros sin una posición válida, que no se leyeron: 1; el primero es el registro 9"},
-         {}},
-        {"far away",
-         &WorkReading::report,
-         reportWith(fix(99000, 0)),
-         {"Registros a más de 10 km de los demás, que no se muestran: 1; el primero es el "
-          "registro 9"},
-         {}},
-        {"swath",
-         &WorkReading::report,
-         reportWith(fixWith(&Record::swathCm, 20001)),
-         {"Registros con un ancho de trabajo fuera de 0 a 200 m: 1; el primero es el registro 9, "
-          "con 200.01 m, en (0.009702; 0.008983)"},
-         {"Hectáreas fumig: "}},
-        {"negative swath",
-         &WorkReading::report,
-         reportWith(fixWith(&Record::swathCm, -1)),
-         {"Registros con un ancho de trabajo fuera de 0 a 200 m: 1; el primero es el registro 9, "
-          "con -0.01 m, en (0.009702; 0.008983)"},
-         {"Hectáreas fumig: "}},
-        {"speed",
-         &WorkReading::report,
-         reportWith(fixWith(&Record::speedTenths, 4001)),
-         {"Registros con una velocidad fuera de 0 a 400 km/h: 1; el primero es el registro 9, con "
-          "400.1 km/h, en (0.009702; 0.008983)"},
-         {"Vel Promedio:"}},
-        {"specified dose",
-         &WorkReading::report,
-         reportWith(fixWith(&Record::spec, std::array<std::int32_t, 4>{5000})),
-         {"Registros con una dosis fuera de 0 a 4999: 1; el primero es el registro 9, con 5000, "
-          "en (0.009702; 0.008983)"},
-         {"Dosis Prom.: "}},
-        {"table: off the globe, and a line cut off",
-         &WorkReading::table,
-         sampleTable() + "-61.2\t-90.1\t1\t1\t1\t0\t3086\t10:20:00\n-61.2\t-34",
-         {"Líneas con una posición de más de 180 grados de longitud o 90 de latitud, que no se "
-          "leyeron: 1; la primera es la línea 15",
-          "La línea 16 no se puede leer; ni ella ni lo que sigue se leyó"},
-         {}},
-        {"track: a line of 17 characters",
-         &WorkReading::track,
-         trackWith(newest, "00000640000000014"),
-         {"Líneas demasiado cortas, que no se leyeron: 1; la primera es la línea 13"},
-         {}},
-        {"track: off the globe",
-         &WorkReading::track,
-         trackWith(newest, "00FFFFF000000001400C"),
-         {"Líneas con una posición de más de 180 grados de longitud o 90 de latitud, que no se "
-          "leyeron: 1; la primera es la línea 13"},
-         {}},
-        {"track: flow and swath",
-         &WorkReading::track,
-         trackWith(wide, "0012C00000FFF00C"),
-         {"Registros con un ancho de trabajo fuera de 0 a 200 m: 4; el primero es el registro 1, "
-          "con 200.5 m, en (-60.5; -31.5)",
-          "Registros con un caudal fuera de 0 a 3000 litros por minuto: 1; el primero es el "
-          "registro 4, con 4095, en (-60.5003; -31.5)"},
-         {}},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto& [read, bytes, remarks, doubtful] : rows) {
+        SCOPED_TRACE(remarks);
         WorkReading reading;
-        const LoadedWork work = (reading.*row.read)(row.bytes).value();
-        std::vector<std::string> remarks;
-        for (const Remark& remark : work.group->remarks()) {
-            remarks.push_back(reading.texts.sentence(remark));
+        const LoadedWork work = (reading.*read)(bytes).value();
+        EXPECT_EQ(told(work.group->remarks()), remarks);
+        const FileProperties& summary = work.group->File_resumen();
+        std::string found;
+        for (const SummaryEntry& entry : summary.entries()) {
+            found += summary.isDoubtful(entry.property) ? entry.property : "";
         }
-        EXPECT_EQ(remarks, row.remarks);
-        std::vector<std::string> doubtful;
-        for (const SummaryEntry& entry : work.group->File_resumen().entries()) {
-            if (work.group->File_resumen().isDoubtful(entry.property)) {
-                doubtful.push_back(entry.property);
-            }
-        }
-        EXPECT_EQ(doubtful, row.doubtful);
+        EXPECT_EQ(found, doubtful);
     }
 }
 

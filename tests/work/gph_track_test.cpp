@@ -81,13 +81,10 @@ TEST(GphTrack, HoverAgreesWithTheExportedPolygons) {
     std::uniform_real_distribution<double> stride(-30, 30);
     std::uniform_real_distribution<float> swath(2, 40);
     GphTrack track;
-    double east = 500;
-    double north = 500;
+    LonLat at{500, 500 + 60 * METERS_PER_DEGREE};
     for (int i = 0; i < 200; ++i) {
-        const LonLat at = atMetres(east, north);
-        track.addPoint(at.x, at.y + 60, reportRecord(100, swath(random)));
-        east += stride(random);
-        north += stride(random);
+        addAt(track, at.x, at.y, reportRecord(100, swath(random)));
+        at = {at.x + stride(random), at.y + stride(random)};
     }
     const BoundingBox& box = track.Gph_bound();
     const ViewTransform view(1, 1, {box.minX - 0.01, box.minY - 0.01}, {10000, 10000});
@@ -98,10 +95,9 @@ TEST(GphTrack, HoverAgreesWithTheExportedPolygons) {
         const LonLat position{x(random), y(random)};
         std::int32_t expected = -1;
         for (std::int32_t i = 0; i < track.Gph_count() && expected < 0; ++i) {
-            std::array<LonLat, 4> ring;
+            std::vector<LonLat> ring;
             for (std::int32_t corner = 0; corner < 4; ++corner) {
-                ring[static_cast<std::size_t>(corner)] =
-                    track.ExportablePolygon_polygonNpoint(i, corner);
+                ring.push_back(track.ExportablePolygon_polygonNpoint(i, corner));
             }
             expected = pointInRing(ring, position) ? i : -1;
         }
@@ -109,6 +105,25 @@ TEST(GphTrack, HoverAgreesWithTheExportedPolygons) {
         EXPECT_EQ(track.Gph_mouseOver(view, MapStyle(), position, 0), expected);
     }
     EXPECT_GT(hits, 50);
+}
+
+TEST(GphTrack, IsExportedByStepsRecordsAndPoints) {
+    GphTrack track;
+    addAt(track, 0, 0, reportRecord(90, 20));
+    addAt(track, 100, 0, reportRecord(0, 40));
+    addAt(track, 200, 0, reportRecord(110, 60));
+    EXPECT_EQ(track.ExportablePolygon_polygonCount(), 2);
+    MapStyle style;
+    EXPECT_EQ(track.ExportablePolygon_polygonNCount(style, 1), 4);
+    style.drawAll = false;
+    EXPECT_EQ(track.ExportablePolygon_polygonNCount(style, 0), 4);
+    EXPECT_EQ(track.ExportablePolygon_polygonNCount(style, 1), 0) << "without flow";
+    EXPECT_EQ(track.ExportableData_getDataCount(), 3);
+    EXPECT_EQ(track.ExportableData_getCell(2, 0, {}), CellValue(std::int64_t{110}));
+    EXPECT_EQ(track.ExportableData_getCell(1, 4, {.swathInCentimetres = true}), CellValue(4000.0F));
+    EXPECT_TRUE(track.ExportableAlarms_any());
+    EXPECT_EQ(track.ExportablePoint_pointCount(), 3);
+    EXPECT_EQ(track.ExportablePoint_pointN(1), atMetres(100, 0));
 }
 
 }  // namespace

@@ -26,15 +26,20 @@ RptBytes::Record at(double east, double north, std::int32_t realTenths = 1000) {
     return record;
 }
 
-TEST(LoadRptFile, MakesATrackOfEachPass) {
+using Records = std::vector<RptBytes::Record>;
+
+LoadedWork loaded(const Records& records) {
     RptBytes report(1);
-    for (const LonLat& place : {LonLat{0, 0}, LonLat{10, 0}, LonLat{10, 0},  // standing still
-                                LonLat{20, 0},                               // eastward
-                                LonLat{15, 8}, LonLat{5, 8},                 // a turn at the third
-                                LonLat{5, 300}}) {                           // a break
-        report.add(at(place.x, place.y));
+    for (const RptBytes::Record& record : records) {
+        report.add(record);
     }
-    const LoadedWork work = WorkReading().report(report.bytes()).value();
+    return WorkReading().report(report.bytes()).value();
+}
+
+TEST(LoadRptFile, MakesATrackOfEachPass) {
+    const LoadedWork work = loaded({at(0, 0), at(10, 0), at(10, 0),  // standing still
+                                    at(20, 0), at(15, 8), at(5, 8),  // a turn
+                                    at(5, 300)});                    // a break
     EXPECT_THAT(pointCounts(work), ElementsAre(3, 3, 1));
     EXPECT_EQ(trackOf(work, 1).points().front(), trackOf(work, 0).points().back());
     EXPECT_EQ(reportRecordOf(work, 0, 1).pointIndex(), 2) << "the last record of the place";
@@ -80,47 +85,32 @@ TEST(LoadRptFile, SummaryNamesFollowTheKindOfWork) {
 }
 
 TEST(LoadRptFile, SomeRecordsCountForTheirDoseOnly) {
-    struct Row {
-        const char* name;
-        std::vector<RptBytes::Record> records;
-        std::size_t points;
-        const char* average;
-        ValueRange<float> doses;
+    const std::tuple<Records, std::size_t, const char*, ValueRange<float>> rows[] = {
+        // a glitch; impossible doses: 5000 when rounded
+        {{at(0, 0), at(10001, 0, 3000), at(10, 0, 2000)}, 2, "600", {100, 300}},
+        {{at(0, 0, 49994), at(10, 0, 49996), at(20, 0, 10)}, 3, "2500", {1, 4999}},
     };
-    const Row rows[] = {
-        {"a glitch", {at(0, 0), at(10001, 0, 3000), at(10, 0, 2000)}, 2, "600", {100, 300}},
-        {"impossible: 5000 when rounded",
-         {at(0, 0, 49994), at(10, 0, 49996), at(20, 0, 10)},
-         3,
-         "2500",
-         {1, 4999}},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        RptBytes report(1);
-        for (const RptBytes::Record& record : row.records) {
-            report.add(record);
-        }
-        const LoadedWork work = WorkReading().report(report.bytes()).value();
-        EXPECT_THAT(pointCounts(work), ElementsAre(row.points));
-        EXPECT_EQ(summaryValue(work, "Dosis Prom.: "), row.average);
-        EXPECT_EQ(work.ranges.dose, row.doses);
+    for (const auto& [records, points, average, doses] : rows) {
+        const LoadedWork work = loaded(records);
+        EXPECT_THAT(pointCounts(work), ElementsAre(points));
+        EXPECT_EQ(summaryValue(work, "Dosis Prom.: "), average);
+        EXPECT_EQ(work.ranges.dose, doses);
     }
 }
 
 TEST(LoadRptFile, RecordsWithoutAPositionCountForNothing) {
-    RptBytes report(1);
+    Records records;
     RptBytes::Record lost = at(0, 0, 4000);
+    lost.time.date.year = 2030;
     for (const LonLat& nowhere : {LonLat{0, 0}, LonLat{0, -34}, LonLat{200, 10},
                                   LonLat{10, std::numeric_limits<double>::quiet_NaN()}}) {
         lost.position = nowhere;
-        lost.time.date.year = 2030;
-        report.add(lost);
+        records.push_back(lost);
     }
     for (const double east : {0, 10, 20, 30}) {
-        report.add(at(east, 0, 800));
+        records.push_back(at(east, 0, 800));
     }
-    const LoadedWork work = WorkReading().report(report.bytes()).value();
+    const LoadedWork work = loaded(records);
     EXPECT_THAT(pointCounts(work), ElementsAre(4));
     EXPECT_EQ(summaryValue(work, "Dosis Prom.: "), "107");
     EXPECT_EQ(work.ranges.dose, (ValueRange<float>{80, 80}));
@@ -141,16 +131,12 @@ TEST(LoadRptFile, DurationLeavesBreaksOfMoreThanAnHourOut) {
          "8"},
     };
     for (const auto& [name, times, minutes] : rows) {
-        SCOPED_TRACE(name);
-        RptBytes report(1);
-        double east = 0;
+        Records records;
         for (const DateTime& time : times) {
-            RptBytes::Record record = at(east += 10, 0);
-            record.time = time;
-            report.add(record);
+            records.push_back(at(10.0 * static_cast<double>(records.size()), 0));
+            records.back().time = time;
         }
-        const LoadedWork work = WorkReading().report(report.bytes()).value();
-        EXPECT_EQ(summaryValue(work, "Duración:"), minutes);
+        EXPECT_EQ(summaryValue(loaded(records), "Duración:"), minutes) << name;
     }
 }
 
@@ -165,15 +151,12 @@ TEST(LoadRptFile, ARunningCounterInTheAlarmFieldIsCleared) {
         std::vector<std::uint32_t> words(steps + 1);
         std::iota(words.begin(), words.end(), 7U);
         words.insert(words.end(), more.begin(), more.end());
-        RptBytes report(1);
-        double east = 0;
+        Records records;
         for (const std::uint32_t word : words) {
-            RptBytes::Record record = at(east += 5, 0);
-            record.alarms = word;
-            report.add(record);
+            records.push_back(at(5.0 * static_cast<double>(records.size()), 0));
+            records.back().alarms = word;
         }
-        const LoadedWork work = WorkReading().report(report.bytes()).value();
-        EXPECT_EQ(reportRecordOf(work, 0, 0).alarmas(), cleared ? 0 : 7U) << name;
+        EXPECT_EQ(reportRecordOf(loaded(records), 0, 0).alarmas(), cleared ? 0 : 7U) << name;
     }
 }
 

@@ -41,26 +41,18 @@ TEST(LoadTrackFile, NamesTheWorkAfterItsHeader) {
 TEST(LoadTrackFile, PriorityCountsLinesWithoutTheLastLineEnd) {
     TrackText track;
     track.lineEnd = "\n";
-    track.addPoint(0, 0, 20, 12);
-    std::string text = track.bytes();
-    WorkReading reading;
-    EXPECT_EQ(reading.track(text).value().group->File_priority(), 9);
-    text.pop_back();
-    EXPECT_EQ(reading.track(text).value().group->File_priority(), 9);
-    EXPECT_EQ(reading.track(text + "\n\n\n").value().group->File_priority(), 11);
+    track.add("000000000001400C");
+    const std::string text = track.bytes();
+    const std::pair<std::string, int> rows[] = {
+        {text, 9}, {text.substr(0, text.size() - 1), 9}, {text + "\n\n", 11}};
+    for (const auto& [bytes, priority] : rows) {
+        EXPECT_EQ(WorkReading().track(bytes).value().group->File_priority(), priority);
+    }
 }
 
 TEST(LoadTrackFile, ReadsOffsetsFlowAndSpeedByVersion) {
-    struct Row {
-        const char* name;
-        const char* version;
-        const char* line;
-        double west;   ///< millionths of a degree
-        double south;  ///< the same; both -1 when the line is skipped
-        float flow;
-        float speed;
-    };
-    const Row rows[] = {
+    // West and south in millionths of a degree, both -1 when the line is skipped.
+    const std::tuple<const char*, const char*, const char*, double, double, float, float> rows[] = {
         {"before 1.3 no speed", "1.2", "00C2001D9B030FFF", 0xC20, 0x01D9B, 0x030, 0},
         {"from 1.3 on a speed", "1.3", "001F400D0F07A009", 500, 0xD0F, 0x07A, 9},
         {"13 characters", "1.3", "001F400D0F07A", 500, 0xD0F, 0x07A, 0},
@@ -72,22 +64,22 @@ TEST(LoadTrackFile, ReadsOffsetsFlowAndSpeedByVersion) {
         {"18 characters", "2.0", "00001F80002C150711", 504, 0x2C15, 0x071, 1},
         {"17 characters", "2.0", "00001F80002C15071", -1, -1, 0, 0},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto& [name, version, line, west, south, flow, speed] : rows) {
+        SCOPED_TRACE(name);
         TrackText track;
-        track.version = row.version;
-        track.add(row.line);
+        track.version = version;
+        track.add(line);
         track.add(track.version < "2" ? "000010000100A00A" : "0000001000000100A00A");
         const LoadedWork work = WorkReading().track(track.bytes()).value();
         const auto& points = trackOf(work, 0).points();
-        if (row.west < 0) {
+        if (west < 0) {
             EXPECT_EQ(points.front(), (LonLat{-60.5 - 1e-6, -31.5 - 1e-6}));
             continue;
         }
-        EXPECT_DOUBLE_EQ(points.front().x, -60.5 - row.west / 1e6);
-        EXPECT_DOUBLE_EQ(points.front().y, -31.5 - row.south / 1e6);
-        EXPECT_EQ(loggerRecordOf(work, 0, 0).caudal(), row.flow);
-        EXPECT_EQ(loggerRecordOf(work, 0, 0).velocidad(), row.speed);
+        EXPECT_DOUBLE_EQ(points.front().x, -60.5 - west / 1e6);
+        EXPECT_DOUBLE_EQ(points.front().y, -31.5 - south / 1e6);
+        EXPECT_EQ(loggerRecordOf(work, 0, 0).caudal(), flow);
+        EXPECT_EQ(loggerRecordOf(work, 0, 0).velocidad(), speed);
     }
 }
 

@@ -75,43 +75,30 @@ std::string placementsOf(PassSplitter& splitter, const std::vector<LonLat>& way,
 }
 
 TEST(PassSplitter, EndsPassesAtBreaksAndTurns) {
-    struct Row {
-        const char* name;
-        PassLimits limits;
-        float swath;
-        std::vector<LonLat> way;
-        const char* placements;
+    const PassLimits report = kReportLimits;
+    const PassLimits table = kTableLimits;
+    const std::tuple<const char*, PassLimits, float, std::vector<LonLat>, const char*> rows[] = {
+        {"up to three swaths", report, 20, {{0, 0}, {59.9, 0}}, "OC"},
+        {"beyond three swaths", report, 20, {{0, 0}, {60.1, 0}}, "OO"},
+        {"never within 50 metres in a report", report, 5, {{0, 0}, {49, 0}}, "OC"},
+        {"beyond them", report, 5, {{0, 0}, {51, 0}}, "OO"},
+        {"but in a table", table, 5, {{0, 0}, {49, 0}}, "OO"},
+        {"right angle", report, 20, {{0, 0}, {10, 0}, {10, 10}}, "OCC"},
+        {"half a degree more", report, 20, {{0, 0}, {10, 0}, {9.913, 10}}, "OCT"},
+        {"still hides a turn", report, 20, {{0, 0}, {10, 0}, {10, 0}, {5, 5}}, "OCSC"},
+        {"turns after a break", report, 20, {{0, 0}, {10, 0}, {200, 0}, {195, 5}}, "OCOT"},
+        {"a single far record", report, 20, {{0, 0}, {10001, 0}, {10, 0}}, "O-C"},
+        {"twice", report, 20, {{0, 0}, {20000, 0}, {10, 0}, {20010, 0}, {20, 0}}, "O-C-C"},
+        {"not so far", report, 20, {{0, 0}, {9999, 0}}, "OO"},
+        {"a table has no glitches", table, 20, {{0, 0}, {20000, 0}, {10, 0}}, "OOO"},
+        {"another field", report, 20, {{0, 0}, {20000, 0}, {20010, 0}, {20020, 0}}, "O-OC"},
+        {"and back", report, 20, {{0, 0}, {20000, 0}, {20010, 0}, {0, 0}, {10, 0}}, "O-O-O"},
+        {"far from a far one only", report, 20, {{0, 0}, {14000, 0}, {7000, 0}}, "O-O"},
     };
-    const Row rows[] = {
-        {"up to three swaths", kReportLimits, 20, {{0, 0}, {59.9, 0}}, "OC"},
-        {"beyond three swaths", kReportLimits, 20, {{0, 0}, {60.1, 0}}, "OO"},
-        {"never within 50 metres in a report", kReportLimits, 5, {{0, 0}, {49, 0}}, "OC"},
-        {"beyond them", kReportLimits, 5, {{0, 0}, {51, 0}}, "OO"},
-        {"but in a table", kTableLimits, 5, {{0, 0}, {49, 0}}, "OO"},
-        {"right angle", kReportLimits, 20, {{0, 0}, {10, 0}, {10, 10}}, "OCC"},
-        {"half a degree more", kReportLimits, 20, {{0, 0}, {10, 0}, {9.913, 10}}, "OCT"},
-        {"still hides a turn", kReportLimits, 20, {{0, 0}, {10, 0}, {10, 0}, {5, 5}}, "OCSC"},
-        {"a turn after a break", kReportLimits, 20, {{0, 0}, {10, 0}, {200, 0}, {195, 5}}, "OCOT"},
-        {"a single far record", kReportLimits, 20, {{0, 0}, {10001, 0}, {10, 0}}, "O-C"},
-        {"the same glitch twice",
-         kReportLimits,
-         20,
-         {{0, 0}, {20000, 0}, {10, 0}, {20010, 0}, {20, 0}},
-         "O-C-C"},
-        {"not so far", kReportLimits, 20, {{0, 0}, {9999, 0}}, "OO"},
-        {"a table has no glitches", kTableLimits, 20, {{0, 0}, {20000, 0}, {10, 0}}, "OOO"},
-        {"another field", kReportLimits, 20, {{0, 0}, {20000, 0}, {20010, 0}, {20020, 0}}, "O-OC"},
-        {"another field and back",
-         kReportLimits,
-         20,
-         {{0, 0}, {20000, 0}, {20010, 0}, {0, 0}, {10, 0}, {20, 0}},
-         "O-O-OC"},
-        {"far from a far one only", kReportLimits, 20, {{0, 0}, {14000, 0}, {7000, 0}}, "O-O"},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        PassSplitter splitter(row.limits);
-        EXPECT_EQ(placementsOf(splitter, row.way, row.swath), row.placements);
+    for (const auto& [name, limits, swath, way, placements] : rows) {
+        SCOPED_TRACE(name);
+        PassSplitter splitter(limits);
+        EXPECT_EQ(placementsOf(splitter, way, swath), placements);
     }
 }
 
@@ -125,9 +112,9 @@ TEST(PassSplitter, AddsUpStepsWithinPassesOnly) {
 
 TEST(PassSplitter, AStepIsAsWideAsWhereItStarts) {
     PassSplitter splitter(kReportLimits);
-    splitter.place(atMetres(0, 0), 10);
-    splitter.place(atMetres(5, 0), 30);
-    splitter.place(atMetres(7, 0), 1);
+    for (const auto& [east, swath] : {std::pair(0, 10.0F), {5, 30.0F}, {7, 1.0F}}) {
+        splitter.place(atMetres(east, 0), swath);
+    }
     EXPECT_NEAR(splitter.squareMetres(), 5 * 10 + 2 * 30, 0.01);
 }
 

@@ -3,11 +3,11 @@
 
 #include "work/rpt_view.h"
 
+#include <span>
 #include <string>
 
 #include <gtest/gtest.h>
 
-#include "base/files.h"
 #include "support/work_files.h"
 
 namespace campora {
@@ -21,6 +21,11 @@ RptBytes::Record record(std::int32_t realTenths, std::int32_t speedTenths = 120)
     return result;
 }
 
+/// The bytes outlive the view.
+RptView viewOf(const std::string& bytes) {
+    return RptView(std::as_bytes(std::span(bytes)));
+}
+
 TEST(RptView, ReadsHeaderAndRecordsOfTheCurrentForm) {
     RptBytes report(3, 0x6203, 0xC0FFEE, 0x10041121);
     RptBytes::Record written = record(985);
@@ -31,8 +36,7 @@ TEST(RptView, ReadsHeaderAndRecordsOfTheCurrentForm) {
     written.time = {{2018, 1, 15}, {18, 3, 32}};
     report.add(written);
 
-    const FileBytes bytes(report.bytes());
-    const RptView view(bytes.bytes());
+    const RptView view = viewOf(report.bytes());
     EXPECT_EQ(view.form(), RptView::Form::Current);
     EXPECT_EQ(view.workKind(), WorkKind::Sprayer);
     EXPECT_EQ(view.serial(), "6203-00C0FFEE");
@@ -56,8 +60,8 @@ TEST(RptView, ChannelsDecideTheSizeOfARecord) {
         {-5, 0, 32}, {0, 0, 32}, {1, 0, 32}, {2, 1, 56}, {5, 4, 56}, {2147483647, 2147483646, 56}};
     for (const auto& [channels, highest, size] : rows) {
         SCOPED_TRACE(channels);
-        const FileBytes bytes(RptBytes(channels).bytes() + std::string(4 * size - 1, '\0'));
-        const RptView view(bytes.bytes());
+        const std::string bytes = RptBytes(channels).bytes() + std::string(4 * size - 1, '\0');
+        const RptView view = viewOf(bytes);
         EXPECT_EQ(view.highestChannel(), highest);
         EXPECT_EQ(view.recordCount(), 3U) << "the last one is not whole";
     }
@@ -68,25 +72,23 @@ TEST(RptView, FiveChannelsShareFourSlots) {
     RptBytes::Record written = record(0);
     written.realTenths = {10, 20, 30, 40};
     report.add(written);
-    const FileBytes bytes(report.bytes());
-    const auto fields = RptView(bytes.bytes()).record(0).fields;
+    const auto fields = viewOf(report.bytes()).record(0).fields;
     EXPECT_EQ(fields.channels, 5);
     EXPECT_EQ(fields.real, (TrackDataRPT::Doses{1, 2, 3, 4, 0}));
     EXPECT_FLOAT_EQ(fields.speed, 12) << "speed follows the fourth slot";
 }
 
 TEST(RptView, TheFifthFieldTellsTheOlderFormsApart) {
-    const std::tuple<std::int32_t, RptView::Form, std::size_t> rows[] = {
-        {0, RptView::Form::EightFields, 1},
-        {999, RptView::Form::EightFields, 1},
-        {1000, RptView::Form::FourFields, 2},
-        {-1, RptView::Form::FourFields, 2}};
+    using Form = RptView::Form;
+    const std::tuple<std::int32_t, Form, std::size_t> rows[] = {{0, Form::EightFields, 1},
+                                                                {999, Form::EightFields, 1},
+                                                                {1000, Form::FourFields, 2},
+                                                                {-1, Form::FourFields, 2}};
     for (const auto& [speedTenths, form, records] : rows) {
         SCOPED_TRACE(speedTenths);
         RptBytes report;
         report.add(record(1000, speedTenths));
-        const FileBytes bytes(report.bytes());
-        const RptView view(bytes.bytes());
+        const RptView view = viewOf(report.bytes());
         EXPECT_EQ(view.form(), form);
         EXPECT_EQ(view.recordCount(), records);
     }
@@ -97,8 +99,7 @@ TEST(RptView, TheOlderFormsHaveNoDate) {
     RptBytes::Record written = record(534, 55);
     written.time.time = {16, 45, 11};
     eight.add(written);
-    const FileBytes bytes(eight.bytes());
-    const auto fields = RptView(bytes.bytes()).record(0).fields;
+    const auto fields = viewOf(eight.bytes()).record(0).fields;
     EXPECT_EQ(fields.time, (TimeOfDay{16, 45, 11}));
     EXPECT_FALSE(fields.date);
     EXPECT_EQ(fields.real[0], 53);
@@ -107,8 +108,7 @@ TEST(RptView, TheOlderFormsHaveNoDate) {
     RptBytes four;
     four.addFourFields(fixAt(0, 0), 1995);
     four.addFourFields(fixAt(5, 0), 42);
-    const FileBytes fourBytes(four.bytes());
-    RptView view(fourBytes.bytes());
+    RptView view = viewOf(four.bytes());
     view.setSwath(16);
     EXPECT_EQ(view.record(0).fields.real[0], 200);
     EXPECT_FLOAT_EQ(view.record(1).fields.swath, 16);

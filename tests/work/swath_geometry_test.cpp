@@ -23,15 +23,10 @@ void expectNear(LonLat actual, LonLat expected) {
 }
 
 TEST(SwathGeometry, CornersStandSquareToOneStepAndAreMitredBetweenTwo) {
-    struct Row {
-        const char* name;
-        std::vector<LonLat> pass;
-        std::size_t point;
-        LonLat left;  // metres from the point
-    };
     const LonLat start = atMetres(0, 0);
     const LonLat east = atMetres(100, 0);
-    const Row rows[] = {
+    // A pass, a point of it, and its left corner in metres from it.
+    const std::tuple<const char*, std::vector<LonLat>, std::size_t, LonLat> rows[] = {
         {"eastward start", {start, east}, 0, {0, kHalf}},
         {"westward", {east, start}, 0, {0, -kHalf}},
         {"southward", {start, atMetres(0, -50)}, 1, {kHalf, 0}},
@@ -42,11 +37,11 @@ TEST(SwathGeometry, CornersStandSquareToOneStepAndAreMitredBetweenTwo) {
         {"sharp turn", {start, east, atMetres(10, 10)}, 1, {0, kHalf}},
         {"no step", {start}, 0, {0, 0}},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        const LonLat at = row.pass[row.point];
-        const SwathCorners corners = swathCorners(row.pass, row.point, kWidth);
-        const LonLat offset = atMetres(row.left.x, row.left.y);
+    for (const auto& [name, pass, point, left] : rows) {
+        SCOPED_TRACE(name);
+        const LonLat at = pass[point];
+        const SwathCorners corners = swathCorners(pass, point, kWidth);
+        const LonLat offset = atMetres(left.x, left.y);
         expectNear(corners.left, {at.x + offset.x, at.y + offset.y});
         expectNear(corners.right, {at.x - offset.x, at.y - offset.y});
     }

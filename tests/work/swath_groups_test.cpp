@@ -36,15 +36,8 @@ std::string groupsOf(const GphTrack& pass, std::size_t most, bool onlySprayed) {
 }
 
 TEST(SwathGroups, DivideAPass) {
-    struct Row {
-        const char* name;
-        std::vector<float> flows;
-        std::vector<float> widths;  // 20 where there is none
-        std::size_t most;
-        const char* all;
-        const char* sprayed;
-    };
-    const Row rows[] = {
+    using Values = std::vector<float>;  // widths are 20 where there is none
+    const std::tuple<const char*, Values, Values, std::size_t, const char*, const char*> rows[] = {
         {"one point", {5}, {}, 10, "", ""},
         {"whole groups", {5, 5, 5, 5, 5}, {}, 2, "0+2 2+2", "0+2 2+2"},
         {"a rest", {5, 5, 5, 5}, {}, 2, "0+2 2+1", "0+2 2+1"},
@@ -55,16 +48,16 @@ TEST(SwathGroups, DivideAPass) {
         {"another width ends a group", {5, 5, 5, 5}, {20, 20, 15}, 10, "0+2 2+1", "0+2 2+1"},
         {"width of the last point", {5, 5, 5}, {20, 20, 15}, 10, "0+2", "0+2"},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto& [name, flows, widths, most, all, sprayed] : rows) {
+        SCOPED_TRACE(name);
         std::vector<TrackDataNBR> records;
-        for (std::size_t i = 0; i < row.flows.size(); ++i) {
-            const float width = i < row.widths.size() ? row.widths[i] : 20;
-            records.push_back(loggerRecord(row.flows[i], 200, width));
+        for (std::size_t i = 0; i < flows.size(); ++i) {
+            const float width = i < widths.size() ? widths[i] : 20;
+            records.push_back(loggerRecord(flows[i], 200, width));
         }
         const GphTrack pass = bend(records);
-        EXPECT_EQ(groupsOf(pass, row.most, false), row.all);
-        EXPECT_EQ(groupsOf(pass, row.most, true), row.sprayed);
+        EXPECT_EQ(groupsOf(pass, most, false), all);
+        EXPECT_EQ(groupsOf(pass, most, true), sprayed);
     }
 }
 

@@ -37,14 +37,8 @@ std::string infoOf(const TrackDataRPT& record, const MapStyle& style,
 }
 
 TEST(TrackDataRPT, ErrorIsThePercentageOffTheSpecifiedDose) {
-    struct Row {
-        const char* name;
-        std::vector<std::int32_t> real;
-        std::vector<std::int32_t> spec;
-        int channel;
-        float error;
-    };
-    const Row rows[] = {
+    using Doses = std::vector<std::int32_t>;
+    const std::tuple<const char*, Doses, Doses, int, float> rows[] = {
         {"above", {108}, {100}, 0, 8},
         {"nothing specified", {3}, {0}, 0, 0},
         {"no such channel", {95}, {100}, 1, 0},
@@ -53,12 +47,11 @@ TEST(TrackDataRPT, ErrorIsThePercentageOffTheSpecifiedDose) {
         {"total of nothing specified", {80, 80}, {50, -50}, -1, 0},
         {"doses whose difference passes 32 bits", {-2147483647 - 1}, {2147483647}, 0, 200},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto& [name, real, spec, channel, error] : rows) {
         TrackDataRPT record{TrackDataRPT::Fields()};
-        record.setCaudal(row.real);
-        record.setDosis(row.spec);
-        EXPECT_FLOAT_EQ(record.getError(row.channel), row.error);
+        record.setCaudal(real);
+        record.setDosis(spec);
+        EXPECT_FLOAT_EQ(record.getError(channel), error) << name;
     }
 }
 
@@ -94,15 +87,8 @@ TEST(TrackDataRPT, TakesItsColourFromTheMode) {
     empty.real = {0, 40};
     const auto dayColor = scale.getColor(dayNumber(kDay));
 
-    struct Row {
-        const char* name;
-        const TrackDataRPT::Fields& fields;
-        ColorMode mode;
-        bool graduated;
-        int channel;
-        Color expected;
-    };
-    const Row rows[] = {
+    using Fields = TrackDataRPT::Fields;
+    const std::tuple<const char*, const Fields&, ColorMode, bool, int, Color> rows[] = {
         {"alarm", full, ColorMode::Alarm, true, 0, colors.alarm},
         {"date", full, ColorMode::Date, true, 0, dayColor},
         {"no date", undated, ColorMode::Date, true, 0, colors.noDraw},
@@ -113,16 +99,16 @@ TEST(TrackDataRPT, TakesItsColourFromTheMode) {
         {"plain", full, ColorMode::Dose, false, 0, colors.draw},
         {"plain, nothing in the first channel", empty, ColorMode::Dose, false, 1, colors.noDraw},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto& [name, fields, mode, graduated, channel, expected] : rows) {
+        SCOPED_TRACE(name);
         MapStyle style;
         style.scale = &scale;
-        style.mode = row.mode;
-        style.graduated = row.graduated;
-        style.selectedChannel = row.channel;
+        style.mode = mode;
+        style.graduated = graduated;
+        style.selectedChannel = channel;
         style.errorLimit = 20;
         style.errorSample = Color{0x123456};
-        EXPECT_EQ(TrackDataRPT(row.fields).color(style), row.expected);
+        EXPECT_EQ(TrackDataRPT(fields).color(style), expected);
     }
 }
 

@@ -24,6 +24,8 @@ TEST(VexAlarmas, NamesAlarmsOfTheMachine) {
     for (const auto& [kind, bit, text] : rows) {
         EXPECT_EQ(alarmText(Texts(), kind, bit), text) << bit;
     }
+    EXPECT_EQ(alarmNames(Texts(), WorkKind::Sprayer, 0x80000302),
+              "Presión Mínima; Alarma de velocidad; Alarma de nodo apagado");
 }
 
 TEST(VexAlarmas, KnowsTheBitsThatHaveAText) {
