@@ -69,19 +69,6 @@ TEST(FileDraft, AFolderThatTakesNoFilesIsNotAMissingTarget) {
 
 #endif
 
-TEST(FinishTogether, ReplacesAll) {
-    const TempFolder folder;
-    const std::vector<std::string> paths = {folder.write("a.shp", "old"), folder.file("a.shx")};
-    std::vector<FileDraft> drafts;
-    for (const std::string& path : paths) {
-        drafts.emplace_back(path).write("new");
-    }
-    EXPECT_FALSE(finishTogether(drafts).has_value());
-    EXPECT_EQ(contentOf(paths[0]), "new");
-    EXPECT_EQ(contentOf(paths[1]), "new");
-    EXPECT_EQ(entriesOf(folder), 2U);
-}
-
 TEST(FinishTogether, ReplacesNoneWhenOneCannotTakeItsPlace) {
     const TempFolder folder;
     const std::vector<std::string> paths = {folder.write("a.shp", "old"), folder.file("a.shx"),

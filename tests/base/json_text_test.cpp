@@ -9,12 +9,7 @@ namespace campora {
 namespace {
 
 TEST(JsonText, EscapesWhatAStringCannotHold) {
-    struct Row {
-        const char* name;
-        std::string text;
-        const char* json;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, std::string, const char*> rows[] = {
         {"empty", "", "\"\""},
         {"quotes and backslashes", R"(c:\datos\"a")", R"("c:\\datos\\\"a\"")"},
         {"line ends and tabs", "a\r\n\tb", R"("a\r\n\tb")"},
@@ -26,8 +21,8 @@ TEST(JsonText, EscapesWhatAStringCannotHold) {
          "ada",
          "\"Ca\u00f1ada\""},
     };
-    for (const Row& row : rows) {
-        EXPECT_EQ(jsonText(row.text), row.json) << row.name;
+    for (const auto& [name, text, json] : rows) {
+        EXPECT_EQ(jsonText(text), json) << name;
     }
 }
 

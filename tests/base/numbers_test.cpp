@@ -26,22 +26,9 @@ constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 TEST(Rounding, HalvesGoToTheEvenNeighbour) {
     using Whole = std::numeric_limits<std::int32_t>;
     // The library rounds halves to even in the mode that a program starts with.
-    const double values[] = {0.5,
-                             1.5,
-                             2.5,
-                             -0.5,
-                             -1.5,
-                             0.5000000000000001,
-                             -2.5000000000000004,
-                             2147483646.5,
-                             2147483647.4,
-                             2147483647.5,
-                             -2147483648.5,
-                             9007199254740993.0,
-                             1e300,
-                             kInfinity,
-                             -kInfinity};
-    for (const double value : values) {
+    for (const double value : {0.5, 1.5, 2.5, -0.5, -1.5, 0.5000000000000001, -2.5000000000000004,
+                               2147483646.5, 2147483647.4, 2147483647.5, -2147483648.5,
+                               9007199254740993.0, 1e300, kInfinity, -kInfinity}) {
         const double rounded = std::nearbyint(value);
         EXPECT_EQ(roundHalfEven(value), rounded) << value;
         EXPECT_EQ(roundToInt32(value), std::clamp<double>(rounded, Whole::min(), Whole::max()))

@@ -12,39 +12,31 @@ namespace campora {
 namespace {
 
 TEST(SetList, KeepsDistinctValuesAndTotalsOfAll) {
-    struct Row {
-        const char* name;
-        std::vector<double> added;
-        std::vector<double> ascending;
-        double sum;
-        float realAverage;
-        float average;
-    };
-    const Row rows[] = {
+    using Values = std::vector<double>;
+    const std::tuple<const char*, Values, Values, double, float, float> rows[] = {
         {"nothing", {}, {}, 0, 0, 0},
         {"repeats count in the totals", {5, 3, 5, 4}, {3, 4, 5}, 17, 4.25F, 4},
         {"halves of partial sums go to even", {0.5, 2.5}, {0.5, 2.5}, 3, 1.5F, 1},
         {"below zero", {-1, -3, 0}, {-3, -1, 0}, -4, -4.0F / 3, -4.0F / 3},
-        {"partial sums stay in 32 bits", {2e9, 3e9}, {2e9, 3e9}, 5e9, 2.5e9F, 2147483647.0F / 2},
+        {"sums stay in 32 bits", {2e9, 3e9}, {2e9, 3e9}, 5e9, 2.5e9F, 2147483647.0F / 2},
         {"not-a-number is left out", {2, std::nan(""), 1}, {1, 2}, 3, 1.5F, 1.5F},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto& [name, added, ascending, sum, realAverage, average] : rows) {
+        SCOPED_TRACE(name);
         SetList set;
         SetList older;
-        for (const double value : row.added) {
+        for (const double value : added) {
             set.addDosis(value);
             older.addDosisOld(value);
         }
-        EXPECT_EQ(set.getSet(), row.ascending);
-        EXPECT_EQ(older.getSet(),
-                  std::vector<double>(row.ascending.rbegin(), row.ascending.rend()));
-        EXPECT_EQ(set.count(), static_cast<int>(row.ascending.size()));
+        EXPECT_EQ(set.getSet(), ascending);
+        EXPECT_EQ(older.getSet(), std::vector<double>(ascending.rbegin(), ascending.rend()));
+        EXPECT_EQ(set.count(), static_cast<int>(ascending.size()));
         for (const SetList* list : {&set, &older}) {
-            EXPECT_DOUBLE_EQ(list->sum(), row.sum);
-            EXPECT_FLOAT_EQ(list->getRealAverage(), row.realAverage);
+            EXPECT_DOUBLE_EQ(list->sum(), sum);
+            EXPECT_FLOAT_EQ(list->getRealAverage(), realAverage);
         }
-        EXPECT_FLOAT_EQ(set.getAverage(), row.average);
+        EXPECT_FLOAT_EQ(set.getAverage(), average);
     }
 }
 

@@ -23,12 +23,7 @@ struct Fixture {
 };
 
 TEST(CoordEntry, ABoxHoldsAWholeNumberOrIsWrong) {
-    struct Row {
-        const char* name;
-        const char* text;
-        std::optional<double> latitude;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, const char*, std::optional<double>> rows[] = {
         {"point", "34.25", 34.25},
         {"comma", "34,25", 34.25},
         {"sign of its own", "-34.5", -34.5},
@@ -43,14 +38,14 @@ TEST(CoordEntry, ABoxHoldsAWholeNumberOrIsWrong) {
         {"more than any number", "9999999999999999999999999999999999999999999", std::nullopt},
     };
     for (const char symbol : {'.', ','}) {
-        for (const Row& row : rows) {
-            SCOPED_TRACE(row.name);
+        for (const auto& [name, text, latitude] : rows) {
+            SCOPED_TRACE(name);
             Fixture f(CoordType::Degrees, symbol);
-            f.entry.setText(Box::LatDegrees, row.text);
-            EXPECT_EQ(f.entry.isWrong(Box::LatDegrees), !row.latitude);
+            f.entry.setText(Box::LatDegrees, text);
+            EXPECT_EQ(f.entry.isWrong(Box::LatDegrees), !latitude);
             EXPECT_FALSE(f.entry.isWrong(Box::LongDegrees));
-            ASSERT_EQ(f.entry.getPoint().has_value(), row.latitude.has_value());
-            EXPECT_EQ(f.entry.getPoint().value_or(LonLat{}).y, row.latitude.value_or(0));
+            ASSERT_EQ(f.entry.getPoint().has_value(), latitude.has_value());
+            EXPECT_EQ(f.entry.getPoint().value_or(LonLat{}).y, latitude.value_or(0));
         }
     }
 }
@@ -86,13 +81,7 @@ TEST(CoordEntry, HiddenBoxesCountAsZero) {
 }
 
 TEST(CoordEntry, IsFilledWithAPositionInItsForm) {
-    struct Row {
-        const char* name;
-        CoordType form;
-        LonLat position;
-        std::vector<std::string> texts;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, CoordType, LonLat, std::vector<std::string>> rows[] = {
         {"degrees",
          CoordType::Degrees,
          {-58.123456789, 34.25},
@@ -107,17 +96,17 @@ TEST(CoordEntry, IsFilledWithAPositionInItsForm) {
          {180, -90},
          {"90", "0", "0", "180", "0", "0"}},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        Fixture f(row.form, ',');
-        f.entry.setPoint(row.position);
+    for (const auto& [name, form, position, texts] : rows) {
+        SCOPED_TRACE(name);
+        Fixture f(form, ',');
+        f.entry.setPoint(position);
         for (std::size_t i = 0; i < CoordEntry::kBoxes; ++i) {
-            EXPECT_EQ(f.entry.text(static_cast<Box>(i)), row.texts[i]) << i;
+            EXPECT_EQ(f.entry.text(static_cast<Box>(i)), texts[i]) << i;
         }
         const auto point = f.entry.getPoint();
         ASSERT_TRUE(point);
-        EXPECT_NEAR(point->x, row.position.x, 1e-10);
-        EXPECT_NEAR(point->y, row.position.y, 1e-10);
+        EXPECT_NEAR(point->x, position.x, 1e-10);
+        EXPECT_NEAR(point->y, position.y, 1e-10);
     }
 }
 

@@ -9,16 +9,10 @@ namespace campora {
 namespace {
 
 TEST(FormatCoord, CutsAndPadsInTheThreeForms) {
-    struct Row {
-        const char* name;
-        double value;
-        CoordType type;
-        const char* text;
-    };
     const CoordType degrees{0};  // as the settings hold them
     const CoordType seconds{1};
     const CoordType minutes{2};
-    const Row rows[] = {
+    const std::tuple<const char*, double, CoordType, const char*> rows[] = {
         {"seconds of the south", -34.25, seconds, "-34º  15'  0''"},
         {"seconds are cut", 34.999999, seconds, " 34º  59'  59.99''"},
         {"minutes of the south", -34.25, minutes, "-34º  15'"},
@@ -29,9 +23,9 @@ TEST(FormatCoord, CutsAndPadsInTheThreeForms) {
         {"equator", 0, seconds, " 0º  0'  0''"},
         {"just south of the equator", -1e-9, degrees, " 0º"},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_EQ(formatCoord(row.value, row.type), row.text);
+    for (const auto& [name, value, type, text] : rows) {
+        SCOPED_TRACE(name);
+        EXPECT_EQ(formatCoord(value, type), text);
     }
 }
 

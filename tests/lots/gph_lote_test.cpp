@@ -17,22 +17,16 @@ GphLote square(double side) {
 }
 
 TEST(GphLote, TellsItsHectares) {
-    struct Row {
-        double side;
-        Language language;
-        char symbol;
-        const char* text;
-    };
-    const Row rows[] = {
+    const std::tuple<double, Language, char, const char*> rows[] = {
         {0.01, Language::Spanish, '.', "Lote Virtual. V 1.0\r\n123.9Has"},
         {0.0009, Language::Spanish, ',', "Lote Virtual. V 1.0\r\n1,Has"},
         {0.0005, Language::Portuguese, ',', "Talhão virtual. V 1.0\r\n,3 ha"},
         {0.00001, Language::English, '.', "Virtual lot. V 1.0\r\n. ha"},
     };
-    for (const Row& row : rows) {
-        const FixedLocale locale(row.symbol);
-        const Texts texts(row.language);
-        EXPECT_EQ(square(row.side).Gph_getInfo({texts, locale, MapStyle()}, 0), row.text);
+    for (const auto& [side, language, symbol, text] : rows) {
+        const FixedLocale locale(symbol);
+        const Texts texts(language);
+        EXPECT_EQ(square(side).Gph_getInfo({texts, locale, MapStyle()}, 0), text);
     }
 }
 

@@ -57,26 +57,20 @@ TEST_F(LoadLot, TheAreaHoldsFarFromTheOrigin) {
 }
 
 TEST_F(LoadLot, RefusesWhatIsNoLotWithAMessage) {
-    struct Row {
-        const char* name;
-        std::string bytes;
-        const char* reason;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, std::string, const char*> rows[] = {
         {"empty", "", "no tiene ningún vértice"},
         {"only words", "Campo 1\r\nSoja", "no tiene ningún vértice"},
         {"no text at all", std::string("\0\xFF\x01,\0", 5), "no tiene ningún vértice"},
         {"off the globe", "a\r\n1,500\r\n", "no tiene ningún vértice"},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        const std::string path = folder.write("x.lot", row.bytes);
+    for (const auto& [name, bytes, reason] : rows) {
+        SCOPED_TRACE(name);
+        const std::string path = folder.write("x.lot", bytes);
         dialogs.messages.clear();
         EXPECT_EQ(load(path), nullptr);
         EXPECT_EQ(dialogs.messages,
                   std::vector<std::string>{"Error|" + std::string(texts(TextId::WrongFileFormat)) +
-                                           "|No se puede leer el archivo " + path + ": " +
-                                           row.reason});
+                                           "|No se puede leer el archivo " + path + ": " + reason});
     }
     dialogs.messages.clear();
     EXPECT_EQ(load(folder.file("falta.lot")), nullptr);

@@ -13,6 +13,7 @@ namespace {
 using Vertices = std::vector<LonLat>;
 using Index = std::optional<std::size_t>;
 
+constexpr LonLat kAt{9, 9};
 const Vertices kTriangle = {{0, 0}, {4, 0}, {0, 4}};
 
 LotDraft triangle() {
@@ -22,65 +23,40 @@ LotDraft triangle() {
 }
 
 TEST(LotDraft, EveryChangeIsUndoneAndDoneAgain) {
-    struct Row {
-        const char* name;
-        std::function<void(LotDraft&)> change;
-        Vertices vertices;
-        Index selected;
+    using Draft = LotDraft&;
+    const auto drag = [](Draft d, void (LotDraft::*begin)(std::size_t), std::size_t index) {
+        (d.*begin)(index);
+        d.move({1, 1});
+        d.move({2, 2});
+        d.endMove(true);
     };
-    const Row rows[] = {
-        {"append",
-         [](LotDraft& d) {
-             d.append({9, 9});
-         },
-         {{0, 0}, {4, 0}, {0, 4}, {9, 9}},
-         3},
-        {"move",
-         [](LotDraft& d) {
-             d.moveTo(1, {5, 1});
-         },
-         {{0, 0}, {5, 1}, {0, 4}},
-         {}},
-        {"insert", [](LotDraft& d) { d.insertAfter(0); }, {{0, 0}, {2, 0}, {4, 0}, {0, 4}}, 1},
-        {"insert behind the last",
-         [](LotDraft& d) { d.insertAfter(2); },
-         {{0, 0}, {4, 0}, {0, 4}, {0, 2}},
-         3},
-        {"remove", [](LotDraft& d) { d.remove(1); }, {{0, 0}, {0, 4}}, 0},
-        {"remove the first", [](LotDraft& d) { d.remove(0); }, {{4, 0}, {0, 4}}, 0},
-        {"clear", [](LotDraft& d) { d.clear(); }, {}, {}},
-        {"drag",
-         [](LotDraft& d) {
-             d.beginMove(2);
-             d.move({1, 1});
-             d.move({2, 2});
-             d.endMove(true);
-         },
-         {{0, 0}, {4, 0}, {2, 2}},
-         2},
-        {"drag out of a side",
-         [](LotDraft& d) {
-             d.beginInsert(1);
-             d.move({3, 3});
-             d.endMove(true);
-         },
-         {{0, 0}, {4, 0}, {3, 3}, {0, 4}},
-         2},
-        {"a drag ended by another change",
-         [](LotDraft& d) {
-             d.beginMove(0);
-             d.select(1);
-         },
-         kTriangle, 1},
+    const auto interrupted = [](Draft d) {
+        d.beginMove(0);
+        d.select(1);
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    const std::tuple<const char*, std::function<void(Draft)>, Vertices, Index> rows[] = {
+        {"append", [](Draft d) { d.append(kAt); }, {{0, 0}, {4, 0}, {0, 4}, kAt}, 3},
+        {"move", [](Draft d) { d.moveTo(1, kAt); }, {{0, 0}, kAt, {0, 4}}, {}},
+        {"insert", [](Draft d) { d.insertAfter(0); }, {{0, 0}, {2, 0}, {4, 0}, {0, 4}}, 1},
+        {"and last", [](Draft d) { d.insertAfter(2); }, {{0, 0}, {4, 0}, {0, 4}, {0, 2}}, 3},
+        {"remove", [](Draft d) { d.remove(1); }, {{0, 0}, {0, 4}}, 0},
+        {"remove the first", [](Draft d) { d.remove(0); }, {{4, 0}, {0, 4}}, 0},
+        {"clear", [](Draft d) { d.clear(); }, {}, {}},
+        {"drag", [&](Draft d) { drag(d, &LotDraft::beginMove, 2); }, {{0, 0}, {4, 0}, {2, 2}}, 2},
+        {"out of a side",
+         [&](Draft d) { drag(d, &LotDraft::beginInsert, 1); },
+         {{0, 0}, {4, 0}, {2, 2}, {0, 4}},
+         2},
+        {"ended by another", interrupted, kTriangle, 1},
+    };
+    for (const auto& [name, change, vertices, selected] : rows) {
+        SCOPED_TRACE(name);
         LotDraft draft = triangle();
-        row.change(draft);
-        draft.move({9, 9});  // no drag goes on
-        EXPECT_EQ(draft.vertices(), row.vertices);
-        EXPECT_EQ(draft.selected(), row.selected);
-        const bool changed = row.vertices != kTriangle;
+        change(draft);
+        draft.move(kAt);  // no drag goes on
+        EXPECT_EQ(draft.vertices(), vertices);
+        EXPECT_EQ(draft.selected(), selected);
+        const bool changed = vertices != kTriangle;
         EXPECT_EQ(draft.canUndo(), changed);
         if (!changed) {
             continue;
@@ -90,8 +66,8 @@ TEST(LotDraft, EveryChangeIsUndoneAndDoneAgain) {
         EXPECT_EQ(draft.description(), "Campo 1");
         EXPECT_FALSE(draft.canUndo());
         draft.redo();
-        EXPECT_EQ(draft.vertices(), row.vertices);
-        EXPECT_EQ(draft.selected(), row.selected);
+        EXPECT_EQ(draft.vertices(), vertices);
+        EXPECT_EQ(draft.selected(), selected);
         EXPECT_FALSE(draft.canRedo());
     }
 }

@@ -39,12 +39,7 @@ TEST(Lot, CoordinatesComeBackAsTheyWere) {
 }
 
 TEST(Lot, ALineIsAVertexWhenItsFirstTwoPiecesAreNumbers) {
-    struct Row {
-        const char* name;
-        const char* line;
-        Vertices vertices;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, const char*, Vertices> rows[] = {
         {"as written", "34.25 , 58.5", {{-58.5, -34.25}}},
         {"no blanks", "34.25,58.5", {{-58.5, -34.25}}},
         {"blanks and a tab", "\t 34.25 ,  58.5 ", {{-58.5, -34.25}}},
@@ -66,12 +61,11 @@ TEST(Lot, ALineIsAVertexWhenItsFirstTwoPiecesAreNumbers) {
         {"only signs", "-,+", {}},
         {"empty", "", {}},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        const Lot lot = decodeLot(std::string(row.line) + "\r\n");
-        EXPECT_EQ(lot.vertices, row.vertices);
-        EXPECT_EQ(lot.description,
-                  row.vertices.empty() ? std::string(row.line) + "\r\n" : std::string());
+    for (const auto& [name, line, vertices] : rows) {
+        SCOPED_TRACE(name);
+        const Lot lot = decodeLot(std::string(line) + "\r\n");
+        EXPECT_EQ(lot.vertices, vertices);
+        EXPECT_EQ(lot.description, vertices.empty() ? std::string(line) + "\r\n" : std::string());
     }
 }
 
@@ -86,12 +80,7 @@ TEST(Lot, TwoNumbersThatAreNoPositionAreDescription) {
 }
 
 TEST(Lot, LinesOfTheDescriptionStayDescription) {
-    struct Row {
-        const char* name;
-        const char* description;
-        const char* written;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, const char*, const char*> rows[] = {
         {"a number", "12", "12_\r\n"},
         {"a number with blanks", " 1.5 ", " 1.5 _\r\n"},
         {"a point", ".", "._\r\n"},
@@ -103,11 +92,11 @@ TEST(Lot, LinesOfTheDescriptionStayDescription) {
         {"an empty line", "a\n\nb\n", "a\r\n\r\nb\r\n"},
         {"old line ends", "a\rb", "a\r\nb\r\n"},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        const std::string bytes = encodeLot({}, row.description);
-        EXPECT_EQ(bytes, row.written);
-        EXPECT_EQ(decodeLot(bytes), (Lot{{}, row.written}));
+    for (const auto& [name, description, written] : rows) {
+        SCOPED_TRACE(name);
+        const std::string bytes = encodeLot({}, description);
+        EXPECT_EQ(bytes, written);
+        EXPECT_EQ(decodeLot(bytes), (Lot{{}, written}));
     }
 }
 

@@ -13,13 +13,8 @@ namespace {
 using Lines = std::vector<std::string>;
 
 TEST(MergeLots, SaysWhatTheUserShouldKnow) {
-    struct Row {
-        const char* name;
-        std::vector<std::vector<LonLat>> rings;
-        Lines remarks;
-    };
     const std::vector<LonLat> line = {{0, 0}, {1, 1}, {2, 2}};
-    const Row rows[] = {
+    const std::tuple<const char*, std::vector<std::vector<LonLat>>, Lines> rows[] = {
         {"they overlap", {squareRing(0, 0, 2), squareRing(1, 1, 2)}, {}},
         {"apart", {squareRing(0, 0, 1), squareRing(5, 5, 1)}, {"Quedan 2 contornos separados"}},
         {"in one point",
@@ -41,12 +36,12 @@ TEST(MergeLots, SaysWhatTheUserShouldKnow) {
           "Un lote no puede tener huecos. Quedaron incluidos en el contorno: 1",
           "Lotes que no encierran ninguna superficie y no se unieron: 1"}},
     };
-    for (const Row& row : rows) {
+    for (const auto& [name, rings, remarks] : rows) {
         std::vector<Lot> lots;
-        for (const std::vector<LonLat>& ring : row.rings) {
+        for (const std::vector<LonLat>& ring : rings) {
             lots.push_back({ring, ""});
         }
-        EXPECT_EQ(mergeRemarks(mergeLots(lots), Texts()), row.remarks) << row.name;
+        EXPECT_EQ(mergeRemarks(mergeLots(lots), Texts()), remarks) << name;
     }
 }
 

@@ -35,16 +35,10 @@ Ring backwards(Ring ring) {
 }
 
 TEST(MergeOutlines, IsTheUnion) {
-    struct Row {
-        const char* name;
-        std::vector<Ring> rings;
-        std::vector<double> areas;
-        int holes;
-    };
     const Ring bow = {{0, 0}, {2, 2}, {2, 0}, {0, 2}};
     const Ring pentagram = {
         {0, 1}, {0.588, -0.809}, {-0.951, 0.309}, {0.951, 0.309}, {-0.588, -0.809}};
-    const Row rows[] = {
+    const std::tuple<const char*, std::vector<Ring>, std::vector<double>, int> rows[] = {
         {"nothing", {}, {}, 0},
         {"one", {box(0, 0, 2, 1)}, {2}, 0},
         {"overlap", {box(0, 0, 2, 2), box(1, 1, 3, 3)}, {7}, 0},
@@ -66,13 +60,13 @@ TEST(MergeOutlines, IsTheUnion) {
         {"two points", {{{0, 0}, {1, 1}}, box(0, 0, 1, 1)}, {1}, 0},
         {"without area", {{{0, 0}, {1, 1}, {2, 2}}, {}, {{3, 3}}}, {}, 0},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        const MergedOutlines merged = mergeOutlines(row.rings);
-        EXPECT_EQ(merged.holes, row.holes);
-        ASSERT_EQ(merged.rings.size(), row.areas.size());
-        for (std::size_t i = 0; i < row.areas.size(); ++i) {
-            EXPECT_NEAR(signedArea(merged.rings[i]), row.areas[i], 1e-4);
+    for (const auto& [name, rings, areas, holes] : rows) {
+        SCOPED_TRACE(name);
+        const MergedOutlines merged = mergeOutlines(rings);
+        EXPECT_EQ(merged.holes, holes);
+        ASSERT_EQ(merged.rings.size(), areas.size());
+        for (std::size_t i = 0; i < areas.size(); ++i) {
+            EXPECT_NEAR(signedArea(merged.rings[i]), areas[i], 1e-4);
             EXPECT_FALSE(ringCrossesItself(merged.rings[i]));
         }
     }
@@ -91,12 +85,7 @@ TEST(MergeOutlines, CoordinatesComeBackUnchanged) {
 }
 
 TEST(RingCrossing, FindsWhatMeets) {
-    struct Row {
-        const char* name;
-        Ring ring;
-        bool crosses;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, Ring, bool> rows[] = {
         {"triangle", {{0, 0}, {1, 0}, {0, 1}}, false},
         {"two points", {{0, 0}, {1, 0}}, false},
         {"bow", {{0, 0}, {2, 2}, {2, 0}, {0, 2}}, true},
@@ -109,10 +98,10 @@ TEST(RingCrossing, FindsWhatMeets) {
         {"a point on a straight side", {{0, 0}, {1, 0}, {2, 0}, {2, 2}}, false},
         {"all on a line", {{0, 0}, {1, 0}, {2, 0}}, true},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_EQ(ringCrossesItself(row.ring), row.crosses);
-        EXPECT_EQ(ringCrossesItself(backwards(row.ring)), row.crosses);
+    for (const auto& [name, ring, crosses] : rows) {
+        SCOPED_TRACE(name);
+        EXPECT_EQ(ringCrossesItself(ring), crosses);
+        EXPECT_EQ(ringCrossesItself(backwards(ring)), crosses);
     }
 }
 

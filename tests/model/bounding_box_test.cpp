@@ -34,35 +34,10 @@ BoundingBox boxOf(const std::vector<LonLat>& points) {
 
 constexpr double kDegree = 111320;
 
-TEST(BoundingBox, GrowsPointByPoint) {
-    struct Row {
-        const char* name;
-        std::vector<LonLat> points;
-        BoundingBox expected;
-    };
-    const Row rows[] = {
-        {"one point", {{3, 4}}, {3, 4, 3, 4, 0, 0, true}},
-        {"south", {{-60, -33}, {-60, -34}}, {-60, -34, -60, -33, 0, kDegree, true}},
-        {"east takes the cosine of its own latitude",
-         {{0, 0}, {1, 60}},
-         {0, 0, 1, 60, kDegree / 2, 60 * kDegree, true}},
-        {"west takes the cosine of the southern edge as it was",
-         {{1, 0}, {0, -60}},
-         {0, -60, 1, 0, kDegree, 60 * kDegree, true}},
-        {"west is added to what is there",
-         {{0, 60}, {1, 60}, {-1, 60}},
-         {-1, 60, 1, 60, kDegree, 0, true}},
-        {"a width seen at the equator stays when points lie north",
-         {{0, 0}, {1, 0}, {1.5, 60}},
-         {0, 0, 1.5, 60, kDegree, 60 * kDegree, true}},
-        {"nearer the equator the same longitudes are wider",
-         {{0, 60}, {1, 60}, {1, 0}},
-         {0, 0, 1, 60, kDegree, 60 * kDegree, true}},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        expectBox(boxOf(row.points), row.expected);
-    }
+TEST(BoundingBox, AWidthIsThatOfTheLatitudeWhereItWasSeen) {
+    expectBox(boxOf({{0, 60}, {1, 60}, {-1, 60}}), {-1, 60, 1, 60, kDegree, 0, true});
+    expectBox(boxOf({{0, 0}, {1, 0}, {1.5, 60}}), {0, 0, 1.5, 60, kDegree, 60 * kDegree, true});
+    expectBox(boxOf({{1, 0}, {0, -60}}), {0, -60, 1, 0, kDegree, 60 * kDegree, true});
 }
 
 /// The rules of `addPoint` with every cosine computed.
@@ -104,14 +79,8 @@ TEST(BoundingBox, AgreesWithTheSlowWayToTheLastBit) {
 }
 
 TEST(BoundingBox, TakesInOtherBoxes) {
-    struct Row {
-        const char* name;
-        BoundingBox box;
-        BoundingBox added;
-        BoundingBox expected;
-    };
     const BoundingBox unit{0, 0, 1, 1, 1000, 2000, true};
-    const Row rows[] = {
+    const std::tuple<const char*, BoundingBox, BoundingBox, BoundingBox> rows[] = {
         {"an empty box becomes the other", {9, 9, 9, 9, 9, 9, false}, unit, unit},
         {"a candidate of a fraction more is rounded to nothing more",
          unit,
@@ -138,11 +107,11 @@ TEST(BoundingBox, TakesInOtherBoxes) {
          {-0.001, -0.001, 1, 1, 250000, 260000, true},
          {-0.001, -0.001, 1, 1, 250000, 260000, true}},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        BoundingBox box = row.box;
-        box.addBoundingBox(row.added);
-        expectBox(box, row.expected);
+    for (const auto& [name, before, added, expected] : rows) {
+        SCOPED_TRACE(name);
+        BoundingBox box = before;
+        box.addBoundingBox(added);
+        expectBox(box, expected);
     }
 }
 

@@ -39,20 +39,15 @@ double haversine(double lat1, double lon1, double lat2, double lon2) {
 }
 
 TEST(Geodesy, DistanceAlongTheGreatCircle) {
-    struct Row {
-        const char* name;
-        double lat1, lon1, lat2, lon2;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, double, double, double, double> rows[] = {
         {"across the equator", 10, 20, -10, 21},
         {"pole to pole", 90, 0, -90, 0},
         {"across a field", -34.25, -62.48, -34.256, -62.4812},
         {"over the ocean", 36.5, -5.5, -34.5, -58.5},
     };
-    for (const Row& row : rows) {
-        EXPECT_NEAR(surfaceDistance(row.lat1, row.lon1, row.lat2, row.lon2),
-                    haversine(row.lat1, row.lon1, row.lat2, row.lon2), 0.1)
-            << row.name;
+    for (const auto& [name, lat1, lon1, lat2, lon2] : rows) {
+        EXPECT_NEAR(surfaceDistance(lat1, lon1, lat2, lon2), haversine(lat1, lon1, lat2, lon2), 0.1)
+            << name;
     }
     EXPECT_NEAR(surfaceDistance(-34, -60, -35, -60), 111320, 1e-3);
     EXPECT_EQ(surfaceDistance(-34, -60, -34, -61), surfaceDistance(-34, 60, -34, 61));

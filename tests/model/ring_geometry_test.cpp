@@ -17,12 +17,7 @@ Ring square(double x, double y, double side) {
 }
 
 TEST(RingGeometry, AreaInSquareMetres) {
-    struct Row {
-        const char* name;
-        Ring ring;
-        float area;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, Ring, float> rows[] = {
         {"two points", {{0, 0}, {1, 1}}, 0},
         {"square on the equator", square(0, 0, 0.01), 1239214.25F},
         {"concave",
@@ -32,20 +27,15 @@ TEST(RingGeometry, AreaInSquareMetres) {
         // Far from 0, 0 single precision takes its toll: the exact sum is 1024382.64.
         {"far from the origin", square(-62.5, -34.25, 0.01), 1024564.6875F},
     };
-    for (const Row& row : rows) {
-        EXPECT_FLOAT_EQ(polygonArea(row.ring), row.area) << row.name;
-        const Ring reversed(row.ring.rbegin(), row.ring.rend());
-        EXPECT_NEAR(polygonArea(reversed), row.area, row.area / 1000) << row.name << ", reversed";
+    for (const auto& [name, ring, area] : rows) {
+        EXPECT_FLOAT_EQ(polygonArea(ring), area) << name;
+        const Ring reversed(ring.rbegin(), ring.rend());
+        EXPECT_NEAR(polygonArea(reversed), area, area / 1000) << name << ", reversed";
     }
 }
 
 TEST(RingGeometry, AreaInDoubleDoesNotDependOnWhereTheRingLies) {
-    struct Row {
-        const char* name;
-        Ring ring;
-        double area;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, Ring, double> rows[] = {
         {"nothing", {}, 0},
         {"two points", {{-62, -34}, {-61, -33}}, 0},
         {"square on the equator", square(0, 0, 0.01), 1239214.23},
@@ -54,10 +44,10 @@ TEST(RingGeometry, AreaInDoubleDoesNotDependOnWhereTheRingLies) {
         {"the same in the north", square(-62, 33.99, 0.01), 1027415.63},
         {"a garden", square(-62, -34, 0.0001), 102.7308},
     };
-    for (const Row& row : rows) {
-        EXPECT_NEAR(ringAreaM2(row.ring), row.area, 0.005) << row.name;
-        const Ring reversed(row.ring.rbegin(), row.ring.rend());
-        EXPECT_NEAR(ringAreaM2(reversed), row.area, 0.005) << row.name << ", reversed";
+    for (const auto& [name, ring, area] : rows) {
+        EXPECT_NEAR(ringAreaM2(ring), area, 0.005) << name;
+        const Ring reversed(ring.rbegin(), ring.rend());
+        EXPECT_NEAR(ringAreaM2(reversed), area, 0.005) << name << ", reversed";
     }
 }
 
@@ -68,13 +58,7 @@ TEST(RingGeometry, PointInRing) {
     // The ray from the left runs along the level edge from (1, 1) to (2, 1).
     const Ring step = {{0, 0}, {3, 0}, {3, 2}, {2, 2}, {2, 1}, {1, 1}, {1, 2}, {0, 2}};
     const Ring slanted = {{0, 0}, {10, 1}, {10, 2}, {0, 1}};
-    struct Row {
-        const char* name;
-        const Ring* ring;
-        LonLat point;
-        bool inside;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, const Ring*, LonLat, bool> rows[] = {
         {"left", &box, {-1, 1}, false},
         {"right", &box, {3, 1}, false},
         {"level with a side", &box, {-1, 2}, false},
@@ -90,29 +74,24 @@ TEST(RingGeometry, PointInRing) {
         {"above a slanted edge", &slanted, {8, 1}, true},
         {"below a slanted edge", &slanted, {8, 0.7}, false},
     };
-    for (const Row& row : rows) {
-        EXPECT_EQ(pointInRing(*row.ring, row.point), row.inside) << row.name;
-        const Ring reversed(row.ring->rbegin(), row.ring->rend());
-        EXPECT_EQ(pointInRing(reversed, row.point), row.inside) << row.name << ", reversed";
+    for (const auto& [name, ring, point, inside] : rows) {
+        EXPECT_EQ(pointInRing(*ring, point), inside) << name;
+        const Ring reversed(ring->rbegin(), ring->rend());
+        EXPECT_EQ(pointInRing(reversed, point), inside) << name << ", reversed";
     }
     EXPECT_FALSE(pointInRing({}, {0, 0}));
 }
 
 TEST(RingPerimeter, GoesRoundEachEdgeAtItsOwnLatitude) {
-    struct Row {
-        const char* name;
-        std::vector<LonLat> ring;
-        double metres;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, std::vector<LonLat>, double> rows[] = {
         {"nothing", {}, 0},
         {"a point", {{1, 1}}, 0},
         {"there and back", {{0, 0}, {0.01, 0}}, 2226.4},
         {"a square at the equator", {{0, 0}, {0.01, 0}, {0.01, 0.01}, {0, 0.01}}, 4452.8},
         {"a square at 60 degrees", {{5, 60}, {5.01, 60}, {5.01, 60.01}, {5, 60.01}}, 3339.43},
     };
-    for (const Row& row : rows) {
-        EXPECT_NEAR(ringPerimeter(row.ring), row.metres, 0.1) << row.name;
+    for (const auto& [name, ring, metres] : rows) {
+        EXPECT_NEAR(ringPerimeter(ring), metres, 0.1) << name;
     }
 }
 
