@@ -5,13 +5,11 @@
 
 #include <cstdint>
 #include <optional>
-#include <span>
 #include <string>
 #include <vector>
 
 #include "app/out/export_formats.h"
 #include "app/out/track_export.h"
-#include "base/failure.h"
 #include "base/lon_lat.h"
 #include "base/texts.h"
 #include "model/map_style.h"
@@ -115,17 +113,5 @@ struct Arguments {
     MapStyle style;
     bool overlay = true;
 };
-
-/// `arguments`: the command line without the program's name. A failure tells the user what is wrong
-/// with it.
-[[nodiscard]] Result<Arguments> parseArguments(std::span<const std::string> arguments);
-
-/// The language that a command line asks for, whatever else is wrong with it.
-[[nodiscard]] Language languageOf(std::span<const std::string> arguments);
-
-[[nodiscard]] bool asksForHelp(std::span<const std::string> arguments);
-
-/// All commands and options, in lines.
-[[nodiscard]] std::string usage(const Texts& texts);
 
 }  // namespace campora

@@ -60,7 +60,8 @@ void printOrders(const Orders& orders, const Texts& texts, std::ostream& out) {
 }
 
 /// False when the order is not there or not all of it was copied.
-bool copy(const Orders& orders, const Arguments& arguments, Dialogs& dialogs, const Texts& texts) {
+bool copyAsked(const Orders& orders, const Arguments& arguments, Dialogs& dialogs,
+               const Texts& texts) {
     const OrderCopy& asked = *arguments.copy;
     const auto order = std::find_if(orders.begin(), orders.end(), [&](const WorkOrder& known) {
         return known.number == asked.number;
@@ -90,7 +91,7 @@ int runOrders(const Arguments& arguments, const Console& console) {
     } else {
         printOrders(orders, texts, console.out);
     }
-    const bool copied = failure || !arguments.copy || copy(orders, arguments, dialogs, texts);
+    const bool copied = failure || !arguments.copy || copyAsked(orders, arguments, dialogs, texts);
     return !failure && copied ? exit_status::kDone : exit_status::kRefused;
 }
 

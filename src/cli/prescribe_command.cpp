@@ -109,8 +109,8 @@ std::optional<Failure> whyNotWritten(const Arguments& arguments) {
     return inUse.whyNotTarget(targets);
 }
 
-bool write(const Arguments& arguments, std::span<const ChannelZones> channels,
-           const GenerationContext& context) {
+bool writeGrid(const Arguments& arguments, std::span<const ChannelZones> channels,
+               const GenerationContext& context) {
     const PrescriptionOrder& order = arguments.prescription;
     if (order.kind == GridKind::Vrt) {
         return generateVRT(arguments.output, *order.resolution, {order.name, order.description},
@@ -157,7 +157,7 @@ int runPrescribe(const Arguments& arguments, const Console& console) {
     }
     GridDialogs dialogs(arguments, console.boxes);
     const bool written =
-        write(arguments, channels, {dialogs, session.texts(), session.platform().locale});
+        writeGrid(arguments, channels, {dialogs, session.texts(), session.platform().locale});
     return written ? exit_status::kDone : exit_status::kRefused;
 }
 

@@ -5,6 +5,7 @@
 
 #include "base/interruption.h"
 #include "base/plain_text.h"
+#include "cli/parse_arguments.h"
 
 namespace campora {
 

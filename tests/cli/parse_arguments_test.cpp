@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "cli/arguments.h"
+#include "cli/parse_arguments.h"
 
 #include <string>
 #include <utility>
