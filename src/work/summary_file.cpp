@@ -82,18 +82,6 @@ std::string quoted(std::string_view field) {
     return '"' + replaceAll(field, "\"", "\"\"") + '"';
 }
 
-/// Texts of consoles are plain ASCII as often as not, which leaves the encoding open; they read
-/// Windows-1252.
-bool isUtf8Beyond(std::string_view bytes) {
-    const bool ascii = std::all_of(bytes.begin(), bytes.end(),
-                                   [](char c) { return static_cast<unsigned char>(c) < 0x80; });
-    return !ascii && isUtf8(bytes);
-}
-
-std::string quoted(std::string_view field) {
-    return '"' + replaceAll(field, "\"", "\"\"") + '"';
-}
-
 }  // namespace
 
 SummaryContent splitSummary(std::string_view bytes) {
