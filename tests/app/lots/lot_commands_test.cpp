@@ -3,6 +3,8 @@
 
 #include "app/lots/lot_commands.h"
 
+#include <functional>
+
 #include <gtest/gtest.h>
 
 #include "support/lot_files.h"
@@ -144,48 +146,24 @@ TEST_F(LotCommandsTest, AResultOfMergingThatIsNotSavedGoesOnlyWhenTheUserAgrees)
     openLot("b.lot", squareRing(-59.5, -34, 1));
     EXPECT_TRUE(session.mayCloseFiles());
     commands.mnuLoteMerge();
-    struct Row {
-        const char* name;
-        void (*run)(LotCommandsTest& test);
-        Names after;
+    dialogs.openAnswers.push_back({folder.file("b.lot")});
+    const std::function<void()> ways[] = {
+        [this] { EXPECT_FALSE(session.mayCloseFiles()); },
+        [this] { session.removeCurrentFile(); },
+        [this] { session.fileCommands().openRecent(folder.file("a.lot")); },
+        [this] { session.fileCommands().fileOpen(); },
     };
-    const Row rows[] = {
-        {"closing", [](LotCommandsTest& t) { EXPECT_FALSE(t.session.mayCloseFiles()); }, {}},
-        {"removing", [](LotCommandsTest& t) { t.session.removeCurrentFile(); }, {"a.lot", "b.lot"}},
-        {"a recent file",
-         [](LotCommandsTest& t) { t.session.fileCommands().openRecent(t.folder.file("a.lot")); },
-         {"a.lot"}},
-        {"the open dialog",
-         [](LotCommandsTest& t) {
-             t.dialogs.openAnswers.push_back({t.folder.file("b.lot")});
-             t.session.fileCommands().fileOpen();
-         },
-         {"b.lot"}},
-    };
-    const Names merged{"Fusionado", "a.lot", "b.lot"};
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto& leave : ways) {
         dialogs.questions.clear();
         dialogs.yesNoAnswers = {false};
-        row.run(*this);
+        leave();
         EXPECT_EQ(dialogs.questions, Names{"Exclamation|Lote Virtual|Fusionado no se guardó. "
                                            "¿Perderlo de todos modos?"});
-        EXPECT_EQ(listed(), merged);
-        if (row.after.empty()) {
-            continue;
-        }
-        dialogs.yesNoAnswers = {true};
-        row.run(*this);
-        EXPECT_EQ(listed(), row.after);
-        dialogs.yesNoAnswers = {};
-        for (const char* name : {"a.lot", "b.lot"}) {
-            session.loadFile(folder.file(name), false, true);
-        }
-        if (listed().front() == "b.lot") {
-            break;
-        }
-        commands.mnuLoteMerge();
+        EXPECT_EQ(listed(), (Names{"Fusionado", "a.lot", "b.lot"}));
     }
+    dialogs.yesNoAnswers = {true};
+    session.removeCurrentFile();
+    EXPECT_EQ(listed(), (Names{"a.lot", "b.lot"}));
     dialogs.questions.clear();
     session.removeCurrentFile();  // this one is on disk
     EXPECT_TRUE(dialogs.questions.empty());

@@ -10,6 +10,7 @@
 
 #include "app/presc/dose_choice.h"
 #include "base/paths.h"
+#include "base/text.h"
 #include "support/session_desk.h"
 #include "support/zone_map.h"
 
@@ -142,79 +143,57 @@ TEST_F(DoseColumnsTest, AsksBeforeItTakesManyDoses) {
 
 TEST_F(DoseColumnsTest, AsksHowAColumnIsToBeRead) {
     struct Row {
-        std::vector<std::string> cells;
-        std::optional<Answer> answer;
-        bool confirmed;
+        std::string_view cells;
+        std::optional<Answer> answer;  ///< of a person; none: of the batch program
         const char* says;
         ColumnAnswers beforehand;  ///< of the batch program
-        std::vector<float> doses;
+        std::vector<float> doses;  ///< none where the column is refused
     };
     const ColumnAnswers blanks{true, {}};
     const ColumnAnswers comma{false, DecimalSign::Comma};
+    constexpr auto kYes = Answer::Yes;
+    constexpr auto kNo = Answer::No;
     const Row rows[] = {
-        {{"10", "", "30", " "},
-         Answer::Yes,
-         true,
-         "columna DOSIS: 2 (la primera, el registro 2)",
-         {},
-         {10, 0, 30, 0}},
-        {{"10", ""},
-         Answer::No,
-         false,
-         "recibirán la dosis de resguardo.\n¿Usar la columna así?",
-         {},
-         {}},
-        {{"10", ""}, {}, false, "Para usarla así: --blanks empty", {}, {}},
-        {{"10", ""}, {}, true, "", blanks, {10, 0}},
-        {{"10", "12,5", ""},
-         Answer::Yes,
-         true,
-         "«12,5» (registro 2) se leerá como 12.5.\n¿Usar",
-         {},
-         {10, 12.5F, 0}},
-        {{"10", "12,5", ""}, {}, false, "--blanks empty --decimal-column comma", {}, {}},
-        {{"10", "12,5"}, {}, true, "", comma, {10, 12.5F}},
-        {{"950", "1.200"}, Answer::Yes, true, "¿Son miles? Sí: 1200. No: 1.2.", {}, {950, 1200}},
-        {{"950", "1.200"}, Answer::No, true, "«1.200» (registro 2)", {}, {950, 1.2F}},
-        {{"950", "1.200"}, Answer::Cancel, false, "(el signo separa los miles)", {}, {}},
-        {{"950", "1.200"}, {}, false, "--decimal-column comma|point", {}, {}},
-        {{"950", "1.200"}, {}, true, "", comma, {950, 1200}},
-        {{"950", "120 kg/ha"}, {}, false, "El registro 2 tiene «120 kg/ha»", {}, {}},
-        {{"", " "}, {}, false, "El registro 1 tiene «»", {}, {}},
-        {{"10", "-9999"},
-         {},
-         false,
-         "el registro 2 tiene la dosis -9999, que ninguna consola",
-         {},
-         {}},
-        {{"10", "72.5"},
-         {},
-         true,
-         "(registro 2: 72.5). Un archivo PRE guarda enteros: 72.5 será 72.",
-         {},
-         {10, 72.5F}},
+        {"10||30| ", kYes, "columna DOSIS: 2 (la primera, el registro 2)", {}, {10, 0, 30, 0}},
+        {"10|", kNo, "recibirán la dosis de resguardo.\n¿Usar la columna así?", {}, {}},
+        {"10|", {}, "Para usarla así: --blanks empty", {}, {}},
+        {"10|", {}, "", blanks, {10, 0}},
+        {"10|12,5|", kYes, "«12,5» (registro 2) se leerá como 12.5.\n¿Usar", {}, {10, 12.5F, 0}},
+        {"10|12,5|", {}, "--blanks empty --decimal-column comma", {}, {}},
+        {"10|12,5", {}, "", comma, {10, 12.5F}},
+        {"950|1.200", kYes, "¿Son miles? Sí: 1200. No: 1.2.", {}, {950, 1200}},
+        {"950|1.200", kNo, "«1.200» (registro 2)", {}, {950, 1.2F}},
+        {"950|1.200", Answer::Cancel, "(el signo separa los miles)", {}, {}},
+        {"950|1.200", {}, "--decimal-column comma|point", {}, {}},
+        {"950|1.200", {}, "", comma, {950, 1200}},
+        {"950|120 kg/ha", {}, "El registro 2 tiene «120 kg/ha»", {}, {}},
+        {"| ", {}, "El registro 1 tiene «»", {}, {}},
+        {"10|-9999", {}, "el registro 2 tiene la dosis -9999, que ninguna consola", {}, {}},
+        {"10|72.5", {}, "72.5). Un archivo PRE guarda enteros: 72.5 será 72.", {}, {10, 72.5F}},
     };
     for (const Row& row : rows) {
-        SCOPED_TRACE(testing::PrintToString(row.cells) + row.says);
+        SCOPED_TRACE(std::string(row.cells) + row.says);
         const bool isBatch = !row.answer;
         columns.answers = isBatch ? std::optional(row.beforehand) : std::nullopt;
-        take(rowOfZones(row.cells).write(folder, "m"));
+        const std::vector<std::string_view> cells = split(row.cells, '|');
+        take(rowOfZones({cells.begin(), cells.end()}).write(folder, "m"));
         if (row.answer) {
             dialogs.answers = {*row.answer};
             dialogs.yesNoAnswers = {*row.answer == Answer::Yes};
         }
-        ASSERT_EQ(columns.confirm(), row.confirmed);
+        const bool confirmed = columns.confirm();
         std::string said;
         for (const std::string& text : isBatch ? dialogs.messages : dialogs.questions) {
             said += text;
         }
-        EXPECT_NE(said.find(row.says), std::string::npos) << said;
-        if (row.confirmed) {
-            const auto channels = columns.getChannels();
-            for (std::size_t i = 0; i < row.doses.size(); ++i) {
-                EXPECT_EQ(channels[0]->polygons()[i].dosis, row.doses[i]);
+        EXPECT_NE(said.find(row.says), said.npos) << said;
+        std::vector<float> doses;
+        if (confirmed) {
+            for (const auto& polygon : columns.getChannels()[0]->polygons()) {
+                doses.push_back(polygon.dosis);
             }
         }
+        EXPECT_EQ(doses, row.doses);
     }
 }
 
