@@ -15,7 +15,8 @@ namespace {
 
 constexpr std::uint32_t kPaper = 0;
 
-/// A small picture that prints as text: "." where nothing was drawn, else the colour's digit.
+/// A small picture that prints as text, row by row: "." where nothing was drawn, else the colour's
+/// digit.
 struct Picture {
     Picture(int width, int height)
         : pixels(static_cast<std::size_t>(width * height), kPaper),
@@ -28,7 +29,7 @@ struct Picture {
                 const std::uint32_t color = at(column, row);
                 result += color == kPaper ? '.' : static_cast<char>('0' + color);
             }
-            result += '\n';
+            result += row + 1 < grid.height ? "|" : "";
         }
         return result;
     }
@@ -46,30 +47,22 @@ TEST(RingFiller, FillsThePixelsWhoseCentresLieInside) {
         std::vector<PixelPoint> ring;
         const char* picture;
     };
+    const char* const kNone = "......|......|......|......";
+    const char* const kAll = "111111|111111|111111|111111";
     const Row rows[] = {
-        {"square on pixel edges",
-         {{1, 1}, {4, 1}, {4, 3}, {1, 3}},
-         "......\n.111..\n.111..\n......\n"},
-        {"too thin for a centre",
-         {{1, 1.6}, {5, 1.6}, {5, 2.4}, {1, 2.4}},
-         "......\n......\n......\n......\n"},
-        {"triangle", {{0, 0}, {6, 4}, {0, 4}}, "1.....\n11....\n1111..\n11111.\n"},
-        {"two points are no area", {{0, 0}, {6, 4}}, "......\n......\n......\n......\n"},
+        {"square on pixel edges", {{1, 1}, {4, 1}, {4, 3}, {1, 3}}, "......|.111..|.111..|......"},
+        {"too thin for a centre", {{1, 1.6}, {5, 1.6}, {5, 2.4}, {1, 2.4}}, kNone},
+        {"triangle", {{0, 0}, {6, 4}, {0, 4}}, "1.....|11....|1111..|11111."},
+        {"two points are no area", {{0, 0}, {6, 4}}, kNone},
         {"a second turn the same way leaves no hole",
          {{0, 0}, {6, 0}, {6, 4}, {0, 4}, {0, 0}, {2, 1}, {4, 1}, {4, 3}, {2, 3}, {2, 1}},
-         "111111\n111111\n111111\n111111\n"},
+         kAll},
         {"a second turn the other way does",
          {{0, 0}, {6, 0}, {6, 4}, {0, 4}, {0, 0}, {2, 1}, {2, 3}, {4, 3}, {4, 1}, {2, 1}},
-         "111111\n11..11\n11..11\n111111\n"},
-        {"figure of eight: both halves",
-         {{0, 0}, {6, 4}, {6, 0}, {0, 4}},
-         "1....1\n11..11\n11..11\n1....1\n"},
-        {"far outside on all sides",
-         {{-1e9, -1e9}, {1e9, -1e9}, {1e9, 1e9}, {-1e9, 1e9}},
-         "111111\n111111\n111111\n111111\n"},
-        {"beside the picture",
-         {{7, 0}, {9, 0}, {9, 4}, {7, 4}},
-         "......\n......\n......\n......\n"},
+         "111111|11..11|11..11|111111"},
+        {"figure of eight", {{0, 0}, {6, 4}, {6, 0}, {0, 4}}, "1....1|11..11|11..11|1....1"},
+        {"far outside", {{-1e9, -1e9}, {1e9, -1e9}, {1e9, 1e9}, {-1e9, 1e9}}, kAll},
+        {"beside the picture", {{7, 0}, {9, 0}, {9, 4}, {7, 4}}, kNone},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
@@ -175,28 +168,22 @@ TEST(LineDrawer, DrawsLinesOfAnyDirectionWidthAndStyle) {
         LineDrawer::Pen pen;
         const char* picture;
     };
+    const LineDrawer::Pen thin{1, 1, false};
+    const LineDrawer::Pen wide{1, 2, false};
+    const LineDrawer::Pen dots{1, 1, true};
     const Row rows[] = {
-        {"a point", {{{2.5, 1.5}, {2.5, 1.5}}}, {1, 1, false}, ".......\n..1....\n.......\n"},
-        {"both ends belong to it",
-         {{{1, 1}, {5, 1}}},
-         {1, 1, false},
-         ".......\n.11111.\n.......\n"},
-        {"slanting", {{{0, 0}, {6, 2}}}, {1, 1, false}, "11.....\n..111..\n.....11\n"},
-        {"two pixels wide", {{{1, 0}, {3, 0}}}, {1, 2, false}, ".1111..\n.1111..\n.......\n"},
-        {"dotted", {{{0, 1}, {6, 1}}}, {1, 1, true}, ".......\n1..1..1\n.......\n"},
+        {"a point", {{{2.5, 1.5}, {2.5, 1.5}}}, thin, ".......|..1....|......."},
+        {"both ends belong to it", {{{1, 1}, {5, 1}}}, thin, ".......|.11111.|......."},
+        {"slanting", {{{0, 0}, {6, 2}}}, thin, "11.....|..111..|.....11"},
+        {"two pixels wide", {{{1, 0}, {3, 0}}}, wide, ".1111..|.1111..|......."},
+        {"dotted", {{{0, 1}, {6, 1}}}, dots, ".......|1..1..1|......."},
         {"dots go on over short steps",
          {{{0, 1}, {2, 1}}, {{2, 1}, {4, 1}}, {{4, 1}, {6, 1}}},
-         {1, 1, true},
-         ".......\n1..1..1\n.......\n"},
-        {"dots start anew elsewhere",
-         {{{0, 0}, {2, 0}}, {{1, 2}, {5, 2}}},
-         {1, 1, true},
-         "1......\n.......\n.1..1..\n"},
-        {"clipped at both ends",
-         {{{-1e8, 1}, {1e8, 1}}},
-         {1, 1, false},
-         ".......\n1111111\n.......\n"},
-        {"wholly outside", {{{-5, -5}, {9, -4}}}, {1, 1, false}, ".......\n.......\n.......\n"},
+         dots,
+         ".......|1..1..1|......."},
+        {"elsewhere anew", {{{0, 0}, {2, 0}}, {{1, 2}, {5, 2}}}, dots, "1......|.......|.1..1.."},
+        {"clipped at both ends", {{{-1e8, 1}, {1e8, 1}}}, thin, ".......|1111111|......."},
+        {"wholly outside", {{{-5, -5}, {9, -4}}}, thin, ".......|.......|......."},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);

@@ -8,6 +8,7 @@
 #include <new>
 #include <random>
 #include <span>
+#include <tuple>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -33,22 +34,15 @@ Color colorAt(const RasterCanvas& canvas, int x, int y) {
 }
 
 TEST(RasterCanvas, IsAsManyPixelsAsItsUnitsAndRatioSay) {
-    struct Row {
-        CanvasSize size;
-        double ratio;
-        int width;
-        int height;
+    const std::tuple<CanvasSize, double, QSize> rows[] = {
+        {{18000, 13500}, 1, {1200, 900}},
+        {{18000, 13500}, 2, {2400, 1800}},
+        {{150, 150}, 1.5, {15, 15}},
+        {{0, 0}, 1, {1, 1}},
     };
-    const Row rows[] = {
-        {{18000, 13500}, 1, 1200, 900},
-        {{18000, 13500}, 2, 2400, 1800},
-        {{150, 150}, 1.5, 15, 15},
-        {{0, 0}, 1, 1, 1},
-    };
-    for (const Row& row : rows) {
-        const RasterCanvas canvas(row.size, row.ratio);
-        EXPECT_EQ(canvas.image().width(), row.width);
-        EXPECT_EQ(canvas.image().height(), row.height);
+    for (const auto& [units, ratio, pixels] : rows) {
+        const RasterCanvas canvas(units, ratio);
+        EXPECT_EQ(canvas.image().size(), pixels);
         EXPECT_EQ(colorAt(canvas, 0, 0), Color::rgb(255, 255, 255));
     }
 }
