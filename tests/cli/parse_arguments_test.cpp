@@ -87,6 +87,8 @@ TEST(Arguments, LooksOfThePicture) {
     EXPECT_EQ(rendered(" --channel 3").style.selectedChannel, 2);
     EXPECT_EQ(rendered(" --channel total").style.selectedChannel, -1);
     EXPECT_EQ(rendered(" --error-limit 12.5").style.errorLimit, 12.5F);
+    EXPECT_EQ(rendered(" --error-limit 0").style.errorLimit, 0);
+    EXPECT_EQ(parsed("export-track a --polygon-length 100").trackExport.polygonLength, 100);
     EXPECT_EQ(parsed("render a.rpt -o x/A.BMP").output, "x/A.BMP");
 }
 
