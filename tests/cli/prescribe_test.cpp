@@ -27,16 +27,17 @@ namespace {
 
 using nlohmann::json;
 using testing::HasSubstr;
+using testing::Not;
 
 struct Prescribe : BatchRun {
     /// Two squares of 111 m at the equator side by side, doses 10 and 20; NOMBRE is no number.
     Prescribe() {
         ShapeBytes shapes(5);
-        DbaseBytes table({{"DOSIS", 'N', 10}, {"NOMBRE", 'C', 10}});
+        DbaseBytes table({{"DOSIS", 'N', 10}, {"NOMBRE", 'C', 10}, {"MEDIA", 'N', 10}});
         for (int i = 0; i < 2; ++i) {
             const double x = -60 + 0.001 * i;
             shapes.addPolygon({{{x, 0}, {x, 0.001}, {x + 0.001, 0.001}, {x + 0.001, 0}, {x, 0}}});
-            table.addRow({std::to_string(10 + 10 * i), "lote"});
+            table.addRow({std::to_string(10 + 10 * i), "lote", "10.5"});
         }
         folder.write("mapa.dbf", table.bytes());
         folder.write("mapa.shp", shapes.bytes());
@@ -59,6 +60,7 @@ TEST_F(Prescribe, SaysWhatItWroteAndAnswersAsItIsTold) {
         {"no fallback", "DOSIS,", "10", 0, "Canal 1: 242 celdas con dosis, 2.42 ha, "},
         {"a size of 0", "DOSIS", "0", 1, "mayor que 0"},
         {"no such column", "dosis", "10", 1, "la columna «dosis». Elija una de estas: DOSIS, N"},
+        {"decimals", "MEDIA", "10", 0, "Un archivo PRE guarda enteros"},
         {"texts", "NOMBRE", "10", 1, "contiene valores no numéricos"},
     };
     for (const Row& row : rows) {
@@ -70,6 +72,10 @@ TEST_F(Prescribe, SaysWhatItWroteAndAnswersAsItIsTold) {
         EXPECT_EQ(std::filesystem::exists(grid), row.status == 0);
         std::filesystem::remove(grid);
     }
+    const Outcome decimals = run({"prescribe", "--format", "vrt", "--resolution", "10", "--channel",
+                                  map + ",MEDIA", "-o", folder.file("out.vrt")});
+    EXPECT_EQ(decimals.status, 0);
+    EXPECT_THAT(decimals.boxes, Not(HasSubstr("enteros"))) << "a VRT file keeps decimals";
     const Outcome missing =
         run({"prescribe", "--channel", folder.file("no.shp") + ",D", "-o", grid});
     EXPECT_EQ(missing.status, 1);

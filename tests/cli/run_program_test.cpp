@@ -8,6 +8,7 @@
 #include <sstream>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include <QImage>
 #include <gmock/gmock.h>
@@ -190,9 +191,11 @@ TEST_F(Program, TheMapHasTheChosenColours) {
     const std::string picture = folder.file("mapa.png");
     const std::pair<Words, QRgb> rows[] = {
         {{}, qRgb(255, 255, 0)},
+        {{"--no-overlay"}, qRgb(255, 255, 0)},
         {{"--mode", "plain"}, qRgb(0x80, 0x80, 0xFF)},
         {{"--mode", "error", "--channel", "1"}, qRgb(255, 0, 255)},
     };
+    std::vector<std::size_t> sizes;
     for (const auto& [options, swath] : rows) {
         Words words = {"render", folder.write("lote.rpt", reportBytes(1500)),
                        "-o",     picture,
@@ -205,7 +208,9 @@ TEST_F(Program, TheMapHasTheChosenColours) {
         ASSERT_EQ(image.size(), QSize(600, 450));
         // The two steps meet in the middle; this is inside the first.
         EXPECT_EQ(image.pixel(150, 232), swath) << testing::PrintToString(options);
+        sizes.push_back(contentOf(picture).size());
     }
+    EXPECT_GT(sizes[0], sizes[1]) << "a scale bar and arrows";
 }
 
 TEST_F(Program, APictureThatCannotBeMadeLeavesNothing) {
