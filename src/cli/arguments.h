@@ -13,9 +13,9 @@
 #include "base/lon_lat.h"
 #include "base/texts.h"
 #include "model/map_style.h"
+#include "model/number_column.h"
 #include "platform/dialogs.h"
 #include "presc/grid_layout.h"
-#include "presc/number_column.h"
 
 namespace campora {
 

@@ -11,8 +11,8 @@
 #include <string_view>
 #include <vector>
 
+#include "base/code_page.h"
 #include "model/cell_value.h"
-#include "presc/code_page.h"
 
 namespace campora {
 

@@ -14,10 +14,10 @@
 #include "colour/color_scale.h"
 #include "colour/set_list.h"
 #include "model/file.h"
+#include "model/number_column.h"
 #include "model/still_layer.h"
 #include "platform/dialogs.h"
 #include "presc/gph_polygon_multi.h"
-#include "presc/number_column.h"
 #include "presc/shape_reader.h"
 #include "rtree/r2_tree.h"
 

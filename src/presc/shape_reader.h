@@ -13,7 +13,7 @@
 #include "base/failure.h"
 #include "base/files.h"
 #include "model/cell_value.h"
-#include "presc/coordinate_system.h"
+#include "model/coordinate_system.h"
 #include "presc/dbase_view.h"
 #include "presc/shapefile_view.h"
 

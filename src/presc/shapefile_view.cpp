@@ -8,7 +8,7 @@
 #include <stdexcept>
 
 #include "base/numbers.h"
-#include "presc/ring_holes.h"
+#include "model/ring_holes.h"
 
 namespace campora {
 

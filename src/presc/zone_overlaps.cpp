@@ -7,7 +7,7 @@
 #include <cmath>
 #include <span>
 
-#include "presc/ring_holes.h"
+#include "model/ring_holes.h"
 #include "presc/zone_raster.h"
 
 namespace campora {

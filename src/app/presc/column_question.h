@@ -7,8 +7,8 @@
 #include <string>
 
 #include "base/texts.h"
+#include "model/number_column.h"
 #include "platform/user_locale.h"
-#include "presc/number_column.h"
 
 namespace campora {
 

@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "presc/ring_holes.h"
+#include "model/ring_holes.h"
 
 #include <algorithm>
 #include <cmath>

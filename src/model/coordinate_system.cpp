@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "presc/coordinate_system.h"
+#include "model/coordinate_system.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "presc/number_column.h"
+#include "model/number_column.h"
 
 #include <algorithm>
 #include <charconv>

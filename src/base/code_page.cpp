@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "presc/code_page.h"
+#include "base/code_page.h"
 
 #include <algorithm>
 #include <array>
