@@ -13,7 +13,8 @@
 #include "base/json_text.h"
 #include "base/numbers.h"
 #include "export/export_layers.h"
-#include "export/valid_polygons.h"
+#include "export/fine_grid.h"
+#include "export/ring_repair.h"
 
 namespace campora {
 

@@ -30,7 +30,7 @@ namespace campora {
 
 namespace {
 
-/// A ring and its `twiceArea`.
+/// A ring and its `twiceClosedArea`.
 struct Loop {
     ClosedRing ring;
     double twiceArea = 0;
@@ -143,7 +143,7 @@ private:
             loop.ring.push_back(place(node));
         }
         loop.ring.push_back(loop.ring.front());
-        loop.twiceArea = twiceArea(loop.ring);
+        loop.twiceArea = twiceClosedArea(loop.ring);
         if (loop.twiceArea != 0) {
             found.push_back(std::move(loop));
         }

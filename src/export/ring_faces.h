@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "export/ring_segments.h"
-#include "export/valid_polygons.h"
+#include "export/valid_polygon.h"
 
 namespace campora {
 

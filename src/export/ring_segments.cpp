@@ -204,7 +204,7 @@ int turnOf(LonLat a, LonLat b, LonLat c) {
     return turn > 0 ? 1 : -1;
 }
 
-double twiceArea(std::span<const LonLat> ring) {
+double twiceClosedArea(std::span<const LonLat> ring) {
     double sum = 0;
     double size = 0;
     const LonLat origin = ring.front();

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "base/lon_lat.h"
-#include "export/valid_polygons.h"
+#include "export/fine_grid.h"
 
 namespace campora {
 
@@ -17,8 +17,9 @@ namespace campora {
 /// far as 64-bit floats can tell.
 [[nodiscard]] int turnOf(LonLat a, LonLat b, LonLat c);
 
-/// Of a closed ring, positive against the clock; 0 where it is lost in the last digits.
-[[nodiscard]] double twiceArea(std::span<const LonLat> ring);
+/// Of a ring whose first point stands again at the end: square degrees, positive against the clock;
+/// 0 where it is lost in the last digits.
+[[nodiscard]] double twiceClosedArea(std::span<const LonLat> ring);
 
 /// The edges of a ring, divided where they meet: two of them share at most an end.
 struct SegmentGraph {

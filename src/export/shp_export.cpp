@@ -15,8 +15,8 @@
 #include "base/number_forms.h"
 #include "base/numbers.h"
 #include "export/export_layers.h"
+#include "export/ring_repair.h"
 #include "export/shapefile_writer.h"
-#include "export/valid_polygons.h"
 
 namespace campora {
 

@@ -7,22 +7,10 @@
 #include <vector>
 
 #include "base/lon_lat.h"
+#include "export/fine_grid.h"
+#include "export/valid_polygon.h"
 
 namespace campora {
-
-/// A closed ring: the first point stands again at the end.
-using ClosedRing = std::vector<LonLat>;
-
-/// A surface without crossings: an outer ring, clockwise, and holes, which run against the clock.
-struct ValidPolygon {
-    ClosedRing outer;
-    std::vector<ClosedRing> holes;
-};
-
-/// The place in whole steps of a billionth of a degree.
-[[nodiscard]] LonLat onFineGrid(LonLat point);
-
-enum class Corners { Anywhere, OnFineGrid };
 
 /// What `ring` (degrees, open or closed, either way round) encloses by the even-odd rule, as simple
 /// polygons that touch each other in single points at most ("OpenGIS Simple Features", 6.1.11). A

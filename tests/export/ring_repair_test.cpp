@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "export/valid_polygons.h"
+#include "export/ring_repair.h"
 
 #include <cmath>
 #include <limits>
@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include "export/fine_grid.h"
 #include "export/ring_segments.h"
 #include "model/ring_geometry.h"
 
@@ -52,7 +53,7 @@ void expectSimple(const std::vector<ValidPolygon>& polygons) {
     const auto expectRing = [](const ClosedRing& ring, bool isHole) {
         ASSERT_GE(ring.size(), 4U);
         EXPECT_EQ(ring.front(), ring.back());
-        EXPECT_EQ(twiceArea(ring) > 0, isHole);
+        EXPECT_EQ(twiceClosedArea(ring) > 0, isHole);
         for (std::size_t i = 0; i + 1 < ring.size(); ++i) {
             EXPECT_EQ(std::count(ring.begin() + 1, ring.end(), ring[i]), 1);
         }
@@ -139,9 +140,9 @@ TEST(ValidPolygons, GiveWhatTheRingEncloses) {
         double area = 0;
         for (const ValidPolygon& polygon : polygons) {
             holes += polygon.holes.size();
-            area -= twiceArea(polygon.outer) / 2;
+            area -= twiceClosedArea(polygon.outer) / 2;
             for (const ClosedRing& hole : polygon.holes) {
-                area -= twiceArea(hole) / 2;
+                area -= twiceClosedArea(hole) / 2;
             }
         }
         EXPECT_EQ(holes, row.holes);

@@ -1,12 +1,11 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "export/valid_polygons.h"
+#include "export/ring_repair.h"
 
 #include <algorithm>
 #include <cmath>
 
-#include "base/numbers.h"
 #include "export/ring_faces.h"
 #include "export/ring_segments.h"
 
@@ -49,21 +48,13 @@ bool isConvex(std::span<const LonLat> points) {
 ClosedRing clockwise(std::span<const LonLat> points) {
     ClosedRing ring(points.begin(), points.end());
     ring.push_back(points.front());
-    if (twiceArea(ring) > 0) {
+    if (twiceClosedArea(ring) > 0) {
         std::reverse(ring.begin(), ring.end());
     }
     return ring;
 }
 
 }  // namespace
-
-LonLat onFineGrid(LonLat point) {
-    constexpr double kStepsPerDegree = 1e9;
-    const auto snapped = [](double degrees) {
-        return roundHalfEven(degrees * kStepsPerDegree) / kStepsPerDegree;
-    };
-    return {snapped(point.x), snapped(point.y)};
-}
 
 void collectValidPolygons(std::span<const LonLat> ring, Corners corners,
                           std::vector<ValidPolygon>& polygons) {
