@@ -160,7 +160,7 @@ void readBack(WatchedSession& watched, const std::string& path) {
         if (const std::optional<Failure> failure = reader.open(path)) {
             stop("export refused", watched.session.texts().sentence(*failure));
         }
-        if (reader.damage() || reader.tableWarning()) {
+        if (reader.notes().damage || reader.notes().tableWarning) {
             stop("damaged export", path);
         }
     } else if (pathEnding(path) == ".txt") {

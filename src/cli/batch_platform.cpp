@@ -95,7 +95,7 @@ bool BatchSession::openFiles() {
     for (int i = 0; i < files.loadedCount(); ++i) {
         dialogs_.note(files.file(i), session_.texts());
         const auto* const zones = dynamic_cast<const GphPresc*>(&files.file(i));
-        all = all && (zones == nullptr || zones->isWhole());
+        all = all && (zones == nullptr || !zones->notes().damage);
     }
     return all && !isInterrupted();
 }

@@ -7,15 +7,12 @@
 #include <cstddef>
 #include <stdexcept>
 #include <utility>
-#include <variant>
 
-#include "base/dates.h"
 #include "base/numbers.h"
 #include "base/paths.h"
 #include "base/typed_number.h"
 #include "model/measures.h"
 #include "model/shown_number.h"
-#include "presc/read_figure.h"
 #include "presc/tree_units.h"
 
 namespace campora {
@@ -25,24 +22,6 @@ namespace {
 /// Canvas units from the pointer to a line or a point that it means.
 constexpr std::int32_t kReach = 90;
 constexpr std::string_view kLineEnd = "\r\n";
-
-/// A cell as the information box shows it.
-struct CellText {
-    const UserLocale& locale;
-
-    std::string operator()(std::monostate /*empty*/) const { return {}; }
-    std::string operator()(std::int64_t number) const { return numberText(number); }
-    std::string operator()(float number) const {
-        return numberText(static_cast<double>(number), locale.decimalSymbol());
-    }
-    std::string operator()(double number) const {
-        return numberText(number, locale.decimalSymbol());
-    }
-    std::string operator()(const std::string& text) const { return text; }
-    std::string operator()(const Date& date) const {
-        return dateText(date, locale.shortDateForm());
-    }
-};
 
 }  // namespace
 
@@ -66,18 +45,17 @@ bool GphPresc::loadFromFile(std::string_view path, Dialogs& dialogs, const Texts
         dialogs.message(texts.sentence(because(TextId::ShapeCannotOpen, {}, failure)),
                         MessageIcon::Plain, caption);
     };
-    if (const std::optional<Failure> failure = reader_.open(path)) {
+    if (const std::optional<Failure> failure = table_.open(path)) {
         tellError(*failure);
         return false;
     }
-    if (const std::optional<Failure>& warning = reader_.tableWarning()) {
+    if (const std::optional<Failure>& warning = table_.notes().tableWarning) {
         dialogs.message(texts.sentence(*warning), MessageIcon::Exclamation, caption);
     }
     name_ = fileNamePart(path);
     path_ = path;
-    readColumns();
     readRecords();
-    if (const std::optional<Failure>& damage = reader_.damage()) {
+    if (const std::optional<Failure>& damage = table_.notes().damage) {
         tellError(*damage);
     }
     if (!bound_.isSet) {
@@ -87,25 +65,14 @@ bool GphPresc::loadFromFile(std::string_view path, Dialogs& dialogs, const Texts
     return true;
 }
 
-void GphPresc::readColumns() {
-    columnNames_.clear();
-    SetList set;
-    set.addDosis(0);
-    for (int column = 1; column <= reader_.fieldCount(); ++column) {
-        columnNames_.push_back(reader_.fieldName(column));
-    }
-    sets_.assign(columnNames_.size(), set);
-}
-
 void GphPresc::readRecords() {
     report(0, 1);
-    const std::int32_t records = reader_.recordCount();
+    const std::int32_t records = table_.recordCount();
     polygons_.reserve(static_cast<std::size_t>(records));
-    for (reader_.moveFirst(); reader_.record() <= records; reader_.moveNext()) {
-        report(reader_.record(), records);
-        collectDoses(reader_.partCount());
-        addPolygon(readFigure(reader_));
-    }
+    table_.readFigures([&](std::int32_t record, GphPolygonMulti figure) {
+        report(record, records);
+        addPolygon(std::move(figure));
+    });
     const auto first =
         std::find_if(polygons_.begin(), polygons_.end(),
                      [](const GphPolygonMulti& polygon) { return polygon.Gph_bound().isSet; });
@@ -130,25 +97,6 @@ void GphPresc::rank() {
     }
 }
 
-void GphPresc::collectDoses(std::int32_t parts) {
-    if (parts == 0) {
-        return;
-    }
-    for (std::size_t i = 0; i < sets_.size(); ++i) {
-        if (!sets_[i]) {
-            continue;
-        }
-        const std::optional<double> value = reader_.fieldNumber(static_cast<int>(i) + 1);
-        if (!value) {
-            sets_[i].reset();
-            continue;
-        }
-        for (std::int32_t part = 0; part < parts; ++part) {
-            sets_[i]->addDosis(*value);
-        }
-    }
-}
-
 void GphPresc::addPolygon(GphPolygonMulti polygon) {
     polygon.color = plain_;
     const BoundingBox& box = polygon.Gph_bound();
@@ -167,59 +115,30 @@ void GphPresc::report(std::int64_t done, std::int64_t all) const {
     }
 }
 
-const SetList* GphPresc::setOf(int column) const {
-    if (column < 1 || column > columnCount()) {
-        return nullptr;
-    }
-    const std::optional<SetList>& set = sets_[static_cast<std::size_t>(column) - 1];
-    return set ? &*set : nullptr;
-}
-
 bool GphPresc::columnaNumeric(int column) const {
-    return setOf(column) != nullptr;
+    return table_.setOf(column) != nullptr;
 }
 
 const std::vector<double>& GphPresc::dosisCollection(int column) const {
     static const std::vector<double> none;
-    const SetList* const set = setOf(column);
+    const SetList* const set = table_.setOf(column);
     return set == nullptr ? none : set->getSet();
 }
 
 const SetList* GphPresc::currentDosisSet() const {
-    return setOf(column_);
+    return table_.setOf(column_);
 }
 
 ColumnSurvey GphPresc::survey(int column) const {
-    ColumnSurvey survey(reader_.isTextField(column));
-    for (std::int32_t record = 1; record <= Gph_count(); ++record) {
-        if (polygons_[static_cast<std::size_t>(record) - 1].Gph_bound().isSet) {
-            survey.add(record, reader_.fieldText(record, column),
-                       reader_.fieldNumber(record, column).has_value());
-        }
-    }
-    return survey;
+    return table_.survey(column, polygons_);
 }
 
 std::vector<std::optional<double>> GphPresc::values(int column, ColumnForm form) const {
-    std::vector<std::optional<double>> values;
-    values.reserve(polygons_.size());
-    for (std::int32_t record = 1; record <= Gph_count(); ++record) {
-        if (!polygons_[static_cast<std::size_t>(record) - 1].Gph_bound().isSet) {
-            values.emplace_back();
-            continue;
-        }
-        std::optional<double> value = reader_.fieldNumber(record, column);
-        if (!value || form.decimal != DecimalSign::Point) {
-            value = numberInForm(reader_.fieldText(record, column), form.decimal);
-        }
-        values.push_back(value);
-    }
-    return values;
+    return table_.values(column, form, polygons_);
 }
 
 void GphPresc::setColumnaDosis(int column, ColumnForm form) {
-    if (column < 1 || column > columnCount() ||
-        (form == ColumnForm() && setOf(column) == nullptr)) {
+    if (column < 1 || column > columnCount() || (form == ColumnForm() && !columnaNumeric(column))) {
         return;
     }
     const std::vector<std::optional<double>> read = values(column, form);
@@ -246,9 +165,8 @@ void GphPresc::setColumnaDosis(int column, ColumnForm form) {
         listedDoses_.push_back(polygon.dosis);
     }
     rank();
-    std::optional<SetList>& current = sets_[static_cast<std::size_t>(column) - 1];
-    current = std::move(set);
-    scale_.loadFromSetList(*current, 0);  // which colours the zones
+    table_.replaceSet(column, std::move(set));
+    scale_.loadFromSetList(*currentDosisSet(), 0);  // which colours the zones
     report(1, 1);
 }
 
@@ -273,9 +191,8 @@ void GphPresc::recalculateColorScale() {
             set.addDosis(static_cast<double>(polygon.dosis));
         }
     }
-    std::optional<SetList>& current = sets_[static_cast<std::size_t>(column_) - 1];
-    current = std::move(set);
-    scale_.loadFromSetList(*current, 0);
+    table_.replaceSet(column_, std::move(set));
+    scale_.loadFromSetList(*currentDosisSet(), 0);
 }
 
 void GphPresc::changeValue(double oldValue, double newValue) {
@@ -363,20 +280,12 @@ std::int32_t GphPresc::Gph_mouseOver(const ViewTransform& view, const MapStyle& 
     });
 }
 
-std::string GphPresc::cellText(std::int32_t record, int column, const InfoContext& context) const {
-    reader_.moveTo(record);
-    const CellValue value = reader_.fieldValue(column);
-    return std::holds_alternative<std::monostate>(value)
-               ? reader_.fieldText(record, column)
-               : std::visit(CellText{context.locale}, value);
-}
-
 std::string GphPresc::Gph_getInfo(const InfoContext& context, std::int32_t n) const {
     const GphPolygonMulti& polygon = polygons_.at(static_cast<std::size_t>(n));
     std::string text;
     for (int column = 1; column <= columnCount(); ++column) {
-        text.append(reader_.fieldName(column)).append(": ");
-        text.append(cellText(n + 1, column, context));
+        text.append(columnNames()[static_cast<std::size_t>(column) - 1]).append(": ");
+        text.append(table_.shownCell(n + 1, column, context.locale));
         text.append(kLineEnd);
         if (column == column_ && polygon.dosis != listedDoses_[static_cast<std::size_t>(n)]) {
             text.append(context.texts.format(

@@ -18,7 +18,7 @@
 #include "model/still_layer.h"
 #include "platform/dialogs.h"
 #include "presc/gph_polygon_multi.h"
-#include "presc/shape_reader.h"
+#include "presc/zone_table.h"
 #include "rtree/r2_tree.h"
 
 namespace campora {
@@ -43,19 +43,16 @@ public:
     /// False when it cannot be read, or is not there, which is told by nobody; the layer is as
     /// before then.
     bool loadFromFile(std::string_view path, Dialogs& dialogs, const Texts& texts);
-    /// False when the file was read only up to where it is damaged.
-    [[nodiscard]] bool isWhole() const { return !reader_.damage(); }
 
     [[nodiscard]] const std::string& name() const { return name_; }
-    [[nodiscard]] int columnCount() const { return static_cast<int>(columnNames_.size()); }
-    [[nodiscard]] const std::vector<std::string>& columnNames() const { return columnNames_; }
+    /// What is wrong or missing with the file, and its coordinates.
+    [[nodiscard]] const ShapefileNotes& notes() const { return table_.notes(); }
+    [[nodiscard]] int columnCount() const { return table_.columnCount(); }
+    [[nodiscard]] const std::vector<std::string>& columnNames() const {
+        return table_.columnNames();
+    }
     /// What the map is made of: zones where there is one among its records.
     [[nodiscard]] FigureKind figures() const { return figures_; }
-    /// Whether there is no table beside the map.
-    [[nodiscard]] bool isTableMissing() const { return reader_.isTableMissing(); }
-    [[nodiscard]] const CoordinateSystem& coordinateSystem() const {
-        return reader_.coordinateSystem();
-    }
 
     /// Whether every record has a number there; false for columns that are not there.
     [[nodiscard]] bool columnaNumeric(int column) const;
@@ -126,30 +123,20 @@ public:
     [[nodiscard]] std::int32_t File_priority() const override { return 0; }
 
 private:
-    void readColumns();
     void readRecords();
-    /// The values of the current record, once for each of its parts.
-    void collectDoses(std::int32_t parts);
     /// The order of the search, and the doses that take part in it.
     void rank();
-    [[nodiscard]] std::string cellText(std::int32_t record, int column,
-                                       const InfoContext& context) const;
     void addPolygon(GphPolygonMulti polygon);
     void changeValue(double oldValue, double newValue);
     void colorAgain();
     void report(std::int64_t done, std::int64_t all) const;
-    [[nodiscard]] const SetList* setOf(int column) const;
 
     Color plain_;
     std::string name_;
     std::string path_;
-    std::vector<std::string> columnNames_;
-    /// None for columns that are not numeric.
-    std::vector<std::optional<SetList>> sets_;
+    ZoneTable table_;
     std::vector<GphPolygonMulti> polygons_;
     BoundingBox bound_;
-    /// Steps through the records again for doses and information, which changes nothing that shows.
-    mutable ShapeReader reader_;
     R2Tree tree_;
     std::vector<std::int32_t> order_;
     /// Everything else that is drawn: ground without a dose, below the zones, and lines and points,

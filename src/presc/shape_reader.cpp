@@ -62,16 +62,16 @@ std::optional<Failure> ShapeReader::open(std::string_view path) {
     auto files = std::make_unique<Files>();
     files->shapeBytes = std::move(*main);
     const std::string_view base = withoutEnding(path);
-    files->system = readCoordinateSystem(base);
+    files->notes.system = readCoordinateSystem(base);
     const FileBytes index = readIfPossible(companionOf(base, kShapeIndexEnding));
     try {
         files->shapes = ShapefileView(files->shapeBytes.bytes(), index.bytes());
     } catch (const FormatError& error) {
         return because(TextId::FileCannotBeRead, {std::string(path)},
-                       withProjection(error.failure(), files->system));
+                       withProjection(error.failure(), files->notes.system));
     }
     if (const std::optional<Failure>& damage = files->shapes.damage()) {
-        files->damage =
+        files->notes.damage =
             because(TextId::ShapeReadInPart,
                     {std::string(path), numberText(files->shapes.recordCount())}, *damage);
     }
@@ -84,12 +84,12 @@ std::optional<Failure> ShapeReader::open(std::string_view path) {
 void ShapeReader::readTable(std::string_view base, Files& files) {
     const std::string path = companionOf(base, kTableEnding);
     if (!isThere(path)) {
-        files.tableMissing = true;
+        files.notes.isTableMissing = true;
         return;
     }
     Result<FileBytes> table = readFile(path);
     if (!table) {
-        files.tableWarning = because(TextId::TableLeftOut, {}, table.failure());
+        files.notes.tableWarning = because(TextId::TableLeftOut, {}, table.failure());
         return;
     }
     files.tableBytes = std::move(*table);
@@ -99,8 +99,8 @@ void ShapeReader::readTable(std::string_view base, Files& files) {
     try {
         files.table = DbaseView(files.tableBytes.bytes(), page);
     } catch (const FormatError& error) {
-        files.tableWarning = because(TextId::TableLeftOut, {},
-                                     because(TextId::FileCannotBeRead, {path}, error.failure()));
+        files.notes.tableWarning = because(
+            TextId::TableLeftOut, {}, because(TextId::FileCannotBeRead, {path}, error.failure()));
     }
 }
 

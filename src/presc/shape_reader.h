@@ -19,6 +19,19 @@
 
 namespace campora {
 
+/// What there is to say about a shapefile beside its records.
+struct ShapefileNotes {
+    /// Why the records end before the map does, in words that follow others; none when it is whole.
+    std::optional<Failure> damage;
+    /// Why the table beside the map was left out (it is damaged, not a table...), in a sentence
+    /// that stands alone; none when it was read or there is none.
+    std::optional<Failure> tableWarning;
+    /// Whether there is no table beside the map at all.
+    bool isTableMissing = false;
+    /// What the file beside the map says about its coordinates.
+    CoordinateSystem system;
+};
+
 /// A shapefile and its table, read whole and stepped through record by record. Records, columns and
 /// parts count from 1, vertices of a record from 0; a bad number throws `std::out_of_range`.
 class ShapeReader {
@@ -31,19 +44,7 @@ public:
     /// which names the file and the place in it, the reader stays as it was.
     [[nodiscard]] std::optional<Failure> open(std::string_view path);
 
-    /// Why the table beside the map was left out (it is damaged, not a table...), in a sentence
-    /// that stands alone; none when it was read or there is none.
-    [[nodiscard]] const std::optional<Failure>& tableWarning() const {
-        return files_->tableWarning;
-    }
-
-    /// Whether there is no table beside the map at all.
-    [[nodiscard]] bool isTableMissing() const { return files_->tableMissing; }
-    /// What the file beside the map says about its coordinates.
-    [[nodiscard]] const CoordinateSystem& coordinateSystem() const { return files_->system; }
-
-    /// Why the records end before the map does, in words that follow others; none when it is whole.
-    [[nodiscard]] const std::optional<Failure>& damage() const { return files_->damage; }
+    [[nodiscard]] const ShapefileNotes& notes() const { return files_->notes; }
 
     [[nodiscard]] std::int32_t recordCount() const { return files_->shapes.recordCount(); }
     void moveFirst() { place(1); }
@@ -94,10 +95,7 @@ private:
         FileBytes tableBytes;
         ShapefileView shapes;
         DbaseView table;
-        std::optional<Failure> damage;
-        std::optional<Failure> tableWarning;
-        bool tableMissing = false;
-        CoordinateSystem system;
+        ShapefileNotes notes;
     };
 
     static constexpr std::int32_t kNoRow = -1;

@@ -245,7 +245,7 @@ TEST_F(ShpTest, OwnReaderFindsWhatWasWritten) {
         ASSERT_EQ(forGis ? gis({&layer}) : polygons({&layer}), std::nullopt);
         ShapeReader reader;
         ASSERT_EQ(reader.open(base + ".shp"), std::nullopt);
-        EXPECT_FALSE(reader.damage() || reader.tableWarning());
+        EXPECT_FALSE(reader.notes().damage || reader.notes().tableWarning);
         ASSERT_EQ(reader.recordCount(), 2);
         EXPECT_EQ(reader.partCount(), 1);
         EXPECT_EQ(reader.partLastVertex(1), forGis ? 4 : 3);

@@ -232,7 +232,7 @@ TEST_F(PrescTest, HoldsADamagedFileAsFarAsItIsSound) {
     ASSERT_TRUE(whole);
     folder.write("lote.shp", std::string(whole->text().substr(0, whole->text().size() - 1)));
     EXPECT_TRUE(presc.loadFromFile(path, dialogs, texts));
-    EXPECT_FALSE(presc.isWhole());
+    EXPECT_TRUE(presc.notes().damage.has_value());
     EXPECT_EQ(presc.Gph_count(), 2);
     EXPECT_EQ(presc.dosisCollection(1), (Values{0, 1, 2}));
     ASSERT_EQ(dialogs.messages.size(), 1U);

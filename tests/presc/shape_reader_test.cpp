@@ -109,7 +109,7 @@ TEST(ShapeReader, ATableOfAnotherLengthOrNone) {
         ASSERT_EQ(reader.open(path), std::nullopt);
         EXPECT_EQ(reader.recordCount(), 3);
         ASSERT_EQ(reader.fieldCount() > 0, !values.empty());
-        EXPECT_EQ(sentence(reader.tableWarning()),
+        EXPECT_EQ(sentence(reader.notes().tableWarning),
                   values.empty() ? "The map is shown without the data of its table. The file " +
                                        beside + " cannot be read: it is not a dBASE table"
                                  : "");

@@ -107,7 +107,7 @@ std::string DoseColumns::faultOf(const GphPresc& presc, const std::string& path)
         return texts.format(TextId::MapsWithoutPolygons,
                             {path, std::string(texts(TextId::FiguresNone))});
     }
-    if (presc.isTableMissing()) {
+    if (presc.notes().isTableMissing) {
         const std::string table =
             path.substr(0, path.size() - pathEnding(path).size()).append(kTableEnding);
         return texts.format(TextId::MapWithoutTable, {path, std::string(fileNamePart(table))});
@@ -117,7 +117,7 @@ std::string DoseColumns::faultOf(const GphPresc& presc, const std::string& path)
 
 void DoseColumns::noteOddities(const GphPresc& presc) {
     const Texts& texts = session_.texts();
-    const auto& [projection, datum] = presc.coordinateSystem();
+    const auto& [projection, datum] = presc.notes().system;
     if (!projection.empty()) {
         note(texts.format(TextId::MapOtherProjection, {presc.name(), projection}));
     } else if (!isWorldDatum(datum)) {
@@ -167,7 +167,7 @@ void DoseColumns::warnOfDistance() const {
 
 bool DoseColumns::isWhole(int row) const {
     const Row& shown = at(row);
-    return shown.presc && shown.presc->isWhole();
+    return shown.presc && !shown.presc->notes().damage;
 }
 
 std::vector<std::string> DoseColumns::columns(int row) const {
