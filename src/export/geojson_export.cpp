@@ -93,10 +93,10 @@ std::string propertyText(ColumnType type, const CellValue& cell) {
 }
 
 /// One export: layers into a file.
-class Export {
+class GeoJsonExport {
 public:
-    Export(std::vector<ExportLayer> layers, std::string_view path, const Texts* texts,
-           ExportProgress& progress)
+    GeoJsonExport(std::vector<ExportLayer> layers, std::string_view path, const Texts* texts,
+                  ExportProgress& progress)
         : layers_(std::move(layers)),
           columns_(ExportColumns::ofAll(layers_, texts)),
           file_(path),
@@ -191,7 +191,7 @@ private:
 
 std::optional<Failure> exportGeoJson(std::span<const Gph* const> layers, std::string_view path,
                                      const GisForm& form, ExportProgress& progress) {
-    return Export(figureLayers(layers), path, form.texts, progress).run(form.style);
+    return GeoJsonExport(figureLayers(layers), path, form.texts, progress).run(form.style);
 }
 
 }  // namespace campora

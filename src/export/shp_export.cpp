@@ -187,18 +187,18 @@ private:
 };
 
 /// One export: layers into a set.
-class Export {
+class ShapefileExport {
 public:
-    Export(std::vector<ExportLayer> layers, std::string_view basePath, ShapeType type,
-           ExportProgress& progress)
+    ShapefileExport(std::vector<ExportLayer> layers, std::string_view basePath, ShapeType type,
+                    ExportProgress& progress)
         : basePath_(basePath),
           layers_(std::move(layers)),
           set_(basePath, type),
           attributes_(layers_, ExportColumns::ofFirst(layers_), false),
           progress_(progress) {}
     /// In the form for other programs; `texts` may be null.
-    Export(std::vector<ExportLayer> layers, std::string_view basePath, const Texts* texts,
-           const Date& today, ExportProgress& progress)
+    ShapefileExport(std::vector<ExportLayer> layers, std::string_view basePath, const Texts* texts,
+                    const Date& today, ExportProgress& progress)
         : basePath_(basePath),
           layers_(std::move(layers)),
           forGis_(true),
@@ -303,7 +303,7 @@ std::optional<Failure> exportShpPolygons(std::span<const Gph* const> layers,
     if (figureCount(found) == 0) {
         return Failure{TextId::NoPolygonsToExport, {}, {}};
     }
-    return Export(std::move(found), basePath, ShapeType::Polygon, progress)
+    return ShapefileExport(std::move(found), basePath, ShapeType::Polygon, progress)
         .run(style, TextId::NoPolygonsToExport);
 }
 
@@ -313,7 +313,7 @@ std::optional<Failure> exportShpPoints(std::span<const Gph* const> layers,
     if (figureCount(found) == 0) {
         return Failure{TextId::NoPointsToExport, {}, {}};
     }
-    return Export(std::move(found), basePath, ShapeType::Point, progress)
+    return ShapefileExport(std::move(found), basePath, ShapeType::Point, progress)
         .run(MapStyle(), TextId::NoPointsToExport);
 }
 
@@ -324,7 +324,7 @@ std::optional<Failure> exportShpGis(std::span<const Gph* const> layers, std::str
     if (figureCount(found) == 0) {
         return Failure{TextId::NothingToExportGis, {}, {}};
     }
-    return Export(std::move(found), basePath, form.texts, today, progress)
+    return ShapefileExport(std::move(found), basePath, form.texts, today, progress)
         .run(form.style, TextId::NothingToExportGis);
 }
 

@@ -28,6 +28,12 @@ namespace {
 
 constexpr int kDotPeriod = 3;  // one dot, two gaps, in pen widths
 
+/// Column and row.
+struct Pixel {
+    int x = 0;
+    int y = 0;
+};
+
 /// Whole part towards minus infinity; `value` must fit. (std::floor is a call on plain x86-64, and
 /// the drawing of a small ring consists of little else.)
 int floorInt(double value) {
@@ -106,19 +112,19 @@ bool holds(const PixelGrid& grid, const PixelPoint& point) {
 /// A solid line one pixel wide between two pixels of the grid (Bresenham, "Algorithm for computer
 /// control of a digital plotter", 1965). `isDrawn` tells of each of its pixels, by its row.
 template <typename IsDrawn>
-void thinLine(const PixelGrid& grid, int x, int y, int endX, int endY, std::uint32_t color,
-              IsDrawn isDrawn) {
-    const int dx = std::abs(endX - x);
-    const int dy = std::abs(endY - y);
-    const std::ptrdiff_t alongX = endX < x ? -1 : 1;
-    const int downY = endY < y ? -1 : 1;
+void thinLine(const PixelGrid& grid, Pixel from, Pixel to, std::uint32_t color, IsDrawn isDrawn) {
+    const int dx = std::abs(to.x - from.x);
+    const int dy = std::abs(to.y - from.y);
+    const std::ptrdiff_t alongX = to.x < from.x ? -1 : 1;
+    const int downY = to.y < from.y ? -1 : 1;
     const std::ptrdiff_t alongY = downY * grid.stride;
     const bool isFlat = dx >= dy;
     const std::ptrdiff_t along = isFlat ? alongX : alongY;
     const std::ptrdiff_t across = isFlat ? alongY : alongX;
     const int longer = std::max(dx, dy);
     const int shorter = std::min(dx, dy);
-    std::uint32_t* pixel = grid.pixels + y * grid.stride + x;
+    int y = from.y;
+    std::uint32_t* pixel = grid.pixels + y * grid.stride + from.x;
     const auto draw = [&] {
         if (isDrawn(y)) {
             *pixel = color;
@@ -140,18 +146,16 @@ void thinLine(const PixelGrid& grid, int x, int y, int endX, int endY, std::uint
 }
 
 void thinLine(const PixelGrid& grid, PixelPoint from, PixelPoint to, std::uint32_t color) {
-    const int y = floorInt(from.y);
-    const int endY = floorInt(to.y);
-    const auto [top, bottom] = std::minmax(y, endY);
+    const Pixel start{floorInt(from.x), floorInt(from.y)};
+    const Pixel end{floorInt(to.x), floorInt(to.y)};
+    const auto [top, bottom] = std::minmax(start.y, end.y);
     if (bottom < grid.firstRow || top > grid.lastRow()) {
         return;
     }
-    const int x = floorInt(from.x);
-    const int endX = floorInt(to.x);
     if (top >= grid.firstRow && bottom <= grid.lastRow()) {
-        thinLine(grid, x, y, endX, endY, color, [](int /*row*/) { return true; });
+        thinLine(grid, start, end, color, [](int /*row*/) { return true; });
     } else {
-        thinLine(grid, x, y, endX, endY, color,
+        thinLine(grid, start, end, color,
                  [&grid](int row) { return row >= grid.firstRow && row <= grid.lastRow(); });
     }
 }

@@ -40,12 +40,11 @@ GridCells cellsOf(const VrtHeader& header, std::vector<std::int16_t> doses) {
 }  // namespace
 
 GphVRT::GphVRT(std::string_view path, VrtGrid grid, Color background, char symbol)
-    : GridLayer(path, cellsOf(grid.header, std::move(grid.doses)), background),
-      header_(std::move(grid.header)) {
-    summary_.addProperty("Nombre", header_.name, "");
-    summary_.addProperty("Descripcion", header_.description, "");
-    summary_.addProperty("Resolución", summaryFigure(header_.resolution, symbol, kResolutionDigits),
-                         "mts");
+    : GridLayer(path, cellsOf(grid.header, std::move(grid.doses)), background) {
+    summary_.addProperty("Nombre", grid.header.name, "");
+    summary_.addProperty("Descripcion", grid.header.description, "");
+    summary_.addProperty("Resolución",
+                         summaryFigure(grid.header.resolution, symbol, kResolutionDigits), "mts");
     summary_.addProperty("Cant. de Canales", numberText(channelsCnt()), "");
     addChannelEntries(symbol);
 }

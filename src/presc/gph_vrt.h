@@ -17,13 +17,8 @@ public:
     /// `path` names the file; `symbol`: decimal, of the figures in the summary.
     GphVRT(std::string_view path, VrtGrid grid, Color background, char symbol);
 
-    [[nodiscard]] const VrtHeader& header() const { return header_; }
-
     [[nodiscard]] std::string_view Gph_kind() const override { return "GphVRT"; }
     [[nodiscard]] std::string File_icon() const override { return "vrtfile"; }
-
-private:
-    VrtHeader header_;
 };
 
 }  // namespace campora

@@ -61,10 +61,6 @@ public:
     [[nodiscard]] const ColorScale& channelScale(int channel) const { return at(channel).scale; }
     /// Cells with a dose, which is one other than 0.
     [[nodiscard]] std::int32_t dosedCells(int channel) const { return at(channel).dosed; }
-    /// `kTotal` while it is the total of all.
-    [[nodiscard]] int currentChannel() const { return current_; }
-    static constexpr int kTotal = -1;
-
     /// Throws `std::out_of_range` for a bad channel.
     void setCurrentChannel(int channel) override;
     void showTotal() override;
@@ -123,6 +119,8 @@ protected:
     FileProperties summary_;
 
 private:
+    static constexpr int kTotal = -1;
+
     struct Channel {
         ColorScale scale;
         std::int32_t dosed = 0;
@@ -177,6 +175,7 @@ private:
     /// Set up when it is shown first.
     ColorScale total_;
     bool hasTotal_ = false;
+    /// The channel that is shown, `kTotal` while it is the total of all.
     int current_ = 0;
     std::vector<Gph*> layers_{this};
 };
