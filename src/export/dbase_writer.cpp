@@ -26,11 +26,6 @@ constexpr Date kPlainDate{1999, 1, 30};
 constexpr std::size_t kMostBytes = std::numeric_limits<std::uint16_t>::max();
 constexpr int kMostLengthByte = 255;
 
-bool isAscii(std::string_view text) {
-    return std::all_of(text.begin(), text.end(),
-                       [](char c) { return static_cast<unsigned char>(c) < 0x80U; });
-}
-
 char typeLetter(DbaseType type) {
     switch (type) {
     case DbaseType::Numeric:
@@ -115,7 +110,7 @@ std::optional<Failure> DbaseWriter::createDBF(std::string_view basePath) {
     return draft_->failure();
 }
 
-std::string DbaseWriter::plainText(const CellValue& value) {
+std::string DbaseWriter::cellText(const CellValue& value) {
     const auto text = [](const auto& cell) -> std::string {
         using Cell = std::decay_t<decltype(cell)>;
         if constexpr (std::is_same_v<Cell, Date>) {
@@ -140,10 +135,7 @@ void DbaseWriter::recordField(int field, const CellValue& value) {
         put(target, dateCell(value));
         return;
     }
-    std::string text = plainText(value);
-    if (!isAscii(text)) {
-        text = toWindows1252(text);
-    }
+    std::string text = toWindows1252(cellText(value));
     if (target.type == DbaseType::Numeric || (text.size() >= target.length && !today_)) {
         std::replace(text.begin(), text.end(), ',', '.');
     }

@@ -44,7 +44,7 @@ public:
     /// those that are not there throw `std::out_of_range`.
     void recordField(int field, const CellValue& value);
     /// What a text or number field is given for a value, UTF-8.
-    [[nodiscard]] static std::string plainText(const CellValue& value);
+    [[nodiscard]] static std::string cellText(const CellValue& value);
     /// Appends the record; its values stay until they are set again.
     void writeRecord();
     [[nodiscard]] std::int32_t recordCount() const { return records_; }

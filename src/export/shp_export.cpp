@@ -143,7 +143,7 @@ private:
         if (column.type == ColumnType::Integer) {
             return integerText(cell).size();
         }
-        return toWindows1252(DbaseWriter::plainText(cell)).size();
+        return toWindows1252(DbaseWriter::cellText(cell)).size();
     }
 
     /// Wide enough for all cells of the column, which becomes one of reals at the first fraction;

@@ -49,10 +49,7 @@ void appendCoordinate(std::string& line, double degrees) {
 /// In the code page of the table, in one line and one field.
 void appendText(std::string& line, std::string_view text) {
     const std::size_t begin = line.size();
-    const bool isAscii = std::all_of(text.begin(), text.end(), [](char letter) {
-        return static_cast<unsigned char>(letter) < 0x80;
-    });
-    line += isAscii ? std::string(text) : toWindows1252(text);
+    line += toWindows1252(text);
     std::replace_if(
         line.begin() + static_cast<std::ptrdiff_t>(begin), line.end(),
         [](char letter) { return letter == '\t' || letter == '\r' || letter == '\n'; }, ' ');
@@ -69,7 +66,7 @@ public:
         if (const auto* text = std::get_if<std::string>(&cell)) {
             appendText(line, *text);
         } else if (const auto* date = std::get_if<Date>(&cell)) {
-            appendText(line, dateText(*date));
+            appendText(line, cachedDate(*date));
         } else if (const auto* whole = std::get_if<std::int64_t>(&cell)) {
             line += numberText(*whole);
         } else if (const auto* number = std::get_if<double>(&cell)) {
@@ -83,10 +80,10 @@ public:
 
 private:
     /// The points of a day come one after another.
-    const std::string& dateText(const Date& date) {
+    const std::string& cachedDate(const Date& date) {
         if (lastText_.empty() || !(date == lastDate_)) {
             lastDate_ = date;
-            lastText_ = campora::dateText(date, dateForm_);
+            lastText_ = dateText(date, dateForm_);
         }
         return lastText_;
     }

@@ -22,7 +22,7 @@ constexpr std::size_t kChunk = 65536;
 
 /// Whether nothing would be lost with the file: all its bytes can be read and are zero. What is no
 /// ordinary file is not replaced in any case.
-bool isBlank(const std::string& path) {
+bool holdsNothing(const std::string& path) {
     std::error_code ignored;
     if (!std::filesystem::is_regular_file(nativePath(path), ignored)) {
         return true;
@@ -46,7 +46,7 @@ bool isBlank(const std::string& path) {
 
 std::optional<Failure> whyReportStands(std::string_view path) {
     const std::string report = findIgnoringCase(companionPath(path));
-    if (!isThere(report) || isBlank(report)) {
+    if (!isThere(report) || holdsNothing(report)) {
         return std::nullopt;
     }
     return because(TextId::FileCannotBeWritten, {std::string(path)},

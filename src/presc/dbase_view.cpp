@@ -41,7 +41,7 @@ std::string_view withoutPadding(std::string_view text) {
     return text.substr(first, text.find_last_not_of(kPadding) - first + 1);
 }
 
-std::optional<double> wholeNumber(std::string_view text) {
+std::optional<double> numberOfAll(std::string_view text) {
     if (text.size() > 1 && text[0] == '+' && text[1] != '-') {
         text.remove_prefix(1);
     }
@@ -146,7 +146,7 @@ std::optional<double> DbaseView::number(std::int32_t row, int column) const {
     if (!isNumberColumn(of.type) && of.type != dbase::type::kText) {
         return std::nullopt;
     }
-    return wholeNumber(cell(row, of));
+    return numberOfAll(cell(row, of));
 }
 
 CellValue DbaseView::value(std::int32_t row, int column) const {

@@ -113,7 +113,7 @@ std::optional<Grid> fillGrid(GridLayout layout, std::span<const ChannelZones> ch
     return Grid{std::move(layout), std::move(filled->doses)};
 }
 
-std::string encodePre(const Grid& grid, std::size_t channels) {
+std::string preBytes(const Grid& grid, std::size_t channels) {
     PreHeader header;
     header.latitude = encodePreCoordinate(grid.layout.origin.y);
     header.longitude = encodePreCoordinate(grid.layout.origin.x);
@@ -128,7 +128,7 @@ std::string encodePre(const Grid& grid, std::size_t channels) {
     return encodePre(header, grid.doses);
 }
 
-std::string encodeVrt(const Grid& grid, std::size_t channels, const VrtTexts& about) {
+std::string vrtBytes(const Grid& grid, std::size_t channels, const VrtTexts& about) {
     VrtHeader header;
     header.x0 = static_cast<float>(grid.layout.origin.x);
     header.y0 = static_cast<float>(grid.layout.origin.y);
@@ -229,7 +229,7 @@ std::optional<GridRule> generatePRE(std::string_view path, int cellSize,
     }
     std::optional<Failure> failure = whyReportStands(path);  // one may have come meanwhile
     if (!failure) {
-        failure = writeWithCompanion(path, encodePre(*grid, channels.size()), grid->cells());
+        failure = writeWithCompanion(path, preBytes(*grid, channels.size()), grid->cells());
     }
     if (failure) {
         context.refuse(*failure);
@@ -264,7 +264,7 @@ std::optional<GridRule> generateVRT(std::string_view path, float resolution, con
         return std::nullopt;
     }
     if (const std::optional<Failure> failure =
-            write(path, encodeVrt(*grid, channels.size(), about))) {
+            write(path, vrtBytes(*grid, channels.size(), about))) {
         context.refuse(*failure);
         return std::nullopt;
     }

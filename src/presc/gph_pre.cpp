@@ -8,6 +8,7 @@
 
 #include "base/numbers.h"
 #include "model/geodesy.h"
+#include "presc/channel_summary.h"
 #include "presc/grid_geometry.h"
 
 namespace campora {

@@ -9,6 +9,7 @@
 
 #include "base/numbers.h"
 #include "model/measures.h"
+#include "presc/channel_summary.h"
 #include "presc/dose_raster.h"
 #include "presc/grid_geometry.h"
 #include "presc/grid_layer.h"
@@ -19,9 +20,6 @@ namespace campora {
 namespace {
 
 /// "Archivo (C 2)" for channel 1. Summaries are data: their names are the same in every language.
-std::string entryName(std::string_view what, std::size_t channel) {
-    return std::string(what) + " (C " + numberText(channel + 1) + ")";
-}
 
 }  // namespace
 
@@ -114,8 +112,8 @@ FileProperties& GphPrescVex::File_resumen() {
     for (std::size_t i = 0; i < channels_.size(); ++i) {
         const GphPresc& presc = *channels_[i];
         const int column = presc.columnaDosis();
-        summary_.addProperty(entryName("Archivo", i), presc.name(), "");
-        summary_.addProperty(entryName("Columna", i),
+        summary_.addProperty(channelEntry("Archivo", i), presc.name(), "");
+        summary_.addProperty(channelEntry("Columna", i),
                              column == GphPresc::kNoColumn
                                  ? ""
                                  : presc.columnNames().at(static_cast<std::size_t>(column) - 1),
@@ -123,10 +121,10 @@ FileProperties& GphPrescVex::File_resumen() {
     }
     for (std::size_t i = 0; i < channels_.size(); ++i) {
         const Figures sums = figures(i);
-        summary_.addProperty(entryName("Superficie", i), summaryFigure(sums.hectares, symbol_),
+        summary_.addProperty(channelEntry("Superficie", i), summaryFigure(sums.hectares, symbol_),
                              "Has");
-        summary_.addProperty(entryName("Producto total", i), summaryFigure(sums.product, symbol_),
-                             "unid");
+        summary_.addProperty(channelEntry("Producto total", i),
+                             summaryFigure(sums.product, symbol_), "unid");
     }
     return summary_;
 }

@@ -4,8 +4,6 @@
 #include "presc/grid_layer.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <cmath>
 #include <stdexcept>
 #include <utility>
@@ -14,6 +12,7 @@
 #include "base/paths.h"
 #include "model/geodesy.h"
 #include "model/measures.h"
+#include "presc/channel_summary.h"
 
 namespace campora {
 
@@ -21,22 +20,7 @@ namespace {
 
 constexpr int kCorners = 4;
 
-std::string entryName(std::string_view what, std::size_t channel) {
-    return std::string(what) + " (C " + numberText(channel + 1) + ")";
-}
-
 }  // namespace
-
-std::string summaryFigure(double value, char symbol, int digits) {
-    std::array<char, 40> buffer;
-    const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
-                                            std::chars_format::scientific, digits - 1);
-    double shortened = value;
-    if (error == std::errc()) {
-        std::from_chars(buffer.data(), end, shortened);
-    }
-    return numberText(shortened, symbol);
-}
 
 GridLayer::GridLayer(std::string_view path, GridCells cells, Color background)
     : name_(fileNamePart(path)), path_(path), cells_(std::move(cells)), background_(background) {
@@ -99,12 +83,12 @@ void GridLayer::addChannelEntries(char symbol) {
     for (std::size_t i = 0; i < channels_.size(); ++i) {
         const double area =
             cells_.metres * cells_.metres * channels_[i].dosed / kSquareMetresPerHectare;
-        summary_.addProperty(entryName("Superficie", i), summaryFigure(area, symbol), "Has");
+        summary_.addProperty(channelEntry("Superficie", i), summaryFigure(area, symbol), "Has");
     }
     for (std::size_t i = 0; i < channels_.size(); ++i) {
         const double product =
             static_cast<double>(channels_[i].steps) / cells_.doseSteps * hectares;
-        summary_.addProperty(entryName("Producto total", i), summaryFigure(product, symbol), "");
+        summary_.addProperty(channelEntry("Producto total", i), summaryFigure(product, symbol), "");
     }
 }
 

@@ -180,7 +180,4 @@ private:
     std::vector<Gph*> layers_{this};
 };
 
-/// A figure of a summary: at most this many significant digits, no trailing zeros.
-[[nodiscard]] std::string summaryFigure(double value, char symbol, int digits = 15);
-
 }  // namespace campora
