@@ -29,9 +29,8 @@ public:
     [[nodiscard]] int fieldCount() const { return static_cast<int>(columns_.size()); }
     /// UTF-8; throws `std::out_of_range` for a bad column, as the others do.
     [[nodiscard]] const std::string& fieldName(int column) const;
-    /// Whole rows that the file holds, at most as many as its header says.
-    [[nodiscard]] std::int32_t rowCount() const { return rowCount_; }
-    // Rows that are marked as deleted count like others; those that are not there are empty.
+    // Rows are there when the file holds them whole and its header counts them; those that are
+    // marked as deleted are like others, those that are not there empty.
 
     /// Numbers (N and F columns) as 64-bit floats, dates (D) as such, everything else as UTF-8 text
     /// without blanks around it. Empty where nothing stands and where a number or a date is none.
