@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/attribute_layer.h"
+#include "support/exported_layers.h"
 
 namespace campora {
 namespace {
@@ -25,7 +25,6 @@ TEST(CellInteger, RoundsHalvesToEvenWithinTheType) {
         {"date", Date{2018, 3, 5}, std::nullopt},
         {"every digit of a whole number", kMost - 1, kMost - 1},
         {"tie down", 4.5, 4},
-        {"tie up", 5.5F, 6},
         {"negative tie", -0.5, 0},
         {"number that a text begins with", std::string("12.5 l/ha"), 12},
         {"text", std::string("l/ha"), std::nullopt},
@@ -37,24 +36,6 @@ TEST(CellInteger, RoundsHalvesToEvenWithinTheType) {
     for (const Row& row : rows) {
         EXPECT_EQ(cellInteger(row.cell), row.number) << row.name;
     }
-}
-
-TEST(FigureLayers, PolygonsBeforePointsAndNeverBoth) {
-    NamedLayer picture("");
-    AttributeLayer both({squareAt(0, 0), squareAt(1, 1)}, {});
-    RingLayer noRings({});
-    PointLayer points({{5, 5}});
-    const std::vector<Gph*> all = {&picture, &points, &noRings, &both};
-    const auto polygons = figureLayers(all);
-    ASSERT_EQ(polygons.size(), 2U);
-    EXPECT_EQ(polygons[1].gph, &both);
-    EXPECT_EQ(polygons[1].points, nullptr);
-    EXPECT_EQ(figureCount(polygons), 2);
-    const std::vector<Gph*> withoutFigures = {&picture, &points, &noRings};
-    const auto others = figureLayers(withoutFigures);
-    ASSERT_EQ(others.size(), 1U);
-    EXPECT_EQ(others[0].polygons, nullptr);
-    EXPECT_EQ(figureCount(others), 1);
 }
 
 TEST(BoxOfLayers, LeavesOutLayersWithoutABox) {
@@ -102,35 +83,15 @@ TEST(ExportColumns, ATypeHoldsTheCellsOfEveryLayerInAnyOrder) {
     }
 }
 
-TEST(ExportColumns, FindCellsByTheNameOfTheirColumn) {
-    const auto number = [](std::int64_t value) { return CellValue(value); };
-    AttributeLayer one({squareAt(0, 0)}, {{"A", ColumnType::Integer, {number(1)}},
-                                          {"B", ColumnType::Text, {std::string("b")}}});
-    AttributeLayer two({squareAt(0, 0)}, {{"C", ColumnType::Integer, {number(3)}},
-                                          {"A", ColumnType::Integer, {number(4)}}});
-    AttributeLayer empty({}, {});
-    PointLayer points({{50, 50}});
-    const auto layers = pointLayers(std::vector<Gph*>{&empty, &one, &two});
-    const ExportColumns first = ExportColumns::ofFirst(layers);
-    ASSERT_EQ(first.columns().size(), 2U);
-    EXPECT_EQ(first.cell(1, 0, 1), CellValue(std::string("b")));
-    EXPECT_EQ(first.cell(2, 0, 0), number(4));
-    EXPECT_EQ(first.cell(2, 0, 1), CellValue());
-    const ExportColumns all = ExportColumns::ofAll(layers);
-    ASSERT_EQ(all.columns().size(), 3U);
-    EXPECT_EQ(all.columns()[2].name, "C");
-    EXPECT_EQ(all.cell(2, 0, 2), number(3));
-    EXPECT_FALSE(allHaveColumns(pointLayers(std::vector<Gph*>{&one, &two, &points})));
-    RingLayer bare({squareAt(0, 0)});
-    const auto beside = polygonLayers(std::vector<Gph*>{&bare, &one});
-    EXPECT_TRUE(ExportColumns::ofFirst(beside).empty());
-    EXPECT_EQ(ExportColumns::ofAll(beside).cell(0, 0, 1), CellValue());
-    EXPECT_EQ(ExportColumns::ofAll(beside).cell(1, 0, 0), number(1));
-    // New columns stand behind the one before them in their layer.
-    AttributeLayer between({squareAt(0, 0)}, {{"A", ColumnType::Integer, {number(5)}},
-                                              {"D", ColumnType::Integer, {number(6)}}});
-    const ExportColumns both = ExportColumns::ofAll(pointLayers(std::vector<Gph*>{&one, &between}));
+TEST(ExportColumns, ANewOneStandsBehindTheOneBeforeItInItsLayer) {
+    const auto column = [](const char* name) {
+        return AttributeLayer::Column{name, ColumnType::Integer, {CellValue(std::int64_t{1})}};
+    };
+    AttributeLayer one({squareAt(0, 0)}, {column("A"), column("B")});
+    AttributeLayer other({squareAt(0, 0)}, {column("A"), column("D")});
+    const ExportColumns both = ExportColumns::ofAll(pointLayers(std::vector<Gph*>{&one, &other}));
     EXPECT_EQ(both.columns()[1].name, "D");
+    EXPECT_EQ(both.columns()[2].name, "B");
 }
 
 }  // namespace

@@ -8,7 +8,7 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
-#include "support/attribute_layer.h"
+#include "support/exported_layers.h"
 #include "support/file_size_limit.h"
 #include "support/temp_folder.h"
 
@@ -58,7 +58,6 @@ TEST_F(GeoJsonTest, PropertiesByTheTypeOfTheirColumn) {
     const Row rows[] = {
         {"integer", ColumnType::Integer, std::int64_t{-7}, "-7"},
         {"fraction among integers", ColumnType::Integer, 12.34F, "12.34"},
-        {"integer in a text", ColumnType::Integer, std::string("12"), "12"},
         {"no integer", ColumnType::Integer, std::string("x"), "null"},
         {"more than a shapefile holds", ColumnType::Integer, std::int64_t{123456789012},
          "123456789012"},

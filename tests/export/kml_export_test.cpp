@@ -103,8 +103,7 @@ Document readDocument(const std::string& path) {
 }
 
 TEST_F(KmlTest, ShippedTemplatesMakeADocumentWhateverTheNameHolds) {
-    for (const std::string name :
-         {"lote.kml", "a]]>b]]>.kml", "Ca\u00f1ada & \"Sur\" <1>.kml", "a\tb.kml"}) {
+    for (const std::string name : {"a]]>b]]>.kml", "Ca\u00f1ada & \"Sur\" <1>\t.kml"}) {
         SCOPED_TRACE(name);
         path = folder.file(name);
         ASSERT_EQ(save({&triangle}, kShipped), std::nullopt);

@@ -8,7 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "presc/shape_reader.h"
-#include "support/attribute_layer.h"
+#include "support/exported_layers.h"
 #include "support/file_size_limit.h"
 #include "support/hex_bytes.h"
 #include "support/temp_folder.h"
@@ -21,7 +21,6 @@ namespace {
 using Column = AttributeLayer::Column;
 
 constexpr Date kToday{2026, 11, 3};
-const CellValue kNothing;
 
 std::int64_t whole(std::int64_t value) {
     return value;
@@ -89,6 +88,8 @@ TEST_F(ShpTest, PolygonsByteForByte) {
         00 00 00 32  00 00 00 30
         00 00 00 66  00 00 00 38)")));
     EXPECT_EQ(records(1), " 0     2    ") << "the number in its layer";
+    EXPECT_EQ(content(".cpg"), "1252");
+    EXPECT_TRUE(content(".prj").starts_with("GEOGCS[\"GCS_WGS_1984\",DATUM["));
 }
 
 TEST_F(ShpTest, PointsByteForByte) {
@@ -111,14 +112,6 @@ TEST_F(ShpTest, PointsByteForByte) {
     EXPECT_EQ(records(1), " 0     1     0    ") << "from 0 in every layer";
 }
 
-TEST_F(ShpTest, ReferenceAndCodePageStandBeside) {
-    AttributeLayer layer({squareAt(0, 0)}, {});
-    ASSERT_EQ(polygons({&layer}), std::nullopt);
-    EXPECT_EQ(content(".cpg"), "1252");
-    EXPECT_TRUE(content(".prj").starts_with("GEOGCS[\"GCS_WGS_1984\",DATUM["));
-    EXPECT_EQ(fileCount(), 5U);
-}
-
 TEST_F(ShpTest, CellsByTheTypeOfTheirColumn) {
     struct Row {
         const char* name;
@@ -128,19 +121,16 @@ TEST_F(ShpTest, CellsByTheTypeOfTheirColumn) {
         const char* gis;
     };
     const Row rows[] = {
-        {"integer", ColumnType::Integer, whole(42), "42    ", "    42"},
         {"tie to even", ColumnType::Integer, 2.5F, "2     ", "          2.500"},
         {"nothing", ColumnType::Integer, {}, "      ", "      "},
         {"most of 16 bits", ColumnType::Integer, 32767.5F - 0.5F, "32767 ", " 32767"},
         {"least of 16 bits", ColumnType::Integer, whole(-32768), "-32768", "-32768"},
-        {"real", ColumnType::Real, 12.3F, "12.300         ", "         12.300"},
         {"rounded", ColumnType::Real, 0.0005, "0.001          ", "          0.001"},
         {"whole number in a real column", ColumnType::Real, whole(4294967295), "4294967295.000 ",
          " 4294967295.000"},
         {"no real", ColumnType::Real, std::string("-"), "               ", "               "},
         {"text", ColumnType::Text, std::string("Ca\u00f1 a"), "Ca\xF1 a     ", "Ca\xF1 a     "},
         {"date", ColumnType::Date, Date{2018, 3, 5}, "20180305", "20180305"},
-        {"no date", ColumnType::Date, {}, "        ", "        "},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
@@ -200,8 +190,12 @@ TEST_F(ShpTest, LayersThatLackTheFiguresAreLeftOut) {
     EXPECT_EQ(hexDump(content(".shp").substr(32, 36)),
               hexDump(hexBytes("01 00 00 00") + std::string(32, '\0')))
         << "no layer has a box";
-    ASSERT_EQ(gis({&picture, &pointsOnly}), std::nullopt);
+    RingLayer noRings({});
+    ASSERT_EQ(gis({&picture, &noRings, &pointsOnly}), std::nullopt);
     EXPECT_EQ(content(".shp")[32], 1) << "points where there are no polygons";
+    ASSERT_EQ(gis({&pointsOnly, &ringsOnly}), std::nullopt);
+    EXPECT_EQ(content(".shp")[32], 5);
+    EXPECT_EQ(records(1), "     0") << "never both";
 }
 
 TEST_F(ShpTest, NothingToWriteIsAFailureAndLeavesNoFile) {
@@ -233,30 +227,6 @@ TEST_F(ShpTest, StepsWithoutFlowFollowTheStyle) {
     ASSERT_EQ(reader.open(base + ".shp"), std::nullopt);
     EXPECT_EQ(reader.recordCount(), 2);
     EXPECT_EQ(reader.fieldNumber(1), 5);
-}
-
-TEST_F(ShpTest, OwnReaderFindsWhatWasWritten) {
-    AttributeLayer layer({squareAt(-58.25, -34.5, 0.5), squareAt(10, 20)},
-                         {{"Dosis", ColumnType::Real, {12.3F, 99.0F}},
-                          {"Nota", ColumnType::Text, {std::string("\u00d1and\u00fa"), kNothing}},
-                          {"Fecha", ColumnType::Date, {Date{2018, 3, 5}, kNothing}}});
-    for (const bool forGis : {false, true}) {
-        SCOPED_TRACE(forGis);
-        ASSERT_EQ(forGis ? gis({&layer}) : polygons({&layer}), std::nullopt);
-        ShapeReader reader;
-        ASSERT_EQ(reader.open(base + ".shp"), std::nullopt);
-        EXPECT_FALSE(reader.notes().damage || reader.notes().tableWarning);
-        ASSERT_EQ(reader.recordCount(), 2);
-        EXPECT_EQ(reader.partCount(), 1);
-        EXPECT_EQ(reader.partLastVertex(1), forGis ? 4 : 3);
-        EXPECT_EQ(reader.vertex(0), (LonLat{-58.25, -34.5}));
-        EXPECT_EQ(reader.fieldName(1), "Dosis");
-        EXPECT_EQ(reader.fieldValue(1), CellValue(12.3));
-        EXPECT_EQ(reader.fieldValue(2), CellValue(std::string("\u00d1and\u00fa")));
-        EXPECT_EQ(reader.fieldValue(3), (CellValue(Date{2018, 3, 5})));
-        reader.moveNext();
-        EXPECT_EQ(reader.fieldValue(3), CellValue());
-    }
 }
 
 TEST_F(ShpTest, GisRingsAreClosedClockwiseAndWithoutCrossings) {
@@ -347,21 +317,6 @@ TEST_F(ShpTest, ExistingFilesAreReplacedTogetherOrNotAtAll) {
     EXPECT_EQ(content(".shp"), before);
     EXPECT_EQ(content(".qix"), "index");
     EXPECT_EQ(fileCount(), 6U);
-}
-
-TEST_F(ShpTest, NamesMayHoldAnything) {
-    AttributeLayer layer({squareAt(0, 0)}, {});
-    const std::string odd =
-        folder.file("Lote \u00d1and\u00fa & \"4\" 'b' " + std::string(170, 'x'));
-    ASSERT_EQ(exportShpPolygons(std::vector<Gph*>{&layer}, odd, style, progress), std::nullopt);
-    ShapeReader reader;
-    EXPECT_EQ(reader.open(odd + ".shp"), std::nullopt);
-    EXPECT_EQ(reader.recordCount(), 1);
-    base = folder.file(std::string(300, 'x'));
-    EXPECT_EQ(polygons({&layer}).value().text, TextId::FileCannotBeWritten);
-    base = folder.file("none/campo");
-    EXPECT_EQ(polygons({&layer}).value().cause.at(0).text, TextId::FolderNotFound);
-    EXPECT_EQ(fileCount(), 5U);
 }
 
 TEST_F(ShpTest, CancellingLeavesTheOldFiles) {

@@ -42,12 +42,6 @@ struct Drawing {
     }
 };
 
-TEST(GphPolygon, AreaIsThatOfItsOwnLatitudes) {
-    EXPECT_NEAR(square(10, 0, 0.01).Area(), 1'239'214, 20);
-    EXPECT_NEAR(square(10, 60, 0.01).Area(), 1'239'214 / 2.0, 300);
-    EXPECT_EQ(GphPolygon().Area(), 0);
-}
-
 TEST(GphPolygon, IsClosedOnExport) {
     const GphPolygon ring = square(1, 2, 1);
     const MapStyle style;
