@@ -8,8 +8,8 @@
 
 #include "base/numbers.h"
 #include "model/geodesy.h"
+#include "model/grid_geometry.h"
 #include "presc/channel_summary.h"
-#include "presc/grid_geometry.h"
 
 namespace campora {
 

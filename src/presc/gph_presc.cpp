@@ -13,7 +13,7 @@
 #include "base/typed_number.h"
 #include "model/measures.h"
 #include "model/shown_number.h"
-#include "presc/tree_units.h"
+#include "rtree/tree_units.h"
 
 namespace campora {
 

@@ -8,10 +8,10 @@
 #include <utility>
 
 #include "base/numbers.h"
+#include "model/grid_geometry.h"
 #include "model/measures.h"
 #include "presc/channel_summary.h"
 #include "presc/dose_raster.h"
-#include "presc/grid_geometry.h"
 #include "presc/grid_layer.h"
 #include "presc/layer_zones.h"
 

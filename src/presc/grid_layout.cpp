@@ -4,7 +4,7 @@
 #include "presc/grid_layout.h"
 
 #include "model/geodesy.h"
-#include "presc/grid_geometry.h"
+#include "model/grid_geometry.h"
 
 namespace campora {
 

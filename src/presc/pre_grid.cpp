@@ -10,8 +10,8 @@
 #include "base/byte_writer.h"
 #include "base/lon_lat.h"
 #include "base/numbers.h"
+#include "model/grid_geometry.h"
 #include "presc/dose_grid.h"
-#include "presc/grid_geometry.h"
 
 namespace campora {
 

@@ -8,8 +8,8 @@
 #include "base/byte_writer.h"
 #include "base/encoding.h"
 #include "base/lon_lat.h"
+#include "model/grid_geometry.h"
 #include "presc/dose_grid.h"
-#include "presc/grid_geometry.h"
 
 namespace campora {
 

@@ -8,7 +8,7 @@
 #include <utility>
 
 #include "model/ring_geometry.h"
-#include "presc/tree_units.h"
+#include "rtree/tree_units.h"
 
 namespace campora {
 

@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-#include "presc/tree_units.h"
+#include "rtree/tree_units.h"
 #include "support/zone_layers.h"
 
 namespace campora {

@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "presc/grid_geometry.h"
+#include "model/grid_geometry.h"
 
 namespace campora {
 
