@@ -93,6 +93,7 @@ public:
     [[nodiscard]] std::int32_t polygonIndexAt(LonLat position) const;
     /// As `polygonIndexAt`; null when there is none. Owned by the layer.
     [[nodiscard]] const GphPolygonMulti* getPolygonAtPoint(double x, double y) const;
+    /// The classes of the doses; what changes in them changes the zones.
     [[nodiscard]] ColorScale& escalaColor() { return scale_; }
     [[nodiscard]] const ColorScale& escalaColor() const { return scale_; }
 

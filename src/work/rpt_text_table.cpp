@@ -10,6 +10,7 @@
 #include <optional>
 #include <span>
 
+#include "base/lon_lat.h"
 #include "base/numbers.h"
 #include "base/text.h"
 #include "base/text_lines.h"
@@ -134,7 +135,7 @@ TableRecords decodeRecords(std::string_view records, TableForm form, char decima
             decoded.unreadFrom = lineNumber;
             break;
         }
-        if (std::abs(position->x) > 180 || std::abs(position->y) > 90) {
+        if (std::abs(position->x) > kDateLine || std::abs(position->y) > kPole) {
             decoded.offGlobe.add(lineNumber);
             continue;
         }

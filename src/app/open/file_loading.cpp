@@ -34,8 +34,8 @@ std::optional<OpenedFile> openWork(std::string_view path, const OpenContext& con
 }
 
 /// Maps of other programs that people have and try to open.
-constexpr std::string_view kForeignMaps[] = {".gpkg", ".geojson", ".json", ".kml",
-                                             ".kmz",  ".gpx",     ".dxf",  ".tab"};
+constexpr std::string_view kForeignMaps[] = {".gpkg", kGeoJsonEnding, ".json", kKmlEnding,
+                                             ".kmz",  ".gpx",         ".dxf",  ".tab"};
 
 /// What there is to be done about a map that is none of the program's.
 std::string foreignMapText(std::string_view path, const Texts& texts) {
