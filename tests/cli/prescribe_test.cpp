@@ -49,45 +49,39 @@ struct Prescribe : BatchRun {
 
 TEST_F(Prescribe, SaysWhatItWroteAndAnswersAsItIsTold) {
     struct Row {
-        const char* name;
-        const char* channel;
-        const char* size;
+        const char* words;
         int status;
         const char* says;
     };
     const Row rows[] = {
-        {"as proposed", "DOSIS", "10", 0, "Canal 1: 390 celdas con dosis, 3.9 ha, "},
-        {"no fallback", "DOSIS,", "10", 0, "Canal 1: 242 celdas con dosis, 2.42 ha, "},
-        {"a size of 0", "DOSIS", "0", 1, "mayor que 0"},
-        {"no such column", "dosis", "10", 1, "la columna «dosis». Elija una de estas: DOSIS, N"},
-        {"decimals", "MEDIA", "10", 0, "Un archivo PRE guarda enteros"},
-        {"texts", "NOMBRE", "10", 1, "contiene valores no numéricos"},
+        {"DOSIS --swath 10", 0, "Canal 1: 390 celdas con dosis, 3.9 ha, "},
+        {"DOSIS, --swath 10", 0, "Canal 1: 242 celdas con dosis, 2.42 ha, "},
+        {"DOSIS --swath 0", 1, "mayor que 0"},
+        {"dosis --swath 10", 1, "la columna «dosis». Elija una de estas: DOSIS, N"},
+        {"MEDIA --swath 10", 0, "Un archivo PRE guarda enteros"},
+        {"NOMBRE --swath 10", 1, "contiene valores no numéricos"},
     };
     for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        const Outcome outcome = run(
-            {"prescribe", "--channel", map + "," + row.channel, "--swath", row.size, "-o", grid});
+        SCOPED_TRACE(row.words);
+        const Outcome outcome =
+            run(std::string("prescribe -o @out.pre --channel @mapa.shp,") + row.words);
         EXPECT_EQ(outcome.status, row.status);
         EXPECT_THAT(outcome.boxes, HasSubstr(row.says));
         EXPECT_EQ(std::filesystem::exists(grid), row.status == 0);
         std::filesystem::remove(grid);
     }
-    const Outcome decimals = run({"prescribe", "--format", "vrt", "--resolution", "10", "--channel",
-                                  map + ",MEDIA", "-o", folder.file("out.vrt")});
+    const Outcome decimals =
+        run("prescribe --format vrt --resolution 10 --channel @mapa.shp,MEDIA -o @out.vrt");
     EXPECT_EQ(decimals.status, 0);
     EXPECT_THAT(decimals.boxes, Not(HasSubstr("enteros"))) << "a VRT file keeps decimals";
-    const Outcome missing =
-        run({"prescribe", "--channel", folder.file("no.shp") + ",D", "-o", grid});
+    const Outcome missing = run("prescribe --channel @no.shp,D -o @out.pre");
     EXPECT_EQ(missing.status, 1);
     EXPECT_THAT(missing.boxes, HasSubstr("no.shp: no existe"));
 }
 
 TEST_F(Prescribe, EveryChannelOfAPrescriptionCanBeDrawn) {
-    ASSERT_EQ(run({"prescribe", "--channel", map + ",DOSIS,", "--channel", map + ",DOSIS,7",
-                   "--swath", "10", "-o", grid})
-                  .status,
-              0);
-    const std::string picture = folder.file("mapa.png");
+    const std::string channels = "--channel @mapa.shp,DOSIS, --channel @mapa.shp,DOSIS,7";
+    ASSERT_EQ(run("prescribe --swath 10 -o @out.pre " + channels).status, 0);
     struct Row {
         const char* channel;
         bool margin;  ///< whether cells without a zone have a colour
@@ -96,11 +90,12 @@ TEST_F(Prescribe, EveryChannelOfAPrescriptionCanBeDrawn) {
     for (const Row& row : {Row{"1", false, ""}, Row{"2", true, ""},
                            Row{"3", false, "Advertencia: out.pre no tiene un Canal 3\n"}}) {
         SCOPED_TRACE(row.channel);
-        const Outcome outcome = run({"render", grid, "--channel", row.channel, "--no-overlay",
-                                     "--size", "260x150", "-o", picture});
+        const Outcome outcome =
+            run(std::string("render @out.pre --no-overlay --size 260x150 -o @mapa.png --channel ") +
+                row.channel);
         EXPECT_EQ(outcome.status, 0);
         EXPECT_EQ(outcome.boxes, row.says);
-        const QImage image(QString::fromStdString(picture));
+        const QImage image(QString::fromStdString(folder.file("mapa.png")));
         ASSERT_FALSE(image.isNull());
         const QPoint corner(image.width() / 2, image.height() / 7);
         EXPECT_EQ(image.pixel(corner) != qRgb(255, 255, 255), row.margin);
@@ -110,11 +105,11 @@ TEST_F(Prescribe, EveryChannelOfAPrescriptionCanBeDrawn) {
 
 TEST_F(Prescribe, ADamagedMapIsToldAsFarAsItIsSoundAndPrescribesNothing) {
     std::filesystem::resize_file(map, std::filesystem::file_size(map) - 1);
-    const Outcome told = run({"info", "--json", map});
+    const Outcome told = run("info --json @mapa.shp");
     EXPECT_EQ(told.status, 1);
     EXPECT_THAT(told.boxes, HasSubstr("se leyeron solo 1 registros de " + map));
     EXPECT_EQ(json::parse(told.out)["files"][0]["layers"][0]["polygons"], 1);
-    EXPECT_EQ(run({"prescribe", "--channel", map + ",DOSIS", "-o", grid}).status, 1);
+    EXPECT_EQ(run("prescribe --channel @mapa.shp,DOSIS -o @out.pre").status, 1);
     EXPECT_FALSE(std::filesystem::exists(grid));
 }
 
@@ -126,7 +121,7 @@ struct SharedPrescriptions : BatchRun {
         all = json::parse(std::ifstream(*samples + "/expected.json"));
     }
     /// What `info --json` says, with paths reduced to the names of files.
-    static json infoOf(const std::string& path) {
+    [[nodiscard]] json infoOf(const std::string& path) const {
         json info = json::parse(run({"info", "--json", path}).out);
         for (json& file : info["files"]) {
             file["path"] = fileNamePart(file["path"].get<std::string>());
@@ -163,14 +158,14 @@ TEST_F(SharedPrescriptions, AreMadeByteForByte) {
                 const bool isMap = words.back() == "--channel";
                 words.push_back(isMap ? *samples + "/" + word : word);
             }
-            words.insert(words.end(), {"-o", folder.file("out." + kind)});
+            words.insert(words.end(), {"-o", "@out." + kind});
             EXPECT_EQ(run(words).status, expected["exit"]);
             for (const auto& [ending, file] : expected["files"].items()) {
                 const Result<FileBytes> bytes = readFile(folder.file("out." + ending));
                 ASSERT_TRUE(bytes);
                 EXPECT_EQ(sha256(bytes->bytes()), file["sha256"]);
             }
-            json info = infoOf(folder.file("out." + kind));
+            json info = infoOf("@out." + kind);
             json& summary = info["files"][0]["summary"];
             const std::size_t channels = info["files"][0]["layers"][0]["channels"].size();
             ASSERT_GT(summary.size(), channels);

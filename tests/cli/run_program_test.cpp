@@ -31,9 +31,10 @@ auto linesOf(const std::string& text) {
 
 TEST_F(Program, TellsWhatIsInAFile) {
     folder.write("matriculas.txt", "6001:LV-XYZ");
+    dataFolder = folder.path();
     const std::string path = track("log0001.nbr", 3);
     folder.write("Wrk0001.txt", "Lote,La Loma,\r\nAncho.,18,mts\r\n");
-    const Outcome outcome = run({"info", path}, folder.path());
+    const Outcome outcome = run("info @log0001.nbr");
     EXPECT_EQ(outcome.status, 0);
     EXPECT_EQ(outcome.boxes, "");
     EXPECT_EQ(outcome.out, "log0001.nbr (LV-XYZ)\n"
@@ -44,37 +45,36 @@ TEST_F(Program, TellsWhatIsInAFile) {
                                "  Ancho: 18 mts\n"
                                "  Capas GphTrack: 1 (2 elementos, 3 puntos)\n"
                                "  Extensión: (-60.5002; -31.5) a (-60.5; -31.5), 19 x 0 m\n");
-    EXPECT_THAT(run({"info", path, "--program-dir", folder.file("otra")}, folder.path()).out,
-                Not(HasSubstr("LV-XYZ")));
+    EXPECT_THAT(run("info @log0001.nbr --program-dir @otra").out, Not(HasSubstr("LV-XYZ")));
 }
 
 TEST_F(Program, NotesWhatIsToBeSaidAboutAFileThatOpens) {
     std::string bytes = reportBytes();
     bytes[32 + 32 + 27] = 1;  // the highest byte of a swath
     const std::string path = folder.write("lote.rpt", bytes + "xyz");
-    const Outcome outcome = run({"info", "--json", "--language", "en", path});
+    const Outcome outcome = run("info --json --language en @lote.rpt");
     const std::string cut = "The last record is cut off and was not read: it has 3 bytes of 32";
     EXPECT_EQ(outcome.status, 0);
     EXPECT_THAT(outcome.boxes, StartsWith("note: " + path + ": " + cut + "\nnote: "));
     EXPECT_EQ(linesOf(outcome.boxes), 2);
     EXPECT_THAT(outcome.out, HasSubstr("\"" + cut + "\","));
     EXPECT_THAT(outcome.out, Not(HasSubstr("(!)"))) << "values stay bare";
-    EXPECT_THAT(run({"info", path}).out, HasSubstr(" (!)\n"));
-    EXPECT_THAT(run({"info", "--json", report("sano.rpt")}).out, Not(HasSubstr("remarks")));
+    EXPECT_THAT(run("info @lote.rpt").out, HasSubstr(" (!)\n"));
+    report("sano.rpt");
+    EXPECT_THAT(run("info --json @sano.rpt").out, Not(HasSubstr("remarks")));
 }
 
 TEST_F(Program, AFileThatIsRefusedDoesNotStopTheOthers) {
-    const std::string good = report("bueno.rpt");
+    report("bueno.rpt");
+    folder.write("carta.doc", "Estimado");
+    folder.write("corto.rpt", reportBytes().substr(0, 20));
     const std::pair<std::string, int> rows[] = {
-        {folder.file("falta.rpt"), 1},
-        {folder.write("carta.doc", "Estimado"), 1},
-        {good, 0},  // open already
-        {folder.write("corto.rpt", reportBytes().substr(0, 20)), 1},
-        {folder.path(), 1},
+        {"@falta.rpt", 1}, {"@carta.doc", 1}, {"@bueno.rpt", 0},  // open already
+        {"@corto.rpt", 1}, {"@", 1},
     };
     for (const auto& [path, boxes] : rows) {
         SCOPED_TRACE(path);
-        const Outcome outcome = run({"info", good, path, "--json"});
+        const Outcome outcome = run("info @bueno.rpt --json " + path);
         EXPECT_EQ(outcome.status, 1);
         EXPECT_EQ(linesOf(outcome.boxes), boxes);
         EXPECT_THAT(outcome.out, HasSubstr("\"name\": \"bueno.rpt\""));
@@ -92,21 +92,21 @@ TEST_F(Program, NamesDoNotSteerTheTerminal) {
 TEST_F(Program, OptionsAnswerTheQuestions) {
     const std::string more = track("log0001.nbr", 4);
     const std::string less = track("log0002.nbr", 3);
-    const Outcome no = run({"info", more, less});
+    const Outcome no = run("info @log0001.nbr @log0002.nbr");
     EXPECT_EQ(no.status, 1);
     EXPECT_EQ(no.boxes, "El archivo  |  | " + less +
                             " |  | corresponde a un trabajo ya cargdo y mas completo en |  | " +
                             more + " |  | Desea eliminar del disco el archivo viejo?\n");
     EXPECT_TRUE(isThere("log0002.nbr"));
-    EXPECT_EQ(run({"info", more, less, "--yes"}).status, 1);
+    EXPECT_EQ(run("info @log0001.nbr @log0002.nbr --yes").status, 1);
     EXPECT_FALSE(isThere("log0002.nbr"));
 
     RptBytes fourFields;
     fourFields.addFourFields(fixAt(0, 0), 1000);
     fourFields.addFourFields(fixAt(100, 0), 1000);
-    const std::string old = folder.write("viejo.rpt", fourFields.bytes());
-    EXPECT_THAT(run({"info", old, "--swath", "40"}).out, HasSubstr("Hect. Trabajadas: 0.4"));
-    EXPECT_EQ(run({"info", old, "--swath", ""}).status, 1);
+    folder.write("viejo.rpt", fourFields.bytes());
+    EXPECT_THAT(run("info @viejo.rpt --swath 40").out, HasSubstr("Hect. Trabajadas: 0.4"));
+    EXPECT_EQ(run("info @viejo.rpt --swath ").status, 1) << "an empty answer";
 }
 
 TEST_F(Program, TellsAndCopiesTheOrdersOfAFolder) {
@@ -115,62 +115,59 @@ TEST_F(Program, TellsAndCopiesTheOrdersOfAFolder) {
     const std::string first = folder.write("LOG1.NBR", text.bytes());
     text.order = "S/N";
     const std::string second = folder.write("log2.nbr", text.bytes());
-    const std::string copy = folder.file("copia");
-    std::filesystem::create_directory(nativePath(copy));
-    const Outcome listed = run({"orders", folder.path()});
+    std::filesystem::create_directory(nativePath(folder.file("copia")));
+    const Outcome listed = run("orders @");
     EXPECT_EQ(listed.status, 0);
     EXPECT_EQ(listed.out, "Orden 15  15/07/16  18:03:32\n  " + first +
                               "\nSin número  15/07/16  18:03:32\n  " + second + "\n");
-    const Outcome copied = run({"orders", folder.path(), "--copy", "15", copy});
+    const Outcome copied = run("orders @ --copy 15 @copia");
     EXPECT_EQ(copied.status, 0);
     EXPECT_EQ(copied.boxes, " 1 archivos copiados\n");
 
-    folder.write("copia/LOG1.NBR", "otra cosa");
-    const std::pair<Words, int> rows[] = {
-        {{"orders", folder.path(), "--copy", "15", copy}, 2},  // the question is answered with No
-        {{"orders", folder.path(), "--copy", "16", copy}, 1},
-        {{"orders", folder.file("falta"), "--copy", "15", copy}, 1},
-        {{"orders", first}, 1},
+    const std::string copy = folder.write("copia/LOG1.NBR", "otra cosa");
+    const std::pair<const char*, int> rows[] = {
+        {"orders @ --copy 15 @copia", 2},  // the question is answered with No
+        {"orders @ --copy 16 @copia", 1},
+        {"orders @falta --copy 15 @copia", 1},
+        {"orders @LOG1.NBR", 1},
     };
-    for (const auto& [words, boxes] : rows) {
-        const Outcome outcome = run(words);
+    for (const auto& [line, boxes] : rows) {
+        const Outcome outcome = run(line);
         EXPECT_EQ(outcome.status, 1);
         EXPECT_EQ(linesOf(outcome.boxes), boxes) << outcome.boxes;
     }
-    EXPECT_EQ(contentOf(copy + "/LOG1.NBR"), "otra cosa");
-    EXPECT_EQ(run({"orders", folder.path(), "--copy", "15", copy, "--yes"}).status, 0);
-    EXPECT_EQ(contentOf(copy + "/LOG1.NBR"), contentOf(first));
+    EXPECT_EQ(contentOf(copy), "otra cosa");
+    EXPECT_EQ(run("orders @ --copy 15 @copia --yes").status, 0);
+    EXPECT_EQ(contentOf(copy), contentOf(first));
 }
 
 TEST_F(Program, TellsWhatTheFilesOfAProjectHold) {
     const std::string source = report("lote.rpt");
     const std::string header = "FurrowScope project file\n";
-    const std::string good = folder.write("a.fsp", header + "/LOTE.RPT");
-    const Outcome outcome = run({"project", good, "--json", "--program-dir", folder.path()});
+    folder.write("a.fsp", header + "/LOTE.RPT");
+    const Outcome outcome = run("project @a.fsp --json --program-dir @");
     EXPECT_EQ(outcome.status, 0);
     EXPECT_EQ(outcome.boxes, "");
     EXPECT_THAT(outcome.out, HasSubstr("\"name\": \"lote.rpt\""));
+    folder.write("b.fsp", header + "/lote.rpt\n/falta.rpt");
+    folder.write("c.fsp", header + "/lote.rpt\n" + source);
+    folder.write("d.fsp", header);
     const std::pair<std::string, int> rows[] = {
-        {folder.write("b.fsp", header + "/lote.rpt\n/falta.rpt"), 1},
-        {folder.write("c.fsp", header + "/lote.rpt\n" + source), 0},  // open already
-        {folder.write("d.fsp", header), 1},
-        {source, 1},
-        {folder.file("falta.fsp"), 1},
-    };
+        {"@b.fsp", 1}, {"@c.fsp", 0}, {"@d.fsp", 1}, {"@lote.rpt", 1}, {"@falta.fsp", 1}};
     for (const auto& [path, boxes] : rows) {
         SCOPED_TRACE(path);
-        const Outcome refused = run({"project", path}, folder.path());
+        const Outcome refused = run("project --program-dir @ " + path);
         EXPECT_EQ(refused.status, 1);
         EXPECT_EQ(linesOf(refused.boxes), boxes);
     }
 }
 
 TEST_F(Program, AWrongCommandLineShowsTheUsage) {
-    const Outcome outcome = run({"info", "a.rpt", "--size", "2x2", "--language", "en"});
+    const Outcome outcome = run("info a.rpt --size 2x2 --language en");
     EXPECT_EQ(outcome.status, 2);
     EXPECT_EQ(outcome.out, "");
     EXPECT_THAT(outcome.boxes, StartsWith("Unknown option: --size\n\nUsage: campora-cli "));
-    const Outcome help = run({"--help"});
+    const Outcome help = run("--help");
     EXPECT_EQ(help.status, 0);
     EXPECT_EQ(help.boxes, "");
     EXPECT_THAT(help.out, StartsWith("Uso: campora-cli "));
@@ -189,41 +186,38 @@ TEST_F(Program, OutputThatCannotBePrintedIsNotDone) {
 
 TEST_F(Program, TheMapHasTheChosenColours) {
     const std::string picture = folder.file("mapa.png");
-    const std::pair<Words, QRgb> rows[] = {
-        {{}, qRgb(255, 255, 0)},
-        {{"--no-overlay"}, qRgb(255, 255, 0)},
-        {{"--mode", "plain"}, qRgb(0x80, 0x80, 0xFF)},
-        {{"--mode", "error", "--channel", "1"}, qRgb(255, 0, 255)},
+    folder.write("lote.rpt", reportBytes(1500));
+    const std::pair<std::string, QRgb> rows[] = {
+        {"", qRgb(255, 255, 0)},
+        {" --no-overlay", qRgb(255, 255, 0)},
+        {" --mode plain", qRgb(0x80, 0x80, 0xFF)},
+        {" --mode error --channel 1", qRgb(255, 0, 255)},
     };
     std::vector<std::size_t> sizes;
     for (const auto& [options, swath] : rows) {
-        Words words = {"render", folder.write("lote.rpt", reportBytes(1500)),
-                       "-o",     picture,
-                       "--size", "600x450"};
-        words.insert(words.end(), options.begin(), options.end());
-        const Outcome outcome = run(words);
+        const Outcome outcome = run("render @lote.rpt -o @mapa.png --size 600x450" + options);
         EXPECT_EQ(outcome.status, 0);
         EXPECT_EQ(outcome.boxes, "");
         const QImage image(QString::fromStdString(picture));
         ASSERT_EQ(image.size(), QSize(600, 450));
         // The two steps meet in the middle; this is inside the first.
-        EXPECT_EQ(image.pixel(150, 232), swath) << testing::PrintToString(options);
+        EXPECT_EQ(image.pixel(150, 232), swath) << options;
         sizes.push_back(contentOf(picture).size());
     }
     EXPECT_GT(sizes[0], sizes[1]) << "a scale bar and arrows";
 }
 
 TEST_F(Program, APictureThatCannotBeMadeLeavesNothing) {
-    const std::string source = report("lote.rpt");
+    report("lote.rpt");
     const std::string old = folder.write("mapa.png", "the old one");
-    EXPECT_EQ(run({"render", folder.file("falta.rpt"), "-o", old}).status, 1);
+    EXPECT_EQ(run("render @falta.rpt -o @mapa.png").status, 1);
     EXPECT_EQ(contentOf(old), "the old one");
 
-    const Outcome outcome = run({"render", source, "-o", folder.file("falta/mapa.png")});
+    const Outcome outcome = run("render @lote.rpt -o @falta/mapa.png");
     EXPECT_EQ(outcome.status, 1);
     EXPECT_THAT(outcome.boxes, HasSubstr("mapa.png"));
 
-    EXPECT_EQ(run({"render", source, folder.file("falta.rpt"), "-o", old}).status, 1);
+    EXPECT_EQ(run("render @lote.rpt @falta.rpt -o @mapa.png").status, 1);
     EXPECT_FALSE(QImage(QString::fromStdString(old)).isNull()) << "what could be done is done";
     const auto files = std::filesystem::directory_iterator(nativePath(folder.path()));
     EXPECT_EQ(std::distance(begin(files), end(files)), 2);

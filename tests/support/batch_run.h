@@ -13,6 +13,7 @@
 #include <gtest/gtest.h>
 
 #include "base/paths.h"
+#include "base/text.h"
 #include "cli/run_program.h"
 #include "support/temp_folder.h"
 #include "support/work_files.h"
@@ -29,11 +30,22 @@ struct BatchRun : testing::Test {
         std::string boxes;
     };
 
-    static Outcome run(const Words& words, const std::string& dataFolder = "") {
+    /// "@" at the beginning of a word stands for the folder: "info @a.rpt".
+    [[nodiscard]] Outcome run(Words words) const {
+        for (std::string& word : words) {
+            word = word == "@"             ? folder.path()
+                   : word.starts_with('@') ? folder.file(word.substr(1))
+                                           : word;
+        }
         std::ostringstream out;
         std::ostringstream boxes;
         const int status = runProgram(words, dataFolder, {out, boxes});
         return {status, out.str(), boxes.str()};
+    }
+    /// Words without blanks.
+    [[nodiscard]] Outcome run(const std::string& line) const {
+        const std::vector<std::string_view> words = split(line, ' ');
+        return run(Words(words.begin(), words.end()));
     }
     /// Three points, 10 m apart from west to east, with a swath of 20 m and an alarm.
     [[nodiscard]] static std::string reportBytes(std::int32_t realTenths = 1000) {
@@ -47,11 +59,9 @@ struct BatchRun : testing::Test {
         }
         return bytes.bytes();
     }
-    [[nodiscard]] std::string report(std::string_view name) const {
-        return folder.write(name, reportBytes());
-    }
+    std::string report(std::string_view name) const { return folder.write(name, reportBytes()); }
     /// A logger's pass, without flow from the fourth point on.
-    [[nodiscard]] std::string track(std::string_view name, std::uint32_t points = 5) const {
+    std::string track(std::string_view name, std::uint32_t points = 5) const {
         TrackText text;
         for (std::uint32_t i = 0; i < points; ++i) {
             text.addPoint(100 * i, 0, i < 3 ? 50 : 0, 20);
@@ -63,6 +73,7 @@ struct BatchRun : testing::Test {
     }
 
     TempFolder folder;
+    std::string dataFolder = CAMPORA_SOURCE_DIR "/data";
 };
 
 }  // namespace campora
