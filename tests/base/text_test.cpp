@@ -11,11 +11,8 @@ namespace campora {
 namespace {
 
 TEST(Text, TrimTakesBlanksOfBothEndsOnly) {
-    const std::pair<std::string_view, std::string_view> rows[] = {{"", ""},
-                                                                  {" \t\r\n", ""},
-                                                                  {"\t a b \r\n", "a b"},
-                                                                  {"  \u00e1 ", "\u00e1"},
-                                                                  {"\va\v", "\va\v"}};
+    const std::pair<std::string_view, std::string_view> rows[] = {
+        {"", ""}, {" \t\r\n", ""}, {"\t a b \r\n", "a b"}, {"  á ", "á"}, {"\va\v", "\va\v"}};
     for (const auto& [text, trimmed] : rows) {
         EXPECT_EQ(trim(text), trimmed);
     }

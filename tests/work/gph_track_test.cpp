@@ -113,6 +113,8 @@ TEST(GphTrack, IsExportedByStepsRecordsAndPoints) {
     addAt(track, 100, 0, reportRecord(0, 40));
     addAt(track, 200, 0, reportRecord(110, 60));
     EXPECT_EQ(track.ExportablePolygon_polygonCount(), 2);
+    EXPECT_EQ(track.ExportablePolygon_polygonNpoint(0, 0), atMetres(0, 10)) << "left at its start";
+    EXPECT_EQ(track.ExportablePolygon_polygonNpoint(0, 2), atMetres(100, -10));
     MapStyle style;
     EXPECT_EQ(track.ExportablePolygon_polygonNCount(style, 1), 4);
     style.drawAll = false;

@@ -93,6 +93,7 @@ TEST(PassSplitter, EndsPassesAtBreaksAndTurns) {
         {"a table has no glitches", table, 20, {{0, 0}, {20000, 0}, {10, 0}}, "OOO"},
         {"another field", report, 20, {{0, 0}, {20000, 0}, {20010, 0}, {20020, 0}}, "O-OC"},
         {"and back", report, 20, {{0, 0}, {20000, 0}, {20010, 0}, {0, 0}, {10, 0}}, "O-O-O"},
+        {"all apart", report, 20, {{0, 0}, {20000, 0}, {60000, 0}, {10, 0}}, "O--C"},
         {"far from a far one only", report, 20, {{0, 0}, {14000, 0}, {7000, 0}}, "O-O"},
     };
     for (const auto& [name, limits, swath, way, placements] : rows) {
