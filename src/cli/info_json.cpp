@@ -21,13 +21,13 @@ namespace campora {
 namespace {
 
 /// Null for a box that was never set.
-Json boundOf(const BoundingBox& box) {
+Json boundJson(const BoundingBox& box) {
     return !box.isSet ? Json()
                       : Json{{"minX", box.minX}, {"minY", box.minY},     {"maxX", box.maxX},
                              {"maxY", box.maxY}, {"widthM", box.widthM}, {"heightM", box.heightM}};
 }
 
-Json summaryOf(const FileProperties& summary) {
+Json summaryJson(const FileProperties& summary) {
     Json rows = Json::array();
     for (const SummaryEntry& entry : summary.entries()) {
         rows.push_back(
@@ -37,7 +37,7 @@ Json summaryOf(const FileProperties& summary) {
 }
 
 /// What a person put in the place of figures; a row that is not shown has no value.
-Json editsOf(const FileProperties& summary) {
+Json editsJson(const FileProperties& summary) {
     Json rows = Json::array();
     for (const ShownEntry& row : shownEntries(summary)) {
         if (row.origin != ShownEntry::Origin::Measured) {
@@ -79,7 +79,7 @@ void addGrid(Json& layer, const GridLayer& grid) {
     }
 }
 
-void addColumns(Json& layer, const GphPresc& presc) {
+void addTable(Json& layer, const GphPresc& presc) {
     layer["polygons"] = presc.Gph_count();
     Json& columns = layer["columns"] = Json::array();
     for (int column = 1; column <= presc.columnCount(); ++column) {
@@ -104,11 +104,11 @@ Json layerOf(const Gph& layer, const InfoContext& context) {
     Json told{{"kind", layer.Gph_kind()},
               {"elements", layer.Gph_count()},
               {"points", points != nullptr ? Json(points->ExportablePoint_pointCount()) : Json()},
-              {"bound", boundOf(layer.Gph_bound())}};
+              {"bound", boundJson(layer.Gph_bound())}};
     if (const auto* const grid = dynamic_cast<const GridLayer*>(&layer)) {
         addGrid(told, *grid);
     } else if (const auto* const presc = dynamic_cast<const GphPresc*>(&layer)) {
-        addColumns(told, *presc);
+        addTable(told, *presc);
     } else if (const auto* const lot = dynamic_cast<const GphLote*>(&layer)) {
         addLot(told, *lot, context);
     }
@@ -119,10 +119,10 @@ Json fileOf(File& file, const InfoContext& context) {
     const FileProperties& summary = file.File_resumen();
     Json told{{"name", file.File_name()},         {"path", file.File_path()},
               {"icon", file.File_icon()},         {"id", file.File_id()},
-              {"priority", file.File_priority()}, {"bound", boundOf(file.File_bound())},
-              {"summary", summaryOf(summary)}};
+              {"priority", file.File_priority()}, {"bound", boundJson(file.File_bound())},
+              {"summary", summaryJson(summary)}};
     if (!summary.edits.empty()) {
-        told["edited"] = editsOf(summary);
+        told["edited"] = editsJson(summary);
     }
     Json& layers = told["layers"] = Json::array();
     for (const Gph* layer : file.File_gphList()) {

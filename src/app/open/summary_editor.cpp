@@ -15,19 +15,19 @@ namespace campora {
 namespace {
 
 /// A line of the file is one record: a break inside a field becomes a blank.
-std::string oneLine(std::string_view field) {
+std::string withoutBreaks(std::string_view field) {
     std::string line = replaceAll(field, "\r\n", " ");
     std::replace_if(
         line.begin(), line.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
     return line;
 }
 
-SummaryEntry oneLine(const SummaryEntry& entry) {
-    return {oneLine(entry.property), oneLine(entry.value), oneLine(entry.unit)};
+SummaryEntry withoutBreaks(const SummaryEntry& entry) {
+    return {withoutBreaks(entry.property), withoutBreaks(entry.value), withoutBreaks(entry.unit)};
 }
 
 SummaryEntry trimmed(const SummaryEntry& entry) {
-    const auto [property, value, unit] = oneLine(entry);
+    const auto [property, value, unit] = withoutBreaks(entry);
     return {std::string(trim(property)), std::string(trim(value)), std::string(trim(unit))};
 }
 
@@ -59,7 +59,7 @@ void SummaryRows::select(std::optional<int> row) {
 }
 
 void SummaryRows::add() {
-    rows_.insert(selected_ ? rows_.begin() + *selected_ : rows_.end(), oneLine(fields));
+    rows_.insert(selected_ ? rows_.begin() + *selected_ : rows_.end(), withoutBreaks(fields));
     if (selected_) {
         ++*selected_;
     }
