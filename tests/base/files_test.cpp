@@ -127,31 +127,24 @@ TEST(WriteFile, ClearsAwayWhatKilledProgramsLeftAndNothingElse) {
 TEST(WriteFile, SaysWhyItCannot) {
     const TempFolder folder;
     const std::string file = folder.write("a.rpt", "x");
+    EXPECT_EQ(whyNoTarget(folder.file("b")), std::nullopt);
     const std::pair<std::string, TextId> rows[] = {
         {folder.path(), TextId::FileIsFolder},
+        {folder.path() + "/", TextId::FileIsFolder},
+        {folder.path() + "\\", TextId::FileIsFolder},
+        {folder.file("none/"), TextId::FolderNotFound},
         {folder.file("none/a.rpt"), TextId::FolderNotFound},
         {"", TextId::FileNotFound},
         {folder.file("b") + std::string(1, '\0'), TextId::FileNotFound},
     };
     for (const auto& [path, reason] : rows) {
         expectFailure(writeFile(path, bytesOf("y")), TextId::FileCannotBeWritten, path, reason);
+        if (fileNamePart(path).empty()) {
+            expectFailure(whyNoTarget(path), TextId::FileCannotBeWritten, path, reason);
+        }
     }
     EXPECT_EQ(entriesOf(folder), 1U);
     EXPECT_EQ(contentOf(file), "x");
-}
-
-TEST(WhyNoTarget, APathWithoutANameIsRefused) {
-    const TempFolder folder;
-    EXPECT_EQ(whyNoTarget(folder.file("a")), std::nullopt);
-    const std::pair<std::string, TextId> rows[] = {
-        {folder.path() + "/", TextId::FileIsFolder},
-        {folder.path() + "\\", TextId::FileIsFolder},
-        {folder.file("none/"), TextId::FolderNotFound},
-        {"", TextId::FileNotFound},
-    };
-    for (const auto& [path, reason] : rows) {
-        expectFailure(whyNoTarget(path), TextId::FileCannotBeWritten, path, reason);
-    }
 }
 
 TEST(DeleteFile, DeletesFilesOnly) {
