@@ -149,16 +149,19 @@ int checkedHeight(const R2TreeNode& node) {
     return height;
 }
 
+/// Items at random places, and how a tree holds them.
+struct Crowd {
+    const char* name;
+    int span;  // of the corners
+    int side;  // longest side
+    int grid;  // corners are multiples of this
+    std::uint8_t most;
+    std::uint8_t fewest;
+    int items;
+};
+
 TEST(R2Tree, FindsInTheOrderOfASlowTwin) {
-    const struct Row {
-        const char* name;
-        int span;  // of the corners
-        int side;  // longest side
-        int grid;  // corners are multiples of this
-        std::uint8_t most;
-        std::uint8_t fewest;
-        int items;
-    } rows[] = {
+    const Crowd rows[] = {
         {"zones apart", 1'000'000'000, 9'000'000, 1, 50, 25, 3000},
         {"zones that overlap", 1'000'000, 300'000, 1, 50, 25, 2000},
         {"a grid, with many ties", 3000, 300, 100, 50, 25, 2000},
@@ -168,7 +171,7 @@ TEST(R2Tree, FindsInTheOrderOfASlowTwin) {
         {"nodes of one", 1'000'000, 200'000, 1, 1, 1, 12},
     };
     std::mt19937 random(5101);
-    for (const Row& row : rows) {
+    for (const Crowd& row : rows) {
         SCOPED_TRACE(row.name);
         const auto below = [&](int limit) {
             return static_cast<int>(random() % unsigned(limit)) / row.grid * row.grid;

@@ -3,6 +3,7 @@
 
 #include <cmath>
 #include <random>
+#include <sstream>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -20,9 +21,9 @@ constexpr CanvasSize kCanvas{1000, 1000};
 
 /// Metres, so that canvas units can be read off: x = east, y = 1000 - north.
 struct Stop {
-    double east;
-    double north;
-    std::int32_t dose;
+    double east = 0;
+    double north = 0;
+    std::int32_t dose = 0;
     float swath = 20;
 };
 
@@ -33,6 +34,20 @@ GphTrack trackOf(const std::vector<Stop>& stops) {
         track.addPoint(at.x, at.y, reportRecord(stop.dose, stop.swath));
     }
     return track;
+}
+
+/// Of "100 500 9, 200 500 9 40": east, north, dose and perhaps the swath of each.
+std::vector<Stop> stopsOf(std::string_view text) {
+    std::vector<Stop> stops;
+    for (const std::string_view piece : split(text, ',')) {
+        std::istringstream numbers{std::string(piece)};
+        Stop& stop = stops.emplace_back();
+        numbers >> stop.east >> stop.north >> stop.dose;
+        if (float swath = 0; numbers >> swath) {
+            stop.swath = swath;
+        }
+    }
+    return stops;
 }
 
 struct Drawing {
@@ -63,70 +78,47 @@ std::string shortened(const std::vector<std::string>& calls) {
 
 TEST(GphTrackPlot, JoinsStepsThatLookAlike) {
     enum Drawn { Worked, All, Dotted, AllAndDotted };
-    const std::tuple<const char*, std::vector<Stop>, Drawn, const char*> rows[] = {
-        {"a run goes up its left side and back down its right",
-         {{100, 500, 9}, {200, 500, 9}, {300, 500, 0}},
-         Worked,
-         "W (100,490) (200,490) (300,490) (300,510) (200,510) (100,510)"},
-        {"another width begins a polygon of that width",
-         {{100, 500, 9}, {200, 500, 9, 40}, {300, 500, 9, 40}},
+    const std::tuple<const char*, const char*, Drawn, const char*> rows[] = {
+        {"a run goes up its left side and back down its right", "100 500 9, 200 500 9, 300 500 0",
+         Worked, "W (100,490) (200,490) (300,490) (300,510) (200,510) (100,510)"},
+        {"another width begins a polygon of that width", "100 500 9, 200 500 9 40, 300 500 9 40",
          All,
          "W (100,490) (200,490) (200,510) (100,510); W (200,480) (300,480) (300,520) (200,520)"},
-        {"a corner is mitred although the flow changes there",
-         {{100, 500, 9}, {200, 500, 8}, {200, 600, 8}},
+        {"a corner is mitred although the flow changes there", "100 500 9, 200 500 8, 200 600 8",
          All,
          "W (100,490) (190,490) (210,510) (100,510); W (190,490) (190,400) (210,400) (210,510)"},
-        {"a turn on the spot keeps the arriving step's corners",
-         {{100, 500, 9}, {200, 500, 9}, {100, 501, 9}},
-         All,
-         "W (100,490) (200,490) (100,509) (100,489) (200,510) (100,510)"},
-        {"without flow, all drawn",
-         {{100, 500, 9}, {200, 500, 0}, {300, 500, 0}},
-         AllAndDotted,
+        {"a turn on the spot keeps the arriving step's corners", "100 500 9, 200 500 9, 100 501 9",
+         All, "W (100,490) (200,490) (100,509) (100,489) (200,510) (100,510)"},
+        {"without flow, all drawn", "100 500 9, 200 500 0, 300 500 0", AllAndDotted,
          "W (100,490) (200,490) (200,510) (100,510); N (200,490) (300,490) (300,510) (200,510); "
          "L (200,500) (300,500)"},
-        {"without flow, dotted",
-         {{100, 500, 9}, {200, 500, 0}, {300, 500, 9}, {400, 500, 9}},
-         Dotted,
+        {"without flow, dotted", "100 500 9, 200 500 0, 300 500 9, 400 500 9", Dotted,
          "W (100,490) (200,490) (200,510) (100,510); L (200,500) (300,500); "
          "W (300,490) (400,490) (400,510) (300,510)"},
-        {"out of view and back",
-         {{800, 500, 9}, {900, 500, 9}, {1500, 500, 9}, {1500, 600, 9}, {900, 600, 9}},
-         All,
+        {"out of view and back", "800 500 9, 900 500 9, 1500 500 9, 1500 600 9, 900 600 9", All,
          "W (800,490) (900,490) (1490,490) (1510,510) (900,510) (800,510); "
          "W (1490,410) (900,410) (900,390) (1510,390)"},
-        {"far off",
-         {{3000, 500, 9}, {3100, 500, 9}, {3200, 500, 0}, {3300, 500, 0}},
-         AllAndDotted,
-         ""},
-        {"just off, but wide enough to be seen",
-         {{1090, 500, 9, 200}, {1090, 600, 9, 200}},
-         All,
+        {"far off", "3000 500 9, 3100 500 9, 3200 500 0, 3300 500 0", AllAndDotted, ""},
+        {"just off, but wide enough to be seen", "1090 500 9 200, 1090 600 9 200", All,
          "W (990,500) (990,400) (1190,400) (1190,500)"},
-        {"a short step hides no colour under its outline",
-         {{100, 500, 9}, {110, 500, 8}, {200, 500, 8}},
-         All,
+        {"a short step hides no colour under its outline", "100 500 9, 110 500 8, 200 500 8", All,
          "w (100,490) (110,490) (110,510) (100,510); W (110,490) (200,490) (200,510) (110,510)"},
         {"steps below a pixel are drawn at once where their colours agree",
-         {{100, 500, 9}, {110, 500, 8}, {120, 500, 0}, {130, 500, 7}, {220, 500, 7}},
-         All,
+         "100 500 9, 110 500 8, 120 500 0, 130 500 7, 220 500 7", All,
          "w (100,490) (110,490) (120,490) (120,510) (110,510) (100,510); "
          "n (120,490) (130,490) (130,510) (120,510); W (130,490) (220,490) (220,510) (130,510)"},
         {"a dose that lasts for more than a pixel is a figure of its own",
-         {{100, 500, 9}, {110, 500, 8}, {120, 500, 8}, {130, 500, 8}},
-         All,
+         "100 500 9, 110 500 8, 120 500 8, 130 500 8", All,
          "w (100,490) (110,490) (110,510) (100,510); "
          "W (110,490) (120,490) (130,490) (130,510) (120,510) (110,510)"},
-        {"a thin swath is thin at every angle",
-         {{100, 500, 9, 14}, {200, 400, 9, 14}},
-         All,
+        {"a thin swath is thin at every angle", "100 500 9 14, 200 400 9 14", All,
          "w (105,495) (205,595) (195,605) (95,505)"},
     };
     for (const auto& [name, stops, drawn, calls] : rows) {
         Drawing drawing;
         drawing.style.drawAll = drawn == All || drawn == AllAndDotted;
         drawing.style.drawDotted = drawn >= Dotted;
-        trackOf(stops).Gph_plot(drawing.context);
+        trackOf(stopsOf(stops)).Gph_plot(drawing.context);
         EXPECT_EQ(shortened(drawing.canvas.calls()), calls) << name;
         EXPECT_EQ(drawing.canvas.penStyle(), PenStyle::Solid);
     }
@@ -142,10 +134,11 @@ TEST(GphTrackPlot, WhatIsWidenedIntoTheMapIsDrawn) {
     EXPECT_EQ(drawing.canvas.calls().size(), 1U);
 }
 
+constexpr std::int32_t kSteps = 24;
+constexpr int kStepPixels = 20;
+
 /// Steps in pairs of one total dose and one width, of which each second differs in everything else.
-TEST(GphTrackPlot, EveryStepHasTheColourOfItsRecordInEveryMode) {
-    constexpr std::int32_t kSteps = 24;
-    constexpr int kStepPixels = 20;
+std::pair<GphTrack, GphTrack> pairedTracks() {
     GphTrack reports;
     GphTrack logged;
     for (std::int32_t i = 0; i <= kSteps; ++i) {
@@ -160,6 +153,11 @@ TEST(GphTrackPlot, EveryStepHasTheColourOfItsRecordInEveryMode) {
         reports.addPoint(at.x, at.y, TrackDataRPT(fields));
         logged.addPoint(at.x, at.y, loggerRecord(40, second ? 900 : 90));
     }
+    return {std::move(reports), std::move(logged)};
+}
+
+TEST(GphTrackPlot, EveryStepHasTheColourOfItsRecordInEveryMode) {
+    const auto [reports, logged] = pairedTracks();
     using By = GraduatedBy;
     const std::tuple<const char*, ColorMode, int, By, bool> rows[] = {
         {"dose", ColorMode::Dose, -1, By::Hectare, true},
