@@ -9,7 +9,6 @@
 #include <nlohmann/json.hpp>
 
 #include "support/exported_layers.h"
-#include "support/file_size_limit.h"
 #include "support/temp_folder.h"
 
 namespace campora {
@@ -123,32 +122,6 @@ TEST_F(GeoJsonTest, PointsWhereThereAreNoPolygons) {
     EXPECT_EQ(features[0]["geometry"].dump(),
               R"({"coordinates":[-58.123456789,34],"type":"Point"})");
     EXPECT_EQ(features[1]["geometry"]["coordinates"].dump(), "[0.3,0]");
-}
-
-TEST_F(GeoJsonTest, FailuresAndCancellingLeaveTheOldFile) {
-    const std::string old = folder.write("old.geojson", "old");
-    path = old;
-    AttributeLayer empty({}, {});
-    EXPECT_EQ(write({&empty}).value().text, TextId::NothingToExportGis);
-    AttributeLayer line({{{0, 0}, {1, 1}}}, {});
-    EXPECT_EQ(write({&line}).value().text, TextId::NothingToExportGis);
-    RingLayer layer(std::vector<RingLayer::Ring>(5000, squareAt(0, 0)));
-    CancellingProgress enough;
-    ExportProgress cancelled(enough);
-    const std::vector<Gph*> layers = {&layer};
-    EXPECT_EQ(exportGeoJson(layers, path, {MapStyle()}, cancelled), std::nullopt);
-#ifndef _WIN32
-    std::optional<Failure> failure;
-    {
-        const FileSizeLimit limit(10000);
-        failure = write(layers);
-    }
-    ASSERT_TRUE(failure.has_value());
-    EXPECT_EQ(failure->cause.at(0).text, TextId::FileTooLarge);
-#endif
-    EXPECT_EQ(contentOf(path), "old");
-    path = folder.path();
-    EXPECT_EQ(write(layers).value().cause.at(0).text, TextId::FileIsFolder);
 }
 
 }  // namespace

@@ -65,17 +65,6 @@ TEST_F(KmlTest, TemplatesAreFoundBesideTheProgramThenInItsFolderWithoutRegardToC
     EXPECT_EQ(contentOf(path), "a\r\nlote.kml\r\n-\r\n-\r\n1.,2.,50\r\n-\r\nz\r\n");
 }
 
-TEST_F(KmlTest, CancellingLeavesTheFileThatWasThere) {
-    folder.write("lote.kml", "old");
-    CancellingProgress enough;
-    ExportProgress progress(enough);
-    const std::vector<const Gph*> layers{&triangle};
-    EXPECT_EQ(kmlExport(layers, path, program.path(), style, progress), std::nullopt);
-    EXPECT_TRUE(progress.cancelled());
-    EXPECT_EQ(contentOf(path), "old");
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), 1);
-}
-
 struct Document {
     bool isWhole = false;
     std::string name;
@@ -125,30 +114,6 @@ TEST_F(KmlTest, StepsWithoutFlowAreLeftOutWhileTheyAreNotDrawn) {
     style.drawAll = false;
     ASSERT_EQ(save({&track}, kShipped), std::nullopt);
     EXPECT_EQ(readDocument(path).placemarks, 1);
-}
-
-TEST_F(KmlTest, AMapWithoutAPolygonToWriteIsRefused) {
-    GphTrack idle;
-    idle.addPoint(0, 0, reportRecord(0));
-    idle.addPoint(1e-4, 0, reportRecord(0));
-    RingLayer hollow{{{}}};
-    style.drawAll = false;
-    folder.write("lote.kml", "old");
-    const std::vector<const Gph*> rows[] = {{}, {&points}, {&hollow}, {&idle}};
-    for (const std::vector<const Gph*>& layers : rows) {
-        const std::optional<Failure> failure = save(layers, kShipped);
-        ASSERT_NE(failure, std::nullopt);
-        EXPECT_EQ(failure->text, TextId::NoPolygonsToExport);
-    }
-    EXPECT_EQ(contentOf(path), "old");
-}
-
-TEST_F(KmlTest, ATargetThatCannotBeWrittenIsTheFailure) {
-    path = folder.path();
-    const std::optional<Failure> failure = save({&triangle}, program.path());
-    ASSERT_NE(failure, std::nullopt);
-    EXPECT_EQ(Texts().sentence(*failure),
-              "No se puede guardar el archivo " + path + ": es una carpeta");
 }
 
 }  // namespace

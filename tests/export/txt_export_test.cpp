@@ -113,16 +113,6 @@ TEST_F(TextTest, ColumnsStandThereWhenEveryLayerWithPointsHasData) {
     EXPECT_EQ(table({&first}), "Longitud;Latitud;A.1;Lar\r\n 1; 2;1;1,5\r\n 3; 4;2;2,5\r\n");
 }
 
-TEST_F(TextTest, AMapWithoutPointsIsRefused) {
-    const PointLayer empty({});
-    NoProgress silent;
-    ExportProgress progress(silent);
-    const std::vector<const Gph*> layers{&empty};
-    const std::optional<Failure> failure = txtExport(layers, path, form, locale, progress);
-    ASSERT_NE(failure, std::nullopt);
-    EXPECT_EQ(failure->text, TextId::NoPointsToExport);
-}
-
 TEST_F(TextTest, AReportsPointsComeWithTheirSwathInCentimetres) {
     GphTrack track;
     track.addPoint(-60.5, -33, reportRecord(90, 12.5F));
