@@ -140,6 +140,8 @@ TEST_F(SelectDoseDialogTest, GivesANewDose) {
     EXPECT_EQ(ask(nullptr,
                   [this](QDialog& dialog) {
                       EXPECT_FALSE(dialog.findChild<QRadioButton*>("rbExistent")->isEnabled());
+                      EXPECT_GT(dialog.findChild<QPushButton*>("cmdCancel")->x(),
+                                dialog.findChild<QPushButton*>("cmdOk")->x());
                       EXPECT_EQ(dialog.findChild<QLineEdit*>("txtNewDosis")->text(), "12");
                       QTest::keyClicks(dialog.focusWidget(), "nada");
                       accept(dialog);

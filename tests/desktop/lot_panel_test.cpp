@@ -110,6 +110,9 @@ TEST_F(LotPanelTest, AVertexIsTyped) {
     type("33");
     part<QAbstractButton>("cmdLoteMove").click();
     EXPECT_EQ(editor().draft().vertices()[1], (LonLat{-58.25, -33}));
+    panel().vertices().setFocus();
+    QTest::keyClick(&panel().vertices(), Qt::Key_Tab);
+    EXPECT_FALSE(panel().vertices().hasFocus());
 }
 
 TEST_F(LotPanelTest, MoreThanTenLinesAreTheUsersToCut) {

@@ -54,6 +54,14 @@ TEST_F(WindowTest, ShowsAnOpenedReport) {
     EXPECT_THAT(dialogs.messages, IsEmpty());
 }
 
+TEST_F(WindowTest, SubmenusStandBeforeTheirEntries) {
+    const QList<QAction*> entries = window->menuBar()->actions().first()->menu()->actions();
+    const qsizetype reload = entries.indexOf(window->findChild<QAction*>("mnuFileReload"));
+    ASSERT_GT(reload, 0);
+    EXPECT_NE(entries[reload - 1]->menu(), nullptr);
+    EXPECT_EQ(window->findChild<QSlider*>("animation")->minimum(), 0);
+}
+
 TEST_F(WindowTest, ShowsWhatIsToBeSaidAboutAFile) {
     std::string bytes = contentOf(writeReport("lote.rpt"));
     bytes[32 + 27] = 1;  // the highest byte of the first swath

@@ -94,6 +94,14 @@ TEST(LotDraft, WhatChangesNothingIsNoStep) {
     EXPECT_FALSE(empty.canUndo());
 }
 
+TEST(LotDraft, RemovingKeepsTheMoveThatItEnds) {
+    LotDraft draft = triangle();
+    draft.beginMove(0);
+    draft.move(kAt);
+    draft.remove(1);
+    EXPECT_EQ(draft.vertices(), (Vertices{kAt, {0, 4}}));
+}
+
 TEST(LotDraft, ANewChangeEndsWhatCouldBeDoneAgain) {
     LotDraft draft = triangle();
     draft.append({1, 1});

@@ -4,6 +4,7 @@
 #include "pages/page_layout.h"
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gmock/gmock.h>
@@ -182,12 +183,14 @@ TEST(PageLayout, TellsHowMuchIsLeftOut) {
 }
 
 TEST(PageLayout, TheBarAndTheScaleSpeakOfTheSameMap) {
-    for (const bool landscape : {true, false}) {
-        const PageLayout page = layOut(setupOf("A4", landscape), content(5, 9, 3));
-        EXPECT_DOUBLE_EQ(page.scale, scaleThatShows(kExtent, page.map));
+    for (const auto& [width, middle] : {std::pair(4000, "0.5"), {400, "50"}}) {
+        const MapExtent extent{{-60, -33}, 1.0 * width, 0.75 * width};
+        const PageLayout page = layOut(setupOf("A4", width > 1000), content(5, 9, 3), extent);
+        EXPECT_DOUBLE_EQ(page.scale, scaleThatShows(extent, page.map));
         EXPECT_THAT(textsOf(page), Contains("Scale 1:" + groupedNumber(page.scale)));
         const double metres = page.bar.width * page.scale / 1000;
         EXPECT_THAT(textsOf(page), Contains(distanceText(std::round(metres), '.')));
+        EXPECT_THAT(textsOf(page), Contains(middle));
         EXPECT_NEAR(metres, std::round(metres), 1e-6);
     }
 }

@@ -13,6 +13,7 @@
 namespace campora {
 namespace {
 
+using testing::Contains;
 using testing::ElementsAre;
 
 const std::string kTitle = "Reporte de trabajo\r\n";
@@ -80,6 +81,8 @@ TEST(LoadRptTextTable, SummaryCountsTheFirstRecordAndEveryStep) {
                             "Dosis Promedio:|180|lt/hect", "Vel Promedio:|16,5|km/h",
                             "Hora inicio:|23:50:00|", "Duración:|22|min"));
     EXPECT_EQ(work.ranges.dose, (ValueRange<float>{100, 999}));
+    EXPECT_THAT(summaryLines(WorkReading().table(kHeadings8 + kRecord8).value()),
+                Contains("Vel Promedio:|0|km/h"));
 }
 
 TEST(LoadRptTextTable, AsksWhenTheHeadingsAreNeitherFourNorEight) {

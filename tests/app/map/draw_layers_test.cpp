@@ -126,6 +126,7 @@ TEST(PlaceMarks, NameWhatIsTooSmallToBeSeen) {
          5,
          {"long name", "longer name", "third name", "fourth name"}},
         {"the last at the edge", {place(395, 100, 0, "a")}, 1, {"a"}},
+        {"on the edge itself", {place(100, 300, 0, "a")}, 1, {"a"}},
     };
     const Texts texts;
     const MapStyle style;
@@ -141,6 +142,10 @@ TEST(PlaceMarks, NameWhatIsTooSmallToBeSeen) {
         }
         EXPECT_EQ(written, names);
     }
+    RecordingCanvas canvas(kCanvas);
+    const MarkedPlace one[] = {place(100, 100, 0, "a")};
+    drawPlaceMarks({canvas, kView, style}, one, texts);
+    EXPECT_NE(canvas.callsOf("text").front().find(",2880)"), std::string::npos) << "beside it";
 }
 
 }  // namespace

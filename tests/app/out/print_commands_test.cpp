@@ -87,9 +87,11 @@ TEST(PrintCommands, TheMapIsDrawnAgainAndTheWindowStaysAsItWas) {
 TEST(PrintCommands, DrawingCanBeCancelled) {
     PrintDesk desk;
     desk.add("a");
-    desk.dialogs.cancelAfter = 2;
     const auto progress = desk.dialogs.progress("x");
     const PageLayout page = desk.print.page(halfEach);
+    RecordingCanvas whole(desk.print.mapCanvas(page));
+    EXPECT_TRUE(desk.print.drawMap(page, whole, progress.get()));
+    desk.dialogs.cancelAfter = 4;
     RecordingCanvas paper(desk.print.mapCanvas(page));
     EXPECT_FALSE(desk.print.drawMap(page, paper, progress.get()));
     EXPECT_EQ(paper.callsOf("text").size(), 1U);

@@ -70,6 +70,8 @@ TEST_F(WorkOrdersDialogTest, ListsTheOrdersOfTheFolder) {
         select(0);
         EXPECT_TRUE(button("cmdCopy").isEnabled());
         QTreeView& folders = *dialog->findChild<QTreeView*>("Dir1");
+        EXPECT_TRUE(folders.isColumnHidden(1));
+        EXPECT_GT(folders.height(), dialog->height() / 4);
         folders.setCurrentIndex(folders.currentIndex().parent());
         EXPECT_EQ(list().topLevelItemCount(), 0);
         EXPECT_FALSE(button("cmdOpen").isEnabled());

@@ -96,6 +96,8 @@ TEST_F(MapWidgetTest, EdgeArrowsScrollTheirWayAndGoAtTheEdge) {
     ASSERT_EQ(shown.size(), 4);
     EdgeArrow* const east = *std::max_element(shown.begin(), shown.end(),
                                               [](auto* a, auto* b) { return a->x() < b->x(); });
+    map().setFocus();
+    EXPECT_EQ(map().grab().toImage().pixelColor(0, 0), map().palette().color(QPalette::Highlight));
     const LonLat before = under({0, 0});
     QTest::mouseClick(east, Qt::LeftButton);
     EXPECT_GT(under({0, 0}).x, before.x);
