@@ -241,6 +241,41 @@ TEST(DamagedFiles, WhatOpensAllTheSameHasRemarks) {
     }
 }
 
+TEST(DamagedFiles, WhatHoldsNoPointIsRefusedWithoutAQuestion) {
+    RptBytes nowhere;
+    nowhere.addFourFields({0, 0}, -1);
+    nowhere.addFourFields({200, 91}, -1);
+    TrackText beyondThePole;
+    beyondThePole.south = "89.9";
+    beyondThePole.addPoint(0, 0xFFFFF, 20, 12);
+    const std::string table = sampleTable();
+    const std::string headings = table.substr(0, table.find("-61.2"));
+    const auto report = &WorkReading::report;
+    const auto tableOf = &WorkReading::table;
+    const auto track = &WorkReading::track;
+    const std::string header = TrackText().bytes();
+    const std::pair<Reader, std::string> rows[] = {{report, ""},
+                                                   {report, "\1\2\3"},
+                                                   {report, RptBytes(1).bytes()},
+                                                   {report, nowhere.bytes()},
+                                                   {tableOf, ""},
+                                                   {tableOf, "Reporte\r\n"},
+                                                   {tableOf, headings},
+                                                   {tableOf, headings + "x\ty\n"},
+                                                   {track, header},
+                                                   {track, header.substr(0, 40)},
+                                                   {track, beyondThePole.bytes()}};
+    for (const auto& [read, bytes] : rows) {
+        const char* name = read == report  ? "Lote 12.rpt"
+                           : read == track ? "Track12.nbr"
+                                           : "Parte 3.txt";
+        WorkReading reading;
+        EXPECT_FALSE((reading.*read)(bytes));
+        EXPECT_EQ(reading.dialogs.messages,
+                  std::vector{std::string("Error|Campora|Archivo sin puntos: C:\\Datos\\") + name});
+    }
+}
+
 TEST(DamagedFiles, BytesThatArePlainlyNoReportAreRefused) {
     using Stays = std::vector<std::pair<LonLat, int>>;
     const auto reportOf = [](const Stays& stays) {

@@ -17,8 +17,6 @@ namespace {
 
 using testing::ElementsAre;
 
-constexpr std::string_view kNoPoints = "Error|Campora|Archivo sin puntos: C:\\Datos\\Lote 12.rpt";
-
 RptBytes::Record at(double east, double north, std::int32_t realTenths = 1000) {
     RptBytes::Record record;
     record.position = fixAt(east, north);
@@ -178,19 +176,6 @@ TEST(LoadRptFile, AFileWithoutSwathAsksForIt) {
         if (work) {
             EXPECT_EQ(reportRecordOf(*work, 0, 0).trocha(), swath);
         }
-    }
-}
-
-TEST(LoadRptFile, FilesWithoutAPointAreRefusedWithoutAQuestion) {
-    RptBytes fourFieldsNowhere;
-    fourFieldsNowhere.addFourFields({0, 0}, -1);
-    fourFieldsNowhere.addFourFields({200, 91}, -1);
-    for (const std::string& bytes : {std::string(), std::string("\x01\x02\x03"),
-                                     RptBytes(1).bytes(), fourFieldsNowhere.bytes()}) {
-        SCOPED_TRACE(bytes.size());
-        WorkReading reading;
-        EXPECT_FALSE(reading.report(bytes));
-        EXPECT_THAT(reading.dialogs.messages, ElementsAre(std::string(kNoPoints)));
     }
 }
 

@@ -21,7 +21,6 @@ const std::string kHeadings4 = kTitle + "Longitud\tLatitud\tDosis real\tVelocida
 const std::string kHeadings8 =
     kTitle + "Longitud\tLatitud\tDosis\tEspec.\tVelocidad\tCodigo\tAncho (cm)\tHora\r\n";
 const std::string kRecord8 = "-61.2\t-34.6\t138\t140\t15.6\t7\t3086\t10:20:00\r\n";
-constexpr std::string_view kNoPoints = "Error|Campora|Archivo sin puntos: C:\\Datos\\Parte 3.txt";
 
 TEST(LoadRptTextTable, ReadsEightColumns) {
     const LoadedWork work = WorkReading().table(kHeadings8 + kRecord8).value();
@@ -133,15 +132,6 @@ TEST(LoadRptTextTable, FieldsBeyondTheirRangeTakeTheNearestValue) {
     EXPECT_EQ(record.velocidad(), 3.40282347e38F);
     EXPECT_EQ(record.code(), 255);
     EXPECT_EQ(record.hora(), "00:255:06");
-}
-
-TEST(LoadRptTextTable, TablesWithoutRecords) {
-    for (const std::string& text : {std::string(), kTitle, kHeadings8, kHeadings8 + "x\ty\n"}) {
-        SCOPED_TRACE(text);
-        WorkReading reading;
-        EXPECT_FALSE(reading.table(text));
-        EXPECT_THAT(reading.dialogs.messages, ElementsAre(std::string(kNoPoints)));
-    }
 }
 
 }  // namespace

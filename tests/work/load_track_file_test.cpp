@@ -16,8 +16,6 @@ namespace {
 
 using testing::ElementsAre;
 
-constexpr std::string_view kNoPoints = "Error|Campora|Archivo sin puntos: C:\\Datos\\Track12.nbr";
-
 const TrackDataNBR& loggerRecordOf(const LoadedWork& work, std::size_t n, std::int32_t i) {
     return dynamic_cast<const TrackDataNBR&>(trackOf(work, n).pointInfo(i));
 }
@@ -150,20 +148,6 @@ TEST(LoadTrackFile, NewerVersionsLoadWithAWarning) {
     WorkReading reading;
     EXPECT_TRUE(reading.track(track.bytes()));
     EXPECT_THAT(reading.dialogs.messages, ElementsAre(testing::HasSubstr("2.1")));
-}
-
-TEST(LoadTrackFile, FilesWithoutPointsAreRefused) {
-    const TrackText header;
-    TrackText beyondThePole;
-    beyondThePole.south = "89.9";
-    beyondThePole.addPoint(0, 0xFFFFF, 20, 12);
-    for (const std::string& text :
-         {header.bytes(), header.bytes().substr(0, 40), beyondThePole.bytes()}) {
-        SCOPED_TRACE(text);
-        WorkReading reading;
-        EXPECT_FALSE(reading.track(text));
-        EXPECT_THAT(reading.dialogs.messages, ElementsAre(std::string(kNoPoints)));
-    }
 }
 
 TEST(LoadTrackFile, AReferenceThatIsNoNumberIsRefusedWithItsLine) {
