@@ -101,18 +101,8 @@ TEST_F(GeoJsonTest, ColumnsOfAllLayers) {
 TEST_F(GeoJsonTest, AHoleRunsWithTheClock) {
     RingLayer layer(
         {{{0, 0}, {6, 0}, {6, 6}, {0, 6}, {0, 0}, {2, 2}, {2, 4}, {4, 4}, {4, 2}, {2, 2}}});
-    const nlohmann::json rings = written({&layer})["features"][0]["geometry"]["coordinates"];
-    ASSERT_EQ(rings.size(), 2U);
-    const auto turns = [](const nlohmann::json& ring) {
-        double sum = 0;
-        for (std::size_t i = 0; i + 1 < ring.size(); ++i) {
-            sum += ring[i][0].get<double>() * ring[i + 1][1].get<double>() -
-                   ring[i + 1][0].get<double>() * ring[i][1].get<double>();
-        }
-        return sum / 2;
-    };
-    EXPECT_EQ(turns(rings[0]), 36);
-    EXPECT_EQ(turns(rings[1]), -4);
+    EXPECT_EQ(written({&layer})["features"][0]["geometry"]["coordinates"].dump(),
+              "[[[6,0],[6,6],[0,6],[0,0],[6,0]],[[2,4],[4,4],[4,2],[2,2],[2,4]]]");
 }
 
 TEST_F(GeoJsonTest, PointsWhereThereAreNoPolygons) {
