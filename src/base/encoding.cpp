@@ -73,9 +73,9 @@ char byteOf1252(char32_t character) {
         return static_cast<char>(character);
     }
     const std::size_t place = character == kReplacement || character > 0xFFFF
-                                  ? k1252.npos
+                                  ? UpperHalf::npos
                                   : k1252.find(static_cast<char16_t>(character));
-    return place == k1252.npos ? '?' : static_cast<char>(0x80U + place);
+    return place == UpperHalf::npos ? '?' : static_cast<char>(0x80U + place);
 }
 
 }  // namespace

@@ -13,7 +13,7 @@ namespace campora {
 namespace {
 
 constexpr int kHalf = 8;  // digits of a random number
-constexpr std::size_t kDigits = 2U * kHalf;
+constexpr std::size_t kDigits = std::size_t{2} * kHalf;
 
 }  // namespace
 
@@ -29,7 +29,7 @@ bool isOwnName(std::string_view name, const OwnNames& names) {
     return name.size() == names.begin.size() + kDigits + names.end.size() &&
            name.starts_with(names.begin) && name.ends_with(names.end) &&
            name.substr(names.begin.size(), kDigits).find_first_not_of("0123456789abcdefABCDEF") ==
-               name.npos;
+               std::string_view::npos;
 }
 
 }  // namespace campora

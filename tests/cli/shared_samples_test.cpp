@@ -91,7 +91,7 @@ struct SharedWork : BatchRun {
 TEST_F(SharedWork, EveryFileAloneIsAsExpected) {
     const json all = expected("expected.json");
     for (const auto& [name, file] : all.items()) {
-        const bool comma = name.find("coma decimal") != name.npos;
+        const bool comma = name.find("coma decimal") != std::string_view::npos;
         const json result = info({name}, {"--decimal", comma ? "," : "."});
         expectSame(result["output"], file, name);
         EXPECT_EQ(result["exit"], file["files"].empty() ? 1 : 0) << name;

@@ -188,7 +188,7 @@ TEST_F(ExportCommandsTest, AReportBecomesATextBesideTheMap) {
     EXPECT_EQ(session.plotCount(), 0);
     const std::string text = contentOf(folder.file("salida.txt"));
     EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 4);
-    EXPECT_EQ(text.find('.'), text.npos) << "in data lines every point is a comma";
+    EXPECT_EQ(text.find('.'), std::string::npos) << "in data lines every point is a comma";
 
     commands.mnuFileExportRpt();
     EXPECT_EQ(dialogs.messages.size(), 1U);

@@ -186,7 +186,7 @@ TEST_F(DoseColumnsTest, AsksHowAColumnIsToBeRead) {
         for (const std::string& text : isBatch ? dialogs.messages : dialogs.questions) {
             said += text;
         }
-        EXPECT_NE(said.find(row.says), said.npos) << said;
+        EXPECT_NE(said.find(row.says), std::string::npos) << said;
         std::vector<float> doses;
         if (confirmed) {
             for (const auto& polygon : columns.getChannels()[0]->polygons()) {
