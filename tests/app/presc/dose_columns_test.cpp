@@ -169,7 +169,11 @@ TEST_F(DoseColumnsTest, AsksHowAColumnIsToBeRead) {
         {"950|120 kg/ha", {}, "El registro 2 tiene «120 kg/ha»", {}, {}},
         {"| ", {}, "El registro 1 tiene «»", {}, {}},
         {"10|-9999", {}, "el registro 2 tiene la dosis -9999, que ninguna consola", {}, {}},
-        {"10|72.5", {}, "72.5). Un archivo PRE guarda enteros: 72.5 será 72.", {}, {10, 72.5F}},
+        {"10|72.5",
+         {},
+         "(registro 2: 72.5). Un archivo PRE guarda enteros: 72.5 será 72.",
+         {},
+         {10, 72.5F}},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(std::string(row.cells) + row.says);
