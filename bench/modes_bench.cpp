@@ -50,10 +50,11 @@ std::string reportBytes(std::size_t steps) {
 
 struct Desk {
     explicit Desk(std::size_t steps)
-        : session({canvas, window, dialogs, settings, locale, clipboard, clock, classes, shell},
+        : session(canvas, window, {dialogs, settings, locale, clipboard, clock, classes, shell},
                   Language::English, folder.path()) {
         session.start();
-        session.loadFile(folder.write("field.rpt", reportBytes(steps)), true, true);
+        session.map().openAll({folder.write("field.rpt", reportBytes(steps))});
+        session.display().showWhole();
     }
 
     TempFolder folder;
@@ -67,7 +68,7 @@ struct Desk {
     ScriptedClock clock;
     MemoryClasses classes;
     Session session;
-    MapModes modes{session};
+    MapModes& modes = session.modes();
 };
 
 void changeMode(benchmark::State& state, void (MapModes::*handler)(), int channel) {

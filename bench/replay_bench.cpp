@@ -11,9 +11,12 @@
 
 #include <benchmark/benchmark.h>
 
+#include "app/map_display.h"
 #include "colour/color_scale.h"
 #include "field.h"
+#include "model/file_gph_group.h"
 #include "paint/raster_canvas.h"
+#include "platform/quiet_dialogs.h"
 #include "support/scripted_platform.h"
 #include "support/scripted_window.h"
 
@@ -23,46 +26,45 @@ namespace {
 
 /// A field shown whole in a window that does nothing.
 struct Desk {
-    explicit Desk(std::size_t steps) : track(fieldTrack(steps, false)) {
-        style.scale = &scale;
-        view.totalBound = track.Gph_bound();
-        view.fitView();
-        view.ZoomUno();
+    explicit Desk(std::size_t steps) {
+        auto group = std::make_unique<FileGphGroup>();
+        group->addGph(std::make_unique<GphTrack>(fieldTrack(steps, false)));
+        map.addFile(std::move(group), false);
+        display.showWhole();
     }
 
-    ColorScale scale;
-    MapStyle style;
-    GphTrack track;
+    GphTrack& track() { return *dynamic_cast<GphTrack*>(map.getGphList().front()); }
+
     RasterCanvas canvas{kCanvas};
     ScriptedWindow window;
     ScriptedClock clock;
+    QuietDialogs dialogs;
     Texts texts;
     FixedLocale locale;
-    MapView view{canvas, window, style, [this](MapContext& context) { track.Gph_plot(context); }};
+    OpenMap map{{dialogs, texts, locale}, ""};
+    MapDisplay display{map, canvas, window};
 };
 
 void replayElements(benchmark::State& state) {
     Desk desk(static_cast<std::size_t>(state.range(0)));
-    Replay replay(
-        desk.canvas, desk.window, desk.clock, desk.view, desk.style, desk.texts, desk.locale,
-        [&] { return std::vector<Gph*>{&desk.track}; }, [] {});
+    Replay replay(desk.map, desk.display, desk.clock, [] {});
     replay.prepareReplay();
     replay.setSpeed(0);
     replay.setSpeedShown(true);
     for (auto _ : state) {
         replay.play();
     }
-    state.SetItemsProcessed(state.iterations() * desk.track.Gph_count());
+    state.SetItemsProcessed(state.iterations() * desk.track().Gph_count());
 }
 BENCHMARK(replayElements)->Arg(100000)->Unit(benchmark::kMillisecond);
 
 /// The last place at which a click finds something, so that every step is looked at.
 void askAtTheEnd(benchmark::State& state) {
     Desk desk(static_cast<std::size_t>(state.range(0)));
-    const ViewTransform view = desk.view.transform();
-    const LonLat last = desk.track.points()[desk.track.points().size() - 2];
+    const ViewTransform view = desk.display.view().transform();
+    const LonLat last = desk.track().points()[desk.track().points().size() - 2];
     for (auto _ : state) {
-        benchmark::DoNotOptimize(desk.track.Gph_mouseOver(view, desk.style, last, 0));
+        benchmark::DoNotOptimize(desk.track().Gph_mouseOver(view, desk.map.style(), last, 0));
     }
 }
 BENCHMARK(askAtTheEnd)->Arg(1000000)->Unit(benchmark::kMillisecond);

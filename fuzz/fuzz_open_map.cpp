@@ -51,7 +51,7 @@ bool open(WatchedSession& watched, const FileSet& set, const ScratchFolder& fold
     if (!taken && watched.dialogs.said() == before) {
         stop("silent refusal", paths.front());
     }
-    if (taken != (watched.session.plotCount() > 0)) {
+    if (taken != (watched.session.map().plotCount() > 0)) {
         stop("taken, but not on the map", paths.front());
     }
     return taken;
@@ -96,16 +96,16 @@ void useTools(Session& session, const FileSet& set) {
         tools.setTool(tool);
         drag(tools, one, tool == MapTools::Tool::None ? one : other);
     }
-    session.view().zoomPicture(other, 2);
-    session.view().settle();
-    session.view().scrollBy(0.25, -0.5);
-    session.view().zoomPicture(one, -1);
-    session.view().settle();
-    session.view().zoomIn();
-    session.selectFile(0);
-    session.zoomToCurrentFile();
-    session.view().ZoomUno();
-    session.copyData();
+    session.display().view().zoomPicture(other, 2);
+    session.display().view().settle();
+    session.display().view().scrollBy(0.25, -0.5);
+    session.display().view().zoomPicture(one, -1);
+    session.display().view().settle();
+    session.display().view().zoomIn();
+    session.listCommands().selectFile(0);
+    session.listCommands().zoomToCurrentFile();
+    session.display().view().ZoomUno();
+    session.summaryCommands().copyData(session.services().clipboard);
 }
 
 void drawLot(Session& session, const FileSet& set) {
@@ -166,8 +166,8 @@ void readBack(WatchedSession& watched, const std::string& path) {
     } else if (pathEnding(path) == ".txt") {
         const int before = watched.dialogs.said();
         // The one of the format before has the same name, and is open when it was read.
-        if (!watched.session.files().isLoaded(path) &&
-            !watched.session.loadFile(path, false, false) && watched.dialogs.said() == before) {
+        if (!watched.session.map().files().isLoaded(path) &&
+            watched.session.map().openAll({path}).empty() && watched.dialogs.said() == before) {
             stop("text table refused in silence", path);
         }
     }
@@ -176,7 +176,11 @@ void readBack(WatchedSession& watched, const std::string& path) {
 void exportAs(WatchedSession& watched, const ExportFormat& format, const ScratchFolder& out) {
     const std::string path = out.file("out").append(format.ending);
     const int before = watched.dialogs.said();
-    const bool written = watched.session.exports().exportMap(format, path);
+    Session& session = watched.session;
+    const MapExport exporter(
+        session.map(), {session.services().clock.today(),
+                        [&session] { return session.display().canvas().picture(); }, savePicture});
+    const bool written = exporter.exportMap(format, path);
     const std::set<std::string> names = out.names();
     if (!written && watched.dialogs.said() == before) {
         stop("silent failure of an export", format.word);
@@ -196,15 +200,14 @@ void exportAs(WatchedSession& watched, const ExportFormat& format, const Scratch
 }
 
 void exportAll(WatchedSession& watched, const FileSet& set, const ScratchFolder& out) {
-    watched.session.exports().savePicture = savePicture;
     for (const ExportFormat& format : exportFormats()) {
         // Pictures take as long as all the rest: seldom.
         if (format.source == ExportSource::Layers || set.choices[3] == 1) {
             exportAs(watched, format, out);
         }
     }
-    if (watched.session.exports().canExportGlg()) {
-        static_cast<void>(watched.session.exports().exportGlg(out.file("out.glg")));
+    if (watched.session.exportCommands().canExportGlg()) {
+        static_cast<void>(MapExport(watched.session.map(), {}).exportGlg(out.file("out.glg")));
         out.clear();
     }
 }
@@ -247,8 +250,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         exportAll(watched, set, out);
         drawLot(session, set);
         out.clear();
-        session.reloadFiles();
-        session.view().DrawMap();
+        session.fileCommands().reload();
+        session.display().view().DrawMap();
         session.setLanguage(Language::English);
     }
     checkFolder(folder, before, watched.dialogs.agreed());

@@ -32,9 +32,9 @@ namespace {
 
 /// The map with its dose column; empty when it was refused, which a person must have been told.
 std::vector<std::unique_ptr<GphPresc>> chooseColumn(WatchedSession& watched, const FileSet& set) {
-    DoseColumns columns(watched.session);
+    DoseColumns columns(watched.session.map().desk());
     int before = watched.dialogs.said();
-    columns.chooseFile(0);
+    columns.readMap(0, watched.dialogs.toOpen.front());
     const int count = static_cast<int>(columns.columns(0).size());
     checkText(columns.doseLabel(0), "label of the doses");
     for (const std::string& name : columns.columns(0)) {
@@ -59,7 +59,7 @@ std::vector<std::unique_ptr<GphPresc>> chooseColumn(WatchedSession& watched, con
 }
 
 void changeDoses(Session& session, const FileSet& set) {
-    session.prescription().askDose = [](const ColorScale& /*scale*/, float current) {
+    session.prescCommands().askDose = [](const ColorScale& /*scale*/, float current) {
         return std::optional(current + 10);
     };
     MapTools& tools = session.tools();
@@ -113,7 +113,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     watched.dialogs.folder = out.path();
     watched.dialogs.toOpen = {folder.file("a.shp")};
     Session& session = watched.session;
-    PrescCommands& prescription = session.prescription();
+    PrescCommands& prescription = session.prescCommands();
     prescription.chooseChannels = [&] { return chooseColumn(watched, set); };
     prescription.mnuFilePrescript();
     if (prescription.isOpen()) {

@@ -35,7 +35,7 @@ public:
         window.mapArea().map().installEventFilter(this);
     }
     bool eventFilter(QObject* /*object*/, QEvent* event) override {
-        if (event->type() == QEvent::Paint && window_.session().plotCount() > 0) {
+        if (event->type() == QEvent::Paint && window_.session().map().plotCount() > 0) {
             QTimer::singleShot(0, qApp, &QCoreApplication::quit);
         }
         return false;

@@ -133,7 +133,7 @@ WatchedSession::WatchedSession(const FileSet& set, MapCanvas& canvas,
                                const std::string& programFolder)
     : dialogs(set),
       locale(set),
-      session({canvas, window, dialogs, settings, locale, clipboard, clock, classes, shell},
+      session(canvas, window, {dialogs, settings, locale, clipboard, clock, classes, shell},
               kLanguages[set.pick(0, 4) % std::size(kLanguages)], programFolder) {
     session.start();
     session.setCoordType(set.choice(0, 5) ? CoordType::DegreesMinutes : CoordType::Degrees);

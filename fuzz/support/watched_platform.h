@@ -12,7 +12,6 @@
 #include <vector>
 
 #include "app/session.h"
-#include "cli/batch_platform.h"
 #include "platform/dialogs.h"
 #include "support/file_set.h"
 #include "support/stop.h"
@@ -113,6 +112,22 @@ public:
 
 private:
     bool comma_;
+};
+
+struct NoSettings final : SettingsStore {
+    [[nodiscard]] std::optional<std::string> read(std::string_view /*key*/) const override {
+        return std::nullopt;
+    }
+    void write(std::string_view /*key*/, std::string_view /*value*/) override {}
+};
+
+struct NoShell final : Shell {
+    [[nodiscard]] bool open(std::string_view /*path*/) override { return true; }
+};
+
+struct NoClasses final : ClassesRegistry {
+    void setDefault(std::string_view /*key*/, std::string_view /*value*/) override {}
+    void finish() override {}
 };
 
 /// A started session before such a user, on a canvas.

@@ -18,6 +18,15 @@ File& LoadedFileList::file(int index) const {
     return *files_.at(static_cast<std::size_t>(index));
 }
 
+std::vector<File*> LoadedFileList::all() const {
+    std::vector<File*> files;
+    files.reserve(files_.size());
+    for (const std::unique_ptr<File>& file : files_) {
+        files.push_back(file.get());
+    }
+    return files;
+}
+
 std::optional<int> LoadedFileList::indexOf(const File* file) const {
     const auto found = std::find_if(files_.begin(), files_.end(),
                                     [file](const auto& listed) { return listed.get() == file; });

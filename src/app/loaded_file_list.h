@@ -23,6 +23,8 @@ public:
     [[nodiscard]] bool empty() const { return files_.empty(); }
     /// Throws `std::out_of_range` for a bad index.
     [[nodiscard]] File& file(int index) const;
+    /// In their order.
+    [[nodiscard]] std::vector<File*> all() const;
     /// None for a file that is not in the list.
     [[nodiscard]] std::optional<int> indexOf(const File* file) const;
 

@@ -35,17 +35,16 @@ bool holds(CanvasSize canvas, CanvasPoint at) {
 
 }  // namespace
 
-MapTools::MapTools(MapCanvas& canvas, MainWindowControls& window, MapView& view,
-                   const MapStyle& style, LoadedFileList& files, const Texts& texts,
-                   const UserLocale& locale, ChooseFile chooseFile)
-    : canvas_(canvas),
-      window_(window),
-      view_(view),
-      style_(style),
-      files_(files),
-      texts_(texts),
-      locale_(locale),
-      chooseFile_(std::move(chooseFile)) {}
+MapTools::MapTools(OpenMap& map, MapDisplay& display)
+    : map_(map),
+      display_(display),
+      canvas_(display.canvas()),
+      window_(display.window()),
+      view_(display.view()),
+      style_(map.style()),
+      files_(map.files()),
+      texts_(map.desk().texts),
+      locale_(map.desk().locale) {}
 
 void MapTools::setTool(Tool tool) {
     if (files_.empty() && tool != Tool::None) {

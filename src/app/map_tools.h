@@ -8,8 +8,9 @@
 #include <optional>
 #include <string>
 
-#include "app/loaded_file_list.h"
+#include "app/map_display.h"
 #include "app/map_view.h"
+#include "app/open_map.h"
 #include "base/texts.h"
 #include "coord/coord_functions.h"
 #include "model/file.h"
@@ -41,13 +42,9 @@ public:
     /// Without a tool the mouse pans.
     enum class Tool { None, ZoomSelect, Ruler, Info, PrescDosis };
     enum class Button { Left, Middle, Right };
-    /// Called with the file whose information is shown.
-    using ChooseFile = std::function<void(File*)>;
 
-    /// All of it outlives the tools.
-    MapTools(MapCanvas& canvas, MainWindowControls& window, MapView& view, const MapStyle& style,
-             LoadedFileList& files, const Texts& texts, const UserLocale& locale,
-             ChooseFile chooseFile);
+    /// Both outlive the tools.
+    MapTools(OpenMap& map, MapDisplay& display);
 
     /// A click of the left button without a tool and without dragging; may be empty.
     std::function<void(CanvasPoint)> onClick;
@@ -65,6 +62,7 @@ public:
     void toggleTool(Tool tool) { setTool(tool == tool_ ? Tool::None : tool); }
 
     void setCoordType(CoordType type);
+    [[nodiscard]] CoordType coordType() const { return coordType_; }
 
     // What the user does. The middle button pans with every tool. Without an open file nothing of
     // this has an effect.
@@ -120,6 +118,8 @@ private:
     void showPointer();
     void showOverlay() { window_.setOverlay(overlay_); }
 
+    OpenMap& map_;
+    MapDisplay& display_;
     MapCanvas& canvas_;
     MainWindowControls& window_;
     MapView& view_;
@@ -127,7 +127,6 @@ private:
     LoadedFileList& files_;
     const Texts& texts_;
     const UserLocale& locale_;
-    ChooseFile chooseFile_;
     VertexOwner* vertices_ = nullptr;
 
     Tool tool_ = Tool::None;

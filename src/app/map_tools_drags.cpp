@@ -93,7 +93,9 @@ void MapTools::finishInfo(CanvasPoint at) {
     if (!hit) {
         return;
     }
-    chooseFile_(hit->file);
+    files_.setCurrentFile(hit->file);
+    display_.showCurrentFile();
+    display_.loadFileList(true);
     if (!hit->text.empty()) {
         overlay_.info = infoBox(canvas_, at, std::move(hit->text));
         showOverlay();

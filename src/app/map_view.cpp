@@ -75,8 +75,8 @@ ScrollBarState MapView::Axis::fitScrollBar(std::int32_t scrollRange) {
     return {true, kMostScrollSteps, 0};
 }
 
-MapView::MapView(MapCanvas& canvas, MainWindowControls& window, const MapStyle& style, Plot plotAll)
-    : canvas_(canvas), window_(window), style_(style), plotAll_(std::move(plotAll)) {}
+MapView::MapView(MapCanvas& canvas, const MapStyle& style, Plot plotAll)
+    : canvas_(canvas), style_(style), plotAll_(std::move(plotAll)) {}
 
 bool MapView::hasMap() const {
     const CanvasSize canvas = canvas_.size();
@@ -210,7 +210,9 @@ void MapView::syncScrollBars() {
 void MapView::showControls() {
     // A window that reports the positions it is given back as movements is not listened to.
     scrollEvents_ = false;
-    window_.setViewControls(shown_);
+    if (onControls) {
+        onControls(shown_);
+    }
     scrollEvents_ = true;
 }
 

@@ -28,7 +28,10 @@ public:
     using Plot = std::function<void(MapContext&)>;
 
     /// Everything is referred to, not owned; `style` supplies the colours of background and pen.
-    MapView(MapCanvas& canvas, MainWindowControls& window, const MapStyle& style, Plot plotAll);
+    MapView(MapCanvas& canvas, const MapStyle& style, Plot plotAll);
+
+    /// Told what the view shows around the map, each time that it is drawn; may be empty.
+    std::function<void(const ViewControls&)> onControls;
 
     /// Union of the boxes of all open files; set by whoever keeps the files.
     BoundingBox totalBound;
@@ -157,7 +160,6 @@ private:
     void showControls();
 
     MapCanvas& canvas_;
-    MainWindowControls& window_;
     const MapStyle& style_;
     Plot plotAll_;
 

@@ -3,21 +3,18 @@
 
 #include "app/save_target.h"
 
-#include "app/session.h"
 #include "base/paths.h"
 
 namespace campora {
 
-std::string startFolder(const Session& session, SettingId setting) {
-    std::string folder = readText(session.platform().settings, setting);
-    return isFolder(folder) ? folder : session.programFolder();
+std::string startFolder(const SettingsStore& settings, SettingId setting,
+                        const std::string& otherwise) {
+    std::string folder = readText(settings, setting);
+    return isFolder(folder) ? folder : otherwise;
 }
 
-bool overwriteAgreed(const Session& session, const std::string& target) {
-    const Texts& texts = session.texts();
-    return !isThere(target) || session.platform().dialogs.askYesNo(
-                                   texts.format(TextId::AskOverwrite, {target}),
-                                   MessageIcon::Exclamation, texts(TextId::ProgramName));
+bool overwriteAgreed(const Desk& desk, const std::string& target) {
+    return !isThere(target) || desk.ask(desk.texts.format(TextId::AskOverwrite, {target}));
 }
 
 }  // namespace campora

@@ -6,15 +6,15 @@
 #include <string>
 
 #include "app/settings.h"
+#include "platform/desk.h"
 
 namespace campora {
 
-class Session;
-
-/// The folder that the setting keeps when it is still there, else the program's.
-[[nodiscard]] std::string startFolder(const Session& session, SettingId setting);
+/// The folder that the setting keeps when it is still there, else `otherwise`.
+[[nodiscard]] std::string startFolder(const SettingsStore& settings, SettingId setting,
+                                      const std::string& otherwise);
 
 /// Whether the user agrees that an existing file is replaced; true when there is none.
-[[nodiscard]] bool overwriteAgreed(const Session& session, const std::string& target);
+[[nodiscard]] bool overwriteAgreed(const Desk& desk, const std::string& target);
 
 }  // namespace campora

@@ -21,11 +21,11 @@ std::int32_t systemLanguage(const UserLocale& locale) {
 }
 
 void loadMainWindow(Session& session, std::string_view programPath) {
-    const Platform& platform = session.platform();
-    session.setLanguage(languageOfCode(readNumber(platform.settings, SettingId::Language),
-                                       systemLanguage(platform.locale)));
-    writeText(platform.settings, SettingId::RunPath, programPath);
-    registerFileTypes(programPath, platform.classes);
+    const Services& services = session.services();
+    session.setLanguage(languageOfCode(readNumber(services.settings, SettingId::Language),
+                                       systemLanguage(services.locale)));
+    writeText(services.settings, SettingId::RunPath, programPath);
+    registerFileTypes(programPath, services.classes);
     session.start();
 }
 
@@ -52,8 +52,10 @@ void processCommandLine(Session& session, const StartRequest& request) {
 }
 
 void unloadMainWindow(Session& session) {
-    SettingsStore& settings = session.platform().settings;
-    writeText(settings, SettingId::PrintDescription, session.printDescription);
+    // From the first start on there is an entry for it.
+    SettingsStore& settings = session.services().settings;
+    writeText(settings, SettingId::PrintDescription,
+              readText(settings, SettingId::PrintDescription));
     session.replay().stopReplay();
 }
 

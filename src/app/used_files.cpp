@@ -5,9 +5,6 @@
 
 #include <string>
 
-#include "app/out/export_formats.h"
-#include "app/out/track_batch.h"
-#include "app/session.h"
 #include "base/file_endings.h"
 #include "base/paths.h"
 #include "base/text.h"
@@ -39,15 +36,6 @@ std::vector<std::string> namesBeside(std::string_view path) {
     return names;
 }
 
-void addFileOf(FilesInUse& used, const File& file) {
-    addOpened(used, file.File_diskPath());
-    if (const auto* const prescription = dynamic_cast<const GphPrescVex*>(&file)) {
-        for (int i = 0; i < prescription->channelsCnt(); ++i) {
-            addOpened(used, prescription->channel(i).File_diskPath());
-        }
-    }
-}
-
 }  // namespace
 
 void addOpened(FilesInUse& files, std::string_view path) {
@@ -56,31 +44,13 @@ void addOpened(FilesInUse& files, std::string_view path) {
     }
 }
 
-std::vector<std::string> targetsOf(const ExportFormat& format, const std::string& path) {
-    return format.ending == kShapeEnding ? filesOfShapefile(shapeBaseOf(path))
-                                         : std::vector<std::string>{path};
-}
-
-FilesInUse Session::filesInUse(const File* but) const {
-    FilesInUse used;
-    used.add(pathText(nativePath(programFolder_) / kRegistrationsFile));
-    for (int i = 0; i < files_.loadedCount(); ++i) {
-        if (&files_.file(i) != but) {
-            addFileOf(used, files_.file(i));
+void addFileOf(FilesInUse& used, const File& file) {
+    addOpened(used, file.File_diskPath());
+    if (const auto* const prescription = dynamic_cast<const GphPrescVex*>(&file)) {
+        for (int i = 0; i < prescription->channelsCnt(); ++i) {
+            addOpened(used, prescription->channel(i).File_diskPath());
         }
     }
-    if (saved_) {
-        for (const std::unique_ptr<File>& file : saved_->files.files) {
-            addFileOf(used, *file);
-        }
-    }
-    for (const std::string& source : sources_) {
-        addOpened(used, source);
-    }
-    for (const std::string& source : lots_.mergedFrom()) {
-        addOpened(used, source);
-    }
-    return used;
 }
 
 }  // namespace campora

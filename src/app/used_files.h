@@ -8,17 +8,15 @@
 #include <vector>
 
 #include "base/files_in_use.h"
+#include "model/file.h"
 
 namespace campora {
-
-struct ExportFormat;
 
 /// Adds a file that is open, or was read, with those beside it that belong to it: a track's summary
 /// and a summary's track, a report's edits, a prescription's report, the rest of a shapefile.
 void addOpened(FilesInUse& files, std::string_view path);
 
-/// The files that an export to `path` replaces.
-[[nodiscard]] std::vector<std::string> targetsOf(const ExportFormat& format,
-                                                 const std::string& path);
+/// Adds what an open file was read or made from.
+void addFileOf(FilesInUse& used, const File& file);
 
 }  // namespace campora

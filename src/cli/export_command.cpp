@@ -1,10 +1,15 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
+#include <memory>
+#include <optional>
+#include <utility>
+
 #include "app/out/export_formats.h"
+#include "app/out/map_export.h"
 #include "base/file_endings.h"
 #include "base/interruption.h"
-#include "cli/batch_platform.h"
+#include "cli/batch_map.h"
 #include "cli/commands.h"
 #include "cli/whole_map.h"
 #include "paint/picture_file.h"
@@ -14,53 +19,56 @@ namespace campora {
 
 namespace {
 
-int exportWith(MapCanvas& canvas, const Arguments& arguments, const Console& console) {
-    BatchSession batch(arguments, canvas, console.boxes);
+int exportWith(const Arguments& arguments, const Console& console, MapCanvas* canvas) {
+    BatchMap batch(arguments, console.boxes);
     const bool all = batch.openFiles();
-    Session& session = batch.session();
-    if (session.plotCount() == 0 || isInterrupted()) {
+    OpenMap& map = batch.map();
+    if (map.files().empty() || isInterrupted()) {
         return exit_status::kRefused;
     }
     const ExportFormat& format = *arguments.exportFormat;
-    if (format.source == ExportSource::Picture) {
-        session.exports().savePicture = savePicture;
-        drawWholeMap(session, arguments);
+    ExportMeans means{today()};
+    std::optional<WholeMap> whole;
+    if (canvas != nullptr) {
+        whole.emplace(map, *canvas, arguments);
+        means.picture = [&whole] { return whole->picture(true); };
+        means.savePicture = savePicture;
     }
     // A set of files is named by its shapefile, whatever was typed; any other file has its name.
     const std::string path = format.ending == kShapeEnding
                                  ? pathForFormat(arguments.output, format.ending)
                                  : arguments.output;
-    const bool written = session.exports().exportMap(format, path);
+    const bool written = MapExport(map, std::move(means)).exportMap(format, path);
     return all && written ? exit_status::kDone : exit_status::kRefused;
 }
 
 }  // namespace
 
 int runExport(const Arguments& arguments, const Console& console) {
-    if (arguments.exportFormat->source == ExportSource::Picture) {
-        const OffscreenApplication application;
-        RasterCanvas canvas(canvasSize(arguments.size));
-        return exportWith(canvas, arguments, console);
+    if (arguments.exportFormat->source != ExportSource::Picture) {
+        return exportWith(arguments, console, nullptr);
     }
-    NoCanvas canvas;
-    return exportWith(canvas, arguments, console);
+    const OffscreenApplication application;
+    RasterCanvas canvas(canvasSize(arguments.size));
+    return exportWith(arguments, console, &canvas);
 }
 
 int runReportToText(const Arguments& arguments, const Console& console) {
-    NoCanvas canvas;
-    BatchSession batch(arguments, canvas, console.boxes);
+    BatchMap batch(arguments, console.boxes);
+    const MapExport exporter(batch.map(), {today()});
+    const std::string& source = arguments.files.front();
+    const std::unique_ptr<File> report = exporter.readReport(source);
     const ExportFormat& format = textFormats()[arguments.comma ? 1 : 0];
     const bool written =
-        batch.session().exports().exportReport(arguments.files.front(), format, arguments.output);
+        report != nullptr && exporter.writeReport(*report, source, format, arguments.output);
     return written ? exit_status::kDone : exit_status::kRefused;
 }
 
 int runGlg(const Arguments& arguments, const Console& console) {
-    NoCanvas canvas;
-    BatchSession batch(arguments, canvas, console.boxes);
+    BatchMap batch(arguments, console.boxes);
     const bool all = batch.openFiles();
-    const bool written = !isInterrupted() && batch.session().plotCount() > 0 &&
-                         batch.session().exports().exportGlg(arguments.output);
+    const bool written = !isInterrupted() && !batch.map().files().empty() &&
+                         MapExport(batch.map(), {today()}).exportGlg(arguments.output);
     return all && written ? exit_status::kDone : exit_status::kRefused;
 }
 

@@ -4,15 +4,14 @@
 #include "app/out/track_batch.h"
 #include "base/interruption.h"
 #include "base/plain_text.h"
-#include "cli/batch_platform.h"
+#include "cli/batch_map.h"
 #include "cli/commands.h"
 
 namespace campora {
 
 int runExportTrack(const Arguments& arguments, const Console& console) {
-    NoCanvas canvas;
-    BatchSession batch(arguments, canvas, console.boxes);
-    TrackBatch tracks(batch.session());
+    BatchMap batch(arguments, console.boxes);
+    TrackBatch tracks(batch.map());
     tracks.options = arguments.trackExport;
     tracks.onBegin = [](const std::string& /*line*/) {};
     tracks.onDone = [&console, &tracks](const std::string& line,

@@ -7,7 +7,7 @@
 #include "base/numbers.h"
 #include "base/plain_text.h"
 #include "base/text.h"
-#include "cli/batch_platform.h"
+#include "cli/batch_map.h"
 #include "cli/commands.h"
 #include "cli/info_json.h"
 #include "model/exportable.h"
@@ -95,16 +95,14 @@ private:
 }  // namespace
 
 int runInfo(const Arguments& arguments, const Console& console) {
-    NoCanvas canvas;
-    BatchSession batch(arguments, canvas, console.boxes);
+    BatchMap batch(arguments, console.boxes);
     const bool all = batch.openFiles();
-    Session& session = batch.session();
     if (arguments.json) {
-        printJson(infoJson(session), console.out);
+        printJson(infoJson(batch.map()), console.out);
     } else {
-        const InfoText text(arguments, session.texts(), console.out);
-        for (int i = 0; i < session.plotCount(); ++i) {
-            text.print(session.files().file(i));
+        const InfoText text(arguments, batch.desk().texts, console.out);
+        for (File* file : batch.map().files().all()) {
+            text.print(*file);
         }
     }
     return all ? exit_status::kDone : exit_status::kRefused;

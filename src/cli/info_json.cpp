@@ -152,18 +152,18 @@ void addRange(Json& ranges, const std::string& name, const std::optional<ValueRa
 
 }  // namespace
 
-Json infoJson(Session& session) {
-    const InfoContext context{session.texts(), session.platform().locale, session.style()};
+Json infoJson(const OpenMap& map) {
+    const InfoContext context{map.desk().texts, map.desk().locale, map.style()};
     Json info;
     Json& files = info["files"] = Json::array();
-    for (int i = 0; i < session.plotCount(); ++i) {
-        files.push_back(fileOf(session.files().file(i), context));
+    for (File* file : map.files().all()) {
+        files.push_back(fileOf(*file, context));
     }
     Json& ranges = info["ranges"];
-    addRange(ranges, "flow", session.ranges().flow);
-    addRange(ranges, "litres", session.ranges().litres);
-    addRange(ranges, "dose", session.ranges().dose);
-    addRange(ranges, "date", session.ranges().date);
+    addRange(ranges, "flow", map.ranges().flow);
+    addRange(ranges, "litres", map.ranges().litres);
+    addRange(ranges, "dose", map.ranges().dose);
+    addRange(ranges, "date", map.ranges().date);
     return info;
 }
 

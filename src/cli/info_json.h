@@ -3,14 +3,14 @@
 
 #pragma once
 
-#include "app/session.h"
+#include "app/open_map.h"
 #include "cli/json_document.h"
 
 namespace campora {
 
-/// All that a session holds as one object: "files" in list order, each with its summary, layers and
-/// scale, and the "ranges" of the values loaded. What has never been set is null; dates
-/// are yyyy-mm-dd, colours "#RRGGBB", positions degrees.
-[[nodiscard]] Json infoJson(Session& session);
+/// All that is open as one object: "files" in list order, each with its summary, layers and scale,
+/// and the "ranges" of the values loaded. What has never been set is null; dates are yyyy-mm-dd,
+/// colours "#RRGGBB", positions degrees.
+[[nodiscard]] Json infoJson(const OpenMap& map);
 
 }  // namespace campora

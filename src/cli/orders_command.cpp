@@ -8,7 +8,7 @@
 #include "base/numbers.h"
 #include "base/paths.h"
 #include "base/plain_text.h"
-#include "cli/batch_platform.h"
+#include "cli/batch_map.h"
 #include "cli/commands.h"
 #include "cli/json_document.h"
 #include "work/work_orders.h"

@@ -16,7 +16,7 @@
 #include "base/numbers.h"
 #include "base/paths.h"
 #include "base/typed_number.h"
-#include "cli/batch_platform.h"
+#include "cli/batch_map.h"
 #include "cli/commands.h"
 #include "presc/generation.h"
 #include "presc/layer_zones.h"
@@ -69,27 +69,22 @@ std::string joined(const std::vector<std::string>& names) {
 
 /// Reads the map of the next channel and chooses its column; false when that cannot be, which is
 /// said.
-bool addColumn(DoseColumns& columns, int row, const ChannelSource& source, const Session& session) {
-    Dialogs& dialogs = session.platform().dialogs;
-    const Texts& texts = session.texts();
+bool addColumn(DoseColumns& columns, int row, const ChannelSource& source, const Desk& desk) {
     if (row > 0) {
         columns.addChannel();
     }
     if (const std::optional<Failure> failure = whyNotOpen(source.file)) {
-        dialogs.message(texts.sentence(*failure), MessageIcon::Exclamation,
-                        texts(TextId::ProgramName));
+        desk.tell(*failure);
         return false;
     }
-    columns.chooseFile(row);
+    columns.readMap(row, source.file);
     if (!columns.isWhole(row)) {
         return false;
     }
     const std::vector<std::string> names = columns.columns(row);
     const auto name = std::find(names.begin(), names.end(), source.column);
     if (name == names.end()) {
-        dialogs.message(
-            texts.format(TextId::ColumnNotThere, {source.file, source.column, joined(names)}),
-            MessageIcon::Exclamation, texts(TextId::ProgramName));
+        desk.tell({TextId::ColumnNotThere, {source.file, source.column, joined(names)}});
         return false;
     }
     columns.chooseColumn(row, static_cast<int>(name - names.begin()) + 1);
@@ -126,15 +121,14 @@ bool writeGrid(const Arguments& arguments, std::span<const ChannelZones> channel
 }  // namespace
 
 int runPrescribe(const Arguments& arguments, const Console& console) {
-    NoCanvas canvas;
-    BatchSession batch(arguments, canvas, console.boxes);
-    const Session& session = batch.session();
+    BatchMap batch(arguments, console.boxes);
+    const Desk& desk = batch.desk();
     const PrescriptionOrder& order = arguments.prescription;
     if (const std::optional<Failure> refused = whyNotWritten(arguments)) {
-        console.boxes << oneLine(session.texts().sentence(*refused)) << '\n';
+        desk.tell(*refused);
         return exit_status::kRefused;
     }
-    DoseColumns columns(session);
+    DoseColumns columns(desk);
     columns.onNote = [&console](const std::string& text) {
         console.boxes << "note: " << oneLine(text) << '\n';
     };
@@ -142,7 +136,7 @@ int runPrescribe(const Arguments& arguments, const Console& console) {
     columns.warnsOfDecimals = order.kind == GridKind::Pre;
     int row = 0;
     for (const ChannelSource& source : order.channels) {
-        if (!addColumn(columns, row++, source, session)) {
+        if (!addColumn(columns, row++, source, desk)) {
             return exit_status::kRefused;
         }
     }
@@ -156,8 +150,7 @@ int runPrescribe(const Arguments& arguments, const Console& console) {
         channels.push_back(zonesOf(*layer));
     }
     GridDialogs dialogs(arguments, console.boxes);
-    const bool written =
-        writeGrid(arguments, channels, {dialogs, session.texts(), session.platform().locale});
+    const bool written = writeGrid(arguments, channels, {dialogs, desk.texts, desk.locale});
     return written ? exit_status::kDone : exit_status::kRefused;
 }
 

@@ -5,7 +5,7 @@
 
 #include "app/open/load_project.h"
 #include "base/files.h"
-#include "cli/batch_platform.h"
+#include "cli/batch_map.h"
 #include "cli/commands.h"
 
 namespace campora {

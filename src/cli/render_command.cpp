@@ -4,7 +4,7 @@
 #include "base/file_endings.h"
 #include "base/interruption.h"
 #include "base/paths.h"
-#include "cli/batch_platform.h"
+#include "cli/batch_map.h"
 #include "cli/commands.h"
 #include "cli/whole_map.h"
 #include "paint/picture_file.h"
@@ -15,24 +15,22 @@ namespace campora {
 int runRender(const Arguments& arguments, const Console& console) {
     const OffscreenApplication application;
     RasterCanvas canvas(canvasSize(arguments.size));
-    BatchSession batch(arguments, canvas, console.boxes);
+    BatchMap batch(arguments, console.boxes);
     const bool all = batch.openFiles();
-    Session& session = batch.session();
-    if (session.plotCount() == 0 || isInterrupted()) {
+    OpenMap& map = batch.map();
+    if (map.files().empty() || isInterrupted()) {
         return exit_status::kRefused;
     }
-    if (const auto refused = session.filesInUse().whyNotTarget(arguments.output)) {
-        console.boxes << oneLine(session.texts().sentence(*refused)) << '\n';
+    if (const auto refused = map.filesInUse().whyNotTarget(arguments.output)) {
+        batch.desk().tell(*refused);
         return exit_status::kRefused;
     }
-    drawWholeMap(session, arguments);
-    if (arguments.overlay) {
-        session.view().DrawMap();
-    }
+    WholeMap whole(map, canvas, arguments);
     const PictureForm form =
         pathEnding(arguments.output) == kBmpEnding ? PictureForm::Bmp : PictureForm::Png;
-    if (const auto failure = savePicture(canvas.picture(), arguments.output, form)) {
-        console.boxes << oneLine(session.texts().sentence(*failure)) << '\n';
+    if (const auto failure =
+            savePicture(whole.picture(arguments.overlay), arguments.output, form)) {
+        batch.desk().tell(*failure);
         return exit_status::kRefused;
     }
     return all ? exit_status::kDone : exit_status::kRefused;

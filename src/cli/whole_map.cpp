@@ -3,6 +3,7 @@
 
 #include "cli/whole_map.h"
 
+#include "app/plot_all.h"
 #include "paint/raster_canvas.h"
 
 namespace campora {
@@ -18,17 +19,27 @@ CanvasSize canvasSize(PixelSize size) {
     return {size.width * RasterCanvas::kUnitsPerPixel, size.height * RasterCanvas::kUnitsPerPixel};
 }
 
-void drawWholeMap(Session& session, const Arguments& arguments) {
+WholeMap::WholeMap(OpenMap& map, MapCanvas& canvas, const Arguments& arguments)
+    : canvas_(canvas),
+      view_(canvas, map.style(), [&map](MapContext& context) { plotAll(map, context); }) {
     MapStyle style = arguments.style;
-    style.scale = session.style().scale;
-    style.unitScale = session.style().unitScale;
-    session.style() = style;
+    style.scale = map.style().scale;
+    style.unitScale = map.style().unitScale;
+    map.style() = style;
     if (style.selectedChannel >= 0) {
-        session.modes().mnuColorScaleSelCH(style.selectedChannel);  // prescriptions turn to it too
-    } else {
-        session.refreshColorScale();
+        map.selectChannel(style.selectedChannel);
     }
-    session.view().ZoomUno();
+    map.refreshColorScale();
+    view_.totalBound = map.bound();
+    view_.fitView();
+    view_.ZoomUno();
+}
+
+Picture WholeMap::picture(bool overlaid) {
+    if (overlaid) {
+        view_.DrawMap();
+    }
+    return canvas_.picture();
 }
 
 }  // namespace campora

@@ -7,9 +7,11 @@
 
 #include <QGuiApplication>
 
-#include "app/session.h"
+#include "app/map_view.h"
+#include "app/open_map.h"
 #include "cli/arguments.h"
 #include "platform/map_canvas.h"
+#include "platform/picture.h"
 
 namespace campora {
 
@@ -28,8 +30,18 @@ private:
 
 [[nodiscard]] CanvasSize canvasSize(PixelSize size);
 
-/// Everything has been loaded with the usual looks; the whole map is now drawn as the options say,
-/// without its scale bar and arrows.
-void drawWholeMap(Session& session, const Arguments& arguments);
+/// The whole of an open map on a canvas, with the looks of the command line.
+class WholeMap {
+public:
+    /// Draws it. Both outlive this.
+    WholeMap(OpenMap& map, MapCanvas& canvas, const Arguments& arguments);
+
+    /// As drawn, with the scale bar and arrows when `overlaid`.
+    [[nodiscard]] Picture picture(bool overlaid);
+
+private:
+    MapCanvas& canvas_;
+    MapView view_;
+};
 
 }  // namespace campora

@@ -84,7 +84,7 @@ LotPanel::LotPanel(Session& session, QWidget& map, QWidget* parent)
       title_(new ElidedLabel),
       close_(new QToolButton),
       tools_(new QToolBar),
-      model_(new LotVertexModel(session, this)),
+      model_(new LotVertexModel(session.lotEditor(), session.tools(), session.texts(), this)),
       vertices_(new QTableView),
       figures_(new QLabel),
       warning_(new QLabel),
@@ -303,9 +303,8 @@ void LotPanel::descriptionEdited() {
 }
 
 std::optional<LonLat> LotPanel::askPosition(LonLat proposed) {
-    const Platform& platform = session_.platform();
-    CoordDialog dialog(this, platform.dialogs, session_.texts(), platform.locale,
-                       session_.coordType(), proposed);
+    CoordDialog dialog(this, session_.services().dialogs, session_.texts(),
+                       session_.services().locale, session_.tools().coordType(), proposed);
     return dialog.showInput();
 }
 

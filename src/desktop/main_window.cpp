@@ -23,6 +23,7 @@
 
 #include "app/settings.h"
 #include "app/start_up.h"
+#include "app/unsaved_work.h"
 #include "desktop/lot_panel.h"
 #include "desktop/platform/pointer_override.h"
 #include "desktop/platform/qt_text.h"
@@ -67,8 +68,9 @@ MapTools::Button buttonOf(Qt::MouseButton button) {
 
 }  // namespace
 
-MainWindow::MainWindow(const Desktop& desktop, Language language, const std::string& programFolder)
-    : desktop_(desktop),
+MainWindow::MainWindow(const Services& services, Language language,
+                       const std::string& programFolder)
+    : services_(services),
       tools_(new QToolBar(this)),
       mapArea_(new MapArea),
       sidePanel_(new SidePanel),
@@ -87,10 +89,8 @@ MainWindow::MainWindow(const Desktop& desktop, Language language, const std::str
     actions_ = std::make_unique<ActionSet>(*this, *menuBar(), *tools_, sidePanel_->fileTools());
     arrange();
     makeStatusBar();
-    const Platform platform{
-        mapArea_->map().canvas(), *this,         desktop.dialogs, desktop.settings, desktop.locale,
-        desktop.clipboard,        desktop.clock, desktop.classes, desktop.shell};
-    session_ = std::make_unique<Session>(platform, language, programFolder);
+    session_ = std::make_unique<Session>(mapArea_->map().canvas(), *this, services, language,
+                                         programFolder);
     makeLotPanel();
     connectMap();
     connectFileList();
@@ -121,8 +121,8 @@ void MainWindow::arrange() {
     setCentralWidget(middle);
     resize(kFirstSize.boundedTo(screen()->availableSize()));
     splitter_->setSizes({width() - kPanelWidth, kPanelWidth});
-    restoreGeometry(decoded(readText(desktop_.settings, SettingId::WindowGeometry)));
-    splitter_->restoreState(decoded(readText(desktop_.settings, SettingId::WindowSplitter)));
+    restoreGeometry(decoded(readText(services_.settings, SettingId::WindowGeometry)));
+    splitter_->restoreState(decoded(readText(services_.settings, SettingId::WindowSplitter)));
     setTabOrder(&mapArea_->map(), &sidePanel_->files());
     mapArea_->map().setFocus();
 }
@@ -140,9 +140,9 @@ void MainWindow::makeStatusBar() {
 
 void MainWindow::connectMap() {
     MapWidget& map = mapArea_->map();
-    MapView& view = session_->view();
+    MapView& view = session_->display().view();
     MapTools& tools = session_->tools();
-    connect(&map, &MapWidget::canvasResized, this, [this] { session_->canvasResized(); });
+    connect(&map, &MapWidget::canvasResized, this, [this] { session_->display().canvasResized(); });
     connect(&map, &MapWidget::zoomSteps, this, &MainWindow::zoomAt);
     connect(&map, &MapWidget::scrollAsked, this,
             [&view](double east, double north) { view.scrollBy(east, north); });
@@ -182,14 +182,15 @@ void MainWindow::connectMap() {
 }
 
 void MainWindow::connectFileList() {
-    sidePanel_->legend().setCommands(session_->legend());
+    sidePanel_->legend().setCommands(session_->legendCommands());
     FileList& files = sidePanel_->files();
     files.setFileMenu(actions_->menu(MenuId::SelectedFile));
     connect(&files, &FileList::rowChosen, this, [this](std::optional<int> row) {
-        session_->selectFile(row);
+        session_->listCommands().selectFile(row);
         commandsChanged();
     });
-    connect(&files, &FileList::zoomAsked, this, [this] { session_->zoomToCurrentFile(); });
+    connect(&files, &FileList::zoomAsked, this,
+            [this] { session_->listCommands().zoomToCurrentFile(); });
     connect(&sidePanel_->summary(), &SummaryTable::menuAsked, this, &MainWindow::openSummaryMenu);
 }
 
@@ -222,18 +223,19 @@ void MainWindow::start(const std::string& programPath, StartRequest request) {
 }
 
 void MainWindow::zoomAt(CanvasPoint at, int steps) {
-    session_->view().zoomPicture(at, steps);
+    session_->display().view().zoomPicture(at, steps);
     settleSoon();
 }
 
 void MainWindow::settleSoon() {
-    if (session_->view().isPictureMoved()) {
+    if (session_->display().view().isPictureMoved()) {
         settle_.start(kSettleMs);
     }
 }
 
 void MainWindow::showScale() {
-    const double ratio = static_cast<double>(session_->view().scaleX()) / kMetresPerCanvasUnit;
+    const double ratio =
+        static_cast<double>(session_->display().view().scaleX()) / kMetresPerCanvasUnit;
     const std::string shown = groupedNumber(ratio);
     scale_->setText(ratio == 0 ? QString()
                                : toQt(session_->texts().format(TextId::MapScale, {shown})));
@@ -259,17 +261,17 @@ void MainWindow::setLegend(const LegendContent& legend) {
 }
 
 void MainWindow::setViewControls(const ViewControls& controls) {
-    const MapView& view = session_->view();
+    const MapView& view = session_->display().view();
     mapArea_->setScrollBars(controls, pageSteps(view.viewWidthM(), view.scrollFactorX()),
                             pageSteps(view.viewHeightM(), view.scrollFactorY()));
-    mapArea_->map().setOverlay(controls, session_->style().colors.fore);
+    mapArea_->map().setOverlay(controls, session_->map().style().colors.fore);
     showScale();
 }
 
 void MainWindow::active(bool enabled, bool replayControls) {
     mapActive_ = enabled;
     (replayControls ? replayActive_ : fileMenuActive_) = enabled;
-    const bool filesOpen = session_->plotCount() > 0;
+    const bool filesOpen = session_->map().plotCount() > 0;
     MapWidget& map = mapArea_->map();
     map.setMapShown(filesOpen);
     map.setInteractive(enabled);
@@ -284,7 +286,7 @@ void MainWindow::active(bool enabled, bool replayControls) {
 Availability MainWindow::availability() const {
     return {.fileMenu = fileMenuActive_,
             .map = mapActive_,
-            .selectedFile = mapActive_ && session_->files().currentFile() != nullptr,
+            .selectedFile = mapActive_ && session_->map().files().currentFile() != nullptr,
             .replay = replayActive_ && session_->replay().shown().available};
 }
 
@@ -294,7 +296,7 @@ void MainWindow::commandsChanged() {
     }
     showLotPanel();
     actions_->showStates(session_->texts(), availability());
-    replayBar_->setSpeedShown(session_->modes().isSpeedShown());
+    replayBar_->setSpeedShown(session_->replay().speedShown());
 }
 
 void MainWindow::setReplay(const ReplayState& state) {
@@ -333,14 +335,14 @@ void MainWindow::resizeEvent(QResizeEvent* event) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-    if (!session_->mayCloseFiles() || !session_->lotEditor().mayClose()) {
+    if (!mayCloseFiles(session_->map()) || !session_->lotEditor().mayClose()) {
         event->ignore();
         return;
     }
     unloadMainWindow(*session_);
-    writeText(desktop_.settings, SettingId::WindowGeometry,
+    writeText(services_.settings, SettingId::WindowGeometry,
               saveGeometry().toBase64().toStdString());
-    writeText(desktop_.settings, SettingId::WindowSplitter,
+    writeText(services_.settings, SettingId::WindowSplitter,
               splitter_->saveState().toBase64().toStdString());
     QMainWindow::closeEvent(event);
 }

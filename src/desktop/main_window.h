@@ -27,17 +27,6 @@ class MapArea;
 class ReplayBar;
 class SidePanel;
 
-/// What the window takes from its desktop; all of it outlives the window.
-struct Desktop {
-    Dialogs& dialogs;
-    SettingsStore& settings;
-    const UserLocale& locale;
-    Clipboard& clipboard;
-    Clock& clock;
-    ClassesRegistry& classes;
-    Shell& shell;
-};
-
 /// The main window: shows what the session says and hands the user's commands to it.
 class MainWindow final : public QMainWindow, public MainWindowControls {
     Q_OBJECT
@@ -47,11 +36,10 @@ public:
     static constexpr QSize kMinimumSize{563, 559};
     static constexpr QSize kFirstSize{1280, 860};
 
-    MainWindow(const Desktop& desktop, Language language, const std::string& programFolder);
+    MainWindow(const Services& services, Language language, const std::string& programFolder);
     ~MainWindow() override;
 
-    [[nodiscard]] Session& session() { return *session_; }
-    [[nodiscard]] const Session& session() const { return *session_; }
+    [[nodiscard]] Session& session() const { return *session_; }
     [[nodiscard]] MapArea& mapArea() const { return *mapArea_; }
     [[nodiscard]] SidePanel& sidePanel() const { return *sidePanel_; }
     [[nodiscard]] ReplayBar& replayBar() const { return *replayBar_; }
@@ -142,7 +130,7 @@ private:
     void showScale();
     [[nodiscard]] Availability availability() const;
 
-    Desktop desktop_;
+    Services services_;
     QToolBar* tools_;
     MapArea* mapArea_;
     SidePanel* sidePanel_;

@@ -12,13 +12,14 @@
 #include "desktop/dialogs/about_dialog.h"
 #include "desktop/dialogs/coord_dialog.h"
 #include "desktop/dialogs/dose_column_dialog.h"
-#include "desktop/dialogs/keys_dialog.h"
+#include "desktop/dialogs/print_preview.h"
 #include "desktop/dialogs/printing.h"
 #include "desktop/dialogs/property_editor.h"
 #include "desktop/dialogs/select_dose_dialog.h"
 #include "desktop/dialogs/shp_export_dialog.h"
 #include "desktop/dialogs/summary_editor_dialog.h"
 #include "desktop/dialogs/work_orders_dialog.h"
+#include "desktop/keys_dialog.h"
 #include "desktop/main_window.h"
 #include "desktop/platform/pointer_override.h"
 #include "desktop/platform/qt_text.h"
@@ -55,25 +56,26 @@ void MainWindow::openPaths(const std::vector<std::string>& paths, bool inPlaceOf
 }
 
 void MainWindow::openWorkOrders() {
-    WorkOrdersDialog dialog(*session_, this);
+    WorkOrdersDialog dialog(session_->map(), session_->display(), session_->tools(), services_,
+                            this);
     dialog.showOpen();
 }
 
 void MainWindow::editSummary() {
-    SummaryCommands& summary = session_->summary();
+    SummaryCommands& summary = session_->summaryCommands();
     const std::string source = summary.summaryFile();
     if (source.empty()) {
         editProperties(
             summary.rows(), [&summary](const SummaryRows& rows) { return summary.keep(rows); },
-            desktop_.dialogs, session_->texts(), this);
+            services_.dialogs, session_->texts(), this);
     } else {
-        editSummaryFile(source, desktop_.dialogs, session_->texts(), this);
+        editSummaryFile(source, services_.dialogs, session_->texts(), this);
         summary.reread();
     }
 }
 
 void MainWindow::openSummaryMenu(int row, QPoint place) {
-    SummaryCommands& summary = session_->summary();
+    SummaryCommands& summary = session_->summaryCommands();
     auto* const menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     const auto add = [&](TextId text, bool enabled, auto run) {
@@ -88,56 +90,54 @@ void MainWindow::openSummaryMenu(int row, QPoint place) {
 }
 
 void MainWindow::copyImage() {
-    session_->tools().copyImage(desktop_.clipboard);
+    session_->tools().copyImage(services_.clipboard);
 }
 
 void MainWindow::goToCoordinate() {
-    CoordDialog dialog(this, desktop_.dialogs, session_->texts(), desktop_.locale,
-                       session_->coordType());
+    CoordDialog dialog(this, services_.dialogs, session_->texts(), services_.locale,
+                       session_->tools().coordType());
     if (const std::optional<LonLat> position = dialog.showInput()) {
         if (!session_->tools().goTo(*position)) {
-            desktop_.dialogs.message(session_->texts()(TextId::PositionOffTheMap),
-                                     MessageIcon::Information,
-                                     session_->texts()(TextId::ProgramName));
+            session_->map().desk().tell({TextId::PositionOffTheMap, {}}, MessageIcon::Information);
         }
     }
 }
 
 void MainWindow::exportMap() {
     const PointerOverride busy(Qt::WaitCursor);
-    session_->exports().mnuFileExport();
+    session_->exportCommands().mnuFileExport();
 }
 
 void MainWindow::exportReport() {
     const PointerOverride busy(Qt::WaitCursor);
-    session_->exports().mnuFileExportRpt();
+    session_->exportCommands().mnuFileExportRpt();
 }
 
 void MainWindow::exportGlg() {
     const PointerOverride busy(Qt::WaitCursor);
-    session_->exports().mnuFileExportGlg();
+    session_->exportCommands().mnuFileExportGlg();
 }
 
 void MainWindow::savePrescription() {
     const PointerOverride busy(Qt::WaitCursor);
-    session_->prescription().mnuFileSavePrescript();
+    session_->prescCommands().mnuFileSavePrescript();
 }
 
 void MainWindow::saveVrt() {
     const PointerOverride busy(Qt::WaitCursor);
-    session_->prescription().mnuFileSaveVrt();
+    session_->prescCommands().mnuFileSaveVrt();
 }
 
 void MainWindow::setUpPage() {
-    static_cast<void>(Printing(*session_, this).setUpPage());
+    static_cast<void>(Printing(session_->map(), session_->display(), services_, this).setUpPage());
 }
 
 void MainWindow::printPreview() {
-    Printing(*session_, this).preview();
+    PrintPreview(session_->map(), session_->display(), services_, this).exec();
 }
 
 void MainWindow::print() {
-    Printing(*session_, this).print();
+    Printing(session_->map(), session_->display(), services_, this).print();
 }
 
 void MainWindow::leaveTool() {
@@ -150,7 +150,7 @@ void MainWindow::showKeys() {
 }
 
 void MainWindow::showAbout() {
-    AboutDialog(session_->texts(), desktop_.clipboard, this).exec();
+    AboutDialog(session_->texts(), services_.clipboard, this).exec();
 }
 
 void MainWindow::useTool(MapTools::Tool tool) {
@@ -184,15 +184,15 @@ void MainWindow::mnuHelpLangPort() {
 }
 
 void MainWindow::connectMenus() {
-    session_->prescription().chooseChannels = [this] {
-        return DoseColumnDialog(*session_, this).choose();
+    session_->prescCommands().chooseChannels = [this] {
+        return DoseColumnDialog(session_->map(), services_, this).choose();
     };
-    session_->prescription().askDose = [this](const ColorScale& scale, float current) {
-        return SelectDoseDialog(&scale, current, *session_, this).getDosis();
+    session_->prescCommands().askDose = [this](const ColorScale& scale, float current) {
+        return SelectDoseDialog(&scale, current, session_->map().desk(), this).getDosis();
     };
-    session_->exports().savePicture = savePicture;
-    session_->exports().showTrackExport = [this](const std::vector<std::string>& paths) {
-        ShpExportDialog(*session_, this).exportList(paths);
+    session_->exportCommands().savePicture = savePicture;
+    session_->exportCommands().showTrackExport = [this](const std::vector<std::string>& paths) {
+        ShpExportDialog(session_->map(), services_.clock, this).exportList(paths);
     };
     connect(&actions_->menu(MenuId::Recent), &QMenu::aboutToShow, this,
             &MainWindow::fillRecentMenu);

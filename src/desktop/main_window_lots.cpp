@@ -25,7 +25,7 @@ constexpr int kRoomForBoth = 900;
 
 void MainWindow::mergeLots() {
     const PointerOverride busy(Qt::WaitCursor);
-    session_->lots().mnuLoteMerge();
+    session_->lotCommands().mnuLoteMerge();
 }
 
 void MainWindow::makeLotPanel() {
@@ -62,7 +62,7 @@ void MainWindow::showLotPanel() {
 }
 
 void MainWindow::keepingPlace(const std::function<void()>& change) {
-    MapView& view = session_->view();
+    MapView& view = session_->display().view();
     const CanvasSize size = mapArea_->map().canvas().size();
     const LonLat middle = view.transform().screenToMap(static_cast<float>(size.width) / 2,
                                                        static_cast<float>(size.height) / 2);
@@ -70,7 +70,7 @@ void MainWindow::keepingPlace(const std::function<void()>& change) {
     const bool isWhole = scale >= view.maxScale();
     change();
     centralWidget()->layout()->activate();  // the map has its new size now and shows all
-    if (!isWhole && session_->plotCount() > 0) {
+    if (!isWhole && session_->map().plotCount() > 0) {
         const float kept = std::min(scale, view.maxScale());
         view.setView(kept, kept, view.scrollX(), view.scrollY());
         view.centreOn(middle);

@@ -21,6 +21,9 @@ class File {
 public:
     virtual ~File() = default;
 
+    /// Files on the disk that it was made from: they are in use as long as it is open.
+    std::vector<std::string> madeFrom;
+
     /// Takes away what was said with this text and is no longer true.
     void dropRemarks(TextId text) {
         std::erase_if(remarks_, [text](const Remark& remark) { return remark.text == text; });

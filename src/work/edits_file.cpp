@@ -166,4 +166,16 @@ std::optional<Failure> writeEdits(std::string_view path, const SummaryEdits& edi
     return draft.finish();
 }
 
+void addKeptEdits(File& file) {
+    FileProperties& summary = file.File_resumen();
+    if (!summary.sourcePath.empty()) {
+        return;
+    }
+    ReadEdits read = readEdits(file.File_diskPath());
+    summary.edits = std::move(read.edits);
+    if (read.unused) {
+        file.addRemark(std::move(*read.unused));
+    }
+}
+
 }  // namespace campora

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "base/failure.h"
+#include "model/file.h"
 #include "model/summary_edits.h"
 
 namespace campora {
@@ -31,5 +32,8 @@ struct ReadEdits {
 /// Keeps the edits beside the file at `path`, in place of those that are there; no edits, no file.
 /// A failure names the file and the reason and changes nothing.
 [[nodiscard]] std::optional<Failure> writeEdits(std::string_view path, const SummaryEdits& edits);
+
+/// Lays the edits that are kept beside a file over its summary; remarks where they cannot be used.
+void addKeptEdits(File& file);
 
 }  // namespace campora

@@ -45,18 +45,20 @@ private:
 
 /// A map of 10 by 5 km at the equator on a canvas of 1000 by 500 units: 10 metres a unit, no
 /// margins.
-struct Desk {
-    explicit Desk(bool withFile = true, char symbol = '.') : locale(symbol) {
+struct ToolsDesk {
+    explicit ToolsDesk(bool withFile = true, char symbol = '.') : locale(symbol) {
+        display.onDrawn = [this] { tools.viewChanged(); };
         if (!withFile) {
             return;
         }
-        files.addFile(std::make_unique<StripFile>("lote1", 0.02, 0.06), false, dialogs);
-        files.addFile(std::make_unique<StripFile>("lote2", 0, 0.03), false, dialogs);
+        map.addFile(std::make_unique<StripFile>("lote1", 0.02, 0.06), false);
+        map.addFile(std::make_unique<StripFile>("lote2", 0, 0.03), false);
         view.totalBound.maxX = 10000 / METERS_PER_DEGREE;
         view.totalBound.maxY = 5000 / METERS_PER_DEGREE;
         view.totalBound.widthM = 10000;
         view.totalBound.heightM = 5000;
         view.totalBound.isSet = true;
+        map.files().setCurrentFile(nullptr);
         view.setView(10, 10, 0, 0);
         canvas.forget();
     }
@@ -67,21 +69,23 @@ struct Desk {
         tools.release(button, to);
     }
     [[nodiscard]] std::size_t redraws() const { return canvas.callsOf("clear").size(); }
+    [[nodiscard]] std::string chosen() const {
+        const File* const current = map.files().currentFile();
+        return current != nullptr ? current->File_name() : "";
+    }
 
     RecordingCanvas canvas{{1000, 500}};
     ScriptedWindow window;
     ScriptedDialogs dialogs;
-    MapStyle style;
     Texts texts{Language::Spanish};
     FixedLocale locale;
-    LoadedFileList files{texts};
-    MapView view{canvas, window, style, [this](MapContext& /*context*/) { tools.viewChanged(); }};
-    std::string chosen;
-    MapTools tools{canvas, window, view,   style,
-                   files,  texts,  locale, [this](File* file) { chosen = file->File_name(); }};
+    OpenMap map{{dialogs, texts, locale}, ""};
+    MapDisplay display{map, canvas, window};
+    MapView& view = display.view();
+    MapTools tools{map, display};
 };
 
-struct MapToolsTest : testing::Test, Desk {};
+struct MapToolsTest : testing::Test, ToolsDesk {};
 
 TEST_F(MapToolsTest, ShowsThePositionUnderThePointer) {
     tools.move({500, 0});
@@ -136,7 +140,7 @@ TEST(MapTools, OnlyAClickIsAClick) {
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
-        Desk d;
+        ToolsDesk d;
         int clicks = 0;
         d.tools.onClick = [&](CanvasPoint) { ++clicks; };
         d.view.setView(5, 5, 1000, 1000);
@@ -164,7 +168,7 @@ TEST(MapTools, TheRectangleFillsTheCanvas) {
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
-        Desk d;
+        ToolsDesk d;
         d.tools.setTool(Tool::ZoomSelect);
         d.tools.press(Button::Left, row.from);
         d.tools.move(row.to);
@@ -178,8 +182,8 @@ TEST(MapTools, TheRectangleFillsTheCanvas) {
 }
 
 TEST(MapTools, TheRulerMeasuresAndStaysOnTheMap) {
-    Desk d(true, ',');
-    d.style.colors.fore = Color{0x102030};
+    ToolsDesk d(true, ',');
+    d.map.style().colors.fore = Color{0x102030};
     d.tools.setTool(Tool::Ruler);
     d.tools.press(Button::Left, {0, 100});
     d.tools.move({500, 100});
@@ -205,16 +209,16 @@ TEST(MapTools, InformationIsOfTheFileOnTopAndStaysOnTheCanvas) {
     };
     for (const auto& [name, at, chosen, corner] : rows) {
         SCOPED_TRACE(name);
-        Desk d;
+        ToolsDesk d;
         d.canvas.resize({3000, 1500});
         d.view.setView(3, 3, 0, 0);
         d.tools.setTool(Tool::Info);
         d.drag(at, at);
-        EXPECT_EQ(d.chosen, chosen);
+        EXPECT_EQ(d.chosen(), chosen);
         const std::optional<MapOverlay::Info> info = d.window.overlay.info;
-        ASSERT_EQ(info.has_value(), !d.chosen.empty());
+        ASSERT_EQ(info.has_value(), !d.chosen().empty());
         if (info) {  // 7 characters and two lines, with 90 units around
-            EXPECT_EQ(info->text, d.chosen + " 7\r\nx\r\n");
+            EXPECT_EQ(info->text, d.chosen() + " 7\r\nx\r\n");
             EXPECT_EQ(info->box, (MapOverlay::Box{corner, {1020, 660}}));
         }
         d.tools.viewChanged();
@@ -238,7 +242,7 @@ TEST_F(MapToolsTest, AToolReplacesTheOtherAndTheRightButtonGivesUpWhatWasBegun) 
 }
 
 TEST(MapTools, NothingHappensWithoutAFile) {
-    Desk d(false);
+    ToolsDesk d(false);
     d.tools.setTool(Tool::Ruler);
     EXPECT_EQ(d.tools.tool(), Tool::None);
     d.drag({10, 10}, {200, 200});

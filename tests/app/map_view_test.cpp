@@ -40,6 +40,9 @@ struct View {
 struct MapDesk {
     explicit MapDesk(CanvasSize size = {1000, 500}, const BoundingBox& box = boxOf(2000, 200))
         : canvas(size) {
+        view.onControls = [this](const ViewControls& controls) {
+            window.setViewControls(controls);
+        };
         view.totalBound = box;
         view.fitView();
         view.ZoomUno();
@@ -51,7 +54,7 @@ struct MapDesk {
     MapStyle style;
     RecordingCanvas canvas;
     ScriptedWindow window;
-    MapView view{canvas, window, style, [](MapContext& context) {
+    MapView view{canvas, style, [](MapContext& context) {
                      const CanvasPoint ring[] = {{1, 2}, {3, 4}, {5, 6}};
                      context.canvas.polygon(ring);
                  }};

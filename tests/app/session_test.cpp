@@ -31,22 +31,22 @@ TEST(Session, StartsEmptyWithTheUsersSettings) {
     EXPECT_EQ(desk.window.title, "Campora 0.1.0");
     EXPECT_FALSE(desk.window.mapActive);
     EXPECT_EQ(desk.canvas.calls(), (Names{"clear 0x0000FF", "refresh"}));
-    EXPECT_FALSE(desk.session.style().drawBorders);
+    EXPECT_FALSE(desk.session.map().style().drawBorders);
     EXPECT_EQ(desk.window.legend.reference.front().text, "Background");
-    ASSERT_TRUE(desk.session.loadFile(desk.track("log0001.nbr", 5), false, true));
+    ASSERT_TRUE(desk.open({desk.track("log0001.nbr", 5)}));
     EXPECT_EQ(desk.listed(), Names{"log0001.nbr (LV-XYZ)"});
 }
 
 TEST_F(SessionTest, ALoadedReportIsListedDrawnAndSummedUp) {
     canvas.forget();
-    session.style().graduated = false;
-    ASSERT_TRUE(session.loadFile(report("Lote 3.RPT"), true, true));
+    session.map().style().graduated = false;
+    ASSERT_TRUE(open({report("Lote 3.RPT")}, true));
     EXPECT_EQ(window.files, (std::vector<FileListRow>{{"Lote 3.RPT", "rptfile"}}));
     EXPECT_EQ(window.selected, 0);
     EXPECT_EQ(window.summary.front(), (SummaryRow{"Nombre Archivo:", "Lote 3.RPT "}));
     EXPECT_TRUE(window.title.ends_with("lote 3.rpt]")) << window.title;
     EXPECT_TRUE(window.mapActive);
-    EXPECT_TRUE(session.style().graduated);
+    EXPECT_TRUE(session.map().style().graduated);
     EXPECT_EQ(window.legend.unit, "lt/hect");
     EXPECT_EQ(window.legend.classes.back().text, "101.6 - 102");
     EXPECT_EQ(canvas.callsOf("polygon").size(), 2U);
@@ -55,7 +55,7 @@ TEST_F(SessionTest, ALoadedReportIsListedDrawnAndSummedUp) {
 }
 
 TEST_F(SessionTest, AFileThatIsNotTakenChangesNothing) {
-    ASSERT_TRUE(session.loadFile(report("Lote.rpt"), true, true));
+    ASSERT_TRUE(open({report("Lote.rpt")}, true));
     // What the message says; null when there is none.
     const std::tuple<const char*, std::string, const char*> rows[] = {
         {"open already", folder.file("Lote.rpt"), nullptr},
@@ -70,12 +70,12 @@ TEST_F(SessionTest, AFileThatIsNotTakenChangesNothing) {
         {"empty", folder.write("vacio.rpt", ""), "Archivo sin puntos: "},
     };
     const ScriptedWindow before = window;
-    const ValueRanges ranges = session.ranges();
-    const float scale = session.view().scaleX();
+    const ValueRanges ranges = session.map().ranges();
+    const float scale = session.display().view().scaleX();
     for (const auto& [name, path, says] : rows) {
         SCOPED_TRACE(name);
         dialogs.messages.clear();
-        EXPECT_FALSE(session.loadFile(path, false, true));
+        EXPECT_FALSE(open({path}));
         ASSERT_EQ(dialogs.messages.size(), says == nullptr ? 0U : 1U);
         if (says != nullptr) {
             EXPECT_THAT(dialogs.messages.at(0), testing::HasSubstr(says));
@@ -83,20 +83,20 @@ TEST_F(SessionTest, AFileThatIsNotTakenChangesNothing) {
         EXPECT_EQ(window.files, before.files);
         EXPECT_EQ(window.title, before.title);
         EXPECT_EQ(window.legend, before.legend);
-        EXPECT_EQ(session.ranges(), ranges);
-        EXPECT_EQ(session.view().scaleX(), scale);
+        EXPECT_EQ(session.map().ranges(), ranges);
+        EXPECT_EQ(session.display().view().scaleX(), scale);
     }
 }
 
 TEST_F(SessionTest, OpeningInPlaceOfTheOthersForgetsThemFirst) {
-    ASSERT_TRUE(session.loadFile(report("uno.rpt", 1000), true, true));
-    ASSERT_TRUE(session.loadFile(report("dos.rpt", 3000), true, true));
+    ASSERT_TRUE(open({report("uno.rpt", 1000)}, true));
+    ASSERT_TRUE(open({report("dos.rpt", 3000)}, true));
     EXPECT_EQ(listed(), Names{"dos.rpt"});
-    EXPECT_EQ(session.ranges().dose, (ValueRange<float>{300, 302}));
-    EXPECT_FALSE(session.loadFile("otro.rpt", true, true));
-    EXPECT_FALSE(session.loadFile(folder.write("vacio.rpt", ""), true, true));
+    EXPECT_EQ(session.map().ranges().dose, (ValueRange<float>{300, 302}));
+    EXPECT_FALSE(open({"otro.rpt"}, true));
+    EXPECT_FALSE(open({folder.write("vacio.rpt", "")}, true));
     EXPECT_EQ(listed(), Names{"dos.rpt"}) << "a refused file costs nothing";
-    session.removeCurrentFile();
+    session.listCommands().removeCurrentFile();
     EXPECT_EQ(window.legend.classes.size(), 0U) << "nothing is left to explain";
 }
 
@@ -104,119 +104,120 @@ TEST_F(SessionTest, SeveralFilesAreDrawnOnce) {
     add("viejo");
     canvas.forget();
     const Names paths = {report("uno.rpt"), "falta.rpt", report("dos.rpt")};
-    EXPECT_EQ(session.loadFiles(paths, true).size(), 2U);
+    EXPECT_EQ(open(paths, true), 2U);
     EXPECT_EQ(listed(), (Names{"uno.rpt", "dos.rpt"}));
     EXPECT_EQ(window.selected, 0);
     EXPECT_EQ(redraws(), 2U) << "one for the empty map, one for both";
 }
 
 TEST_F(SessionTest, RangesAreThoseOfTheOpenFiles) {
-    session.loadFile(report("uno.rpt", 1000), false, true);
-    session.loadFile(report("dos.rpt", 3000), false, true);
-    EXPECT_EQ(session.ranges().dose, (ValueRange<float>{100, 302}));
-    session.loadFile(track("log0001.nbr", 5), false, true);
-    EXPECT_EQ(session.ranges().flow, (ValueRange<float>{5, 5}));
-    session.selectFile(1);
-    session.removeCurrentFile();
-    EXPECT_EQ(session.ranges().dose, (ValueRange<float>{100, 102}));
-    EXPECT_EQ(session.defaultScale().valueMax(), 102) << "the classes follow";
-    while (session.plotCount() > 0) {
-        session.removeCurrentFile();
+    open({report("uno.rpt", 1000)});
+    open({report("dos.rpt", 3000)});
+    EXPECT_EQ(session.map().ranges().dose, (ValueRange<float>{100, 302}));
+    open({track("log0001.nbr", 5)});
+    EXPECT_EQ(session.map().ranges().flow, (ValueRange<float>{5, 5}));
+    session.listCommands().selectFile(1);
+    session.listCommands().removeCurrentFile();
+    EXPECT_EQ(session.map().ranges().dose, (ValueRange<float>{100, 102}));
+    EXPECT_EQ(session.map().scales().of(false).valueMax(), 102) << "the classes follow";
+    while (session.map().plotCount() > 0) {
+        session.listCommands().removeCurrentFile();
     }
-    EXPECT_EQ(session.ranges(), ValueRanges{});
-    session.loadFile(report("tres.rpt", 2000), false, true);
-    EXPECT_EQ(session.ranges().dose, (ValueRange<float>{200, 202}));
+    EXPECT_EQ(session.map().ranges(), ValueRanges{});
+    open({report("tres.rpt", 2000)});
+    EXPECT_EQ(session.map().ranges().dose, (ValueRange<float>{200, 202}));
 }
 
 TEST_F(SessionTest, ARefusedDuplicateLeavesTheRangesAlone) {
-    session.loadFile(track("log0001.nbr", 5, 4), false, true);
+    open({track("log0001.nbr", 5, 4)});
     dialogs.yesNoAnswers = {false};
-    EXPECT_FALSE(session.loadFile(track("log0002.nbr", 50, 3), false, true));
+    EXPECT_FALSE(open({track("log0002.nbr", 50, 3)}));
     EXPECT_EQ(dialogs.questions.size(), 1U);
-    EXPECT_EQ(session.ranges().flow, (ValueRange<float>{5, 5}));
-    EXPECT_EQ(session.plotCount(), 1);
+    EXPECT_EQ(session.map().ranges().flow, (ValueRange<float>{5, 5}));
+    EXPECT_EQ(session.map().plotCount(), 1);
 }
 
 TEST_F(SessionTest, AMoreCompleteCopyTakesThePlaceOnTheMap) {
-    session.loadFile(track("log0001.nbr", 5, 3), false, true);
+    open({track("log0001.nbr", 5, 3)});
     TrackText text;
     text.west = "61";
     for (const std::uint32_t west : {0U, 100U, 200U, 300U}) {
         text.addPoint(west, 0, 5, 20);
     }
     dialogs.yesNoAnswers = {false};
-    EXPECT_TRUE(session.loadFile(folder.write("log0002.nbr", text.bytes()), false, true));
+    EXPECT_TRUE(open({folder.write("log0002.nbr", text.bytes())}));
     EXPECT_EQ(listed(), Names{"log0002.nbr"});
-    EXPECT_TRUE(session.view().totalBound.equals(session.files().file(0).File_bound()));
+    EXPECT_TRUE(
+        session.display().view().totalBound.equals(session.map().files().file(0).File_bound()));
 }
 
 TEST_F(SessionTest, NoRangeBeginsBelowZero) {
-    ASSERT_TRUE(session.loadFile(report("raro.rpt", -500), false, true));
-    EXPECT_EQ(session.ranges().dose->least, 0);
-    EXPECT_EQ(session.defaultScale().count(), 1);
+    ASSERT_TRUE(open({report("raro.rpt", -500)}));
+    EXPECT_EQ(session.map().ranges().dose->least, 0);
+    EXPECT_EQ(session.map().scales().of(false).count(), 1);
 }
 
 TEST_F(SessionTest, TellsWhenATrackFileHasNoRecordOfStops) {
-    session.loadFile(track("log0001.nbr", 5, 3, "1"), false, true);
+    open({track("log0001.nbr", 5, 3, "1")});
     EXPECT_EQ(window.workStatus, "No hay registros del comienzo ni detención de la fumigación");
-    session.loadFile(track("log0002.nbr", 0, 3, "2"), false, true);
+    open({track("log0002.nbr", 0, 3, "2")});
     EXPECT_EQ(window.workStatus, "");
-    session.loadFile(track("log0003.nbr", 5, 3, "3"), false, true);
+    open({track("log0003.nbr", 5, 3, "3")});
     EXPECT_EQ(window.workStatus, "") << "one of the open files has them";
 }
 
 TEST_F(SessionTest, TheFirstFileLiesOnTop) {
     add("a");
     add("b");
-    session.addFile(std::make_unique<NamedFile>("c"), true, true);
+    session.map().addFile(std::make_unique<NamedFile>("c"), true);
     canvas.forget();
-    session.view().ZoomUno();
+    session.display().view().ZoomUno();
     EXPECT_EQ(drawn(), "b1 b2 a1 a2 c1 c2 ");
 }
 
 TEST_F(SessionTest, TheViewFollowsAddedFiles) {
-    EXPECT_FALSE(session.addFile(nullptr, true, false));
     add("a", -60);
-    EXPECT_TRUE(session.view().transform().isFitted());
-    EXPECT_TRUE(session.view().totalBound.equals(session.files().file(0).File_bound()));
+    EXPECT_TRUE(session.display().view().transform().isFitted());
+    EXPECT_TRUE(
+        session.display().view().totalBound.equals(session.map().files().file(0).File_bound()));
     add("b", -61);
-    EXPECT_EQ(session.view().totalBound.minX, -61);
-    session.addFile(std::make_unique<NamedFile>("c", -62), false, false);
-    EXPECT_EQ(session.view().totalBound.minX, -61) << "not asked to";
+    EXPECT_EQ(session.display().view().totalBound.minX, -61);
+    session.map().addFile(std::make_unique<NamedFile>("c", -62), false);
+    EXPECT_EQ(session.display().view().totalBound.minX, -61) << "not asked to";
     auto without = std::make_unique<NamedFile>("sin puntos");
     without->bound = {};
-    session.addFile(std::move(without), true, false);
-    EXPECT_EQ(session.view().totalBound.maxX, -60 + 0.01) << "a file without points";
-    EXPECT_TRUE(session.recalcGphBound());
-    EXPECT_EQ(session.view().totalBound.minX, -62);
-    EXPECT_FALSE(session.recalcGphBound());
+    session.map().addFile(std::move(without), false);
+    EXPECT_TRUE(session.display().recalcGphBound());
+    EXPECT_EQ(session.display().view().totalBound.minX, -62);
+    EXPECT_EQ(session.display().view().totalBound.maxX, -60 + 0.01) << "a file without points";
+    EXPECT_FALSE(session.display().recalcGphBound());
 }
 
 TEST_F(SessionTest, TheWindowFollowsTheSelection) {
     add("a");
     addScale(add("b"), 7);
-    session.selectFile(1);
+    session.listCommands().selectFile(1);
     EXPECT_EQ(window.title, "Campora - [.../campo/b]");
     EXPECT_EQ(window.summary, (std::vector<SummaryRow>{{"Nombre:", "b "}, {"Área:", "12.5 Has"}}));
     EXPECT_EQ(window.legend.classes.front().text, "0 - 7");
-    session.selectFile(2);
-    session.selectFile(-1);
+    session.listCommands().selectFile(2);
+    session.listCommands().selectFile(-1);
     EXPECT_EQ(window.summary.front().value, "b ") << "no such row";
-    session.selectFile(0);
+    session.listCommands().selectFile(0);
     EXPECT_EQ(window.legend.classes.size(), 6U);
-    session.selectFile(std::nullopt);
-    EXPECT_EQ(session.files().currentFile(), nullptr);
+    session.listCommands().selectFile(std::nullopt);
+    EXPECT_EQ(session.map().files().currentFile(), nullptr);
     EXPECT_TRUE(window.summary.empty());
 }
 
 TEST(Session, MovesTheCurrentFileAndRedraws) {
-    const std::tuple<const char*, int, Session::Move, Names> rows[] = {
-        {"up", 1, Session::Move::Up, {"b", "a", "c"}},
-        {"up at the top", 0, Session::Move::Up, {"a", "b", "c"}},
-        {"down", 1, Session::Move::Down, {"a", "c", "b"}},
-        {"down at the bottom", 2, Session::Move::Down, {"a", "b", "c"}},
-        {"to the top", 2, Session::Move::Top, {"c", "a", "b"}},
-        {"to the bottom", 1, Session::Move::Bottom, {"a", "c", "b"}},
+    const std::tuple<const char*, int, FileListCommands::Move, Names> rows[] = {
+        {"up", 1, FileListCommands::Move::Up, {"b", "a", "c"}},
+        {"up at the top", 0, FileListCommands::Move::Up, {"a", "b", "c"}},
+        {"down", 1, FileListCommands::Move::Down, {"a", "c", "b"}},
+        {"down at the bottom", 2, FileListCommands::Move::Down, {"a", "b", "c"}},
+        {"to the top", 2, FileListCommands::Move::Top, {"c", "a", "b"}},
+        {"to the bottom", 1, FileListCommands::Move::Bottom, {"a", "c", "b"}},
     };
     for (const auto& [row, current, move, order] : rows) {
         SCOPED_TRACE(row);
@@ -225,12 +226,12 @@ TEST(Session, MovesTheCurrentFileAndRedraws) {
         for (const char* name : {"a", "b", "c"}) {
             desk.add(name);
         }
-        desk.session.selectFile(current);
+        desk.session.listCommands().selectFile(current);
         desk.canvas.forget();
-        desk.session.moveCurrentFile(move);
+        desk.session.listCommands().moveCurrentFile(move);
         EXPECT_EQ(desk.listed(), order);
         EXPECT_EQ(desk.redraws(), 1U);
-        EXPECT_EQ(desk.session.files().indexOf(desk.session.files().currentFile()),
+        EXPECT_EQ(desk.session.map().files().indexOf(desk.session.map().files().currentFile()),
                   desk.window.selected);
     }
 }
@@ -239,41 +240,41 @@ TEST_F(SessionTest, RemovingAFileLeavesItsNeighbourCurrent) {
     add("a", -60);
     addScale(add("b", -61), 7);
     add("c", -60);
-    session.view().ZoomUno();
-    const float scale = session.view().scaleX();
-    session.selectFile(1);
-    session.removeCurrentFile();
+    session.display().view().ZoomUno();
+    const float scale = session.display().view().scaleX();
+    session.listCommands().selectFile(1);
+    session.listCommands().removeCurrentFile();
     EXPECT_EQ(listed(), (Names{"a", "c"}));
     EXPECT_EQ(window.selected, 1);
     EXPECT_EQ(window.title, "Campora - [.../campo/c]");
     EXPECT_EQ(window.legend.classes.size(), 6U) << "the scale went with its file";
-    EXPECT_LT(session.view().scaleX(), scale) << "the map is smaller now";
+    EXPECT_LT(session.display().view().scaleX(), scale) << "the map is smaller now";
     canvas.forget();
-    session.removeCurrentFile();
+    session.listCommands().removeCurrentFile();
     EXPECT_EQ(window.title, "Campora - [.../campo/a]");
     EXPECT_EQ(drawn(), "a1 a2 ") << "same extent: drawn again as it stands";
-    session.removeFile(nullptr);
-    EXPECT_EQ(session.plotCount(), 1);
+    session.map().removeFile(nullptr);
+    EXPECT_EQ(session.map().plotCount(), 1);
 }
 
 TEST_F(SessionTest, CommandsWithoutACurrentFileDoNothing) {
     canvas.forget();
-    session.zoomToCurrentFile();
-    session.moveCurrentFile(Session::Move::Up);
-    session.removeCurrentFile();
-    session.copyData();
-    session.recalcErrorAreas();
+    session.listCommands().zoomToCurrentFile();
+    session.listCommands().moveCurrentFile(FileListCommands::Move::Up);
+    session.listCommands().removeCurrentFile();
+    session.summaryCommands().copyData(clipboard);
+    session.map().recalcErrorAreas();
     EXPECT_TRUE(canvas.calls().empty());
     EXPECT_EQ(clipboard.text, "");
 }
 
 TEST_F(SessionTest, TheDateMapLeavesWithTheLastDate) {
-    session.loadFiles({report("uno.rpt"), track("log0001.nbr", 5)}, true);
+    open({report("uno.rpt"), track("log0001.nbr", 5)}, true);
     session.modes().mnuColorDateMap();
-    session.selectFile(0);
-    session.removeCurrentFile();
-    EXPECT_EQ(session.style().mode, ColorMode::Dose);
-    EXPECT_FALSE(session.defaultScale().isDate);
+    session.listCommands().selectFile(0);
+    session.listCommands().removeCurrentFile();
+    EXPECT_EQ(session.map().style().mode, ColorMode::Dose);
+    EXPECT_FALSE(session.map().scales().of(false).isDate);
 }
 
 }  // namespace

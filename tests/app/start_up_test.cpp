@@ -37,9 +37,9 @@ TEST(StartUp, ReadsSettingsRegistersAndShowsTheEmptyMap) {
     SessionDesk desk;
     desk.settings.values = {{"mapCoordType", "2"}, {"mapBackcolor", "255"}, {"DrawDotted", "True"}};
     loadMainWindow(desk.session, "/opt/campora/campora");
-    EXPECT_EQ(desk.session.coordType(), CoordType::DegreesMinutes);
-    EXPECT_EQ(desk.session.style().colors.back, Color{255});
-    EXPECT_TRUE(desk.session.style().drawDotted);
+    EXPECT_EQ(desk.session.tools().coordType(), CoordType::DegreesMinutes);
+    EXPECT_EQ(desk.session.map().style().colors.back, Color{255});
+    EXPECT_TRUE(desk.session.map().style().drawDotted);
     EXPECT_EQ(desk.canvas.backgroundColor(), Color{255});
     EXPECT_EQ(desk.settings.values["RunPath"], "/opt/campora/campora");
     EXPECT_EQ(desk.classes.values[".rpt"], "FurrowScope.RptFile");
@@ -83,7 +83,7 @@ TEST(StartUp, AnimPlaysAtOnceUntilTheWindowCloses) {
             unloadMainWindow(desk.session);
         }
     };
-    desk.session.printDescription = "Lote 4";
+    desk.settings.values["printDescription"] = "Lote 4";
     processCommandLine(desk.session, {{desk.report("lote.rpt")}, true, false, true});
     EXPECT_GE(desk.clock.events, 200) << "repeated until then";
     EXPECT_EQ(desk.session.replay().state(), Replay::State::Idle);

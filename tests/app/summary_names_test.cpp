@@ -37,14 +37,14 @@ TEST(SummaryNames, AreReadInTheUsersLanguage) {
 TEST(SummaryNames, TheClipboardHoldsWhatIsShown) {
     SessionDesk desk(Language::English);
     desk.session.start();
-    ASSERT_TRUE(desk.session.loadFile(desk.report("lote.rpt"), true, true));
+    ASSERT_TRUE(desk.open({desk.report("lote.rpt")}, true));
     EXPECT_EQ(desk.window.summary.front(), (SummaryRow{"File name:", "lote.rpt "}));
-    desk.session.copyData();
+    desk.session.summaryCommands().copyData(desk.clipboard);
     EXPECT_TRUE(desk.clipboard.text.starts_with("File name: lote.rpt \r\nSerial number: "));
     EXPECT_NE(desk.clipboard.text.find("Average dose: 152 L/ha\r\n"), std::string::npos)
         << desk.clipboard.text;
     EXPECT_EQ(desk.window.legend.unit, "L/ha");
-    EXPECT_EQ(desk.session.files().file(0).File_resumen().property(0), "Nombre Archivo:");
+    EXPECT_EQ(desk.session.map().files().file(0).File_resumen().property(0), "Nombre Archivo:");
 }
 
 }  // namespace

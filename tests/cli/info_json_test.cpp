@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-#include "cli/batch_platform.h"
+#include "cli/batch_map.h"
 #include "support/named_file.h"
 
 namespace campora {
@@ -17,9 +17,8 @@ namespace {
 
 TEST(InfoJson, TellsScalesAndWhatIsMissing) {
     const Arguments arguments;
-    NoCanvas canvas;
     std::ostringstream boxes;
-    BatchSession batch(arguments, canvas, boxes);
+    BatchMap batch(arguments, boxes);
     auto file = std::make_unique<NamedFile>("zonas.shp");
     file->bound = {};
     file->summary.clear();
@@ -30,7 +29,7 @@ TEST(InfoJson, TellsScalesAndWhatIsMissing) {
     file->scale = std::make_unique<ColorScale>();
     file->scale->setClassNumberExt(2, 10, 20);
     file->scale->setClassColor(1, Color::rgb(0x12, 0xAB, 0));
-    batch.session().addFile(std::move(file), true, false);
+    batch.map().addFile(std::move(file), false);
     const Json layer = {
         {"kind", "NamedLayer"}, {"elements", 1}, {"points", nullptr}, {"bound", nullptr}};
     const Json expected = {
@@ -49,7 +48,7 @@ TEST(InfoJson, TellsScalesAndWhatIsMissing) {
         {"scale",
          {{{"lower", 10}, {"upper", 15}, {"color", "#FFFF00"}},
           {{"lower", 15}, {"upper", 20}, {"color", "#12AB00"}}}}};
-    EXPECT_EQ(infoJson(batch.session())["files"], Json::array({expected}));
+    EXPECT_EQ(infoJson(batch.map())["files"], Json::array({expected}));
 }
 
 }  // namespace

@@ -36,7 +36,7 @@ struct DoseColumnDialogTest : testing::Test {
     }
 
     SessionDesk desk;
-    DoseColumnDialog dialog{desk.session, nullptr};
+    DoseColumnDialog dialog{desk.session.map(), desk.session.services(), nullptr};
 };
 
 TEST_F(DoseColumnDialogTest, ShowsARowForEveryChannel) {
@@ -106,7 +106,7 @@ struct SelectDoseDialogTest : testing::Test {
     }
     /// The dose that the dialog gives when someone does this to it.
     std::optional<float> ask(const ColorScale* offered, std::function<void(QDialog&)> act) {
-        SelectDoseDialog dialog(offered, 12, desk.session, nullptr);
+        SelectDoseDialog dialog(offered, 12, desk.session.map().desk(), nullptr);
         QTimer::singleShot(0, &dialog, [&] {
             ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
             act(dialog);

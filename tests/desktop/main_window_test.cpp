@@ -115,7 +115,7 @@ TEST_F(WindowTest, DoubleClickShowsTheFile) {
     QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, row);
     QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, row);
     EXPECT_LT(view().scaleX(), whole / 5);
-    const BoundingBox& box = window->session().files().file(1).File_bound();
+    const BoundingBox& box = window->session().map().files().file(1).File_bound();
     const LonLat middle = under(map().rect().center());
     EXPECT_NEAR(middle.x, (box.minX + box.maxX) / 2, 1e-3);
     EXPECT_NEAR(middle.y, (box.minY + box.maxY) / 2, 1e-3);

@@ -64,7 +64,7 @@ TEST_F(PrescriptionWindowTest, AClickWithTheDoseToolChangesAZone) {
     const CanvasPoint at = view().transform().mapToScreen(-59.995, -32.995);
     QTest::mouseClick(&map(), Qt::LeftButton, {},
                       {at.x / RasterCanvas::kUnitsPerPixel, at.y / RasterCanvas::kUnitsPerPixel});
-    const GphPrescVex* const made = window->session().prescription().prescription();
+    const GphPrescVex* const made = window->session().prescCommands().prescription();
     ASSERT_NE(made, nullptr);
     EXPECT_EQ(made->channel(0).polygons()[0].dosis, 20);
     EXPECT_TRUE(dialogs.messages.empty());

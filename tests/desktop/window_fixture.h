@@ -41,7 +41,7 @@ protected:
 
     void openWindow(Language language) {
         window = std::make_unique<MainWindow>(
-            Desktop{dialogs, settings, locale, clipboard, clock, classes, shell}, language,
+            Services{dialogs, settings, locale, clipboard, clock, classes, shell}, language,
             folder.path());
         window->start("/opt/campora/campora", {});
         window->show();
@@ -67,8 +67,10 @@ protected:
 
     [[nodiscard]] FileList& list() const { return window->sidePanel().files(); }
     [[nodiscard]] MapWidget& map() const { return window->mapArea().map(); }
-    [[nodiscard]] MapView& view() const { return window->session().view(); }
-    [[nodiscard]] ViewControls controls() const { return window->session().view().controls(); }
+    [[nodiscard]] MapView& view() const { return window->session().display().view(); }
+    [[nodiscard]] ViewControls controls() const {
+        return window->session().display().view().controls();
+    }
 
     /// Names of the rows, from the top.
     [[nodiscard]] std::vector<std::string> rows() const {

@@ -72,7 +72,7 @@ protected:
 TEST_F(Export, AJobInEveryFormat) {
     choose("mnuHelpLangEsp");
     openByDialog(CAMPORA_SOURCE_DIR "/samples/lote-demo.rpt");
-    ASSERT_EQ(session().plotCount(), 1);
+    ASSERT_EQ(session().map().plotCount(), 1);
     int place = 0;
     for (const ExportFormat& format : exportFormats()) {
         SCOPED_TRACE(format.word);

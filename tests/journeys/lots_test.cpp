@@ -53,7 +53,7 @@ protected:
 
 TEST_F(Lots, DrawnSavedMendedAndMerged) {
     openByDialog(writeLot(folder, "campo.lot", squareRing(-60, -34, 0.02)));
-    ASSERT_EQ(session().plotCount(), 1);
+    ASSERT_EQ(session().map().plotCount(), 1);
     answer(QMessageBox::No);  // to edit that one
     click("lote");
     ASSERT_TRUE(window().lotPanel().isVisible());
@@ -65,20 +65,20 @@ TEST_F(Lots, DrawnSavedMendedAndMerged) {
     window().findChild<QPlainTextEdit*>("txtLoteDescription")->setPlainText("Potrero norte");
     const std::string first = folder.file("lote01.lot");
     saveAs("1", first);
-    ASSERT_EQ(session().plotCount(), 2);
+    ASSERT_EQ(session().map().plotCount(), 2);
     EXPECT_TRUE(contentOf(first).starts_with("Potrero norte\r\n"));
 
     click("cmdLoteClear");
     drawBox({180, 150, 150, 120});
     const std::string second = folder.file("lote02.lot");
     saveAs("2", second);
-    ASSERT_EQ(session().plotCount(), 3);
+    ASSERT_EQ(session().map().plotCount(), 3);
     click("cmdLoteClose");
     EXPECT_FALSE(window().lotPanel().isVisible());
 
     // The first one is opened again and mended.
     openByDialog(first);
-    ASSERT_EQ(session().plotCount(), 1);
+    ASSERT_EQ(session().map().plotCount(), 1);
     choose("mnuToolLoteEdit");
     ASSERT_EQ(drawn(), 4U);
     const std::vector<LonLat> before = inFile(first);
@@ -90,9 +90,9 @@ TEST_F(Lots, DrawnSavedMendedAndMerged) {
     click("cmdLoteClose");
 
     session().fileCommands().openPaths({second}, false);
-    ASSERT_EQ(session().plotCount(), 2);
+    ASSERT_EQ(session().map().plotCount(), 2);
     choose("mnuToolLoteMerge");
-    ASSERT_EQ(session().plotCount(), 3);
+    ASSERT_EQ(session().map().plotCount(), 3);
     EXPECT_EQ(toUtf8(window().sidePanel().files().item(0)->text()),
               session().texts()(TextId::MergedName));
     const std::string merged = folder.file("union.lot");

@@ -42,7 +42,7 @@ protected:
     }
     void clickOnZone(int n) {
         const CanvasPoint at =
-            session().view().transform().mapToScreen(-59.995 + 0.01 * n, -32.995);
+            session().display().view().transform().mapToScreen(-59.995 + 0.01 * n, -32.995);
         QTest::mouseClick(
             &map(), Qt::LeftButton, {},
             {at.x / RasterCanvas::kUnitsPerPixel, at.y / RasterCanvas::kUnitsPerPixel});
@@ -69,7 +69,7 @@ TEST_F(Prescription, FromTwoMapsToAFileAndBack) {
         QTest::keyClick(&dialog, Qt::Key_Return);
     });
     choose("mnuFilePrescript");
-    ASSERT_EQ(session().plotCount(), 1);
+    ASSERT_EQ(session().map().plotCount(), 1);
     EXPECT_EQ(legend(), (std::set<std::string>{"0", "50", "80", "100"}));
 
     click("prescDosis");
@@ -82,7 +82,7 @@ TEST_F(Prescription, FromTwoMapsToAFileAndBack) {
     clickOnZone(1);
     EXPECT_EQ(legend(), (std::set<std::string>{"0", "65", "80", "100"}));
     answerInput("120");
-    session().legend().askClassValue(3);
+    session().legendCommands().askClassValue(3);
     EXPECT_EQ(legend(), (std::set<std::string>{"0", "65", "80", "120"}));
 
     const std::string target = folder.file("salida.pre");
@@ -110,10 +110,10 @@ TEST_F(Prescription, FromTwoMapsToAFileAndBack) {
     EXPECT_TRUE(std::filesystem::exists(nativePath(folder.file("salida.rpt"))));
 
     choose("mnuFilePrescript");
-    EXPECT_EQ(session().plotCount(), 0);
+    EXPECT_EQ(session().map().plotCount(), 0);
     giveFile(target);
     choose("mnuFileOpen");
-    ASSERT_EQ(session().plotCount(), 1);
+    ASSERT_EQ(session().map().plotCount(), 1);
     EXPECT_EQ(legend(), (std::set<std::string>{"1", "65", "80", "120"}));
 }
 

@@ -64,7 +64,7 @@ int greenPixels(const QImage& image) {
 
 TEST_F(PrintedPage, SetUpPreviewAndPdf) {
     openByDialog(CAMPORA_SOURCE_DIR "/samples/lote-demo.rpt");
-    ASSERT_EQ(session().plotCount(), 1);
+    ASSERT_EQ(session().map().plotCount(), 1);
     inNextDialog<PageSetupDialog>([](PageSetupDialog& dialog) {
         ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
         dialog.findChild<QPlainTextEdit*>("description")->setPlainText("Glifosato\n2 l/ha");
@@ -72,7 +72,9 @@ TEST_F(PrintedPage, SetUpPreviewAndPdf) {
         dialog.accept();
     });
     choose("mnuFilePageSetup");
-    EXPECT_EQ(session().printDescription, "Glifosato\n2 l/ha");
+    EXPECT_EQ(
+        PrintCommands(session().map(), session().display(), session().services()).description(),
+        "Glifosato\n2 l/ha");
 
     const std::string fromPreview = folder.file("apaisada.pdf");
     inNextDialog<PrintPreview>([&](PrintPreview& preview) {

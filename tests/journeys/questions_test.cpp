@@ -101,19 +101,19 @@ TEST_F(Questions, EachReadersQuestionIsInFrontAndTheNextFileOpens) {
         std::vector<std::string> files = row.files;
         files.push_back(goodReport());
         // As if the files before had taken long.
-        const auto before = session().platform().dialogs.progress("antes");
+        const auto before = session().services().dialogs.progress("antes");
         QTest::qWait(600);
         EXPECT_TRUE(before->report(1));
         window().openPaths(files, true);
         EXPECT_EQ(asked, 1);
-        EXPECT_EQ(session().plotCount(), row.opened);
+        EXPECT_EQ(session().map().plotCount(), row.opened);
         EXPECT_TRUE(before->report(2));
     }
     EXPECT_TRUE(std::filesystem::exists(nativePath(folder.file("log0002.nbr"))));
 }
 
 TEST_F(Questions, AProgressThatShowsMakesWay) {
-    Dialogs& dialogs = session().platform().dialogs;
+    Dialogs& dialogs = session().services().dialogs;
     const auto work = dialogs.progress("trabajo");
     QTest::qWait(600);
     EXPECT_TRUE(work->report(1));
@@ -134,7 +134,7 @@ TEST_F(Questions, CopiesOfOrdersAskBeforeTheyReplace) {
         inNextDialog<QMessageBox>([](QMessageBox& told) { told.accept(); });
     });
     EXPECT_FALSE(copyOrder(scanFolder(folder.file("tarjeta"), {}).at(0), folder.file("copia"), {},
-                           session().platform().dialogs, session().texts()));
+                           session().services().dialogs, session().texts()));
     EXPECT_EQ(asked, 1);
 }
 

@@ -19,14 +19,14 @@ class WorkDay : public Journey {};
 TEST_F(WorkDay, OpenZoomInformMeasureColourReplayAndStartAgain) {
     choose("mnuHelpLangEsp");
     openByDialog(CAMPORA_SOURCE_DIR "/samples/lote-demo.rpt");
-    ASSERT_EQ(session().plotCount(), 1);
+    ASSERT_EQ(session().map().plotCount(), 1);
     EXPECT_TRUE(window().windowTitle().endsWith("lote-demo.rpt]"));
 
-    const float wholeScale = session().view().scaleX();
+    const float wholeScale = session().display().view().scaleX();
     click("ZoomSelect");
     const QPoint middle = map().rect().center();
     drag(middle - QPoint(80, 60), middle + QPoint(80, 60));
-    const float closeScale = session().view().scaleX();
+    const float closeScale = session().display().view().scaleX();
     EXPECT_LT(closeScale, wholeScale / 3) << "the rectangle fills the map";
 
     click("info");
@@ -43,10 +43,10 @@ TEST_F(WorkDay, OpenZoomInformMeasureColourReplayAndStartAgain) {
     EXPECT_FALSE(window().findChild<QAction*>("mnuToolRuler")->isChecked());
 
     QTest::keyClick(&map(), Qt::Key_0, Qt::ControlModifier);
-    EXPECT_EQ(session().view().scaleX(), wholeScale);
+    EXPECT_EQ(session().display().view().scaleX(), wholeScale);
     session().modes().mnuColorScaleSelCH(0);
     choose("mnuColorErrorMap");
-    EXPECT_EQ(session().style().mode, ColorMode::Error);
+    EXPECT_EQ(session().map().style().mode, ColorMode::Error);
     EXPECT_TRUE(window().findChild<QAction*>("mnuColorErrorMap")->isChecked());
 
     choose("mnuHelpLangPort");
@@ -70,8 +70,8 @@ TEST_F(WorkDay, OpenZoomInformMeasureColourReplayAndStartAgain) {
 
     start();
     EXPECT_EQ(session().texts().language(), Language::Portuguese);
-    EXPECT_TRUE(session().style().drawDotted);
-    EXPECT_EQ(session().coordType(), CoordType::DegreesMinutesSeconds);
+    EXPECT_TRUE(session().map().style().drawDotted);
+    EXPECT_EQ(session().tools().coordType(), CoordType::DegreesMinutesSeconds);
     EXPECT_EQ(window().size(), QSize(900, 700));
     EXPECT_EQ(session().fileCommands().recentFiles().size(), 1U);
 }

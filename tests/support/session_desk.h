@@ -22,14 +22,28 @@ namespace campora {
 /// A session on a scripted desktop, with a folder for its files.
 struct SessionDesk {
     explicit SessionDesk(Language language = Language::Spanish)
-        : session({canvas, window, dialogs, settings, locale, clipboard, clock, classes, shell},
+        : session(canvas, window, {dialogs, settings, locale, clipboard, clock, classes, shell},
                   language, folder.path()) {}
 
     NamedFile& add(const std::string& name, double minX = -60) {
         auto file = std::make_unique<NamedFile>(name, minX);
         NamedFile& added = *file;
-        session.addFile(std::move(file), true, false);
+        File* const current = session.map().files().currentFile();
+        session.map().addFile(std::move(file), false);
+        session.map().files().setCurrentFile(current != nullptr ? current : &added);
+        session.display().recalcGphBound();
         return added;
+    }
+    /// Opens files, in place of the others or beside them, and shows the whole map. How many were
+    /// taken.
+    std::size_t open(const std::vector<std::string>& paths, bool inPlace = false) {
+        OpenManner manner;
+        manner.inPlace = inPlace;
+        const std::size_t taken = session.map().openAll(paths, manner).size();
+        if (taken > 0) {
+            session.display().showWhole();
+        }
+        return taken;
     }
     void addScale(NamedFile& file, double greatest) {
         file.scale = std::make_unique<ColorScale>();

@@ -5,7 +5,6 @@
 
 #include <cmath>
 
-#include "app/session.h"
 #include "app/settings.h"
 #include "base/numbers.h"
 #include "base/typed_number.h"
@@ -36,7 +35,7 @@ std::span<const ReadyRamp> readyRamps() {
 }
 
 ColorScale& LegendCommands::scale() const {
-    return session_.shownScale();
+    return map_.scales().shown();
 }
 
 bool LegendCommands::hasClass(int index) const {
@@ -45,7 +44,7 @@ bool LegendCommands::hasClass(int index) const {
 
 bool LegendCommands::classesMayChange() const {
     if (!scale().allowClassEdit) {
-        refuse(std::string(session_.texts()(TextId::ClassesAreFixed)));
+        map_.desk().tell({TextId::ClassesAreFixed, {}});
         return false;
     }
     return true;
@@ -79,7 +78,7 @@ void LegendCommands::askClassNumber() {
 
 void LegendCommands::setClassNumber(double number) {
     if (number < 1 || number > kMostClasses || number != std::floor(number)) {
-        refuse(session_.texts().format(TextId::BadClassNumber, {typed(number)}));
+        map_.desk().tell({TextId::BadClassNumber, {typed(number)}});
         return;
     }
     scale().setClassNumber(static_cast<int>(number));
@@ -98,7 +97,7 @@ void LegendCommands::askExtremes() {
         return;
     }
     if (*lower >= *upper) {
-        refuse(session_.texts().format(TextId::BadExtremes, {typed(*lower), typed(*upper)}));
+        map_.desk().tell({TextId::BadExtremes, {typed(*lower), typed(*upper)}});
         return;
     }
     scale().openEnds = false;
@@ -107,19 +106,20 @@ void LegendCommands::askExtremes() {
 
 void LegendCommands::spreadClasses(bool spread) {
     const int before = scale().count();
-    session_.style().spreadClasses = spread;
-    writeSwitch(session_.platform().settings, SettingId::SpreadClasses, spread);
-    session_.refreshColorScale();
+    map_.style().spreadClasses = spread;
+    writeSwitch(settings_, SettingId::SpreadClasses, spread);
+    map_.refreshColorScale();
+    display_.showLegend();
     if (scale().count() > 1 && before > 1 && scale().count() != before) {
         scale().setClassNumber(before);  // which draws
     } else {
-        session_.redraw();
+        display_.redraw();
     }
 }
 
 void LegendCommands::chooseRampStart() {
     ColorScale& shown = scale();
-    if (const auto chosen = session_.platform().dialogs.chooseColor(shown.colorStart)) {
+    if (const auto chosen = map_.desk().dialogs.chooseColor(shown.colorStart)) {
         shown.degrade(*chosen, shown.colorMiddle, shown.colorEnd, true);
     }
 }
@@ -127,7 +127,7 @@ void LegendCommands::chooseRampStart() {
 void LegendCommands::chooseRampMiddle() {
     ColorScale& shown = scale();
     const Color before = shown.colorMiddle.value_or(shown.colorStart);
-    if (const auto chosen = session_.platform().dialogs.chooseColor(before)) {
+    if (const auto chosen = map_.desk().dialogs.chooseColor(before)) {
         shown.degrade(shown.colorStart, chosen, shown.colorEnd, true);
     }
 }
@@ -138,7 +138,7 @@ void LegendCommands::dropRampMiddle() {
 
 void LegendCommands::chooseRampEnd() {
     ColorScale& shown = scale();
-    if (const auto chosen = session_.platform().dialogs.chooseColor(shown.colorEnd)) {
+    if (const auto chosen = map_.desk().dialogs.chooseColor(shown.colorEnd)) {
         shown.degrade(shown.colorStart, shown.colorMiddle, *chosen, true);
     }
 }
@@ -156,7 +156,7 @@ void LegendCommands::chooseClassColor(int index) {
         return;
     }
     const Color before = scale().getClass(index).color;
-    if (const auto chosen = session_.platform().dialogs.chooseColor(before)) {
+    if (const auto chosen = map_.desk().dialogs.chooseColor(before)) {
         scale().setClassColor(index, *chosen);
     }
 }
@@ -166,7 +166,7 @@ void LegendCommands::askClassValue(int index) {
         return;
     }
     if (!scale().allowValueChange) {
-        refuse(std::string(session_.texts()(TextId::ValuesAreFixed)));
+        map_.desk().tell({TextId::ValuesAreFixed, {}});
         return;
     }
     const double before = scale().getClass(index).lower;
@@ -174,31 +174,26 @@ void LegendCommands::askClassValue(int index) {
     if (!value) {
         return;
     }
-    scale().setClassValue(index, *value, session_.platform().dialogs, session_.texts());
-    session_.showLegend();
-    session_.redraw();
+    scale().setClassValue(index, *value, map_.desk().dialogs, map_.desk().texts);
+    display_.showLegend();
+    display_.redraw();
 }
 
 std::optional<double> LegendCommands::ask(TextId prompt, TextId caption, double proposed) const {
-    const std::optional<std::string> answer = session_.platform().dialogs.inputBox(
-        {prompt, std::string(session_.texts()(caption)), typed(proposed)});
+    const std::optional<std::string> answer =
+        map_.desk().titled(caption).askText(prompt, typed(proposed));
     if (!answer || answer->empty()) {
         return std::nullopt;
     }
     const std::optional<double> number = typedNumber(*answer);
     if (!number) {
-        refuse(session_.texts().format(TextId::AnswerNotANumber, {*answer}));
+        map_.desk().tell({TextId::AnswerNotANumber, {*answer}});
     }
     return number;
 }
 
 std::string LegendCommands::typed(double value) const {
-    return numberToType(value, session_.platform().locale.decimalSymbol());
-}
-
-void LegendCommands::refuse(const std::string& text) const {
-    session_.platform().dialogs.message(text, MessageIcon::Exclamation,
-                                        session_.texts()(TextId::ProgramName));
+    return numberToType(value, map_.desk().decimalSymbol());
 }
 
 }  // namespace campora

@@ -7,14 +7,15 @@
 #include <span>
 #include <string>
 
+#include "app/map_display.h"
+#include "app/open_map.h"
 #include "base/color.h"
 #include "base/text_id.h"
+#include "platform/settings_store.h"
 
 namespace campora {
 
 class ColorScale;
-class Session;
-
 /// A ramp to choose as a whole; without a middle it runs straight from start to end.
 struct ReadyRamp {
     TextId name{};
@@ -35,8 +36,9 @@ class LegendCommands {
 public:
     static constexpr int kMostClasses = 64;
 
-    /// `session` outlives this.
-    explicit LegendCommands(Session& session) : session_(session) {}
+    /// All of it outlives this.
+    LegendCommands(OpenMap& map, MapDisplay& display, SettingsStore& settings)
+        : map_(map), display_(display), settings_(settings) {}
 
     // Refused with a message on scales whose classes are fixed.
     void addClass();
@@ -71,9 +73,10 @@ private:
     /// The number typed; none when the user cancels or types something else, which is said.
     [[nodiscard]] std::optional<double> ask(TextId prompt, TextId caption, double proposed) const;
     [[nodiscard]] std::string typed(double value) const;
-    void refuse(const std::string& text) const;
 
-    Session& session_;
+    OpenMap& map_;
+    MapDisplay& display_;
+    SettingsStore& settings_;
 };
 
 }  // namespace campora

@@ -9,7 +9,6 @@
 #include <optional>
 #include <variant>
 
-#include "app/session.h"
 #include "base/numbers.h"
 #include "base/text.h"
 #include "base/typed_number.h"
@@ -70,10 +69,10 @@ std::vector<AlarmEntry> MapModes::alarmEntries() const {
     std::vector<AlarmEntry> entries;
     entries.reserve(kAlarmEntries);
     for (int i = 0; i < kAlarmEntries; ++i) {
-        std::string caption = alarmCaption(session_.texts(), i);
+        std::string caption = alarmCaption(map_.desk().texts, i);
         const bool visible = !caption.empty();
-        entries.push_back({std::move(caption), visible,
-                           isAlarmChecked(session_.style(), kindOfEntry(i), i % kBits)});
+        entries.push_back(
+            {std::move(caption), visible, isAlarmChecked(map_.style(), kindOfEntry(i), i % kBits)});
     }
     return entries;
 }
@@ -87,7 +86,7 @@ void MapModes::mnuAlarmsNone() {
 }
 
 void MapModes::setAlarms(std::uint32_t bits) {
-    session_.style().alarmSelection.fill(bits);
+    map_.style().alarmSelection.fill(bits);
     redraw();
 }
 
@@ -96,7 +95,7 @@ void MapModes::mnuAlarmsAlarm(int index) {
         return;
     }
     const auto place = static_cast<unsigned>(index);
-    session_.style().alarmSelection[place / kBits] ^= 1U << (place % kBits);
+    map_.style().alarmSelection[place / kBits] ^= 1U << (place % kBits);
     redraw();
 }
 
@@ -113,7 +112,7 @@ void MapModes::mnuColorErrorMap() {
 }
 
 void MapModes::toggle(ColorMode mode) {
-    MapStyle& style = session_.style();
+    MapStyle& style = map_.style();
     const ColorMode before = style.mode;
     style.mode = before == mode ? ColorMode::Dose : mode;
     if (before == ColorMode::Alarm && style.mode == ColorMode::Dose) {
@@ -121,24 +120,25 @@ void MapModes::toggle(ColorMode mode) {
         return;
     }
     if (before == ColorMode::Error && style.mode != ColorMode::Error) {
-        session_.recalcErrorAreas();
+        map_.recalcErrorAreas();
+        display_.showSummary();
     }
     showNewClasses();
 }
 
 void MapModes::mnuColorErrorMapMin() {
-    MapStyle& style = session_.style();
-    const Texts& texts = session_.texts();
-    const Platform& platform = session_.platform();
-    const std::optional<std::string> answer = platform.dialogs.inputBox(
-        {TextId::AskErrorLimit, std::string(texts(TextId::ErrorMap)),
-         numberToType(style.errorLimit, platform.locale.decimalSymbol())});
+    MapStyle& style = map_.style();
+    const std::optional<std::string> answer =
+        map_.desk()
+            .titled(TextId::ErrorMap)
+            .askText(TextId::AskErrorLimit,
+                     numberToType(style.errorLimit, map_.desk().decimalSymbol()));
     if (!answer || answer->empty()) {
         return;
     }
     const std::optional<double> percent = typedNumber(withoutPercent(*answer));
     if (!percent) {
-        refuse(TextId::AnswerNotANumber, *answer);
+        map_.desk().tell({TextId::AnswerNotANumber, {*answer}});
         return;
     }
     style.errorLimit = static_cast<float>(*percent);
@@ -150,15 +150,15 @@ void MapModes::mnuColorErrorMapMin() {
 }
 
 bool MapModes::isOn(ColorMode mode) const {
-    return session_.style().mode == mode;
+    return map_.style().mode == mode;
 }
 
 bool MapModes::canShowDates() const {
-    return session_.ranges().date.has_value();
+    return map_.ranges().date.has_value();
 }
 
 void MapModes::mnuEditGraduated() {
-    MapStyle& style = session_.style();
+    MapStyle& style = map_.style();
     style.graduated = !style.graduated;
     showAgain();
 }
@@ -172,85 +172,64 @@ void MapModes::mnuEditGraduatedByLtsMin() {
 }
 
 void MapModes::graduateBy(GraduatedBy by) {
-    session_.style().by = by;
+    map_.style().by = by;
     showNewClasses();
 }
 
 bool MapModes::isGraduated() const {
-    return session_.style().graduated;
+    return map_.style().graduated;
 }
 
 bool MapModes::isGraduatedBy(GraduatedBy by) const {
-    return session_.style().by == by;
+    return map_.style().by == by;
 }
 
 int MapModes::channelCount() const {
-    int most = session_.style().selectedChannel + 1;  // the one in use is always offered
-    for (int i = 0; i < session_.files().loadedCount(); ++i) {
-        most = std::max(most, channelsOf(session_.files().file(i)));
+    int most = map_.style().selectedChannel + 1;  // the one in use is always offered
+    for (int i = 0; i < map_.files().loadedCount(); ++i) {
+        most = std::max(most, channelsOf(map_.files().file(i)));
     }
     return most;
 }
 
 std::string MapModes::channelCaption(int index) const {
-    return session_.texts().format(TextId::ReportPointChannel, {numberText(index + 1)});
+    return map_.desk().texts.format(TextId::ReportPointChannel, {numberText(index + 1)});
 }
 
 void MapModes::mnuColorScaleSelTotal() {
-    session_.style().selectedChannel = -1;
-    for (int i = 0; i < session_.files().loadedCount(); ++i) {
-        if (auto* const several = dynamic_cast<MultiChannel*>(&session_.files().file(i))) {
-            several->showTotal();
-        }
-    }
-    showNewClasses();
+    mnuColorScaleSelCH(-1);
 }
 
 void MapModes::mnuColorScaleSelCH(int index) {
-    const Texts& texts = session_.texts();
-    session_.style().selectedChannel = index;
-    for (int i = 0; i < session_.files().loadedCount(); ++i) {
-        File& file = session_.files().file(i);
-        auto* const several = dynamic_cast<MultiChannel*>(&file);
-        if (several == nullptr) {
-            continue;
-        }
-        if (index < several->channelsCnt()) {
-            several->setCurrentChannel(index);
-        } else {
-            session_.platform().dialogs.message(
-                texts.format(TextId::FileWithoutChannel, {file.File_name(), numberText(index + 1)}),
-                MessageIcon::Exclamation, texts(TextId::ProgramName));
-        }
-    }
+    map_.selectChannel(index);
     showNewClasses();
 }
 
 bool MapModes::isChannel(int index) const {
-    return session_.style().selectedChannel == index;
+    return map_.style().selectedChannel == index;
 }
 
 void MapModes::mnuEditDrawAll() {
-    session_.style().drawAll = !session_.style().drawAll;
+    map_.style().drawAll = !map_.style().drawAll;
     redraw();
 }
 
 void MapModes::mnuEditDoted() {
-    bool& dotted = session_.style().drawDotted;
+    bool& dotted = map_.style().drawDotted;
     dotted = !dotted;
-    writeSwitch(session_.platform().settings, SettingId::DrawDotted, dotted);
+    writeSwitch(settings_, SettingId::DrawDotted, dotted);
     redraw();
 }
 
 void MapModes::mnuEditDrawBorder() {
-    bool& borders = session_.style().drawBorders;
+    bool& borders = map_.style().drawBorders;
     borders = !borders;
-    writeSwitch(session_.platform().settings, SettingId::DrawBorders, borders);
+    writeSwitch(settings_, SettingId::DrawBorders, borders);
     redraw();
 }
 
 TextId MapModes::drawAllCaption() const {
-    switch (session_.lastKind().value_or(WorkKind::Sprayer)) {
+    switch (map_.lastKind().value_or(WorkKind::Sprayer)) {
     case WorkKind::Seeder:
         return TextId::OnlySown;
     case WorkKind::OlderForm:
@@ -262,93 +241,80 @@ TextId MapModes::drawAllCaption() const {
 }
 
 bool MapModes::isOnlyWorked() const {
-    return !session_.style().drawAll;
+    return !map_.style().drawAll;
 }
 
 bool MapModes::isDotted() const {
-    return session_.style().drawDotted;
+    return map_.style().drawDotted;
 }
 
 bool MapModes::isBordered() const {
-    return session_.style().drawBorders;
-}
-
-bool MapModes::isSpeedShown() const {
-    return session_.replay().speedShown();
-}
-
-void MapModes::mnuEditViewVel() {
-    session_.replay().setSpeedShown(!isSpeedShown());
-    session_.platform().window.commandsChanged();
+    return map_.style().drawBorders;
 }
 
 void MapModes::mnuEditTrocha() {
-    const std::optional<std::string> answer = session_.platform().dialogs.inputBox(
-        {TextId::AskSwath, std::string(session_.texts()(TextId::ProgramName)), {}});
+    const std::optional<std::string> answer = map_.desk().askText(TextId::AskSwath, {});
     if (!answer || answer->empty()) {
         return;
     }
     const std::optional<double> metres = typedNumber(*answer);
     const float swath = static_cast<float>(std::min(metres.value_or(0), kWidestSwath));
     if (swath <= 0) {
-        refuse(metres ? TextId::SwathNotPositive : TextId::AnswerNotANumber, *answer);
+        map_.desk().tell({metres ? TextId::SwathNotPositive : TextId::AnswerNotANumber, {*answer}});
         return;
     }
-    for (Gph* layer : session_.getGphList()) {
+    for (Gph* layer : map_.getGphList()) {
         if (auto* const work = dynamic_cast<WorkLayer*>(layer)) {
             work->trocha(swath);
         }
     }
     if (isOn(ColorMode::Error)) {
-        session_.recalcErrorAreas();
+        map_.recalcErrorAreas();
+        display_.showSummary();
     }
-    session_.redraw();
+    display_.redraw();
 }
 
 void MapModes::chooseColor(SettingId id) {
     const auto settings = colorSettings();
     const auto found = std::find_if(settings.begin(), settings.end(),
                                     [id](const ColorSetting& row) { return row.id == id; });
-    Color& color = session_.style().colors.*found->color;
-    const std::optional<Color> chosen = session_.platform().dialogs.chooseColor(color);
+    Color& color = map_.style().colors.*found->color;
+    const std::optional<Color> chosen = map_.desk().dialogs.chooseColor(color);
     if (!chosen) {
         return;
     }
     color = *chosen;
-    writeColor(session_.platform().settings, id, color);
+    writeColor(settings_, id, color);
     showAgain();
 }
 
 void MapModes::mnuEditColorDefect() {
-    session_.style().colors = {};
+    map_.style().colors = {};
     for (const auto& [id, color] : colorSettings()) {
-        writeColor(session_.platform().settings, id, session_.style().colors.*color);
+        writeColor(settings_, id, map_.style().colors.*color);
     }
     showAgain();
 }
 
 void MapModes::showNewClasses() {
-    session_.refreshColorScale();
+    map_.refreshColorScale();
+    display_.showLegend();
     if (isOn(ColorMode::Error)) {
-        session_.recalcErrorAreas();
+        map_.recalcErrorAreas();
+        display_.showSummary();
     }
     redraw();
 }
 
 void MapModes::showAgain() {
-    session_.showLegend();
+    display_.showLegend();
     redraw();
 }
 
 void MapModes::redraw() {
-    session_.redraw();
-    session_.platform().window.commandsChanged();
-}
-
-void MapModes::refuse(TextId text, const std::string& answer) {
-    const Texts& texts = session_.texts();
-    session_.platform().dialogs.message(texts.format(text, {answer}), MessageIcon::Exclamation,
-                                        texts(TextId::ProgramName));
+    display_.redraw();
+    display_.window().commandsChanged();
 }
 
 }  // namespace campora

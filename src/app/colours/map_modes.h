@@ -7,13 +7,14 @@
 #include <string_view>
 #include <vector>
 
+#include "app/map_display.h"
+#include "app/open_map.h"
 #include "app/settings.h"
 #include "base/text_id.h"
 #include "model/map_style.h"
+#include "platform/settings_store.h"
 
 namespace campora {
-
-class Session;
 
 /// One entry of the menu of alarms.
 struct AlarmEntry {
@@ -32,8 +33,9 @@ public:
     /// Seeders' alarms by bit, then those of sprayers.
     static constexpr int kAlarmEntries = 64;
 
-    /// `session` outlives this.
-    explicit MapModes(Session& session) : session_(session) {}
+    /// All of it outlives this.
+    MapModes(OpenMap& map, MapDisplay& display, SettingsStore& settings)
+        : map_(map), display_(display), settings_(settings) {}
 
     /// `kAlarmEntries` entries; a selected alarm colours the points of the alarm map that have it.
     [[nodiscard]] std::vector<AlarmEntry> alarmEntries() const;
@@ -77,10 +79,6 @@ public:
     [[nodiscard]] bool isDotted() const;
     [[nodiscard]] bool isBordered() const;
 
-    /// The speed beside the map during replay.
-    void mnuEditViewVel();
-    [[nodiscard]] bool isSpeedShown() const;
-
     /// Asks for a swath width in metres and gives it to all work that is open; a wider one than
     /// `kWidestSwath` is brought down to it.
     void mnuEditTrocha();
@@ -106,9 +104,10 @@ private:
     /// The map and its legend, with the classes that are there.
     void showAgain();
     void redraw();
-    void refuse(TextId text, const std::string& answer);
 
-    Session& session_;
+    OpenMap& map_;
+    MapDisplay& display_;
+    SettingsStore& settings_;
 };
 
 }  // namespace campora

@@ -7,15 +7,16 @@
 #include <iterator>
 #include <memory>
 #include <optional>
+#include <span>
 #include <utility>
 
-#include "app/lots/lot_editor.h"
+#include "app/lots/lot_saving.h"
 #include "app/save_target.h"
-#include "app/session.h"
 #include "base/file_endings.h"
 #include "base/numbers.h"
 #include "base/paths.h"
 #include "base/text.h"
+#include "lots/file_lots.h"
 #include "lots/gph_lote.h"
 #include "lots/load_lot.h"
 #include "lots/merge_lots.h"
@@ -26,132 +27,38 @@ namespace campora {
 
 namespace {
 
-constexpr std::string_view kStem = "lote";
-
-std::optional<int> numberInName(std::string_view path) {
-    const std::string name = lowerCase(fileNamePart(path));
-    int number = 0;
-    for (; number < kLotNumbers; ++number) {
-        if (name == lotFileName(number)) {
-            return number;
-        }
+std::vector<Lot> lotsIn(std::span<File* const> files) {
+    std::vector<Lot> all;
+    for (const File* file : files) {
+        std::vector<Lot> lots = lotsOf(*file);
+        std::move(lots.begin(), lots.end(), std::back_inserter(all));
     }
-    return std::nullopt;
-}
-
-std::string inFolder(const std::string& folder, const std::string& name) {
-    return pathText(nativePath(folder) / nativePath(name));
-}
-
-/// A result of merging that is on no disk yet.
-bool isUnsaved(const File& file) {
-    return file.File_diskPath().empty() && !lotsOf(file).empty();
+    return all;
 }
 
 }  // namespace
 
-std::vector<Lot> lotsOf(const File& file) {
-    std::vector<Lot> lots;
-    for (const Gph* layer : file.File_gphList()) {
-        const auto* const lot = dynamic_cast<const GphLote*>(layer);
-        if (lot == nullptr) {
-            return {};
-        }
-        lots.push_back({lot->vertices(), lot->description});
-    }
-    return lots;
-}
-
-bool isOneLot(const File& file) {
-    return lotsOf(file).size() == 1;
-}
-
-std::string lotFileName(int number) {
-    std::string digits = numberText(number);
-    digits.insert(0, digits.size() < 2 ? 1 : 0, '0');
-    return std::string(kStem).append(digits).append(kLotEnding);
-}
-
-std::string proposedLotNumber(const Session& session, std::string_view path) {
-    if (const std::optional<int> number = numberInName(path)) {
-        return numberText(*number);
-    }
-    const std::string folder = startFolder(session, SettingId::LotesPath);
-    for (int number = 1; number < kLotNumbers; ++number) {
-        if (!isThere(inFolder(folder, lotFileName(number)))) {
-            return numberText(number);
-        }
-    }
-    return {};
-}
-
-std::string askLotTarget(const Session& session, const std::string& name) {
-    const Texts& texts = session.texts();
-    const SaveRequest request{std::string(texts(TextId::ExportTitle)),
-                              startFolder(session, SettingId::LotesPath),
-                              name,
-                              {fileFilter(texts, TextId::FilterLote, kLotEnding)}};
-    std::string path = session.platform().dialogs.saveFile(request).path;
-    if (path.empty()) {
-        return {};
-    }
-    const std::string_view folder =
-        std::string_view(path).substr(0, path.size() - fileNamePart(path).size());
-    writeText(session.platform().settings, SettingId::LotesPath, folder);
-    if (pathEnding(path) != kLotEnding) {
-        path.append(kLotEnding);  // by its ending it is known again
-        if (!overwriteAgreed(session, path)) {
-            return {};
-        }
-    }
-    return path;
-}
-
-bool putLotOnMap(Session& session, const std::string& path, const File* untitled) {
-    const Platform& platform = session.platform();
-    std::unique_ptr<File> lot = loadLot(path, {platform.dialogs, platform.locale, session.texts()});
-    if (lot == nullptr) {
-        return false;
-    }
-    const File* const listed = session.files().findFile(path);
-    if (untitled != nullptr) {
-        session.replaceFile(untitled, std::move(lot));
-        session.removeFile(listed);
-    } else if (listed != nullptr) {
-        session.replaceFile(listed, std::move(lot));
-    } else {
-        session.showBelow(std::move(lot));
-    }
-    return true;
-}
-
-void LotCommands::tell(const std::string& text) const {
-    session_.platform().dialogs.message(text, MessageIcon::Exclamation,
-                                        session_.texts()(TextId::LoteTitle));
-}
-
 void LotCommands::mnuLote() {
-    LotEditor& editor = session_.lotEditor();
-    if (editor.isOpen()) {
-        editor.close();
+    if (editor_.isOpen()) {
+        editor_.close();
     } else {
-        editor.open();
+        editor_.open();
     }
 }
 
 bool LotCommands::canEdit() const {
-    const File* const current = session_.files().currentFile();
+    const File* const current = map_.files().currentFile();
     return current != nullptr && isOneLot(*current);
 }
 
 void LotCommands::mnuLoteEdit() {
     if (canEdit()) {
-        session_.lotEditor().edit(*session_.files().currentFile());
+        editor_.edit(*map_.files().currentFile());
     }
 }
 
 bool LotCommands::canSave() const {
-    const File* const current = session_.files().currentFile();
+    const File* const current = map_.files().currentFile();
     return current != nullptr && !lotsOf(*current).empty();
 }
 
@@ -159,129 +66,99 @@ void LotCommands::mnuLoteSave() {
     if (!canSave()) {
         return;
     }
-    const File& file = *session_.files().currentFile();
+    const File& file = *map_.files().currentFile();
     const std::vector<Lot> lots = lotsOf(file);
     std::string name = file.File_name();
     if (pathEnding(name) != kLotEnding) {
         name.append(kLotEnding);
     }
-    const std::string target = askLotTarget(session_, name);
+    const std::string target = askLotTarget(map_, settings_, name);
     if (target.empty()) {
         return;
     }
     const std::vector<std::string> paths = lotPaths(target, lots.size());
-    if (const auto refused = session_.filesInUse(&file).whyNotTarget(paths)) {
-        tell(session_.texts().sentence(*refused));
+    if (const auto refused = map_.filesInUse(&file).whyNotTarget(paths)) {
+        lotDesk(map_).tell(*refused);
         return;
     }
     for (const std::string& path : paths) {
-        if (path != target && !overwriteAgreed(session_, path)) {
+        if (path != target && !overwriteAgreed(map_.desk(), path)) {
             return;
         }
     }
     const Result<std::vector<std::string>> saved = saveLots(lots, target);
     if (!saved) {
-        tell(session_.texts().sentence(saved.failure()));
+        lotDesk(map_).tell(saved.failure());
         return;
     }
-    const bool wasMerged = isUnsaved(file);
+    const bool wasMerged = areUnsavedLots(file);
     showSaved(file, *saved);
     if (const std::string older = wasMerged ? olderLots(target, *saved) : ""; !older.empty()) {
-        tell(session_.texts().format(TextId::OlderLotsStay, {older}));
+        lotDesk(map_).tell({TextId::OlderLotsStay, {older}});
     }
 }
 
 void LotCommands::showSaved(const File& file, const std::vector<std::string>& paths) const {
-    const bool unsaved = isUnsaved(file);
+    const bool unsaved = areUnsavedLots(file);
     const File* untitled = unsaved ? &file : nullptr;
     for (const std::string& path : paths) {
-        if (unsaved || session_.files().isLoaded(path)) {
-            putLotOnMap(session_, path, std::exchange(untitled, nullptr));
+        if (unsaved || map_.files().isLoaded(path)) {
+            putLotOnMap(map_, display_, path, std::exchange(untitled, nullptr));
         }
     }
-    session_.platform().window.setToolText(
-        session_.texts().format(TextId::LoteSaved, {std::string(fileNamePart(paths.front()))}));
+    display_.window().setToolText(
+        map_.desk().texts.format(TextId::LoteSaved, {std::string(fileNamePart(paths.front()))}));
 }
 
-std::vector<Lot> LotCommands::openLots(bool unsaved) const {
-    std::vector<Lot> all;
-    for (int i = 0; i < session_.files().loadedCount(); ++i) {
-        const File& file = session_.files().file(i);
-        std::vector<Lot> lots = lotsOf(file);
-        if (isUnsaved(file) == unsaved) {
-            std::move(lots.begin(), lots.end(), std::back_inserter(all));
-        }
-    }
-    return all;
+std::vector<File*> LotCommands::lotFiles(bool unsaved) const {
+    std::vector<File*> files = map_.files().all();
+    std::erase_if(files, [unsaved](const File* file) {
+        return lotsOf(*file).empty() || areUnsavedLots(*file) != unsaved;
+    });
+    return files;
 }
 
-std::vector<Lot> LotCommands::lotsToMerge() const {
-    std::vector<Lot> lots = openLots(false);
-    return lots.empty() ? openLots(true) : lots;
-}
-
-std::span<const std::string> LotCommands::mergedFrom() const {
-    for (int i = 0; i < session_.files().loadedCount(); ++i) {
-        if (isUnsaved(session_.files().file(i))) {
-            return mergedFrom_;
-        }
-    }
-    return {};
+std::vector<File*> LotCommands::filesToMerge() const {
+    std::vector<File*> files = lotFiles(false);
+    return files.empty() ? lotFiles(true) : files;
 }
 
 bool LotCommands::canMerge() const {
-    return lotsToMerge().size() > 1;
-}
-
-bool LotCommands::mayLose(const File& file) const {
-    const Texts& texts = session_.texts();
-    return !isUnsaved(file) || session_.platform().dialogs.askYesNo(
-                                   texts.format(TextId::AskLoseMerged, {file.File_name()}),
-                                   MessageIcon::Exclamation, texts(TextId::LoteTitle));
-}
-
-bool LotCommands::mayClose() const {
-    for (int i = 0; i < session_.files().loadedCount(); ++i) {
-        if (!mayLose(session_.files().file(i))) {
-            return false;
-        }
-    }
-    return true;
+    return lotsIn(filesToMerge()).size() > 1;
 }
 
 void LotCommands::mnuLoteMerge() {
     if (!canMerge()) {
         return;
     }
-    const Texts& texts = session_.texts();
-    const MergedLots merged = mergeLots(lotsToMerge());
+    const Desk desk = lotDesk(map_);
+    const std::vector<File*> files = filesToMerge();
+    const MergedLots merged = mergeLots(lotsIn(files));
     std::string remarks;
-    for (const std::string& remark : mergeRemarks(merged, texts)) {
+    for (const std::string& remark : mergeRemarks(merged, desk.texts)) {
         remarks.append(remarks.empty() ? "" : "\n").append(remark);
     }
     if (merged.lots.empty()) {
-        tell(remarks);
+        desk.tell(remarks);
         return;
     }
-    LoadedFileList& files = session_.files();
-    std::vector<std::string> sources;
-    for (int i = 0; i < files.loadedCount(); ++i) {
-        if (!isUnsaved(files.file(i)) && !lotsOf(files.file(i)).empty()) {
-            sources.push_back(files.file(i).File_diskPath());
+    std::unique_ptr<File> made =
+        makeLotGroup(merged.lots, "", desk.texts(TextId::MergedName), desk.locale);
+    for (const File* file : files) {
+        if (areUnsavedLots(*file)) {  // an earlier result is merged again
+            made->madeFrom.insert(made->madeFrom.end(), file->madeFrom.begin(),
+                                  file->madeFrom.end());
+        } else {
+            made->madeFrom.push_back(file->File_diskPath());
         }
     }
-    if (!sources.empty()) {  // else the earlier result is merged again
-        mergedFrom_ = std::move(sources);
+    for (const File* file : lotFiles(true)) {
+        map_.files().removeFile(file);
     }
-    for (int i = files.loadedCount(); i-- > 0;) {
-        if (isUnsaved(files.file(i))) {
-            files.removeFile(&files.file(i));
-        }
-    }
-    session_.showOnTop(
-        makeLotGroup(merged.lots, "", texts(TextId::MergedName), session_.platform().locale));
+    map_.addFile(std::move(made), true);
+    display_.showWhole();
     if (!remarks.empty()) {
-        tell(remarks);
+        desk.tell(remarks);
     }
 }
 

@@ -8,12 +8,12 @@
 #include <cstdlib>
 #include <utility>
 
-#include "app/lots/lot_commands.h"
-#include "app/session.h"
+#include "app/lots/lot_saving.h"
 #include "base/lon_lat.h"
 #include "base/number_forms.h"
 #include "base/numbers.h"
 #include "base/plain_text.h"
+#include "lots/file_lots.h"
 #include "lots/ring_crossing.h"
 #include "model/measures.h"
 #include "model/ring_geometry.h"
@@ -36,16 +36,21 @@ double distance(CanvasPoint a, CanvasPoint b) {
 
 }  // namespace
 
+LotEditor::LotEditor(OpenMap& map, MapDisplay& display, MapTools& tools, SettingsStore& settings,
+                     Shell& shell)
+    : map_(map), display_(display), tools_(tools), settings_(settings), shell_(shell) {
+    display_.leftOut = [this] { return edited(); };
+}
+
 void LotEditor::open() {
     if (isOpen_) {
         return;
     }
-    const File* const current = session_.files().currentFile();
-    const Texts& texts = session_.texts();
+    const File* const current = map_.files().currentFile();
+    const Desk desk = lotDesk(map_);
     const bool edits = current != nullptr && isOneLot(*current) &&
-                       session_.platform().dialogs.askYesNo(
-                           texts.format(TextId::AskEditLote, {current->File_name()}),
-                           MessageIcon::Information, texts(TextId::LoteTitle));
+                       desk.ask(desk.texts.format(TextId::AskEditLote, {current->File_name()}),
+                                MessageIcon::Information);
     start(edits ? current : nullptr);
 }
 
@@ -62,12 +67,11 @@ void LotEditor::start(const File* file) {
         draft_.start(lotsOf(*file).front(), {path, path.empty() ? file : nullptr});
     }
     isOpen_ = true;
-    MapTools& tools = session_.tools();
-    tools.setTool(MapTools::Tool::None);
-    tools.setVertexOwner(this);
-    tools.onClick = [this](CanvasPoint at) { click(at); };
+    tools_.setTool(MapTools::Tool::None);
+    tools_.setVertexOwner(this);
+    tools_.onClick = [this](CanvasPoint at) { click(at); };
     changed();
-    session_.platform().window.commandsChanged();
+    display_.window().commandsChanged();
 }
 
 bool LotEditor::close() {
@@ -78,20 +82,18 @@ bool LotEditor::close() {
         return false;
     }
     isOpen_ = false;
-    MapTools& tools = session_.tools();
-    tools.setVertexOwner(nullptr);
-    tools.onClick = nullptr;
+    tools_.setVertexOwner(nullptr);
+    tools_.onClick = nullptr;
     draft_ = {};
     changed();
-    session_.platform().window.commandsChanged();
+    display_.window().commandsChanged();
     return true;
 }
 
 bool LotEditor::mayClose() const {
-    const Texts& texts = session_.texts();
+    const Desk desk = lotDesk(map_);
     return !isOpen_ || !draft_.isChanged() ||
-           session_.platform().dialogs.askYesNo(namingFile(texts(TextId::AskLoseLote), path()),
-                                                MessageIcon::Exclamation, texts(TextId::LoteTitle));
+           desk.ask(namingFile(desk.texts(TextId::AskLoseLote), path()));
 }
 
 void LotEditor::select(std::optional<std::size_t> index) {
@@ -155,23 +157,23 @@ void LotEditor::setTransparent(bool transparent) {
 }
 
 std::string LotEditor::figures() const {
-    const char symbol = session_.platform().locale.decimalSymbol();
+    const char symbol = map_.desk().decimalSymbol();
     std::string hectares =
         fixedNumberText(ringAreaM2(draft_.vertices()) / kSquareMetresPerHectare, 2);
     std::replace(hectares.begin(), hectares.end(), '.', symbol);
     const double metres = draft_.vertices().size() < 2 ? 0 : ringPerimeter(draft_.vertices());
-    return session_.texts().format(TextId::LoteFigures,
-                                   {hectares, numberText(roundHalfEven(metres))});
+    return map_.desk().texts.format(TextId::LoteFigures,
+                                    {hectares, numberText(roundHalfEven(metres))});
 }
 
 LonLat LotEditor::middleOfMap() const {
-    const auto [width, height] = session_.platform().canvas.size();
-    return session_.view().transform().isFitted() ? positionAt({width / 2, height / 2}) : LonLat{};
+    const auto [width, height] = display_.canvas().size();
+    return display_.view().transform().isFitted() ? positionAt({width / 2, height / 2}) : LonLat{};
 }
 
 LonLat LotEditor::positionAt(CanvasPoint at) const {
     const LonLat position =
-        session_.view().transform().screenToMap(static_cast<float>(at.x), static_cast<float>(at.y));
+        display_.view().transform().screenToMap(static_cast<float>(at.x), static_cast<float>(at.y));
     return {std::clamp(position.x, -kDateLine, kDateLine), std::clamp(position.y, -kPole, kPole)};
 }
 
@@ -182,7 +184,7 @@ void LotEditor::click(CanvasPoint at) {
 }
 
 std::optional<std::size_t> LotEditor::vertexAt(CanvasPoint at) const {
-    const ViewTransform view = session_.view().transform();
+    const ViewTransform view = display_.view().transform();
     std::optional<std::size_t> nearest;
     double least = kVertexReach;
     for (std::size_t i = 0; i < draft_.vertices().size(); ++i) {
@@ -197,7 +199,7 @@ std::optional<std::size_t> LotEditor::vertexAt(CanvasPoint at) const {
 }
 
 std::vector<std::optional<CanvasPoint>> LotEditor::handles() const {
-    const ViewTransform view = session_.view().transform();
+    const ViewTransform view = display_.view().transform();
     const std::vector<LonLat>& vertices = draft_.vertices();
     std::vector<std::optional<CanvasPoint>> middles;
     for (std::size_t i = 0; vertices.size() > 1 && i < vertices.size(); ++i) {
@@ -226,7 +228,7 @@ std::optional<std::size_t> LotEditor::handleAt(CanvasPoint at) const {
 
 bool LotEditor::pickVertex(CanvasPoint at) {
     pressed_ = at;
-    if (!session_.view().transform().isFitted()) {
+    if (!display_.view().transform().isFitted()) {
         return false;
     }
     if (const auto index = vertexAt(at)) {
@@ -237,7 +239,7 @@ bool LotEditor::pickVertex(CanvasPoint at) {
         return false;
     }
     picked_ = draft_.vertices()[*draft_.selected()];
-    const CanvasPoint place = session_.view().transform().mapToScreen(picked_->x, picked_->y);
+    const CanvasPoint place = display_.view().transform().mapToScreen(picked_->x, picked_->y);
     grip_ = {place.x - at.x, place.y - at.y};
     changed();
     return true;
@@ -259,7 +261,7 @@ const File* LotEditor::edited() const {
     if (!isOpen_) {
         return nullptr;
     }
-    const LoadedFileList& files = session_.files();
+    const LoadedFileList& files = map_.files();
     const auto& [path, entry] = draft_.origin();
     if (!path.empty()) {
         return files.findFile(path);
@@ -273,7 +275,7 @@ void LotEditor::changed() {
     crosses_ = ringCrossesItself(draft_.vertices());
     const File* const hidden = edited();
     if (std::exchange(hidden_, hidden) != hidden) {
-        session_.redraw();
+        display_.redraw();
     }
     viewChanged();
     if (onChanged) {
@@ -282,11 +284,10 @@ void LotEditor::changed() {
 }
 
 void LotEditor::viewChanged() {
-    const ViewTransform view = session_.view().transform();
-    MapTools& tools = session_.tools();
+    const ViewTransform view = display_.view().transform();
     showMark();
     if (!isOpen_ || !view.isFitted() || draft_.vertices().empty()) {
-        tools.showLot(std::nullopt);
+        tools_.showLot(std::nullopt);
         return;
     }
     MapOverlay::Lot lot;
@@ -298,25 +299,24 @@ void LotEditor::viewChanged() {
             lot.handles.push_back(*handle);
         }
     }
-    lot.color = session_.style().colors.lote;
+    lot.color = map_.style().colors.lote;
     lot.filled = !transparent_;
-    tools.showLot(std::move(lot));
+    tools_.showLot(std::move(lot));
 }
 
 void LotEditor::showMark() {
-    MapTools& tools = session_.tools();
-    if (tools.isPositionMarked()) {
+    if (tools_.isPositionMarked()) {
         marked_ = false;  // the user looks for a place; the mark is for that
         return;
     }
-    const ViewTransform view = session_.view().transform();
+    const ViewTransform view = display_.view().transform();
     if (isOpen_ && view.isFitted() && draft_.selected()) {
         const auto& [x, y] = draft_.vertices()[*draft_.selected()];
         const CanvasPoint place = view.mapToScreen(x, y);
-        tools.showVertex(static_cast<float>(place.x), static_cast<float>(place.y));
+        tools_.showVertex(static_cast<float>(place.x), static_cast<float>(place.y));
         marked_ = true;
     } else if (std::exchange(marked_, false)) {
-        tools.hideVertex();
+        tools_.hideVertex();
     }
 }
 

@@ -7,20 +7,23 @@
 #include <optional>
 #include <string>
 
+#include "app/map_display.h"
 #include "app/map_tools.h"
+#include "app/open_map.h"
 #include "app/temporary_folder.h"
 #include "lots/lot_draft.h"
+#include "platform/settings_store.h"
+#include "platform/shell.h"
 
 namespace campora {
-
-class Session;
 
 /// Draws a lot on the map: a click appends a vertex, vertices are dragged, new ones pulled out of
 /// the middle of a side. While it is open the lot lies over whatever the map shows.
 class LotEditor final : private VertexOwner {
 public:
-    /// `session` outlives this.
-    explicit LotEditor(Session& session) : session_(session) {}
+    /// All of it outlives this.
+    LotEditor(OpenMap& map, MapDisplay& display, MapTools& tools, SettingsStore& settings,
+              Shell& shell);
     LotEditor(const LotEditor&) = delete;
     LotEditor& operator=(const LotEditor&) = delete;
     ~LotEditor() override = default;
@@ -97,9 +100,12 @@ private:
     /// The answer to the question for the lot's number; none when it is not good or not given.
     [[nodiscard]] std::optional<int> askNumber() const;
     void write(const std::string& target);
-    void tell(const Failure& failure) const;
 
-    Session& session_;
+    OpenMap& map_;
+    MapDisplay& display_;
+    MapTools& tools_;
+    SettingsStore& settings_;
+    Shell& shell_;
     bool isOpen_ = false;
     LotDraft draft_;
     /// What the map was drawn without; only to be compared.

@@ -7,9 +7,8 @@
 #include <cmath>
 #include <string_view>
 
-#include "app/lots/lot_commands.h"
 #include "app/lots/lot_editor.h"
-#include "app/session.h"
+#include "app/lots/lot_saving.h"
 #include "base/file_endings.h"
 #include "base/paths.h"
 #include "base/text.h"
@@ -31,29 +30,22 @@ bool LotEditor::isWhole() const {
     return draft_.vertices().size() >= kFewestVertices;
 }
 
-void LotEditor::tell(const Failure& failure) const {
-    session_.platform().dialogs.message(session_.texts().sentence(failure),
-                                        MessageIcon::Exclamation,
-                                        session_.texts()(TextId::LoteTitle));
-}
-
 bool LotEditor::refuseFewVertices() const {
     if (!isWhole()) {
-        tell({TextId::LoteTooFew, {}});
+        lotDesk(map_).tell({TextId::LoteTooFew, {}});
     }
     return !isWhole();
 }
 
 std::optional<int> LotEditor::askNumber() const {
-    const std::optional<std::string> answer = session_.platform().dialogs.inputBox(
-        {TextId::AskLoteNumber, std::string(session_.texts()(TextId::LoteTitle)),
-         proposedLotNumber(session_, path()), std::string(path())});
+    const std::optional<std::string> answer = lotDesk(map_).askText(
+        TextId::AskLoteNumber, proposedLotNumber(map_, settings_, path()), path());
     if (!answer || trim(*answer).empty()) {
         return std::nullopt;
     }
     const double number = typedNumber(*answer).value_or(-1);
     if (number < 0 || number >= kLotNumbers || number != std::trunc(number)) {
-        tell({TextId::BadLoteNumber, {}});
+        lotDesk(map_).tell({TextId::BadLoteNumber, {}});
         return std::nullopt;
     }
     return static_cast<int>(number);
@@ -64,7 +56,7 @@ void LotEditor::save() {
         return;
     }
     if (const std::optional<int> number = askNumber()) {
-        const std::string path = askLotTarget(session_, lotFileName(*number));
+        const std::string path = askLotTarget(map_, settings_, lotFileName(*number));
         if (!path.empty()) {
             write(path);
         }
@@ -78,24 +70,24 @@ void LotEditor::saveBack() {
 }
 
 void LotEditor::write(const std::string& target) {
-    if (const auto refused = session_.filesInUse(edited()).whyNotTarget(target)) {
-        tell(*refused);
+    if (const auto refused = map_.filesInUse(edited()).whyNotTarget(target)) {
+        lotDesk(map_).tell(*refused);
         return;
     }
     const Lot lot{draft_.vertices(), draft_.description()};
     const Result<std::vector<std::string>> saved = saveLots({&lot, 1}, target);
     if (!saved) {
-        tell(saved.failure());
+        lotDesk(map_).tell(saved.failure());
         return;
     }
     // A result of merging that is on no disk yet is what was saved.
     const File* const untitled = path().empty() ? edited() : nullptr;
     draft_.markSaved(target);
-    if (putLotOnMap(session_, target, untitled)) {
+    if (putLotOnMap(map_, display_, target, untitled)) {
         hidden_ = edited();  // drawn without it just now
     }
-    session_.platform().window.setToolText(
-        session_.texts().format(TextId::LoteSaved, {std::string(fileNamePart(target))}));
+    display_.window().setToolText(
+        map_.desk().texts.format(TextId::LoteSaved, {std::string(fileNamePart(target))}));
     changed();
 }
 
@@ -103,10 +95,10 @@ void LotEditor::viewInEarth() {
     if (refuseFewVertices()) {
         return;
     }
-    std::string name(path().empty() ? session_.texts()(TextId::LoteTitle) : fileStem(path()));
+    std::string name(path().empty() ? map_.desk().texts(TextId::LoteTitle) : fileStem(path()));
     const Result<std::string> document = documents_.file(name.append(kKmlEnding));
     if (!document) {
-        tell(document.failure());
+        lotDesk(map_).tell(document.failure());
         return;
     }
     const GphLote lot(draft_.vertices(), draft_.description());
@@ -114,10 +106,10 @@ void LotEditor::viewInEarth() {
     NoProgress quiet;
     ExportProgress progress(quiet);
     if (const std::optional<Failure> failure =
-            kmlExport(layers, *document, session_.programFolder(), session_.style(), progress)) {
-        tell(*failure);
-    } else if (!session_.platform().shell.open(*document)) {
-        tell({TextId::LoteEarthFailed, {}});
+            kmlExport(layers, *document, map_.programFolder(), map_.style(), progress)) {
+        lotDesk(map_).tell(*failure);
+    } else if (!shell_.open(*document)) {
+        lotDesk(map_).tell({TextId::LoteEarthFailed, {}});
     }
 }
 

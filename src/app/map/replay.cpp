@@ -42,22 +42,21 @@ private:
 
 }  // namespace
 
-Replay::Replay(MapCanvas& canvas, MainWindowControls& window, Clock& clock, MapView& view,
-               const MapStyle& style, const Texts& texts, const UserLocale& locale,
-               std::function<std::vector<Gph*>()> gphList, std::function<void()> hideInfo)
-    : canvas_(canvas),
-      window_(window),
+Replay::Replay(const OpenMap& map, MapDisplay& display, Clock& clock,
+               std::function<void()> hideInfo)
+    : map_(map),
+      canvas_(display.canvas()),
+      window_(display.window()),
       clock_(clock),
-      view_(view),
-      style_(style),
-      texts_(texts),
-      locale_(locale),
-      gphList_(std::move(gphList)),
+      view_(display.view()),
+      style_(map.style()),
+      texts_(map.desk().texts),
+      locale_(map.desk().locale),
       hideInfo_(std::move(hideInfo)) {}
 
 void Replay::prepareReplay() {
     std::int64_t total = 0;
-    for (const Gph* layer : gphList_()) {
+    for (const Gph* layer : map_.getGphList()) {
         total += layer->Gph_animable() ? layer->Gph_count() : 0;
     }
     constexpr std::int64_t kMost = std::numeric_limits<std::int32_t>::max();
@@ -139,7 +138,7 @@ void Replay::start(Order order) {
 void Replay::plotOnTop() {
     const ViewTransform view = view_.transform();
     MapContext context{canvas_, view, style_};
-    for (const Gph* layer : gphList_()) {
+    for (const Gph* layer : map_.getGphList()) {
         layer->plotOnTop(context);
     }
 }
@@ -179,7 +178,7 @@ Replay::Outcome Replay::drawFrom(const Order& order) {
     canvas_.setPenColor(style_.colors.fore);
     canvas_.setFillStyle(FillStyle::Solid);
     Walk walk;
-    for (const Gph* layer : gphList_()) {
+    for (const Gph* layer : map_.getGphList()) {
         if (layer->Gph_animable()) {
             walk.layers.push_back(layer);
             continue;

@@ -9,7 +9,9 @@
 #include <string>
 #include <vector>
 
+#include "app/map_display.h"
 #include "app/map_view.h"
+#include "app/open_map.h"
 #include "base/texts.h"
 #include "model/gph.h"
 #include "model/map_style.h"
@@ -36,11 +38,9 @@ public:
     static constexpr int kLongestPause = 250;
     static constexpr int kUsualPause = 12;
 
-    /// All of it outlives the replay. `gphList`: every layer of the open files; they stay while a
-    /// replay runs. `hideInfo`: takes the information box off the map.
-    Replay(MapCanvas& canvas, MainWindowControls& window, Clock& clock, MapView& view,
-           const MapStyle& style, const Texts& texts, const UserLocale& locale,
-           std::function<std::vector<Gph*>()> gphList, std::function<void()> hideInfo);
+    /// All of it outlives the replay; the open files stay while it runs. `hideInfo`: takes the
+    /// information box off the map.
+    Replay(const OpenMap& map, MapDisplay& display, Clock& clock, std::function<void()> hideInfo);
 
     /// Begin again after the end, until stopped.
     bool repeat = false;
@@ -65,6 +65,7 @@ public:
     /// The user moved the speed slider; values beyond its range count as its ends.
     void setSpeed(int value);
     void setSpeedShown(bool shown);
+    void mnuEditViewVel() { setSpeedShown(!speedShown_); }
 
     /// Lets pending events act for so many milliseconds, or until the replay no longer plays.
     void waitMs(std::uint32_t milliseconds);
@@ -96,6 +97,7 @@ private:
     void showSpeed();
     void show();
 
+    const OpenMap& map_;
     MapCanvas& canvas_;
     MainWindowControls& window_;
     Clock& clock_;
@@ -103,7 +105,6 @@ private:
     const MapStyle& style_;
     const Texts& texts_;
     const UserLocale& locale_;
-    std::function<std::vector<Gph*>()> gphList_;
     std::function<void()> hideInfo_;
 
     State state_ = State::Idle;

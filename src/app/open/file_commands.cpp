@@ -11,8 +11,8 @@
 #include "app/open/files_behind.h"
 #include "app/open/load_project.h"
 #include "app/save_target.h"
-#include "app/session.h"
 #include "app/settings.h"
+#include "app/unsaved_work.h"
 #include "app/used_files.h"
 #include "base/file_draft.h"
 #include "base/file_endings.h"
@@ -41,31 +41,30 @@ std::optional<Failure> addCopy(std::vector<FileDraft>& files, const std::string&
 
 }  // namespace
 
-FileCommands::FileCommands(Session& session)
-    : session_(session), recent_(session.platform().settings) {}
+FileCommands::FileCommands(OpenMap& map, MapDisplay& display, MapTools& tools,
+                           SettingsStore& settings)
+    : map_(map), display_(display), tools_(tools), settings_(settings), recent_(settings) {}
 
 void FileCommands::fileOpen() {
-    const Platform& platform = session_.platform();
-    OpenRequest request{std::string(session_.texts()(TextId::Open)),
-                        startFolder(session_, SettingId::OpenPath), openFilters(session_.texts())};
+    OpenRequest request{std::string(map_.desk().texts(TextId::Open)),
+                        startFolder(settings_, SettingId::OpenPath, map_.programFolder()),
+                        openFilters(map_.desk().texts)};
     request.several = true;
     request.preview = [this](const std::vector<std::string>& selected) { preview(selected); };
-    const std::vector<std::string> paths = platform.dialogs.openFiles(request);
-    if (previewing_) {
-        previewing_ = false;
-        platform.window.setToolText({});
-        session_.plotPreview(false, false);
+    const std::vector<std::string> paths = map_.desk().dialogs.openFiles(request);
+    if (preview_) {
+        display_.window().setToolText({});
+        preview_.reset();
     }
-    if (!paths.empty() && session_.mayCloseFiles()) {
-        writeText(platform.settings, SettingId::OpenPath, folderOf(paths.front()));
+    if (!paths.empty() && mayCloseFiles(map_)) {
+        writeText(settings_, SettingId::OpenPath, folderOf(paths.front()));
         openPaths(paths, true);
     }
 }
 
 void FileCommands::preview(const std::vector<std::string>& selected) {
-    if (!previewing_) {
-        previewing_ = true;
-        session_.plotPreview(true, false);
+    if (!preview_) {
+        preview_.emplace(map_, display_, tools_);
     }
     QuietDialogs quiet;
     std::vector<std::string> files;
@@ -75,69 +74,70 @@ void FileCommands::preview(const std::vector<std::string>& selected) {
             files.insert(files.end(), behind.begin(), behind.end());
         }
     }
-    session_.showQuietly(files);
+    preview_->show(files);
     showShapeKind(selected);
 }
 
 void FileCommands::showShapeKind(const std::vector<std::string>& selected) {
     const std::optional<TextId> kind =
         selected.size() == 1 ? readShapeKind(selected.front()) : std::nullopt;
-    session_.platform().window.setToolText(kind ? session_.texts()(*kind) : "");
+    display_.window().setToolText(kind ? map_.desk().texts(*kind) : "");
 }
 
 FileCommands::Behind FileCommands::filesOf(const std::string& path, Dialogs& dialogs) const {
-    const Texts& texts = session_.texts();
-    if (auto project = filesOfProject(path, session_.programFolder(), dialogs, texts)) {
+    const Desk desk = map_.desk().with(dialogs);
+    if (auto project = filesOfProject(path, map_.programFolder(), desk.dialogs, desk.texts)) {
         return {std::move(project->paths), true};
     }
     std::vector<std::string> files = filesBehind(path);
     if (files.empty()) {
-        dialogs.message(std::string(texts(TextId::FolderWithoutFiles)) + path,
-                        MessageIcon::Exclamation, texts(TextId::ProgramName));
+        desk.tell(std::string(desk.texts(TextId::FolderWithoutFiles)) + path);
     }
     return {std::move(files), false};
 }
 
 bool FileCommands::openPaths(const std::vector<std::string>& paths, bool resetFirst) {
-    const Platform& platform = session_.platform();
     std::vector<std::string> files;
     std::vector<std::string> projects;
     for (const std::string& path : paths) {
-        const Behind behind = filesOf(path, platform.dialogs);
+        const Behind behind = filesOf(path, map_.desk().dialogs);
         files.insert(files.end(), behind.files.begin(), behind.files.end());
         if (behind.isProject) {
             projects.push_back(path);
         }
     }
-    const std::vector<std::string> taken = session_.loadFiles(files, resetFirst);
+    OpenManner manner;
+    manner.inPlace = resetFirst;
+    const std::vector<std::string> taken = map_.openAll(files, manner);
+    if (!taken.empty()) {
+        display_.showWhole();
+    }
     for (const std::string& path : projects) {
-        session_.addSource(path);
+        map_.addSource(path);
     }
     // A project stands for its files in the list of recent ones.
     for (const std::string& path : projects.empty() ? taken : projects) {
         recent_.add(path);
     }
-    platform.window.commandsChanged();
+    display_.window().commandsChanged();
     return !taken.empty();
 }
 
 void FileCommands::openRecent(std::string_view path) {
     if (!isThere(path)) {
-        const Texts& texts = session_.texts();
-        session_.platform().dialogs.message(
-            std::string(texts(TextId::ListedFileMissing)).append(path), MessageIcon::Exclamation,
-            texts(TextId::ProgramName));
+        const Desk& desk = map_.desk();
+        desk.tell(std::string(desk.texts(TextId::ListedFileMissing)).append(path));
         recent_.remove(path);
-        session_.platform().window.commandsChanged();
+        display_.window().commandsChanged();
         return;
     }
-    if (session_.mayCloseFiles()) {
+    if (mayCloseFiles(map_)) {
         openPaths({std::string(path)}, true);
     }
 }
 
 void FileCommands::stepInFolder(int step) {
-    const File* const current = session_.files().currentFile();
+    const File* const current = map_.files().currentFile();
     if (current == nullptr) {
         return;
     }
@@ -147,7 +147,7 @@ void FileCommands::stepInFolder(int step) {
     const auto found = std::find_if(files.begin(), files.end(), [&path](const std::string& file) {
         return fileNamePart(file) == fileNamePart(path);
     });
-    if (found == files.end() || !session_.mayCloseFiles()) {
+    if (found == files.end() || !mayCloseFiles(map_)) {
         return;
     }
     // One that is refused must not bar the way to those behind it.
@@ -159,20 +159,23 @@ void FileCommands::stepInFolder(int step) {
 }
 
 void FileCommands::reload() {
-    session_.reloadFiles();
+    if (!map_.files().empty()) {
+        map_.reload();
+        display_.showChange();
+    }
 }
 
 bool FileCommands::canSaveAs() const {
-    return !session_.lastTrackFile().empty();
+    return !map_.lastTrackFile().empty();
 }
 
 void FileCommands::saveAs() {
-    const Platform& platform = session_.platform();
-    const Texts& texts = session_.texts();
+    const Texts& texts = map_.desk().texts;
     const std::string folder =
-        !saveFolder_.empty() && isFolder(saveFolder_) ? saveFolder_ : session_.programFolder();
+        !saveFolder_.empty() && isFolder(saveFolder_) ? saveFolder_ : map_.programFolder();
     const std::string chosen =
-        platform.dialogs
+        map_.desk()
+            .dialogs
             .saveFile({std::string(texts(TextId::SaveAsTitle)), folder, "", {trackFilter(texts)}})
             .path;
     if (chosen.empty()) {
@@ -181,22 +184,21 @@ void FileCommands::saveAs() {
     const std::string path =
         pathEnding(chosen) == kTrackEnding ? chosen : std::string(chosen).append(kTrackEnding);
     saveFolder_ = folderOf(path);
-    const CompanionNames source = companionNames(session_.lastTrackFile());
+    const CompanionNames source = companionNames(map_.lastTrackFile());
     const CompanionNames target = companionNames(path);
-    session_.setTitle(false);
+    display_.setTitle(false);
     const std::string summary = findIgnoringCase(source.summaryPath);
     const bool hasSummary = isThere(summary);
-    FilesInUse inUse = session_.filesInUse();
+    FilesInUse inUse = map_.filesInUse();
     addOpened(inUse, source.trackPath);
     const std::string targets[] = {target.trackPath, target.summaryPath};
     if (const auto refused = inUse.whyNotTarget(std::span(targets, hasSummary ? 2 : 1))) {
-        platform.dialogs.message(texts.sentence(*refused), MessageIcon::Error,
-                                 texts(TextId::Error));
+        map_.desk().tellError(*refused);
         return;
     }
     // The save dialog has asked about the name that was chosen; nobody has about the others.
-    if ((path != chosen && !overwriteAgreed(session_, target.trackPath)) ||
-        (hasSummary && !overwriteAgreed(session_, target.summaryPath))) {
+    if ((path != chosen && !overwriteAgreed(map_.desk(), target.trackPath)) ||
+        (hasSummary && !overwriteAgreed(map_.desk(), target.summaryPath))) {
         return;
     }
     std::vector<FileDraft> files;
@@ -208,8 +210,7 @@ void FileCommands::saveAs() {
         failure = finishTogether(files);
     }
     if (failure) {
-        platform.dialogs.message(texts.sentence(*failure), MessageIcon::Error,
-                                 texts(TextId::Error));
+        map_.desk().tellError(*failure);
     }
 }
 

@@ -8,17 +8,17 @@
 #include <string_view>
 #include <vector>
 
+#include "app/map_preview.h"
 #include "app/open/recent_files.h"
 #include "platform/dialogs.h"
 
 namespace campora {
 
-class Session;
-
 /// The commands that open and copy files.
 class FileCommands {
 public:
-    explicit FileCommands(Session& session);
+    /// All of it outlives this.
+    FileCommands(OpenMap& map, MapDisplay& display, MapTools& tools, SettingsStore& settings);
 
     /// Asks for files, showing what is selected in the map meanwhile, and opens them in place of
     /// the others. Cancelling puts everything back.
@@ -54,9 +54,13 @@ private:
     };
     [[nodiscard]] Behind filesOf(const std::string& path, Dialogs& dialogs) const;
 
-    Session& session_;
+    OpenMap& map_;
+    MapDisplay& display_;
+    MapTools& tools_;
+    SettingsStore& settings_;
     RecentFiles recent_;
-    bool previewing_ = false;
+    /// While the dialog shows what is selected.
+    std::optional<MapPreview> preview_;
     /// Where the last copy went.
     std::string saveFolder_;
 };

@@ -14,7 +14,6 @@
 
 #include "app/open/file_loading.h"
 #include "app/open/project_file.h"
-#include "app/session.h"
 #include "base/files.h"
 #include "base/folder_looks.h"
 #include "base/numbers.h"
@@ -247,13 +246,14 @@ std::optional<ProjectFiles> filesOfProject(std::string_view path, std::string_vi
     return ProjectWalk(path, programFolder, dialogs, texts).walk(project, std::move(*entries));
 }
 
-bool loadProject(Session& session, std::string_view path) {
+bool loadProject(OpenMap& map, std::string_view path) {
+    const Desk& desk = map.desk();
     const std::optional<ProjectFiles> files =
-        filesOfProject(path, session.programFolder(), session.platform().dialogs, session.texts());
+        filesOfProject(path, map.programFolder(), desk.dialogs, desk.texts);
     if (!files) {
         return false;
     }
-    session.loadFiles(files->paths, false);
+    map.openAll(files->paths);
     return true;
 }
 

@@ -8,12 +8,11 @@
 #include <string_view>
 #include <vector>
 
+#include "app/open_map.h"
 #include "base/texts.h"
 #include "platform/dialogs.h"
 
 namespace campora {
-
-class Session;
 
 /// The files behind a project.
 struct ProjectFiles {
@@ -31,8 +30,8 @@ struct ProjectFiles {
                                                          std::string_view programFolder,
                                                          Dialogs& dialogs, const Texts& texts);
 
-/// Opens the files of a project beside those that are open, until the user has enough, and shows
-/// the whole map. False when `path` is no project.
-bool loadProject(Session& session, std::string_view path);
+/// Opens the files of a project beside those that are open, until the user has enough. False when
+/// `path` is no project.
+bool loadProject(OpenMap& map, std::string_view path);
 
 }  // namespace campora

@@ -7,7 +7,6 @@
 #include <utility>
 #include <vector>
 
-#include "app/session.h"
 #include "base/file_endings.h"
 #include "base/files.h"
 #include "base/paths.h"
@@ -17,25 +16,13 @@
 
 namespace campora {
 
-void addKeptEdits(File& file) {
-    FileProperties& summary = file.File_resumen();
-    if (!summary.sourcePath.empty()) {
-        return;
-    }
-    ReadEdits read = readEdits(file.File_diskPath());
-    summary.edits = std::move(read.edits);
-    if (read.unused) {
-        file.addRemark(std::move(*read.unused));
-    }
-}
-
 bool SummaryCommands::canEdit() const {
-    const File* const file = session_.files().currentFile();
+    const File* const file = map_.files().currentFile();
     return file != nullptr && !file->File_diskPath().empty();
 }
 
 std::string SummaryCommands::summaryFile() {
-    File* const file = session_.files().currentFile();
+    File* const file = map_.files().currentFile();
     if (file == nullptr) {
         return {};
     }
@@ -53,7 +40,7 @@ std::string SummaryCommands::summaryFile() {
 }
 
 void SummaryCommands::reread() {
-    File* const file = session_.files().currentFile();
+    File* const file = map_.files().currentFile();
     if (file == nullptr) {
         return;
     }
@@ -67,7 +54,7 @@ void SummaryCommands::reread() {
 
 SummaryRows SummaryCommands::rows() const {
     std::vector<SummaryEntry> entries;
-    if (File* const file = session_.files().currentFile()) {
+    if (File* const file = map_.files().currentFile()) {
         for (const ShownEntry& row : shownEntries(file->File_resumen())) {
             entries.push_back({row.property, row.value, row.unit});
         }
@@ -76,7 +63,7 @@ SummaryRows SummaryCommands::rows() const {
 }
 
 bool SummaryCommands::keep(const SummaryRows& rows) {
-    File* const file = session_.files().currentFile();
+    File* const file = map_.files().currentFile();
     if (file == nullptr) {
         return false;
     }
@@ -84,36 +71,35 @@ bool SummaryCommands::keep(const SummaryRows& rows) {
 }
 
 bool SummaryCommands::keep(SummaryEdits edits) {
-    File* const file = session_.files().currentFile();
+    File* const file = map_.files().currentFile();
     if (file == nullptr || edits == file->File_resumen().edits) {
         return file != nullptr;
     }
-    Dialogs& dialogs = session_.platform().dialogs;
-    const Texts& texts = session_.texts();
+    const Desk& desk = map_.desk();
     const std::string path = file->File_diskPath();
     const ReadEdits there = readEdits(path);
     std::optional<Failure> doubt = there.unused;
     if (!doubt && there.edits != file->File_resumen().edits && there.edits != edits) {
         doubt = Failure{TextId::EditsChangedMeanwhile, {editsPath(path)}};
     }
-    if (doubt && !dialogs.askYesNo(texts.format(TextId::AskReplaceEdits, {texts.sentence(*doubt)}),
-                                   MessageIcon::Question, texts(TextId::ProgramName))) {
+    if (doubt &&
+        !desk.ask(desk.texts.format(TextId::AskReplaceEdits, {desk.texts.sentence(*doubt)}),
+                  MessageIcon::Question)) {
         return false;
     }
     if (std::optional<Failure> failure = writeEdits(path, edits)) {
-        dialogs.message(texts.sentence(because(TextId::EditsNotKept, {path}, std::move(*failure))),
-                        MessageIcon::Error, texts(TextId::Error));
+        desk.tellError(because(TextId::EditsNotKept, {path}, std::move(*failure)));
         return false;
     }
     file->File_resumen().edits = std::move(edits);
     file->dropRemarks(TextId::EditsNotUsed);
-    session_.loadFileList(true);  // where the remark stood
+    display_.loadFileList(true);  // where the remark stood
     show();
     return true;
 }
 
 bool SummaryCommands::isEdited(int row) const {
-    File* const file = session_.files().currentFile();
+    File* const file = map_.files().currentFile();
     if (file == nullptr || row < 0) {
         return false;
     }
@@ -123,13 +109,13 @@ bool SummaryCommands::isEdited(int row) const {
 }
 
 bool SummaryCommands::hasEdits() const {
-    File* const file = session_.files().currentFile();
+    File* const file = map_.files().currentFile();
     return file != nullptr && !file->File_resumen().edits.empty();
 }
 
 void SummaryCommands::backToMeasured(int row) {
     if (isEdited(row)) {
-        static_cast<void>(keep(withoutEdit(session_.files().currentFile()->File_resumen(), row)));
+        static_cast<void>(keep(withoutEdit(map_.files().currentFile()->File_resumen(), row)));
     }
 }
 
@@ -140,10 +126,19 @@ void SummaryCommands::backToMeasured() {
 }
 
 void SummaryCommands::show() {
-    if (session_.style().mode == ColorMode::Error) {
-        session_.recalcErrorAreas();  // its entry stands in no file
-    } else {
-        session_.showSummary();
+    if (map_.style().mode == ColorMode::Error) {
+        map_.recalcErrorAreas();  // its entry stands in no file
+    }
+    display_.showSummary();
+}
+
+void SummaryCommands::copyData(Clipboard& clipboard) const {
+    std::string text;
+    for (const SummaryRow& row : display_.summary()) {
+        text.append(row.property).append(" ").append(row.value).append("\r\n");
+    }
+    if (!text.empty()) {
+        clipboard.setText(text);
     }
 }
 

@@ -5,21 +5,23 @@
 
 #include <string>
 
+#include "app/map_display.h"
 #include "app/open/summary_editor.h"
+#include "app/open_map.h"
 #include "model/shown_summary.h"
+#include "platform/clipboard.h"
 
 namespace campora {
 
 class File;
-class Session;
 
 /// What the user does to the summary of the current file. The summary file of a track file is
 /// changed itself; what was measured never is: edits of it are kept beside the report at once, or
 /// not made.
 class SummaryCommands {
 public:
-    /// `session` outlives this.
-    explicit SummaryCommands(Session& session) : session_(session) {}
+    /// Both outlive this.
+    SummaryCommands(OpenMap& map, MapDisplay& display) : map_(map), display_(display) {}
 
     /// Whether there is a file on the disk whose summary can be edited.
     [[nodiscard]] bool canEdit() const;
@@ -43,14 +45,15 @@ public:
     /// Every row, those that were removed as well.
     void backToMeasured();
 
+    /// The rows as lines of a text on the clipboard; nothing without rows.
+    void copyData(Clipboard& clipboard) const;
+
 private:
     [[nodiscard]] bool keep(SummaryEdits edits);
     void show();
 
-    Session& session_;
+    OpenMap& map_;
+    MapDisplay& display_;
 };
-
-/// Lays the edits that are kept beside a file over its summary; remarks where they cannot be used.
-void addKeptEdits(File& file);
 
 }  // namespace campora

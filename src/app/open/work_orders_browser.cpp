@@ -15,8 +15,14 @@
 
 namespace campora {
 
-WorkOrdersBrowser::WorkOrdersBrowser(Session& session) : session_(session) {
-    if (session_.plotCount() > 0) {
+WorkOrdersBrowser::WorkOrdersBrowser(OpenMap& map, MapDisplay& display, MapTools& tools,
+                                     const Services& services)
+    : map_(map),
+      display_(display),
+      tools_(tools),
+      settings_(services.settings),
+      clock_(services.clock) {
+    if (map_.plotCount() > 0) {
         choices_.push_back(OrderPreview::Adding);
     }
 }
@@ -26,13 +32,13 @@ WorkOrdersBrowser::~WorkOrdersBrowser() {
 }
 
 std::string WorkOrdersBrowser::startFolder() const {
-    return campora::startFolder(session_, SettingId::OpenZelPath);
+    return campora::startFolder(settings_, SettingId::OpenZelPath, map_.programFolder());
 }
 
 std::vector<OrderRow> WorkOrdersBrowser::rows() const {
     std::vector<OrderRow> rows;
     for (const WorkOrder& order : orders_) {
-        rows.push_back({orderCaption(order, session_.texts()), order.date, order.startTime,
+        rows.push_back({orderCaption(order, map_.desk().texts), order.date, order.startTime,
                         numberText(order.fileCount())});
     }
     return rows;
@@ -44,7 +50,7 @@ bool WorkOrdersBrowser::showFolder(std::string_view folder) {
     orders_.clear();
     const int scan = ++scans_;
     const auto isLast = [&] {
-        session_.platform().clock.processEvents();
+        clock_.processEvents();
         return scan == scans_;
     };
     std::vector<WorkOrder> found = scanFolder(std::string(folder), isLast);
@@ -77,7 +83,7 @@ void WorkOrdersBrowser::choosePreview(OrderPreview preview) {
 }
 
 void WorkOrdersBrowser::showPreview() {
-    endPreview();
+    shown_.reset();
     const WorkOrder* const order = selectedOrder();
     if (order == nullptr || preview_ == OrderPreview::None) {
         return;
@@ -85,40 +91,28 @@ void WorkOrdersBrowser::showPreview() {
     // The open files are put away in either case: a preview must not touch them, and a work that
     // is open and in the order too would take its place for good.
     std::vector<std::string> shown;
-    for (int i = 0; preview_ == OrderPreview::Adding && i < session_.plotCount(); ++i) {
-        shown.push_back(session_.files().file(i).File_diskPath());
+    for (int i = 0; preview_ == OrderPreview::Adding && i < map_.plotCount(); ++i) {
+        shown.push_back(map_.files().file(i).File_diskPath());
     }
     shown.insert(shown.end(), order->files.begin(), order->files.end());
-    previewing_ = true;
-    session_.plotPreview(true, false);
-    session_.showQuietly(shown);
+    shown_.emplace(map_, display_, tools_);
+    shown_->show(shown);
 }
 
-void WorkOrdersBrowser::endPreview() {
-    if (previewing_) {
-        previewing_ = false;
-        session_.plotPreview(false, false);
-    }
-}
-
-int WorkOrdersBrowser::open(const Step& step) {
+int WorkOrdersBrowser::open(Progress& progress) {
     if (!selected_) {
         return 0;
     }
     const WorkOrder order = *selectedOrder();  // the list may change while events run
-    endPreview();
-    writeText(session_.platform().settings, SettingId::OpenZelPath, folder_);
-    int taken = 0;
-    for (std::size_t i = 0; i < order.files.size(); ++i) {
-        taken += session_.loadFile(order.files[i], false, false) ? 1 : 0;
-        if (!step(static_cast<int>(100 * (i + 1) / order.files.size()))) {
-            break;
-        }
+    shown_.reset();
+    writeText(settings_, SettingId::OpenZelPath, folder_);
+    OpenManner manner;
+    manner.progress = &progress;
+    const std::vector<std::string> taken = map_.openAll(order.files, manner);
+    if (!taken.empty()) {
+        display_.showWhole();
     }
-    if (taken > 0) {
-        session_.view().ZoomUno();
-    }
-    return taken;
+    return static_cast<int>(taken.size());
 }
 
 void WorkOrdersBrowser::copy() {
@@ -126,23 +120,22 @@ void WorkOrdersBrowser::copy() {
         return;
     }
     const WorkOrder order = *selectedOrder();
-    const Texts& texts = session_.texts();
-    const Platform& platform = session_.platform();
-    const std::string last = readText(platform.settings, SettingId::SelectFolder);
-    const std::string destination = platform.dialogs.chooseFolder(
+    const Texts& texts = map_.desk().texts;
+    const std::string last = readText(settings_, SettingId::SelectFolder);
+    const std::string destination = map_.desk().dialogs.chooseFolder(
         {std::string(texts(TextId::ChooseFolder)), isFolder(last) ? last : folder_,
          std::string(texts(TextId::FilesOfOrder)),
          fileFilter(texts, TextId::FilterLogs, kTrackEnding)});
     if (!destination.empty()) {
-        writeText(platform.settings, SettingId::SelectFolder, destination);
-        copyOrder(order, destination, session_.filesInUse(), platform.dialogs, texts);
+        writeText(settings_, SettingId::SelectFolder, destination);
+        copyOrder(order, destination, map_.filesInUse(), map_.desk().dialogs, texts);
     }
 }
 
 void WorkOrdersBrowser::cancel() {
     ++scans_;
     selected_.reset();
-    endPreview();
+    shown_.reset();
 }
 
 }  // namespace campora

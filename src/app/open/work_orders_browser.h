@@ -9,7 +9,8 @@
 #include <string_view>
 #include <vector>
 
-#include "app/session.h"
+#include "app/map_preview.h"
+#include "platform/services.h"
 #include "work/work_orders.h"
 
 namespace campora {
@@ -38,9 +39,9 @@ struct OrderRow {
 /// again, or `cancel` be, before it returns.
 class WorkOrdersBrowser {
 public:
-    /// `session` outlives the browser. Previewing beside the open files is offered when there are
+    /// All of it outlives the browser. Previewing beside the open files is offered when there are
     /// some.
-    explicit WorkOrdersBrowser(Session& session);
+    WorkOrdersBrowser(OpenMap& map, MapDisplay& display, MapTools& tools, const Services& services);
     WorkOrdersBrowser(const WorkOrdersBrowser&) = delete;
     WorkOrdersBrowser& operator=(const WorkOrdersBrowser&) = delete;
     /// Takes what is only a preview off the map.
@@ -63,11 +64,9 @@ public:
     void select(std::optional<int> row);
     void choosePreview(OrderPreview preview);
 
-    /// Called after every file with the percentage done; false ends the work.
-    using Step = std::function<bool(int percent)>;
     /// Adds the files of the selected order to the open ones and shows the whole map. Answers how
-    /// many were taken; 0 without a selection.
-    int open(const Step& step);
+    /// many were taken; 0 without a selection. `progress`: told after each file but the last.
+    int open(Progress& progress);
     /// Asks for a folder and copies the files of the selected order to it.
     void copy();
     /// Ends a scan and puts the map back as it was before the preview.
@@ -76,15 +75,18 @@ public:
 private:
     [[nodiscard]] const WorkOrder* selectedOrder() const;
     void showPreview();
-    void endPreview();
 
-    Session& session_;
+    OpenMap& map_;
+    MapDisplay& display_;
+    MapTools& tools_;
+    SettingsStore& settings_;
+    Clock& clock_;
     std::string folder_;
     std::vector<WorkOrder> orders_;
     std::optional<int> selected_;
     std::vector<OrderPreview> choices_{OrderPreview::None, OrderPreview::Alone};
     OrderPreview preview_ = OrderPreview::None;
-    bool previewing_ = false;
+    std::optional<MapPreview> shown_;
     /// Number of scans begun or called off; a scan that is no longer the last one is void.
     int scans_ = 0;
 };

@@ -4,25 +4,26 @@
 #pragma once
 
 #include <functional>
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "app/map_display.h"
+#include "app/map_tools.h"
+#include "app/open_map.h"
 #include "app/out/export_formats.h"
-#include "base/files_in_use.h"
-#include "model/file.h"
+#include "app/out/map_export.h"
+#include "app/settings.h"
+#include "platform/services.h"
 
 namespace campora {
-
-class Session;
 
 /// The commands that write what the program shows in the formats of others. One runs at a time.
 class ExportCommands {
 public:
-    /// `session` outlives this.
-    explicit ExportCommands(Session& session) : session_(session) {}
+    /// All of it outlives this.
+    ExportCommands(OpenMap& map, MapDisplay& display, MapTools& tools, const Services& services);
 
     /// Set by whoever has a canvas, for the formats that are pictures.
     SavePicture savePicture;
@@ -41,15 +42,6 @@ public:
     /// Whether there is a track on the map.
     [[nodiscard]] bool canExportGlg() const;
 
-    // The same without questions, for the batch program too. Each says what went wrong and answers
-    // whether the file was written; nothing is written otherwise. A file that is in use is never
-    // the target.
-
-    bool exportMap(const ExportFormat& format, const std::string& path);
-    bool exportReport(const std::string& report, const ExportFormat& format,
-                      const std::string& path);
-    bool exportGlg(const std::string& path);
-
 private:
     /// Where to, as the user says, with the ending of the chosen format; none when the user
     /// cancels. `proposed`: a file name.
@@ -61,21 +53,17 @@ private:
                                                   std::string proposed) const;
     /// The path with the ending of its format; empty when the user cancels.
     [[nodiscard]] std::string endedPath(const std::string& chosen, std::string_view ending) const;
-    /// Writes the layers, unless the target is in use; false when that failed, which is said, or
-    /// was cancelled.
-    bool write(const ExportFormat& format, const FilesInUse& inUse, const std::vector<Gph*>& layers,
-               const std::string& path);
-    /// Says which files made the table of a format do without columns, if any did.
-    void tellDroppedColumns(const ExportFormat& format, const std::vector<Gph*>& layers) const;
-    /// The files in use, and a report that is not on the map.
-    [[nodiscard]] FilesInUse inUseWith(const std::string& report) const;
-    /// Null when the report is refused, which is said.
-    [[nodiscard]] std::unique_ptr<File> readReport(const std::string& path) const;
+    [[nodiscard]] MapExport mapExport() const;
+    /// What a writer answers; no other export begins meanwhile.
+    [[nodiscard]] bool written(const std::function<bool()>& write);
+    [[nodiscard]] std::string folderFor(SettingId setting) const;
     void afterExport(const ExportFormat& format, const std::string& path) const;
     void openWithShell(const std::string& path) const;
-    [[nodiscard]] bool fail(const Failure& why) const;
 
-    Session& session_;
+    OpenMap& map_;
+    MapDisplay& display_;
+    MapTools& tools_;
+    const Services& services_;
     bool busy_ = false;
 };
 

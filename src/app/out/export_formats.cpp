@@ -6,12 +6,13 @@
 #include <algorithm>
 #include <cstddef>
 
-#include "app/session.h"
+#include "app/out/track_export.h"
 #include "base/file_endings.h"
 #include "base/paths.h"
 #include "base/text.h"
 #include "export/geojson_export.h"
 #include "export/kml_export.h"
+#include "export/shapefile_writer.h"
 #include "export/shp_export.h"
 #include "export/txt_export.h"
 #include "platform/file_filter.h"
@@ -26,7 +27,7 @@ std::string_view basePath(const ExportJob& job) {
 }
 
 std::optional<Failure> writeShpPolygons(const ExportJob& job) {
-    return exportShpPolygons(job.layers, basePath(job), job.session.style(), job.progress);
+    return exportShpPolygons(job.layers, basePath(job), job.map.style(), job.progress);
 }
 
 std::optional<Failure> writeShpPoints(const ExportJob& job) {
@@ -34,30 +35,29 @@ std::optional<Failure> writeShpPoints(const ExportJob& job) {
 }
 
 std::optional<Failure> writeShpGis(const ExportJob& job) {
-    return exportShpGis(job.layers, basePath(job), {job.session.style(), &job.session.texts()},
-                        job.session.platform().clock.today(), job.progress);
+    return exportShpGis(job.layers, basePath(job), {job.map.style(), &job.map.desk().texts},
+                        job.means.today, job.progress);
 }
 
 std::optional<Failure> writeGeoJson(const ExportJob& job) {
-    return exportGeoJson(job.layers, job.path, {job.session.style(), &job.session.texts()},
+    return exportGeoJson(job.layers, job.path, {job.map.style(), &job.map.desk().texts},
                          job.progress);
 }
 
 std::optional<Failure> writeKml(const ExportJob& job) {
-    return kmlExport(job.layers, job.path, job.session.programFolder(), job.session.style(),
-                     job.progress);
+    return kmlExport(job.layers, job.path, job.map.programFolder(), job.map.style(), job.progress);
 }
 
 template <char kDecimalSymbol>
 std::optional<Failure> writeText(const ExportJob& job) {
     TextTableForm form;
     form.decimalSymbol = kDecimalSymbol;
-    return txtExport(job.layers, job.path, form, job.session.platform().locale, job.progress);
+    return txtExport(job.layers, job.path, form, job.map.desk().locale, job.progress);
 }
 
 template <PictureForm kForm>
 std::optional<Failure> writePicture(const ExportJob& job) {
-    return job.savePicture(job.session.platform().canvas.picture(), job.path, kForm);
+    return job.means.savePicture(job.means.picture(), job.path, kForm);
 }
 
 // clang-format off
@@ -101,6 +101,11 @@ const ExportFormat* exportFormatOf(std::string_view word) {
 
 std::span<const ExportFormat> textFormats() {
     return exportFormats().subspan(kFirstText, 2);
+}
+
+std::vector<std::string> targetsOf(const ExportFormat& format, const std::string& path) {
+    return format.ending == kShapeEnding ? filesOfShapefile(shapeBaseOf(path))
+                                         : std::vector<std::string>{path};
 }
 
 std::vector<const Gph*> layersWithoutColumns(const ExportFormat& format,

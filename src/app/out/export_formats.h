@@ -10,6 +10,8 @@
 #include <string_view>
 #include <vector>
 
+#include "app/open_map.h"
+#include "base/dates.h"
 #include "base/failure.h"
 #include "base/texts.h"
 #include "export/export_layers.h"
@@ -20,20 +22,26 @@
 
 namespace campora {
 
-class Session;
-
 /// Writes a picture to a file, whole or not at all.
 using SavePicture = std::function<std::optional<Failure>(const Picture& picture,
                                                          std::string_view path, PictureForm form)>;
 
+/// What an export takes from where it runs.
+struct ExportMeans {
+    /// Stands in some files.
+    Date today;
+    /// The map with its scale bar and arrows, for formats that are pictures.
+    std::function<Picture()> picture = {};
+    SavePicture savePicture = {};
+};
+
 /// What an export writes, and with what.
 struct ExportJob {
-    const Session& session;
+    const OpenMap& map;
+    const ExportMeans& means;
     std::vector<Gph*> layers;
     /// With its ending.
     std::string path;
-    /// For formats that are pictures.
-    const SavePicture& savePicture;
     ExportProgress& progress;
 };
 
@@ -65,6 +73,10 @@ struct ExportFormat {
 [[nodiscard]] const ExportFormat* exportFormatOf(std::string_view word);
 /// The two kinds of text tables, with the decimal point first.
 [[nodiscard]] std::span<const ExportFormat> textFormats();
+
+/// The files that an export to `path` replaces.
+[[nodiscard]] std::vector<std::string> targetsOf(const ExportFormat& format,
+                                                 const std::string& path);
 
 /// The layers for whose sake a table does without the columns of the others.
 [[nodiscard]] std::vector<const Gph*> layersWithoutColumns(const ExportFormat& format,

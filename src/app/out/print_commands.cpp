@@ -7,7 +7,7 @@
 #include <span>
 
 #include "app/out/page_settings.h"
-#include "app/session.h"
+#include "app/plot_all.h"
 #include "app/settings.h"
 #include "app/window_title.h"
 #include "base/dates.h"
@@ -23,9 +23,9 @@ namespace campora {
 namespace {
 
 /// The file that a page is named after: the selected one or the one on top.
-const File* titleFile(Session& session) {
-    const File* const current = session.files().currentFile();
-    return current != nullptr || session.plotCount() == 0 ? current : &session.files().file(0);
+const File* titleFile(const OpenMap& map) {
+    const File* const current = map.files().currentFile();
+    return current != nullptr || map.plotCount() == 0 ? current : &map.files().file(0);
 }
 
 PageSetup withLeast(PageSetup setup, const PageMargins& least) {
@@ -39,75 +39,77 @@ PageSetup withLeast(PageSetup setup, const PageMargins& least) {
 }  // namespace
 
 PageSetup PrintCommands::setup() const {
-    return readPageSetup(session_.platform().settings);
+    return readPageSetup(services_.settings);
+}
+
+std::string PrintCommands::description() const {
+    return readText(services_.settings, SettingId::PrintDescription);
 }
 
 void PrintCommands::change(const PageSetup& setup, std::string_view description) {
-    SettingsStore& settings = session_.platform().settings;
+    SettingsStore& settings = services_.settings;
     writePageSetup(settings, setup);
-    session_.printDescription = description;
     writeText(settings, SettingId::PrintDescription, description);
 }
 
 PageContent PrintCommands::content() const {
-    const Texts& texts = session_.texts();
-    const Platform& platform = session_.platform();
+    const Texts& texts = map_.desk().texts;
     PageContent content;
-    if (const File* const file = titleFile(session_)) {
+    if (const File* const file = titleFile(map_)) {
         content.title = file->File_name();
         content.path = file->File_diskPath();
     }
-    if (const int others = session_.plotCount() - 1; others > 0) {
+    if (const int others = map_.plotCount() - 1; others > 0) {
         content.title = texts.format(TextId::TitleAndOthers, {content.title, numberText(others)});
     }
     content.program = versionTitle();
     content.printedOn = texts.format(
-        TextId::PrintedOn, {dateText(platform.clock.today(), platform.locale.shortDateForm())});
-    content.legend = session_.legendContent();
-    for (const SummaryRow& row : session_.summaryRows()) {
+        TextId::PrintedOn, {dateText(services_.clock.today(), map_.desk().locale.shortDateForm())});
+    content.legend = display_.legend();
+    for (const SummaryRow& row : display_.summary()) {
         content.summary.push_back(
             {std::string(trim(row.property)), std::string(trim(row.value)), row.isRemark});
     }
-    content.description = session_.printDescription;
+    content.description = description();
     return content;
 }
 
 PageLayout PrintCommands::page(const TextWidth& textWidth, const PageMargins& least) const {
     return layOutPage(withLeast(setup(), least), content(),
-                      shownExtent(session_.view().transform()), session_.texts(),
-                      session_.platform().locale.decimalSymbol(), textWidth);
+                      shownExtent(display_.view().transform()), map_.desk().texts,
+                      map_.desk().decimalSymbol(), textWidth);
 }
 
 CanvasSize PrintCommands::mapCanvas(const PageLayout& page) const {
-    return pageTransform(shownExtent(session_.view().transform()), page.map, page.scale).canvas();
+    return pageTransform(shownExtent(display_.view().transform()), page.map, page.scale).canvas();
 }
 
 bool PrintCommands::drawMap(const PageLayout& page, MapCanvas& canvas, Progress* progress) const {
-    const MapStyle& style = session_.style();
+    const MapStyle& style = map_.style();
     const ViewTransform view =
-        pageTransform(shownExtent(session_.view().transform()), page.map, page.scale);
+        pageTransform(shownExtent(display_.view().transform()), page.map, page.scale);
     canvas.setBackgroundColor(style.colors.back);
     beginMap(canvas, style.colors);
     MapContext context{canvas, view, style, kLeastOutlinedOnPaper};
     if (progress != nullptr) {
-        return session_.plotAll(context, *progress);
+        return plotAll(map_, context, *progress);
     }
-    session_.plotAll(context);
+    plotAll(map_, context);
     return true;
 }
 
 std::string PrintCommands::documentName() const {
-    const File* const file = titleFile(session_);
-    return file == nullptr ? std::string(session_.texts()(TextId::ProgramName))
+    const File* const file = titleFile(map_);
+    return file == nullptr ? std::string(map_.desk().texts(TextId::ProgramName))
                            : std::string(fileStem(file->File_diskPath()));
 }
 
 void PrintCommands::savePdf(const std::function<Result<std::string>()>& makePdf) {
-    const Platform& platform = session_.platform();
-    const Texts& texts = session_.texts();
-    const std::string path = platform.dialogs
+    const Texts& texts = map_.desk().texts;
+    const std::string path = map_.desk()
+                                 .dialogs
                                  .saveFile({std::string(texts(TextId::SavePdfTitle)),
-                                            readText(platform.settings, SettingId::PrintPath),
+                                            readText(services_.settings, SettingId::PrintPath),
                                             documentName().append(kPdfEnding),
                                             {fileFilter(texts, TextId::PrinterPdf, kPdfEnding)}})
                                  .path;
@@ -122,17 +124,13 @@ void PrintCommands::savePdf(const std::function<Result<std::string>()>& makePdf)
         pdf ? writeFile(path, std::as_bytes(std::span(*pdf)))
             : std::optional(because(TextId::FileCannotBeWritten, {path}, pdf.failure()));
     if (failure) {
-        platform.dialogs.message(texts.sentence(*failure), MessageIcon::Error,
-                                 texts(TextId::Error));
+        map_.desk().tellError(*failure);
         return;
     }
-    writeText(platform.settings, SettingId::PrintPath, folderOf(path));
-    const std::string_view caption = texts(TextId::ProgramName);
-    if (platform.dialogs.askYesNo(texts.format(TextId::AskOpenPdf, {path}), MessageIcon::Question,
-                                  caption) &&
-        !platform.shell.open(path)) {
-        platform.dialogs.message(texts.format(TextId::NoProgramForPdf, {path}),
-                                 MessageIcon::Exclamation, caption);
+    writeText(services_.settings, SettingId::PrintPath, folderOf(path));
+    if (map_.desk().ask(texts.format(TextId::AskOpenPdf, {path}), MessageIcon::Question) &&
+        !services_.shell.open(path)) {
+        map_.desk().tell({TextId::NoProgramForPdf, {path}});
     }
 }
 

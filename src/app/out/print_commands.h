@@ -8,22 +8,27 @@
 #include <string>
 #include <string_view>
 
+#include "app/map_display.h"
+#include "app/open_map.h"
 #include "base/failure.h"
 #include "pages/page_layout.h"
 #include "pages/page_setup.h"
 #include "platform/dialogs.h"
 #include "platform/map_canvas.h"
+#include "platform/services.h"
 
 namespace campora {
 
-class Session;
-
-/// The printed page of a session. Nothing here changes what the window shows.
+/// The printed page of the open map. Nothing here changes what the window shows.
 class PrintCommands {
 public:
-    explicit PrintCommands(Session& session) : session_(session) {}
+    /// All of it outlives this.
+    PrintCommands(const OpenMap& map, const MapDisplay& display, const Services& services)
+        : map_(map), display_(display), services_(services) {}
 
     [[nodiscard]] PageSetup setup() const;
+    /// The text that pages carry.
+    [[nodiscard]] std::string description() const;
     /// Keeps both, at once.
     void change(const PageSetup& setup, std::string_view description);
 
@@ -45,7 +50,9 @@ public:
 private:
     [[nodiscard]] PageContent content() const;
 
-    Session& session_;
+    const OpenMap& map_;
+    const MapDisplay& display_;
+    const Services& services_;
 };
 
 }  // namespace campora

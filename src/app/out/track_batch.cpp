@@ -6,7 +6,6 @@
 #include <cstddef>
 #include <span>
 
-#include "app/session.h"
 #include "app/used_files.h"
 #include "base/file_endings.h"
 #include "base/files.h"
@@ -36,30 +35,23 @@ public:
 
 }  // namespace
 
-std::string shapeBaseOf(std::string_view trackPath) {
-    const std::string ending = pathEnding(trackPath);
-    const std::size_t cut = ending.starts_with('.') ? ending.size() : 0;
-    return std::string(trackPath.substr(0, trackPath.size() - cut));
-}
-
 TrackExportOutcome TrackBatch::exportOne(const std::string& source,
                                          std::string_view basePath) const {
     if (const auto refused = inUse_.whyNotTarget(filesOfShapefile(basePath))) {
-        return {false, session_.texts().sentence(*refused)};
+        return {false, map_.desk().texts.sentence(*refused)};
     }
     RemarkDialogs dialogs;
-    const Platform& platform = session_.platform();
     const std::optional<LoadedWork> work = loadTrackFile(
-        source, {dialogs, platform.locale, session_.texts(), session_.registrations()});
+        source, {dialogs, map_.desk().locale, map_.desk().texts, map_.registrations()});
     if (!work) {
         return {false, dialogs.remarks};
     }
     const std::optional<Failure> failure = exportTrack(*work->group, basePath, options);
-    return {!failure, failure ? session_.texts().sentence(*failure) : dialogs.remarks};
+    return {!failure, failure ? map_.desk().texts.sentence(*failure) : dialogs.remarks};
 }
 
 void TrackBatch::lookWhatIsInUse(const std::vector<std::string>& sources) {
-    inUse_ = session_.filesInUse();
+    inUse_ = map_.filesInUse();
     for (const std::string& source : sources) {
         addOpened(inUse_, source);
     }
@@ -73,24 +65,22 @@ bool TrackBatch::exportList(const std::vector<std::string>& paths) {
     stopped_ = false;
     bool all = true;
     lookWhatIsInUse(paths);
-    const Texts& texts = session_.texts();
+    const Texts& texts = map_.desk().texts;
     for (const std::string& path : paths) {
         std::string line = std::string(texts(TextId::Exporting)) + ' ';
         line += fileNamePart(path);
         onBegin(line);
-        session_.platform().clock.processEvents();
         const std::string found = findIgnoringCase(path);
         const TrackExportOutcome outcome = exportOne(found, shapeBaseOf(found));
         line += kResultDots;
         line += texts(outcome.written ? TextId::ExportOk : TextId::Error);
         onDone(line, outcome);
         all = all && outcome.written;
-        session_.platform().clock.processEvents();
         if (stopped_) {
             tellLeftUndone(
                 TextId::ExportCancelled,
                 std::span(paths).subspan(static_cast<std::size_t>(&path - paths.data()) + 1),
-                session_.platform().dialogs, texts);
+                map_.desk().dialogs, texts);
             break;
         }
     }
@@ -100,7 +90,7 @@ bool TrackBatch::exportList(const std::vector<std::string>& paths) {
 
 bool TrackBatch::exportFiles(const std::string& source, const std::string& target) {
     const std::string base = pathEnding(target) == kShapeEnding ? shapeBaseOf(target) : target;
-    const Texts& texts = session_.texts();
+    const Texts& texts = map_.desk().texts;
     const std::optional<Failure> refused = whyNoTarget(target);
     lookWhatIsInUse({source});
     const TrackExportOutcome outcome = refused ? TrackExportOutcome{false, texts.sentence(*refused)}
@@ -109,9 +99,7 @@ bool TrackBatch::exportFiles(const std::string& source, const std::string& targe
     if (!outcome.remark.empty()) {
         text.append("\r\n").append(outcome.remark);
     }
-    session_.platform().dialogs.message(
-        text, outcome.written ? MessageIcon::Information : MessageIcon::Exclamation,
-        texts(TextId::ProgramName));
+    map_.desk().tell(text, outcome.written ? MessageIcon::Information : MessageIcon::Exclamation);
     return outcome.written;
 }
 

@@ -9,12 +9,11 @@
 #include <string_view>
 #include <vector>
 
+#include "app/open_map.h"
 #include "app/out/track_export.h"
 #include "base/files_in_use.h"
 
 namespace campora {
-
-class Session;
 
 /// What came of the export of one track file.
 struct TrackExportOutcome {
@@ -27,12 +26,12 @@ struct TrackExportOutcome {
 /// so `stop` may be called before `exportList` returns.
 class TrackBatch {
 public:
-    /// `session` outlives the batch.
-    explicit TrackBatch(const Session& session) : session_(session) {}
+    /// `map` outlives the batch.
+    explicit TrackBatch(const OpenMap& map) : map_(map) {}
 
     TrackExportOptions options;
     /// Told when a file is begun ("Exportando x.nbr") and again when it is done
-    /// ("Exportando x.nbr:...........Ok").
+    /// ("Exportando x.nbr:...........Ok"); each may let events run.
     std::function<void(const std::string& line)> onBegin;
     std::function<void(const std::string& line, const TrackExportOutcome& outcome)> onDone;
 
@@ -52,15 +51,11 @@ private:
     /// The files of the map and these.
     void lookWhatIsInUse(const std::vector<std::string>& sources);
 
-    const Session& session_;
+    const OpenMap& map_;
     /// What is in use, the files to read among it; made once for a run.
     FilesInUse inUse_;
     bool running_ = false;
     bool stopped_ = false;
 };
-
-/// The path of the shapefile beside a track file, without its ending: the last four characters of
-/// the path go when they are one ("x.nbr"), that is, begin with a point.
-[[nodiscard]] std::string shapeBaseOf(std::string_view trackPath);
 
 }  // namespace campora

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "base/paths.h"
 #include "export/track_shapefile_writer.h"
 #include "work/gph_track.h"
 #include "work/swath_groups.h"
@@ -64,6 +65,12 @@ std::optional<Failure> exportTrack(const File& work, std::string_view basePath,
         return Failure{TextId::WorkWithoutSwaths, {}, {}};
     }
     return shapes.finish();
+}
+
+std::string shapeBaseOf(std::string_view trackPath) {
+    const std::string ending = pathEnding(trackPath);
+    const std::size_t cut = ending.starts_with('.') ? ending.size() : 0;
+    return std::string(trackPath.substr(0, trackPath.size() - cut));
 }
 
 }  // namespace campora

@@ -29,4 +29,8 @@ struct TrackExportOptions {
 [[nodiscard]] std::optional<Failure> exportTrack(const File& work, std::string_view basePath,
                                                  const TrackExportOptions& options);
 
+/// The path of the shapefile beside a track file, without its ending: the last four characters of
+/// the path go when they are one ("x.nbr"), that is, begin with a point.
+[[nodiscard]] std::string shapeBaseOf(std::string_view trackPath);
+
 }  // namespace campora

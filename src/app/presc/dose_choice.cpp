@@ -10,20 +10,18 @@
 
 namespace campora {
 
-DoseChoice::DoseChoice(const ColorScale* scale, float currentDose, const Session& session)
+DoseChoice::DoseChoice(const ColorScale* scale, float currentDose, const Desk& desk)
     : scale_(scale),
-      session_(session),
+      desk_(desk),
       way_(scale == nullptr ? Way::New : Way::Existing),
-      text_(numberToType(static_cast<double>(currentDose),
-                         session.platform().locale.decimalSymbol())) {
+      text_(numberToType(static_cast<double>(currentDose), desk.decimalSymbol())) {
     if (scale_ == nullptr) {
         return;
     }
-    legend_.unit = shownUnit(scale_->unit, session_.texts());
+    legend_.unit = shownUnit(scale_->unit, desk_.texts);
     for (const Clase& clase : scale_->classes()) {
         // Whole, where the legend beside the map rounds: this is what the zone will get.
-        legend_.classes.push_back(
-            {clase.color, numberToType(clase.upper, session_.platform().locale.decimalSymbol())});
+        legend_.classes.push_back({clase.color, numberToType(clase.upper, desk_.decimalSymbol())});
     }
 }
 
@@ -44,23 +42,17 @@ void DoseChoice::selectClass(std::optional<int> index) {
 std::optional<float> DoseChoice::accept() const {
     if (way_ == Way::Existing) {
         if (!class_) {
-            warn(TextId::DoseNotChosen);
+            desk_.tell({TextId::DoseNotChosen, {}});
             return std::nullopt;
         }
         return static_cast<float>(scale_->getClass(*class_).upper);
     }
     const std::optional<double> typed = typedNumber(text_);
     if (!typed) {
-        warn(TextId::DoseNotNumber);
+        desk_.tell({TextId::DoseNotNumber, {}});
         return std::nullopt;
     }
     return static_cast<float>(*typed);
-}
-
-void DoseChoice::warn(TextId text) const {
-    const Texts& texts = session_.texts();
-    session_.platform().dialogs.message(texts(text), MessageIcon::Exclamation,
-                                        texts(TextId::ProgramName));
 }
 
 }  // namespace campora

@@ -6,7 +6,8 @@
 #include <optional>
 #include <string>
 
-#include "app/session.h"
+#include "colour/color_scale.h"
+#include "platform/desk.h"
 #include "platform/main_window_controls.h"
 
 namespace campora {
@@ -17,7 +18,7 @@ public:
     enum class Way { Existing, New };
 
     /// `scale` may be null, a new dose is all there is then. Both outlive this.
-    DoseChoice(const ColorScale* scale, float currentDose, const Session& session);
+    DoseChoice(const ColorScale* scale, float currentDose, const Desk& desk);
 
     [[nodiscard]] bool hasExisting() const { return scale_ != nullptr; }
     /// The classes of the scale; without rows when there is none.
@@ -34,10 +35,8 @@ public:
     [[nodiscard]] std::optional<float> accept() const;
 
 private:
-    void warn(TextId text) const;
-
     const ColorScale* scale_;
-    const Session& session_;
+    Desk desk_;
     LegendContent legend_;
     Way way_;
     std::optional<int> class_;

@@ -39,8 +39,6 @@ std::size_t distinctDoses(const GphPresc& presc, int column, ColumnForm form) {
 
 }  // namespace
 
-DoseColumns::DoseColumns(const Session& session) : session_(session) {}
-
 void DoseColumns::addChannel() {
     if (canAdd()) {
         rows_.emplace_back();
@@ -53,26 +51,29 @@ void DoseColumns::removeChannel() {
     }
 }
 
-void DoseColumns::chooseFile(int row) {
-    Row& chosen = rows_.at(static_cast<std::size_t>(row));
+void DoseColumns::chooseFile(int row, SettingsStore& settings, const std::string& folder) {
     if (busy_) {
         return;
     }
-    const Platform& platform = session_.platform();
-    const Texts& texts = session_.texts();
+    const Texts& texts = desk_.texts;
     OpenRequest request{std::string(texts(TextId::Open)),
-                        readText(platform.settings, SettingId::PrescOpenPath),
+                        readText(settings, SettingId::PrescOpenPath),
                         {fileFilter(texts, TextId::FilterShapes, kShapeEnding)}};
     if (request.folder.empty()) {
-        request.folder = session_.programFolder();
+        request.folder = folder;
     }
-    const std::vector<std::string> paths = platform.dialogs.openFiles(request);
+    const std::vector<std::string> paths = desk_.dialogs.openFiles(request);
     if (paths.empty()) {
         return;
     }
-    writeText(platform.settings, SettingId::PrescOpenPath, folderOf(paths.front()));
+    writeText(settings, SettingId::PrescOpenPath, folderOf(paths.front()));
+    readMap(row, paths.front());
+}
+
+void DoseColumns::readMap(int row, const std::string& path) {
+    Row& chosen = rows_.at(static_cast<std::size_t>(row));
     chosen = Row();
-    chosen.path = paths.front();
+    chosen.path = path;
     load(chosen, row);
     warnOfDistance();
 }
@@ -81,7 +82,7 @@ void DoseColumns::load(Row& row, int index) {
     auto presc = std::make_unique<GphPresc>();
     follow(*presc, index);
     busy_ = true;
-    if (presc->loadFromFile(row.path, session_.platform().dialogs, session_.texts())) {
+    if (presc->loadFromFile(row.path, desk_.dialogs, desk_.texts)) {
         row.presc = std::move(presc);
     }
     busy_ = false;
@@ -89,7 +90,7 @@ void DoseColumns::load(Row& row, int index) {
         return;
     }
     if (const std::string fault = faultOf(*row.presc, row.path); !fault.empty()) {
-        warn(fault);
+        desk_.tell(fault);
         row.presc.reset();
         return;
     }
@@ -97,7 +98,7 @@ void DoseColumns::load(Row& row, int index) {
 }
 
 std::string DoseColumns::faultOf(const GphPresc& presc, const std::string& path) const {
-    const Texts& texts = session_.texts();
+    const Texts& texts = desk_.texts;
     if (presc.figures() != FigureKind::Zone) {
         const TextId what =
             presc.figures() == FigureKind::Lines ? TextId::FiguresLines : TextId::FiguresPoints;
@@ -116,7 +117,7 @@ std::string DoseColumns::faultOf(const GphPresc& presc, const std::string& path)
 }
 
 void DoseColumns::noteOddities(const GphPresc& presc) {
-    const Texts& texts = session_.texts();
+    const Texts& texts = desk_.texts;
     const auto& [projection, datum] = presc.notes().system;
     if (!projection.empty()) {
         note(texts.format(TextId::MapOtherProjection, {presc.name(), projection}));
@@ -144,7 +145,6 @@ void DoseColumns::follow(GphPresc& presc, int row) {
         if (onProgress) {
             onProgress(row, percent);
         }
-        session_.platform().clock.processEvents();
     };
 }
 
@@ -161,7 +161,7 @@ void DoseColumns::warnOfDistance() const {
         }
     }
     if (furthest > kFarApart) {
-        warn(std::string(session_.texts()(TextId::DosesFarApart)));
+        desk_.tell(std::string(desk_.texts(TextId::DosesFarApart)));
     }
 }
 
@@ -185,12 +185,12 @@ void DoseColumns::chooseColumn(int row, int column) {
 }
 
 std::string DoseColumns::caption(int row) const {
-    return session_.texts().format(TextId::ReportPointChannel, {numberText(row + 1)}) + ":";
+    return desk_.texts.format(TextId::ReportPointChannel, {numberText(row + 1)}) + ":";
 }
 
 std::string DoseColumns::doseLabel(int row) const {
     const Row& shown = at(row);
-    const Texts& texts = session_.texts();
+    const Texts& texts = desk_.texts;
     if (!shown.presc) {
         return std::string(texts(TextId::DosesNoFile));
     }
@@ -210,44 +210,42 @@ std::string DoseColumns::doseLabel(int row) const {
 
 bool DoseColumns::isComplete(int row) {
     Row& checked = rows_.at(static_cast<std::size_t>(row));
-    const Texts& texts = session_.texts();
+    const Texts& texts = desk_.texts;
     const auto say = [&texts, row](TextId id) { return texts.format(id, {numberText(row + 1)}); };
     if (!checked.presc) {
-        warn(say(TextId::DosesNeedFile));
+        desk_.tell(say(TextId::DosesNeedFile));
         return false;
     }
     if (checked.column == GphPresc::kNoColumn) {
-        warn(say(TextId::DosesNeedColumn));
+        desk_.tell(say(TextId::DosesNeedColumn));
         return false;
     }
     if (!settleForm(checked, say(TextId::DosesBadColumn)) || !areDosesFit(row)) {
         return false;
     }
     return distinctDoses(*checked.presc, checked.column, *checked.form) <= kMostDoses ||
-           session_.platform().dialogs.askYesNoCancel(
-               namingFile(say(TextId::DosesTooMany), checked.path), MessageIcon::Exclamation,
-               texts(TextId::ProgramName)) == Answer::Yes;
+           desk_.askOrCancel(namingFile(say(TextId::DosesTooMany), checked.path)) == Answer::Yes;
 }
 
 bool DoseColumns::settleForm(Row& row, const std::string& badColumn) {
     if (row.form) {
         return true;
     }
-    const Texts& texts = session_.texts();
+    const Texts& texts = desk_.texts;
     const ColumnQuestion question(
         row.presc->columnNames()[static_cast<std::size_t>(row.column) - 1], row.survey,
         answers.value_or(ColumnAnswers()));
     if (question.isHopeless()) {
-        warn(badColumn + "\n" + question.fault(texts));
+        desk_.tell(badColumn + "\n" + question.fault(texts));
         return false;
     }
     if (!question.isOpen()) {
         row.form = question.form();
         return true;
     }
-    const std::string words = question.words(texts, session_.platform().locale);
+    const std::string words = question.words(texts, desk_.locale);
     if (answers) {
-        warn(words + "\n" + texts.format(TextId::CliUseOption, {question.options()}));
+        desk_.tell(words + "\n" + texts.format(TextId::CliUseOption, {question.options()}));
         return false;
     }
     row.form = askForm(question, namingFile(words, row.path));
@@ -256,14 +254,11 @@ bool DoseColumns::settleForm(Row& row, const std::string& badColumn) {
 
 std::optional<ColumnForm> DoseColumns::askForm(const ColumnQuestion& question,
                                                const std::string& words) const {
-    Dialogs& dialogs = session_.platform().dialogs;
-    const std::string_view caption = session_.texts()(TextId::ProgramName);
     if (!question.hasTwoWays()) {
-        return dialogs.askYesNo(words, MessageIcon::Question, caption)
-                   ? std::optional(question.form())
-                   : std::nullopt;
+        return desk_.ask(words, MessageIcon::Question) ? std::optional(question.form())
+                                                       : std::nullopt;
     }
-    switch (dialogs.askYesNoCancel(words, MessageIcon::Question, caption)) {
+    switch (desk_.askOrCancel(words, MessageIcon::Question)) {
     case Answer::Yes:
         return question.form();
     case Answer::No:
@@ -276,15 +271,16 @@ std::optional<ColumnForm> DoseColumns::askForm(const ColumnQuestion& question,
 
 bool DoseColumns::areDosesFit(int row) {
     const Row& checked = at(row);
-    const Texts& texts = session_.texts();
-    const char symbol = session_.platform().locale.decimalSymbol();
+    const Texts& texts = desk_.texts;
+    const char symbol = desk_.decimalSymbol();
     const auto values = checked.presc->values(checked.column, *checked.form);
     std::optional<std::size_t> rounded;
     for (std::size_t i = 0; i < values.size(); ++i) {
         const double value = values[i].value_or(0);
         if (value < 0 || value > kGreatestDose) {
-            warn(texts.format(TextId::DoseNoConsoleHolds,
-                              {numberText(row + 1), numberText(i + 1), numberText(value, symbol)}));
+            desk_.tell(
+                texts.format(TextId::DoseNoConsoleHolds,
+                             {numberText(row + 1), numberText(i + 1), numberText(value, symbol)}));
             return false;
         }
         if (!rounded && value != std::floor(value)) {
@@ -333,13 +329,7 @@ void DoseColumns::note(const std::string& text) const {
         onNote(text);
         return;
     }
-    session_.platform().dialogs.message(text, MessageIcon::Information,
-                                        session_.texts()(TextId::ProgramName));
-}
-
-void DoseColumns::warn(const std::string& text) const {
-    session_.platform().dialogs.message(text, MessageIcon::Exclamation,
-                                        session_.texts()(TextId::ProgramName));
+    desk_.tell(text, MessageIcon::Information);
 }
 
 }  // namespace campora

@@ -11,7 +11,8 @@
 #include <vector>
 
 #include "app/presc/column_question.h"
-#include "app/session.h"
+#include "platform/desk.h"
+#include "platform/settings_store.h"
 #include "presc/channel_zones.h"
 #include "presc/gph_presc.h"
 
@@ -26,10 +27,10 @@ public:
     /// Metres between maps from which on they seem to belong to different places.
     static constexpr std::int32_t kFarApart = 5000;
 
-    /// One row to begin with. `session` outlives this.
-    explicit DoseColumns(const Session& session);
+    /// One row to begin with.
+    explicit DoseColumns(const Desk& desk) : desk_(desk) {}
 
-    /// Called with each new percentage of the work on a row; may be empty.
+    /// Called with each new percentage of the work on a row, and may let events run; may be empty.
     std::function<void(int row, int percent)> onProgress;
     /// Called with what is worth knowing and stops nothing; a message when it is empty.
     std::function<void(const std::string& text)> onNote;
@@ -50,10 +51,13 @@ public:
 
     // Bad rows throw `std::out_of_range`.
 
-    /// Asks for the row's map and reads it; warns of maps that lie far from each other, of another
-    /// system of coordinates and of zones on top of each other. A map that cannot be read, or has
-    /// no zones or no table, which is said, leaves the row without one.
-    void chooseFile(int row);
+    /// Asks for the row's map, in the folder that the settings keep or else in `folder`, and reads
+    /// it.
+    void chooseFile(int row, SettingsStore& settings, const std::string& folder);
+    /// Reads the row's map; warns of maps that lie far from each other, of another system of
+    /// coordinates and of zones on top of each other. A map that cannot be read, or has no zones or
+    /// no table, which is said, leaves the row without one.
+    void readMap(int row, const std::string& path);
     /// Whether the row has a map, and all of it: one that is damaged stays as far as it was read.
     [[nodiscard]] bool isWhole(int row) const;
     /// The path chosen last; may be empty.
@@ -100,9 +104,8 @@ private:
                                                     const std::string& words) const;
     [[nodiscard]] bool areDosesFit(int row);
     void note(const std::string& text) const;
-    void warn(const std::string& text) const;
 
-    const Session& session_;
+    Desk desk_;
     std::vector<Row> rows_{1};
     bool busy_ = false;
 };

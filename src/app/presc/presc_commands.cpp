@@ -6,8 +6,8 @@
 #include <span>
 #include <utility>
 
-#include "app/session.h"
 #include "app/settings.h"
+#include "app/unsaved_work.h"
 #include "base/file_endings.h"
 #include "base/numbers.h"
 #include "base/paths.h"
@@ -32,14 +32,14 @@ std::string withEnding(std::string name, std::string_view ending) {
     return name.append(ending);
 }
 
-GenerationContext contextOf(const Session& session) {
-    return {session.platform().dialogs, session.texts(), session.platform().locale};
+GenerationContext contextOf(const Desk& desk) {
+    return {desk.dialogs, desk.texts, desk.locale};
 }
 
 }  // namespace
 
 GphPrescVex* PrescCommands::prescription() const {
-    const LoadedFileList& files = session_.files();
+    const LoadedFileList& files = map_.files();
     for (int i = 0; i < files.loadedCount(); ++i) {
         if (auto* const found = dynamic_cast<GphPrescVex*>(&files.file(i))) {
             return found;
@@ -52,23 +52,16 @@ TextId PrescCommands::prescriptCaption() const {
     return isOpen() ? TextId::ActionClosePrescription : TextId::ActionNewPrescription;
 }
 
-bool PrescCommands::mayClose() const {
-    const GphPrescVex* const open = prescription();
-    return open == nullptr || !open->dosesChanged() ||
-           session_.platform().dialogs.askYesNo(
-               namingFile(session_.texts()(TextId::AskLoseDoses), open->channel(0).File_diskPath()),
-               MessageIcon::Exclamation, session_.texts()(TextId::ProgramName));
-}
-
 void PrescCommands::mnuFilePrescript() {
     if (const GphPrescVex* const open = prescription()) {
-        if (!mayClose()) {
+        if (!mayLose(*open, map_.desk())) {
             return;
         }
-        if (session_.tools().tool() == MapTools::Tool::PrescDosis) {
-            session_.tools().setTool(MapTools::Tool::None);
+        if (tools_.tool() == MapTools::Tool::PrescDosis) {
+            tools_.setTool(MapTools::Tool::None);
         }
-        session_.removeFile(open);
+        map_.removeFile(open);
+        display_.showChange();
         return;
     }
     std::vector<std::unique_ptr<GphPresc>> channels;
@@ -78,60 +71,53 @@ void PrescCommands::mnuFilePrescript() {
     if (channels.empty()) {
         return;
     }
-    auto made =
-        std::make_unique<GphPrescVex>("Prescripción", session_.platform().locale.decimalSymbol());
+    auto made = std::make_unique<GphPrescVex>("Prescripción", map_.desk().decimalSymbol());
     for (std::unique_ptr<GphPresc>& channel : channels) {
         made->addChannel(std::move(channel));
     }
     made->setRule({GridKind::Pre, cellMetres_, {}});
-    session_.showOnTop(std::move(made));
+    map_.addFile(std::move(made), true);
+    display_.showWhole();
 }
 
 std::string PrescCommands::askTarget(TextId filter, std::string_view ending) const {
-    const Platform& platform = session_.platform();
-    const Texts& texts = session_.texts();
+    const Texts& texts = map_.desk().texts;
     SaveRequest request{std::string(texts(TextId::SaveAsTitle)),
-                        readText(platform.settings, SettingId::SavePath),
+                        readText(settings_, SettingId::SavePath),
                         withEnding(prescription()->channel(0).name(), ending),
                         {fileFilter(texts, filter, ending)}};
     if (request.folder.empty()) {
-        request.folder = session_.programFolder();
+        request.folder = map_.programFolder();
     }
-    std::string path = platform.dialogs.saveFile(request).path;
+    std::string path = map_.desk().dialogs.saveFile(request).path;
     if (path.empty()) {
         return path;
     }
-    writeText(platform.settings, SettingId::SavePath, folderOf(path));
+    writeText(settings_, SettingId::SavePath, folderOf(path));
     // Before any question: none of the answers could help.
     const bool hasReport = filter == TextId::FilterPreFiles;
     const std::string targets[] = {path, companionPath(path)};
     std::optional<Failure> refused =
-        session_.filesInUse().whyNotTarget(std::span(targets, hasReport ? 2 : 1));
+        map_.filesInUse().whyNotTarget(std::span(targets, hasReport ? 2 : 1));
     if (!refused && hasReport) {
         refused = whyReportStands(path);
     }
     if (refused) {
-        contextOf(session_).refuse(*refused);
+        contextOf(map_.desk()).refuse(*refused);
         return {};
     }
     return path;
 }
 
-std::optional<std::string> PrescCommands::ask(TextId prompt, std::string_view proposed,
-                                              const std::string& target) const {
-    return session_.platform().dialogs.inputBox({prompt,
-                                                 std::string(session_.texts()(TextId::ProgramName)),
-                                                 std::string(proposed), target});
-}
-
 std::optional<double> PrescCommands::askCellSize(const std::string& target) const {
-    const std::optional<std::string> answer = ask(TextId::AskSwath, kProposedCell, target);
+    const std::optional<std::string> answer =
+        map_.desk().askText(TextId::AskSwath, kProposedCell, target);
     if (!answer || trim(*answer).empty()) {
         return std::nullopt;
     }
     const std::optional<double> metres = typedNumber(*answer);
     if (!metres) {
-        contextOf(session_).refuse({TextId::BadCellSize, {*answer}});
+        contextOf(map_.desk()).refuse({TextId::BadCellSize, {*answer}});
     }
     return metres;
 }
@@ -140,7 +126,7 @@ void PrescCommands::saved(GphPrescVex& prescription, GridRule rule) {
     cellMetres_ = rule.metres;
     prescription.setRule(std::move(rule));
     prescription.dosesSaved();
-    session_.showSummary();
+    display_.showSummary();
 }
 
 void PrescCommands::mnuFileSavePrescript() {
@@ -154,7 +140,7 @@ void PrescCommands::mnuFileSavePrescript() {
     }
     if (const std::optional<double> metres = askCellSize(path)) {
         if (auto rule =
-                generatePRE(path, roundToInt32(*metres), open->zones(), contextOf(session_))) {
+                generatePRE(path, roundToInt32(*metres), open->zones(), contextOf(map_.desk()))) {
             saved(*open, std::move(*rule));
         }
     }
@@ -173,13 +159,15 @@ void PrescCommands::mnuFileSaveVrt() {
     if (!metres) {
         return;
     }
-    const auto name = ask(TextId::DialogName, withEnding(open->channel(0).name(), ""), path);
-    const auto description = name ? ask(TextId::SummaryDescription, "", path) : std::nullopt;
+    const auto name =
+        map_.desk().askText(TextId::DialogName, withEnding(open->channel(0).name(), ""), path);
+    const auto description =
+        name ? map_.desk().askText(TextId::SummaryDescription, "", path) : std::nullopt;
     if (!description) {
         return;
     }
     if (auto rule = generateVRT(path, static_cast<float>(*metres), {*name, *description},
-                                open->zones(), contextOf(session_))) {
+                                open->zones(), contextOf(map_.desk()))) {
         saved(*open, std::move(*rule));
     }
 }
@@ -187,7 +175,7 @@ void PrescCommands::mnuFileSaveVrt() {
 void PrescCommands::changeDose(LonLat position) {
     GphPrescVex* const open = prescription();
     if (open == nullptr) {
-        session_.tools().setTool(MapTools::Tool::None);  // it was removed from the list
+        tools_.setTool(MapTools::Tool::None);  // it was removed from the list
         return;
     }
     if (!askDose) {
@@ -204,10 +192,10 @@ void PrescCommands::changeDose(LonLat position) {
         return;
     }
     layer.setDosis(zone, *dose);
-    if (&session_.shownScale() != &layer.escalaColor()) {
-        session_.redraw();  // a scale in the legend has done so already
+    if (&map_.scales().shown() != &layer.escalaColor()) {
+        display_.redraw();  // a scale in the legend has done so already
     }
-    session_.showSummary();
+    display_.showSummary();
 }
 
 }  // namespace campora

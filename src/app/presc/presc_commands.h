@@ -10,13 +10,15 @@
 #include <string_view>
 #include <vector>
 
+#include "app/map_display.h"
+#include "app/map_tools.h"
+#include "app/open_map.h"
 #include "base/lon_lat.h"
 #include "base/text_id.h"
+#include "platform/settings_store.h"
 #include "presc/gph_presc_vex.h"
 
 namespace campora {
-
-class Session;
 
 /// The commands of the prescription: there is one or none among the open files.
 class PrescCommands {
@@ -26,8 +28,9 @@ public:
     /// A dose of the scale or a new one, from the present one; none when the user cancels.
     using AskDose = std::function<std::optional<float>(const ColorScale& scale, float current)>;
 
-    /// `session` outlives this.
-    explicit PrescCommands(Session& session) : session_(session) {}
+    /// All of it outlives this.
+    PrescCommands(OpenMap& map, MapDisplay& display, MapTools& tools, SettingsStore& settings)
+        : map_(map), display_(display), tools_(tools), settings_(settings) {}
 
     // Set by the window; without them the user cancels.
     ChooseChannels chooseChannels;
@@ -41,8 +44,6 @@ public:
     /// closes the one that is open.
     void mnuFilePrescript();
     [[nodiscard]] TextId prescriptCaption() const;
-    /// Whether the open prescription may go: asks when its doses were changed and not saved.
-    [[nodiscard]] bool mayClose() const;
     /// Asks where to and for the swath width, and writes a PRE file.
     void mnuFileSavePrescript();
     /// Asks where to, for the resolution, a name and a description, and writes a VRT file.
@@ -54,15 +55,15 @@ public:
 private:
     /// Where the user wants the prescription; empty when the user cancels.
     [[nodiscard]] std::string askTarget(TextId filter, std::string_view ending) const;
-    /// What the user answers about the file that is to be written; none when that is to cancel.
-    [[nodiscard]] std::optional<std::string> ask(TextId prompt, std::string_view proposed,
-                                                 const std::string& target) const;
     /// Metres; none when the user cancels or types something else, which is said.
     [[nodiscard]] std::optional<double> askCellSize(const std::string& target) const;
     /// From now on the figures are those of the grid that was written.
     void saved(GphPrescVex& prescription, GridRule rule);
 
-    Session& session_;
+    OpenMap& map_;
+    MapDisplay& display_;
+    MapTools& tools_;
+    SettingsStore& settings_;
     /// Metres: the size of the cells that were written last, by which a new prescription counts its
     /// figures.
     double cellMetres_ = GridRule().metres;

@@ -38,10 +38,11 @@ void keepPlace(QWidget& widget) {
 
 }  // namespace
 
-DoseColumnDialog::DoseColumnDialog(const Session& session, QWidget* parent)
+DoseColumnDialog::DoseColumnDialog(const OpenMap& map, const Services& services, QWidget* parent)
     : QDialog(parent),
-      session_(session),
-      columns_(session),
+      map_(map),
+      services_(services),
+      columns_(map.desk()),
       grid_(new QGridLayout),
       progress_(new QProgressBar(this)) {
     setObjectName("frmDosisColumn");
@@ -65,13 +66,16 @@ DoseColumnDialog::DoseColumnDialog(const Session& session, QWidget* parent)
     column->addLayout(grid_);
     column->addStretch();
     column->addLayout(makeButtons());
-    columns_.onProgress = [this](int row, int percent) { showProgress(row, percent); };
+    columns_.onProgress = [this](int row, int percent) {
+        showProgress(row, percent);
+        services_.clock.processEvents();
+    };
     showRows();
     rows_.front().cmdOpen->setFocus();
 }
 
 QString DoseColumnDialog::word(TextId id) const {
-    return toQt(session_.texts()(id));
+    return toQt(map_.desk().texts(id));
 }
 
 void DoseColumnDialog::addRow(QGridLayout& grid, int row) {
@@ -85,7 +89,7 @@ void DoseColumnDialog::addRow(QGridLayout& grid, int row) {
     widgets.cbDosis->setObjectName("cbDosis");
     widgets.cbDosis->setMinimumWidth(kColumnWidth);
     widgets.cbDosis->setAccessibleName(
-        toQt(session_.texts().format(TextId::SummaryChannelColumn, {numberText(row + 1)})));
+        toQt(map_.desk().texts.format(TextId::SummaryChannelColumn, {numberText(row + 1)})));
     widgets.lblNumDosis = new QLabel(this);
     widgets.lblNumDosis->setObjectName("lblNumDosis");
     widgets.lblNumDosis->setTextFormat(Qt::PlainText);
@@ -135,7 +139,7 @@ QLayout* DoseColumnDialog::makeButtons() {
 }
 
 void DoseColumnDialog::chooseFile(int row) {
-    columns_.chooseFile(row);
+    columns_.chooseFile(row, services_.settings, map_.programFolder());
     RowWidgets& widgets = rows_[static_cast<std::size_t>(row)];
     {
         const QSignalBlocker quiet(widgets.cbDosis);

@@ -9,7 +9,9 @@
 
 #include <QDialog>
 
+#include "app/open_map.h"
 #include "app/presc/dose_columns.h"
+#include "platform/services.h"
 
 class QComboBox;
 class QGridLayout;
@@ -25,8 +27,8 @@ class DoseColumnDialog final : public QDialog {
     Q_OBJECT
 
 public:
-    /// `session` outlives the dialog.
-    DoseColumnDialog(const Session& session, QWidget* parent);
+    /// Both outlive the dialog.
+    DoseColumnDialog(const OpenMap& map, const Services& services, QWidget* parent);
 
     /// Opens the dialog modally. The maps in the order of their channels, with their dose columns;
     /// none when the user cancels.
@@ -54,7 +56,8 @@ private:
     void showRow(int row);
     [[nodiscard]] QString word(TextId id) const;
 
-    const Session& session_;
+    const OpenMap& map_;
+    const Services& services_;
     DoseColumns columns_;
     QGridLayout* grid_;
     std::array<RowWidgets, kMostChannels> rows_;

@@ -17,7 +17,6 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include "app/session.h"
 #include "desktop/platform/qt_text.h"
 
 namespace campora {
@@ -35,10 +34,11 @@ constexpr double kTolerance = 0.05;
 
 }  // namespace
 
-PrintPreview::PrintPreview(Session& session, QWidget* parent)
+PrintPreview::PrintPreview(const OpenMap& map, const MapDisplay& display, const Services& services,
+                           QWidget* parent)
     : QDialog(parent, Qt::Window | Qt::WindowMaximizeButtonHint | Qt::WindowCloseButtonHint),
-      texts_(session.texts()),
-      printing_(session, this),
+      texts_(map.desk().texts),
+      printing_(map, display, services, this),
       printer_(std::make_unique<QPrinter>(QPrinter::HighResolution)) {
     setObjectName("preview");
     setWindowTitle(toQt(texts_(TextId::PreviewTitle)));

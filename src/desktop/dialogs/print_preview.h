@@ -21,7 +21,9 @@ class PrintPreview final : public QDialog {
     Q_OBJECT
 
 public:
-    PrintPreview(Session& session, QWidget* parent);
+    /// All of it outlives the dialog.
+    PrintPreview(const OpenMap& map, const MapDisplay& display, const Services& services,
+                 QWidget* parent);
     ~PrintPreview() override;
 
 protected:

@@ -10,12 +10,10 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 
-#include "app/session.h"
 #include "app/settings.h"
 #include "app/window_title.h"
 #include "desktop/dialogs/page_setup_dialog.h"
 #include "desktop/dialogs/print_dialog.h"
-#include "desktop/dialogs/print_preview.h"
 #include "desktop/platform/pointer_override.h"
 #include "desktop/platform/qt_text.h"
 #include "paint/page_painter.h"
@@ -39,11 +37,15 @@ PageMargins leastMargins(const QPrinter& printer) {
 
 }  // namespace
 
-Printing::Printing(Session& session, QWidget* parent)
-    : session_(session), parent_(parent), commands_(session) {}
+Printing::Printing(const OpenMap& map, const MapDisplay& display, const Services& services,
+                   QWidget* parent)
+    : desk_(map.desk()),
+      settings_(services.settings),
+      parent_(parent),
+      commands_(map, display, services) {}
 
 bool Printing::setUpPage() {
-    PageSetupDialog dialog(commands_.setup(), session_.printDescription, session_.texts(), parent_);
+    PageSetupDialog dialog(commands_.setup(), commands_.description(), desk_.texts, parent_);
     if (dialog.exec() != QDialog::Accepted) {
         return false;
     }
@@ -54,11 +56,7 @@ bool Printing::setUpPage() {
 void Printing::setLandscape(bool landscape) {
     PageSetup setup = commands_.setup();
     setup.landscape = landscape;
-    commands_.change(setup, session_.printDescription);
-}
-
-void Printing::preview() {
-    PrintPreview(session_, parent_).exec();
+    commands_.change(setup, commands_.description());
 }
 
 void Printing::preparePaper(QPrinter& printer) const {
@@ -81,8 +79,7 @@ void Printing::paintPreview(QPrinter& printer, int dotsPerInch) const {
 }
 
 Printing::Drawn Printing::drawMap(const PageLayout& page, int dotsPerInch, QImage& map) const {
-    const auto progress =
-        session_.platform().dialogs.progress(session_.texts()(TextId::PreparingPage));
+    const auto progress = desk_.dialogs.progress(desk_.texts(TextId::PreparingPage));
     bool cancelled = false;
     map = pageMapPicture(page, commands_.mapCanvas(page), dotsPerInch, [&](MapCanvas& canvas) {
         cancelled = !commands_.drawMap(page, canvas, progress.get());
@@ -110,27 +107,25 @@ Result<std::string> Printing::makePdf(int dotsPerInch) const {
 }
 
 PrintTarget Printing::proposedTarget() const {
-    const SettingsStore& settings = session_.platform().settings;
     PrintTarget target;
-    const std::string last = readText(settings, SettingId::Printer);
+    const std::string last = readText(settings_, SettingId::Printer);
     if (last != kPdfSetting) {
         target.printer = last.empty() ? QPrinterInfo::defaultPrinterName() : toQt(last);
     }
-    target.dotsPerInch = readNumber(settings, SettingId::PrintResolution);
+    target.dotsPerInch = readNumber(settings_, SettingId::PrintResolution);
     return target;
 }
 
 void Printing::print() {
-    PrintDialog dialog(QPrinterInfo::availablePrinterNames(), proposedTarget(), session_.texts(),
+    PrintDialog dialog(QPrinterInfo::availablePrinterNames(), proposedTarget(), desk_.texts,
                        parent_);
     if (dialog.exec() != QDialog::Accepted) {
         return;
     }
     const PrintTarget target = dialog.target();
-    SettingsStore& settings = session_.platform().settings;
     const std::string printer = toUtf8(target.printer);
-    writeText(settings, SettingId::Printer, printer.empty() ? kPdfSetting : printer);
-    writeNumber(settings, SettingId::PrintResolution, target.dotsPerInch);
+    writeText(settings_, SettingId::Printer, printer.empty() ? kPdfSetting : printer);
+    writeNumber(settings_, SettingId::PrintResolution, target.dotsPerInch);
     if (printer.empty()) {
         commands_.savePdf([this, &target] { return makePdf(target.dotsPerInch); });
     } else {
@@ -140,11 +135,7 @@ void Printing::print() {
 
 void Printing::printOn(const PrintTarget& target) const {
     const QPrinterInfo info = QPrinterInfo::printerInfo(target.printer);
-    const Texts& texts = session_.texts();
-    const auto report = [&](TextId text) {
-        session_.platform().dialogs.message(texts.format(text, {toUtf8(target.printer)}),
-                                            MessageIcon::Error, texts(TextId::Error));
-    };
+    const auto report = [&](TextId text) { desk_.tellError({text, {toUtf8(target.printer)}}); };
     if (info.isNull()) {
         report(TextId::PrinterMissing);
         return;

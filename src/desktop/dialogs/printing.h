@@ -12,18 +12,17 @@ class QWidget;
 
 namespace campora {
 
-class Session;
 struct PrintTarget;
 
 /// The windows around the printed page, and the way to paper.
 class Printing {
 public:
-    /// `parent`: the window over which the others open.
-    Printing(Session& session, QWidget* parent);
+    /// `parent`: the window over which the others open. All of it outlives this.
+    Printing(const OpenMap& map, const MapDisplay& display, const Services& services,
+             QWidget* parent);
 
     /// False when the user left everything as it was.
     bool setUpPage();
-    void preview();
     /// Asks where to, and prints.
     void print();
 
@@ -44,7 +43,8 @@ private:
     [[nodiscard]] bool paintOn(QPrinter& printer, int dotsPerInch) const;
     [[nodiscard]] PrintTarget proposedTarget() const;
 
-    Session& session_;
+    const Desk& desk_;
+    SettingsStore& settings_;
     QWidget* parent_;
     PrintCommands commands_;
 };

@@ -24,21 +24,21 @@ constexpr int kGap = 8;
 
 }  // namespace
 
-SelectDoseDialog::SelectDoseDialog(const ColorScale* scale, float currentDose,
-                                   const Session& session, QWidget* parent)
+SelectDoseDialog::SelectDoseDialog(const ColorScale* scale, float currentDose, const Desk& desk,
+                                   QWidget* parent)
     : QDialog(parent),
-      choice_(scale, currentDose, session),
-      rbExistent_(new QRadioButton(toQt(session.texts()(TextId::DoseExisting)), this)),
-      rbManual_(new QRadioButton(toQt(session.texts()(TextId::DoseNew)), this)),
+      choice_(scale, currentDose, desk),
+      rbExistent_(new QRadioButton(toQt(desk.texts(TextId::DoseExisting)), this)),
+      rbManual_(new QRadioButton(toQt(desk.texts(TextId::DoseNew)), this)),
       viewer_(new ColorList(this)),
       txtNewDosis_(new QLineEdit(toQt(choice_.text()), this)) {
     setObjectName("frmSelectDosis");
-    setWindowTitle(toQt(session.texts()(TextId::DoseTitle)));
-    makeChoices(session);
-    auto* const ok = new QPushButton(toQt(session.texts()(TextId::ButtonOk)), this);
+    setWindowTitle(toQt(desk.texts(TextId::DoseTitle)));
+    makeChoices(desk);
+    auto* const ok = new QPushButton(toQt(desk.texts(TextId::ButtonOk)), this);
     ok->setObjectName("cmdOk");
     ok->setDefault(true);
-    auto* const cancel = new QPushButton(toQt(session.texts()(TextId::ButtonCancel)), this);
+    auto* const cancel = new QPushButton(toQt(desk.texts(TextId::ButtonCancel)), this);
     cancel->setObjectName("cmdCancel");
     cancel->setAutoDefault(false);
     connect(ok, &QPushButton::clicked, this, [this] { accept(); });
@@ -68,13 +68,13 @@ SelectDoseDialog::SelectDoseDialog(const ColorScale* scale, float currentDose,
     }
 }
 
-void SelectDoseDialog::makeChoices(const Session& session) {
+void SelectDoseDialog::makeChoices(const Desk& desk) {
     rbExistent_->setObjectName("rbExistent");
     rbManual_->setObjectName("rbManual");
     viewer_->setObjectName("viewer");
     viewer_->setAccessibleName(rbExistent_->text());
     viewer_->setRows(choice_.legend().classes, toQt(choice_.legend().unit),
-                     toQt(session.texts()(TextId::LegendColor)));
+                     toQt(desk.texts(TextId::LegendColor)));
     viewer_->clearSelection();
     txtNewDosis_->setObjectName("txtNewDosis");
     txtNewDosis_->setAccessibleName(rbManual_->text());

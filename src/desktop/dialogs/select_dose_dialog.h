@@ -21,9 +21,8 @@ class SelectDoseDialog final : public QDialog {
     Q_OBJECT
 
 public:
-    /// `scale` may be null: only a new dose then. It and `session` outlive the dialog.
-    SelectDoseDialog(const ColorScale* scale, float currentDose, const Session& session,
-                     QWidget* parent);
+    /// `scale` may be null: only a new dose then. It outlives the dialog.
+    SelectDoseDialog(const ColorScale* scale, float currentDose, const Desk& desk, QWidget* parent);
 
     /// Opens the dialog modally; none when the user cancels.
     [[nodiscard]] std::optional<float> getDosis();
@@ -32,7 +31,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void makeChoices(const Session& session);
+    void makeChoices(const Desk& desk);
     void selectionChanged();
     /// The buttons as the choice is now.
     void showWay();

@@ -14,7 +14,6 @@
 #include <QSlider>
 #include <QVBoxLayout>
 
-#include "app/session.h"
 #include "base/file_endings.h"
 #include "base/paths.h"
 #include "desktop/platform/pointer_override.h"
@@ -32,10 +31,11 @@ constexpr int kRemark = Qt::UserRole;
 
 }  // namespace
 
-ShpExportDialog::ShpExportDialog(const Session& session, QWidget* parent)
+ShpExportDialog::ShpExportDialog(const OpenMap& map, Clock& clock, QWidget* parent)
     : QDialog(parent),
-      session_(session),
-      batch_(session),
+      map_(map),
+      clock_(clock),
+      batch_(map),
       txtOrig_(new QLineEdit(this)),
       txtDest_(new QLineEdit(this)),
       expAll_(new QRadioButton(word(TextId::ExportEverything), this)),
@@ -67,14 +67,16 @@ ShpExportDialog::ShpExportDialog(const Session& session, QWidget* parent)
     batch_.onBegin = [this](const std::string& line) {
         msgs_->addItem(shownName(line));
         msgs_->scrollToBottom();
+        clock_.processEvents();
     };
     batch_.onDone = [this](const std::string& line, const TrackExportOutcome& outcome) {
         showDone(line, outcome);
+        clock_.processEvents();
     };
 }
 
 QString ShpExportDialog::word(TextId id) const {
-    return toQt(session_.texts()(id));
+    return toQt(map_.desk().texts(id));
 }
 
 QPushButton* ShpExportDialog::makeBrowse(TextId tip, void (ShpExportDialog::*browse)()) {
@@ -206,9 +208,9 @@ void ShpExportDialog::setSource(const std::string& path) {
 
 void ShpExportDialog::browseSource() {
     const std::vector<std::string> chosen =
-        session_.platform().dialogs.openFiles({toUtf8(word(TextId::ExportFilesTitle)),
-                                               folderOf(toUtf8(txtOrig_->text())),
-                                               {trackFilter(session_.texts())}});
+        map_.desk().dialogs.openFiles({toUtf8(word(TextId::ExportFilesTitle)),
+                                       folderOf(toUtf8(txtOrig_->text())),
+                                       {trackFilter(map_.desk().texts)}});
     if (!chosen.empty()) {
         setSource(chosen.front());
     }
@@ -217,12 +219,12 @@ void ShpExportDialog::browseSource() {
 void ShpExportDialog::browseTarget() {
     const std::string present = toUtf8(txtDest_->text());
     const std::string chosen =
-        session_.platform()
+        map_.desk()
             .dialogs
             .saveFile({toUtf8(word(TextId::ExportTitle)),
                        folderOf(present),
                        std::string(fileNamePart(present)),
-                       {fileFilter(session_.texts(), TextId::FilterShapePolygons, kShapeEnding)}})
+                       {fileFilter(map_.desk().texts, TextId::FilterShapePolygons, kShapeEnding)}})
             .path;
     if (!chosen.empty()) {
         txtDest_->setText(toQt(chosen));

@@ -10,6 +10,7 @@
 
 #include "app/out/track_batch.h"
 #include "base/text_id.h"
+#include "platform/clock.h"
 
 class QLabel;
 class QLineEdit;
@@ -28,8 +29,8 @@ class ShpExportDialog final : public QDialog {
     Q_OBJECT
 
 public:
-    /// `session` outlives the dialog.
-    ShpExportDialog(const Session& session, QWidget* parent);
+    /// Both outlive the dialog.
+    ShpExportDialog(const OpenMap& map, Clock& clock, QWidget* parent);
 
     /// Opens the dialog modally for these files. A single one, and where it goes, can be changed.
     void exportList(const std::vector<std::string>& paths);
@@ -56,7 +57,8 @@ private:
     /// While a run is on nothing can be changed.
     void enableInputs(bool enabled);
 
-    const Session& session_;
+    const OpenMap& map_;
+    Clock& clock_;
     TrackBatch batch_;
     std::vector<std::string> paths_;
     bool closing_ = false;

@@ -61,10 +61,12 @@ QStringList driveNames() {
 
 }  // namespace
 
-WorkOrdersDialog::WorkOrdersDialog(Session& session, QWidget* parent)
+WorkOrdersDialog::WorkOrdersDialog(OpenMap& map, MapDisplay& display, MapTools& tools,
+                                   const Services& services, QWidget* parent)
     : QDialog(parent),
-      session_(session),
-      browser_(session),
+      texts_(map.desk().texts),
+      clock_(services.clock),
+      browser_(map, display, tools, services),
       model_(new QFileSystemModel(this)),
       drives_(new QComboBox(this)),
       folders_(new QTreeView(this)),
@@ -94,7 +96,7 @@ WorkOrdersDialog::WorkOrdersDialog(Session& session, QWidget* parent)
 }
 
 QString WorkOrdersDialog::word(TextId id) const {
-    return toQt(session_.texts()(id));
+    return toQt(texts_(id));
 }
 
 QWidget* WorkOrdersDialog::makeFolders() {
@@ -271,11 +273,20 @@ bool WorkOrdersDialog::openFiles() {
         return false;
     }
     setBusy(true);
-    browser_.open([this](int percent) {
-        progress_->setValue(percent);
-        session_.platform().clock.processEvents();
-        return !stopped_;
-    });
+    class Bar final : public Progress {
+    public:
+        explicit Bar(WorkOrdersDialog& dialog) : dialog_(dialog) {}
+        [[nodiscard]] bool report(int percent) override {
+            dialog_.progress_->setValue(percent);
+            dialog_.clock_.processEvents();
+            return !dialog_.stopped_;
+        }
+
+    private:
+        WorkOrdersDialog& dialog_;
+    };
+    Bar bar(*this);
+    browser_.open(bar);
     setBusy(false);
     return !stopped_;
 }

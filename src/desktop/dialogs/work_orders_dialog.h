@@ -21,8 +21,9 @@ namespace campora {
 /// Folders on the left, their work orders on the right, the preview of the selected order below.
 class WorkOrdersDialog final : public QDialog {
 public:
-    /// `session` outlives the dialog.
-    WorkOrdersDialog(Session& session, QWidget* parent);
+    /// All of it outlives the dialog.
+    WorkOrdersDialog(OpenMap& map, MapDisplay& display, MapTools& tools, const Services& services,
+                     QWidget* parent);
 
     /// Opens the dialog modally on a folder.
     void showOpen(const std::string& path);
@@ -55,7 +56,8 @@ private:
     void setBusy(bool busy);
     void enableButtons();
 
-    Session& session_;
+    const Texts& texts_;
+    Clock& clock_;
     WorkOrdersBrowser browser_;
     QFileSystemModel* model_;
     QComboBox* drives_;

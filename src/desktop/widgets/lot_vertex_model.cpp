@@ -7,11 +7,12 @@
 
 namespace campora {
 
-LotVertexModel::LotVertexModel(const Session& session, QObject* parent)
-    : QAbstractTableModel(parent), session_(session) {}
+LotVertexModel::LotVertexModel(const LotEditor& editor, const MapTools& tools, const Texts& texts,
+                               QObject* parent)
+    : QAbstractTableModel(parent), editor_(editor), tools_(tools), texts_(texts) {}
 
 void LotVertexModel::refresh() {
-    const int count = static_cast<int>(session_.lotEditor().draft().vertices().size());
+    const int count = static_cast<int>(editor_.draft().vertices().size());
     if (count != rows_) {
         beginResetModel();
         rows_ = count;
@@ -31,13 +32,13 @@ int LotVertexModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant LotVertexModel::data(const QModelIndex& index, int role) const {
-    const std::vector<LonLat>& vertices = session_.lotEditor().draft().vertices();
+    const std::vector<LonLat>& vertices = editor_.draft().vertices();
     const auto row = static_cast<std::size_t>(index.row());
     if (role != Qt::DisplayRole || !index.isValid() || row >= vertices.size()) {
         return {};
     }
     const double value = index.column() == Latitude ? vertices[row].y : vertices[row].x;
-    return toQt(formatCoord(value, session_.coordType())).trimmed();
+    return toQt(formatCoord(value, tools_.coordType())).trimmed();
 }
 
 QVariant LotVertexModel::headerData(int section, Qt::Orientation orientation, int role) const {
@@ -47,8 +48,7 @@ QVariant LotVertexModel::headerData(int section, Qt::Orientation orientation, in
     if (orientation == Qt::Vertical) {
         return section + 1;
     }
-    QString text =
-        toQt(session_.texts()(section == Latitude ? TextId::Latitude : TextId::Longitude));
+    QString text = toQt(texts_(section == Latitude ? TextId::Latitude : TextId::Longitude));
     return text.remove(':');
 }
 

@@ -5,7 +5,9 @@
 
 #include <QAbstractTableModel>
 
-#include "app/session.h"
+#include "app/lots/lot_editor.h"
+#include "app/map_tools.h"
+#include "base/texts.h"
 
 namespace campora {
 
@@ -17,8 +19,9 @@ class LotVertexModel final : public QAbstractTableModel {
 public:
     enum Column { Latitude, Longitude, kColumns };
 
-    /// `session` outlives this.
-    explicit LotVertexModel(const Session& session, QObject* parent = nullptr);
+    /// All of it outlives this; `tools` know the form of coordinates.
+    LotVertexModel(const LotEditor& editor, const MapTools& tools, const Texts& texts,
+                   QObject* parent = nullptr);
 
     /// The lot, the language or the form of coordinates has changed.
     void refresh();
@@ -30,7 +33,9 @@ public:
                                       int role) const override;
 
 private:
-    const Session& session_;
+    const LotEditor& editor_;
+    const MapTools& tools_;
+    const Texts& texts_;
     int rows_ = 0;
 };
 

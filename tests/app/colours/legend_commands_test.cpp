@@ -29,10 +29,12 @@ struct LegendDesk : SessionDesk {
         NamedFile& file = add("plan");
         addScale(file, 100);
         scale().setClassNumber(4);
-        session.selectFile(0);
+        session.listCommands().selectFile(0);
         canvas.forget();
     }
-    [[nodiscard]] ColorScale& scale() { return *session.files().file(0).File_escalaColores(); }
+    [[nodiscard]] ColorScale& scale() {
+        return *session.map().files().file(0).File_escalaColores();
+    }
     /// The lower bounds and the last upper one.
     [[nodiscard]] Bounds bounds() {
         Bounds found;
@@ -49,11 +51,11 @@ struct LegendDesk : SessionDesk {
         }
         scale().loadFromSetList(set, 0);
         scale().allowValueChange = true;
-        session.showLegend();
+        session.display().showLegend();
         canvas.forget();
     }
 
-    LegendCommands& commands = session.legend();
+    LegendCommands& commands = session.legendCommands();
 };
 
 struct LegendCommandsTest : testing::Test, LegendDesk {};
@@ -64,11 +66,11 @@ TEST_F(LegendCommandsTest, WorkOnTheScaleThatIsShown) {
     EXPECT_EQ(window.legend.classes.size(), 5U);
     EXPECT_GT(redraws(), 0U);
     canvas.forget();
-    session.defaultScale().setClassColor(0, {0x123456});
+    session.map().scales().of(false).setClassColor(0, {0x123456});
     EXPECT_EQ(redraws(), 0U) << "not the scale in the legend";
-    session.selectFile(std::nullopt);
+    session.listCommands().selectFile(std::nullopt);
     commands.removeClass();
-    EXPECT_EQ(session.defaultScale().count(), 5);
+    EXPECT_EQ(session.map().scales().of(false).count(), 5);
     EXPECT_EQ(scale().count(), 5) << "not the one in the legend";
 }
 
@@ -87,14 +89,14 @@ std::string creepingReport(const TempFolder& folder, int span = 10) {
 TEST(LegendCommands, ClassesCanBeSpreadOverMostOfTheArea) {
     SessionDesk desk;
     desk.session.start();
-    desk.session.loadFile(creepingReport(desk.folder), false, true);
+    desk.open({creepingReport(desk.folder)});
     const LegendContent& legend = desk.window.legend;
     EXPECT_EQ(legend.remark, "Una clase cubre el 99 % de la superficie trabajada.");
     EXPECT_EQ(legend.offer, "Repartir las clases");
-    EXPECT_EQ(desk.session.defaultScale().valueMax(), 3000);
-    desk.session.legend().addClass();
-    desk.session.legend().spreadClasses(true);
-    const ColorScale& scale = desk.session.defaultScale();
+    EXPECT_EQ(desk.session.map().scales().of(false).valueMax(), 3000);
+    desk.session.legendCommands().addClass();
+    desk.session.legendCommands().spreadClasses(true);
+    const ColorScale& scale = desk.session.map().scales().of(false);
     EXPECT_EQ(scale.valueMin(), 80);
     EXPECT_EQ(scale.valueMax(), 89);
     EXPECT_THAT(legend.classes, SizeIs(6)) << "as many as before";
@@ -106,21 +108,21 @@ TEST(LegendCommands, ClassesCanBeSpreadOverMostOfTheArea) {
     SessionDesk next;
     next.settings.values = desk.settings.values;
     next.session.start();
-    next.session.loadFile(creepingReport(next.folder), false, true);
-    EXPECT_EQ(next.session.defaultScale().valueMax(), 89) << "it is remembered";
-    next.session.legend().spreadClasses(false);
-    EXPECT_EQ(next.session.defaultScale().valueMax(), 3000);
+    next.open({creepingReport(next.folder)});
+    EXPECT_EQ(next.session.map().scales().of(false).valueMax(), 89) << "it is remembered";
+    next.session.legendCommands().spreadClasses(false);
+    EXPECT_EQ(next.session.map().scales().of(false).valueMax(), 3000);
 }
 
 TEST(LegendCommands, WorkOfOneDoseCannotBeSpread) {
     SessionDesk desk;
     desk.session.start();
-    desk.session.loadFile(creepingReport(desk.folder, 1), false, true);
+    desk.open({creepingReport(desk.folder, 1)});
     EXPECT_EQ(desk.window.legend.remark, "Una clase cubre el 99 % de la superficie trabajada.");
     EXPECT_EQ(desk.window.legend.offer, "");
-    desk.session.legend().spreadClasses(true);
-    EXPECT_EQ(desk.session.defaultScale().valueMax(), 3000);
-    EXPECT_FALSE(desk.session.defaultScale().openEnds);
+    desk.session.legendCommands().spreadClasses(true);
+    EXPECT_EQ(desk.session.map().scales().of(false).valueMax(), 3000);
+    EXPECT_FALSE(desk.session.map().scales().of(false).openEnds);
 }
 
 TEST(LegendCommands, TheNumberOfClassesStaysWithinItsLimits) {

@@ -39,7 +39,7 @@ struct ModesDesk : SessionDesk {
     }
     /// A report of two steps of 10 m with the alarm of bit 8; 50 % too much in the first channel,
     /// 20 % too little in the second.
-    void open(const std::string& name, int channels = 1, std::uint32_t serial = kSprayer) {
+    void openReport(const std::string& name, int channels = 1, std::uint32_t serial = kSprayer) {
         RptBytes bytes(channels, serial);
         for (int i = 0; i < 3; ++i) {
             RptBytes::Record record;
@@ -49,7 +49,7 @@ struct ModesDesk : SessionDesk {
             record.alarms = 1U << 8U;
             bytes.add(record);
         }
-        ASSERT_TRUE(session.loadFile(folder.write(name, bytes.bytes()), false, true));
+        ASSERT_TRUE(open({folder.write(name, bytes.bytes())}));
         forget();
     }
     void forget() {
@@ -65,9 +65,9 @@ struct ModesDesk : SessionDesk {
         }
         return found;
     }
-    [[nodiscard]] ColorMode mode() { return session.style().mode; }
+    [[nodiscard]] ColorMode mode() { return session.map().style().mode; }
 
-    MapModes modes{session};
+    MapModes& modes = session.modes();
 };
 
 /// A file with several channels.
@@ -96,7 +96,7 @@ TEST(TypedNumber, TakesEitherDecimalSymbolAndNothingElse) {
 }
 
 TEST_F(MapModesTest, SelectedAlarmsColourThePointsThatHaveThem) {
-    open("lote.rpt");
+    openReport("lote.rpt");
     modes.mnuAlarmsPaint();
     const Lines alarm = {"0x0000FF"};
     const Lines none = {"0x00FF00"};
@@ -130,16 +130,17 @@ TEST(MapModes, TheThreeMapsExcludeEachOther) {
     for (const auto& [first, firstMode] : maps) {
         for (const auto& [second, secondMode] : maps) {
             ModesDesk desk;
-            desk.open("lote.rpt");
+            desk.openReport("lote.rpt");
             (desk.modes.*first)();
             EXPECT_TRUE(desk.modes.isOn(firstMode));
             const bool isAlarm = firstMode == ColorMode::Alarm;
             EXPECT_EQ(desk.window.legend.classes.empty(), isAlarm) << "no dose has a colour there";
-            desk.session.defaultScale().setClassNumber(3);
+            desk.session.map().scales().of(false).setClassNumber(3);
             desk.forget();
             (desk.modes.*second)();
             if (isAlarm && second == first) {
-                EXPECT_EQ(desk.session.defaultScale().count(), 3) << "as the user left them";
+                EXPECT_EQ(desk.session.map().scales().of(false).count(), 3)
+                    << "as the user left them";
             }
             EXPECT_EQ(desk.mode(), first == second ? ColorMode::Dose : secondMode);
             EXPECT_EQ(desk.redraws(), 1U);
@@ -149,21 +150,21 @@ TEST(MapModes, TheThreeMapsExcludeEachOther) {
 }
 
 TEST_F(MapModesTest, TheDateMapNeedsADate) {
-    ASSERT_TRUE(session.loadFile(track("log0001.nbr", 5), false, true));
+    ASSERT_TRUE(open({track("log0001.nbr", 5)}));
     EXPECT_FALSE(modes.canShowDates());
     modes.mnuColorDateMap();
     EXPECT_EQ(mode(), ColorMode::Dose);
-    open("lote.rpt");
+    openReport("lote.rpt");
     EXPECT_TRUE(modes.canShowDates());
     modes.mnuColorDateMap();
-    EXPECT_TRUE(session.defaultScale().isDate);
+    EXPECT_TRUE(session.map().scales().of(false).isDate);
     EXPECT_EQ(window.legend.classes.front().text, "05/03/2018");
     modes.mnuColorDateMap();
-    EXPECT_FALSE(session.defaultScale().isDate);
+    EXPECT_FALSE(session.map().scales().of(false).isDate);
 }
 
 TEST_F(MapModesTest, TheErrorMapTellsColoursAndHectares) {
-    open("lote.rpt", 2);
+    openReport("lote.rpt", 2);
     modes.mnuColorErrorMap();
     EXPECT_EQ(fills(), Lines{"0xFF00FF"}) << "15 % in total";
     EXPECT_EQ(window.summary.back(), (SummaryRow{"Hectareas Error", "0.04 Has"}));
@@ -175,7 +176,7 @@ TEST_F(MapModesTest, TheErrorMapTellsColoursAndHectares) {
     EXPECT_EQ(window.legend.classes.size(), 1U) << "one specified dose";
     modes.mnuColorScaleSelTotal();
     EXPECT_EQ(window.summary.back().value, "0 Has");
-    EXPECT_EQ(session.defaultScale().valueMax(), 230) << "the doses of the total again";
+    EXPECT_EQ(session.map().scales().of(false).valueMax(), 230) << "the doses of the total again";
     modes.mnuColorDateMap();
     EXPECT_EQ(window.summary.back(), (SummaryRow{"Hectareas Error", " "}));
 }
@@ -190,11 +191,11 @@ TEST(MapModes, TheAllowedErrorIsTakenAsTyped) {
         SCOPED_TRACE(answer);
         ModesDesk desk;
         desk.locale = FixedLocale(',');
-        desk.open("lote.rpt");
-        desk.session.style().errorLimit = 2.5F;
+        desk.openReport("lote.rpt");
+        desk.session.map().style().errorLimit = 2.5F;
         desk.dialogs.inputAnswers = {answer};
         desk.modes.mnuColorErrorMapMin();
-        EXPECT_EQ(desk.session.style().errorLimit, limit.value_or(2.5F));
+        EXPECT_EQ(desk.session.map().style().errorLimit, limit.value_or(2.5F));
         EXPECT_EQ(desk.modes.isOn(ColorMode::Error), limit.has_value());
         if (limit) {
             EXPECT_EQ(desk.window.legend.reference.back().text, legend);
@@ -205,7 +206,7 @@ TEST(MapModes, TheAllowedErrorIsTakenAsTyped) {
 }
 
 TEST_F(MapModesTest, GraduatedWorkTakesTheColoursOfTheScale) {
-    open("lote.rpt");
+    openReport("lote.rpt");
     ASSERT_TRUE(modes.isGraduated());
     modes.mnuEditGraduated();
     EXPECT_EQ(fills(), Lines{"0xFF8080"});
@@ -215,7 +216,7 @@ TEST_F(MapModesTest, GraduatedWorkTakesTheColoursOfTheScale) {
     EXPECT_EQ(fills(), Lines{"0x00FFFF"});
     EXPECT_FALSE(window.legend.classes.empty());
 
-    ASSERT_TRUE(session.loadFile(track("log0001.nbr", 5), false, true));
+    ASSERT_TRUE(open({track("log0001.nbr", 5)}));
     modes.mnuEditGraduatedByLtsMin();
     EXPECT_TRUE(modes.isGraduatedBy(GraduatedBy::Minute));
     EXPECT_EQ(window.legend.unit, "lts/min");
@@ -229,15 +230,15 @@ TEST_F(MapModesTest, AFileWithoutTheChannelIsNamedAndKeepsItsOwn) {
     auto three = std::make_unique<ChannelsFile>("tres.pre", 3);
     const ChannelsFile& fewer = *two;
     const ChannelsFile& several = *three;
-    session.addFile(std::move(two), true, false);
-    session.addFile(std::move(three), true, false);
-    open("lote.rpt", 3);
+    session.map().addFile(std::move(two), false);
+    session.map().addFile(std::move(three), false);
+    openReport("lote.rpt", 3);
     modes.mnuColorScaleSelCH(2);
     EXPECT_THAT(dialogs.messages,
                 ElementsAre("Exclamation|Campora|Advertencia: dos.pre no tiene un Canal 3"));
     EXPECT_EQ(fewer.current, 0);
     EXPECT_EQ(several.current, 2);
-    EXPECT_EQ(session.style().selectedChannel, 2);
+    EXPECT_EQ(session.map().style().selectedChannel, 2);
     EXPECT_EQ(window.legend.classes.front().text, "10") << "the doses of that channel";
     EXPECT_EQ(redraws(), 1U);
     modes.mnuColorScaleSelTotal();
@@ -269,33 +270,33 @@ TEST(MapModes, DrawingOptionsAreSeenAndSomeAreKept) {
 TEST_F(MapModesTest, TheMachineReadLastNamesItsWork) {
     const auto caption = [this] { return std::string(session.texts()(modes.drawAllCaption())); };
     EXPECT_EQ(caption(), "Ver solo fumigado");
-    open("siembra.rpt", 1, kSeeder);
+    openReport("siembra.rpt", 1, kSeeder);
     EXPECT_EQ(caption(), "Ver solo sembrado");
     modes.mnuEditGraduated();
     EXPECT_EQ(window.legend.reference.front().text, "Sembrado");
-    session.loadFile(track("log0001.nbr", 5), false, true);
+    open({track("log0001.nbr", 5)});
     EXPECT_EQ(caption(), "Ver solo sembrado") << "a track file is no report";
-    open("lote.rpt");
+    openReport("lote.rpt");
     EXPECT_EQ(caption(), "Ver solo fumigado");
 }
 
 TEST_F(MapModesTest, LitresAndUnitsOfSeedHaveAScaleEach) {
-    session.loadFile(report("siembra.rpt", 30000, kSeeder), false, true);
-    session.loadFile(report("lote.rpt", 1000), false, true);
+    open({report("siembra.rpt", 30000, kSeeder)});
+    open({report("lote.rpt", 1000)});
     const auto shown = [this](int row) {
-        session.selectFile(row);
+        session.listCommands().selectFile(row);
         return window.legend.classes.front().text + " " + window.legend.unit;
     };
     EXPECT_EQ(shown(0), "3000 - 3000.4 unid/hect");
     EXPECT_EQ(shown(1), "100 - 100.4 lt/hect");
-    session.legend().addClass();
-    EXPECT_EQ(session.defaultScale().count(), 6);
+    session.legendCommands().addClass();
+    EXPECT_EQ(session.map().scales().of(false).count(), 6);
     forget();
-    session.redraw();
+    session.display().redraw();
     const Lines colours = fills();
     EXPECT_EQ(colours.front(), "0x00FFFF") << "the least of the litres";
     EXPECT_EQ(colours.back(), "0x00FF00") << "the middle of the seeds";
-    session.removeCurrentFile();
+    session.listCommands().removeCurrentFile();
     EXPECT_EQ(window.legend.unit, "unid/hect");
 }
 
@@ -312,14 +313,14 @@ TEST(MapModes, ASwathWidthIsGivenToAllWork) {
     for (const Row& row : rows) {
         SCOPED_TRACE(row.answer);
         ModesDesk desk;
-        desk.open("uno.rpt");
-        desk.open("dos.rpt");
+        desk.openReport("uno.rpt");
+        desk.openReport("dos.rpt");
         desk.modes.mnuColorErrorMap();
         desk.forget();
         desk.dialogs.inputAnswers = {row.answer};
         desk.modes.mnuEditTrocha();
         EXPECT_EQ(desk.dialogs.inputs, Lines{"192|Campora|"});
-        for (const Gph* layer : desk.session.getGphList()) {
+        for (const Gph* layer : desk.session.map().getGphList()) {
             EXPECT_EQ(dynamic_cast<const GphTrack&>(*layer).pointInfo(1).trocha(), row.metres);
         }
         EXPECT_EQ(desk.redraws(), row.metres == 20 ? 0U : 1U);
@@ -354,7 +355,7 @@ TEST(MapModes, AChosenColourIsKeptAndSeen) {
         MapColors expected;
         EXPECT_THAT(desk.dialogs.colors, Each(expected.*color));
         expected.*color = {0x0000AB};
-        EXPECT_EQ(desk.session.style().colors, expected);
+        EXPECT_EQ(desk.session.map().style().colors, expected);
         EXPECT_EQ(desk.settings.values, (decltype(desk.settings.values){{key, "171"}}));
         EXPECT_EQ(desk.redraws(), 1U);
 
@@ -362,7 +363,7 @@ TEST(MapModes, AChosenColourIsKeptAndSeen) {
         MapStyle stored;
         readStyleSettings(desk.settings, stored);
         EXPECT_EQ(stored.colors, MapColors{});
-        EXPECT_EQ(desk.session.style().colors, MapColors{});
+        EXPECT_EQ(desk.session.map().style().colors, MapColors{});
     }
 }
 

@@ -7,6 +7,9 @@
 
 #include <gtest/gtest.h>
 
+#include "app/lots/lot_saving.h"
+#include "app/unsaved_work.h"
+#include "lots/file_lots.h"
 #include "support/lot_files.h"
 #include "support/session_desk.h"
 
@@ -21,10 +24,10 @@ struct LotCommandsTest : testing::Test, SessionDesk {
         settings.values["LotesPath"] = folder.path();
     }
     void openLot(const std::string& name, const std::vector<LonLat>& vertices) {
-        ASSERT_TRUE(session.loadFile(writeLot(folder, name, vertices, name), false, true));
+        ASSERT_TRUE(open({writeLot(folder, name, vertices, name)}));
     }
 
-    LotCommands& commands = session.lots();
+    LotCommands& commands = session.lotCommands();
 };
 
 TEST_F(LotCommandsTest, AreThereForWhatIsOpen) {
@@ -32,10 +35,10 @@ TEST_F(LotCommandsTest, AreThereForWhatIsOpen) {
     commands.mnuLoteSave();
     commands.mnuLoteMerge();
     EXPECT_FALSE(session.lotEditor().isOpen());
-    ASSERT_TRUE(session.loadFile(report("a.rpt"), false, true));
+    ASSERT_TRUE(open({report("a.rpt")}));
     EXPECT_FALSE(commands.canEdit() || commands.canSave() || commands.canMerge());
     openLot("a.lot", squareRing(-60, -34, 1));
-    session.selectFile(1);
+    session.listCommands().selectFile(1);
     EXPECT_TRUE(commands.canEdit() && commands.canSave());
     EXPECT_FALSE(commands.canMerge());
     openLot("b.lot", squareRing(-59, -34, 1));
@@ -108,7 +111,7 @@ TEST_F(LotCommandsTest, AnOpenFileIsWrittenOverByNoneButItself) {
     EXPECT_EQ(saveTo("a.lot"), "") << "its own";
     commands.mnuLoteMerge();
     EXPECT_NE(saveTo("a.lot").find("se perdería "), std::string::npos);
-    session.removeFile(&session.files().file(1));
+    session.map().removeFile(&session.map().files().file(1));
     EXPECT_NE(saveTo("a.lot").find("se perdería "), std::string::npos) << "it was merged from it";
     EXPECT_EQ(contentOf(folder.file("a.lot")), before);
     EXPECT_EQ(saveTo("c.lot"), "");
@@ -119,13 +122,13 @@ TEST_F(LotCommandsTest, AResultAloneIsMergedAgain) {
     openLot("a.lot", squareRing(-60, -34, 1));
     openLot("b.lot", squareRing(-50, -34, 2));
     commands.mnuLoteMerge();
-    session.removeFile(&session.files().file(1));
+    session.map().removeFile(&session.map().files().file(1));
     EXPECT_FALSE(commands.canMerge()) << "one is on disk, and what was taken off stays off";
-    session.removeFile(&session.files().file(1));
+    session.map().removeFile(&session.map().files().file(1));
     ASSERT_TRUE(commands.canMerge());
     commands.mnuLoteMerge();
     EXPECT_EQ(listed(), Names{"Fusionado"});
-    EXPECT_EQ(lotsOf(session.files().file(0)).size(), 2U);
+    EXPECT_EQ(lotsOf(session.map().files().file(0)).size(), 2U);
 }
 
 TEST_F(LotCommandsTest, ALotTakenOffTheMapDoesNotComeBackByMerging) {
@@ -133,23 +136,23 @@ TEST_F(LotCommandsTest, ALotTakenOffTheMapDoesNotComeBackByMerging) {
     openLot("b.lot", squareRing(-59.5, -34, 1));
     openLot("c.lot", squareRing(-59, -34, 1));
     commands.mnuLoteMerge();
-    session.removeFile(&session.files().file(1));
+    session.map().removeFile(&session.map().files().file(1));
     commands.mnuLoteMerge();
     EXPECT_EQ(listed(), (Names{"Fusionado", "b.lot", "c.lot"}));
-    EXPECT_EQ(session.files().file(0).File_bound().minX, -59.5);
-    session.removeFile(&session.files().file(1));
+    EXPECT_EQ(session.map().files().file(0).File_bound().minX, -59.5);
+    session.map().removeFile(&session.map().files().file(1));
     EXPECT_FALSE(commands.canMerge());
 }
 
 TEST_F(LotCommandsTest, AResultOfMergingThatIsNotSavedGoesOnlyWhenTheUserAgrees) {
     openLot("a.lot", squareRing(-60, -34, 1));
     openLot("b.lot", squareRing(-59.5, -34, 1));
-    EXPECT_TRUE(session.mayCloseFiles());
+    EXPECT_TRUE(mayCloseFiles(session.map()));
     commands.mnuLoteMerge();
     dialogs.openAnswers.push_back({folder.file("b.lot")});
     const std::function<void()> ways[] = {
-        [this] { EXPECT_FALSE(session.mayCloseFiles()); },
-        [this] { session.removeCurrentFile(); },
+        [this] { EXPECT_FALSE(mayCloseFiles(session.map())); },
+        [this] { session.listCommands().removeCurrentFile(); },
         [this] { session.fileCommands().openRecent(folder.file("a.lot")); },
         [this] { session.fileCommands().fileOpen(); },
     };
@@ -162,19 +165,19 @@ TEST_F(LotCommandsTest, AResultOfMergingThatIsNotSavedGoesOnlyWhenTheUserAgrees)
         EXPECT_EQ(listed(), (Names{"Fusionado", "a.lot", "b.lot"}));
     }
     dialogs.yesNoAnswers = {true};
-    session.removeCurrentFile();
+    session.listCommands().removeCurrentFile();
     EXPECT_EQ(listed(), (Names{"a.lot", "b.lot"}));
     dialogs.questions.clear();
-    session.removeCurrentFile();  // this one is on disk
+    session.listCommands().removeCurrentFile();  // this one is on disk
     EXPECT_TRUE(dialogs.questions.empty());
 }
 
 TEST_F(LotCommandsTest, TheProposedNumberIsTheLotsOwnOrTheNextFree) {
-    EXPECT_EQ(proposedLotNumber(session, R"(C:\Lotes\LOTE07.lot)"), "7");
-    EXPECT_EQ(proposedLotNumber(session, "lote7.lot"), "1");
+    EXPECT_EQ(proposedLotNumber(session.map(), settings, R"(C:\Lotes\LOTE07.lot)"), "7");
+    EXPECT_EQ(proposedLotNumber(session.map(), settings, "lote7.lot"), "1");
     folder.write("lote01.lot", "");
     folder.write("lote02.lot", "");
-    EXPECT_EQ(proposedLotNumber(session, ""), "3");
+    EXPECT_EQ(proposedLotNumber(session.map(), settings, ""), "3");
     EXPECT_EQ(lotFileName(0), "lote00.lot");
     EXPECT_EQ(lotFileName(42), "lote42.lot");
 }

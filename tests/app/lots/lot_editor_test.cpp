@@ -22,9 +22,8 @@ struct LotEditorTest : testing::Test, SessionDesk {
 
     LotEditorTest() {
         session.start();
-        session.loadFile(writeLot(folder, "campo.lot", squareRing(-60, -34, kSide), "Campo 1"),
-                         false, true);
-        session.selectFile(std::nullopt);
+        open({writeLot(folder, "campo.lot", squareRing(-60, -34, kSide), "Campo 1")});
+        session.listCommands().selectFile(std::nullopt);
     }
     void click(CanvasPoint at) { drag(at, at); }
     void drag(CanvasPoint from, CanvasPoint to, Button button = Button::Left) {
@@ -33,7 +32,8 @@ struct LotEditorTest : testing::Test, SessionDesk {
         session.tools().release(button, to);
     }
     [[nodiscard]] CanvasPoint onCanvas(LonLat position) const {
-        return const_cast<Session&>(session).view().transform().mapToScreen(position.x, position.y);
+        return const_cast<Session&>(session).display().view().transform().mapToScreen(position.x,
+                                                                                      position.y);
     }
     /// Vertices as they lie on the canvas.
     [[nodiscard]] std::vector<CanvasPoint> drawn() const {
@@ -54,7 +54,7 @@ TEST_F(LotEditorTest, AClickAppendsAVertexAndADragMovesTheMap) {
     drawTriangle();
     EXPECT_EQ(drawn(), (std::vector<CanvasPoint>{{100, 450}, {900, 450}, {500, 50}}));
     EXPECT_EQ(window.overlay.vertex, (CanvasPoint{500, 50}));
-    session.view().zoomIn();
+    session.display().view().zoomIn();
     const auto before = drawn();
     drag({500, 200}, {450, 200});
     EXPECT_EQ(editor.draft().vertices().size(), 3U);
@@ -154,7 +154,7 @@ TEST_F(LotEditorTest, SavesWithItsNumberAndShowsTheLot) {
     editor.setDescription("Maíz\n7");
     dialogs.inputAnswers.push_back(" 7 ");
     dialogs.saveAnswers.push_back({target, 0});
-    const float scale = session.view().scaleX();
+    const float scale = session.display().view().scaleX();
     editor.save();
     EXPECT_EQ(dialogs.inputs.back(),
               std::to_string(static_cast<int>(TextId::AskLoteNumber)) + "|Lote Virtual|1");
@@ -167,7 +167,7 @@ TEST_F(LotEditorTest, SavesWithItsNumberAndShowsTheLot) {
     EXPECT_TRUE(contentOf(target).starts_with("Ma\xEDz\r\n7_\r\n"));
     EXPECT_EQ(listed(), (Names{"campo.lot", "lote07.lot"}));
     EXPECT_EQ(window.selected, 1);
-    EXPECT_EQ(session.view().scaleX(), scale);
+    EXPECT_EQ(session.display().view().scaleX(), scale);
     EXPECT_FALSE(editor.draft().isChanged());
     EXPECT_EQ(editor.path(), target);
 
@@ -233,7 +233,7 @@ TEST_F(LotEditorTest, FewVerticesAndADiskThatFailsAreTold) {
 }
 
 TEST_F(LotEditorTest, OffersTheSelectedLot) {
-    session.selectFile(0);
+    session.listCommands().selectFile(0);
     dialogs.yesNoAnswers = {true};
     editor.open();
     EXPECT_EQ(dialogs.questions.size(), 1U);
@@ -257,10 +257,10 @@ TEST_F(LotEditorTest, AsksBeforeWhatIsNotSavedIsLost) {
     EXPECT_FALSE(editor.close());
     EXPECT_TRUE(editor.isOpen());
     dialogs.yesNoAnswers = {false};
-    editor.edit(session.files().file(0));
+    editor.edit(session.map().files().file(0));
     EXPECT_EQ(drawn().size(), 3U);
     dialogs.yesNoAnswers = {true};
-    editor.edit(session.files().file(0));
+    editor.edit(session.map().files().file(0));
     EXPECT_EQ(drawn().size(), 4U);
     EXPECT_TRUE(editor.close());
     EXPECT_EQ(dialogs.questions.size(), 3U);
@@ -270,7 +270,7 @@ TEST_F(LotEditorTest, AsksBeforeWhatIsNotSavedIsLost) {
 }
 
 TEST_F(LotEditorTest, ADrawingThatWasClearedIsAskedAboutAndComesBackWithItsFile) {
-    editor.edit(session.files().file(0));
+    editor.edit(session.map().files().file(0));
     editor.add({-59.9, -33.9});
     editor.clear();
     EXPECT_EQ(editor.path(), "");
@@ -287,12 +287,12 @@ TEST_F(LotEditorTest, ADrawingThatWasClearedIsAskedAboutAndComesBackWithItsFile)
 TEST_F(LotEditorTest, TheMapLeavesOutWhatIsEdited) {
     const auto lotsOnMap = [this] {
         canvas.forget();
-        session.redraw();
+        session.display().redraw();
         return canvas.callsOf("polygon").size() / 2;  // inside and outline
     };
     ASSERT_EQ(lotsOnMap(), 1U);
     canvas.forget();
-    editor.edit(session.files().file(0));
+    editor.edit(session.map().files().file(0));
     EXPECT_EQ(redraws(), 1U);
     EXPECT_EQ(canvas.callsOf("polygon").size(), 0U);
     editor.saveBack();
@@ -307,7 +307,7 @@ TEST_F(LotEditorTest, TheMapLeavesOutWhatIsEdited) {
     EXPECT_EQ(canvas.callsOf("polygon").size(), 2U);
     // A new one joins the map, but not under its drawing.
     settings.values["LotesPath"] = folder.path();
-    session.selectFile(std::nullopt);
+    session.listCommands().selectFile(std::nullopt);
     editor.open();
     drawTriangle();
     dialogs.inputAnswers.push_back("1");
@@ -322,10 +322,10 @@ TEST_F(LotEditorTest, KeepsTheLotWhenTheMapChanges) {
     editor.open();
     drawTriangle();
     const LonLat vertex = editor.draft().vertices()[0];
-    session.removeFile(&session.files().file(0));
+    session.map().removeFile(&session.map().files().file(0));
     EXPECT_EQ(window.overlay.lot, std::nullopt);
     EXPECT_EQ(editor.draft().vertices().size(), 3U);
-    session.loadFile(writeLot(folder, "otro.lot", squareRing(-61, -35, 2)), false, true);
+    open({writeLot(folder, "otro.lot", squareRing(-61, -35, 2))});
     ASSERT_EQ(drawn().size(), 3U);
     EXPECT_EQ(drawn()[0], onCanvas(vertex));
 }
@@ -333,7 +333,7 @@ TEST_F(LotEditorTest, KeepsTheLotWhenTheMapChanges) {
 TEST_F(LotEditorTest, APositionThatIsLookedForIsMarkedBesideTheLot) {
     editor.open();
     drawTriangle();
-    session.view().zoomIn();
+    session.display().view().zoomIn();
     EXPECT_TRUE(session.tools().goTo({-59.75, -33.75}));
     EXPECT_EQ(window.overlay.vertex, onCanvas({-59.75, -33.75}));
     editor.select(0);

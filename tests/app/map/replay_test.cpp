@@ -43,6 +43,21 @@ private:
     std::int32_t count_;
 };
 
+/// A file of any layers, without a box.
+struct LayersFile : NamedFile {
+    LayersFile() : NamedFile("capas") { bound = {}; }
+
+    std::vector<std::unique_ptr<Gph>> layers;
+
+    [[nodiscard]] std::vector<Gph*> File_gphList() const override {
+        std::vector<Gph*> all;
+        for (const auto& layer : layers) {
+            all.push_back(layer.get());
+        }
+        return all;
+    }
+};
+
 /// A window whose slider reports what it is told as a movement by the user.
 class EchoingWindow : public ScriptedWindow {
 public:
@@ -56,8 +71,13 @@ public:
 };
 
 /// A prescription "p" between two tracks, "a" of 3 steps and "b" of 5.
-struct Desk {
-    Desk() {
+struct ReplayDesk {
+    ReplayDesk() : layers(addFile().layers) {
+        display.beforeDrawing = [this] {
+            replay.stopReplay();
+            canvas.text({}, "map", TextAnchor::TopLeft, false);
+        };
+        display.leftOut = [this] { return file; };
         layers.push_back(std::make_unique<Steps>("a", 3));
         layers.push_back(std::make_unique<Steps>("p", 0));
         layers.push_back(std::make_unique<Steps>("b", 5));
@@ -66,6 +86,12 @@ struct Desk {
         replay.prepareReplay();
     }
 
+    LayersFile& addFile() {
+        auto made = std::make_unique<LayersFile>();
+        file = made.get();
+        map.addFile(std::move(made), false);
+        return *file;
+    }
     /// What was drawn since the last call: the names in order, "|" for a cleared canvas.
     std::string drawn() {
         std::string names;
@@ -96,33 +122,19 @@ struct Desk {
     RecordingCanvas canvas{{1000, 500}};
     EchoingWindow window;
     ScriptedClock clock;
-    MapStyle style;
     Texts texts{Language::Spanish};
     FixedLocale locale{','};
+    ScriptedDialogs dialogs;
     int hidden = 0;
-    std::vector<std::unique_ptr<Gph>> layers;
-    MapView view{canvas, window, style, [this](MapContext& context) {
-                     replay.stopReplay();
-                     context.canvas.text({}, "map", TextAnchor::TopLeft, false);
-                 }};
-    Replay replay{canvas,
-                  window,
-                  clock,
-                  view,
-                  style,
-                  texts,
-                  locale,
-                  [this] {
-                      std::vector<Gph*> all;
-                      for (const auto& layer : layers) {
-                          all.push_back(layer.get());
-                      }
-                      return all;
-                  },
-                  [this] { ++hidden; }};
+    OpenMap map{{dialogs, texts, locale}, ""};
+    MapDisplay display{map, canvas, window};
+    MapView& view = display.view();
+    LayersFile* file = nullptr;
+    std::vector<std::unique_ptr<Gph>>& layers;
+    Replay replay{map, display, clock, [this] { ++hidden; }};
 };
 
-struct ReplayTest : testing::Test, Desk {};
+struct ReplayTest : testing::Test, ReplayDesk {};
 
 TEST_F(ReplayTest, PlaysEveryElementOnceAfterWhatDoesNotMove) {
     EXPECT_EQ(window.replay, at(0));
@@ -171,7 +183,7 @@ TEST(Replay, SeeksAndPausesAndPlaysOn) {
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
-        Desk d;
+        ReplayDesk d;
         d.replay.setSpeed(250);
         d.replay.seek(row.target);
         EXPECT_EQ(d.clock.sleeps.size(), 0U);
@@ -207,7 +219,7 @@ TEST(Replay, WhatTheUserDoesMeanwhileActsOnTheReplayThatRuns) {
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
-        Desk d;
+        ReplayDesk d;
         d.after(2, [&] {
             for (const Act& act : row.acts) {
                 act(d.replay);

@@ -19,7 +19,7 @@ using Names = std::vector<std::string>;
 struct FileCommandsTest : testing::Test, SessionDesk {
     FileCommandsTest() { session.start(); }
 
-    FileCommands commands{session};
+    FileCommands& commands = session.fileCommands();
 };
 
 TEST_F(FileCommandsTest, OpensTheChosenFilesAndRemembersTheirFolder) {
@@ -27,7 +27,7 @@ TEST_F(FileCommandsTest, OpensTheChosenFilesAndRemembersTheirFolder) {
     settings.values["OpenPath"] = folder.path();
     dialogs.openAnswers = {{}};
     commands.fileOpen();
-    EXPECT_EQ(session.plotCount(), 1) << "cancelled";
+    EXPECT_EQ(session.map().plotCount(), 1) << "cancelled";
     ASSERT_EQ(dialogs.opens.size(), 1U);
     EXPECT_EQ(dialogs.opens[0].folder, folder.path());
 
@@ -40,18 +40,18 @@ TEST_F(FileCommandsTest, OpensTheChosenFilesAndRemembersTheirFolder) {
     settings.values["OpenPath"] = "no/such/folder";
     dialogs.openAnswers = {{}};
     commands.fileOpen();
-    EXPECT_EQ(dialogs.opens.back().folder, session.programFolder());
+    EXPECT_EQ(dialogs.opens.back().folder, session.map().programFolder());
 }
 
 TEST_F(FileCommandsTest, CancellingAPreviewPutsEverythingBack) {
-    session.loadFile(report("lote.rpt"), false, true);
-    session.style().graduated = false;
+    open({report("lote.rpt")});
+    session.map().style().graduated = false;
     session.modes().mnuColorDateMap();
-    session.defaultScale().setClassNumber(3);
-    session.view().zoomIn();
-    const ViewTransform view = session.view().transform();
+    session.map().scales().of(false).setClassNumber(3);
+    session.display().view().zoomIn();
+    const ViewTransform view = session.display().view().transform();
     const std::string title = window.title;
-    const ValueRanges ranges = session.ranges();
+    const ValueRanges ranges = session.map().ranges();
 
     const std::string broken = folder.write("roto.rpt", "no es un reporte");
     dialogs.openSelections = {
@@ -61,12 +61,13 @@ TEST_F(FileCommandsTest, CancellingAPreviewPutsEverythingBack) {
 
     EXPECT_EQ(listed(), Names{"lote.rpt"});
     EXPECT_EQ(window.title, title);
-    EXPECT_EQ(session.ranges(), ranges);
-    EXPECT_FALSE(session.style().graduated);
+    EXPECT_EQ(session.map().ranges(), ranges);
+    EXPECT_FALSE(session.map().style().graduated);
     EXPECT_EQ(session.modes().drawAllCaption(), TextId::OnlySprayed) << "the preview was sown";
-    EXPECT_EQ(session.style().mode, ColorMode::Date) << "a track has no dates";
-    EXPECT_EQ(session.defaultScale().count(), 3);
-    EXPECT_EQ(session.view().transform().mapToScreen(-60, -33), view.mapToScreen(-60, -33));
+    EXPECT_EQ(session.map().style().mode, ColorMode::Date) << "a track has no dates";
+    EXPECT_EQ(session.map().scales().of(false).count(), 3);
+    EXPECT_EQ(session.display().view().transform().mapToScreen(-60, -33),
+              view.mapToScreen(-60, -33));
     EXPECT_TRUE(dialogs.messages.empty()) << "a preview says nothing";
     EXPECT_TRUE(window.mapActive);
 }
@@ -79,14 +80,14 @@ TEST_F(FileCommandsTest, ARecentFileThatIsGoneLeavesTheList) {
     commands.openRecent(gone);
     EXPECT_EQ(dialogs.messages, Names{"Exclamation|Campora|No se encuentra el archivo: " + gone});
     EXPECT_EQ(commands.recentFiles(), Names{kept});
-    EXPECT_EQ(session.plotCount(), 2) << "what is open stays";
+    EXPECT_EQ(session.map().plotCount(), 2) << "what is open stays";
     commands.openRecent(kept);
     EXPECT_EQ(listed(), Names{"lote.rpt"});
 }
 
 TEST_F(FileCommandsTest, StepsThroughTheFilesOfTheFolder) {
     commands.stepInFolder(1);
-    EXPECT_EQ(session.plotCount(), 0) << "nothing open: nowhere to start";
+    EXPECT_EQ(session.map().plotCount(), 0) << "nothing open: nowhere to start";
     report("c.rpt", 1, 3);
     report("B.rpt", 1, 2);
     commands.openPaths({report("a.rpt")}, true);
@@ -103,9 +104,9 @@ TEST_F(FileCommandsTest, AStepLosesNothingUnsavedUnasked) {
     writeLot(folder, "a.lot", squareRing(-60, -34, 1), "");
     writeLot(folder, "b.lot", squareRing(-59.5, -34, 1), "");
     commands.openPaths({folder.file("a.lot"), folder.file("b.lot")}, true);
-    session.lots().mnuLoteMerge();
+    session.lotCommands().mnuLoteMerge();
     for (const int step : {1, -1}) {
-        session.selectFile(step > 0 ? 1 : 2);
+        session.listCommands().selectFile(step > 0 ? 1 : 2);
         dialogs.yesNoAnswers = {false};
         commands.stepInFolder(step);
         EXPECT_EQ(listed(), (Names{"Fusionado", "a.lot", "b.lot"})) << step;
@@ -120,15 +121,15 @@ TEST_F(FileCommandsTest, ReloadKeepsWhatCannotBeReadAgain) {
     const std::string changed = report("cambia.rpt");
     const std::string broken = report("roto.rpt", 1, 2);
     commands.openPaths({changed, broken}, true);
-    session.selectFile(1);
+    session.listCommands().selectFile(1);
     report("cambia.rpt", 5000);
     folder.write("roto.rpt", "x");
     commands.reload();
     EXPECT_EQ(listed(), (Names{"cambia.rpt", "roto.rpt"}));
     EXPECT_EQ(window.selected, 1);
     EXPECT_EQ(dialogs.messages.size(), 1U);
-    EXPECT_NEAR(session.ranges().dose->greatest, 502, 0.01);
-    EXPECT_EQ(session.ranges().dose->least, 0) << "of the one that stayed";
+    EXPECT_NEAR(session.map().ranges().dose->greatest, 502, 0.01);
+    EXPECT_EQ(session.map().ranges().dose->least, 0) << "of the one that stayed";
 }
 
 TEST_F(FileCommandsTest, CancellingSeveralKeepsThoseThatWereOpened) {

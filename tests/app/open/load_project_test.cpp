@@ -22,6 +22,12 @@ using Names = std::vector<std::string>;
 
 constexpr const char* kHeader = "*FurrowScope Project File*\r\n";
 
+bool openProject(SessionDesk& desk, const std::string& path) {
+    const bool isProject = loadProject(desk.session.map(), path);
+    desk.session.display().loadFileList(true);
+    return isProject;
+}
+
 TEST(ProjectFile, TheFirstLineSaysWhetherItIsOne) {
     const TempFolder folder;
     const std::pair<std::string, bool> rows[] = {
@@ -58,21 +64,19 @@ TEST(ProjectFile, EveryLineIsACommentOrAPath) {
                 ElementsAre("/opt/\\a"));
 }
 
-TEST(LoadProject, OpensTheFilesBesideTheOpenOnesAndShowsThemOnce) {
+TEST(LoadProject, OpensTheFilesBesideTheOpenOnes) {
     SessionDesk desk;
     desk.session.start();
-    ASSERT_TRUE(desk.session.loadFile(desk.report("abierto.rpt"), true, true));
+    ASSERT_TRUE(desk.open({desk.report("abierto.rpt")}, true));
     desk.report("Lote 1.rpt", 1000, 0x6002);
     desk.report("lote 2.rpt", 1000, 0x6003);
     const std::string project = desk.folder.write(
         "campo.fsp", std::string(kHeader) + "\\LOTE 1.RPT\r\n/lote 2.rpt\r\n/lote 1.rpt\r\n");
-    const std::size_t before = desk.redraws();
-    EXPECT_TRUE(loadProject(desk.session, project));
+    EXPECT_TRUE(openProject(desk, project));
     EXPECT_EQ(desk.listed(), (Names{"abierto.rpt", "Lote 1.rpt", "lote 2.rpt"}));
-    EXPECT_EQ(desk.redraws(), before + 1);
     EXPECT_THAT(desk.dialogs.messages, IsEmpty());
-    EXPECT_FALSE(loadProject(desk.session, desk.folder.file("lote 2.rpt")));
-    EXPECT_FALSE(loadProject(desk.session, desk.folder.file("falta.fsp")));
+    EXPECT_FALSE(openProject(desk, desk.folder.file("lote 2.rpt")));
+    EXPECT_FALSE(openProject(desk, desk.folder.file("falta.fsp")));
 }
 
 TEST(LoadProject, MissingFilesAreNamedAndOthersOpened) {
@@ -83,7 +87,7 @@ TEST(LoadProject, MissingFilesAreNamedAndOthersOpened) {
     const std::string folder = desk.folder.path();
     const std::string project = desk.folder.write(
         "campo.fsp", std::string(kHeader) + "\r\n/falta.rpt\r\n/carta.doc\r\n/lote.rpt\r\n");
-    EXPECT_TRUE(loadProject(desk.session, project));
+    EXPECT_TRUE(openProject(desk, project));
     EXPECT_EQ(desk.listed(), Names{"lote.rpt"});
     EXPECT_THAT(
         desk.dialogs.messages,
@@ -96,7 +100,7 @@ TEST(LoadProject, OneWithoutAUsableEntryIsRefused) {
     const std::string project =
         desk.folder.write("campo.fsp", std::string(kHeader) + "/carta.doc\r\n# nada\r\n");
     desk.folder.write("carta.doc", "Estimado");
-    EXPECT_TRUE(loadProject(desk.session, project));
+    EXPECT_TRUE(openProject(desk, project));
     EXPECT_THAT(desk.dialogs.messages, ElementsAre("Exclamation|Campora|El proyecto " + project +
                                                    " no tiene archivos que se puedan abrir"));
 }
@@ -110,7 +114,7 @@ TEST(LoadProject, ProjectsInProjectsAreReadOnce) {
     const std::string project = desk.folder.write(
         "campo.fsp", std::string(kHeader) + "/campo.fsp\r\n/a.rpt\r\n/dentro.txt\r\n/c.rpt");
     desk.session.start();
-    EXPECT_TRUE(loadProject(desk.session, project));
+    EXPECT_TRUE(openProject(desk, project));
     EXPECT_EQ(desk.listed(), (Names{"a.rpt", "b.rpt", "c.rpt"}));
     EXPECT_THAT(desk.dialogs.messages, IsEmpty());
 }
@@ -124,7 +128,7 @@ TEST(LoadProject, OtherComputersAreAskedAboutOnceBeforeTheyAreTouched) {
                                                 "\\\\galpon\\b\\2.rpt\r\n");
         desk.session.start();
         desk.dialogs.yesNoAnswers = {yes};
-        EXPECT_TRUE(loadProject(desk.session, project));
+        EXPECT_TRUE(openProject(desk, project));
         EXPECT_EQ(desk.listed(), Names{"lote.rpt"});
         EXPECT_THAT(desk.dialogs.questions,
                     ElementsAre("Question|Campora|" + project +
@@ -150,7 +154,7 @@ TEST(LoadProject, ACancelledSearchOpensNothingAndSaysWhatWasLeft) {
     const std::string project = desk.folder.write("campo.fsp", std::string(kHeader) + lines);
     desk.session.start();
     desk.dialogs.cancelAfter = 2;
-    EXPECT_TRUE(loadProject(desk.session, project));
+    EXPECT_TRUE(openProject(desk, project));
     EXPECT_THAT(desk.listed(), IsEmpty());
     EXPECT_THAT(desk.dialogs.messages,
                 ElementsAre("Exclamation|Campora|La apertura del proyecto se canceló. Archivos que "

@@ -25,7 +25,7 @@ using Lines = std::vector<std::string>;
 struct EditsDesk : SessionDesk {
     EditsDesk() {
         session.start();
-        EXPECT_TRUE(session.loadFile(path, true, true));
+        EXPECT_TRUE(open({path}, true));
     }
     /// Gives a row another value; a name that is not there makes a row.
     [[nodiscard]] bool edit(const std::string& name, const std::string& value) {
@@ -46,11 +46,13 @@ struct EditsDesk : SessionDesk {
     [[nodiscard]] int indexOf(const std::string& name) const {
         return static_cast<int>(&row(name) - window.summary.data());
     }
-    [[nodiscard]] const FileProperties& summary() { return session.files().file(0).File_resumen(); }
+    [[nodiscard]] const FileProperties& summary() {
+        return session.map().files().file(0).File_resumen();
+    }
 
     std::string path = report("lote.rpt");
     std::string kept = path + ".campora.json";
-    SummaryCommands& commands = session.summary();
+    SummaryCommands& commands = session.summaryCommands();
 };
 
 TEST(SummaryCommands, EditsAreShownBesideWhatWasMeasuredAndStay) {
@@ -71,9 +73,9 @@ TEST(SummaryCommands, EditsAreShownBesideWhatWasMeasuredAndStay) {
         EXPECT_TRUE(desk.dialogs.messages.empty());
     };
     check("edited");
-    desk.session.reloadFiles();
+    desk.session.fileCommands().reload();
     check("read again");
-    desk.session.loadFile(desk.path, true, true);
+    desk.open({desk.path}, true);
     check("opened again");
 
     desk.commands.backToMeasured(desk.indexOf("Piloto:"));
@@ -93,7 +95,7 @@ TEST(SummaryCommands, RowsThatWereRemovedOrMovedComeBack) {
     rows.select(1);
     rows.down();
     ASSERT_TRUE(desk.commands.keep(rows));
-    desk.session.reloadFiles();
+    desk.session.fileCommands().reload();
     ASSERT_EQ(desk.window.summary.size(), before.size() - 1);
     EXPECT_EQ(desk.window.summary[0], before[1]);
     EXPECT_EQ(desk.window.summary[1], before[3]);
@@ -125,10 +127,10 @@ TEST(SummaryCommands, EditsThatCannotBeUsedAreLeftAloneUntilTheUserSaysSo) {
         SCOPED_TRACE(row.name);
         EditsDesk desk;
         desk.folder.write("lote.rpt.campora.json", row.content);
-        ASSERT_TRUE(desk.session.loadFile(desk.path, true, true));
+        ASSERT_TRUE(desk.open({desk.path}, true));
         EXPECT_THAT(desk.dialogs.messages, IsEmpty());
         EXPECT_TRUE(desk.summary().edits.empty());
-        const std::vector<Remark>& remarks = desk.session.files().file(0).remarks();
+        const std::vector<Remark>& remarks = desk.session.map().files().file(0).remarks();
         ASSERT_EQ(remarks.size(), 1U);
         EXPECT_THAT(desk.session.texts().sentence(remarks.front()),
                     testing::AllOf(HasSubstr("lote.rpt.campora.json"), HasSubstr(row.says)));
@@ -138,8 +140,8 @@ TEST(SummaryCommands, EditsThatCannotBeUsedAreLeftAloneUntilTheUserSaysSo) {
         EXPECT_EQ(desk.row("Piloto:"), SummaryRow());
         EXPECT_TRUE(desk.edit("Piloto:", "Ana"));
         EXPECT_EQ(desk.dialogs.questions.size(), 2U);
-        EXPECT_TRUE(desk.session.files().file(0).remarks().empty());
-        desk.session.reloadFiles();
+        EXPECT_TRUE(desk.session.map().files().file(0).remarks().empty());
+        desk.session.fileCommands().reload();
         EXPECT_EQ(desk.row("Piloto:").value, "Ana ");
     }
 }
@@ -152,9 +154,9 @@ TEST(SummaryCommands, ADamagedFileOfEditsNeverCrashes) {
         std::string broken = whole;
         broken[i] = static_cast<char>(broken[i] ^ 0x11);
         desk.folder.write("lote.rpt.campora.json", i % 2 == 0 ? broken : whole.substr(0, i));
-        desk.session.reloadFiles();
+        desk.session.fileCommands().reload();
         const bool isUsed = !desk.summary().edits.empty();
-        EXPECT_NE(isUsed, !desk.session.files().file(0).remarks().empty()) << i;
+        EXPECT_NE(isUsed, !desk.session.map().files().file(0).remarks().empty()) << i;
     }
 }
 
@@ -162,7 +164,7 @@ TEST(SummaryCommands, EditsThatCannotBeKeptAreNotMade) {
     EditsDesk desk;
     // A folder that nobody can write into, whoever runs the test.
     std::filesystem::create_directory(nativePath(desk.kept));
-    EXPECT_TRUE(desk.session.loadFile(desk.path, true, true));
+    EXPECT_TRUE(desk.open({desk.path}, true));
     desk.dialogs.yesNoAnswers = {true};
     EXPECT_FALSE(desk.edit("Piloto:", "Ana"));
     EXPECT_THAT(desk.dialogs.messages, ElementsAre(HasSubstr("no se pudieron guardar")));
@@ -173,19 +175,19 @@ TEST(SummaryCommands, EditsThatCannotBeKeptAreNotMade) {
 TEST(SummaryCommands, ASummaryFileThatCameBackIsEditedItself) {
     SessionDesk desk;
     desk.session.start();
-    desk.session.loadFile(desk.track("log0001.nbr", 5), true, true);
-    EXPECT_EQ(desk.session.summary().summaryFile(), "");
+    desk.open({desk.track("log0001.nbr", 5)}, true);
+    EXPECT_EQ(desk.session.summaryCommands().summaryFile(), "");
     const std::string file = desk.folder.write("Wrk0001.txt", "Lote:,7,\r\n");
-    EXPECT_EQ(desk.session.summary().summaryFile(), file);
+    EXPECT_EQ(desk.session.summaryCommands().summaryFile(), file);
     EXPECT_EQ(desk.window.summary, (std::vector<SummaryRow>{{"Lote:", "7 "}}));
     std::filesystem::remove(nativePath(file));
-    desk.session.summary().reread();
+    desk.session.summaryCommands().reread();
     EXPECT_EQ(desk.window.summary.size(), 1U) << "what was read is not forgotten";
-    EXPECT_EQ(desk.session.summary().summaryFile(), file);
+    EXPECT_EQ(desk.session.summaryCommands().summaryFile(), file);
     desk.folder.write("Wrk0001.txt", "");
-    desk.session.summary().reread();
+    desk.session.summaryCommands().reread();
     EXPECT_EQ(desk.window.summary.size(), 0U);
-    EXPECT_EQ(desk.session.summary().summaryFile(), file) << "an empty one can be filled";
+    EXPECT_EQ(desk.session.summaryCommands().summaryFile(), file) << "an empty one can be filled";
 }
 
 }  // namespace

@@ -25,15 +25,18 @@ using Names = std::vector<std::string>;
 /// A card with order 15 of two works and a work without a number, and an open report.
 struct WorkOrdersBrowserTest : testing::Test, SessionDesk {
     std::string card = folder.file("card");
-    std::vector<int> percents;
-    WorkOrdersBrowser::Step step = [this](int percent) {
-        percents.push_back(percent);
-        return true;
-    };
+    struct Steps final : Progress {
+        std::vector<int> percents;
+        bool goesOn = true;
+        [[nodiscard]] bool report(int percent) override {
+            percents.push_back(percent);
+            return goesOn;
+        }
+    } steps;
 
     void SetUp() override {
         session.start();
-        ASSERT_TRUE(session.loadFile(report("abierto.rpt"), true, true));
+        ASSERT_TRUE(open({report("abierto.rpt")}, true));
         writeTrack("card/log1.nbr", "15", "6001");
         writeTrack("card/log2.nbr", "15", "6002");
         writeTrack("card/log3.nbr", "0", "6003");
@@ -51,18 +54,20 @@ struct WorkOrdersBrowserTest : testing::Test, SessionDesk {
 };
 
 TEST_F(WorkOrdersBrowserTest, ListsTheOrdersOfAFolder) {
-    WorkOrdersBrowser browser(session);
+    WorkOrdersBrowser browser(session.map(), session.display(), session.tools(),
+                              session.services());
     EXPECT_TRUE(browser.showFolder(card));
     EXPECT_THAT(browser.rows(), ElementsAre(OrderRow{"Orden 15", "15/07/16", "18:03:32", "2"},
                                             OrderRow{"Sin número", "15/07/16", "18:03:32", "1"}));
     browser.select(2);
     EXPECT_EQ(browser.selected(), std::nullopt);
-    EXPECT_EQ(browser.open(step), 0);
+    EXPECT_EQ(browser.open(steps), 0);
 }
 
 TEST_F(WorkOrdersBrowserTest, AScanGivesWayToTheNextFolder) {
     folder.write("leer/LEEME.TXT", "");
-    WorkOrdersBrowser browser(session);
+    WorkOrdersBrowser browser(session.map(), session.display(), session.tools(),
+                              session.services());
     bool changed = false;
     clock.onEvents = [&](int) {
         if (!std::exchange(changed, true)) {
@@ -78,25 +83,28 @@ TEST_F(WorkOrdersBrowserTest, AScanGivesWayToTheNextFolder) {
 }
 
 TEST_F(WorkOrdersBrowserTest, OpensTheFilesOfAnOrderBesideTheOthers) {
-    WorkOrdersBrowser browser(session);
+    WorkOrdersBrowser browser(session.map(), session.display(), session.tools(),
+                              session.services());
     browser.showFolder(card);
     browser.select(0);
     const std::size_t before = redraws();
-    EXPECT_EQ(browser.open(step), 2);
+    EXPECT_EQ(browser.open(steps), 2);
     EXPECT_EQ(listed(), (Names{"abierto.rpt", "15 - log1.nbr", "15 - log2.nbr"}));
-    EXPECT_THAT(percents, ElementsAre(50, 100));
+    EXPECT_THAT(steps.percents, ElementsAre(50));
     EXPECT_EQ(redraws(), before + 1);
     browser.select(1);
-    EXPECT_EQ(browser.open([](int) { return false; }), 1);
+    steps.goesOn = false;
+    EXPECT_EQ(browser.open(steps), 1);
     browser.cancel();
-    EXPECT_EQ(session.plotCount(), 4) << "what was opened stays";
+    EXPECT_EQ(session.map().plotCount(), 4) << "what was opened stays";
 }
 
 TEST_F(WorkOrdersBrowserTest, APreviewComesAndGoesWithTheSelection) {
     const Names open = {"abierto.rpt"};
     const Names alone = {"15 - log1.nbr", "15 - log2.nbr"};
     const Names adding = {"abierto.rpt", "15 - log1.nbr", "15 - log2.nbr"};
-    WorkOrdersBrowser browser(session);
+    WorkOrdersBrowser browser(session.map(), session.display(), session.tools(),
+                              session.services());
     EXPECT_THAT(browser.previewChoices(),
                 ElementsAre(OrderPreview::None, OrderPreview::Alone, OrderPreview::Adding));
     browser.showFolder(card);
@@ -115,17 +123,18 @@ TEST_F(WorkOrdersBrowserTest, APreviewComesAndGoesWithTheSelection) {
     EXPECT_EQ(listed(), open) << "another folder has no selection";
     browser.select(0);
     browser.choosePreview(OrderPreview::Alone);
-    EXPECT_EQ(browser.open(step), 2);
+    EXPECT_EQ(browser.open(steps), 2);
     EXPECT_EQ(listed(), adding);
 }
 
 TEST_F(WorkOrdersBrowserTest, CancellingPutsBackWhatAPreviewReplaced) {
     writeTrack("menos.nbr", "15", "6001", 2);  // the work of log1.nbr, less complete
-    ASSERT_TRUE(session.loadFile(folder.file("menos.nbr"), false, true));
+    ASSERT_TRUE(open({folder.file("menos.nbr")}));
     const Names before = listed();
     const std::string title = window.title;
     for (const OrderPreview preview : {OrderPreview::Alone, OrderPreview::Adding}) {
-        WorkOrdersBrowser browser(session);
+        WorkOrdersBrowser browser(session.map(), session.display(), session.tools(),
+                                  session.services());
         browser.showFolder(card);
         browser.choosePreview(preview);
         browser.select(0);
@@ -135,12 +144,17 @@ TEST_F(WorkOrdersBrowserTest, CancellingPutsBackWhatAPreviewReplaced) {
         EXPECT_EQ(window.title, title);
     }
     EXPECT_THAT(dialogs.questions, IsEmpty()) << "a preview asks nothing";
-    session.reset();
-    EXPECT_EQ(WorkOrdersBrowser(session).previewChoices().size(), 2U);
+    session.map().reset();
+    EXPECT_EQ(
+        WorkOrdersBrowser(session.map(), session.display(), session.tools(), session.services())
+            .previewChoices()
+            .size(),
+        2U);
 }
 
 TEST_F(WorkOrdersBrowserTest, CopiesToAFolderThatItRemembers) {
-    WorkOrdersBrowser browser(session);
+    WorkOrdersBrowser browser(session.map(), session.display(), session.tools(),
+                              session.services());
     browser.showFolder(card);
     browser.select(0);
     dialogs.folderAnswers = {"", folder.path(), ""};

@@ -33,7 +33,7 @@ std::vector<std::string> textsOf(const PageLayout& page) {
 }
 
 struct PrintDesk : SessionDesk {
-    PrintCommands print{session};
+    PrintCommands print{session.map(), session.display(), session.services()};
 
     /// What the program says when the page goes to that path.
     std::string saved(const std::string& path, const Result<std::string>& pdf) {
@@ -48,7 +48,7 @@ TEST(PrintCommands, ThePageTellsOfTheSelectedFile) {
     PrintDesk desk;
     desk.add("uno.rpt");
     desk.add("dos.rpt");
-    desk.session.selectFile(1);
+    desk.session.listCommands().selectFile(1);
     desk.print.change(desk.print.setup(), "Glifosato\n2 l/ha");
     const std::vector<std::string> texts = textsOf(desk.print.page(halfEach));
     for (const char* said : {"dos.rpt y 1 más", "/campo/dos.rpt", "Área:", "12.5 Has", "Glifosato",
@@ -58,9 +58,9 @@ TEST(PrintCommands, ThePageTellsOfTheSelectedFile) {
     EXPECT_THAT(texts, Contains("Impreso el " + dateText(desk.clock.today(), "dd/mm/yyyy")));
     EXPECT_EQ(desk.print.documentName(), "dos");
     EXPECT_EQ(desk.settings.values["printDescription"], "Glifosato\n2 l/ha");
-    EXPECT_EQ(desk.session.printDescription, "Glifosato\n2 l/ha");
+    EXPECT_EQ(desk.print.description(), "Glifosato\n2 l/ha");
 
-    desk.session.selectFile(std::nullopt);
+    desk.session.listCommands().selectFile(std::nullopt);
     EXPECT_THAT(textsOf(desk.print.page(halfEach)), Contains("uno.rpt y 1 más"));
 }
 
@@ -68,9 +68,9 @@ TEST(PrintCommands, TheMapIsDrawnAgainAndTheWindowStaysAsItWas) {
     PrintDesk desk;
     desk.add("a");
     desk.add("b");
-    desk.session.view().zoomIn();
-    desk.session.style().colors.back = Color{0x123456};
-    const MapView::Place place = desk.session.view().place();
+    desk.session.display().view().zoomIn();
+    desk.session.map().style().colors.back = Color{0x123456};
+    const MapView::Place place = desk.session.display().view().place();
     desk.canvas.forget();
 
     const PageLayout page = desk.print.page(halfEach);
@@ -79,9 +79,9 @@ TEST(PrintCommands, TheMapIsDrawnAgainAndTheWindowStaysAsItWas) {
     EXPECT_EQ(paper.calls().front(), "clear 0x123456");
     EXPECT_EQ(paper.callsOf("text").size(), 4U);
     EXPECT_THAT(desk.canvas.calls(), IsEmpty());
-    EXPECT_EQ(desk.session.view().place().scale, place.scale);
-    EXPECT_EQ(desk.session.view().place().scrollX, place.scrollX);
-    EXPECT_EQ(desk.session.view().place().scrollY, place.scrollY);
+    EXPECT_EQ(desk.session.display().view().place().scale, place.scale);
+    EXPECT_EQ(desk.session.display().view().place().scrollX, place.scrollX);
+    EXPECT_EQ(desk.session.display().view().place().scrollY, place.scrollY);
 }
 
 TEST(PrintCommands, DrawingCanBeCancelled) {

@@ -40,7 +40,8 @@ struct PrescCommandsTest : testing::Test, SessionDesk {
     /// The dose tool on the middle of zone n.
     void clickOn(int n) {
         session.tools().setTool(MapTools::Tool::PrescDosis);
-        const CanvasPoint at = session.view().transform().mapToScreen(-59.995 + 0.01 * n, -32.995);
+        const CanvasPoint at =
+            session.display().view().transform().mapToScreen(-59.995 + 0.01 * n, -32.995);
         session.tools().press(MapTools::Button::Left, at);
         session.tools().release(MapTools::Button::Left, at);
     }
@@ -52,7 +53,7 @@ struct PrescCommandsTest : testing::Test, SessionDesk {
         return values;
     }
 
-    PrescCommands& commands = session.prescription();
+    PrescCommands& commands = session.prescCommands();
     std::vector<std::unique_ptr<GphPresc>> chosen;
     std::vector<std::pair<int, float>> asked;
     std::optional<float> answer;
@@ -61,13 +62,13 @@ struct PrescCommandsTest : testing::Test, SessionDesk {
 TEST_F(PrescCommandsTest, MakesAPrescriptionBesideWhatIsOpenAndClosesIt) {
     commands.mnuFilePrescript();  // cancelled
     EXPECT_FALSE(commands.isOpen());
-    ASSERT_TRUE(session.loadFile(report("a.rpt"), true, true));
+    ASSERT_TRUE(open({report("a.rpt")}, true));
     create({{"10", "20"}, {"5", "6"}});
     EXPECT_EQ(listed(), (Names{"Prescripción", "a.rpt"}));
     EXPECT_EQ(legend(), (Names{"0", "10", "20"}));
     EXPECT_EQ(commands.prescriptCaption(), TextId::ActionClosePrescription);
 
-    session.reloadFiles();
+    session.fileCommands().reload();
     EXPECT_EQ(listed(), (Names{"Prescripción", "a.rpt"}));
     session.modes().mnuColorScaleSelCH(1);
     EXPECT_EQ(legend(), (Names{"0", "5", "6"}));
@@ -85,7 +86,7 @@ TEST_F(PrescCommandsTest, ChangedDosesAreNotLostUnasked) {
     clickOn(0);
     dialogs.yesNoAnswers = {false, false, false};
     commands.mnuFilePrescript();
-    session.removeCurrentFile();
+    session.listCommands().removeCurrentFile();
     dialogs.openAnswers = {{report("a.rpt")}};
     session.fileCommands().fileOpen();
     EXPECT_EQ(dialogs.questions.size(), 3U);
@@ -115,8 +116,8 @@ TEST_F(PrescCommandsTest, TheDoseToolChangesAZoneOfTheCurrentChannel) {
     EXPECT_TRUE(product.value.ends_with(" unid")) << product.value;
     EXPECT_NEAR(std::stod(product.value), (8 + 6) * 103.95, 15) << "in whole doses, as a PRE";
 
-    ASSERT_TRUE(session.loadFile(folder.file("canal1.shp"), false, true));
-    session.removeFile(commands.prescription());
+    ASSERT_TRUE(open({folder.file("canal1.shp")}));
+    session.map().removeFile(commands.prescription());
     clickOn(0);
     EXPECT_EQ(asked.size(), 2U);
     EXPECT_EQ(session.tools().tool(), MapTools::Tool::None);
@@ -125,7 +126,7 @@ TEST_F(PrescCommandsTest, TheDoseToolChangesAZoneOfTheCurrentChannel) {
 TEST_F(PrescCommandsTest, TheLegendChangesADoseAndTheSummaryFollows) {
     create({{"10", "20", "10"}});
     dialogs.inputAnswers.push_back("40");
-    session.legend().askClassValue(1);
+    session.legendCommands().askClassValue(1);
     EXPECT_EQ(legend(), (Names{"0", "20", "40"}));
     EXPECT_EQ(window.legend.valueChangeCaption, "Cambiar Dosis");
     EXPECT_NEAR(std::stod(window.summary.back().value), 100 * 103.95, 100);
@@ -147,7 +148,7 @@ TEST_F(PrescCommandsTest, SavesAPreThatShowsTheChangedDoses) {
     EXPECT_TRUE(std::filesystem::exists(nativePath(folder.file("salida/uno.rpt"))));
 
     const std::vector<SummaryRow> panel = window.summary;
-    ASSERT_TRUE(session.loadFile(path, true, true));
+    ASSERT_TRUE(open({path}, true));
     EXPECT_FALSE(commands.isOpen());
     EXPECT_EQ(legend(), (Names{"1", "10", "33"}));
     const auto figures = [](const std::vector<SummaryRow>& rows) {
@@ -171,7 +172,7 @@ TEST_F(PrescCommandsTest, SavesAVrtUnderItsName) {
     commands.mnuFileSaveVrt();
     EXPECT_EQ(dialogs.saves[0].name, "canal1.vrt");
     EXPECT_TRUE(dialogs.inputs[1].ends_with("|Campora|canal1"));
-    ASSERT_TRUE(session.loadFile(path, true, true));
+    ASSERT_TRUE(open({path}, true));
     ASSERT_GE(window.summary.size(), 3U);
     EXPECT_EQ(window.summary[0].value, "Lote 7 ");
     EXPECT_EQ(window.summary[1].value, "maiz ");
@@ -206,9 +207,9 @@ TEST_F(PrescCommandsTest, ASaveThatIsCancelledOrNoNumberWritesNothing) {
 
 TEST_F(PrescCommandsTest, AMapOpensAsAFileOfItsOwn) {
     const std::string path = rowOfZones({"10", "20"}).write(folder, "lote");
-    session.style().colors.shape = Color::rgb(1, 2, 3);
-    session.style().graduated = false;  // which is about records, not about maps
-    ASSERT_TRUE(session.loadFile(path, true, true));
+    session.map().style().colors.shape = Color::rgb(1, 2, 3);
+    session.map().style().graduated = false;  // which is about records, not about maps
+    ASSERT_TRUE(open({path}, true));
     const std::vector<std::string> zones = canvas.callsOf("polypolygon");
     ASSERT_FALSE(zones.empty());
     EXPECT_TRUE(zones.back().starts_with("polypolygon fill=0x030201")) << zones.back();

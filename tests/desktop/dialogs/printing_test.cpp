@@ -17,10 +17,10 @@
 
 #include "campora_version.h"
 #include "desktop/dialogs/about_dialog.h"
-#include "desktop/dialogs/keys_dialog.h"
 #include "desktop/dialogs/page_setup_dialog.h"
 #include "desktop/dialogs/print_dialog.h"
 #include "desktop/dialogs/print_preview.h"
+#include "desktop/keys_dialog.h"
 #include "desktop/window_fixture.h"
 
 namespace campora {
@@ -81,7 +81,8 @@ TEST_F(WindowTest, ThePreviewTurnsThePageAndLeavesTheMapAlone) {
     const MapView::Place place = view().place();
     const QImage before = map().canvas().image().copy();
 
-    PrintPreview preview(window->session(), window.get());
+    Session& session = window->session();
+    PrintPreview preview(session.map(), session.display(), session.services(), window.get());
     preview.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&preview));
     const auto* pages = preview.findChild<QPrintPreviewWidget*>();

@@ -37,7 +37,9 @@ protected:
             track.addPoint(200, 0, 5, 20);
             desk.folder.write(std::string("card/log") + name + ".nbr", track.bytes());
         }
-        dialog = std::make_unique<WorkOrdersDialog>(desk.session, nullptr);
+        dialog = std::make_unique<WorkOrdersDialog>(desk.session.map(), desk.session.display(),
+                                                    desk.session.tools(), desk.session.services(),
+                                                    nullptr);
     }
     [[nodiscard]] QTreeWidget& list() const { return *dialog->findChild<QTreeWidget*>("fileList"); }
     [[nodiscard]] QPushButton& button(const char* name) const {
@@ -76,7 +78,7 @@ TEST_F(WorkOrdersDialogTest, ListsTheOrdersOfTheFolder) {
         EXPECT_EQ(list().topLevelItemCount(), 0);
         EXPECT_FALSE(button("cmdOpen").isEnabled());
     });
-    EXPECT_EQ(desk.session.plotCount(), 0);
+    EXPECT_EQ(desk.session.map().plotCount(), 0);
 }
 
 TEST_F(WorkOrdersDialogTest, OpensAnOrderAndCloses) {
@@ -95,7 +97,7 @@ TEST_F(WorkOrdersDialogTest, AddingKeepsTheDialogAndCancelOnlyStopsIt) {
         select(1);
         button("cmdAdd").click();
         EXPECT_TRUE(dialog->isVisible());
-        EXPECT_EQ(desk.session.plotCount(), 1);
+        EXPECT_EQ(desk.session.map().plotCount(), 1);
         select(0);
         desk.clock.onEvents = [this](int) {
             EXPECT_FALSE(button("cmdOpen").isEnabled());
@@ -114,9 +116,9 @@ TEST_F(WorkOrdersDialogTest, CancelTakesThePreviewOffTheMap) {
         EXPECT_EQ(preview.count(), 2) << "nothing is open to preview beside";
         select(0);
         preview.setCurrentIndex(1);
-        EXPECT_EQ(desk.session.plotCount(), 2);
+        EXPECT_EQ(desk.session.map().plotCount(), 2);
     });
-    EXPECT_EQ(desk.session.plotCount(), 0);
+    EXPECT_EQ(desk.session.map().plotCount(), 0);
 }
 
 }  // namespace

@@ -26,7 +26,7 @@ protected:
     [[nodiscard]] const LegendView& legend() const { return window->sidePanel().legend(); }
     [[nodiscard]] const ColorList& classes() const { return legend().classes(); }
     [[nodiscard]] QWidget& viewport() const { return *classes().viewport(); }
-    [[nodiscard]] ColorScale& scale() const { return window->session().shownScale(); }
+    [[nodiscard]] ColorScale& scale() const { return window->session().map().scales().shown(); }
     [[nodiscard]] QPoint middleOf(int row) const {
         return classes().visualItemRect(classes().item(row)).center();
     }

@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "cli/batch_platform.h"
+#include "cli/batch_map.h"
 
 #include <QDate>
 
@@ -43,19 +43,7 @@ std::optional<std::string> BatchDialogs::inputBox(const InputRequest& request) {
     }
 }
 
-std::vector<std::string> BatchDialogs::openFiles(const OpenRequest& /*request*/) {
-    const std::vector<ChannelSource>& channels = arguments_.prescription.channels;
-    if (nextChannel_ >= channels.size()) {
-        return {};
-    }
-    return {channels[nextChannel_++].file};
-}
-
 std::unique_ptr<Progress> BatchDialogs::progress(std::string_view /*caption*/) {
-    class UntilInterrupted final : public Progress {
-    public:
-        [[nodiscard]] bool report(int /*percent*/) override { return !isInterrupted(); }
-    };
     return std::make_unique<UntilInterrupted>();
 }
 
@@ -67,37 +55,42 @@ void BatchDialogs::note(const File& file, const Texts& texts) {
     }
 }
 
-Date NoClock::today() const {
-    const QDate today = QDate::currentDate();
-    return {today.year(), today.month(), today.day()};
+bool UntilInterrupted::report(int /*percent*/) {
+    return !isInterrupted();
 }
 
-BatchSession::BatchSession(const Arguments& arguments, MapCanvas& canvas, std::ostream& boxes)
+BatchMap::BatchMap(const Arguments& arguments, std::ostream& boxes)
     : arguments_(arguments),
       dialogs_(arguments, boxes),
       locale_(arguments),
-      session_(
-          {canvas, window_, dialogs_, settings_, locale_, clipboard_, clock_, classes_, shell_},
-          arguments.language, arguments.programFolder) {
-    session_.start();
+      texts_(arguments.language),
+      map_({dialogs_, texts_, locale_}, arguments.programFolder) {
+    map_.readRegistrations();
 }
 
-bool BatchSession::openFiles() {
-    bool all = true;
-    for (const std::string& path : arguments_.files) {
-        session_.addSource(path);
-        if (isInterrupted()) {
-            return false;
-        }
-        all = session_.loadFile(path, false, false) && all;
+bool BatchMap::openFiles() {
+    if (isInterrupted()) {
+        return false;
     }
-    const LoadedFileList& files = session_.files();
-    for (int i = 0; i < files.loadedCount(); ++i) {
-        dialogs_.note(files.file(i), session_.texts());
-        const auto* const zones = dynamic_cast<const GphPresc*>(&files.file(i));
+    for (const std::string& path : arguments_.files) {
+        map_.addSource(path);
+    }
+    UntilInterrupted progress;
+    OpenManner manner;
+    manner.progress = &progress;
+    const std::vector<std::string> taken = map_.openAll(arguments_.files, manner);
+    bool all = taken.size() == arguments_.files.size();
+    for (const File* file : map_.files().all()) {
+        dialogs_.note(*file, texts_);
+        const auto* const zones = dynamic_cast<const GphPresc*>(file);
         all = all && (zones == nullptr || !zones->notes().damage);
     }
     return all && !isInterrupted();
+}
+
+Date today() {
+    const QDate day = QDate::currentDate();
+    return {day.year(), day.month(), day.day()};
 }
 
 }  // namespace campora

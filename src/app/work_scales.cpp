@@ -1,15 +1,13 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-// The colour scales of the open work, one for each unit of dose, and the legend that shows them.
+#include "app/work_scales.h"
 
 #include <algorithm>
 #include <cmath>
-#include <span>
 #include <utility>
 
 #include "app/colours/legend.h"
-#include "app/session.h"
 #include "base/numbers.h"
 #include "model/file_gph_group.h"
 #include "work/color_modes.h"
@@ -29,6 +27,8 @@ void raiseToZero(std::optional<ValueRange<float>>& range) {
     }
 }
 
+}  // namespace
+
 ValueRanges rangesOf(std::span<File* const> files) {
     ValueRanges ranges;
     for (const File* file : files) {
@@ -42,70 +42,62 @@ ValueRanges rangesOf(std::span<File* const> files) {
     return ranges;
 }
 
-}  // namespace
-
-ColorScale& Session::shownScale() {
-    File* const current = files_.currentFile();
-    ColorScale* const own = current != nullptr ? current->File_escalaColores() : nullptr;
-    return own != nullptr ? *own : scaleOf(shownUnits().value_or(false));
+WorkScales::WorkScales(const LoadedFileList& files, MapStyle& style)
+    : files_(files), style_(style) {
+    style_.scale = &litres_;
+    style_.unitScale = &units_;
 }
 
-std::optional<bool> Session::shownUnits() const {
+ColorScale& WorkScales::shown() {
+    File* const current = files_.currentFile();
+    ColorScale* const own = current != nullptr ? current->File_escalaColores() : nullptr;
+    return own != nullptr ? *own : of(shownUnits().value_or(false));
+}
+
+std::optional<bool> WorkScales::shownUnits() const {
     const File* const current = files_.currentFile();
     std::optional<bool> units = current != nullptr ? countsUnits(*current) : std::nullopt;
-    for (const File* file : openFiles()) {
+    for (const File* file : files_.all()) {
         units = units ? units : countsUnits(*file);
     }
     return units;
 }
 
-std::vector<File*> Session::workIn(bool units) const {
-    std::vector<File*> files = openFiles();
+std::vector<File*> WorkScales::workIn(bool units) const {
+    std::vector<File*> files = files_.all();
     std::erase_if(files, [units](const File* file) { return countsUnits(*file) != units; });
     return files;
 }
 
-void Session::showLegend() {
-    ColorScale& scale = shownScale();
-    scaleChanges_ = scale.onChanged([this] {
-        if (!loading_) {
-            spread_ = {};
-            showLegend();
-            showSummary();  // a prescription's follows its doses
-            redraw();
-        }
-    });
-    platform_.window.setLegend(legendContent());
-}
-
-LegendContent Session::legendContent() {
-    const ColorScale* const scale = legendScale();
+LegendContent WorkScales::legend(const ValueRanges& ranges, std::optional<WorkKind> lastKind,
+                                 const Desk& desk) {
+    const ColorScale* const scale = used(ranges);
     const bool isMixed = !workIn(true).empty() && !workIn(false).empty();
     // One name is to do for sprayed and sown ground.
-    const WorkKind kind = isMixed ? WorkKind::OlderForm : lastKind_.value_or(WorkKind::Sprayer);
-    LegendContent legend = campora::legendContent(style_, scale, kind, texts_, platform_.locale);
+    const WorkKind kind = isMixed ? WorkKind::OlderForm : lastKind.value_or(WorkKind::Sprayer);
+    LegendContent legend = legendContent(style_, scale, kind, desk.texts, desk.locale);
     if (scale != nullptr) {
-        addSpreading(legend, *scale);
+        addSpreading(legend, *scale, desk.texts);
     }
     return legend;
 }
 
-const ColorScale* Session::legendScale() {
-    const ColorScale& scale = shownScale();
-    if (&scale != &defaultScale_ && &scale != &unitScale_) {
+const ColorScale* WorkScales::used(const ValueRanges& ranges) {
+    const ColorScale& scale = shown();
+    if (!isOfWork(scale)) {
         return &scale;
     }
     if (files_.empty() || !style_.scaleShown()) {
         return nullptr;
     }
     // Track files have no alarms and keep the colours of their doses in that map.
-    const bool hasTracks = ranges_.flow && &scale == &defaultScale_;
+    const bool hasTracks = ranges.flow && &scale == &litres_;
     return style_.mode != ColorMode::Alarm || hasTracks ? &scale : nullptr;
 }
 
-const Session::Spread& Session::spreadOf(const ColorScale& scale) {
+const WorkScales::Spread& WorkScales::spreadOf(const ColorScale& scale) {
     if (spread_.scale != &scale) {
-        std::vector<ValueArea> areas = workedArea(style_, workIn(&scale == &unitScale_));
+        std::vector<ValueArea> areas = workedArea(style_, workIn(&scale == &units_));
         spread_ = {&scale, largestShare(scale, areas), false};
         // Only asked where one class has nearly everything.
         spread_.canSpread =
@@ -114,8 +106,8 @@ const Session::Spread& Session::spreadOf(const ColorScale& scale) {
     return spread_;
 }
 
-void Session::addSpreading(LegendContent& legend, const ColorScale& scale) {
-    if (style_.mode != ColorMode::Dose || (&scale != &defaultScale_ && &scale != &unitScale_)) {
+void WorkScales::addSpreading(LegendContent& legend, const ColorScale& scale, const Texts& texts) {
+    if (style_.mode != ColorMode::Dose || !isOfWork(scale)) {
         return;
     }
     legend.canSpread = true;
@@ -126,37 +118,39 @@ void Session::addSpreading(LegendContent& legend, const ColorScale& scale) {
     const Spread& spread = spreadOf(scale);
     if (spread.largestShare > kNearlyAll) {
         const double percent = std::floor(spread.largestShare * 100);
-        legend.remark = texts_.format(TextId::OneClassCovers, {numberText(percent)});
-        legend.offer = spread.canSpread ? texts_(TextId::SpreadClasses) : "";
+        legend.remark = texts.format(TextId::OneClassCovers, {numberText(percent)});
+        legend.offer = spread.canSpread ? texts(TextId::SpreadClasses) : "";
     }
 }
 
-void Session::collectRanges() {
-    ranges_ = rangesOf(openFiles());
-    spread_ = {};
-}
-
-void Session::refreshColorScale() {
-    loading_ = true;
-    if (!setUpScales()) {
+void WorkScales::refresh() {
+    busy_ = true;
+    if (!setUp()) {
         style_.mode = ColorMode::Dose;
-        setUpScales();
+        static_cast<void>(setUp());
     }
-    loading_ = false;
-    showLegend();
+    busy_ = false;
 }
 
-bool Session::setUpScales() {
-    spread_ = {};
+bool WorkScales::setUp() {
+    forgetSpread();
     for (const bool units : {false, true}) {
         // A day has one colour, whatever was done on it.
         const std::vector<File*> files =
-            style_.mode == ColorMode::Date ? openFiles() : workIn(units);
-        if (!setUpColorScale(scaleOf(units), style_, rangesOf(files), files)) {
+            style_.mode == ColorMode::Date ? files_.all() : workIn(units);
+        if (!setUpColorScale(of(units), style_, rangesOf(files), files)) {
             return false;
         }
     }
     return true;
+}
+
+void WorkScales::setContent(Content content) {
+    busy_ = true;
+    litres_.setContent(std::move(content.litres));
+    units_.setContent(std::move(content.units));
+    busy_ = false;
+    forgetSpread();
 }
 
 }  // namespace campora

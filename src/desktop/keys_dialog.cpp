@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "desktop/dialogs/keys_dialog.h"
+#include "desktop/keys_dialog.h"
 
 #include <map>
 

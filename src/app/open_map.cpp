@@ -1,0 +1,258 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/open_map.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <span>
+#include <utility>
+
+#include "app/open/file_loading.h"
+#include "app/used_files.h"
+#include "base/numbers.h"
+#include "base/paths.h"
+#include "model/file_gph_group.h"
+#include "platform/left_undone.h"
+#include "presc/multi_channel.h"
+#include "work/color_modes.h"
+#include "work/edits_file.h"
+
+namespace campora {
+
+OpenMap::OpenMap(const Desk& desk, std::string programFolder)
+    : desk_(desk),
+      programFolder_(std::move(programFolder)),
+      files_(desk.texts),
+      scales_(files_, style_) {}
+
+void OpenMap::readRegistrations() {
+    registrations_ = loadRegistrations(programFolder_, desk_.dialogs, desk_.texts);
+}
+
+std::vector<Gph*> OpenMap::getGphList() const {
+    std::vector<Gph*> all;
+    for (const File* file : files_.all()) {
+        const std::vector<Gph*> layers = file->File_gphList();
+        all.insert(all.end(), layers.begin(), layers.end());
+    }
+    return all;
+}
+
+BoundingBox OpenMap::bound() const {
+    BoundingBox bound;
+    for (const File* file : files_.all()) {
+        // A file without points has no box, and takes no part in the extent of the map.
+        if (const BoundingBox& box = file->File_bound(); box.isSet) {
+            bound.addBoundingBox(box);
+        }
+    }
+    return bound;
+}
+
+void OpenMap::recalcErrorAreas() {
+    for (File* file : files_.all()) {
+        if (auto* const group = dynamic_cast<FileGphGroup*>(file)) {
+            group->calcErrorArea(style_, desk_.locale);
+        }
+    }
+}
+
+void OpenMap::selectChannel(int index) {
+    style_.selectedChannel = index;
+    for (File* file : files_.all()) {
+        auto* const several = dynamic_cast<MultiChannel*>(file);
+        if (several == nullptr) {
+            continue;
+        }
+        if (index < 0) {
+            several->showTotal();
+        } else if (index < several->channelsCnt()) {
+            several->setCurrentChannel(index);
+        } else {
+            desk_.tell({TextId::FileWithoutChannel, {file->File_name(), numberText(index + 1)}});
+        }
+    }
+}
+
+std::vector<std::string> OpenMap::openAll(const std::vector<std::string>& paths,
+                                          const OpenManner& manner) {
+    std::vector<std::string> taken;
+    Dialogs& boxes = manner.boxes != nullptr ? *manner.boxes : desk_.dialogs;
+    const std::unique_ptr<Progress> window =
+        manner.progress != nullptr ? nullptr
+                                   : desk_.dialogs.progress(desk_.texts(TextId::OpeningFiles));
+    Progress& progress = manner.progress != nullptr ? *manner.progress : *window;
+    for (std::size_t i = 0; i < paths.size(); ++i) {
+        if (take(paths[i], manner.inPlace && taken.empty(), boxes)) {
+            taken.push_back(paths[i]);
+        }
+        const bool isLast = i + 1 == paths.size();
+        if (!isLast && !progress.report(static_cast<int>(100 * (i + 1) / paths.size()))) {
+            if (window != nullptr) {
+                tellLeftUndone(TextId::OpeningCancelled, std::span(paths).subspan(i + 1), boxes,
+                               desk_.texts);
+            }
+            break;
+        }
+    }
+    if (!taken.empty()) {
+        filesChanged();
+    }
+    return taken;
+}
+
+bool OpenMap::take(std::string_view path, bool inPlace, Dialogs& boxes) {
+    const std::string found = findIgnoringCase(path);
+    if (!inPlace && files_.isLoaded(found)) {
+        return false;
+    }
+    return takeWork(found, formatToOpen(found), inPlace, boxes);
+}
+
+bool OpenMap::takeWork(std::string_view path, const FileFormat& format, bool inPlace,
+                       Dialogs& boxes) {
+    const OpenContext context{{boxes, desk_.locale, desk_.texts, registrations_}, style_.colors};
+    std::optional<OpenedFile> work = format.read(path, context);
+    if (!work) {
+        return false;
+    }
+    addKeptEdits(*work->file);
+    if (inPlace) {
+        reset();  // only now: a file that is refused must not cost the open ones
+        sources_.clear();
+    }
+    if (files_.empty()) {
+        hasFlowStops_.reset();
+    }
+    if (!files_.addFile(std::move(work->file), false, boxes)) {
+        return false;
+    }
+    if (format.fromLogger) {
+        lastTrackFile_ = path;
+    }
+    style_.graduated = style_.graduated || format.graduates;
+    if (work->kind) {
+        lastKind_ = work->kind;
+    }
+    if (work->hasFlowStops) {
+        hasFlowStops_ = hasFlowStops_.value_or(false) || *work->hasFlowStops;
+    }
+    return true;
+}
+
+void OpenMap::filesChanged() {
+    ranges_ = rangesOf(files_.all());
+    scales_.refresh();
+    if (style_.mode == ColorMode::Error) {
+        recalcErrorAreas();
+    }
+}
+
+void OpenMap::reload() {
+    const std::optional<int> current = files_.indexOf(files_.currentFile());
+    LoadedFileList::Saved old = files_.takeAll();
+    for (std::unique_ptr<File>& file : old.files) {
+        const std::string path = file->File_diskPath();
+        if (path.empty() || !take(path, false, desk_.dialogs)) {
+            files_.addFile(std::move(file), false, desk_.dialogs);
+        }
+    }
+    if (current && *current < files_.loadedCount()) {
+        files_.setCurrentFile(&files_.file(*current));
+    }
+    filesChanged();
+}
+
+bool OpenMap::addFile(std::unique_ptr<File> file, bool atTop) {
+    File* const made = file.get();
+    if (!files_.addFile(std::move(file), atTop, desk_.dialogs)) {
+        return false;
+    }
+    files_.setCurrentFile(made);
+    filesChanged();
+    return true;
+}
+
+void OpenMap::replaceFile(const File* old, std::unique_ptr<File> file) {
+    File* const shown = file.get();
+    files_.replaceFile(old, std::move(file));
+    files_.setCurrentFile(shown);
+}
+
+void OpenMap::removeFile(const File* file) {
+    const std::optional<int> index = files_.indexOf(file);
+    if (!index) {
+        return;
+    }
+    const bool wasCurrent = files_.currentFile() == file;
+    const bool hadWork = countsUnits(*file).has_value();
+    files_.removeFile(file);
+    if (files_.empty()) {
+        reset();
+        return;
+    }
+    ranges_ = rangesOf(files_.all());
+    scales_.forgetSpread();
+    if (wasCurrent) {
+        files_.setCurrentFile(&files_.file(std::min(*index, files_.loadedCount() - 1)));
+    }
+    if (hadWork) {
+        scales_.refresh();  // the classes are those of the work that is left
+    }
+}
+
+void OpenMap::reset() {
+    files_.clearFiles();
+    ranges_ = {};
+    hasFlowStops_.reset();
+    if (onReset) {
+        onReset();
+    }
+}
+
+void OpenMap::putAway() {
+    putAway_.emplace(PutAway{files_.takeAll(), hasFlowStops_, style_.graduated, style_.mode,
+                             lastKind_, lastTrackFile_, scales_.content()});
+}
+
+void OpenMap::bringBack() {
+    PutAway saved = std::move(*putAway_);
+    putAway_.reset();
+    files_.putBack(std::move(saved.files));
+    style_.graduated = saved.graduated;
+    style_.mode = saved.mode;
+    lastKind_ = saved.lastKind;
+    lastTrackFile_ = std::move(saved.lastTrackFile);
+    if (files_.empty()) {
+        reset();
+        return;
+    }
+    hasFlowStops_ = saved.hasFlowStops;
+    filesChanged();
+    scales_.setContent(std::move(saved.scales));  // the classes that the user had made
+}
+
+FilesInUse OpenMap::filesInUse(const File* but) const {
+    FilesInUse used;
+    used.add(pathText(nativePath(programFolder_) / kRegistrationsFile));
+    for (const File* file : files_.all()) {
+        if (file != but) {
+            addFileOf(used, *file);
+        }
+        for (const std::string& source : file->madeFrom) {
+            addOpened(used, source);
+        }
+    }
+    if (putAway_) {
+        for (const std::unique_ptr<File>& file : putAway_->files.files) {
+            addFileOf(used, *file);
+        }
+    }
+    for (const std::string& source : sources_) {
+        addOpened(used, source);
+    }
+    return used;
+}
+
+}  // namespace campora

@@ -1,0 +1,147 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "app/loaded_file_list.h"
+#include "app/work_scales.h"
+#include "base/files_in_use.h"
+#include "model/bounding_box.h"
+#include "model/file.h"
+#include "model/gph.h"
+#include "model/map_style.h"
+#include "model/value_ranges.h"
+#include "platform/desk.h"
+#include "work/registrations.h"
+#include "work/work_kind.h"
+
+namespace campora {
+
+struct FileFormat;
+
+/// How files are opened.
+struct OpenManner {
+    /// The first that is taken replaces what is open.
+    bool inPlace = false;
+    /// Whose boxes say what is wrong with a file; null: the desk's.
+    Dialogs* boxes = nullptr;
+    /// Told after each file but the last, and may end the work; null: a window of the desk, and a
+    /// word on what was left undone.
+    Progress* progress = nullptr;
+};
+
+/// The open files and all that follows from them and from how the user wants to see them: ranges
+/// of values, colour scales, hectares in error. Knows no window, canvas or clock; whoever shows the
+/// map is to show it anew after a change.
+class OpenMap {
+public:
+    /// `programFolder`: where the registrations and the templates are.
+    OpenMap(const Desk& desk, std::string programFolder);
+    OpenMap(const OpenMap&) = delete;
+    OpenMap& operator=(const OpenMap&) = delete;
+    ~OpenMap() = default;
+
+    /// Called when everything has been closed, also in the middle of opening others in its place;
+    /// may be empty.
+    std::function<void()> onReset;
+
+    [[nodiscard]] const Desk& desk() const { return desk_; }
+    [[nodiscard]] const std::string& programFolder() const { return programFolder_; }
+    /// Who carries which logger; none before `readRegistrations`, which says what is wrong with
+    /// the table.
+    [[nodiscard]] const Registrations& registrations() const { return registrations_; }
+    void readRegistrations();
+
+    [[nodiscard]] LoadedFileList& files() { return files_; }
+    [[nodiscard]] const LoadedFileList& files() const { return files_; }
+    [[nodiscard]] int plotCount() const { return files_.loadedCount(); }
+    /// All layers of all open files, first file first.
+    [[nodiscard]] std::vector<Gph*> getGphList() const;
+    /// The box around the open files; not set without points.
+    [[nodiscard]] BoundingBox bound() const;
+    /// Of the files that are open.
+    [[nodiscard]] const ValueRanges& ranges() const { return ranges_; }
+    /// Kind of the machine of the report read last; none before the first.
+    [[nodiscard]] std::optional<WorkKind> lastKind() const { return lastKind_; }
+    /// Whether a track file with a step without flow has been opened; none without track files.
+    [[nodiscard]] std::optional<bool> hasFlowStops() const { return hasFlowStops_; }
+    /// The logger's track file opened last; empty when there was none.
+    [[nodiscard]] const std::string& lastTrackFile() const { return lastTrackFile_; }
+
+    [[nodiscard]] MapStyle& style() { return style_; }
+    [[nodiscard]] const MapStyle& style() const { return style_; }
+    [[nodiscard]] WorkScales& scales() { return scales_; }
+    /// The scales anew for the style as it is.
+    void refreshColorScale() { scales_.refresh(); }
+    /// Brings the hectares in error of every file up to date with the error map.
+    void recalcErrorAreas();
+    /// The dose channel, from 0, that colours the work and that prescriptions show; -1 is the
+    /// total. Files that lack it are named.
+    void selectChannel(int index);
+
+    /// Opens files by their endings, in order, until the user has enough; says what is wrong with
+    /// each that is refused. One that is open already is left out. Answers those that were taken.
+    std::vector<std::string> openAll(const std::vector<std::string>& paths,
+                                     const OpenManner& manner = {});
+    /// Reads every file again; one that cannot be read, or is on no disk yet, stays as it was.
+    void reload();
+    /// Adds a file that was made here, as the current one. False when the duplicate rule kept it
+    /// out.
+    bool addFile(std::unique_ptr<File> file, bool atTop);
+    /// Another file in the place of an open one, as the current file.
+    void replaceFile(const File* old, std::unique_ptr<File> file);
+    /// Nothing for a file that is not open, or null.
+    void removeFile(const File* file);
+    /// Closes everything.
+    void reset();
+
+    /// Puts the open files away, so that others can be shown for a while.
+    void putAway();
+    /// Closes those and brings back what was put away, with its classes.
+    void bringBack();
+
+    /// Keeps a file that open ones were read from, until others take their place.
+    void addSource(std::string path) { sources_.push_back(std::move(path)); }
+    /// What no command writes over: the open files but for `but`, which may be null, those that are
+    /// put away, and all that they use or were read from.
+    [[nodiscard]] FilesInUse filesInUse(const File* but = nullptr) const;
+
+private:
+    struct PutAway {
+        LoadedFileList::Saved files;
+        std::optional<bool> hasFlowStops;
+        bool graduated = true;
+        ColorMode mode = ColorMode::Dose;
+        std::optional<WorkKind> lastKind;
+        std::string lastTrackFile;
+        WorkScales::Content scales;
+    };
+
+    [[nodiscard]] bool take(std::string_view path, bool inPlace, Dialogs& boxes);
+    [[nodiscard]] bool takeWork(std::string_view path, const FileFormat& format, bool inPlace,
+                                Dialogs& boxes);
+    /// What follows from the files.
+    void filesChanged();
+
+    Desk desk_;
+    std::string programFolder_;
+    Registrations registrations_;
+    MapStyle style_;
+    LoadedFileList files_;
+    WorkScales scales_;
+    ValueRanges ranges_;
+    std::optional<WorkKind> lastKind_;
+    std::optional<bool> hasFlowStops_;
+    std::string lastTrackFile_;
+    std::vector<std::string> sources_;
+    std::optional<PutAway> putAway_;
+};
+
+}  // namespace campora

@@ -1,0 +1,62 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/plot_all.h"
+
+#include <cstddef>
+#include <utility>
+#include <vector>
+
+#include "app/map/draw_layers.h"
+#include "app/map/place_marks.h"
+
+namespace campora {
+
+namespace {
+
+std::vector<const Gph*> layersFromBelow(const OpenMap& map, const File* without) {
+    const std::vector<File*> files = map.files().all();
+    std::vector<const Gph*> all;
+    for (auto file = files.rbegin(); file != files.rend(); ++file) {
+        if (*file != without) {
+            const std::vector<Gph*> layers = (*file)->File_gphList();
+            all.insert(all.end(), layers.begin(), layers.end());
+        }
+    }
+    return all;
+}
+
+void markPlaces(const OpenMap& map, const MapContext& context) {
+    std::vector<MarkedPlace> places;
+    for (const File* file : map.files().all()) {
+        places.push_back({file->File_bound(), file->File_name()});
+    }
+    drawPlaceMarks(context, places, map.desk().texts);
+}
+
+}  // namespace
+
+void plotAll(const OpenMap& map, const MapContext& context, const File* without) {
+    drawLayers(context, layersFromBelow(map, without));
+    markPlaces(map, context);
+}
+
+bool plotAll(const OpenMap& map, MapContext context, Progress& progress) {
+    const std::vector<const Gph*> layers = layersFromBelow(map, nullptr);
+    context.lotsAlone = areLotsAlone(layers);
+    int reported = -1;
+    for (std::size_t i = 0; i < layers.size(); ++i) {
+        const int percent = static_cast<int>(100 * i / layers.size());
+        if (percent != std::exchange(reported, percent) && !progress.report(percent)) {
+            return false;
+        }
+        layers[i]->Gph_plot(context);
+    }
+    for (const Gph* layer : layers) {
+        layer->plotOnTop(context);
+    }
+    markPlaces(map, context);
+    return true;
+}
+
+}  // namespace campora
