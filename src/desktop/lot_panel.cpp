@@ -303,8 +303,7 @@ void LotPanel::descriptionEdited() {
 }
 
 std::optional<LonLat> LotPanel::askPosition(LonLat proposed) {
-    CoordDialog dialog(this, session_.services().dialogs, session_.texts(),
-                       session_.services().locale, session_.tools().coordType(), proposed);
+    CoordDialog dialog(this, session_.map().desk(), session_.tools().coordType(), proposed);
     return dialog.showInput();
 }
 

@@ -94,8 +94,7 @@ void MainWindow::copyImage() {
 }
 
 void MainWindow::goToCoordinate() {
-    CoordDialog dialog(this, services_.dialogs, session_->texts(), services_.locale,
-                       session_->tools().coordType());
+    CoordDialog dialog(this, session_->map().desk(), session_->tools().coordType());
     if (const std::optional<LonLat> position = dialog.showInput()) {
         if (!session_->tools().goTo(*position)) {
             session_->map().desk().tell({TextId::PositionOffTheMap, {}}, MessageIcon::Information);

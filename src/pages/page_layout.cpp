@@ -52,12 +52,12 @@ PageRect shrunk(const PageRect& rect, double by) {
 class Composer {
 public:
     Composer(const PageSetup& setup, const PageContent& content, const MapExtent& extent,
-             const Texts& texts, char decimalSymbol, const TextWidth& textWidth)
+             const PageWords& words, const TextWidth& textWidth)
         : setup_(setup),
           content_(content),
           extent_(extent),
-          texts_(texts),
-          decimalSymbol_(decimalSymbol),
+          texts_(words.texts),
+          decimalSymbol_(words.decimalSymbol),
           textWidth_(textWidth),
           factor_(sizeFactor(setup.sheet())) {}
 
@@ -324,8 +324,8 @@ private:
 }  // namespace
 
 PageLayout layOutPage(const PageSetup& setup, const PageContent& content, const MapExtent& extent,
-                      const Texts& texts, char decimalSymbol, const TextWidth& textWidth) {
-    return Composer(setup, content, extent, texts, decimalSymbol, textWidth).compose();
+                      const PageWords& words, const TextWidth& textWidth) {
+    return Composer(setup, content, extent, words, textWidth).compose();
 }
 
 }  // namespace campora

@@ -61,11 +61,17 @@ struct PageLayout {
     double titleLine = 0;
 };
 
+/// In which a page is written.
+struct PageWords {
+    const Texts& texts;
+    char decimalSymbol = '.';
+};
+
 /// Title at the top; in landscape the map on the left and the rest in a panel on the right, upright
 /// the map above and the rest in columns below. The map gets what the texts leave, never less than
 /// half of the room below the title in the direction they share.
 [[nodiscard]] PageLayout layOutPage(const PageSetup& setup, const PageContent& content,
-                                    const MapExtent& extent, const Texts& texts, char decimalSymbol,
+                                    const MapExtent& extent, const PageWords& words,
                                     const TextWidth& textWidth);
 
 }  // namespace campora

@@ -60,7 +60,7 @@ constexpr MapExtent kExtent{{-60, -33}, 4000, 3000};
 
 PageLayout layOut(const PageSetup& setup, const PageContent& content,
                   const MapExtent& extent = kExtent) {
-    return layOutPage(setup, content, extent, Texts(Language::English), '.', halfEach);
+    return layOutPage(setup, content, extent, {Texts(Language::English), '.'}, halfEach);
 }
 
 std::vector<PageRect> everything(const PageLayout& page) {

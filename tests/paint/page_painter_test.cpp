@@ -38,7 +38,7 @@ protected:
         content.legend.reference = {{Color::rgb(255, 0, 255), "Fumigado"}};
     }
     [[nodiscard]] PageLayout page() const {
-        return layOutPage(setup, content, extent, Texts(), '.', pageTextWidth());
+        return layOutPage(setup, content, extent, {Texts(), '.'}, pageTextWidth());
     }
     [[nodiscard]] CanvasSize canvas() const {
         return pageTransform(extent, page().map, page().scale).canvas();

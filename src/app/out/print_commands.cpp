@@ -76,8 +76,8 @@ PageContent PrintCommands::content() const {
 
 PageLayout PrintCommands::page(const TextWidth& textWidth, const PageMargins& least) const {
     return layOutPage(withLeast(setup(), least), content(),
-                      shownExtent(display_.view().transform()), map_.desk().texts,
-                      map_.desk().decimalSymbol(), textWidth);
+                      shownExtent(display_.view().transform()),
+                      {map_.desk().texts, map_.desk().decimalSymbol()}, textWidth);
 }
 
 CanvasSize PrintCommands::mapCanvas(const PageLayout& page) const {

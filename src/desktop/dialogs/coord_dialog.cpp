@@ -68,12 +68,11 @@ constexpr std::array<SignRow, 4> kSignRows{{
 
 }  // namespace
 
-CoordDialog::CoordDialog(QWidget* parent, Dialogs& dialogs, const Texts& texts,
-                         const UserLocale& locale, CoordType form, std::optional<LonLat> position)
+CoordDialog::CoordDialog(QWidget* parent, const Desk& desk, CoordType form,
+                         std::optional<LonLat> position)
     : QDialog(parent),
-      dialogs_(dialogs),
-      texts_(texts),
-      entry_(texts, locale, form),
+      desk_(desk),
+      entry_(desk.texts, desk.locale, form),
       lblShowLat_(new QLabel(this)),
       lblShowLong_(new QLabel(this)) {
     if (position) {
@@ -104,7 +103,7 @@ CoordDialog::CoordDialog(QWidget* parent, Dialogs& dialogs, const Texts& texts,
 }
 
 QString CoordDialog::word(TextId id) const {
-    return toQt(texts_(id));
+    return toQt(desk_.texts(id));
 }
 
 QWidget* CoordDialog::makeForms() {
@@ -237,7 +236,7 @@ void CoordDialog::accept() {
         QDialog::accept();
         return;
     }
-    dialogs_.message(texts_(TextId::CoordInvalid), MessageIcon::Exclamation, texts_(TextId::Error));
+    desk_.titled(TextId::Error).tell({TextId::CoordInvalid, {}});
     for (std::size_t i = 0; i < boxes_.size(); ++i) {
         if (entry_.isWrong(static_cast<CoordEntry::Box>(i))) {
             boxes_[i].edit->setFocus();

@@ -9,7 +9,7 @@
 #include <QDialog>
 
 #include "coord/coord_entry.h"
-#include "platform/dialogs.h"
+#include "platform/desk.h"
 
 class QGridLayout;
 class QLabel;
@@ -23,10 +23,9 @@ class CoordDialog final : public QDialog {
     Q_OBJECT
 
 public:
-    /// `dialogs`, `texts` and `locale` outlive the dialog; `form` and `position` are what it opens
-    /// with.
-    CoordDialog(QWidget* parent, Dialogs& dialogs, const Texts& texts, const UserLocale& locale,
-                CoordType form, std::optional<LonLat> position = std::nullopt);
+    /// `form` and `position` are what it opens with.
+    CoordDialog(QWidget* parent, const Desk& desk, CoordType form,
+                std::optional<LonLat> position = std::nullopt);
 
     /// Opens the dialog modally; none when the user cancels.
     [[nodiscard]] std::optional<LonLat> showInput();
@@ -55,8 +54,7 @@ private:
     void showEntry();
     [[nodiscard]] QString word(TextId id) const;
 
-    Dialogs& dialogs_;
-    const Texts& texts_;
+    Desk desk_;
     CoordEntry entry_;
     std::array<BoxWidgets, CoordEntry::kBoxes> boxes_;
     QLabel* lblShowLat_;

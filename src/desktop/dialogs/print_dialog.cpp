@@ -37,22 +37,7 @@ PrintDialog::PrintDialog(const QStringList& printers, const PrintTarget& propose
     setObjectName("print");
     setWindowTitle(toQt(texts(TextId::PrintTitle)));
     setMinimumWidth(kWidth);
-    printer_->setObjectName("printer");
-    for (const QString& name : printers) {
-        printer_->addItem(name, name);
-    }
-    printer_->addItem(toQt(texts(TextId::PrinterPdf)), QString());
-    const int found = printer_->findData(proposed.printer);
-    printer_->setCurrentIndex(found < 0 ? printer_->count() - 1 : found);
-    copies_->setObjectName("copies");
-    copies_->setRange(1, kMostCopies);
-    copies_->setValue(proposed.copies);
-    copies_->setContextMenuPolicy(Qt::PreventContextMenu);
-    resolution_->setObjectName("resolution");
-    for (const int dots : kResolutions) {
-        resolution_->addItem(toQt(texts.format(TextId::ResolutionDots, {numberText(dots)})), dots);
-    }
-    resolution_->setCurrentIndex(std::max(0, resolution_->findData(proposed.dotsPerInch)));
+    fill(printers, proposed, texts);
 
     auto* const form = new QFormLayout;
     form->setSpacing(kGap);
@@ -81,6 +66,26 @@ PrintDialog::PrintDialog(const QStringList& printers, const PrintTarget& propose
     column->addWidget(buttons);
     showCopies();
     printer_->setFocus();
+}
+
+void PrintDialog::fill(const QStringList& printers, const PrintTarget& proposed,
+                       const Texts& texts) {
+    printer_->setObjectName("printer");
+    for (const QString& name : printers) {
+        printer_->addItem(name, name);
+    }
+    printer_->addItem(toQt(texts(TextId::PrinterPdf)), QString());
+    const int found = printer_->findData(proposed.printer);
+    printer_->setCurrentIndex(found < 0 ? printer_->count() - 1 : found);
+    copies_->setObjectName("copies");
+    copies_->setRange(1, kMostCopies);
+    copies_->setValue(proposed.copies);
+    copies_->setContextMenuPolicy(Qt::PreventContextMenu);
+    resolution_->setObjectName("resolution");
+    for (const int dots : kResolutions) {
+        resolution_->addItem(toQt(texts.format(TextId::ResolutionDots, {numberText(dots)})), dots);
+    }
+    resolution_->setCurrentIndex(std::max(0, resolution_->findData(proposed.dotsPerInch)));
 }
 
 void PrintDialog::showCopies() {

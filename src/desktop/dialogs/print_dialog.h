@@ -34,6 +34,7 @@ public:
     [[nodiscard]] PrintTarget target() const;
 
 private:
+    void fill(const QStringList& printers, const PrintTarget& proposed, const Texts& texts);
     void showCopies();
 
     QComboBox* printer_;

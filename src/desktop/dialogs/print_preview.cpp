@@ -75,18 +75,17 @@ PrintPreview::~PrintPreview() {
     delete view_;  // before the printer that it shows
 }
 
-QAction* PrintPreview::addCommand(QToolBar& bar, const char* name, TextId text, const char* icon,
-                                  const char* key, void (PrintPreview::*run)()) {
-    QAction* const command = bar.addAction(QIcon(QString(":/icons/%1.svg").arg(icon)),
-                                           toQt(texts_(text)).remove('&').remove("..."));
-    command->setObjectName(name);
-    command->setShortcut(QKeySequence(key, QKeySequence::PortableText));
+QAction* PrintPreview::addCommand(QToolBar& bar, const Command& row) {
+    QAction* const command = bar.addAction(QIcon(QString(":/icons/%1.svg").arg(row.icon)),
+                                           toQt(texts_(row.text)).remove('&').remove("..."));
+    command->setObjectName(row.name);
+    command->setShortcut(QKeySequence(row.key, QKeySequence::PortableText));
     QString tip = command->text();
     if (!command->shortcut().isEmpty()) {
         tip += " (" + command->shortcut().toString(QKeySequence::NativeText) + ")";
     }
     command->setToolTip(tip);
-    connect(command, &QAction::triggered, this, run);
+    connect(command, &QAction::triggered, this, row.run);
     auto* const button = qobject_cast<QToolButton*>(bar.widgetForAction(command));
     button->setFocusPolicy(Qt::TabFocus);
     button->setAccessibleName(tip);
@@ -98,32 +97,32 @@ void PrintPreview::fillBar(QToolBar& bar) {
     bar.setIconSize({24, 24});
     bar.setContextMenuPolicy(Qt::PreventContextMenu);
     bar.setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    addCommand(bar, "previewPrint", TextId::ActionPrint, "print", "Ctrl+P", &PrintPreview::print);
-    addCommand(bar, "previewSetup", TextId::ActionPageSetup, "page-setup", "",
-               &PrintPreview::setUpPage);
+    addCommand(bar, {"previewPrint", TextId::ActionPrint, "print", "Ctrl+P", &PrintPreview::print});
+    addCommand(
+        bar, {"previewSetup", TextId::ActionPageSetup, "page-setup", "", &PrintPreview::setUpPage});
     const auto iconAlone = [&bar](QAction* command) {
         qobject_cast<QToolButton*>(bar.widgetForAction(command))
             ->setToolButtonStyle(Qt::ToolButtonIconOnly);
         return command;
     };
     bar.addSeparator();
-    portrait_ = iconAlone(addCommand(bar, "previewPortrait", TextId::OrientationPortrait,
-                                     "portrait", "", &PrintPreview::turnPortrait));
-    landscape_ = iconAlone(addCommand(bar, "previewLandscape", TextId::OrientationLandscape,
-                                      "landscape", "", &PrintPreview::turnLandscape));
+    portrait_ = iconAlone(addCommand(bar, {"previewPortrait", TextId::OrientationPortrait,
+                                           "portrait", "", &PrintPreview::turnPortrait}));
+    landscape_ = iconAlone(addCommand(bar, {"previewLandscape", TextId::OrientationLandscape,
+                                            "landscape", "", &PrintPreview::turnLandscape}));
     portrait_->setCheckable(true);
     landscape_->setCheckable(true);
     bar.addSeparator();
-    iconAlone(addCommand(bar, "previewFitPage", TextId::FitPage, "fit-page", "Ctrl+0",
-                         &PrintPreview::showWholePage));
-    iconAlone(addCommand(bar, "previewFitWidth", TextId::FitWidth, "fit-width", "Ctrl+1",
-                         &PrintPreview::showWholeWidth));
+    iconAlone(addCommand(bar, {"previewFitPage", TextId::FitPage, "fit-page", "Ctrl+0",
+                               &PrintPreview::showWholePage}));
+    iconAlone(addCommand(bar, {"previewFitWidth", TextId::FitWidth, "fit-width", "Ctrl+1",
+                               &PrintPreview::showWholeWidth}));
     iconAlone(
-        addCommand(bar, "previewZoomIn", TextId::ZoomIn, "zoom-in", "+", &PrintPreview::zoomIn));
-    iconAlone(addCommand(bar, "previewZoomOut", TextId::ZoomOut, "zoom-out", "-",
-                         &PrintPreview::zoomOut));
+        addCommand(bar, {"previewZoomIn", TextId::ZoomIn, "zoom-in", "+", &PrintPreview::zoomIn}));
+    iconAlone(addCommand(
+        bar, {"previewZoomOut", TextId::ZoomOut, "zoom-out", "-", &PrintPreview::zoomOut}));
     bar.addSeparator();
-    addCommand(bar, "previewClose", TextId::ButtonClose, "quit", "", &PrintPreview::leave);
+    addCommand(bar, {"previewClose", TextId::ButtonClose, "quit", "", &PrintPreview::leave});
 }
 
 void PrintPreview::showAnew() {

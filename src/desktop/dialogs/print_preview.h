@@ -30,8 +30,15 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    QAction* addCommand(QToolBar& bar, const char* name, TextId text, const char* icon,
-                        const char* key, void (PrintPreview::*run)());
+    struct Command {
+        const char* name = "";
+        TextId text{};
+        const char* icon = "";
+        const char* key = "";
+        void (PrintPreview::*run)() = nullptr;
+    };
+
+    QAction* addCommand(QToolBar& bar, const Command& row);
     void fillBar(QToolBar& bar);
     void setUpPage();
     void print();

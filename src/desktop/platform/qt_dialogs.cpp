@@ -52,15 +52,21 @@ QMessageBox::Icon iconOf(MessageIcon icon) {
     return QMessageBox::NoIcon;
 }
 
+struct BoxButtons {
+    QMessageBox::StandardButtons shown = QMessageBox::Ok;
+    /// The one for Enter and Esc.
+    QMessageBox::StandardButton safe = QMessageBox::Ok;
+};
+
 /// Shows a box and answers the button that closed it.
 int showBox(QWidget* parent, std::string_view text, MessageIcon icon, std::string_view caption,
-            QMessageBox::StandardButtons buttons, QMessageBox::StandardButton safe) {
+            const BoxButtons& buttons = {}) {
     QMessageBox box(iconOf(icon), shownText(caption), shownText(text).remove('\r').trimmed(),
-                    buttons, parent);
+                    buttons.shown, parent);
     // Paths and file contents are shown as they stand, not as markup.
     box.setTextFormat(Qt::PlainText);
-    box.setDefaultButton(safe);
-    box.setEscapeButton(safe);
+    box.setDefaultButton(buttons.safe);
+    box.setEscapeButton(buttons.safe);
     // A short text must not cut the caption off: an empty row of its width at the bottom.
     if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
         constexpr int kTitleButtons = 140;
@@ -116,13 +122,13 @@ QWidget* QtDialogs::owner() const {
 
 void QtDialogs::message(std::string_view text, MessageIcon icon, std::string_view caption) {
     const InFront front(progress_);
-    showBox(owner(), text, icon, caption, QMessageBox::Ok, QMessageBox::Ok);
+    showBox(owner(), text, icon, caption);
 }
 
 bool QtDialogs::askYesNo(std::string_view text, MessageIcon icon, std::string_view caption) {
     const InFront front(progress_);
-    return showBox(owner(), text, icon, caption, QMessageBox::Yes | QMessageBox::No,
-                   QMessageBox::No) == QMessageBox::Yes;
+    return showBox(owner(), text, icon, caption,
+                   {QMessageBox::Yes | QMessageBox::No, QMessageBox::No}) == QMessageBox::Yes;
 }
 
 std::optional<std::string> QtDialogs::inputBox(const InputRequest& request) {
@@ -141,9 +147,9 @@ std::optional<std::string> QtDialogs::inputBox(const InputRequest& request) {
 Answer QtDialogs::askYesNoCancel(std::string_view text, MessageIcon icon,
                                  std::string_view caption) {
     const InFront front(progress_);
-    switch (showBox(owner(), text, icon, caption,
-                    QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel,
-                    QMessageBox::Cancel)) {
+    switch (
+        showBox(owner(), text, icon, caption,
+                {QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Cancel})) {
     case QMessageBox::Yes:
         return Answer::Yes;
     case QMessageBox::No:

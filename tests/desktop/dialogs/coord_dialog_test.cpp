@@ -23,7 +23,7 @@ protected:
     ScriptedDialogs dialogs;
     Texts texts{Language::Spanish};
     FixedLocale locale{','};
-    CoordDialog dialog{nullptr, dialogs, texts, locale, CoordType::DegreesMinutesSeconds};
+    CoordDialog dialog{nullptr, {dialogs, texts, locale}, CoordType::DegreesMinutesSeconds};
 
     [[nodiscard]] QLineEdit& box(const char* name) { return *dialog.findChild<QLineEdit*>(name); }
     void choose(const char* name) { dialog.findChild<QRadioButton*>(name)->click(); }
