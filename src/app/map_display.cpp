@@ -3,6 +3,7 @@
 
 #include "app/map_display.h"
 
+#include <algorithm>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -107,6 +108,20 @@ void MapDisplay::canvasResized() {
     }
     view_.fitView();  // the margins depend on the size of the canvas
     view_.ZoomUno();
+}
+
+void MapDisplay::keepingPlace(const std::function<void()>& change) {
+    const CanvasSize size = canvas_.size();
+    const LonLat middle = view_.transform().screenToMap(static_cast<float>(size.width) / 2,
+                                                        static_cast<float>(size.height) / 2);
+    const float scale = view_.scaleX();
+    const bool isWhole = scale >= view_.maxScale();
+    change();
+    if (!isWhole && !map_.files().empty()) {
+        const float kept = std::min(scale, view_.maxScale());
+        view_.setView(kept, kept, view_.scrollX(), view_.scrollY());
+        view_.centreOn(middle);
+    }
 }
 
 void MapDisplay::loadFileList(bool selectCurrent) {

@@ -58,6 +58,8 @@ public:
     bool recalcGphBound();
     /// The canvas has another size.
     void canvasResized();
+    /// Does something that gives the canvas another size; what it shows stays in its middle.
+    void keepingPlace(const std::function<void()>& change);
 
     void loadFileList(bool selectCurrent);
     /// Summary, title and legend.

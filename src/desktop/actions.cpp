@@ -13,10 +13,7 @@
 #include <QToolBar>
 #include <QToolButton>
 
-#include "desktop/main_window.h"
 #include "desktop/platform/qt_text.h"
-#include "desktop/widgets/map_area.h"
-#include "desktop/widgets/map_widget.h"
 
 namespace campora {
 
@@ -91,9 +88,8 @@ bool Availability::fulfils(Needs needs) const {
     return false;
 }
 
-ActionSet::ActionSet(MainWindow& window, QMenuBar& menuBar, QToolBar& mainTools,
-                     QToolBar& fileTools)
-    : window_(window), menuBar_(menuBar) {
+ActionSet::ActionSet(const MainWindow& commands, const ActionPlaces& places, Perform perform)
+    : commands_(commands), places_(places), perform_(std::move(perform)) {
     for (const MenuRow& row : kMenus) {
         if (row.id == row.parent) {
             static_cast<void>(menu(row.id));
@@ -116,12 +112,12 @@ ActionSet::ActionSet(MainWindow& window, QMenuBar& menuBar, QToolBar& mainTools,
     for (const MenuRow& row : kMenus) {
         static_cast<void>(menu(row.id));  // also those that are filled while the program runs
     }
-    fillToolBar(mainTools, mainToolRows());
-    fillToolBar(fileTools, fileToolRows());
+    fillToolBar(places.mainTools, mainToolRows());
+    fillToolBar(places.fileTools, fileToolRows());
 }
 
 QAction* ActionSet::makeAction(const ActionRow& row) {
-    auto* made = new QAction(&window_);
+    auto* made = new QAction(&places_.window);
     made->setObjectName(row.name);
     if (*row.icon != 0) {
         made->setIcon(QIcon(QString(":/icons/%1.svg").arg(row.icon)));
@@ -129,10 +125,10 @@ QAction* ActionSet::makeAction(const ActionRow& row) {
     made->setShortcuts(keysOf(row));
     if (row.keysOnMap) {
         made->setShortcutContext(Qt::WidgetShortcut);
-        window_.mapArea().map().addAction(made);
+        places_.map.addAction(made);
     }
     made->setCheckable(row.isOn != nullptr);
-    QObject::connect(made, &QAction::triggered, &window_, [this, &row] { window_.perform(row); });
+    QObject::connect(made, &QAction::triggered, &places_.window, [this, &row] { perform_(row); });
     return made;
 }
 
@@ -168,7 +164,7 @@ QMenu& ActionSet::menu(MenuId id) {
     }
     const MenuRow& row = menuRow(id);
     QMenu* made =
-        row.parent == id ? menuBar_.addMenu(QString()) : menu(row.parent).addMenu(QString());
+        row.parent == id ? places_.menuBar.addMenu(QString()) : menu(row.parent).addMenu(QString());
     menus_[id] = made;
     return *made;
 }
@@ -196,13 +192,13 @@ void ActionSet::showStates(const Texts& texts, const Availability& availability)
     const auto rows = actionRows();
     for (std::size_t i = 0; i < actions_.size(); ++i) {
         const ActionRow& row = rows[i];
-        const bool possible = row.possible == nullptr || row.possible(window_);
+        const bool possible = row.possible == nullptr || row.possible(commands_);
         actions_[i]->setEnabled(availability.fulfils(row.needs) && possible);
         if (row.isOn != nullptr) {
-            actions_[i]->setChecked(row.isOn(window_));
+            actions_[i]->setChecked(row.isOn(commands_));
         }
         if (row.caption != nullptr) {
-            actions_[i]->setText(toQt(texts(row.caption(window_))));
+            actions_[i]->setText(toQt(texts(row.caption(commands_))));
         }
     }
     menu(MenuId::Edit).menuAction()->setEnabled(availability.map);

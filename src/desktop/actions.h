@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <functional>
 #include <map>
 #include <span>
 #include <string_view>
@@ -20,6 +21,7 @@ class QMenu;
 class QMenuBar;
 class QToolBar;
 class QToolButton;
+class QWidget;
 
 namespace campora {
 
@@ -72,6 +74,8 @@ struct ActionRow {
     /// A line stands before it in its menu.
     bool opensGroup = false;
     Needs needs = Needs::Nothing;
+    /// The pointer shows that the program is busy while it runs.
+    bool isSlow = false;
     void (*run)(MainWindow& window) = nullptr;
     /// For commands that are on or off: which of the two.
     bool (*isOn)(const MainWindow& window) = nullptr;
@@ -110,11 +114,24 @@ struct Availability {
     [[nodiscard]] bool fulfils(Needs needs) const;
 };
 
+/// Where the actions of a window are, which they belong to.
+struct ActionPlaces {
+    QWidget& window;
+    /// Has the keys that act on the map alone.
+    QWidget& map;
+    QMenuBar& menuBar;
+    QToolBar& mainTools;
+    QToolBar& fileTools;
+};
+
 /// The commands of one window as actions of the toolkit, built from the rows.
 class ActionSet {
 public:
-    /// Makes the actions, which belong to the window, and fills the bars with them.
-    ActionSet(MainWindow& window, QMenuBar& menuBar, QToolBar& mainTools, QToolBar& fileTools);
+    using Perform = std::function<void(const ActionRow&)>;
+
+    /// Makes the actions and fills the bars with them. `commands`: whose states they show.
+    /// `perform`: runs the one that was chosen.
+    ActionSet(const MainWindow& commands, const ActionPlaces& places, Perform perform);
 
     void retranslate(const Texts& texts);
     /// Shows which commands are on and which can be used, and captions that follow the work.
@@ -126,8 +143,9 @@ private:
     void fillToolBar(QToolBar& bar, std::span<const ToolRow> rows);
     [[nodiscard]] QAction* action(std::string_view name) const;
 
-    MainWindow& window_;
-    QMenuBar& menuBar_;
+    const MainWindow& commands_;
+    ActionPlaces places_;
+    Perform perform_;
     std::map<MenuId, QMenu*> menus_;
     /// One for each row.
     std::vector<QAction*> actions_;

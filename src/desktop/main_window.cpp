@@ -86,7 +86,9 @@ MainWindow::MainWindow(const Services& services, Language language,
     tools_->setContextMenuPolicy(Qt::PreventContextMenu);
     tools_->setIconSize({24, 24});
     addToolBar(tools_);
-    actions_ = std::make_unique<ActionSet>(*this, *menuBar(), *tools_, sidePanel_->fileTools());
+    actions_ = std::make_unique<ActionSet>(
+        *this, ActionPlaces{*this, mapArea_->map(), *menuBar(), *tools_, sidePanel_->fileTools()},
+        [this](const ActionRow& row) { perform(row); });
     arrange();
     makeStatusBar();
     session_ = std::make_unique<Session>(mapArea_->map().canvas(), *this, services, language,

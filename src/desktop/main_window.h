@@ -56,19 +56,11 @@ public:
     void perform(const ActionRow& row);
 
     // The commands that are more than a call of the session.
-    void openFile();
     void openWorkOrders();
-    void mergeLots();
-    void editSummary();
     /// `row`: of the summary, -1 for none.
     void openSummaryMenu(int row, QPoint place);
     void copyImage();
     void goToCoordinate();
-    void exportMap();
-    void exportReport();
-    void exportGlg();
-    void savePrescription();
-    void saveVrt();
     void setUpPage();
     void printPreview();
     void print();
@@ -82,9 +74,6 @@ public:
     /// A narrow window has no room for it while a lot is drawn.
     [[nodiscard]] bool hasRoomForSidePanel() const;
     void toggleFullScreen();
-    void mnuHelpLangEsp();
-    void mnuHelpLangIng();
-    void mnuHelpLangPort();
 
     void setTitle(std::string_view title) override;
     void setFileList(std::span<const FileListRow> rows, std::optional<int> selected) override;
@@ -118,8 +107,6 @@ private:
     /// Shows or hides the panel beside the map as the editor of lots is open or not.
     void showLotPanel();
     void arrangePanels();
-    /// Does something that gives the map another size; what it shows stays in its middle.
-    void keepingPlace(const std::function<void()>& change);
     void fillMenus();
     void fillRecentMenu();
     void fillChannelMenu();

@@ -41,13 +41,14 @@ QString menuText(std::string_view text) {
 
 void MainWindow::perform(const ActionRow& row) {
     session_->tools().hideInfo();
-    row.run(*this);
+    {
+        std::optional<PointerOverride> busy;
+        if (row.isSlow) {
+            busy.emplace(Qt::WaitCursor);
+        }
+        row.run(*this);
+    }
     commandsChanged();
-}
-
-void MainWindow::openFile() {
-    const PointerOverride busy(Qt::WaitCursor);
-    session_->fileCommands().fileOpen();
 }
 
 void MainWindow::openPaths(const std::vector<std::string>& paths, bool inPlaceOfOthers) {
@@ -61,19 +62,6 @@ void MainWindow::openWorkOrders() {
     dialog.showOpen();
 }
 
-void MainWindow::editSummary() {
-    SummaryCommands& summary = session_->summaryCommands();
-    const std::string source = summary.summaryFile();
-    if (source.empty()) {
-        editProperties(
-            summary.rows(), [&summary](const SummaryRows& rows) { return summary.keep(rows); },
-            services_.dialogs, session_->texts(), this);
-    } else {
-        editSummaryFile(source, services_.dialogs, session_->texts(), this);
-        summary.reread();
-    }
-}
-
 void MainWindow::openSummaryMenu(int row, QPoint place) {
     SummaryCommands& summary = session_->summaryCommands();
     auto* const menu = new QMenu(this);
@@ -85,7 +73,7 @@ void MainWindow::openSummaryMenu(int row, QPoint place) {
     add(TextId::BackToMeasured, summary.isEdited(row),
         [&summary, row] { summary.backToMeasured(row); });
     add(TextId::MeasuredAll, summary.hasEdits(), [&summary] { summary.backToMeasured(); });
-    add(TextId::ActionEditSummary, summary.canEdit(), [this] { editSummary(); });
+    add(TextId::ActionEditSummary, summary.canEdit(), [&summary] { summary.edit(); });
     menu->popup(place);
 }
 
@@ -100,31 +88,6 @@ void MainWindow::goToCoordinate() {
             session_->map().desk().tell({TextId::PositionOffTheMap, {}}, MessageIcon::Information);
         }
     }
-}
-
-void MainWindow::exportMap() {
-    const PointerOverride busy(Qt::WaitCursor);
-    session_->exportCommands().mnuFileExport();
-}
-
-void MainWindow::exportReport() {
-    const PointerOverride busy(Qt::WaitCursor);
-    session_->exportCommands().mnuFileExportRpt();
-}
-
-void MainWindow::exportGlg() {
-    const PointerOverride busy(Qt::WaitCursor);
-    session_->exportCommands().mnuFileExportGlg();
-}
-
-void MainWindow::savePrescription() {
-    const PointerOverride busy(Qt::WaitCursor);
-    session_->prescCommands().mnuFileSavePrescript();
-}
-
-void MainWindow::saveVrt() {
-    const PointerOverride busy(Qt::WaitCursor);
-    session_->prescCommands().mnuFileSaveVrt();
 }
 
 void MainWindow::setUpPage() {
@@ -170,24 +133,19 @@ void MainWindow::toggleFullScreen() {
     setWindowState(windowState() ^ Qt::WindowFullScreen);
 }
 
-void MainWindow::mnuHelpLangEsp() {
-    session_->setLanguage(Language::Spanish);
-}
-
-void MainWindow::mnuHelpLangIng() {
-    session_->setLanguage(Language::English);
-}
-
-void MainWindow::mnuHelpLangPort() {
-    session_->setLanguage(Language::Portuguese);
-}
-
 void MainWindow::connectMenus() {
     session_->prescCommands().chooseChannels = [this] {
         return DoseColumnDialog(session_->map(), services_, this).choose();
     };
     session_->prescCommands().askDose = [this](const ColorScale& scale, float current) {
         return SelectDoseDialog(&scale, current, session_->map().desk(), this).getDosis();
+    };
+    SummaryCommands& summary = session_->summaryCommands();
+    summary.editRows = [this](SummaryRows rows, const SummaryCommands::Keep& keep) {
+        editProperties(std::move(rows), keep, services_.dialogs, session_->texts(), this);
+    };
+    summary.editFile = [this](const std::string& path) {
+        editSummaryFile(path, services_.dialogs, session_->texts(), this);
     };
     session_->exportCommands().savePicture = savePicture;
     session_->exportCommands().showTrackExport = [this](const std::vector<std::string>& paths) {

@@ -9,7 +9,6 @@
 
 #include "desktop/lot_panel.h"
 #include "desktop/main_window.h"
-#include "desktop/platform/pointer_override.h"
 #include "desktop/widgets/map_area.h"
 #include "desktop/widgets/map_widget.h"
 #include "desktop/widgets/side_panel.h"
@@ -22,11 +21,6 @@ namespace {
 constexpr int kRoomForBoth = 900;
 
 }  // namespace
-
-void MainWindow::mergeLots() {
-    const PointerOverride busy(Qt::WaitCursor);
-    session_->lotCommands().mnuLoteMerge();
-}
 
 void MainWindow::makeLotPanel() {
     lotPanel_ = new LotPanel(*session_, mapArea_->map(), this);
@@ -54,27 +48,12 @@ void MainWindow::showLotPanel() {
         }
         return;
     }
-    keepingPlace([this, open] {
+    session_->display().keepingPlace([this, open] {
         lotPanel_->setVisible(open);
         arrangePanels();
+        centralWidget()->layout()->activate();  // the map has its new size now and shows all
     });
     mapArea_->map().setFocus();
-}
-
-void MainWindow::keepingPlace(const std::function<void()>& change) {
-    MapView& view = session_->display().view();
-    const CanvasSize size = mapArea_->map().canvas().size();
-    const LonLat middle = view.transform().screenToMap(static_cast<float>(size.width) / 2,
-                                                       static_cast<float>(size.height) / 2);
-    const float scale = view.scaleX();
-    const bool isWhole = scale >= view.maxScale();
-    change();
-    centralWidget()->layout()->activate();  // the map has its new size now and shows all
-    if (!isWhole && session_->map().plotCount() > 0) {
-        const float kept = std::min(scale, view.maxScale());
-        view.setView(kept, kept, view.scrollX(), view.scrollY());
-        view.centreOn(middle);
-    }
 }
 
 }  // namespace campora

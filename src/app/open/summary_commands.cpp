@@ -21,6 +21,16 @@ bool SummaryCommands::canEdit() const {
     return file != nullptr && !file->File_diskPath().empty();
 }
 
+void SummaryCommands::edit() {
+    const std::string source = summaryFile();
+    if (!source.empty()) {
+        editFile(source);
+        reread();
+    } else {
+        editRows(rows(), [this](const SummaryRows& rows) { return keep(rows); });
+    }
+}
+
 std::string SummaryCommands::summaryFile() {
     File* const file = map_.files().currentFile();
     if (file == nullptr) {

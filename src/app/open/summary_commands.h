@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "app/map_display.h"
@@ -23,8 +24,16 @@ public:
     /// Both outlive this.
     SummaryCommands(OpenMap& map, MapDisplay& display) : map_(map), display_(display) {}
 
+    /// Hands over the rows that the user wants; false when they could not be kept.
+    using Keep = std::function<bool(const SummaryRows& rows)>;
+    // Set by the window.
+    std::function<void(SummaryRows rows, const Keep& keep)> editRows;
+    std::function<void(const std::string& path)> editFile;
+
     /// Whether there is a file on the disk whose summary can be edited.
     [[nodiscard]] bool canEdit() const;
+    /// Opens the editor of the summary file, or of the rows where the summary was measured.
+    void edit();
     /// The summary file of the current file; empty where the summary was measured. A summary file
     /// that was not there when its work was opened is looked for again, and shown when it is.
     [[nodiscard]] std::string summaryFile();
