@@ -114,7 +114,8 @@ void openPre(benchmark::State& state) {
     const std::string path = folder.write("a.pre", largestPre());
     QuietDialogs dialogs;
     for (auto _ : state) {
-        benchmark::DoNotOptimize(loadGrid(path, {dialogs, FixedLocale(), Texts(), MapColors()}));
+        benchmark::DoNotOptimize(
+            loadGrid(path, {dialogs, Texts(), FixedLocale()}, MapColors().back));
     }
 }
 BENCHMARK(openPre)->Unit(benchmark::kMillisecond);
@@ -123,7 +124,7 @@ void drawPre(benchmark::State& state) {
     const TempFolder folder;
     QuietDialogs dialogs;
     const auto layer = loadGrid(folder.write("a.pre", largestPre()),
-                                {dialogs, FixedLocale(), Texts(), MapColors()});
+                                {dialogs, Texts(), FixedLocale()}, MapColors().back);
     RasterCanvas canvas(kCanvas);
     const BoundingBox& bound = layer->Gph_bound();
     const auto scale = static_cast<float>(bound.heightM / kCanvas.height);

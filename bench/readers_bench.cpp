@@ -115,7 +115,7 @@ std::string trackOf(std::size_t lines) {
     return track.bytes();
 }
 
-using Loader = std::optional<LoadedWork> (*)(std::string_view, const WorkReaderContext&);
+using Loader = std::optional<LoadedWork> (*)(std::string_view, const WorkDesk&);
 
 void openFile(benchmark::State& state, const char* name, std::string (*contentOf)(std::size_t),
               Loader load) {
@@ -136,7 +136,7 @@ void openFile(benchmark::State& state, const char* name, std::string (*contentOf
     for (auto _ : state) {
         const std::size_t before = heapNow;
         heapPeak = heapNow;
-        std::optional<LoadedWork> work = load(path, {dialogs, locale, texts, registrations});
+        std::optional<LoadedWork> work = load(path, {{dialogs, texts, locale}, registrations});
         most = std::max(most, heapPeak - before);
         if (!work || dialogs.messages != 0) {
             state.SkipWithError("the file did not open");

@@ -190,11 +190,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     WatchedDialogs dialogs(noChoices);
     const ChosenLocale locale(noChoices);
     const Texts texts;
-    const GenerationContext context{dialogs, texts, locale};
+    const Desk desk{dialogs, texts, locale};
     const std::string path = out.file(asPre ? "a.pre" : "a.vrt");
     out.clear();
-    const bool written = (asPre ? generatePRE(path, metres, channels, context)
-                                : generateVRT(path, resolution, {"a", ""}, channels, context))
+    const bool written = (asPre ? generatePRE(path, metres, channels, desk)
+                                : generateVRT(path, resolution, {"a", ""}, channels, desk))
                              .has_value();
     if (dialogs.said() == 0) {
         stop("a prescription neither saved nor refused");

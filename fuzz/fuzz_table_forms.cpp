@@ -29,11 +29,11 @@ using namespace campora;
 namespace {
 
 /// As the program opens one: what is plainly no table is thrown out, and told.
-std::optional<LoadedWork> tableOf(std::string_view bytes, const WorkReaderContext& context) {
+std::optional<LoadedWork> tableOf(std::string_view bytes, const WorkDesk& desk) {
     try {
-        return readRptTextTable("a.txt", FileBytes(std::string(bytes)), context);
+        return readRptTextTable("a.txt", FileBytes(std::string(bytes)), desk);
     } catch (const FormatError& error) {
-        context.dialogs.message(context.texts.sentence(error.failure()), MessageIcon::Error, "");
+        desk.dialogs.message(desk.texts.sentence(error.failure()), MessageIcon::Error, "");
         return std::nullopt;
     }
 }

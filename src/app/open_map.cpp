@@ -112,8 +112,8 @@ bool OpenMap::take(std::string_view path, bool inPlace, Dialogs& boxes) {
 
 bool OpenMap::takeWork(std::string_view path, const FileFormat& format, bool inPlace,
                        Dialogs& boxes) {
-    const OpenContext context{{boxes, desk_.locale, desk_.texts, registrations_}, style_.colors};
-    std::optional<OpenedFile> work = format.read(path, context);
+    const OpenDesk desk{{desk_.with(boxes), registrations_}, style_.colors};
+    std::optional<OpenedFile> work = format.read(path, desk);
     if (!work) {
         return false;
     }

@@ -60,7 +60,7 @@ int runMerge(const Arguments& arguments, const Console& console) {
     int status = exit_status::kDone;
     std::vector<Lot> lots;
     for (const std::string& path : arguments.files) {
-        if (const auto file = loadLot(path, {dialogs, locale, texts})) {
+        if (const auto file = loadLot(path, {dialogs, texts, locale})) {
             std::vector<Lot> read = lotsOf(*file);
             std::move(read.begin(), read.end(), std::back_inserter(lots));
         } else {

@@ -105,16 +105,16 @@ std::optional<Failure> whyNotWritten(const Arguments& arguments) {
 }
 
 bool writeGrid(const Arguments& arguments, std::span<const ChannelZones> channels,
-               const GenerationContext& context) {
+               const Desk& desk) {
     const PrescriptionOrder& order = arguments.prescription;
     if (order.kind == GridKind::Vrt) {
         return generateVRT(arguments.output, *order.resolution, {order.name, order.description},
-                           channels, context)
+                           channels, desk)
             .has_value();
     }
     const std::string swath = arguments.swath.value_or(std::string(kUsualSwath));
     return generatePRE(arguments.output, roundToInt32(typedNumber(swath).value_or(0)), channels,
-                       context)
+                       desk)
         .has_value();
 }
 
@@ -150,7 +150,7 @@ int runPrescribe(const Arguments& arguments, const Console& console) {
         channels.push_back(zonesOf(*layer));
     }
     GridDialogs dialogs(arguments, console.boxes);
-    const bool written = writeGrid(arguments, channels, {dialogs, desk.texts, desk.locale});
+    const bool written = writeGrid(arguments, channels, desk.with(dialogs));
     return written ? exit_status::kDone : exit_status::kRefused;
 }
 

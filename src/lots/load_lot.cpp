@@ -49,27 +49,25 @@ void fillSummary(std::span<const Lot> lots, FileGphGroup& group, const UserLocal
     }
 }
 
-void tell(std::string_view path, const Failure& cause, const LotReaderContext& context) {
-    context.dialogs.message(
-        context.texts.sentence(because(TextId::FileCannotBeRead, {std::string(path)}, cause)),
-        MessageIcon::Error, context.texts(TextId::WrongFileFormat));
+void tell(std::string_view path, const Failure& cause, const Desk& desk) {
+    desk.titled(TextId::WrongFileFormat)
+        .tell(because(TextId::FileCannotBeRead, {std::string(path)}, cause), MessageIcon::Error);
 }
 
 }  // namespace
 
-std::unique_ptr<FileGphGroup> loadLot(std::string_view path, const LotReaderContext& context) {
+std::unique_ptr<FileGphGroup> loadLot(std::string_view path, const Desk& desk) {
     const Result<FileBytes> file = readFile(path);
     if (!file) {
-        context.dialogs.message(context.texts.sentence(file.failure()), MessageIcon::Error,
-                                context.texts(TextId::WrongFileFormat));
+        desk.titled(TextId::WrongFileFormat).tell(file.failure(), MessageIcon::Error);
         return nullptr;
     }
     const Lot lot = decodeLot(file->text());
     if (lot.vertices.empty()) {
-        tell(path, {TextId::LoteWithoutVertices, {}}, context);
+        tell(path, {TextId::LoteWithoutVertices, {}}, desk);
         return nullptr;
     }
-    auto group = makeLotGroup({&lot, 1}, path, fileNamePart(path), context.locale);
+    auto group = makeLotGroup({&lot, 1}, path, fileNamePart(path), desk.locale);
     if (lot.noPositions.count > 0) {
         group->addRemark(lot.noPositions.remark(TextId::RemarkNoVertex));
     }

@@ -8,24 +8,14 @@
 #include <string_view>
 #include <vector>
 
-#include "base/texts.h"
 #include "lots/lot.h"
 #include "model/file_gph_group.h"
-#include "platform/dialogs.h"
-#include "platform/user_locale.h"
+#include "platform/desk.h"
 
 namespace campora {
 
-/// What the reader of lots needs from outside.
-struct LotReaderContext {
-    Dialogs& dialogs;
-    const UserLocale& locale;
-    const Texts& texts;
-};
-
 /// Opens a lot file; null when it cannot be read or has no vertices, which is told.
-[[nodiscard]] std::unique_ptr<FileGphGroup> loadLot(std::string_view path,
-                                                    const LotReaderContext& context);
+[[nodiscard]] std::unique_ptr<FileGphGroup> loadLot(std::string_view path, const Desk& desk);
 
 /// An entry of the file list with a layer a lot and their figures in its summary: hectares and
 /// perimeter in all, vertices, and the description of the first lot. Not empty. `path` may be

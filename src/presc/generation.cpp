@@ -69,13 +69,13 @@ std::optional<Failure> faultOf(const GridSize& size, std::int64_t mostAcross, do
 }
 
 std::optional<std::vector<std::int16_t>> askFallbackDoses(std::span<const ChannelZones> channels,
-                                                          const GenerationContext& context) {
+                                                          const Desk& desk) {
     std::vector<std::int16_t> doses;
     for (std::size_t channel = 0; channel < channels.size(); ++channel) {
-        const std::optional<std::string> answer = context.dialogs.inputBox(
-            {kFallbackQuestions[channel], std::string(context.texts(TextId::ProgramName)),
-             numberText(std::floor(static_cast<double>(channels[channel].meanDose))),
-             channels[channel].path});
+        const std::optional<std::string> answer =
+            desk.askText(kFallbackQuestions[channel],
+                         numberText(std::floor(static_cast<double>(channels[channel].meanDose))),
+                         channels[channel].path);
         if (!answer) {
             return std::nullopt;
         }
@@ -83,7 +83,7 @@ std::optional<std::vector<std::int16_t>> askFallbackDoses(std::span<const Channe
             trim(*answer).empty() ? std::optional(0.0) : typedNumber(*answer);
         const double steps = roundHalfEven(dose.value_or(0));
         if (!dose || !doseScaleOf(GridKind::Pre).holds(steps)) {
-            context.refuse({TextId::AnswerNotANumber, {*answer}});
+            desk.tell({TextId::AnswerNotANumber, {*answer}});
             return std::nullopt;
         }
         doses.push_back(static_cast<std::int16_t>(steps));
@@ -91,23 +91,22 @@ std::optional<std::vector<std::int16_t>> askFallbackDoses(std::span<const Channe
     return doses;
 }
 
-void refuse(std::string_view path, Failure cause, const GenerationContext& context) {
-    context.refuse(because(TextId::FileCannotBeWritten, {std::string(path)}, std::move(cause)));
+void refuse(std::string_view path, Failure cause, const Desk& desk) {
+    desk.tell(because(TextId::FileCannotBeWritten, {std::string(path)}, std::move(cause)));
 }
 
 /// None when the user cancels, or when no cell meets a zone, which is said.
 std::optional<Grid> fillGrid(GridLayout layout, std::span<const ChannelZones> channels,
-                             const GridRule& rule, std::string_view path,
-                             const GenerationContext& context) {
+                             const GridRule& rule, std::string_view path, const Desk& desk) {
     const std::unique_ptr<Progress> progress =
-        context.dialogs.progress(context.texts(TextId::MakingPrescription));
+        desk.dialogs.progress(desk.texts(TextId::MakingPrescription));
     std::optional<GridDoses> filled =
         dosesUnder(channels, layout.centres, doseScaleOf(rule.kind), rule.fallback, *progress);
     if (!filled) {
         return std::nullopt;
     }
     if (!filled->meetZones) {
-        refuse(path, {TextId::PrescriptionWithoutCells, {}}, context);
+        refuse(path, {TextId::PrescriptionWithoutCells, {}}, desk);
         return std::nullopt;
     }
     return Grid{std::move(layout), std::move(filled->doses)};
@@ -170,15 +169,15 @@ std::optional<Failure> writeWithCompanion(std::string_view path, std::string_vie
 
 /// Says how much stands in the file.
 void tellWritten(std::string_view path, const Grid& grid, std::size_t channels,
-                 const DoseScale& scale, const GenerationContext& context) {
+                 const DoseScale& scale, const Desk& desk) {
     const double cellHa = grid.layout.metres * grid.layout.metres / kSquareMetresPerHectare;
     const auto shown = [&](double value) {
         return numberText(roundHalfEven(value * kHundredths) / kHundredths,
-                          context.locale.decimalSymbol());
+                          desk.locale.decimalSymbol());
     };
-    std::string text = context.texts.format(TextId::PrescriptionWritten,
-                                            {std::string(path), numberText(grid.cells()),
-                                             shown(static_cast<double>(grid.cells()) * cellHa)});
+    std::string text = desk.texts.format(TextId::PrescriptionWritten,
+                                         {std::string(path), numberText(grid.cells()),
+                                          shown(static_cast<double>(grid.cells()) * cellHa)});
     for (std::size_t channel = 0; channel < channels; ++channel) {
         std::int64_t dosed = 0;
         std::int64_t steps = 0;
@@ -187,43 +186,42 @@ void tellWritten(std::string_view path, const Grid& grid, std::size_t channels,
             steps += grid.doses[i];
         }
         text +=
-            "\n" + context.texts.format(TextId::PrescriptionChannelWritten,
-                                        {numberText(channel + 1), numberText(dosed),
-                                         shown(static_cast<double>(dosed) * cellHa),
-                                         shown(static_cast<double>(steps) / scale.steps * cellHa)});
+            "\n" + desk.texts.format(TextId::PrescriptionChannelWritten,
+                                     {numberText(channel + 1), numberText(dosed),
+                                      shown(static_cast<double>(dosed) * cellHa),
+                                      shown(static_cast<double>(steps) / scale.steps * cellHa)});
     }
-    context.dialogs.message(text, MessageIcon::Information, context.texts(TextId::ProgramName));
+    desk.tell(text, MessageIcon::Information);
 }
 
 }  // namespace
 
 std::optional<GridRule> generatePRE(std::string_view path, int cellSize,
-                                    std::span<const ChannelZones> channels,
-                                    const GenerationContext& context) {
+                                    std::span<const ChannelZones> channels, const Desk& desk) {
     const BoundingBox bound = boundOf(channels);
     if (const std::optional<Failure> stands = whyReportStands(path)) {
-        context.refuse(*stands);
+        desk.tell(*stands);
         return std::nullopt;
     }
     if (std::optional<Failure> fault =
             faultOf(channels, bound, doseScaleOf(GridKind::Pre), cellSize)) {
-        refuse(path, std::move(*fault), context);
+        refuse(path, std::move(*fault), desk);
         return std::nullopt;
     }
-    const auto fallback = askFallbackDoses(channels, context);
+    const auto fallback = askFallbackDoses(channels, desk);
     const auto metres =
-        fallback ? settleCellSize(bound, cellSize, kPreFormat, path, context) : std::nullopt;
+        fallback ? settleCellSize(bound, cellSize, kPreFormat, path, desk) : std::nullopt;
     if (!metres) {
         return std::nullopt;
     }
     const GridSize size = gridSize(bound, *metres);
     if (std::optional<Failure> fault = faultOf(size, kMostInHeader, *metres, bound)) {
-        refuse(path, std::move(*fault), context);
+        refuse(path, std::move(*fault), desk);
         return std::nullopt;
     }
     const GridRule rule{GridKind::Pre, *metres, *fallback};
     const std::optional<Grid> grid =
-        fillGrid(gridLayout(rule.kind, bound, *metres, size), channels, rule, path, context);
+        fillGrid(gridLayout(rule.kind, bound, *metres, size), channels, rule, path, desk);
     if (!grid) {
         return std::nullopt;
     }
@@ -232,43 +230,42 @@ std::optional<GridRule> generatePRE(std::string_view path, int cellSize,
         failure = writeWithCompanion(path, preBytes(*grid, channels.size()), grid->cells());
     }
     if (failure) {
-        context.refuse(*failure);
+        desk.tell(*failure);
         return std::nullopt;
     }
-    tellWritten(path, *grid, channels.size(), doseScaleOf(GridKind::Pre), context);
+    tellWritten(path, *grid, channels.size(), doseScaleOf(GridKind::Pre), desk);
     return rule;
 }
 
 std::optional<GridRule> generateVRT(std::string_view path, float resolution, const VrtTexts& about,
-                                    std::span<const ChannelZones> channels,
-                                    const GenerationContext& context) {
+                                    std::span<const ChannelZones> channels, const Desk& desk) {
     const BoundingBox bound = boundOf(channels);
     if (std::optional<Failure> fault =
             faultOf(channels, bound, doseScaleOf(GridKind::Vrt), resolution)) {
-        refuse(path, std::move(*fault), context);
+        refuse(path, std::move(*fault), desk);
         return std::nullopt;
     }
-    const auto metres = settleCellSize(bound, resolution, kVrtFormat, path, context);
+    const auto metres = settleCellSize(bound, resolution, kVrtFormat, path, desk);
     if (!metres) {
         return std::nullopt;
     }
     const GridSize size = gridSize(bound, *metres);
     if (std::optional<Failure> fault = faultOf(size, kMostGridCells, *metres, bound)) {
-        refuse(path, std::move(*fault), context);
+        refuse(path, std::move(*fault), desk);
         return std::nullopt;
     }
     const GridRule rule{GridKind::Vrt, *metres, std::vector<std::int16_t>(channels.size(), 0)};
     const std::optional<Grid> grid =
-        fillGrid(gridLayout(rule.kind, bound, *metres, size), channels, rule, path, context);
+        fillGrid(gridLayout(rule.kind, bound, *metres, size), channels, rule, path, desk);
     if (!grid) {
         return std::nullopt;
     }
     if (const std::optional<Failure> failure =
             write(path, vrtBytes(*grid, channels.size(), about))) {
-        context.refuse(*failure);
+        desk.tell(*failure);
         return std::nullopt;
     }
-    tellWritten(path, *grid, channels.size(), doseScaleOf(GridKind::Vrt), context);
+    tellWritten(path, *grid, channels.size(), doseScaleOf(GridKind::Vrt), desk);
     return rule;
 }
 

@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/desk.h"
 #include "presc/channel_zones.h"
 #include "presc/grid_layout.h"
 #include "presc/grid_size.h"
@@ -31,8 +32,7 @@ inline constexpr TextId kFallbackQuestions[kMostChannels] = {
 /// stands there. `cellSize`: metres. Where no
 /// zone is, a cell has the dose that the user gives the channel.
 std::optional<GridRule> generatePRE(std::string_view path, int cellSize,
-                                    std::span<const ChannelZones> channels,
-                                    const GenerationContext& context);
+                                    std::span<const ChannelZones> channels, const Desk& desk);
 
 /// What a VRT file says of itself.
 struct VrtTexts {
@@ -42,8 +42,7 @@ struct VrtTexts {
 
 /// A VRT file. `resolution`: metres. Where no zone is, a cell has the dose 0.
 std::optional<GridRule> generateVRT(std::string_view path, float resolution, const VrtTexts& about,
-                                    std::span<const ChannelZones> channels,
-                                    const GenerationContext& context);
+                                    std::span<const ChannelZones> channels, const Desk& desk);
 
 /// The path of the report beside a PRE file: its last three characters are "rpt".
 [[nodiscard]] std::string companionPath(std::string_view path);

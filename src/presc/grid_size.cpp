@@ -35,8 +35,8 @@ double proposedSize(const BoundingBox& bound, double metres, const GridFormat& f
     return proposed > metres ? proposed : metres + 1;
 }
 
-std::string shown(double value, const GenerationContext& context) {
-    return numberText(value, context.locale.decimalSymbol());
+std::string shown(double value, const Desk& desk) {
+    return numberText(value, desk.locale.decimalSymbol());
 }
 
 }  // namespace
@@ -54,24 +54,20 @@ std::optional<Failure> cellSizeFault(double metres) {
 
 std::optional<double> settleCellSize(const BoundingBox& bound, double metres,
                                      const GridFormat& format, std::string_view path,
-                                     const GenerationContext& context) {
+                                     const Desk& desk) {
     for (;;) {
         const GridSize size = gridSize(bound, metres);
         if (std::max(size.columns, size.rows) <= format.most) {
             return metres;
         }
         const double proposed = proposedSize(bound, metres, format);
-        const std::string_view caption = context.texts(TextId::ProgramName);
-        const Answer change = context.dialogs.askYesNoCancel(
-            namingFile(
-                context.texts.format(format.question, {shown(roundSignificant(proposed), context)}),
-                path),
-            MessageIcon::Exclamation, caption);
+        const Answer change = desk.askOrCancel(namingFile(
+            desk.texts.format(format.question, {shown(roundSignificant(proposed), desk)}), path));
         if (change != Answer::Yes) {
             return change == Answer::No ? std::optional(metres) : std::nullopt;
         }
-        const std::optional<std::string> answer = context.dialogs.inputBox(
-            {TextId::AskSwath, std::string(caption), shown(proposed, context), std::string(path)});
+        const std::optional<std::string> answer =
+            desk.askText(TextId::AskSwath, shown(proposed, desk), path);
         if (!answer) {
             return std::nullopt;
         }
@@ -80,13 +76,13 @@ std::optional<double> settleCellSize(const BoundingBox& bound, double metres,
         }
         const std::optional<double> typed = typedNumber(*answer);
         if (!typed) {
-            context.refuse({TextId::AnswerNotANumber, {*answer}});
+            desk.tell({TextId::AnswerNotANumber, {*answer}});
             return std::nullopt;
         }
         metres = format.wholeMetres ? roundHalfEven(*typed)
                                     : static_cast<double>(static_cast<float>(*typed));
         if (const std::optional<Failure> fault = cellSizeFault(metres)) {
-            context.refuse(*fault);
+            desk.tell(*fault);
             return std::nullopt;
         }
     }

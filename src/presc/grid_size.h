@@ -8,10 +8,8 @@
 #include <string_view>
 
 #include "base/failure.h"
-#include "base/texts.h"
 #include "model/bounding_box.h"
-#include "platform/dialogs.h"
-#include "platform/user_locale.h"
+#include "platform/desk.h"
 
 namespace campora {
 
@@ -42,23 +40,11 @@ inline constexpr GridFormat kVrtFormat{250, TextId::VrtTooLarge, false};
 /// What stands against a side of a cell in metres; none when it serves.
 [[nodiscard]] std::optional<Failure> cellSizeFault(double metres);
 
-/// What the making of a grid needs from outside.
-struct GenerationContext {
-    Dialogs& dialogs;
-    const Texts& texts;
-    const UserLocale& locale;
-
-    void refuse(const Failure& failure) const {
-        dialogs.message(texts.sentence(failure), MessageIcon::Exclamation,
-                        texts(TextId::ProgramName));
-    }
-};
-
 /// The side of a cell, in metres, after the user has been asked about a grid that is too large, as
 /// often as the answers make it so; none when the user cancels, or gives an answer that is no size,
 /// which is said. `path`: the file that is to hold the grid, as the questions name it.
 [[nodiscard]] std::optional<double> settleCellSize(const BoundingBox& bound, double metres,
                                                    const GridFormat& format, std::string_view path,
-                                                   const GenerationContext& context);
+                                                   const Desk& desk);
 
 }  // namespace campora

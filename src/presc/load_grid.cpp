@@ -15,9 +15,8 @@ namespace campora {
 
 namespace {
 
-void tell(const Failure& failure, const GridReaderContext& context) {
-    context.dialogs.message(context.texts.sentence(failure), MessageIcon::Error,
-                            context.texts(TextId::WrongFileFormat));
+void tell(const Failure& failure, const Desk& desk) {
+    desk.titled(TextId::WrongFileFormat).tell(failure, MessageIcon::Error);
 }
 
 bool isGrid(const FileBytes& head) {
@@ -26,40 +25,38 @@ bool isGrid(const FileBytes& head) {
 
 }  // namespace
 
-std::unique_ptr<GridLayer> readGrid(std::string_view path, const FileBytes& file,
-                                    const GridReaderContext& context) {
-    const char symbol = context.locale.decimalSymbol();
-    const Color background = context.colors.back;
+std::unique_ptr<GridLayer> readGrid(std::string_view path, const FileBytes& file, Color background,
+                                    char decimalSymbol) {
     if (isVrtFile(file.bytes())) {
-        return std::make_unique<GphVRT>(path, decodeVrt(file.bytes()), background, symbol);
+        return std::make_unique<GphVRT>(path, decodeVrt(file.bytes()), background, decimalSymbol);
     }
     if (isPreFile(file.bytes())) {
-        return std::make_unique<GphPRE>(path, decodePre(file.bytes()), background, symbol);
+        return std::make_unique<GphPRE>(path, decodePre(file.bytes()), background, decimalSymbol);
     }
     return nullptr;
 }
 
-std::unique_ptr<GridLayer> loadGrid(std::string_view path, const GridReaderContext& context) {
+std::unique_ptr<GridLayer> loadGrid(std::string_view path, const Desk& desk, Color background) {
     // Any file at all may be offered: a film is not to be read to its end before it is refused.
     constexpr std::size_t kHeadBytes = 64;
     const std::optional<std::string> head = readFileHead(path, kHeadBytes);
     if (head && !isGrid(FileBytes(*head))) {
-        tell({TextId::FileNotCompatibleNamed, {std::string(path)}}, context);
+        tell({TextId::FileNotCompatibleNamed, {std::string(path)}}, desk);
         return nullptr;
     }
     const Result<FileBytes> file = readFile(path);
     if (!file) {
-        tell(file.failure(), context);
+        tell(file.failure(), desk);
         return nullptr;
     }
     try {
-        std::unique_ptr<GridLayer> layer = readGrid(path, *file, context);
+        std::unique_ptr<GridLayer> layer = readGrid(path, *file, background, desk.decimalSymbol());
         if (!layer) {
-            tell({TextId::FileNotCompatibleNamed, {std::string(path)}}, context);
+            tell({TextId::FileNotCompatibleNamed, {std::string(path)}}, desk);
         }
         return layer;
     } catch (const FormatError& error) {
-        tell(because(TextId::FileCannotBeRead, {std::string(path)}, error.failure()), context);
+        tell(because(TextId::FileCannotBeRead, {std::string(path)}, error.failure()), desk);
         return nullptr;
     }
 }

@@ -87,24 +87,23 @@ void addRemarks(const RptView& report, const ReportSurvey& survey, const UserLoc
 }  // namespace
 
 std::optional<LoadedWork> readRptFile(std::string_view path, const FileBytes& bytes,
-                                      const WorkReaderContext& context) {
+                                      const WorkDesk& desk) {
     RptView report(bytes.bytes());
     if (report.highestChannel() > RptView::kHighestChannel) {
-        context.dialogs.message(
-            context.texts.format(TextId::TooManyChannels, {numberText(RptView::kHighestChannel)}),
-            MessageIcon::Error, context.texts(TextId::ProgramName));
+        desk.tell({TextId::TooManyChannels, {numberText(RptView::kHighestChannel)}},
+                  MessageIcon::Error);
         return std::nullopt;
     }
     LoadedWork work = startWork(path);
     ReportSurvey survey = surveyReport(report, work.ranges);
     if (!survey.start) {
-        return refuseWithoutPoints(path, context);
+        return refuseWithoutPoints(path, desk);
     }
     if (const std::optional<Failure> refusal = survey.check.refusal()) {
         throw FormatError(*refusal);
     }
     if (report.form() == RptView::Form::FourFields) {
-        const std::optional<float> swath = askSwath(path, context);
+        const std::optional<float> swath = askSwath(path, desk);
         if (!swath) {
             return std::nullopt;
         }
@@ -117,13 +116,13 @@ std::optional<LoadedWork> readRptFile(std::string_view path, const FileBytes& by
     }
     work.group->icon = "rptfile";
     work.kind = report.workKind();
-    fillSummary(report, survey, path, context.locale, work.group->File_resumen());
-    addRemarks(report, survey, context.locale, *work.group);
+    fillSummary(report, survey, path, desk.locale, work.group->File_resumen());
+    addRemarks(report, survey, desk.locale, *work.group);
     return work;
 }
 
-std::optional<LoadedWork> loadRptFile(std::string_view path, const WorkReaderContext& context) {
-    return openWork(path, context, readRptFile);
+std::optional<LoadedWork> loadRptFile(std::string_view path, const WorkDesk& desk) {
+    return openWork(path, desk, readRptFile);
 }
 
 }  // namespace campora

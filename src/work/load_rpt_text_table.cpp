@@ -21,18 +21,16 @@ namespace {
 /// The form of a table with that many column headings, asked for when there is none with as many;
 /// none when the user gives no good answer.
 std::optional<TableForm> chooseForm(std::size_t columns, std::string_view path,
-                                    const WorkReaderContext& context) {
+                                    const WorkDesk& desk) {
     auto wanted = static_cast<double>(columns);
     if (columns != 4 && columns != 8) {
-        const std::optional<std::string> answer = context.dialogs.inputBox(
-            {TextId::AskColumns, std::string(context.texts(TextId::ProgramName)), "8",
-             std::string(path)});
+        const std::optional<std::string> answer = desk.askText(TextId::AskColumns, "8", path);
         if (!answer) {
             return std::nullopt;
         }
         wanted = leadingNumber(*answer).value_or(0);
         if (wanted != 4 && wanted != 8) {
-            refuseAnswer(TextId::AnswerNotColumns, *answer, path, context);
+            refuseAnswer(TextId::AnswerNotColumns, *answer, path, desk);
             return std::nullopt;
         }
     }
@@ -88,24 +86,24 @@ void fillSummary(const std::vector<ReportRecord>& records, const TableSums& sums
 }  // namespace
 
 std::optional<LoadedWork> readRptTextTable(std::string_view path, const FileBytes& bytes,
-                                           const WorkReaderContext& context) {
+                                           const WorkDesk& desk) {
     const RptTextTable table = splitTable(bytes.text());
     if (trim(table.records).empty()) {
-        return refuseWithoutPoints(path, context);
+        return refuseWithoutPoints(path, desk);
     }
-    const std::optional<TableForm> form = chooseForm(table.columns, path, context);
+    const std::optional<TableForm> form = chooseForm(table.columns, path, desk);
     if (!form) {
         return std::nullopt;
     }
-    const std::optional<float> swath = form == TableForm::FourColumns ? askSwath(path, context) : 0;
+    const std::optional<float> swath = form == TableForm::FourColumns ? askSwath(path, desk) : 0;
     if (!swath) {
         return std::nullopt;
     }
     const TableRecords decoded =
-        decodeRecords(table.records, *form, context.locale.decimalSymbol(), *swath);
+        decodeRecords(table.records, *form, desk.locale.decimalSymbol(), *swath);
     const std::vector<ReportRecord>& records = decoded.records;
     if (records.empty()) {
-        return refuseWithoutPoints(path, context);
+        return refuseWithoutPoints(path, desk);
     }
     LoadedWork work = startWork(path);
     TableSums sums = sumUp(records);
@@ -117,20 +115,19 @@ std::optional<LoadedWork> readRptTextTable(std::string_view path, const FileByte
     for (const ReportRecord& record : records) {
         extend(work.ranges.dose, static_cast<float>(record.fields.real[0]));
     }
-    fillSummary(records, sums, path, context.locale, work.group->File_resumen());
+    fillSummary(records, sums, path, desk.locale, work.group->File_resumen());
     if (decoded.offGlobe.count > 0) {
         work.group->addRemark(decoded.offGlobe.remark(TextId::RemarkOffGlobe));
     }
     if (decoded.unreadFrom > 0) {
         work.group->addRemark({TextId::RemarkRestUnread, {numberText(decoded.unreadFrom)}});
     }
-    tellBounds(sums.bounds, context.locale, *work.group);
+    tellBounds(sums.bounds, desk.locale, *work.group);
     return work;
 }
 
-std::optional<LoadedWork> loadRptTextTable(std::string_view path,
-                                           const WorkReaderContext& context) {
-    return openWork(path, context, readRptTextTable);
+std::optional<LoadedWork> loadRptTextTable(std::string_view path, const WorkDesk& desk) {
+    return openWork(path, desk, readRptTextTable);
 }
 
 }  // namespace campora

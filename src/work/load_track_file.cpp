@@ -105,16 +105,16 @@ float readTrackHeader(std::string_view firstLine, std::string_view path, Dialogs
 }
 
 std::optional<LoadedWork> readTrackFile(std::string_view path, const FileBytes& bytes,
-                                        const WorkReaderContext& context) {
-    if (readTrackHeader(firstLineOf(bytes.text()), path, context.dialogs, context.texts) == 0) {
+                                        const WorkDesk& desk) {
+    if (readTrackHeader(firstLineOf(bytes.text()), path, desk.dialogs, desk.texts) == 0) {
         return std::nullopt;
     }
     const TrackLog log = decodeTrackLog(bytes.text());
     if (log.points.empty()) {
-        return refuseWithoutPoints(path, context);
+        return refuseWithoutPoints(path, desk);
     }
     const TrackHeader& header = log.header;
-    const std::string registration = context.registrations.registrationOf(header.serial);
+    const std::string registration = desk.registrations.registrationOf(header.serial);
     LoadedWork work = startWork(path);
     FileGphGroup& group = *work.group;
     BoundsCheck bounds;
@@ -127,21 +127,21 @@ std::optional<LoadedWork> readTrackFile(std::string_view path, const FileBytes& 
     group.id = lowerCase(header.serial) + '-' + header.startTime + '-' + header.date;
     group.priority = static_cast<std::int32_t>(log.lines - 1);
     loadSummaryFile(findIgnoringCase(companionNames(path).summaryPath), group.File_resumen());
-    addRemarks(log, bounds, context.locale, group);
+    addRemarks(log, bounds, desk.locale, group);
     return work;
 }
 
-std::optional<LoadedWork> loadTrackFile(std::string_view path, const WorkReaderContext& context) {
+std::optional<LoadedWork> loadTrackFile(std::string_view path, const WorkDesk& desk) {
     // What is no track file shows it in its first line, and need not be read to its end.
     constexpr std::size_t kHeadBytes = 4096;
     if (const std::optional<std::string> head = readFileHead(path, kHeadBytes)) {
         const std::string_view line = firstLineOf(*head);
         if (trackVersion(line).number == 0) {
-            static_cast<void>(readTrackHeader(line, path, context.dialogs, context.texts));
+            static_cast<void>(readTrackHeader(line, path, desk.dialogs, desk.texts));
             return std::nullopt;
         }
     }
-    return openWork(path, context, readTrackFile);
+    return openWork(path, desk, readTrackFile);
 }
 
 }  // namespace campora

@@ -14,38 +14,35 @@ namespace campora {
 
 namespace {
 
-void reportFailure(const Failure& failure, const WorkReaderContext& context) {
-    context.dialogs.message(context.texts.sentence(failure), MessageIcon::Error,
-                            context.texts(TextId::ProgramName));
+void reportFailure(const Failure& failure, const WorkDesk& desk) {
+    desk.tell(failure, MessageIcon::Error);
 }
 
 }  // namespace
 
-std::optional<LoadedWork> openWork(std::string_view path, const WorkReaderContext& context,
-                                   WorkReader reader) {
+std::optional<LoadedWork> openWork(std::string_view path, const WorkDesk& desk, WorkReader reader) {
     const Result<FileBytes> file = readFile(path);
     if (!file) {
-        reportFailure(file.failure(), context);
+        reportFailure(file.failure(), desk);
         return std::nullopt;
     }
     try {
-        return reader(path, *file, context);
+        return reader(path, *file, desk);
     } catch (const FormatError& error) {
         reportFailure(because(TextId::FileCannotBeRead, {std::string(path)}, error.failure()),
-                      context);
+                      desk);
         return std::nullopt;
     }
 }
 
-std::optional<LoadedWork> refuseWithoutPoints(std::string_view path,
-                                              const WorkReaderContext& context) {
-    reportFailure({TextId::FileWithoutPoints, {std::string(path)}}, context);
+std::optional<LoadedWork> refuseWithoutPoints(std::string_view path, const WorkDesk& desk) {
+    reportFailure({TextId::FileWithoutPoints, {std::string(path)}}, desk);
     return std::nullopt;
 }
 
 void refuseAnswer(TextId why, const std::string& answer, std::string_view path,
-                  const WorkReaderContext& context) {
-    reportFailure(because(TextId::FileCannotBeRead, {std::string(path)}, {why, {answer}}), context);
+                  const WorkDesk& desk) {
+    reportFailure(because(TextId::FileCannotBeRead, {std::string(path)}, {why, {answer}}), desk);
 }
 
 void tellBounds(const BoundsCheck& bounds, const UserLocale& locale, FileGphGroup& group) {
@@ -71,16 +68,14 @@ LoadedWork startWork(std::string_view path) {
     return work;
 }
 
-std::optional<float> askSwath(std::string_view path, const WorkReaderContext& context) {
-    const std::optional<std::string> answer =
-        context.dialogs.inputBox({TextId::AskSwath, std::string(context.texts(TextId::ProgramName)),
-                                  "16", std::string(path)});
+std::optional<float> askSwath(std::string_view path, const WorkDesk& desk) {
+    const std::optional<std::string> answer = desk.askText(TextId::AskSwath, "16", path);
     if (!answer) {
         return std::nullopt;
     }
     const double metres = roundToInt32(leadingNumber(*answer).value_or(0));
     if (metres < 1) {
-        refuseAnswer(TextId::SwathNotPositive, *answer, path, context);
+        refuseAnswer(TextId::SwathNotPositive, *answer, path, desk);
         return std::nullopt;
     }
     return static_cast<float>(std::min(metres, kWidestSwath));

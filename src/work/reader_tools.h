@@ -23,21 +23,21 @@ inline constexpr std::string_view kDuration = "Duración:";
 }  // namespace summary_name
 
 using WorkReader = std::optional<LoadedWork> (*)(std::string_view path, const FileBytes& file,
-                                                 const WorkReaderContext& context);
+                                                 const WorkDesk& desk);
 
 /// Opens the file and hands it to the reader; a file that cannot be read or that breaks its format
 /// is reported.
-[[nodiscard]] std::optional<LoadedWork>
-openWork(std::string_view path, const WorkReaderContext& context, WorkReader reader);
+[[nodiscard]] std::optional<LoadedWork> openWork(std::string_view path, const WorkDesk& desk,
+                                                 WorkReader reader);
 
 /// Says that the file has no points and answers none.
 [[nodiscard]] std::optional<LoadedWork> refuseWithoutPoints(std::string_view path,
-                                                            const WorkReaderContext& context);
+                                                            const WorkDesk& desk);
 
 /// Says that the file is not read, because of an answer that is of no use. `why`: a text with a
 /// place for the answer.
 void refuseAnswer(TextId why, const std::string& answer, std::string_view path,
-                  const WorkReaderContext& context);
+                  const WorkDesk& desk);
 
 /// A group for the file, named after it.
 [[nodiscard]] LoadedWork startWork(std::string_view path);
@@ -48,7 +48,6 @@ void tellBounds(const BoundsCheck& bounds, const UserLocale& locale, FileGphGrou
 /// Asks for the swath width of a file that has none: a whole number of metres, at most
 /// `kWidestSwath`. None when the user cancels, gives no answer, or one that is no width, which is
 /// said.
-[[nodiscard]] std::optional<float> askSwath(std::string_view path,
-                                            const WorkReaderContext& context);
+[[nodiscard]] std::optional<float> askSwath(std::string_view path, const WorkDesk& desk);
 
 }  // namespace campora

@@ -11,18 +11,14 @@
 #include "base/texts.h"
 #include "model/file_gph_group.h"
 #include "model/value_ranges.h"
-#include "platform/dialogs.h"
-#include "platform/user_locale.h"
+#include "platform/desk.h"
 #include "work/registrations.h"
 #include "work/work_kind.h"
 
 namespace campora {
 
-/// What the readers of work files need from outside.
-struct WorkReaderContext {
-    Dialogs& dialogs;
-    const UserLocale& locale;
-    const Texts& texts;
+/// A desk that knows who carries which logger.
+struct WorkDesk : Desk {
     const Registrations& registrations;
 };
 
@@ -41,24 +37,22 @@ struct LoadedWork {
 /// then; a swath width or a number of columns that the file lacks is asked for.
 
 /// Logger track file with the summary beside it.
-[[nodiscard]] std::optional<LoadedWork> loadTrackFile(std::string_view path,
-                                                      const WorkReaderContext& context);
+[[nodiscard]] std::optional<LoadedWork> loadTrackFile(std::string_view path, const WorkDesk& desk);
 /// Binary report: current form, older forms with eight and with four fields.
-[[nodiscard]] std::optional<LoadedWork> loadRptFile(std::string_view path,
-                                                    const WorkReaderContext& context);
+[[nodiscard]] std::optional<LoadedWork> loadRptFile(std::string_view path, const WorkDesk& desk);
 /// Tab-separated text table of a report, with 4 or 8 columns.
 [[nodiscard]] std::optional<LoadedWork> loadRptTextTable(std::string_view path,
-                                                         const WorkReaderContext& context);
+                                                         const WorkDesk& desk);
 
 /// The same for bytes that have been read already; `path` stands in messages and names the file.
 /// A track file's summary is read from beside that path. They throw `FormatError` for a file that
 /// breaks its format.
 [[nodiscard]] std::optional<LoadedWork> readTrackFile(std::string_view path, const FileBytes& bytes,
-                                                      const WorkReaderContext& context);
+                                                      const WorkDesk& desk);
 [[nodiscard]] std::optional<LoadedWork> readRptFile(std::string_view path, const FileBytes& bytes,
-                                                    const WorkReaderContext& context);
+                                                    const WorkDesk& desk);
 [[nodiscard]] std::optional<LoadedWork>
-readRptTextTable(std::string_view path, const FileBytes& bytes, const WorkReaderContext& context);
+readRptTextTable(std::string_view path, const FileBytes& bytes, const WorkDesk& desk);
 
 /// The version that the first line of a track file names, 0 for a file that the program does not
 /// read. Says so in that case, and warns of versions newer than the program.

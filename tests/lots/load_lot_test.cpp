@@ -21,7 +21,7 @@ struct LoadLot : testing::Test {
     Texts texts;
 
     std::unique_ptr<FileGphGroup> load(const std::string& path) {
-        return loadLot(path, {dialogs, locale, texts});
+        return loadLot(path, {dialogs, texts, locale});
     }
 };
 

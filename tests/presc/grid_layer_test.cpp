@@ -211,7 +211,7 @@ TEST(LoadGrid, TheFirstBytesDecideAndWhatIsWrongIsSaid) {
         SCOPED_TRACE(name);
         ScriptedDialogs dialogs;
         const auto layer =
-            loadGrid(folder.file(name), {dialogs, FixedLocale(), Texts(), MapColors()});
+            loadGrid(folder.file(name), {dialogs, Texts(), FixedLocale()}, MapColors().back);
         EXPECT_EQ(layer ? layer->Gph_kind() : "", kind);
         EXPECT_EQ(dialogs.messages.size(), layer ? 0U : 1U);
         EXPECT_THAT(dialogs.messages, testing::Each(HasSubstr(says)));

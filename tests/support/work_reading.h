@@ -22,7 +22,7 @@ struct WorkReading {
     Texts texts;
     Registrations registrations;
 
-    [[nodiscard]] WorkReaderContext context() { return {dialogs, locale, texts, registrations}; }
+    [[nodiscard]] WorkDesk context() { return {{dialogs, texts, locale}, registrations}; }
     [[nodiscard]] std::optional<LoadedWork> report(std::string_view bytes) {
         return readRptFile("C:\\Datos\\Lote 12.rpt", FileBytes(std::string(bytes)), context());
     }

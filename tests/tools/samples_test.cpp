@@ -30,14 +30,14 @@ namespace {
 
 const std::string kSamples = std::string(CAMPORA_SOURCE_DIR) + "/samples";
 
-using Reader = std::optional<LoadedWork> (*)(std::string_view, const WorkReaderContext&);
+using Reader = std::optional<LoadedWork> (*)(std::string_view, const WorkDesk&);
 
 std::unique_ptr<FileGphGroup> open(Reader reader, const std::string& name) {
     ScriptedDialogs dialogs;
     const FixedLocale locale;
     const Texts texts;
     const Registrations registrations;
-    auto work = reader(kSamples + "/" + name, {dialogs, locale, texts, registrations});
+    auto work = reader(kSamples + "/" + name, {{dialogs, texts, locale}, registrations});
     EXPECT_TRUE(dialogs.messages.empty());
     return work ? std::move(work->group) : nullptr;
 }

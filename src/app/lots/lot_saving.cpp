@@ -82,8 +82,7 @@ std::string askLotTarget(const OpenMap& map, SettingsStore& settings, const std:
 }
 
 bool putLotOnMap(OpenMap& map, MapDisplay& display, const std::string& path, const File* untitled) {
-    const Desk& desk = map.desk();
-    std::unique_ptr<File> lot = loadLot(path, {desk.dialogs, desk.locale, desk.texts});
+    std::unique_ptr<File> lot = loadLot(path, map.desk());
     if (lot == nullptr) {
         return false;
     }

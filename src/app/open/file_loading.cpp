@@ -21,11 +21,11 @@ namespace campora {
 
 namespace {
 
-using WorkLoader = std::optional<LoadedWork> (*)(std::string_view, const WorkReaderContext&);
+using WorkLoader = std::optional<LoadedWork> (*)(std::string_view, const WorkDesk&);
 
 template <WorkLoader load>
-std::optional<OpenedFile> openWork(std::string_view path, const OpenContext& context) {
-    std::optional<LoadedWork> work = load(path, context);
+std::optional<OpenedFile> openWork(std::string_view path, const OpenDesk& desk) {
+    std::optional<LoadedWork> work = load(path, desk);
     if (!work) {
         return std::nullopt;
     }
@@ -48,41 +48,39 @@ std::string foreignMapText(std::string_view path, const Texts& texts) {
            std::string(texts(TextId::FormatNeedsShape));
 }
 
-std::optional<OpenedFile> openGrid(std::string_view path, const OpenContext& context) {
+std::optional<OpenedFile> openGrid(std::string_view path, const OpenDesk& desk) {
     const bool isForeign = std::any_of(
         std::begin(kForeignMaps), std::end(kForeignMaps),
         [name = lowerCase(path)](std::string_view ending) { return name.ends_with(ending); });
     if (isForeign && canOpen(path)) {
-        context.dialogs.message(foreignMapText(path, context.texts), MessageIcon::Error,
-                                context.texts(TextId::WrongFileFormat));
+        desk.titled(TextId::WrongFileFormat)
+            .tell(foreignMapText(path, desk.texts), MessageIcon::Error);
         return std::nullopt;
     }
-    std::unique_ptr<File> grid =
-        loadGrid(path, {context.dialogs, context.locale, context.texts, context.colors});
+    std::unique_ptr<File> grid = loadGrid(path, desk, desk.colors.back);
     if (!grid) {
         return std::nullopt;
     }
     return OpenedFile{std::move(grid), std::nullopt, std::nullopt};
 }
 
-std::optional<OpenedFile> openZones(std::string_view path, const OpenContext& context) {
+std::optional<OpenedFile> openZones(std::string_view path, const OpenDesk& desk) {
     if (!canOpen(path)) {
         const Result<FileBytes> file = readFile(path);
         const Failure why =
             file ? Failure{TextId::FileNotCompatibleNamed, {std::string(path)}} : file.failure();
-        context.dialogs.message(context.texts.sentence(why), MessageIcon::Error,
-                                context.texts(TextId::WrongFileFormat));
+        desk.titled(TextId::WrongFileFormat).tell(why, MessageIcon::Error);
         return std::nullopt;
     }
-    auto zones = std::make_unique<GphPresc>(context.colors.shape);
-    if (!zones->loadFromFile(path, context.dialogs, context.texts)) {
+    auto zones = std::make_unique<GphPresc>(desk.colors.shape);
+    if (!zones->loadFromFile(path, desk.dialogs, desk.texts)) {
         return std::nullopt;
     }
     return OpenedFile{std::move(zones), std::nullopt, std::nullopt};
 }
 
-std::optional<OpenedFile> openLot(std::string_view path, const OpenContext& context) {
-    std::unique_ptr<File> lot = loadLot(path, {context.dialogs, context.locale, context.texts});
+std::optional<OpenedFile> openLot(std::string_view path, const OpenDesk& desk) {
+    std::unique_ptr<File> lot = loadLot(path, desk);
     if (!lot) {
         return std::nullopt;
     }

@@ -17,8 +17,8 @@
 
 namespace campora {
 
-/// What the readers of all kinds of files need from outside.
-struct OpenContext : WorkReaderContext {
+/// A desk that knows in which colours the map is drawn, for the readers of all kinds of files.
+struct OpenDesk : WorkDesk {
     const MapColors& colors;
 };
 
@@ -40,7 +40,7 @@ struct FileFormat {
     /// Whether its files come from a logging console, which "save as" copies.
     bool fromLogger = false;
     /// Reports what is wrong with the file and answers none then.
-    std::optional<OpenedFile> (*read)(std::string_view path, const OpenContext& context);
+    std::optional<OpenedFile> (*read)(std::string_view path, const OpenDesk& desk);
 };
 
 [[nodiscard]] std::span<const FileFormat> fileFormats();

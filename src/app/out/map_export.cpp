@@ -83,9 +83,8 @@ std::unique_ptr<File> MapExport::readReport(const std::string& path) const {
         map_.desk().tell({TextId::FileNotCompatibleNamed, {path}});
         return nullptr;
     }
-    const Desk& desk = map_.desk();
-    std::optional<LoadedWork> work = loadRptFile(
-        findIgnoringCase(path), {desk.dialogs, desk.locale, desk.texts, map_.registrations()});
+    std::optional<LoadedWork> work =
+        loadRptFile(findIgnoringCase(path), {map_.desk(), map_.registrations()});
     return work ? std::move(work->group) : nullptr;
 }
 

@@ -41,8 +41,8 @@ TrackExportOutcome TrackBatch::exportOne(const std::string& source,
         return {false, map_.desk().texts.sentence(*refused)};
     }
     RemarkDialogs dialogs;
-    const std::optional<LoadedWork> work = loadTrackFile(
-        source, {dialogs, map_.desk().locale, map_.desk().texts, map_.registrations()});
+    const std::optional<LoadedWork> work =
+        loadTrackFile(source, {map_.desk().with(dialogs), map_.registrations()});
     if (!work) {
         return {false, dialogs.remarks};
     }

@@ -32,10 +32,6 @@ std::string withEnding(std::string name, std::string_view ending) {
     return name.append(ending);
 }
 
-GenerationContext contextOf(const Desk& desk) {
-    return {desk.dialogs, desk.texts, desk.locale};
-}
-
 }  // namespace
 
 GphPrescVex* PrescCommands::prescription() const {
@@ -103,7 +99,7 @@ std::string PrescCommands::askTarget(TextId filter, std::string_view ending) con
         refused = whyReportStands(path);
     }
     if (refused) {
-        contextOf(map_.desk()).refuse(*refused);
+        map_.desk().tell(*refused);
         return {};
     }
     return path;
@@ -117,7 +113,7 @@ std::optional<double> PrescCommands::askCellSize(const std::string& target) cons
     }
     const std::optional<double> metres = typedNumber(*answer);
     if (!metres) {
-        contextOf(map_.desk()).refuse({TextId::BadCellSize, {*answer}});
+        map_.desk().tell({TextId::BadCellSize, {*answer}});
     }
     return metres;
 }
@@ -139,8 +135,7 @@ void PrescCommands::mnuFileSavePrescript() {
         return;
     }
     if (const std::optional<double> metres = askCellSize(path)) {
-        if (auto rule =
-                generatePRE(path, roundToInt32(*metres), open->zones(), contextOf(map_.desk()))) {
+        if (auto rule = generatePRE(path, roundToInt32(*metres), open->zones(), map_.desk())) {
             saved(*open, std::move(*rule));
         }
     }
@@ -167,7 +162,7 @@ void PrescCommands::mnuFileSaveVrt() {
         return;
     }
     if (auto rule = generateVRT(path, static_cast<float>(*metres), {*name, *description},
-                                open->zones(), contextOf(map_.desk()))) {
+                                open->zones(), map_.desk())) {
         saved(*open, std::move(*rule));
     }
 }
