@@ -166,12 +166,12 @@ void MapDisplay::showSummary() {
 }
 
 void MapDisplay::showFlowStops() {
-    const bool remark = map_.hasFlowStops() == false;
+    const bool remark = map_.history().hasFlowStops == false;
     window_.setWorkStatus(remark ? map_.desk().texts(TextId::NoFlowStops) : "");
 }
 
 LegendContent MapDisplay::legend() const {
-    return map_.scales().legend(map_.ranges(), map_.lastKind(), map_.desk());
+    return map_.scales().legend(map_.ranges(), map_.history().lastKind, map_.desk());
 }
 
 void MapDisplay::showLegend() {

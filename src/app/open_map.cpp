@@ -58,23 +58,6 @@ void OpenMap::recalcErrorAreas() {
     }
 }
 
-void OpenMap::selectChannel(int index) {
-    style_.selectedChannel = index;
-    for (File* file : files_.all()) {
-        auto* const several = dynamic_cast<MultiChannel*>(file);
-        if (several == nullptr) {
-            continue;
-        }
-        if (index < 0) {
-            several->showTotal();
-        } else if (index < several->channelsCnt()) {
-            several->setCurrentChannel(index);
-        } else {
-            desk_.tell({TextId::FileWithoutChannel, {file->File_name(), numberText(index + 1)}});
-        }
-    }
-}
-
 std::vector<std::string> OpenMap::openAll(const std::vector<std::string>& paths,
                                           const OpenManner& manner) {
     std::vector<std::string> taken;
@@ -96,6 +79,7 @@ std::vector<std::string> OpenMap::openAll(const std::vector<std::string>& paths,
             break;
         }
     }
+    sources_.insert(sources_.end(), manner.sources.begin(), manner.sources.end());
     if (!taken.empty()) {
         filesChanged();
     }
@@ -123,20 +107,20 @@ bool OpenMap::takeWork(std::string_view path, const FileFormat& format, bool inP
         sources_.clear();
     }
     if (files_.empty()) {
-        hasFlowStops_.reset();
+        history_.hasFlowStops.reset();
     }
     if (!files_.addFile(std::move(work->file), false, boxes)) {
         return false;
     }
     if (format.fromLogger) {
-        lastTrackFile_ = path;
+        history_.lastTrackFile = path;
     }
     style_.graduated = style_.graduated || format.graduates;
     if (work->kind) {
-        lastKind_ = work->kind;
+        history_.lastKind = work->kind;
     }
     if (work->hasFlowStops) {
-        hasFlowStops_ = hasFlowStops_.value_or(false) || *work->hasFlowStops;
+        history_.hasFlowStops = history_.hasFlowStops.value_or(false) || *work->hasFlowStops;
     }
     return true;
 }
@@ -205,15 +189,15 @@ void OpenMap::removeFile(const File* file) {
 void OpenMap::reset() {
     files_.clearFiles();
     ranges_ = {};
-    hasFlowStops_.reset();
+    history_.hasFlowStops.reset();
     if (onReset) {
         onReset();
     }
 }
 
 void OpenMap::putAway() {
-    putAway_.emplace(PutAway{files_.takeAll(), hasFlowStops_, style_.graduated, style_.mode,
-                             lastKind_, lastTrackFile_, scales_.content()});
+    putAway_.emplace(
+        PutAway{files_.takeAll(), history_, style_.graduated, style_.mode, scales_.content()});
 }
 
 void OpenMap::bringBack() {
@@ -222,13 +206,11 @@ void OpenMap::bringBack() {
     files_.putBack(std::move(saved.files));
     style_.graduated = saved.graduated;
     style_.mode = saved.mode;
-    lastKind_ = saved.lastKind;
-    lastTrackFile_ = std::move(saved.lastTrackFile);
+    history_ = std::move(saved.history);
     if (files_.empty()) {
         reset();
         return;
     }
-    hasFlowStops_ = saved.hasFlowStops;
     filesChanged();
     scales_.setContent(std::move(saved.scales));  // the classes that the user had made
 }
@@ -236,23 +218,44 @@ void OpenMap::bringBack() {
 FilesInUse OpenMap::filesInUse(const File* but) const {
     FilesInUse used;
     used.add(pathText(nativePath(programFolder_) / kRegistrationsFile));
-    for (const File* file : files_.all()) {
-        if (file != but) {
-            addFileOf(used, *file);
+    const auto add = [&used, but](const File& file) {
+        if (&file != but) {
+            addFileOf(used, file);
         }
-        for (const std::string& source : file->madeFrom) {
+        for (const std::string& source : file.madeFrom) {
             addOpened(used, source);
         }
+    };
+    for (const File* file : files_.all()) {
+        add(*file);
     }
     if (putAway_) {
         for (const std::unique_ptr<File>& file : putAway_->files.files) {
-            addFileOf(used, *file);
+            add(*file);
         }
     }
     for (const std::string& source : sources_) {
         addOpened(used, source);
     }
     return used;
+}
+
+void selectChannel(OpenMap& map, int index) {
+    map.style().selectedChannel = index;
+    for (File* file : map.files().all()) {
+        auto* const several = dynamic_cast<MultiChannel*>(file);
+        if (several == nullptr) {
+            continue;
+        }
+        if (index < 0) {
+            several->showTotal();
+        } else if (index < several->channelsCnt()) {
+            several->setCurrentChannel(index);
+        } else {
+            map.desk().tell(
+                {TextId::FileWithoutChannel, {file->File_name(), numberText(index + 1)}});
+        }
+    }
 }
 
 }  // namespace campora

@@ -30,11 +30,23 @@ struct FileFormat;
 struct OpenManner {
     /// The first that is taken replaces what is open.
     bool inPlace = false;
+    /// Files that these are read from beside themselves; in use until others take their place.
+    std::vector<std::string> sources = {};
     /// Whose boxes say what is wrong with a file; null: the desk's.
     Dialogs* boxes = nullptr;
     /// Told after each file but the last, and may end the work; null: a window of the desk, and a
     /// word on what was left undone.
     Progress* progress = nullptr;
+};
+
+/// What was opened since the program began.
+struct WorkHistory {
+    /// Of the machine of the report read last; none before the first.
+    std::optional<WorkKind> lastKind;
+    /// Whether a track file with a step without flow is open; none without track files.
+    std::optional<bool> hasFlowStops;
+    /// The logger's track file opened last; empty when there was none.
+    std::string lastTrackFile;
 };
 
 /// The open files and all that follows from them and from how the user wants to see them: ranges
@@ -68,12 +80,7 @@ public:
     [[nodiscard]] BoundingBox bound() const;
     /// Of the files that are open.
     [[nodiscard]] const ValueRanges& ranges() const { return ranges_; }
-    /// Kind of the machine of the report read last; none before the first.
-    [[nodiscard]] std::optional<WorkKind> lastKind() const { return lastKind_; }
-    /// Whether a track file with a step without flow has been opened; none without track files.
-    [[nodiscard]] std::optional<bool> hasFlowStops() const { return hasFlowStops_; }
-    /// The logger's track file opened last; empty when there was none.
-    [[nodiscard]] const std::string& lastTrackFile() const { return lastTrackFile_; }
+    [[nodiscard]] const WorkHistory& history() const { return history_; }
 
     [[nodiscard]] MapStyle& style() { return style_; }
     [[nodiscard]] const MapStyle& style() const { return style_; }
@@ -82,9 +89,6 @@ public:
     void refreshColorScale() { scales_.refresh(); }
     /// Brings the hectares in error of every file up to date with the error map.
     void recalcErrorAreas();
-    /// The dose channel, from 0, that colours the work and that prescriptions show; -1 is the
-    /// total. Files that lack it are named.
-    void selectChannel(int index);
 
     /// Opens files by their endings, in order, until the user has enough; says what is wrong with
     /// each that is refused. One that is open already is left out. Answers those that were taken.
@@ -107,8 +111,6 @@ public:
     /// Closes those and brings back what was put away, with its classes.
     void bringBack();
 
-    /// Keeps a file that open ones were read from, until others take their place.
-    void addSource(std::string path) { sources_.push_back(std::move(path)); }
     /// What no command writes over: the open files but for `but`, which may be null, those that are
     /// put away, and all that they use or were read from.
     [[nodiscard]] FilesInUse filesInUse(const File* but = nullptr) const;
@@ -116,11 +118,9 @@ public:
 private:
     struct PutAway {
         LoadedFileList::Saved files;
-        std::optional<bool> hasFlowStops;
+        WorkHistory history;
         bool graduated = true;
         ColorMode mode = ColorMode::Dose;
-        std::optional<WorkKind> lastKind;
-        std::string lastTrackFile;
         WorkScales::Content scales;
     };
 
@@ -137,11 +137,13 @@ private:
     LoadedFileList files_;
     WorkScales scales_;
     ValueRanges ranges_;
-    std::optional<WorkKind> lastKind_;
-    std::optional<bool> hasFlowStops_;
-    std::string lastTrackFile_;
+    WorkHistory history_;
     std::vector<std::string> sources_;
     std::optional<PutAway> putAway_;
 };
+
+/// Lets a dose channel, from 0, colour the work; prescriptions show it. -1 is the total. Files that
+/// lack it are named.
+void selectChannel(OpenMap& map, int index);
 
 }  // namespace campora

@@ -72,12 +72,10 @@ bool BatchMap::openFiles() {
     if (isInterrupted()) {
         return false;
     }
-    for (const std::string& path : arguments_.files) {
-        map_.addSource(path);
-    }
     UntilInterrupted progress;
     OpenManner manner;
     manner.progress = &progress;
+    manner.sources = arguments_.files;
     const std::vector<std::string> taken = map_.openAll(arguments_.files, manner);
     bool all = taken.size() == arguments_.files.size();
     for (const File* file : map_.files().all()) {

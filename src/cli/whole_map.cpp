@@ -27,7 +27,7 @@ WholeMap::WholeMap(OpenMap& map, MapCanvas& canvas, const Arguments& arguments)
     style.unitScale = map.style().unitScale;
     map.style() = style;
     if (style.selectedChannel >= 0) {
-        map.selectChannel(style.selectedChannel);
+        selectChannel(map, style.selectedChannel);
     }
     map.refreshColorScale();
     view_.totalBound = map.bound();

@@ -113,7 +113,7 @@ constexpr ActionRow kActions[] = {
     {.name = "mnuEditDrawAll", .text = TextId::OnlyWorked, .tooltip = TextId::TipDrawAll,
      .menu = MenuId::Edit, .opensGroup = true, .needs = Needs::Map,
      .run = [](MainWindow& w) { w.session().modes().mnuEditDrawAll(); },
-     .isOn = [](const MainWindow& w) { return w.session().modes().isOnlyWorked(); },
+     .isOn = [](const MainWindow& w) { return !w.session().map().style().drawAll; },
      .caption = [](const MainWindow& w) { return w.session().modes().drawAllCaption(); }},
     {.name = "mnuEditDoted", .text = TextId::ActionDotted, .tooltip = TextId::TipDotted,
      .menu = MenuId::Edit, .needs = Needs::Map,

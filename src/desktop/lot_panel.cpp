@@ -242,7 +242,7 @@ void LotPanel::retranslate() {
 
 void LotPanel::refresh() {
     const Texts& texts = session_.texts();
-    const std::string_view path = editor_.path();
+    const std::string_view path = editor_.draft().origin().path;
     const QString name = shownName(path.empty() ? texts(TextId::LoteTitle) : fileNamePart(path));
     title_->setText(name);
     setAccessibleName(name);

@@ -198,7 +198,7 @@ void MainWindow::fillChannelMenu() {
     const auto add = [&](const QString& caption, int channel, auto choose) {
         QAction* entry = menu.addAction(caption, this, choose);
         entry->setCheckable(true);
-        entry->setChecked(modes.isChannel(channel));
+        entry->setChecked(session_->map().style().selectedChannel == channel);
     };
     add(toQt(session_->texts()(TextId::ChannelTotal)), -1,
         [&modes] { modes.mnuColorScaleSelTotal(); });

@@ -149,10 +149,6 @@ void MapModes::mnuColorErrorMapMin() {
     }
 }
 
-bool MapModes::isOn(ColorMode mode) const {
-    return map_.style().mode == mode;
-}
-
 bool MapModes::canShowDates() const {
     return map_.ranges().date.has_value();
 }
@@ -176,14 +172,6 @@ void MapModes::graduateBy(GraduatedBy by) {
     showNewClasses();
 }
 
-bool MapModes::isGraduated() const {
-    return map_.style().graduated;
-}
-
-bool MapModes::isGraduatedBy(GraduatedBy by) const {
-    return map_.style().by == by;
-}
-
 int MapModes::channelCount() const {
     int most = map_.style().selectedChannel + 1;  // the one in use is always offered
     for (int i = 0; i < map_.files().loadedCount(); ++i) {
@@ -201,12 +189,8 @@ void MapModes::mnuColorScaleSelTotal() {
 }
 
 void MapModes::mnuColorScaleSelCH(int index) {
-    map_.selectChannel(index);
+    selectChannel(map_, index);
     showNewClasses();
-}
-
-bool MapModes::isChannel(int index) const {
-    return map_.style().selectedChannel == index;
 }
 
 void MapModes::mnuEditDrawAll() {
@@ -229,7 +213,7 @@ void MapModes::mnuEditDrawBorder() {
 }
 
 TextId MapModes::drawAllCaption() const {
-    switch (map_.lastKind().value_or(WorkKind::Sprayer)) {
+    switch (map_.history().lastKind.value_or(WorkKind::Sprayer)) {
     case WorkKind::Seeder:
         return TextId::OnlySown;
     case WorkKind::OlderForm:
@@ -238,18 +222,6 @@ TextId MapModes::drawAllCaption() const {
         break;
     }
     return TextId::OnlySprayed;
-}
-
-bool MapModes::isOnlyWorked() const {
-    return !map_.style().drawAll;
-}
-
-bool MapModes::isDotted() const {
-    return map_.style().drawDotted;
-}
-
-bool MapModes::isBordered() const {
-    return map_.style().drawBorders;
 }
 
 void MapModes::mnuEditTrocha() {
@@ -268,7 +240,7 @@ void MapModes::mnuEditTrocha() {
             work->trocha(swath);
         }
     }
-    if (isOn(ColorMode::Error)) {
+    if (map_.style().mode == ColorMode::Error) {
         map_.recalcErrorAreas();
         display_.showSummary();
     }
@@ -300,7 +272,7 @@ void MapModes::mnuEditColorDefect() {
 void MapModes::showNewClasses() {
     map_.refreshColorScale();
     display_.showLegend();
-    if (isOn(ColorMode::Error)) {
+    if (map_.style().mode == ColorMode::Error) {
         map_.recalcErrorAreas();
         display_.showSummary();
     }

@@ -50,15 +50,12 @@ public:
     void mnuColorErrorMap();
     /// Asks for the allowed error in percent and switches the error map on.
     void mnuColorErrorMapMin();
-    [[nodiscard]] bool isOn(ColorMode mode) const;
     /// Whether anything open has a date; the date map does not stay on otherwise.
     [[nodiscard]] bool canShowDates() const;
 
     void mnuEditGraduated();
     void mnuEditGraduatedByLtsHect();
     void mnuEditGraduatedByLtsMin();
-    [[nodiscard]] bool isGraduated() const;
-    [[nodiscard]] bool isGraduatedBy(GraduatedBy by) const;
 
     /// Dose channels to choose from: the most that an open file has.
     [[nodiscard]] int channelCount() const;
@@ -66,18 +63,12 @@ public:
     void mnuColorScaleSelTotal();
     /// `index`: from 0. Files with several channels show that one; those that lack it are named.
     void mnuColorScaleSelCH(int index);
-    /// -1 is the total.
-    [[nodiscard]] bool isChannel(int index) const;
 
     void mnuEditDrawAll();
     void mnuEditDoted();
     void mnuEditDrawBorder();
     /// Caption of `mnuEditDrawAll`, by the machine of the report read last.
     [[nodiscard]] TextId drawAllCaption() const;
-    /// Steps without flow are left out.
-    [[nodiscard]] bool isOnlyWorked() const;
-    [[nodiscard]] bool isDotted() const;
-    [[nodiscard]] bool isBordered() const;
 
     /// Asks for a swath width in metres and gives it to all work that is open; a wider one than
     /// `kWidestSwath` is brought down to it.

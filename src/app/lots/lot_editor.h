@@ -42,8 +42,6 @@ public:
     [[nodiscard]] bool mayClose() const;
 
     [[nodiscard]] const LotDraft& draft() const { return draft_; }
-    /// The file that holds the lot; empty for a new one.
-    [[nodiscard]] const std::string& path() const { return draft_.origin().path; }
     /// The entry of the list that the drawing stands for; the map leaves it out meanwhile, so that
     /// it does not show through. Null for a new lot and while the editor is closed.
     [[nodiscard]] const File* edited() const;
@@ -80,6 +78,8 @@ public:
     void viewInEarth();
 
 private:
+    /// The file that holds the lot; empty for a new one.
+    [[nodiscard]] const std::string& path() const { return draft_.origin().path; }
     bool pickVertex(CanvasPoint at) override;
     void moveVertex(CanvasPoint to) override;
     void dropVertex(bool keep) override;

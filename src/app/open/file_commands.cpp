@@ -108,12 +108,10 @@ bool FileCommands::openPaths(const std::vector<std::string>& paths, bool resetFi
     }
     OpenManner manner;
     manner.inPlace = resetFirst;
+    manner.sources = projects;
     const std::vector<std::string> taken = map_.openAll(files, manner);
     if (!taken.empty()) {
         display_.showWhole();
-    }
-    for (const std::string& path : projects) {
-        map_.addSource(path);
     }
     // A project stands for its files in the list of recent ones.
     for (const std::string& path : projects.empty() ? taken : projects) {
@@ -166,7 +164,7 @@ void FileCommands::reload() {
 }
 
 bool FileCommands::canSaveAs() const {
-    return !map_.lastTrackFile().empty();
+    return !map_.history().lastTrackFile.empty();
 }
 
 void FileCommands::saveAs() {
@@ -184,7 +182,7 @@ void FileCommands::saveAs() {
     const std::string path =
         pathEnding(chosen) == kTrackEnding ? chosen : std::string(chosen).append(kTrackEnding);
     saveFolder_ = folderOf(path);
-    const CompanionNames source = companionNames(map_.lastTrackFile());
+    const CompanionNames source = companionNames(map_.history().lastTrackFile);
     const CompanionNames target = companionNames(path);
     display_.setTitle(false);
     const std::string summary = findIgnoringCase(source.summaryPath);

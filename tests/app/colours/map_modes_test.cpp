@@ -132,7 +132,7 @@ TEST(MapModes, TheThreeMapsExcludeEachOther) {
             ModesDesk desk;
             desk.openReport("lote.rpt");
             (desk.modes.*first)();
-            EXPECT_TRUE(desk.modes.isOn(firstMode));
+            EXPECT_TRUE(desk.mode() == firstMode);
             const bool isAlarm = firstMode == ColorMode::Alarm;
             EXPECT_EQ(desk.window.legend.classes.empty(), isAlarm) << "no dose has a colour there";
             desk.session.map().scales().of(false).setClassNumber(3);
@@ -196,7 +196,7 @@ TEST(MapModes, TheAllowedErrorIsTakenAsTyped) {
         desk.dialogs.inputAnswers = {answer};
         desk.modes.mnuColorErrorMapMin();
         EXPECT_EQ(desk.session.map().style().errorLimit, limit.value_or(2.5F));
-        EXPECT_EQ(desk.modes.isOn(ColorMode::Error), limit.has_value());
+        EXPECT_EQ(desk.mode() == ColorMode::Error, limit.has_value());
         if (limit) {
             EXPECT_EQ(desk.window.legend.reference.back().text, legend);
         } else {
@@ -207,7 +207,7 @@ TEST(MapModes, TheAllowedErrorIsTakenAsTyped) {
 
 TEST_F(MapModesTest, GraduatedWorkTakesTheColoursOfTheScale) {
     openReport("lote.rpt");
-    ASSERT_TRUE(modes.isGraduated());
+    ASSERT_TRUE(session.map().style().graduated);
     modes.mnuEditGraduated();
     EXPECT_EQ(fills(), Lines{"0xFF8080"});
     EXPECT_TRUE(window.legend.classes.empty());
@@ -218,10 +218,10 @@ TEST_F(MapModesTest, GraduatedWorkTakesTheColoursOfTheScale) {
 
     ASSERT_TRUE(open({track("log0001.nbr", 5)}));
     modes.mnuEditGraduatedByLtsMin();
-    EXPECT_TRUE(modes.isGraduatedBy(GraduatedBy::Minute));
+    EXPECT_TRUE(session.map().style().by == GraduatedBy::Minute);
     EXPECT_EQ(window.legend.unit, "lts/min");
     modes.mnuEditGraduatedByLtsHect();
-    EXPECT_TRUE(modes.isGraduatedBy(GraduatedBy::Hectare));
+    EXPECT_TRUE(session.map().style().by == GraduatedBy::Hectare);
     EXPECT_EQ(window.legend.unit, "lt/hect");
 }
 
@@ -247,19 +247,20 @@ TEST_F(MapModesTest, AFileWithoutTheChannelIsNamedAndKeepsItsOwn) {
 
 TEST(MapModes, DrawingOptionsAreSeenAndSomeAreKept) {
     using Stored = decltype(MemorySettings::values);
-    const std::tuple<Handler, bool (MapModes::*)() const, std::string> rows[] = {
-        {&MapModes::mnuEditDrawAll, &MapModes::isOnlyWorked, ""},  // not kept
-        {&MapModes::mnuEditDoted, &MapModes::isDotted, "DrawDotted"},
-        {&MapModes::mnuEditDrawBorder, &MapModes::isBordered, "DrawBorders"},
+    const std::tuple<Handler, bool MapStyle::*, std::string> rows[] = {
+        {&MapModes::mnuEditDrawAll, &MapStyle::drawAll, ""},  // not kept
+        {&MapModes::mnuEditDoted, &MapStyle::drawDotted, "DrawDotted"},
+        {&MapModes::mnuEditDrawBorder, &MapStyle::drawBorders, "DrawBorders"},
     };
-    for (const auto& [handler, isOn, key] : rows) {
+    for (const auto& [handler, option, key] : rows) {
         SCOPED_TRACE(key);
         ModesDesk desk;
-        const bool before = (desk.modes.*isOn)();
+        const MapStyle& style = desk.session.map().style();
+        const bool before = style.*option;
         for (const bool expected : {!before, before}) {
             desk.forget();
             (desk.modes.*handler)();
-            EXPECT_EQ((desk.modes.*isOn)(), expected);
+            EXPECT_EQ(style.*option, expected);
             EXPECT_EQ(desk.redraws(), 1U);
             const Stored kept = {{key, expected ? "True" : "False"}};
             EXPECT_EQ(desk.settings.values, key.empty() ? Stored() : kept);

@@ -44,7 +44,7 @@ TEST_F(LotCommandsTest, AreThereForWhatIsOpen) {
     openLot("b.lot", squareRing(-59, -34, 1));
     EXPECT_TRUE(commands.canMerge());
     commands.mnuLoteEdit();
-    EXPECT_EQ(session.lotEditor().path(), folder.file("a.lot"));
+    EXPECT_EQ(session.lotEditor().draft().origin().path, folder.file("a.lot"));
     commands.mnuLote();
     EXPECT_FALSE(session.lotEditor().isOpen());
 }

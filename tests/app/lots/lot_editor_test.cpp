@@ -169,7 +169,7 @@ TEST_F(LotEditorTest, SavesWithItsNumberAndShowsTheLot) {
     EXPECT_EQ(window.selected, 1);
     EXPECT_EQ(session.display().view().scaleX(), scale);
     EXPECT_FALSE(editor.draft().isChanged());
-    EXPECT_EQ(editor.path(), target);
+    EXPECT_EQ(editor.draft().origin().path, target);
 
     // What is mended goes into the same file and takes the place of what the map showed.
     editor.removeSelected();
@@ -179,7 +179,7 @@ TEST_F(LotEditorTest, SavesWithItsNumberAndShowsTheLot) {
     EXPECT_EQ(decodeLot(contentOf(target)).vertices.back(), (LonLat{-59.9, -33.9}));
     EXPECT_TRUE(dialogs.messages.empty());
     editor.clear();
-    EXPECT_EQ(editor.path(), "");
+    EXPECT_EQ(editor.draft().origin().path, "");
     EXPECT_TRUE(editor.close());
     EXPECT_TRUE(dialogs.questions.empty());
 }
@@ -239,7 +239,7 @@ TEST_F(LotEditorTest, OffersTheSelectedLot) {
     EXPECT_EQ(dialogs.questions.size(), 1U);
     EXPECT_EQ(editor.draft().vertices(), squareRing(-60, -34, kSide));
     EXPECT_EQ(editor.draft().description(), "Campo 1\r\n");
-    EXPECT_EQ(editor.path(), folder.file("campo.lot"));
+    EXPECT_EQ(editor.draft().origin().path, folder.file("campo.lot"));
     EXPECT_FALSE(editor.draft().canUndo());
     EXPECT_TRUE(editor.close());
     EXPECT_EQ(window.overlay.lot, std::nullopt);
@@ -247,7 +247,7 @@ TEST_F(LotEditorTest, OffersTheSelectedLot) {
     dialogs.yesNoAnswers = {false};
     editor.open();
     EXPECT_TRUE(editor.draft().vertices().empty());
-    EXPECT_EQ(editor.path(), "");
+    EXPECT_EQ(editor.draft().origin().path, "");
 }
 
 TEST_F(LotEditorTest, AsksBeforeWhatIsNotSavedIsLost) {
@@ -273,11 +273,11 @@ TEST_F(LotEditorTest, ADrawingThatWasClearedIsAskedAboutAndComesBackWithItsFile)
     editor.edit(session.map().files().file(0));
     editor.add({-59.9, -33.9});
     editor.clear();
-    EXPECT_EQ(editor.path(), "");
+    EXPECT_EQ(editor.draft().origin().path, "");
     dialogs.yesNoAnswers = {false};
     EXPECT_FALSE(editor.close());
     editor.undo();
-    EXPECT_EQ(editor.path(), folder.file("campo.lot"));
+    EXPECT_EQ(editor.draft().origin().path, folder.file("campo.lot"));
     editor.saveBack();
     EXPECT_EQ(decodeLot(contentOf(folder.file("campo.lot"))).vertices.size(), 5U);
     EXPECT_EQ(listed(), Names{"campo.lot"});
