@@ -3,6 +3,7 @@
 
 #include "app/plot_all.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <utility>
 #include <vector>
@@ -15,11 +16,12 @@ namespace campora {
 namespace {
 
 std::vector<const Gph*> layersFromBelow(const OpenMap& map, const File* without) {
-    const std::vector<File*> files = map.files().all();
+    std::vector<File*> files = map.files().all();
+    std::reverse(files.begin(), files.end());
     std::vector<const Gph*> all;
-    for (auto file = files.rbegin(); file != files.rend(); ++file) {
-        if (*file != without) {
-            const std::vector<Gph*> layers = (*file)->File_gphList();
+    for (const File* file : files) {
+        if (file != without) {
+            const std::vector<Gph*> layers = file->File_gphList();
             all.insert(all.end(), layers.begin(), layers.end());
         }
     }
