@@ -26,12 +26,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     folder.clear();
     folder.write(set);
-    NoCanvas canvas;
-    WatchedSession watched(set, canvas, folder.path());
+    WatchedDialogs dialogs(set);
+    const ChosenLocale locale(set);
+    const Texts texts;
+    OpenMap map({dialogs, texts, locale}, folder.path());
     const std::string path = folder.file(set.files.front().name);
-    int before = watched.dialogs.said();
-    const std::optional<ProjectFiles> project =
-        filesOfProject(path, folder.path(), watched.dialogs, watched.session.texts());
+    int before = dialogs.said();
+    const std::optional<ProjectFiles> project = filesOfProject(path, folder.path(), dialogs, texts);
     if (!project) {
         return 0;
     }
@@ -40,12 +41,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             stop("a project stands for a file that no reader takes", file);
         }
     }
-    if (watched.dialogs.said() > before && project->complete) {
+    if (dialogs.said() > before && project->complete) {
         stop("a project with missing files counts as whole");
     }
-    before = watched.dialogs.said();
-    if (!watched.session.fileCommands().openPaths({path}, true) &&
-        watched.dialogs.said() == before) {
+    before = dialogs.said();
+    loadProject(map, path);
+    if (map.files().empty() && dialogs.said() == before) {
         stop("silent refusal", path);
     }
     return 0;
