@@ -90,7 +90,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const Texts texts;
     const Registrations none;
     const std::optional<LoadedWork> work =
-        tableOf(set.files.front().bytes, {dialogs, locale, texts, none});
+        tableOf(set.files.front().bytes, {{dialogs, texts, locale}, none});
     if (!work) {
         if (dialogs.said() == 0) {
             stop("silent refusal");
