@@ -192,7 +192,8 @@ TEST_F(DoseColumnsTest, AsksHowAColumnIsToBeRead) {
         EXPECT_NE(said.find(row.says), std::string::npos) << said;
         std::vector<float> doses;
         if (confirmed) {
-            for (const auto& polygon : columns.getChannels()[0]->polygons()) {
+            const auto channels = columns.getChannels();
+            for (const auto& polygon : channels.front()->polygons()) {
                 doses.push_back(polygon.dosis);
             }
         }
