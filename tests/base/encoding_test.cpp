@@ -3,7 +3,6 @@
 
 #include "base/encoding.h"
 
-#include <random>
 #include <string>
 #include <utility>
 
@@ -68,31 +67,10 @@ TEST(Windows1252, WhatItLacksBecomesQuestionMarks) {
     }
 }
 
-TEST(DecodeText, ChoosesByTheBytes) {
-    const std::string mark = "\xEF\xBB\xBF";
-    EXPECT_EQ(decodeText("A\xF1o"), "Año");
-    EXPECT_EQ(decodeText(mark + "A\xC3\xB1o"), "Año");
-    EXPECT_EQ(decodeText(mark), "");
-    EXPECT_EQ(decodeText(mark + "A\xF1o"), "ï»¿Año") << "not UTF-8, so no mark either";
-}
-
 TEST(DecodeText, APartFollowsItsFile) {
     EXPECT_EQ(decodeText("\xC3\xB1", false), "Ã±") << "the file is Windows-1252";
     EXPECT_EQ(decodeText("\xC3\xB1", true), "ñ");
     EXPECT_TRUE(isUtf8(decodeText("A\xC3", true))) << "cut inside a character";
-}
-
-TEST(DecodeText, AlwaysGivesUtf8) {
-    std::mt19937 random(7);
-    for (int i = 0; i < 2000; ++i) {
-        std::string bytes(random() % 40, '\0');
-        for (char& c : bytes) {
-            c = static_cast<char>(random() % 4 == 0 ? random() : 'a');
-        }
-        ASSERT_TRUE(isUtf8(decodeText(bytes)));
-        ASSERT_TRUE(isUtf8(decodeText(bytes, true)));
-        ASSERT_TRUE(isUtf8(decodeText(bytes, false)));
-    }
 }
 
 }  // namespace

