@@ -17,7 +17,6 @@ TEST(SetList, KeepsDistinctValuesAndTotalsOfAll) {
         {"nothing", {}, {}, 0, 0, 0},
         {"repeats count in the totals", {5, 3, 5, 4}, {3, 4, 5}, 17, 4.25F, 4},
         {"halves of partial sums go to even", {0.5, 2.5}, {0.5, 2.5}, 3, 1.5F, 1},
-        {"below zero", {-1, -3, 0}, {-3, -1, 0}, -4, -4.0F / 3, -4.0F / 3},
         {"sums stay in 32 bits", {2e9, 3e9}, {2e9, 3e9}, 5e9, 2.5e9F, 2147483647.0F / 2},
         {"not-a-number is left out", {2, std::nan(""), 1}, {1, 2}, 3, 1.5F, 1.5F},
     };
@@ -38,22 +37,6 @@ TEST(SetList, KeepsDistinctValuesAndTotalsOfAll) {
         }
         EXPECT_FLOAT_EQ(set.getAverage(), average);
     }
-}
-
-TEST(SetList, ManyValuesInAnyOrderStayDistinctAndAscending) {
-    constexpr int kMany = 5000;
-    SetList set;
-    for (int i = 0; i < 2 * kMany; ++i) {
-        set.addDosis(i * 7919 % kMany);
-        if (i == kMany / 2) {
-            ASSERT_EQ(set.count(), kMany / 2 + 1);
-        }
-    }
-    ASSERT_EQ(set.count(), kMany);
-    for (int i = 0; i < kMany; ++i) {
-        ASSERT_EQ(set.getSet()[static_cast<std::size_t>(i)], i);
-    }
-    EXPECT_EQ(set.getRealAverage(), (kMany - 1) / 2.0F);
 }
 
 TEST(SetList, SumIsTakenToSinglePrecisionBeforeDividing) {

@@ -59,24 +59,8 @@ TEST(CoordEntry, SignsTurnTheTypedValueRound) {
     EXPECT_FALSE(f.entry.isWrong(Box::LongMinutes));
 }
 
-TEST(CoordEntry, HiddenBoxesCountAsZero) {
-    Fixture f(CoordType::DegreesMinutesSeconds);
-    f.entry.setText(Box::LatDegrees, "34");
-    f.entry.setText(Box::LatMinutes, "15");
-    f.entry.setText(Box::LatSeconds, "x");
-    EXPECT_EQ(f.entry.getPoint(), std::nullopt);
-    f.entry.setForm(CoordType::DegreesMinutes);
-    EXPECT_EQ(f.entry.getPoint(), (LonLat{0, 34.25}));
-    f.entry.setForm(CoordType::Degrees);
-    EXPECT_EQ(f.entry.getPoint(), (LonLat{0, 34}));
-}
-
 TEST(CoordEntry, IsFilledWithAPositionInItsForm) {
     const std::tuple<const char*, CoordType, LonLat, std::vector<std::string>> rows[] = {
-        {"degrees",
-         CoordType::Degrees,
-         {-58.123456789, 34.25},
-         {"34,25", "0", "0", "58,123456789", "0", "0"}},
         {"minutes", CoordType::DegreesMinutes, {-58.3, -0.5}, {"0", "30", "0", "58", "18", "0"}},
         {"seconds",
          CoordType::DegreesMinutesSeconds,

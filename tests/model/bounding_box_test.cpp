@@ -24,21 +24,7 @@ void expectBox(const BoundingBox& box, const BoundingBox& expected) {
     EXPECT_NEAR(box.heightM, expected.heightM, 1e-6);
 }
 
-BoundingBox boxOf(const std::vector<LonLat>& points) {
-    BoundingBox box;
-    for (const LonLat& point : points) {
-        box.addPoint(point.x, point.y);
-    }
-    return box;
-}
-
 constexpr double kDegree = 111320;
-
-TEST(BoundingBox, AWidthIsThatOfTheLatitudeWhereItWasSeen) {
-    expectBox(boxOf({{0, 60}, {1, 60}, {-1, 60}}), {-1, 60, 1, 60, kDegree, 0, true});
-    expectBox(boxOf({{0, 0}, {1, 0}, {1.5, 60}}), {0, 0, 1.5, 60, kDegree, 60 * kDegree, true});
-    expectBox(boxOf({{1, 0}, {0, -60}}), {0, -60, 1, 0, kDegree, 60 * kDegree, true});
-}
 
 /// The rules of `addPoint` with every cosine computed.
 void addPointSlowly(BoundingBox& box, double x, double y) {
@@ -90,14 +76,6 @@ TEST(BoundingBox, TakesInOtherBoxes) {
          {0, 0, 1, 1, 1000.2, 2000.2, true},
          {0, 0, 1, 1, 1000.5, 2001.5, true},
          {0, 0, 1, 1, 1000.2, 2002, true}},
-        {"inside, with candidates above",
-         unit,
-         {0, 0, 1, 1, 1000.6, 2001.3, true},
-         {0, 0, 1, 1, 1001, 2001, true}},
-        {"to the north and east",
-         unit,
-         {2, 1, 3, 2, 1000, 2000.2, true},
-         {0, 0, 3, 2, 223640, 113320, true}},
         {"to the south: the cosine is that of the new southern edge",
          {0, 0, 1, 1, 1000, 2000, true},
          {-1, -60, 0, -59, 500, 700, true},

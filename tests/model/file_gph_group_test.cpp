@@ -79,16 +79,5 @@ TEST(FileGphGroup, ErrorHectaresAndAlarmsComeFromItsWork) {
     }
 }
 
-TEST(FileGphGroup, WorkWithoutASpecifiedDoseHasNoEntryOfErrors) {
-    FileGphGroup group;
-    group.addGph(workOf({80}, 20, 0));
-    for (const ColorMode mode : {ColorMode::Error, ColorMode::Dose}) {
-        MapStyle style;
-        style.mode = mode;
-        group.calcErrorArea(style, FixedLocale());
-        EXPECT_EQ(group.File_resumen().count(), 0);
-    }
-}
-
 }  // namespace
 }  // namespace campora
