@@ -66,8 +66,6 @@ TEST(ColorModes, DoseClassesCoverWhatIsLoaded) {
     const std::optional litres = ValueRange<float>{1, 9};
     const std::optional dose = ValueRange<float>{50, 250};
     const std::tuple<const char*, By, ValueRanges, int, double, double> rows[] = {
-        {"reports", By::Hectare, {{}, {}, dose, {}}, 5, 50, 250},
-        {"track files", By::Hectare, {flow, litres, {}, {}}, 5, 1, 9},
         {"both", By::Hectare, {flow, litres, dose, {}}, 5, 1, 250},
         {"track files by minute", By::Minute, {flow, litres, {}, {}}, 5, 5, 25},
         {"without speed", By::Hectare, {flow, ValueRange<float>{}, {}, {}}, 1, 0, 0},

@@ -12,12 +12,9 @@ namespace {
 
 TEST(CompanionNames, DeriveTheOtherFileOfTheJob) {
     const std::tuple<const char*, const char*, const char*, const char*> rows[] = {
-        {"track", "C:\\Datos\\Log0001.nbr", "C:\\Datos\\Wrk0001.txt", "C:\\Datos\\Log0001.nbr"},
         {"summary", "C:\\Datos\\Wrk0001.txt", "C:\\Datos\\Wrk0001.txt", "C:\\Datos\\Log0001.nbr"},
-        {"capitals", "LOG0001.NBR", "Wrk0001.txt", "LOG0001.NBR"},
         {"the folder keeps its case and its log", "/Log/LOG7.nbr", "/Log/Wrk7.txt",
          "/Log/LOG7.nbr"},
-        {"both separators", "/Log\\x/LOG7.nbr", "/Log\\x/Wrk7.txt", "/Log\\x/LOG7.nbr"},
         {"every log of the name", "LogLog.nbr", "WrkWrk.txt", "LogLog.nbr"},
         {"a name without log", "Lote.nbr", "lote.txt", "Lote.nbr"},
         {"empty", "", "", ""},

@@ -41,14 +41,6 @@ std::string sampleReport(std::int32_t channels) {
     return report.bytes();
 }
 
-std::string sampleFourFields() {
-    RptBytes report;
-    for (int i = 0; i < 12; ++i) {
-        report.addFourFields(fixAt(10 * i, i), 1000 + i);
-    }
-    return report.bytes();
-}
-
 std::string sampleTrack(const char* version) {
     TrackText track;
     track.version = version;
@@ -75,8 +67,6 @@ std::vector<Sample> samples() {
         {"one channel", &WorkReading::report, sampleReport(1), true},
         {"three channels", &WorkReading::report, sampleReport(3), true},
         {"eight fields", &WorkReading::report, sampleReport(0), true},
-        {"four fields", &WorkReading::report, sampleFourFields(), true},
-        {"track 1.3", &WorkReading::track, sampleTrack("1.3"), false},
         {"track 2.0", &WorkReading::track, sampleTrack("2.0"), false},
         {"table", &WorkReading::table, sampleTable(), true},
     };
@@ -118,18 +108,7 @@ bool expectAnOutcome(const Sample& sample, std::string_view bytes) {
     return work.has_value();
 }
 
-TEST(DamagedFiles, CutAnywhere) {
-    for (const Sample& sample : samples()) {
-        SCOPED_TRACE(sample.name);
-        ASSERT_TRUE(expectAnOutcome(sample, sample.bytes));
-        for (std::size_t size = 0; size < sample.bytes.size(); ++size) {
-            SCOPED_TRACE(size);
-            expectAnOutcome(sample, std::string_view(sample.bytes).substr(0, size));
-        }
-    }
-}
-
-TEST(DamagedFiles, FlippedBits) {
+TEST(DamagedFiles, CutOrWithFlippedBits) {
     std::mt19937 random(34061);
     for (const Sample& sample : samples()) {
         SCOPED_TRACE(sample.name);
@@ -138,6 +117,9 @@ TEST(DamagedFiles, FlippedBits) {
         for (int copy = 0; copy < kCopies; ++copy) {
             SCOPED_TRACE(copy);
             std::string bytes = sample.bytes;
+            if (copy % 5 == 0) {
+                bytes.resize(1 + random() % bytes.size());
+            }
             for (int flips = 1 + copy % 8; flips > 0; --flips) {
                 const std::size_t at = random() % bytes.size();
                 bytes[at] = static_cast<char>(bytes[at] ^ (1 << random() % 8));
@@ -214,8 +196,6 @@ TEST(DamagedFiles, WhatOpensAllTheSameHasRemarks) {
         {report, reportWith(fix(99000, 0)), "RemarkFarRecords 1 9 10", ""},
         {report, reportWith(fixWith(&Record::swathCm, 20001)),
          "RemarkSwath 1 200 9 200.01 (0.009702; 0.008983)", "Hectáreas fumig: "},
-        {report, reportWith(fixWith(&Record::swathCm, -1)),
-         "RemarkSwath 1 200 9 -0.01 (0.009702; 0.008983)", "Hectáreas fumig: "},
         {report, reportWith(fixWith(&Record::speedTenths, 4001)),
          "RemarkSpeed 1 400 9 400.1 (0.009702; 0.008983)", "Vel Promedio:"},
         {report, reportWith(fixWith(&Record::spec, std::array<std::int32_t, 4>{5000})),

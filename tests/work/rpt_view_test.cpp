@@ -55,29 +55,6 @@ TEST(RptView, ReadsHeaderAndRecordsOfTheCurrentForm) {
     EXPECT_EQ(fields.time, (TimeOfDay{18, 3, 32}));
 }
 
-TEST(RptView, ChannelsDecideTheSizeOfARecord) {
-    const std::tuple<std::int32_t, std::int32_t, std::size_t> rows[] = {
-        {-5, 0, 32}, {0, 0, 32}, {1, 0, 32}, {2, 1, 56}, {5, 4, 56}, {2147483647, 2147483646, 56}};
-    for (const auto& [channels, highest, size] : rows) {
-        SCOPED_TRACE(channels);
-        const std::string bytes = RptBytes(channels).bytes() + std::string(4 * size - 1, '\0');
-        const RptView view = viewOf(bytes);
-        EXPECT_EQ(view.highestChannel(), highest);
-        EXPECT_EQ(view.recordCount(), 3U) << "the last one is not whole";
-    }
-}
-
-TEST(RptView, FiveChannelsShareFourSlots) {
-    RptBytes report(5);
-    RptBytes::Record written = record(0);
-    written.realTenths = {10, 20, 30, 40};
-    report.add(written);
-    const auto fields = viewOf(report.bytes()).record(0).fields;
-    EXPECT_EQ(fields.channels, 5);
-    EXPECT_EQ(fields.real, (TrackDataRPT::Doses{1, 2, 3, 4, 0}));
-    EXPECT_FLOAT_EQ(fields.speed, 12) << "speed follows the fourth slot";
-}
-
 TEST(RptView, TheFifthFieldTellsTheOlderFormsApart) {
     using Form = RptView::Form;
     const std::tuple<std::int32_t, Form, std::size_t> rows[] = {{0, Form::EightFields, 1},
@@ -104,14 +81,6 @@ TEST(RptView, TheOlderFormsHaveNoDate) {
     EXPECT_FALSE(fields.date);
     EXPECT_EQ(fields.real[0], 53);
     EXPECT_FLOAT_EQ(fields.speed, 5.5F);
-
-    RptBytes four;
-    four.addFourFields(fixAt(0, 0), 1995);
-    four.addFourFields(fixAt(5, 0), 42);
-    RptView view = viewOf(four.bytes());
-    view.setSwath(16);
-    EXPECT_EQ(view.record(0).fields.real[0], 200);
-    EXPECT_FLOAT_EQ(view.record(1).fields.swath, 16);
 }
 
 }  // namespace

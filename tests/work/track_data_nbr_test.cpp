@@ -47,7 +47,6 @@ TEST(TrackDataNBR, DescribesItself) {
 
 TEST(TrackDataNBR, OffersItsColumns) {
     const std::tuple<int, const char*, ColumnType, CellValue> rows[] = {
-        {-1, "", ColumnType::Integer, {}},
         {0, "Caudal", ColumnType::Real, 20.0F},
         {1, "Velocidad", ColumnType::Integer, 200.0F},
         {2, "AnchoLabor", ColumnType::Real, 18.5F},

@@ -93,7 +93,6 @@ TEST(TrackDataRPT, TakesItsColourFromTheMode) {
         {"date", full, ColorMode::Date, true, 0, dayColor},
         {"no date", undated, ColorMode::Date, true, 0, colors.noDraw},
         {"total dose", full, ColorMode::Dose, true, -1, scale.getColor(160)},
-        {"dose of a channel", full, ColorMode::Dose, true, 1, scale.getColor(40)},
         {"at the error limit", full, ColorMode::Error, false, 1, Color{0x123456}},
         {"below the error limit", full, ColorMode::Error, false, -1, scale.getColor(160)},
         {"plain", full, ColorMode::Dose, false, 0, colors.draw},
@@ -137,12 +136,8 @@ TEST(TrackDataRPT, DescribesItselfInEveryLanguage) {
 
 TEST(TrackDataRPT, OffersItsColumns) {
     const std::tuple<int, const char*, ColumnType, CellValue> rows[] = {
-        {-1, "", ColumnType::Integer, {}},
         {0, "D_Real1", ColumnType::Real, std::int64_t{120}},
-        {1, "D_Espec1", ColumnType::Real, std::int64_t{100}},
-        {2, "D_Real2", ColumnType::Real, std::int64_t{40}},
         {3, "D_Espec2", ColumnType::Real, std::int64_t{50}},
-        {4, "Velocidad", ColumnType::Real, 6.5F},
         {5, "Alarmas", ColumnType::Real, std::int64_t{2147483904}},
         {6, "AnchoLabor", ColumnType::Real, 12.34F},
         {7, "Hora", ColumnType::Text, std::string("07:05:09")},
