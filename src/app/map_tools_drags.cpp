@@ -8,7 +8,7 @@
 #include <cstdlib>
 #include <utility>
 
-#include "app/map/info_box.h"
+#include "app/map/text_plate.h"
 #include "app/map_tools.h"
 #include "base/numbers.h"
 

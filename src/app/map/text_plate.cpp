@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "app/map/info_box.h"
+#include "app/map/text_plate.h"
 
 #include <algorithm>
 #include <string_view>
