@@ -91,10 +91,10 @@ void useTools(Session& session, const FileSet& set) {
     const CanvasPoint one = placeOf(set, 4);
     const CanvasPoint other = placeOf(set, 6);
     MapTools& tools = session.tools();
-    for (const auto tool : {MapTools::Tool::Info, MapTools::Tool::PrescDosis, MapTools::Tool::Ruler,
-                            MapTools::Tool::ZoomSelect, MapTools::Tool::None}) {
+    for (const auto tool :
+         {ToolId::Info, ToolId::PrescDosis, ToolId::Ruler, ToolId::ZoomSelect, ToolId::Pan}) {
         tools.setTool(tool);
-        drag(tools, one, tool == MapTools::Tool::None ? one : other);
+        drag(tools, one, tool == ToolId::Pan ? one : other);
     }
     session.display().view().zoomPicture(other, 2);
     session.display().view().settle();

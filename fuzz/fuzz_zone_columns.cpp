@@ -65,7 +65,7 @@ void changeDoses(Session& session, const FileSet& set) {
     MapTools& tools = session.tools();
     const CanvasPoint place{kMapSize.width * set.choices[4] / 255,
                             kMapSize.height * set.choices[5] / 255};
-    for (const auto tool : {MapTools::Tool::PrescDosis, MapTools::Tool::Info}) {
+    for (const auto tool : {ToolId::PrescDosis, ToolId::Info}) {
         tools.setTool(tool);
         tools.press(MapTools::Button::Left, place);
         tools.release(MapTools::Button::Left, place);

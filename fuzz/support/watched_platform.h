@@ -73,8 +73,10 @@ public:
     void setReplay(const ReplayState& state) override;
     void setSpeedReadout(std::string_view text) override { checkText(text, "speed"); }
     void setOverlay(const MapOverlay& overlay) override {
-        if (overlay.info) {
-            checkText(overlay.info->text, "information");
+        for (const MapShape& shape : overlay) {
+            if (const auto* const plate = std::get_if<TextPlate>(&shape)) {
+                checkText(plate->text, "information");
+            }
         }
     }
     void setPosition(std::string_view text) override { checkText(text, "position"); }

@@ -31,7 +31,7 @@ private:
     MapTools& tools_;
     MapView::Place place_;
     std::string title_;
-    MapTools::Tool tool_;
+    ToolId tool_;
 };
 
 }  // namespace campora

@@ -3,31 +3,19 @@
 
 #include "app/map_tools.h"
 
+#include <cstdlib>
+#include <string>
 #include <utility>
 
+#include "app/map/tool_table.h"
 #include "base/numbers.h"
 
 namespace campora {
 
 namespace {
 
-PointerShape pointerOf(MapTools::Tool tool) {
-    switch (tool) {
-    case MapTools::Tool::None:
-        return PointerShape::Arrow;
-    case MapTools::Tool::ZoomSelect:
-        return PointerShape::ZoomSelect;
-    case MapTools::Tool::Ruler:
-    case MapTools::Tool::Info:
-    case MapTools::Tool::PrescDosis:
-        return PointerShape::Crosshair;
-    }
-    return PointerShape::Arrow;
-}
-
-LonLat positionAt(const ViewTransform& view, CanvasPoint at) {
-    return view.screenToMap(static_cast<float>(at.x), static_cast<float>(at.y));
-}
+/// Sideways movement that makes a click a drag.
+constexpr std::int32_t kClickReach = 3;
 
 bool holds(CanvasSize canvas, CanvasPoint at) {
     return at.x >= 0 && at.x <= canvas.width && at.y >= 0 && at.y <= canvas.height;
@@ -35,52 +23,43 @@ bool holds(CanvasSize canvas, CanvasPoint at) {
 
 }  // namespace
 
-MapTools::MapTools(OpenMap& map, MapDisplay& display)
-    : map_(map),
-      display_(display),
-      canvas_(display.canvas()),
-      window_(display.window()),
-      view_(display.view()),
-      style_(map.style()),
-      files_(map.files()),
-      texts_(map.desk().texts),
-      locale_(map.desk().locale) {}
+MapTools::MapTools(OpenMap& map, MapDisplay& display) : map_(map), display_(display) {
+    for (const MapToolRow& row : mapToolRows()) {
+        tools_.emplace(row.id, row.make({map, display, onDose}));
+    }
+}
 
-void MapTools::setTool(Tool tool) {
-    if (files_.empty() && tool != Tool::None) {
+void MapTools::setTool(ToolId tool) {
+    if (map_.files().empty() && tool != ToolId::Pan) {
         return;
     }
     cancelDrag();
-    hideInfo();
-    if (mark_) {
+    hideResult();
+    if (position_) {
         hideVertex();
     }
-    setToolText({});
+    display_.window().setToolText({});
     if (tool != tool_) {
         tool_ = tool;
-        window_.commandsChanged();
+        display_.window().commandsChanged();
     }
     showPointer();
 }
 
-void MapTools::setVertexOwner(VertexOwner* owner) {
-    if (owner != vertices_) {
+void MapTools::layOver(LayeredTool* layer) {
+    if (layer != layer_) {
         cancelDrag();
-        vertices_ = owner;
+        layer_ = layer;
         showPointer();
+        showOverlay();
     }
 }
 
 void MapTools::reset() {
-    if (drag_ == Drag::Vertex) {
-        cancelDrag();
-    }
-    drag_ = Drag::None;  // there is nothing left to draw
-    setTool(Tool::None);
-    overlay_ = {};
+    setTool(ToolId::Pan);
+    hideVertex();
     showOverlay();
-    pointer_.reset();
-    window_.setPosition({});
+    leave();
 }
 
 void MapTools::setCoordType(CoordType type) {
@@ -89,232 +68,162 @@ void MapTools::setCoordType(CoordType type) {
 }
 
 void MapTools::press(Button button, CanvasPoint at) {
-    if (files_.empty() || drag_ != Drag::None || button == Button::Right) {
+    if (map_.files().empty() || dragged_ != nullptr || button == Button::Right) {
         return;
     }
-    hideInfo();
+    hideResult();
     button_ = button;
     pressed_ = at;
     pointer_ = at;
-    if (vertices_ != nullptr && vertices_->pickVertex(at)) {
-        drag_ = Drag::Vertex;
-        return;
+    moved_ = false;
+    MapTool& inHand = toolOf(button == Button::Middle ? ToolId::Pan : tool_);
+    if (layer_ != nullptr && layer_->press(at)) {
+        dragged_ = layer_;
+    } else if (inHand.press(at)) {
+        dragged_ = &inHand;
     }
-    if (button == Button::Middle || tool_ == Tool::None) {
-        moved_ = false;
-        startPan(at);
-        return;
-    }
-    switch (tool_) {
-    case Tool::None:
-        return;
-    case Tool::ZoomSelect:
-        drag_ = Drag::Zoom;
-        overlay_.selector = {at, {}};
-        break;
-    case Tool::Ruler:
-        drag_ = Drag::Ruler;
-        overlay_.ruler = {at, at};
-        setToolText({});
-        break;
-    case Tool::Info:
-        drag_ = Drag::Info;
-        return;
-    case Tool::PrescDosis:
-        drag_ = Drag::Dose;
-        return;
-    }
+    showPointer();
     showOverlay();
 }
 
 void MapTools::move(CanvasPoint to) {
-    if (files_.empty()) {
+    if (map_.files().empty()) {
         return;
     }
     pointer_ = to;
-    switch (drag_) {
-    case Drag::None:
-    case Drag::Info:
-    case Drag::Dose:
-        break;
-    case Drag::Pan:
-        panTo(to);
-        break;
-    case Drag::Zoom:
-        spanSelector(to);
-        break;
-    case Drag::Ruler:
-        stretchRuler(to);
-        break;
-    case Drag::Vertex:
-        vertices_->moveVertex(to);
-        break;
+    if (dragged_ != nullptr) {
+        moved_ = moved_ || std::abs(to.x - pressed_.x) > kClickReach;
+        dragged_->drag(to);
+        placeMark();
+        if (layer_ != nullptr) {
+            layer_->viewChanged();
+        }
+        showOverlay();
     }
     showPosition();
 }
 
 void MapTools::release(Button button, CanvasPoint at) {
-    if (files_.empty()) {
+    if (map_.files().empty()) {
         return;
     }
-    if (drag_ == Drag::Vertex) {  // whatever the button
-        if (pointer_ != at) {
-            move(at);
-        }
-        drag_ = Drag::None;
-        vertices_->dropVertex(true);
+    const bool ofLayer = dragged_ != nullptr && dragged_ == layer_;
+    if (button == Button::Right && !ofLayer) {
+        setTool(ToolId::Pan);
         return;
     }
-    if (button == Button::Right) {
-        setTool(Tool::None);
-        return;
-    }
-    if (drag_ == Drag::None || button != button_) {
+    if (dragged_ == nullptr || (button != button_ && !ofLayer)) {
         return;
     }
     if (pointer_ != at) {
         move(at);
     }
-    switch (std::exchange(drag_, Drag::None)) {
-    case Drag::None:
-    case Drag::Vertex:
-        break;
-    case Drag::Pan:
-        finishPan();
-        if (button == Button::Left && !moved_ && onClick) {
-            onClick(at);
-        }
-        break;
-    case Drag::Zoom:
-        finishZoom();
-        break;
-    case Drag::Ruler:
-        finishRuler();
-        break;
-    case Drag::Info:
-        finishInfo(at);
-        break;
-    case Drag::Dose:
-        if (onDose) {
-            onDose(positionAt(view_.transform(), at));
-        }
-        break;
+    MapTool& used = *std::exchange(dragged_, nullptr);
+    used.release(at);
+    const bool isFree = &used == &toolOf(ToolId::Pan) && button == Button::Left && !moved_;
+    if (isFree && layer_ != nullptr) {
+        layer_->click(at);
     }
+    showPointer();
+    showOverlay();
 }
 
 void MapTools::leave() {
     pointer_.reset();
-    window_.setPosition({});
+    display_.window().setPosition({});
 }
 
-void MapTools::hideInfo() {
-    if (overlay_.info) {
-        overlay_.info.reset();
-        showOverlay();
-    }
+void MapTools::hideResult() {
+    toolOf(tool_).hideResult();
+    showOverlay();
 }
 
 void MapTools::showVertex(float x, float y) {
-    mark_.reset();
-    overlay_.vertex = CanvasPoint{roundToInt32(x), roundToInt32(y)};
+    position_.reset();
+    mark_ = CanvasPoint{roundToInt32(x), roundToInt32(y)};
     showOverlay();
 }
 
 void MapTools::hideVertex() {
+    position_.reset();
     mark_.reset();
-    if (overlay_.vertex) {
-        overlay_.vertex.reset();
-        showOverlay();
-    }
-}
-
-bool MapTools::goTo(LonLat position) {
-    if (files_.empty()) {
-        return false;
-    }
-    cancelDrag();
-    hideInfo();
-    mark_ = position;
-    view_.centreOn(position);
-    viewChanged();
-    return overlay_.vertex.has_value();
-}
-
-void MapTools::viewChanged() {
-    hideInfo();  // what it tells of lies elsewhere now, or shows something else
-    if (drag_ == Drag::Pan && pointer_) {
-        startPan(*pointer_);  // from where the view is now
-    }
-    placeMark();
-    tellOwner();
-    showPosition();
-}
-
-void MapTools::tellOwner() {
-    if (vertices_ != nullptr) {
-        vertices_->viewChanged();
-    }
-}
-
-void MapTools::showLot(std::optional<MapOverlay::Lot> lot) {
-    if (lot != overlay_.lot) {
-        overlay_.lot = std::move(lot);
-        showOverlay();
-    }
-}
-
-void MapTools::placeMark() {
-    if (!mark_) {
-        return;
-    }
-    const CanvasPoint place = view_.transform().mapToScreen(mark_->x, mark_->y);
-    overlay_.vertex = holds(canvas_.size(), place) ? std::optional(place) : std::nullopt;
     showOverlay();
 }
 
-void MapTools::copyImage(Clipboard& clipboard) {
-    if (files_.empty()) {
-        return;
+bool MapTools::goTo(LonLat position) {
+    if (map_.files().empty()) {
+        return false;
     }
     cancelDrag();
-    const OverlaidMap overlaid(canvas_, view_);
-    clipboard.setPicture(canvas_.picture());
+    position_ = position;
+    display_.view().centreOn(position);
+    viewChanged();
+    return mark_.has_value();
+}
+
+void MapTools::viewChanged() {
+    hideResult();  // it tells of what lies elsewhere now, or of something else
+    if (dragged_ != nullptr) {
+        dragged_->viewChanged();
+    }
+    placeMark();
+    if (layer_ != nullptr && layer_ != dragged_) {
+        layer_->viewChanged();
+    }
+    showOverlay();
+    showPosition();
+}
+
+void MapTools::placeMark() {
+    if (position_) {
+        const CanvasPoint at = display_.view().transform().mapToScreen(position_->x, position_->y);
+        mark_ = holds(display_.canvas().size(), at) ? std::optional(at) : std::nullopt;
+    }
 }
 
 void MapTools::cancelDrag() {
-    const Drag drag = std::exchange(drag_, Drag::None);
-    if (drag == Drag::Pan) {
-        finishPan();
-    } else if (drag == Drag::Vertex) {
-        vertices_->dropVertex(false);
-    }
-    if (overlay_.selector || overlay_.ruler) {
-        overlay_.selector.reset();
-        overlay_.ruler.reset();
+    if (MapTool* const given = std::exchange(dragged_, nullptr)) {
+        given->cancel();
+        showPointer();
         showOverlay();
+    }
+}
+
+void MapTools::showOverlay() {
+    MapOverlay overlay;
+    if (!map_.files().empty()) {
+        if (layer_ != nullptr) {
+            layer_->addShapes(overlay);
+        }
+        toolOf(tool_).addShapes(overlay);
+        if (mark_) {
+            overlay.emplace_back(MarkFrame{*mark_});
+        }
+    }
+    if (overlay != overlay_) {
+        overlay_ = std::move(overlay);
+        display_.window().setOverlay(overlay_);
     }
 }
 
 void MapTools::showPosition() {
-    if (!pointer_ || files_.empty()) {
+    if (!pointer_ || map_.files().empty()) {
         return;
     }
-    const LonLat position = positionAt(view_.transform(), *pointer_);
-    std::string text(texts_(TextId::Longitude));
+    const LonLat position = display_.view().transform().screenToMap(
+        static_cast<float>(pointer_->x), static_cast<float>(pointer_->y));
+    const Texts& texts = map_.desk().texts;
+    std::string text(texts(TextId::Longitude));
     text.append(formatCoord(position.x, coordType_)).append("   ");
-    text.append(texts_(TextId::Latitude)).append(formatCoord(position.y, coordType_));
-    window_.setPosition(text);
-}
-
-void MapTools::setToolText(std::string text) {
-    toolText_ = std::move(text);
-    window_.setToolText(toolText_);
+    text.append(texts(TextId::Latitude)).append(formatCoord(position.y, coordType_));
+    display_.window().setPosition(text);
 }
 
 void MapTools::showPointer() {
-    const bool draws = vertices_ != nullptr && tool_ == Tool::None;
-    const PointerShape shape = draws ? PointerShape::Crosshair : pointerOf(tool_);
-    canvas_.setPointer(drag_ == Drag::Pan ? PointerShape::Move : shape);
+    const MapTool& shown = dragged_ != nullptr                         ? *dragged_
+                           : layer_ != nullptr && tool_ == ToolId::Pan ? *layer_
+                                                                       : toolOf(tool_);
+    display_.canvas().setPointer(shown.pointer());
 }
 
 }  // namespace campora

@@ -3,63 +3,43 @@
 
 #pragma once
 
-#include <cstdint>
 #include <functional>
+#include <map>
+#include <memory>
 #include <optional>
-#include <string>
 
 #include "app/map_display.h"
-#include "app/map_view.h"
+#include "app/map_tool.h"
 #include "app/open_map.h"
-#include "base/texts.h"
 #include "coord/coord_functions.h"
-#include "model/file.h"
-#include "model/map_style.h"
-#include "platform/clipboard.h"
 #include "platform/main_window_controls.h"
 #include "platform/map_canvas.h"
-#include "platform/user_locale.h"
 
 namespace campora {
 
-/// Someone who has vertices on the map that the mouse moves.
-class VertexOwner {
-public:
-    virtual ~VertexOwner() = default;
-
-    /// A button was pressed here: picks the vertex that it was meant for. False when there is none.
-    virtual bool pickVertex(CanvasPoint at) = 0;
-    virtual void moveVertex(CanvasPoint to) = 0;
-    /// `keep`: false when the move is given up.
-    virtual void dropVertex(bool keep) = 0;
-    /// The map was drawn or moved to elsewhere.
-    virtual void viewChanged() = 0;
-};
-
-/// What the mouse does on the map. Positions are canvas units.
+/// Hands what the mouse does on the map to the tool in use. Positions are canvas units.
 class MapTools {
 public:
-    /// Without a tool the mouse pans.
-    enum class Tool { None, ZoomSelect, Ruler, Info, PrescDosis };
     enum class Button { Left, Middle, Right };
 
     /// Both outlive the tools.
     MapTools(OpenMap& map, MapDisplay& display);
+    MapTools(const MapTools&) = delete;
+    MapTools& operator=(const MapTools&) = delete;
+    ~MapTools() = default;
 
-    /// A click of the left button without a tool and without dragging; may be empty.
-    std::function<void(CanvasPoint)> onClick;
     /// A click with the dose tool, at this position; may be empty.
     std::function<void(LonLat)> onDose;
 
-    /// Whose vertices the mouse moves from now on, with every tool; null: nobody's. It outlives the
-    /// tools or is taken away before.
-    void setVertexOwner(VertexOwner* owner);
+    /// Asked first at each press, with every tool, and told of clicks that nothing else is meant
+    /// by; null: nobody. It outlives the tools or is taken away before.
+    void layOver(LayeredTool* layer);
 
-    [[nodiscard]] Tool tool() const { return tool_; }
-    /// Takes up a tool in place of another. Tools other than None need an open file.
-    void setTool(Tool tool);
+    [[nodiscard]] ToolId tool() const { return tool_; }
+    /// Takes up a tool in place of another. Tools other than Pan need an open file.
+    void setTool(ToolId tool);
     /// A click of a tool's button: takes it up or, when it is in use, lays it down.
-    void toggleTool(Tool tool) { setTool(tool == tool_ ? Tool::None : tool); }
+    void toggleTool(ToolId tool) { setTool(tool == tool_ ? ToolId::Pan : tool); }
 
     void setCoordType(CoordType type);
     [[nodiscard]] CoordType coordType() const { return coordType_; }
@@ -72,75 +52,52 @@ public:
     /// The pointer is no longer over the map.
     void leave();
     /// Lays the tool down; what was begun has no effect.
-    void escape() { setTool(Tool::None); }
+    void escape() { setTool(ToolId::Pan); }
 
     /// Gives up what the pressed button does.
     void cancelDrag();
-    void hideInfo();
+    /// Takes away what the tool in use has left over the map.
+    void hideResult();
     /// Marks a place on the canvas.
     void showVertex(float x, float y);
     void hideVertex();
     /// Whether the mark is that of `goTo`.
-    [[nodiscard]] bool isPositionMarked() const { return mark_.has_value(); }
-    /// Lays a lot that is being drawn over the map, or takes it away.
-    void showLot(std::optional<MapOverlay::Lot> lot);
+    [[nodiscard]] bool isPositionMarked() const { return position_.has_value(); }
     /// Brings the position to the middle of the canvas, as far as the map reaches, and marks it
     /// until the next tool. False when it is not on the canvas even so.
     bool goTo(LonLat position);
     /// The map was drawn anew, perhaps elsewhere: marks and texts follow.
     void viewChanged();
-    /// The picture of the map with its scale bar and arrows; the canvas stays as it was.
-    void copyImage(Clipboard& clipboard);
+    /// What the tools lay over the map has changed.
+    void showOverlay();
     /// For an empty map: no tool, nothing laid over it.
     void reset();
 
 private:
-    /// What the pressed button does.
-    enum class Drag { None, Pan, Zoom, Ruler, Info, Dose, Vertex };
-    struct Hit {
-        File* file;
-        std::string text;
-    };
-
-    void startPan(CanvasPoint at);
-    void panTo(CanvasPoint to);
-    void finishPan();
-    void spanSelector(CanvasPoint to);
-    void finishZoom();
-    void stretchRuler(CanvasPoint to);
-    void finishRuler();
-    void finishInfo(CanvasPoint at);
-    [[nodiscard]] std::optional<Hit> find(CanvasPoint at) const;
+    [[nodiscard]] MapTool& toolOf(ToolId id) const { return *tools_.at(id); }
     void placeMark();
-    void tellOwner();
     void showPosition();
-    void setToolText(std::string text);
     void showPointer();
-    void showOverlay() { window_.setOverlay(overlay_); }
 
     OpenMap& map_;
     MapDisplay& display_;
-    MapCanvas& canvas_;
-    MainWindowControls& window_;
-    MapView& view_;
-    const MapStyle& style_;
-    LoadedFileList& files_;
-    const Texts& texts_;
-    const UserLocale& locale_;
-    VertexOwner* vertices_ = nullptr;
+    std::map<ToolId, std::unique_ptr<MapTool>> tools_;
+    LayeredTool* layer_ = nullptr;
 
-    Tool tool_ = Tool::None;
-    CoordType coordType_ = CoordType::Degrees;
-    Drag drag_ = Drag::None;
+    ToolId tool_ = ToolId::Pan;
+    /// The tool that the pressed button works with; null for none.
+    MapTool* dragged_ = nullptr;
     Button button_ = Button::Left;
     CanvasPoint pressed_;
-    std::int32_t pressedScrollX_ = 0;
-    std::int32_t pressedScrollY_ = 0;
+    /// The pointer has gone too far for a click.
     bool moved_ = false;
     std::optional<CanvasPoint> pointer_;
+    CoordType coordType_ = CoordType::Degrees;
     /// A position that is marked, wherever the view moves.
-    std::optional<LonLat> mark_;
-    std::string toolText_;
+    std::optional<LonLat> position_;
+    /// Where the mark is on the canvas.
+    std::optional<CanvasPoint> mark_;
+    /// What the window shows.
     MapOverlay overlay_;
 };
 

@@ -18,7 +18,7 @@ Session::Session(MapCanvas& canvas, MainWindowControls& window, const Services& 
       tools_(map_, display_),
       replay_(map_, display_, services_.clock,
               [this] {
-                  tools_.hideInfo();
+                  tools_.hideResult();
                   tools_.cancelDrag();
               }),
       fileCommands_(map_, display_, tools_, services_.settings),
@@ -57,7 +57,7 @@ void Session::setLanguage(Language language) {
     display_.showFlowStops();
     window.setPosition({});
     window.setToolText({});
-    tools_.hideInfo();
+    tools_.hideResult();
     window.commandsChanged();
 }
 

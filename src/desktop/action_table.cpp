@@ -8,6 +8,16 @@ namespace campora {
 
 namespace {
 
+template <ToolId id>
+void useTool(MainWindow& window) {
+    window.useTool(id);
+}
+
+template <ToolId id>
+bool isInUse(const MainWindow& window) {
+    return window.session().tools().tool() == id;
+}
+
 // clang-format off
 constexpr ActionRow kActions[] = {
     {.name = "mnuFileOpen", .text = TextId::ActionOpen, .tooltip = TextId::TipOpen, .icon = "open",
@@ -99,7 +109,7 @@ constexpr ActionRow kActions[] = {
      .run = [](MainWindow& w) { w.close(); }},
     {.name = "mnuEditCopy", .text = TextId::ActionCopyImage, .tooltip = TextId::TipCopyImage,
      .icon = "copy-image", .shortcuts = "Ctrl+C", .menu = MenuId::Edit, .needs = Needs::Map,
-     .run = [](MainWindow& w) { w.copyImage(); }},
+     .run = [](MainWindow& w) { w.session().exportCommands().copyImage(); }},
     {.name = "mnuEditCopyText", .text = TextId::ActionCopyData, .tooltip = TextId::TipCopyData,
      .icon = "copy-data", .shortcuts = "Ctrl+Shift+C", .menu = MenuId::Edit,
      .needs = Needs::SelectedFile, .run = [](MainWindow& w) { w.session().summaryCommands().copyData(w.session().services().clipboard); }},
@@ -190,23 +200,23 @@ constexpr ActionRow kActions[] = {
     {.name = "mnuToolMove", .text = TextId::ActionMoveMap, .tooltip = TextId::TipMoveMap,
      .icon = "move", .shortcuts = "Esc", .keysOnMap = true, .menu = MenuId::Tools,
      .needs = Needs::Map, .run = [](MainWindow& w) { w.leaveTool(); },
-     .isOn = [](const MainWindow& w) { return w.session().tools().tool() == MapTools::Tool::None; }},
+     .isOn = isInUse<ToolId::Pan>},
     {.name = "mnuToolZoomSelect", .text = TextId::ActionSelectArea, .tooltip = TextId::SelectArea,
      .icon = "zoom-select", .shortcuts = "Ctrl+R", .menu = MenuId::Tools, .needs = Needs::Map,
-     .run = [](MainWindow& w) { w.useTool(MapTools::Tool::ZoomSelect); },
-     .isOn = [](const MainWindow& w) { return w.session().tools().tool() == MapTools::Tool::ZoomSelect; }},
+     .run = useTool<ToolId::ZoomSelect>,
+     .isOn = isInUse<ToolId::ZoomSelect>},
     {.name = "mnuToolRuler", .text = TextId::ActionMeasure, .tooltip = TextId::MeasureDistances,
      .icon = "ruler", .shortcuts = "Ctrl+M", .menu = MenuId::Tools, .needs = Needs::Map,
-     .run = [](MainWindow& w) { w.useTool(MapTools::Tool::Ruler); },
-     .isOn = [](const MainWindow& w) { return w.session().tools().tool() == MapTools::Tool::Ruler; }},
+     .run = useTool<ToolId::Ruler>,
+     .isOn = isInUse<ToolId::Ruler>},
     {.name = "mnuToolInfo", .text = TextId::ActionExplore, .tooltip = TextId::Explore,
      .icon = "info", .shortcuts = "Ctrl+I", .menu = MenuId::Tools, .needs = Needs::Map,
-     .run = [](MainWindow& w) { w.useTool(MapTools::Tool::Info); },
-     .isOn = [](const MainWindow& w) { return w.session().tools().tool() == MapTools::Tool::Info; }},
+     .run = useTool<ToolId::Info>,
+     .isOn = isInUse<ToolId::Info>},
     {.name = "mnuToolPrescDosis", .text = TextId::ChangeDose, .tooltip = TextId::ChangeDose,
      .icon = "presc-dose", .shortcuts = "Ctrl+D", .menu = MenuId::Tools, .needs = Needs::Map,
-     .run = [](MainWindow& w) { w.useTool(MapTools::Tool::PrescDosis); },
-     .isOn = [](const MainWindow& w) { return w.session().tools().tool() == MapTools::Tool::PrescDosis; },
+     .run = useTool<ToolId::PrescDosis>,
+     .isOn = isInUse<ToolId::PrescDosis>,
      .possible = [](const MainWindow& w) { return w.session().prescCommands().isOpen(); }},
     {.name = "mnuToolLote", .text = TextId::ActionLote, .tooltip = TextId::TipLote,
      .icon = "lote", .shortcuts = "Ctrl+L", .menu = MenuId::Tools, .opensGroup = true,

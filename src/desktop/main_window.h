@@ -59,12 +59,11 @@ public:
     void openWorkOrders();
     /// `row`: of the summary, -1 for none.
     void openSummaryMenu(int row, QPoint place);
-    void copyImage();
     void goToCoordinate();
     void setUpPage();
     void printPreview();
     void print();
-    void useTool(MapTools::Tool tool);
+    void useTool(ToolId tool);
     /// Back to moving the map by dragging it.
     void leaveTool();
     void showKeys();

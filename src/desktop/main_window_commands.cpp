@@ -40,7 +40,7 @@ QString menuText(std::string_view text) {
 }  // namespace
 
 void MainWindow::perform(const ActionRow& row) {
-    session_->tools().hideInfo();
+    session_->tools().hideResult();
     {
         std::optional<PointerOverride> busy;
         if (row.isSlow) {
@@ -77,10 +77,6 @@ void MainWindow::openSummaryMenu(int row, QPoint place) {
     menu->popup(place);
 }
 
-void MainWindow::copyImage() {
-    session_->tools().copyImage(services_.clipboard);
-}
-
 void MainWindow::goToCoordinate() {
     CoordDialog dialog(this, session_->map().desk(), session_->tools().coordType());
     if (const std::optional<LonLat> position = dialog.showInput()) {
@@ -115,7 +111,7 @@ void MainWindow::showAbout() {
     AboutDialog(session_->texts(), services_.clipboard, this).exec();
 }
 
-void MainWindow::useTool(MapTools::Tool tool) {
+void MainWindow::useTool(ToolId tool) {
     session_->tools().toggleTool(tool);
     mapArea_->map().setFocus();
 }

@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "base/color.h"
-#include "platform/map_canvas.h"
+#include "platform/map_overlay.h"
 
 namespace campora {
 
@@ -109,49 +109,6 @@ struct ReplayState {
     int speed = 0;
 
     bool operator==(const ReplayState&) const = default;
-};
-
-/// What the tools lay over the map without drawing on it. Canvas units.
-struct MapOverlay {
-    struct Box {
-        CanvasPoint topLeft;
-        CanvasSize size;
-
-        bool operator==(const Box&) const = default;
-    };
-    struct Line {
-        CanvasPoint from;
-        CanvasPoint to;
-
-        bool operator==(const Line&) const = default;
-    };
-    struct Info {
-        Box box;
-        /// Lines ended by CR LF.
-        std::string text;
-
-        bool operator==(const Info&) const = default;
-    };
-    /// The lot that is being drawn.
-    struct Lot {
-        std::vector<CanvasPoint> vertices;
-        /// In the middle of its sides, where a new vertex can be pulled out.
-        std::vector<CanvasPoint> handles;
-        Color color;
-        /// Filled with the colour; else only outlined.
-        bool filled = false;
-
-        bool operator==(const Lot&) const = default;
-    };
-    std::optional<Lot> lot;
-    /// Rectangle of the zoom.
-    std::optional<Box> selector;
-    std::optional<Line> ruler;
-    /// Middle of the mark of a vertex or a position.
-    std::optional<CanvasPoint> vertex;
-    std::optional<Info> info;
-
-    bool operator==(const MapOverlay&) const = default;
 };
 
 /// What the program sets on its main window. The window shows it and decides nothing.

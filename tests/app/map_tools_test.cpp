@@ -16,7 +16,7 @@
 namespace campora {
 namespace {
 
-using Tool = MapTools::Tool;
+using Tool = ToolId;
 using Button = MapTools::Button;
 
 /// A file that answers everywhere between two meridians.
@@ -123,6 +123,14 @@ TEST_F(MapToolsTest, PanningMovesTheSnapshotAndRedrawsAtTheEnd) {
     EXPECT_EQ(canvas.callsOf("paint").back(), "paint snapshot: (10,0)");
 }
 
+/// Lets every press pass and counts the clicks.
+struct ClickCounter final : LayeredTool {
+    bool press(CanvasPoint /*at*/) override { return false; }
+    void release(CanvasPoint /*at*/) override {}
+    void click(CanvasPoint /*at*/) override { ++clicks; }
+    int clicks = 0;
+};
+
 TEST(MapTools, OnlyAClickIsAClick) {
     struct Row {
         const char* name;
@@ -133,20 +141,20 @@ TEST(MapTools, OnlyAClickIsAClick) {
         std::int32_t scrollX;
     };
     const Row rows[] = {
-        {"a trembling hand", Tool::None, Button::Left, -3, 1, 1015},
-        {"just a drag", Tool::None, Button::Left, -4, 0, 1020},
+        {"a trembling hand", Tool::Pan, Button::Left, -3, 1, 1015},
+        {"just a drag", Tool::Pan, Button::Left, -4, 0, 1020},
         {"the middle button pans with a tool", Tool::Ruler, Button::Middle, -4, 0, 1020},
         {"a tool at work", Tool::Ruler, Button::Left, -2, 0, 1000},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
+        ClickCounter layer;
         ToolsDesk d;
-        int clicks = 0;
-        d.tools.onClick = [&](CanvasPoint) { ++clicks; };
+        d.tools.layOver(&layer);
         d.view.setView(5, 5, 1000, 1000);
         d.tools.setTool(row.tool);
         d.drag({100, 100}, {100 + row.sideways, 100}, row.button);
-        EXPECT_EQ(clicks, row.clicks);
+        EXPECT_EQ(layer.clicks, row.clicks);
         EXPECT_EQ(d.view.scrollX(), row.scrollX);
         EXPECT_EQ(d.tools.tool(), row.tool);
     }
@@ -156,7 +164,7 @@ TEST(MapTools, TheRectangleFillsTheCanvas) {
     struct Row {
         const char* name;
         CanvasPoint from, to;
-        MapOverlay::Box selector;
+        DashedBox selector;
         float scale;
         std::int32_t scrollX, scrollY;
     };
@@ -172,9 +180,9 @@ TEST(MapTools, TheRectangleFillsTheCanvas) {
         d.tools.setTool(Tool::ZoomSelect);
         d.tools.press(Button::Left, row.from);
         d.tools.move(row.to);
-        EXPECT_EQ(d.window.overlay.selector, row.selector);
+        EXPECT_EQ(d.window.laid<DashedBox>(), row.selector);
         d.tools.release(Button::Left, row.to);
-        EXPECT_EQ(d.window.overlay.selector, std::nullopt);
+        EXPECT_EQ(d.window.laid<DashedBox>(), std::nullopt);
         EXPECT_FLOAT_EQ(d.view.scaleX(), row.scale);
         EXPECT_EQ(d.view.scrollX(), row.scrollX);
         EXPECT_EQ(d.view.scrollY(), row.scrollY);
@@ -190,10 +198,10 @@ TEST(MapTools, TheRulerMeasuresAndStaysOnTheMap) {
     EXPECT_EQ(d.window.toolText, "Dist:5000 m");
     d.tools.move({301, 401});
     EXPECT_EQ(d.window.toolText, "Dist:4256,78 m");
-    EXPECT_EQ(d.window.overlay.ruler, (MapOverlay::Line{{0, 100}, {301, 401}}));
+    EXPECT_EQ(d.window.laid<ThinLine>(), (ThinLine{{0, 100}, {301, 401}}));
     d.canvas.forget();
     d.tools.release(Button::Left, {301, 401});
-    EXPECT_EQ(d.window.overlay.ruler, std::nullopt);
+    EXPECT_EQ(d.window.laid<ThinLine>(), std::nullopt);
     EXPECT_EQ(d.canvas.calls(),
               (std::vector<std::string>{"line 0x102030 width=1 solid: (0,100) (301,401)",
                                         "text pen=0x102030 top-left: (150,250) \"Dist:4256,78 m\"",
@@ -215,14 +223,13 @@ TEST(MapTools, InformationIsOfTheFileOnTopAndStaysOnTheCanvas) {
         d.tools.setTool(Tool::Info);
         d.drag(at, at);
         EXPECT_EQ(d.chosen(), chosen);
-        const std::optional<MapOverlay::Info> info = d.window.overlay.info;
-        ASSERT_EQ(info.has_value(), !d.chosen().empty());
-        if (info) {  // 7 characters and two lines, with 90 units around
-            EXPECT_EQ(info->text, d.chosen() + " 7\r\nx\r\n");
-            EXPECT_EQ(info->box, (MapOverlay::Box{corner, {1020, 660}}));
+        const auto plate = d.window.laid<TextPlate>();
+        ASSERT_EQ(plate.has_value(), !d.chosen().empty());
+        if (plate) {  // 7 characters and two lines, with 90 units around
+            EXPECT_EQ(*plate, (TextPlate{corner, {1020, 660}, d.chosen() + " 7\r\nx\r\n"}));
         }
         d.tools.viewChanged();
-        EXPECT_EQ(d.window.overlay.info, std::nullopt) << "it would lie over something else";
+        EXPECT_EQ(d.window.laid<TextPlate>(), std::nullopt) << "it would lie over something else";
     }
 }
 
@@ -234,7 +241,7 @@ TEST_F(MapToolsTest, AToolReplacesTheOtherAndTheRightButtonGivesUpWhatWasBegun) 
     tools.move({200, 200});
     tools.press(Button::Right, {200, 200});
     tools.release(Button::Right, {200, 200});
-    EXPECT_EQ(tools.tool(), Tool::None);
+    EXPECT_EQ(tools.tool(), Tool::Pan);
     EXPECT_EQ(window.overlay, MapOverlay{});
     tools.release(Button::Left, {200, 200});
     EXPECT_FLOAT_EQ(view.scaleX(), 10);
@@ -244,14 +251,11 @@ TEST_F(MapToolsTest, AToolReplacesTheOtherAndTheRightButtonGivesUpWhatWasBegun) 
 TEST(MapTools, NothingHappensWithoutAFile) {
     ToolsDesk d(false);
     d.tools.setTool(Tool::Ruler);
-    EXPECT_EQ(d.tools.tool(), Tool::None);
+    EXPECT_EQ(d.tools.tool(), Tool::Pan);
     d.drag({10, 10}, {200, 200});
     d.tools.goTo({1, 1});
-    MemoryClipboard clipboard;
-    d.tools.copyImage(clipboard);
     EXPECT_EQ(d.canvas.calls(), std::vector<std::string>{});
     EXPECT_EQ(d.window.position, "");
-    EXPECT_EQ(clipboard.picture.width, 0);
 }
 
 TEST_F(MapToolsTest, GoesToAPositionAndMarksItUntilTheNextTool) {
@@ -259,29 +263,18 @@ TEST_F(MapToolsTest, GoesToAPositionAndMarksItUntilTheNextTool) {
     const LonLat place{5500 / METERS_PER_DEGREE, 3000 / METERS_PER_DEGREE};
     EXPECT_TRUE(tools.goTo(place));
     EXPECT_FLOAT_EQ(view.scaleX(), 2);
-    EXPECT_EQ(window.overlay.vertex, (CanvasPoint{500, 250}));
+    EXPECT_EQ(window.laid<MarkFrame>(), (MarkFrame{{500, 250}}));
     view.setView(2, 2, view.scrollX() + 100, view.scrollY());
-    EXPECT_EQ(window.overlay.vertex, (CanvasPoint{450, 250}));
+    EXPECT_EQ(window.laid<MarkFrame>(), (MarkFrame{{450, 250}}));
     view.setView(0.5, 0.5, 0, 0);
-    EXPECT_EQ(window.overlay.vertex, std::nullopt) << "out of sight";
+    EXPECT_EQ(window.laid<MarkFrame>(), std::nullopt) << "out of sight";
     view.setView(10, 10, 0, 0);
-    EXPECT_EQ(window.overlay.vertex, (CanvasPoint{550, 200}));
+    EXPECT_EQ(window.laid<MarkFrame>(), (MarkFrame{{550, 200}}));
     tools.escape();
-    EXPECT_EQ(window.overlay.vertex, std::nullopt);
+    EXPECT_EQ(window.laid<MarkFrame>(), std::nullopt);
     EXPECT_FALSE(tools.goTo({-58, -34})) << "beyond the map";
     EXPECT_EQ(view.scrollX(), 0);
-    EXPECT_EQ(window.overlay.vertex, std::nullopt);
-}
-
-TEST_F(MapToolsTest, ACopyHasTheScaleBarAndLeavesTheCanvasAsItWas) {
-    MemoryClipboard clipboard;
-    view.updateScrollBars();
-    tools.copyImage(clipboard);
-    const std::vector<std::string>& calls = canvas.calls();
-    EXPECT_EQ(calls.front(), "snapshot");
-    EXPECT_EQ(canvas.callsOf("text").size(), 1U);
-    EXPECT_EQ(calls.at(calls.size() - 2), "paint snapshot: (0,0)");
-    EXPECT_EQ(clipboard.picture.width, 1);
+    EXPECT_EQ(window.laid<MarkFrame>(), std::nullopt);
 }
 
 }  // namespace

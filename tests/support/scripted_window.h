@@ -8,6 +8,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <variant>
 #include <vector>
 
 #include "platform/main_window_controls.h"
@@ -32,6 +33,16 @@ public:
     ReplayState replay;
     std::string speed;
     MapOverlay overlay;
+    /// The shape of that type that lies over the map.
+    template <class Shape>
+    [[nodiscard]] std::optional<Shape> laid() const {
+        for (const MapShape& shape : overlay) {
+            if (const auto* const found = std::get_if<Shape>(&shape)) {
+                return *found;
+            }
+        }
+        return std::nullopt;
+    }
     std::string position;
     std::string toolText;
     std::string workStatus;

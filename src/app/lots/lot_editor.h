@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 
+#include "app/lots/lot_vertex_tool.h"
 #include "app/map_display.h"
 #include "app/map_tools.h"
 #include "app/open_map.h"
@@ -17,16 +18,16 @@
 
 namespace campora {
 
-/// Draws a lot on the map: a click appends a vertex, vertices are dragged, new ones pulled out of
-/// the middle of a side. While it is open the lot lies over whatever the map shows.
-class LotEditor final : private VertexOwner {
+/// A lot that is being drawn, with the mouse or in the panel beside the map. While it is open the
+/// lot lies over whatever the map shows.
+class LotEditor final {
 public:
     /// All of it outlives this.
     LotEditor(OpenMap& map, MapDisplay& display, MapTools& tools, SettingsStore& settings,
               Shell& shell);
     LotEditor(const LotEditor&) = delete;
     LotEditor& operator=(const LotEditor&) = delete;
-    ~LotEditor() override = default;
+    ~LotEditor() = default;
 
     /// Called when what the editor shows has changed; may be empty.
     std::function<void()> onChanged;
@@ -80,22 +81,9 @@ public:
 private:
     /// The file that holds the lot; empty for a new one.
     [[nodiscard]] const std::string& path() const { return draft_.origin().path; }
-    bool pickVertex(CanvasPoint at) override;
-    void moveVertex(CanvasPoint to) override;
-    void dropVertex(bool keep) override;
-    void viewChanged() override;
-
-    void click(CanvasPoint at);
     void start(const File* file);
     /// Everything that follows the vertices.
     void changed();
-    void showMark();
-    [[nodiscard]] LonLat positionAt(CanvasPoint at) const;
-    [[nodiscard]] std::optional<std::size_t> vertexAt(CanvasPoint at) const;
-    /// The vertex before the side whose handle is there.
-    [[nodiscard]] std::optional<std::size_t> handleAt(CanvasPoint at) const;
-    /// The middles of the sides that are long enough to have a handle; none for the others.
-    [[nodiscard]] std::vector<std::optional<CanvasPoint>> handles() const;
     [[nodiscard]] bool refuseFewVertices() const;
     /// The answer to the question for the lot's number; none when it is not good or not given.
     [[nodiscard]] std::optional<int> askNumber() const;
@@ -108,15 +96,11 @@ private:
     Shell& shell_;
     bool isOpen_ = false;
     LotDraft draft_;
+    LotVertexTool vertexTool_;
     /// What the map was drawn without; only to be compared.
     const File* hidden_ = nullptr;
     bool transparent_ = true;
     bool crosses_ = false;
-    bool marked_ = false;
-    CanvasPoint pressed_;
-    /// From the pointer to the vertex that it picked.
-    CanvasPoint grip_;
-    std::optional<LonLat> picked_;
     TemporaryFolder documents_;
 };
 

@@ -33,14 +33,14 @@ CanvasSize sizeOfLines(const MapCanvas& canvas, std::string_view text) {
 
 }  // namespace
 
-MapOverlay::Info infoBox(const MapCanvas& canvas, CanvasPoint at, std::string text) {
+TextPlate textPlate(const MapCanvas& canvas, CanvasPoint at, std::string text) {
     const auto [canvasWidth, canvasHeight] = canvas.size();
     CanvasSize size = sizeOfLines(canvas, text);
     size.width += 2 * kPadding;
     size.height += 2 * kPadding;
     const CanvasPoint corner{std::max(0, std::min(at.x, canvasWidth - size.width)),
                              std::max(0, std::min(at.y, canvasHeight - size.height))};
-    return {{corner, size}, std::move(text)};
+    return {corner, size, std::move(text)};
 }
 
 }  // namespace campora

@@ -36,11 +36,19 @@ ExportCommands::ExportCommands(OpenMap& map, MapDisplay& display, MapTools& tool
     : map_(map), display_(display), tools_(tools), services_(services) {}
 
 MapExport ExportCommands::mapExport() const {
-    const auto picture = [this] {
-        const OverlaidMap overlaid(display_.canvas(), display_.view());
-        return display_.canvas().picture();
-    };
-    return {map_, {services_.clock.today(), picture, savePicture}};
+    return {map_, {services_.clock.today(), [this] { return picture(); }, savePicture}};
+}
+
+Picture ExportCommands::picture() const {
+    const OverlaidMap overlaid(display_.canvas(), display_.view());
+    return display_.canvas().picture();
+}
+
+void ExportCommands::copyImage() {
+    if (!map_.files().empty()) {
+        tools_.cancelDrag();  // it moves the picture of the map
+        services_.clipboard.setPicture(picture());
+    }
 }
 
 std::string ExportCommands::folderFor(SettingId setting) const {

@@ -39,6 +39,8 @@ public:
     void mnuFileExportRpt();
     /// Asks where to and writes the points of all tracks in the GLG point format.
     void mnuFileExportGlg();
+    /// The map with its scale bar to the clipboard; the canvas stays as it was.
+    void copyImage();
     /// Whether there is a track on the map.
     [[nodiscard]] bool canExportGlg() const;
 
@@ -54,6 +56,8 @@ private:
     /// The path with the ending of its format; empty when the user cancels.
     [[nodiscard]] std::string endedPath(const std::string& chosen, std::string_view ending) const;
     [[nodiscard]] MapExport mapExport() const;
+    /// The map as it is drawn, with its scale bar and arrows.
+    [[nodiscard]] Picture picture() const;
     /// What a writer answers; no other export begins meanwhile.
     [[nodiscard]] bool written(const std::function<bool()>& write);
     [[nodiscard]] std::string folderFor(SettingId setting) const;

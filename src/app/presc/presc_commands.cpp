@@ -53,8 +53,8 @@ void PrescCommands::mnuFilePrescript() {
         if (!mayLose(*open, map_.desk())) {
             return;
         }
-        if (tools_.tool() == MapTools::Tool::PrescDosis) {
-            tools_.setTool(MapTools::Tool::None);
+        if (tools_.tool() == ToolId::PrescDosis) {
+            tools_.setTool(ToolId::Pan);
         }
         map_.removeFile(open);
         display_.showChange();
@@ -170,7 +170,7 @@ void PrescCommands::mnuFileSaveVrt() {
 void PrescCommands::changeDose(LonLat position) {
     GphPrescVex* const open = prescription();
     if (open == nullptr) {
-        tools_.setTool(MapTools::Tool::None);  // it was removed from the list
+        tools_.setTool(ToolId::Pan);  // it was removed from the list
         return;
     }
     if (!askDose) {

@@ -24,15 +24,15 @@ InfoBox::InfoBox(QWidget* parent) : QLabel(parent) {
     hide();
 }
 
-void InfoBox::showInfo(const std::optional<MapOverlay::Info>& info, int unitsPerPixel) {
-    setVisible(info.has_value());
-    if (!info) {
+void InfoBox::showInfo(const TextPlate* plate, int unitsPerPixel) {
+    setVisible(plate != nullptr);
+    if (plate == nullptr) {
         return;
     }
-    setText(shownText(info->text).remove('\r').trimmed());
-    const auto& [corner, size] = info->box;
+    setText(shownText(plate->text).remove('\r').trimmed());
     const auto pixels = [unitsPerPixel](int units) { return units / unitsPerPixel; };
-    setGeometry(pixels(corner.x), pixels(corner.y), pixels(size.width), pixels(size.height));
+    setGeometry(pixels(plate->topLeft.x), pixels(plate->topLeft.y), pixels(plate->size.width),
+                pixels(plate->size.height));
     raise();
 }
 

@@ -3,11 +3,9 @@
 
 #pragma once
 
-#include <optional>
-
 #include <QLabel>
 
-#include "platform/main_window_controls.h"
+#include "platform/map_overlay.h"
 
 namespace campora {
 
@@ -16,8 +14,8 @@ class InfoBox final : public QLabel {
 public:
     explicit InfoBox(QWidget* parent);
 
-    /// Shows what is given at its place, or hides the box. `unitsPerPixel`: canvas units.
-    void showInfo(const std::optional<MapOverlay::Info>& info, int unitsPerPixel);
+    /// Shows the plate at its place; null: hides the box. `unitsPerPixel`: canvas units.
+    void showInfo(const TextPlate* plate, int unitsPerPixel);
 };
 
 }  // namespace campora

@@ -11,9 +11,11 @@
 #include <QWheelEvent>
 
 #include "app/overlay_layout.h"
+#include "desktop/platform/qt_color.h"
 #include "desktop/platform/qt_text.h"
 #include "desktop/widgets/edge_arrow.h"
 #include "desktop/widgets/info_box.h"
+#include "desktop/widgets/overlay_painter.h"
 
 namespace campora {
 
@@ -26,14 +28,6 @@ constexpr double kArrowScroll = 0.25;
 
 /// Milliseconds between two pictures of a running replay.
 constexpr int kFrame = 16;
-/// Half the side of the mark of a vertex, in pixels.
-constexpr double kMark = 4;
-
-/// Halves of the marks of a lot's vertices and of the middles of its sides, in pixels.
-constexpr double kVertex = 3;
-constexpr double kHandle = 3.5;
-constexpr QColor kLotEdge(0x3C, 0x4A, 0x50);
-
 /// In pixels.
 constexpr QRect kScaleBarPlate{2, 2, 84, 42};
 
@@ -54,10 +48,6 @@ constexpr std::array<Direction, 4> kDirections{{
 CanvasPoint canvasPoint(QPointF position) {
     return {static_cast<std::int32_t>(std::lround(position.x() * kUnits)),
             static_cast<std::int32_t>(std::lround(position.y() * kUnits))};
-}
-
-QPointF pixels(CanvasPoint point) {
-    return QPointF(point.x, point.y) / kUnits;
 }
 
 Qt::CursorShape cursorShape(PointerShape shape) {
@@ -116,9 +106,11 @@ void MapWidget::setOverlay(const ViewControls& controls, Color ink) {
 }
 
 void MapWidget::setToolOverlay(const MapOverlay& overlay) {
-    if (overlay_.info != overlay.info) {
-        info_->showInfo(overlay.info, kUnits);
+    const TextPlate* plate = nullptr;
+    for (const MapShape& shape : overlay) {
+        plate = std::holds_alternative<TextPlate>(shape) ? &std::get<TextPlate>(shape) : plate;
     }
+    info_->showInfo(plate, kUnits);
     overlay_ = overlay;
     update();
 }
@@ -171,7 +163,9 @@ void MapWidget::paintEvent(QPaintEvent* /*event*/) {
     } else if (!controls_.scaleLabel.empty()) {
         paintScaleBar(painter);
     }
-    paintToolOverlay(painter);
+    for (const MapShape& shape : overlay_) {
+        paintShape(painter, shape, toQt(ink_));
+    }
     if (hasFocus()) {
         painter.setPen(palette().color(QPalette::Highlight));
         painter.drawRect(rect().adjusted(0, 0, -1, -1));
@@ -188,72 +182,17 @@ void MapWidget::paintScaleBar(QPainter& painter) const {
     painter.fillRect(kScaleBarPlate, QColor(back.red(), back.green(), back.blue(), 200));
     const QColor ink(ink_.red(), ink_.green(), ink_.blue());
     painter.setPen(QPen(ink, 1));
-    painter.drawLine(pixels(overlay::kTickLeftTop), pixels(overlay::kTickLeftBottom));
-    painter.drawLine(pixels(overlay::kTickRightTop), pixels(overlay::kTickRightBottom));
+    painter.drawLine(widgetPixels(overlay::kTickLeftTop), widgetPixels(overlay::kTickLeftBottom));
+    painter.drawLine(widgetPixels(overlay::kTickRightTop), widgetPixels(overlay::kTickRightBottom));
     painter.setPen(QPen(ink, 2));
-    painter.drawLine(pixels(overlay::kBarLeft), pixels(overlay::kBarRight));
+    painter.drawLine(widgetPixels(overlay::kBarLeft), widgetPixels(overlay::kBarRight));
     QFont bold = font();
     bold.setPixelSize(12);
     bold.setBold(true);
     painter.setFont(bold);
-    const QPointF top = pixels(overlay::kLabelTop);
+    const QPointF top = widgetPixels(overlay::kLabelTop);
     painter.drawText(QRectF(top.x() - 100, top.y(), 200, 20), Qt::AlignHCenter | Qt::AlignTop,
                      toQt(controls_.scaleLabel));
-}
-
-void MapWidget::paintLot(QPainter& painter, const MapOverlay::Lot& lot) const {
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    const QColor color(lot.color.red(), lot.color.green(), lot.color.blue());
-    QPolygonF ring;
-    for (const CanvasPoint& vertex : lot.vertices) {
-        ring << pixels(vertex);
-    }
-    // Dark below the colour: either shows on every background.
-    painter.setPen(QPen(kLotEdge, 4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.setBrush(lot.filled ? QBrush(color) : QBrush(Qt::NoBrush));
-    painter.drawPolygon(ring, Qt::WindingFill);
-    painter.setPen(QPen(color, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawPolygon(ring);
-    painter.setPen(QPen(kLotEdge, 1));
-    painter.setBrush(QColor(255, 255, 255, 170));
-    for (const CanvasPoint& handle : lot.handles) {
-        painter.drawEllipse(pixels(handle), kHandle, kHandle);
-    }
-    painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.setBrush(Qt::white);
-    for (const QPointF& middle : ring) {
-        painter.drawRect(
-            QRectF(middle.x() - kVertex, middle.y() - kVertex, 2 * kVertex, 2 * kVertex));
-    }
-    painter.restore();
-}
-
-void MapWidget::paintToolOverlay(QPainter& painter) const {
-    const QColor ink(ink_.red(), ink_.green(), ink_.blue());
-    painter.setBrush(Qt::NoBrush);
-    if (overlay_.lot) {
-        paintLot(painter, *overlay_.lot);
-    }
-    if (overlay_.selector) {
-        const auto& [corner, size] = *overlay_.selector;
-        painter.setPen(QPen(ink, 1, Qt::DashLine));
-        const QPointF extent = pixels({size.width, size.height});
-        painter.drawRect(QRectF(pixels(corner), QSizeF(extent.x(), extent.y())));
-    }
-    if (overlay_.ruler) {
-        painter.setPen(QPen(ink, 1));
-        painter.drawLine(pixels(overlay_.ruler->from), pixels(overlay_.ruler->to));
-    }
-    if (overlay_.vertex) {
-        const QPointF middle = pixels(*overlay_.vertex);
-        painter.setPen(QPen(Qt::white, 3));
-        painter.drawRect(QRectF(middle.x() - kMark, middle.y() - kMark, 2 * kMark, 2 * kMark));
-        painter.setPen(QPen(Qt::red, 1));
-        painter.drawRect(QRectF(middle.x() - kMark, middle.y() - kMark, 2 * kMark, 2 * kMark));
-        painter.drawPoint(middle);
-    }
 }
 
 void MapWidget::paintHint(QPainter& painter) const {

@@ -73,8 +73,6 @@ private:
     /// more often.
     void repaintSoon();
     void paintScaleBar(QPainter& painter) const;
-    void paintToolOverlay(QPainter& painter) const;
-    void paintLot(QPainter& painter, const MapOverlay::Lot& lot) const;
     void paintHint(QPainter& painter) const;
 
     RasterCanvas canvas_;

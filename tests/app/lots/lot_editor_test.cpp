@@ -37,7 +37,8 @@ struct LotEditorTest : testing::Test, SessionDesk {
     }
     /// Vertices as they lie on the canvas.
     [[nodiscard]] std::vector<CanvasPoint> drawn() const {
-        return window.overlay.lot ? window.overlay.lot->vertices : std::vector<CanvasPoint>();
+        const auto ring = window.laid<HandledRing>();
+        return ring ? ring->vertices : std::vector<CanvasPoint>();
     }
     void drawTriangle() {
         for (const CanvasPoint at : {CanvasPoint{100, 450}, {900, 450}, {500, 50}}) {
@@ -53,7 +54,7 @@ TEST_F(LotEditorTest, AClickAppendsAVertexAndADragMovesTheMap) {
     EXPECT_EQ(canvas.pointer(), PointerShape::Crosshair);
     drawTriangle();
     EXPECT_EQ(drawn(), (std::vector<CanvasPoint>{{100, 450}, {900, 450}, {500, 50}}));
-    EXPECT_EQ(window.overlay.vertex, (CanvasPoint{500, 50}));
+    EXPECT_EQ(window.laid<MarkFrame>(), (MarkFrame{{500, 50}}));
     session.display().view().zoomIn();
     const auto before = drawn();
     drag({500, 200}, {450, 200});
@@ -61,7 +62,7 @@ TEST_F(LotEditorTest, AClickAppendsAVertexAndADragMovesTheMap) {
     EXPECT_EQ(drawn().front().x, before.front().x - 50);
     drag({500, 200}, {500, 300});  // straight down: no click either
     EXPECT_EQ(editor.draft().vertices().size(), 3U);
-    session.tools().setTool(MapTools::Tool::Ruler);
+    session.tools().setTool(ToolId::Ruler);
     click({400, 400});
     EXPECT_EQ(editor.draft().vertices().size(), 3U);
 }
@@ -70,17 +71,17 @@ TEST_F(LotEditorTest, AVertexIsDraggedWithAnyButtonButTheRightOne) {
     editor.open();
     drawTriangle();
     const LonLat first = editor.draft().vertices()[0];
-    session.tools().setTool(MapTools::Tool::Info);
+    session.tools().setTool(ToolId::Info);
     drag({105, 445}, {205, 345}, Button::Middle);
     EXPECT_EQ(drawn()[0], (CanvasPoint{200, 350}));
-    EXPECT_EQ(session.tools().tool(), MapTools::Tool::Info);
+    EXPECT_EQ(session.tools().tool(), ToolId::Info);
     editor.undo();
     EXPECT_EQ(editor.draft().vertices()[0], first);
     // The next release ends the move, whatever its button, and does nothing else.
     session.tools().press(Button::Left, {100, 450});
     session.tools().move({300, 300});
     session.tools().release(Button::Right, {300, 300});
-    EXPECT_EQ(session.tools().tool(), MapTools::Tool::Info);
+    EXPECT_EQ(session.tools().tool(), ToolId::Info);
     EXPECT_EQ(drawn()[0], (CanvasPoint{300, 300}));
     session.tools().release(Button::Left, {310, 310});
     EXPECT_EQ(drawn()[0], (CanvasPoint{300, 300}));
@@ -94,7 +95,7 @@ TEST_F(LotEditorTest, AClickOnAVertexSelectsItAndEscapeGivesAMoveUp) {
     const std::vector<LonLat> before = editor.draft().vertices();
     click({104, 446});
     EXPECT_EQ(editor.draft().selected(), std::size_t{0});
-    EXPECT_EQ(window.overlay.vertex, (CanvasPoint{100, 450}));
+    EXPECT_EQ(window.laid<MarkFrame>(), (MarkFrame{{100, 450}}));
     session.tools().press(Button::Left, {100, 450});
     session.tools().move({300, 300});
     session.tools().escape();
@@ -106,15 +107,15 @@ TEST_F(LotEditorTest, ANewVertexIsPulledOutOfTheMiddleOfASide) {
     editor.open();
     click({100, 450});
     click({900, 450});
-    EXPECT_EQ(window.overlay.lot->handles, std::vector<CanvasPoint>({{500, 450}}));
+    EXPECT_EQ(window.laid<HandledRing>()->handles, std::vector<CanvasPoint>({{500, 450}}));
     drag({500, 450}, {520, 100});
     EXPECT_EQ(drawn(), (std::vector<CanvasPoint>{{100, 450}, {520, 100}, {900, 450}}));
     editor.undo();
     EXPECT_EQ(drawn().size(), 2U);
     click({500, 455});
     EXPECT_EQ(drawn()[1], (CanvasPoint{500, 450}));
-    EXPECT_TRUE(window.overlay.lot->handles.empty() ||
-                window.overlay.lot->handles.front().x == 500);
+    EXPECT_TRUE(window.laid<HandledRing>()->handles.empty() ||
+                window.laid<HandledRing>()->handles.front().x == 500);
 }
 
 TEST_F(LotEditorTest, TellsFiguresAndWhetherTheOutlineCrossesItself) {
@@ -138,12 +139,12 @@ TEST_F(LotEditorTest, TellsFiguresAndWhetherTheOutlineCrossesItself) {
 TEST_F(LotEditorTest, TheInsideIsOpenUntilItIsToBeFilled) {
     editor.open();
     drawTriangle();
-    EXPECT_FALSE(window.overlay.lot->filled);
+    EXPECT_FALSE(window.laid<HandledRing>()->filled);
     editor.setTransparent(false);
-    EXPECT_TRUE(window.overlay.lot->filled);
+    EXPECT_TRUE(window.laid<HandledRing>()->filled);
     dialogs.colorAnswers.push_back(Color{0x123456});
     session.modes().mnuEditColorLotes();
-    EXPECT_EQ(window.overlay.lot->color, Color{0x123456});
+    EXPECT_EQ(window.laid<HandledRing>()->color, Color{0x123456});
 }
 
 TEST_F(LotEditorTest, SavesWithItsNumberAndShowsTheLot) {
@@ -242,8 +243,8 @@ TEST_F(LotEditorTest, OffersTheSelectedLot) {
     EXPECT_EQ(editor.draft().origin().path, folder.file("campo.lot"));
     EXPECT_FALSE(editor.draft().canUndo());
     EXPECT_TRUE(editor.close());
-    EXPECT_EQ(window.overlay.lot, std::nullopt);
-    EXPECT_EQ(window.overlay.vertex, std::nullopt);
+    EXPECT_EQ(window.laid<HandledRing>(), std::nullopt);
+    EXPECT_EQ(window.laid<MarkFrame>(), std::nullopt);
     dialogs.yesNoAnswers = {false};
     editor.open();
     EXPECT_TRUE(editor.draft().vertices().empty());
@@ -266,7 +267,7 @@ TEST_F(LotEditorTest, AsksBeforeWhatIsNotSavedIsLost) {
     EXPECT_EQ(dialogs.questions.size(), 3U);
     click({500, 50});
     EXPECT_FALSE(editor.isOpen());
-    EXPECT_EQ(window.overlay.lot, std::nullopt);
+    EXPECT_EQ(window.laid<HandledRing>(), std::nullopt);
 }
 
 TEST_F(LotEditorTest, ADrawingThatWasClearedIsAskedAboutAndComesBackWithItsFile) {
@@ -323,7 +324,7 @@ TEST_F(LotEditorTest, KeepsTheLotWhenTheMapChanges) {
     drawTriangle();
     const LonLat vertex = editor.draft().vertices()[0];
     session.map().removeFile(&session.map().files().file(0));
-    EXPECT_EQ(window.overlay.lot, std::nullopt);
+    EXPECT_EQ(window.laid<HandledRing>(), std::nullopt);
     EXPECT_EQ(editor.draft().vertices().size(), 3U);
     open({writeLot(folder, "otro.lot", squareRing(-61, -35, 2))});
     ASSERT_EQ(drawn().size(), 3U);
@@ -335,9 +336,9 @@ TEST_F(LotEditorTest, APositionThatIsLookedForIsMarkedBesideTheLot) {
     drawTriangle();
     session.display().view().zoomIn();
     EXPECT_TRUE(session.tools().goTo({-59.75, -33.75}));
-    EXPECT_EQ(window.overlay.vertex, onCanvas({-59.75, -33.75}));
+    EXPECT_EQ(window.laid<MarkFrame>(), MarkFrame{onCanvas({-59.75, -33.75})});
     editor.select(0);
-    session.tools().setTool(MapTools::Tool::None);
+    session.tools().setTool(ToolId::Pan);
     EXPECT_EQ(drawn().size(), 3U);
 }
 

@@ -170,6 +170,11 @@ TEST_F(ExportCommandsTest, APictureIsWhatTheMapShows) {
     exportTo("a.png", "bmp");
     exportTo("a", "png");
     EXPECT_EQ(saved, (Names{"a.bmp BMP", "a.png PNG"}));
+    canvas.forget();
+    commands.copyImage();
+    EXPECT_EQ(clipboard.picture.width, 1);
+    EXPECT_EQ(canvas.callsOf("text").size(), 1U) << "the scale bar";
+    EXPECT_EQ(canvas.callsOf("paint").back(), "paint snapshot: (0,0)") << "as it was";
 }
 
 TEST_F(ExportCommandsTest, AReportBecomesATextBesideTheMap) {

@@ -39,7 +39,7 @@ struct PrescCommandsTest : testing::Test, SessionDesk {
     }
     /// The dose tool on the middle of zone n.
     void clickOn(int n) {
-        session.tools().setTool(MapTools::Tool::PrescDosis);
+        session.tools().setTool(ToolId::PrescDosis);
         const CanvasPoint at =
             session.display().view().transform().mapToScreen(-59.995 + 0.01 * n, -32.995);
         session.tools().press(MapTools::Button::Left, at);
@@ -73,10 +73,10 @@ TEST_F(PrescCommandsTest, MakesAPrescriptionBesideWhatIsOpenAndClosesIt) {
     session.modes().mnuColorScaleSelCH(1);
     EXPECT_EQ(legend(), (Names{"0", "5", "6"}));
 
-    session.tools().setTool(MapTools::Tool::PrescDosis);
+    session.tools().setTool(ToolId::PrescDosis);
     commands.mnuFilePrescript();
     EXPECT_EQ(listed(), Names{"a.rpt"});
-    EXPECT_EQ(session.tools().tool(), MapTools::Tool::None);
+    EXPECT_EQ(session.tools().tool(), ToolId::Pan);
     EXPECT_EQ(commands.prescriptCaption(), TextId::ActionNewPrescription);
 }
 
@@ -120,7 +120,7 @@ TEST_F(PrescCommandsTest, TheDoseToolChangesAZoneOfTheCurrentChannel) {
     session.map().removeFile(commands.prescription());
     clickOn(0);
     EXPECT_EQ(asked.size(), 2U);
-    EXPECT_EQ(session.tools().tool(), MapTools::Tool::None);
+    EXPECT_EQ(session.tools().tool(), ToolId::Pan);
 }
 
 TEST_F(PrescCommandsTest, TheLegendChangesADoseAndTheSummaryFollows) {

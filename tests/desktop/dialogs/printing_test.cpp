@@ -122,7 +122,7 @@ TEST_F(WindowTest, EscapeOnTheMapLeavesTheTool) {
     action(TextId::ActionMeasure)->trigger();
     EXPECT_FALSE(action(TextId::ActionMoveMap)->isChecked());
     QTest::keyClick(&map(), Qt::Key_Escape);
-    EXPECT_EQ(window->session().tools().tool(), MapTools::Tool::None);
+    EXPECT_EQ(window->session().tools().tool(), ToolId::Pan);
     EXPECT_TRUE(action(TextId::ActionMoveMap)->isChecked());
 }
 
