@@ -35,7 +35,7 @@ struct Map {
     Map() {
         QuietDialogs dialogs;
         const auto path = sharedSample("samples/presc/spreadmap.shp");
-        if (path && presc.loadFromFile(*path, dialogs, Texts())) {
+        if (path && presc.loadFromFile(*path, {dialogs, Texts(), FixedLocale()})) {
             presc.setColumnaDosis(3);
             zones = zonesOf(presc);
             return;

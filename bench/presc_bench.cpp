@@ -17,6 +17,7 @@
 #include "paint/raster_canvas.h"
 #include "platform/quiet_dialogs.h"
 #include "presc/gph_presc.h"
+#include "support/scripted_platform.h"
 #include "support/shared_samples.h"
 #include "support/zone_map.h"
 
@@ -34,7 +35,7 @@ bool load(GphPresc& presc, benchmark::State& state) {
         return false;
     }
     QuietDialogs dialogs;
-    return presc.loadFromFile(*path, dialogs, Texts());
+    return presc.loadFromFile(*path, {dialogs, Texts(), FixedLocale()});
 }
 
 void openSpreadMap(benchmark::State& state) {
@@ -79,7 +80,7 @@ void openZones(benchmark::State& state, bool distinct) {
     QuietDialogs dialogs;
     for (auto _ : state) {
         GphPresc presc;
-        benchmark::DoNotOptimize(presc.loadFromFile(path, dialogs, Texts()));
+        benchmark::DoNotOptimize(presc.loadFromFile(path, {dialogs, Texts(), FixedLocale()}));
     }
     state.SetItemsProcessed(state.iterations() * state.range(0));
 }

@@ -32,7 +32,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     OpenMap map({dialogs, texts, locale}, folder.path());
     const std::string path = folder.file(set.files.front().name);
     int before = dialogs.said();
-    const std::optional<ProjectFiles> project = filesOfProject(path, folder.path(), dialogs, texts);
+    const std::optional<ProjectFiles> project = filesOfProject(path, folder.path(), map.desk());
     if (!project) {
         return 0;
     }

@@ -60,7 +60,7 @@ int main(int argc, char** argv) {
     const QtLocale locale;
     ProgressAlone dialogs(window, texts);
     GphPresc layer;
-    if (!layer.loadFromFile(*map, dialogs, texts)) {
+    if (!layer.loadFromFile(*map, {dialogs, texts, locale})) {
         return 1;
     }
     layer.setColumnaDosis(3);

@@ -34,7 +34,7 @@ std::optional<int> LoadedFileList::indexOf(const File* file) const {
                                  : std::optional(static_cast<int>(found - files_.begin()));
 }
 
-bool LoadedFileList::addFile(std::unique_ptr<File> file, bool atTop, Dialogs& dialogs) {
+bool LoadedFileList::addFile(std::unique_ptr<File> file, bool atTop, const Desk& desk) {
     const std::string id = file->File_id();
     const auto same = std::find_if(files_.begin(), files_.end(), [&id](const auto& listed) {
         return !id.empty() && listed->File_id() == id;
@@ -44,7 +44,7 @@ bool LoadedFileList::addFile(std::unique_ptr<File> file, bool atTop, Dialogs& di
             return false;  // one file under two spellings is no second copy
         }
         if ((*same)->File_priority() >= file->File_priority()) {
-            askAboutOlder(*file, **same, dialogs);
+            askAboutOlder(*file, **same, desk);
             return false;
         }
         File& added = *file;
@@ -52,7 +52,7 @@ bool LoadedFileList::addFile(std::unique_ptr<File> file, bool atTop, Dialogs& di
         if (current_ == file.get()) {
             current_ = &added;
         }
-        askAboutOlder(*file, added, dialogs);
+        askAboutOlder(*file, added, desk);
         return true;
     }
     if (files_.empty()) {
@@ -73,11 +73,10 @@ void LoadedFileList::replaceFile(const File* old, std::unique_ptr<File> file) {
     files_[static_cast<std::size_t>(*index)] = std::move(file);
 }
 
-void LoadedFileList::askAboutOlder(File& lessComplete, File& moreComplete, Dialogs& dialogs) {
+void LoadedFileList::askAboutOlder(File& lessComplete, File& moreComplete, const Desk& desk) {
     const std::string lessPath = lessComplete.File_diskPath();
     const std::string morePath = moreComplete.File_diskPath();
-    if (!dialogs.askYesNo(texts_.format(TextId::OlderCopyOfWork, {lessPath, morePath}),
-                          MessageIcon::Exclamation, texts_(TextId::ProgramName))) {
+    if (!desk.ask(desk.texts.format(TextId::OlderCopyOfWork, {lessPath, morePath}))) {
         return;
     }
     for (const std::string& path : {lessPath, lessComplete.File_resumen().sourcePath}) {
@@ -85,8 +84,7 @@ void LoadedFileList::askAboutOlder(File& lessComplete, File& moreComplete, Dialo
             continue;
         }
         if (const std::optional<Failure> failure = deleteFile(path)) {
-            dialogs.message(texts_.sentence(*failure), MessageIcon::Error,
-                            texts_(TextId::ProgramName));
+            desk.tell(*failure, MessageIcon::Error);
             return;
         }
     }

@@ -8,17 +8,14 @@
 #include <string_view>
 #include <vector>
 
-#include "base/texts.h"
 #include "model/file.h"
-#include "platform/dialogs.h"
+#include "platform/desk.h"
 
 namespace campora {
 
 /// The open files. Index 0 is listed first and drawn last, on top.
 class LoadedFileList {
 public:
-    explicit LoadedFileList(const Texts& texts) : texts_(texts) {}
-
     [[nodiscard]] int loadedCount() const { return static_cast<int>(files_.size()); }
     [[nodiscard]] bool empty() const { return files_.empty(); }
     /// Throws `std::out_of_range` for a bad index.
@@ -34,10 +31,10 @@ public:
     void setCurrentFile(File* file) { current_ = file; }
 
     /// Takes the file over. Of two files of the same work the more complete one stays, in its
-    /// place, and the user is asked through `dialogs` whether to delete the other from disk. False
+    /// place, and the user is asked at `desk` whether to delete the other from disk. False
     /// when the new file was not added (it is gone then). The first file of an empty list becomes
     /// the current one; a file that takes another's place takes its being current too.
-    bool addFile(std::unique_ptr<File> file, bool atTop, Dialogs& dialogs);
+    bool addFile(std::unique_ptr<File> file, bool atTop, const Desk& desk);
     /// Another file in the place of one of the list.
     void replaceFile(const File* old, std::unique_ptr<File> file);
     void removeFile(const File* file);
@@ -63,10 +60,9 @@ public:
     void putBack(Saved saved);
 
 private:
-    void askAboutOlder(File& lessComplete, File& moreComplete, Dialogs& dialogs);
+    void askAboutOlder(File& lessComplete, File& moreComplete, const Desk& desk);
     [[nodiscard]] bool isInUse(std::string_view path, const File& dropped) const;
 
-    const Texts& texts_;
     std::vector<std::unique_ptr<File>> files_;
     File* current_ = nullptr;
 };

@@ -32,8 +32,9 @@ MapPreview::~MapPreview() {
 void MapPreview::show(const std::vector<std::string>& paths) {
     map_.reset();
     QuietDialogs quiet;
+    const Desk desk = map_.desk().with(quiet);
     OpenManner quietly;
-    quietly.boxes = &quiet;
+    quietly.desk = &desk;
     if (!map_.openAll(paths, quietly).empty()) {
         display_.showWhole();
     }

@@ -21,13 +21,10 @@
 namespace campora {
 
 OpenMap::OpenMap(const Desk& desk, std::string programFolder)
-    : desk_(desk),
-      programFolder_(std::move(programFolder)),
-      files_(desk.texts),
-      scales_(files_, style_) {}
+    : desk_(desk), programFolder_(std::move(programFolder)), scales_(files_, style_) {}
 
 void OpenMap::readRegistrations() {
-    registrations_ = loadRegistrations(programFolder_, desk_.dialogs, desk_.texts);
+    registrations_ = loadRegistrations(programFolder_, desk_);
 }
 
 std::vector<Gph*> OpenMap::getGphList() const {
@@ -61,20 +58,19 @@ void OpenMap::recalcErrorAreas() {
 std::vector<std::string> OpenMap::openAll(const std::vector<std::string>& paths,
                                           const OpenManner& manner) {
     std::vector<std::string> taken;
-    Dialogs& boxes = manner.boxes != nullptr ? *manner.boxes : desk_.dialogs;
+    const Desk& desk = manner.desk != nullptr ? *manner.desk : desk_;
     const std::unique_ptr<Progress> window =
         manner.progress != nullptr ? nullptr
                                    : desk_.dialogs.progress(desk_.texts(TextId::OpeningFiles));
     Progress& progress = manner.progress != nullptr ? *manner.progress : *window;
     for (std::size_t i = 0; i < paths.size(); ++i) {
-        if (take(paths[i], manner.inPlace && taken.empty(), boxes)) {
+        if (take(paths[i], manner.inPlace && taken.empty(), desk)) {
             taken.push_back(paths[i]);
         }
         const bool isLast = i + 1 == paths.size();
         if (!isLast && !progress.report(static_cast<int>(100 * (i + 1) / paths.size()))) {
             if (window != nullptr) {
-                tellLeftUndone(TextId::OpeningCancelled, std::span(paths).subspan(i + 1), boxes,
-                               desk_.texts);
+                tellLeftUndone(TextId::OpeningCancelled, std::span(paths).subspan(i + 1), desk);
             }
             break;
         }
@@ -86,18 +82,17 @@ std::vector<std::string> OpenMap::openAll(const std::vector<std::string>& paths,
     return taken;
 }
 
-bool OpenMap::take(std::string_view path, bool inPlace, Dialogs& boxes) {
+bool OpenMap::take(std::string_view path, bool inPlace, const Desk& desk) {
     const std::string found = findIgnoringCase(path);
     if (!inPlace && files_.isLoaded(found)) {
         return false;
     }
-    return takeWork(found, formatToOpen(found), inPlace, boxes);
+    return takeWork(found, formatToOpen(found), inPlace, desk);
 }
 
 bool OpenMap::takeWork(std::string_view path, const FileFormat& format, bool inPlace,
-                       Dialogs& boxes) {
-    const OpenDesk desk{{desk_.with(boxes), registrations_}, style_.colors};
-    std::optional<OpenedFile> work = format.read(path, desk);
+                       const Desk& desk) {
+    std::optional<OpenedFile> work = format.read(path, {{desk, registrations_}, style_.colors});
     if (!work) {
         return false;
     }
@@ -109,7 +104,7 @@ bool OpenMap::takeWork(std::string_view path, const FileFormat& format, bool inP
     if (files_.empty()) {
         history_.hasFlowStops.reset();
     }
-    if (!files_.addFile(std::move(work->file), false, boxes)) {
+    if (!files_.addFile(std::move(work->file), false, desk)) {
         return false;
     }
     if (format.fromLogger) {
@@ -138,8 +133,8 @@ void OpenMap::reload() {
     LoadedFileList::Saved old = files_.takeAll();
     for (std::unique_ptr<File>& file : old.files) {
         const std::string path = file->File_diskPath();
-        if (path.empty() || !take(path, false, desk_.dialogs)) {
-            files_.addFile(std::move(file), false, desk_.dialogs);
+        if (path.empty() || !take(path, false, desk_)) {
+            files_.addFile(std::move(file), false, desk_);
         }
     }
     if (current && *current < files_.loadedCount()) {
@@ -150,7 +145,7 @@ void OpenMap::reload() {
 
 bool OpenMap::addFile(std::unique_ptr<File> file, bool atTop) {
     File* const made = file.get();
-    if (!files_.addFile(std::move(file), atTop, desk_.dialogs)) {
+    if (!files_.addFile(std::move(file), atTop, desk_)) {
         return false;
     }
     files_.setCurrentFile(made);

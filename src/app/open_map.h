@@ -32,8 +32,8 @@ struct OpenManner {
     bool inPlace = false;
     /// Files that these are read from beside themselves; in use until others take their place.
     std::vector<std::string> sources = {};
-    /// Whose boxes say what is wrong with a file; null: the desk's.
-    Dialogs* boxes = nullptr;
+    /// Where to say what is wrong with a file; null: at the map's own desk.
+    const Desk* desk = nullptr;
     /// Told after each file but the last, and may end the work; null: a window of the desk, and a
     /// word on what was left undone.
     Progress* progress = nullptr;
@@ -124,9 +124,9 @@ private:
         WorkScales::Content scales;
     };
 
-    [[nodiscard]] bool take(std::string_view path, bool inPlace, Dialogs& boxes);
+    [[nodiscard]] bool take(std::string_view path, bool inPlace, const Desk& desk);
     [[nodiscard]] bool takeWork(std::string_view path, const FileFormat& format, bool inPlace,
-                                Dialogs& boxes);
+                                const Desk& desk);
     /// What follows from the files.
     void filesChanged();
 

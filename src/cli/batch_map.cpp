@@ -60,11 +60,7 @@ bool UntilInterrupted::report(int /*percent*/) {
 }
 
 BatchMap::BatchMap(const Arguments& arguments, std::ostream& boxes)
-    : arguments_(arguments),
-      dialogs_(arguments, boxes),
-      locale_(arguments),
-      texts_(arguments.language),
-      map_({dialogs_, texts_, locale_}, arguments.programFolder) {
+    : arguments_(arguments), desk_(arguments, boxes), map_(desk_.desk(), arguments.programFolder) {
     map_.readRegistrations();
 }
 
@@ -79,7 +75,7 @@ bool BatchMap::openFiles() {
     const std::vector<std::string> taken = map_.openAll(arguments_.files, manner);
     bool all = taken.size() == arguments_.files.size();
     for (const File* file : map_.files().all()) {
-        dialogs_.note(*file, texts_);
+        desk_.dialogs().note(*file, desk().texts);
         const auto* const zones = dynamic_cast<const GphPresc*>(file);
         all = all && (zones == nullptr || !zones->notes().damage);
     }

@@ -12,8 +12,11 @@
 
 #include "app/open_map.h"
 #include "base/dates.h"
+#include "base/texts.h"
 #include "cli/arguments.h"
+#include "platform/desk.h"
 #include "platform/quiet_dialogs.h"
+#include "platform/user_locale.h"
 
 namespace campora {
 
@@ -58,6 +61,22 @@ private:
     const Arguments& arguments_;
 };
 
+/// What the batch program tells and asks, in the language and the signs of its command line.
+class BatchDesk {
+public:
+    /// `arguments` and `boxes` must outlive it.
+    BatchDesk(const Arguments& arguments, std::ostream& boxes)
+        : dialogs_(arguments, boxes), locale_(arguments), texts_(arguments.language) {}
+
+    [[nodiscard]] BatchDialogs& dialogs() { return dialogs_; }
+    [[nodiscard]] Desk desk() { return {dialogs_, texts_, locale_}; }
+
+private:
+    BatchDialogs dialogs_;
+    BatchLocale locale_;
+    Texts texts_;
+};
+
 /// Goes on until the program is interrupted.
 class UntilInterrupted final : public Progress {
 public:
@@ -78,9 +97,7 @@ public:
 
 private:
     const Arguments& arguments_;
-    BatchDialogs dialogs_;
-    BatchLocale locale_;
-    Texts texts_;
+    BatchDesk desk_;
     OpenMap map_;
 };
 

@@ -54,13 +54,12 @@ int runLot(const Arguments& arguments, const Console& console) {
 }
 
 int runMerge(const Arguments& arguments, const Console& console) {
-    BatchDialogs dialogs(arguments, console.boxes);
-    const BatchLocale locale(arguments);
-    const Texts texts(arguments.language);
+    BatchDesk batch(arguments, console.boxes);
+    const Desk desk = batch.desk();
     int status = exit_status::kDone;
     std::vector<Lot> lots;
     for (const std::string& path : arguments.files) {
-        if (const auto file = loadLot(path, {dialogs, texts, locale})) {
+        if (const auto file = loadLot(path, desk)) {
             std::vector<Lot> read = lotsOf(*file);
             std::move(read.begin(), read.end(), std::back_inserter(lots));
         } else {
@@ -71,7 +70,7 @@ int runMerge(const Arguments& arguments, const Console& console) {
     if (lots.empty()) {
         return exit_status::kRefused;  // each has been told already
     }
-    for (const std::string& remark : mergeRemarks(merged, texts)) {
+    for (const std::string& remark : mergeRemarks(merged, desk.texts)) {
         console.boxes << oneLine(remark) << '\n';
     }
     if (merged.lots.empty() ||
@@ -86,7 +85,7 @@ int runMerge(const Arguments& arguments, const Console& console) {
         console.out << plainLine(path) << '\n';
     }
     if (const std::string older = olderLots(arguments.output, *saved); !older.empty()) {
-        console.boxes << oneLine(texts.format(TextId::OlderLotsStay, {older})) << '\n';
+        desk.tell({TextId::OlderLotsStay, {older}});
     }
     return status;
 }

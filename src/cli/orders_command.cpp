@@ -60,38 +60,35 @@ void printOrders(const Orders& orders, const Texts& texts, std::ostream& out) {
 }
 
 /// False when the order is not there or not all of it was copied.
-bool copyAsked(const Orders& orders, const Arguments& arguments, Dialogs& dialogs,
-               const Texts& texts) {
+bool copyAsked(const Orders& orders, const Arguments& arguments, const Desk& desk) {
     const OrderCopy& asked = *arguments.copy;
     const auto order = std::find_if(orders.begin(), orders.end(), [&](const WorkOrder& known) {
         return known.number == asked.number;
     });
     if (order == orders.end()) {
-        dialogs.message(
-            texts.format(TextId::CliNoOrder, {numberText(asked.number), arguments.files.front()}),
-            MessageIcon::Error, "");
+        desk.tell({TextId::CliNoOrder, {numberText(asked.number), arguments.files.front()}});
         return false;
     }
-    return copyOrder(*order, asked.destination, {}, dialogs, texts);
+    return copyOrder(*order, asked.destination, {}, desk);
 }
 
 }  // namespace
 
 int runOrders(const Arguments& arguments, const Console& console) {
-    const Texts texts(arguments.language);
-    BatchDialogs dialogs(arguments, console.boxes);
+    BatchDesk batch(arguments, console.boxes);
+    const Desk desk = batch.desk();
     const std::string& folder = arguments.files.front();
     const std::optional<Failure> failure = folderFailure(folder);
     if (failure) {
-        dialogs.message(texts.sentence(*failure), MessageIcon::Error, "");
+        desk.tell(*failure);
     }
     const Orders orders = scanFolder(folder, {});
     if (arguments.json) {
         printJson(ordersJson(orders), console.out);
     } else {
-        printOrders(orders, texts, console.out);
+        printOrders(orders, desk.texts, console.out);
     }
-    const bool copied = failure || !arguments.copy || copyAsked(orders, arguments, dialogs, texts);
+    const bool copied = failure || !arguments.copy || copyAsked(orders, arguments, desk);
     return !failure && copied ? exit_status::kDone : exit_status::kRefused;
 }
 

@@ -13,21 +13,20 @@ namespace campora {
 namespace {
 
 /// Why there is no project behind a path.
-std::string refusal(const std::string& path, const Texts& texts) {
+Failure whyNoProject(const std::string& path) {
     const Result<FileBytes> file = readFile(path);
-    return file ? texts.format(TextId::CliNoProject, {path}) : texts.sentence(file.failure());
+    return file ? Failure{TextId::CliNoProject, {path}} : file.failure();
 }
 
 }  // namespace
 
 int runProject(const Arguments& arguments, const Console& console) {
-    const Texts texts(arguments.language);
-    BatchDialogs dialogs(arguments, console.boxes);
+    BatchDesk batch(arguments, console.boxes);
+    const Desk desk = batch.desk();
     const std::string& path = arguments.files.front();
-    std::optional<ProjectFiles> files =
-        filesOfProject(path, arguments.programFolder, dialogs, texts);
+    std::optional<ProjectFiles> files = filesOfProject(path, arguments.programFolder, desk);
     if (!files) {
-        dialogs.message(refusal(path, texts), MessageIcon::Error, "");
+        desk.tell(whyNoProject(path));
         files = ProjectFiles{{}, false};
     }
     Arguments listed = arguments;

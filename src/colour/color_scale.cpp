@@ -117,12 +117,10 @@ void ColorScale::setClassColor(int index, Color color) {
     raiseChanged();
 }
 
-void ColorScale::setClassValue(int index, double value, Dialogs& dialogs, const Texts& texts) {
+std::optional<Failure> ColorScale::setClassValue(int index, double value) {
     Clase& edited = classes_.at(static_cast<std::size_t>(index));
     if (edited.lower != edited.upper) {
-        dialogs.message(texts(TextId::IntervalCannotChange), MessageIcon::Exclamation,
-                        texts(TextId::ProgramName));
-        return;
+        return Failure{TextId::IntervalCannotChange, {}};
     }
     const double oldValue = edited.lower;
     edited.lower = value;
@@ -130,6 +128,7 @@ void ColorScale::setClassValue(int index, double value, Dialogs& dialogs, const 
     boundsChanged();
     const auto alive = listeners_;
     Listeners::raise(alive->valueChanged, index, oldValue, value);
+    return std::nullopt;
 }
 
 void ColorScale::degrade(Color c1, std::optional<Color> c2, Color c3, bool notify) {

@@ -10,9 +10,9 @@
 #include <vector>
 
 #include "base/color.h"
-#include "base/texts.h"
+#include "base/failure.h"
+#include "base/text_id.h"
 #include "colour/set_list.h"
-#include "platform/dialogs.h"
 
 namespace campora {
 
@@ -101,8 +101,8 @@ public:
     [[nodiscard]] const std::vector<Clase>& classes() const { return classes_; }
 
     void setClassColor(int index, Color color);
-    /// Gives a single-value class another value. An interval is refused with a message.
-    void setClassValue(int index, double value, Dialogs& dialogs, const Texts& texts);
+    /// Gives a single-value class another value; why not, of an interval.
+    [[nodiscard]] std::optional<Failure> setClassValue(int index, double value);
 
     // `notify`: whether listeners are told. Those without it tell them unless they say otherwise.
     /// Gradation: colours all classes in a ramp from `c1` over `c2` to `c3`, and keeps these for

@@ -138,10 +138,10 @@ void MainWindow::connectMenus() {
     };
     SummaryCommands& summary = session_->summaryCommands();
     summary.editRows = [this](SummaryRows rows, const SummaryCommands::Keep& keep) {
-        editProperties(std::move(rows), keep, services_.dialogs, session_->texts(), this);
+        editProperties(std::move(rows), keep, session_->map().desk(), this);
     };
     summary.editFile = [this](const std::string& path) {
-        editSummaryFile(path, services_.dialogs, session_->texts(), this);
+        editSummaryFile(path, session_->map().desk(), this);
     };
     session_->exportCommands().savePicture = savePicture;
     session_->exportCommands().showTrackExport = [this](const std::vector<std::string>& paths) {

@@ -36,31 +36,28 @@ GphPresc::GphPresc(Color plain) : plain_(plain) {
         });
 }
 
-bool GphPresc::loadFromFile(std::string_view path, Dialogs& dialogs, const Texts& texts) {
+bool GphPresc::loadFromFile(std::string_view path, const Desk& desk) {
     if (!isThere(path)) {
         return false;
     }
-    const std::string_view caption = texts(TextId::ProgramName);
-    const auto tellError = [&](const Failure& failure) {
-        dialogs.message(texts.sentence(because(TextId::ShapeCannotOpen, {}, failure)),
-                        MessageIcon::Plain, caption);
+    const auto tellWhy = [&desk](const Failure& failure) {
+        desk.tell(because(TextId::ShapeCannotOpen, {}, failure), MessageIcon::Plain);
     };
     if (const std::optional<Failure> failure = table_.open(path)) {
-        tellError(*failure);
+        tellWhy(*failure);
         return false;
     }
     if (const std::optional<Failure>& warning = table_.notes().tableWarning) {
-        dialogs.message(texts.sentence(*warning), MessageIcon::Exclamation, caption);
+        desk.tell(*warning);
     }
     name_ = fileNamePart(path);
     path_ = path;
     readRecords();
     if (const std::optional<Failure>& damage = table_.notes().damage) {
-        tellError(*damage);
+        tellWhy(*damage);
     }
     if (!bound_.isSet) {
-        dialogs.message(texts.format(TextId::ShapeWithoutPolygons, {path_}),
-                        MessageIcon::Exclamation, caption);
+        desk.tell({TextId::ShapeWithoutPolygons, {path_}});
     }
     return true;
 }

@@ -10,13 +10,12 @@
 #include <string_view>
 #include <vector>
 
-#include "base/texts.h"
 #include "colour/color_scale.h"
 #include "colour/set_list.h"
 #include "model/file.h"
 #include "model/number_column.h"
 #include "model/still_layer.h"
-#include "platform/dialogs.h"
+#include "platform/desk.h"
 #include "presc/gph_polygon_multi.h"
 #include "presc/zone_table.h"
 #include "rtree/r2_tree.h"
@@ -42,7 +41,7 @@ public:
     /// why it cannot be read or only in part, that its table was left out, that it has no polygons.
     /// False when it cannot be read, or is not there, which is told by nobody; the layer is as
     /// before then.
-    bool loadFromFile(std::string_view path, Dialogs& dialogs, const Texts& texts);
+    bool loadFromFile(std::string_view path, const Desk& desk);
 
     [[nodiscard]] const std::string& name() const { return name_; }
     /// What is wrong or missing with the file, and its coordinates.

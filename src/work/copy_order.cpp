@@ -22,9 +22,8 @@ namespace fs = std::filesystem;
 class Copier {
 public:
     /// All of it outlives the copier.
-    Copier(std::string_view destination, const FilesInUse& inUse, Dialogs& dialogs,
-           const Texts& texts)
-        : folder_(nativePath(destination)), inUse_(inUse), dialogs_(dialogs), texts_(texts) {}
+    Copier(std::string_view destination, const FilesInUse& inUse, const Desk& desk)
+        : folder_(nativePath(destination)), inUse_(inUse), desk_(desk) {}
 
     /// False when the file was not copied.
     [[nodiscard]] bool copy(const std::string& source) const {
@@ -52,11 +51,11 @@ public:
 private:
     /// Of what reading or writing says, the reason alone: the file is named already.
     [[nodiscard]] bool fail(const std::string& source, const Failure& failure) const {
-        const std::string reason = !failure.cause.empty() ? texts_.sentence(failure.cause.front())
+        const Texts& texts = desk_.texts;
+        const std::string reason = !failure.cause.empty() ? texts.sentence(failure.cause.front())
                                    : !failure.arguments.empty() ? failure.arguments.back()
-                                                                : texts_.sentence(failure);
-        dialogs_.message(texts_.format(TextId::CopyFailed, {source, reason}),
-                         MessageIcon::Exclamation, texts_(TextId::ProgramName));
+                                                                : texts.sentence(failure);
+        desk_.tell({TextId::CopyFailed, {source, reason}});
         return false;
     }
     [[nodiscard]] bool mayReplace(const std::string& target, const FileBytes& content) const {
@@ -65,8 +64,7 @@ private:
         }
         const Result<FileBytes> old = readFile(target);
         return (old && old->text() == content.text()) ||
-               dialogs_.askYesNo(texts_.format(TextId::AskOverwrite, {target}),
-                                 MessageIcon::Exclamation, texts_(TextId::ProgramName));
+               desk_.ask(desk_.texts.format(TextId::AskOverwrite, {target}));
     }
     static void keepTime(const fs::path& source, const fs::path& target) {
         std::error_code error;
@@ -78,8 +76,7 @@ private:
 
     fs::path folder_;
     const FilesInUse& inUse_;
-    Dialogs& dialogs_;
-    const Texts& texts_;
+    const Desk& desk_;
 };
 
 /// The track files, each after its summary where it has one.
@@ -98,26 +95,25 @@ std::vector<std::string> filesToCopy(const WorkOrder& order) {
 }  // namespace
 
 bool copyOrder(const WorkOrder& order, std::string_view destination, FilesInUse inUse,
-               Dialogs& dialogs, const Texts& texts) {
+               const Desk& desk) {
     const std::vector<std::string> files = filesToCopy(order);
     for (const std::string& file : files) {
         inUse.add(file);
     }
-    const Copier copier(destination, inUse, dialogs, texts);
+    const Copier copier(destination, inUse, desk);
     std::size_t copied = 0;
     {
-        const std::unique_ptr<Progress> progress = dialogs.progress(texts(TextId::CopyingOrder));
+        const std::unique_ptr<Progress> progress =
+            desk.dialogs.progress(desk.texts(TextId::CopyingOrder));
         for (std::size_t i = 0; i < files.size(); ++i) {
             if (!progress->report(static_cast<int>(100 * i / files.size()))) {
-                tellLeftUndone(TextId::CopyingCancelled, std::span(files).subspan(i), dialogs,
-                               texts);
+                tellLeftUndone(TextId::CopyingCancelled, std::span(files).subspan(i), desk);
                 break;
             }
             copied += copier.copy(files[i]) ? 1 : 0;
         }
     }
-    dialogs.message(texts.format(TextId::FilesCopied, {" " + numberText(copied)}),
-                    MessageIcon::Information, texts(TextId::ProgramName));
+    desk.tell({TextId::FilesCopied, {" " + numberText(copied)}}, MessageIcon::Information);
     return copied == files.size();
 }
 

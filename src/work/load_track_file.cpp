@@ -86,27 +86,28 @@ void addRemarks(const TrackLog& log, const BoundsCheck& bounds, const UserLocale
     }
 }
 
-}  // namespace
-
-float readTrackHeader(std::string_view firstLine, std::string_view path, Dialogs& dialogs,
-                      const Texts& texts) {
+/// The version that the first line of a track file names, 0 for a file that the program does not
+/// read. Says so in that case, and warns of versions newer than the program.
+float readTrackHeader(std::string_view firstLine, std::string_view path, const Desk& desk) {
     const TrackVersion version = trackVersion(firstLine);
     if (version.number == 0) {
-        dialogs.message(texts.format(TextId::FileNotCompatibleNamed, {std::string(path)}),
-                        MessageIcon::Error, texts(TextId::WrongFileFormat));
+        desk.titled(TextId::WrongFileFormat)
+            .tell({TextId::FileNotCompatibleNamed, {std::string(path)}}, MessageIcon::Error);
     } else if (version.number > kNewestTrackVersion) {
-        std::string warning(texts(TextId::NewerVersion));
+        std::string warning(desk.texts(TextId::NewerVersion));
         warning.append(decodeText(version.text.substr(0, kMostVersionLetters)));
-        warning.append("\r\n").append(texts(TextId::SupportedVersion));
+        warning.append("\r\n").append(desk.texts(TextId::SupportedVersion));
         warning += numberText(kNewestTrackVersion);
-        dialogs.message(warning, MessageIcon::Exclamation, texts(TextId::IncompatibleVersion));
+        desk.titled(TextId::IncompatibleVersion).tell(warning);
     }
     return version.number;
 }
 
+}  // namespace
+
 std::optional<LoadedWork> readTrackFile(std::string_view path, const FileBytes& bytes,
                                         const WorkDesk& desk) {
-    if (readTrackHeader(firstLineOf(bytes.text()), path, desk.dialogs, desk.texts) == 0) {
+    if (readTrackHeader(firstLineOf(bytes.text()), path, desk) == 0) {
         return std::nullopt;
     }
     const TrackLog log = decodeTrackLog(bytes.text());
@@ -137,7 +138,7 @@ std::optional<LoadedWork> loadTrackFile(std::string_view path, const WorkDesk& d
     if (const std::optional<std::string> head = readFileHead(path, kHeadBytes)) {
         const std::string_view line = firstLineOf(*head);
         if (trackVersion(line).number == 0) {
-            static_cast<void>(readTrackHeader(line, path, desk.dialogs, desk.texts));
+            static_cast<void>(readTrackHeader(line, path, desk));
             return std::nullopt;
         }
     }

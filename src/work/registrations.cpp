@@ -8,6 +8,7 @@
 
 #include "base/encoding.h"
 #include "base/files.h"
+#include "base/numbers.h"
 #include "base/paths.h"
 #include "base/text.h"
 #include "base/text_lines.h"
@@ -56,23 +57,18 @@ RegistrationTable decodeRegistrations(std::string_view bytes) {
     return table;
 }
 
-Registrations loadRegistrations(std::string_view programFolder, Dialogs& dialogs,
-                                const Texts& texts) {
+Registrations loadRegistrations(std::string_view programFolder, const Desk& desk) {
     const std::string path = pathText(nativePath(programFolder) / kRegistrationsFile);
     const auto file = readFile(findIgnoringCase(path));
     if (!file) {
         return {};
     }
     RegistrationTable table = decodeRegistrations(file->text());
-    const auto report = [&](TextId text, std::size_t number) {
-        dialogs.message(texts.format(text, {std::to_string(number)}), MessageIcon::Exclamation,
-                        texts(TextId::ProgramName));
-    };
     for (const std::size_t number : table.badLines) {
-        report(TextId::RegistrationsBadLine, number);
+        desk.tell({TextId::RegistrationsBadLine, {numberText(number)}});
     }
     if (table.moreBadLines > 0) {
-        report(TextId::RegistrationsMoreBadLines, table.moreBadLines);
+        desk.tell({TextId::RegistrationsMoreBadLines, {numberText(table.moreBadLines)}});
     }
     return std::move(table.registrations);
 }

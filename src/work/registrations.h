@@ -9,8 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "base/texts.h"
-#include "platform/dialogs.h"
+#include "platform/desk.h"
 
 namespace campora {
 
@@ -47,7 +46,6 @@ struct RegistrationTable {
 
 /// Reads the table in `programFolder`. Without the file there are no registrations; each bad
 /// line is reported with its number and skipped.
-[[nodiscard]] Registrations loadRegistrations(std::string_view programFolder, Dialogs& dialogs,
-                                              const Texts& texts);
+[[nodiscard]] Registrations loadRegistrations(std::string_view programFolder, const Desk& desk);
 
 }  // namespace campora

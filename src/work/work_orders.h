@@ -12,7 +12,7 @@
 
 #include "base/files_in_use.h"
 #include "base/texts.h"
-#include "platform/dialogs.h"
+#include "platform/desk.h"
 
 namespace campora {
 
@@ -59,6 +59,6 @@ using Tick = std::function<bool()>;
 /// and leaves nothing half-written; none replaces a file in use or another file of the order. The
 /// number of copies is told at the end. False when not every file was copied.
 bool copyOrder(const WorkOrder& order, std::string_view destination, FilesInUse inUse,
-               Dialogs& dialogs, const Texts& texts);
+               const Desk& desk);
 
 }  // namespace campora

@@ -54,9 +54,4 @@ struct LoadedWork {
 [[nodiscard]] std::optional<LoadedWork>
 readRptTextTable(std::string_view path, const FileBytes& bytes, const WorkDesk& desk);
 
-/// The version that the first line of a track file names, 0 for a file that the program does not
-/// read. Says so in that case, and warns of versions newer than the program.
-[[nodiscard]] float readTrackHeader(std::string_view firstLine, std::string_view path,
-                                    Dialogs& dialogs, const Texts& texts);
-
 }  // namespace campora

@@ -46,7 +46,9 @@ struct ListOnDisk {
     TempFolder folder;
     ScriptedDialogs dialogs;
     Texts texts;
-    LoadedFileList list{texts};
+    FixedLocale locale;
+    Desk desk{dialogs, texts, locale};
+    LoadedFileList list;
 
     [[nodiscard]] std::string written(std::string_view name) const {
         return folder.write(name, "work");
@@ -67,11 +69,10 @@ TEST(LoadedFileList, OfTwoCopiesOfAWorkTheMoreCompleteStays) {
         const std::string fresh = disk.written("new.nbr");
         const std::string freshSummary = disk.written("new.txt");
         disk.dialogs.yesNoAnswers = {true};
-        disk.list.addFile(makeFile(old, "job", listed, oldSummary), false, disk.dialogs);
-        disk.list.addFile(makeFile("other"), false, disk.dialogs);
-        EXPECT_EQ(
-            disk.list.addFile(makeFile(fresh, "job", added, freshSummary), false, disk.dialogs),
-            taken);
+        disk.list.addFile(makeFile(old, "job", listed, oldSummary), false, disk.desk);
+        disk.list.addFile(makeFile("other"), false, disk.desk);
+        EXPECT_EQ(disk.list.addFile(makeFile(fresh, "job", added, freshSummary), false, disk.desk),
+                  taken);
         EXPECT_THAT(namesOf(disk.list), ElementsAre(taken ? fresh : old, "other"));
         EXPECT_EQ(disk.list.currentFile(), &disk.list.file(0));
         for (const std::string& path : {old, oldSummary}) {
@@ -91,11 +92,11 @@ TEST_F(LoadedFileListTest, NeverDeletesWhatAnOpenFileNeeds) {
     const std::string copyA = written("log1.nbr");
     const std::string copyB = written("wrk1.nbr");
     dialogs.yesNoAnswers = {true, true};
-    list.addFile(makeFile(written("long.nbr"), "job", 9), false, dialogs);
-    list.addFile(makeFile(written("a.nbr"), "other job", 9, shared), false, dialogs);
-    list.addFile(makeFile(table), false, dialogs);
-    EXPECT_FALSE(list.addFile(makeFile(copyA, "job", 5, shared), false, dialogs));
-    EXPECT_FALSE(list.addFile(makeFile(copyB, "job", 5, table), false, dialogs));
+    list.addFile(makeFile(written("long.nbr"), "job", 9), false, desk);
+    list.addFile(makeFile(written("a.nbr"), "other job", 9, shared), false, desk);
+    list.addFile(makeFile(table), false, desk);
+    EXPECT_FALSE(list.addFile(makeFile(copyA, "job", 5, shared), false, desk));
+    EXPECT_FALSE(list.addFile(makeFile(copyB, "job", 5, table), false, desk));
     EXPECT_FALSE(ListOnDisk::isThere(copyA) || ListOnDisk::isThere(copyB));
     EXPECT_TRUE(ListOnDisk::isThere(shared)) << "summary of another open work";
     EXPECT_TRUE(ListOnDisk::isThere(table)) << "an open file itself";
@@ -103,8 +104,8 @@ TEST_F(LoadedFileListTest, NeverDeletesWhatAnOpenFileNeeds) {
 
 TEST_F(LoadedFileListTest, OneFileUnderTwoSpellingsIsNotAskedAbout) {
     const std::string path = written("log1.nbr");
-    list.addFile(makeFile(path, "job", 9), false, dialogs);
-    EXPECT_FALSE(list.addFile(makeFile(folder.file("./log1.nbr"), "job", 9), false, dialogs));
+    list.addFile(makeFile(path, "job", 9), false, desk);
+    EXPECT_FALSE(list.addFile(makeFile(folder.file("./log1.nbr"), "job", 9), false, desk));
     EXPECT_TRUE(ListOnDisk::isThere(path));
 }
 
@@ -112,9 +113,8 @@ TEST_F(LoadedFileListTest, SaysWhyAFileCouldNotBeDeletedAndLeavesItsSummary) {
     std::filesystem::create_directory(folder.file("folder.nbr"));
     const std::string summary = written("folder.txt");
     dialogs.yesNoAnswers = {true};
-    list.addFile(makeFile(written("long.nbr"), "job", 9), false, dialogs);
-    EXPECT_FALSE(
-        list.addFile(makeFile(folder.file("folder.nbr"), "job", 5, summary), false, dialogs));
+    list.addFile(makeFile(written("long.nbr"), "job", 9), false, desk);
+    EXPECT_FALSE(list.addFile(makeFile(folder.file("folder.nbr"), "job", 5, summary), false, desk));
     ASSERT_EQ(dialogs.messages.size(), 1U);
     EXPECT_THAT(dialogs.messages.at(0), ::testing::HasSubstr("folder.nbr"));
     EXPECT_TRUE(ListOnDisk::isThere(summary));

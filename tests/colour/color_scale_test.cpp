@@ -131,7 +131,6 @@ int scannedIndex(const ColorScale& scale, double value) {
 TEST(ColorScale, LookupAgreesWithAScanWhateverTheOrder) {
     std::mt19937 random(7);
     std::uniform_real_distribution<double> any(-50, 150);
-    ScriptedDialogs dialogs;
     for (int round = 0; round < 200; ++round) {
         ColorScale scale;
         SetList set;
@@ -140,7 +139,7 @@ TEST(ColorScale, LookupAgreesWithAScanWhateverTheOrder) {
         }
         scale.loadFromSetList(set, 0);
         if (round % 2 == 1) {
-            scale.setClassValue(round % scale.count(), any(random), dialogs, Texts());
+            static_cast<void>(scale.setClassValue(round % scale.count(), any(random)));
         }
         if (round % 5 == 1) {
             scale.addClassManual(any(random), any(random));
@@ -155,25 +154,22 @@ TEST(ColorScale, LookupAgreesWithAScanWhateverTheOrder) {
 TEST(ColorScale, SingleValueTakesAnotherAndAnIntervalIsRefused) {
     ColorScale scale;
     scale.loadFromSetList(setOf({10, 20, 30}), 0);
-    ScriptedDialogs dialogs;
     std::vector<std::string> heard;
     const auto changed = scale.onChanged([&heard] { heard.emplace_back("changed"); });
     const auto value = scale.onClassValueChanged([&](int index, double from, double to) {
         EXPECT_EQ(scale.getClass(index).upper, to);
         heard.push_back(std::to_string(index) + ": " + numberText(from) + " " + numberText(to));
     });
-    scale.setClassValue(1, 12.5, dialogs, Texts());
+    EXPECT_FALSE(scale.setClassValue(1, 12.5));
     EXPECT_EQ(heard, std::vector<std::string>{"1: 20 12.5"});
     EXPECT_EQ(scale.getClass(0).upper, 10);
     EXPECT_EQ(scale.getClass(1).lower, 12.5);
     EXPECT_EQ(scale.getClass(2).upper, 30);
-    EXPECT_TRUE(dialogs.messages.empty());
 
     scale.setClassNumber(3);
     const std::vector<Clase> before = scale.classes();
-    scale.setClassValue(1, 3, dialogs, Texts(Language::English));
-    EXPECT_EQ(dialogs.messages,
-              std::vector<std::string>{"Exclamation|Campora|An interval cannot be changed"});
+    const std::optional<Failure> refused = scale.setClassValue(1, 3);
+    EXPECT_TRUE(refused && refused->text == TextId::IntervalCannotChange);
     EXPECT_EQ(scale.classes(), before);
 }
 

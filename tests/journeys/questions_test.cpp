@@ -134,7 +134,7 @@ TEST_F(Questions, CopiesOfOrdersAskBeforeTheyReplace) {
         inNextDialog<QMessageBox>([](QMessageBox& told) { told.accept(); });
     });
     EXPECT_FALSE(copyOrder(scanFolder(folder.file("tarjeta"), {}).at(0), folder.file("copia"), {},
-                           session().services().dialogs, session().texts()));
+                           session().map().desk()));
     EXPECT_EQ(asked, 1);
 }
 

@@ -21,7 +21,7 @@ using Values = std::vector<double>;
 
 struct PrescTest : testing::Test {
     std::string write(const ZoneMap& map) const { return map.write(folder, "lote"); }
-    bool load(const ZoneMap& map) { return presc.loadFromFile(write(map), dialogs, texts); }
+    bool load(const ZoneMap& map) { return presc.loadFromFile(write(map), desk); }
     /// Upper bounds of the classes.
     [[nodiscard]] Values scale() const {
         Values values;
@@ -51,6 +51,7 @@ struct PrescTest : testing::Test {
     ScriptedDialogs dialogs;
     Texts texts;
     FixedLocale locale{','};
+    Desk desk{dialogs, texts, locale};
     MapStyle style;
     GphPresc presc;
 };
@@ -97,7 +98,7 @@ TEST_F(PrescTest, AChosenColumnGivesDosesClassesAndColours) {
 TEST_F(PrescTest, DosesChangeByClassAndByZone) {
     ASSERT_TRUE(load(rowOfZones({"100", "50", "100"})));
     presc.setColumnaDosis(1);
-    presc.escalaColor().setClassValue(2, 120, dialogs, texts);
+    EXPECT_FALSE(presc.escalaColor().setClassValue(2, 120));
     EXPECT_EQ(doses(), (Values{120, 50, 120}));
     EXPECT_EQ(scale(), (Values{0, 50, 120}));
     EXPECT_EQ(presc.dosisCollection(1), (Values{0, 50, 120}));
@@ -167,7 +168,7 @@ TEST_F(PrescTest, ABlankOfTheColumnIsGroundOutsideEveryZone) {
     EXPECT_EQ(presc.polygonIndexAt({0.5, 0.5}), 0);
     EXPECT_EQ(presc.polygonIndexAt({1.5, 1.5}), -1);
     EXPECT_EQ(presc.Gph_mouseOver({}, style, {1.5, 1.5}, 0), 1) << "its values can be read";
-    presc.escalaColor().setClassValue(0, 7, dialogs, texts);
+    EXPECT_FALSE(presc.escalaColor().setClassValue(0, 7));
     EXPECT_EQ(doses(), (Values{10, 0, 1200.5F})) << "the dose 0 of nobody";
     RecordingCanvas canvas({1000, 1000});
     const ViewTransform view(500, 500, {0, 0}, {1000, 1000});
@@ -190,7 +191,7 @@ TEST_F(PrescTest, PointsAndLinesAreShownAndHoldNoGround) {
         table.addRow({"8,5 kg"});
         folder.write("m.dbf", table.bytes());
         GphPresc map(Color{0x112233});
-        ASSERT_TRUE(map.loadFromFile(folder.write("m.shp", shapes.bytes()), dialogs, texts));
+        ASSERT_TRUE(map.loadFromFile(folder.write("m.shp", shapes.bytes()), desk));
         EXPECT_TRUE(dialogs.messages.empty());
         EXPECT_EQ(map.figures(), figures);
         EXPECT_TRUE(map.searchOrder().empty());
@@ -208,18 +209,18 @@ TEST_F(PrescTest, PointsAndLinesAreShownAndHoldNoGround) {
 }
 
 TEST_F(PrescTest, SaysWhatIsWrongWithAFile) {
-    EXPECT_FALSE(presc.loadFromFile(folder.file("falta.shp"), dialogs, texts));
+    EXPECT_FALSE(presc.loadFromFile(folder.file("falta.shp"), desk));
     EXPECT_TRUE(dialogs.messages.empty());
 
     const std::string bad = folder.write("malo.shp", "no es un mapa");
-    EXPECT_FALSE(presc.loadFromFile(bad, dialogs, texts));
+    EXPECT_FALSE(presc.loadFromFile(bad, desk));
     ASSERT_EQ(dialogs.messages.size(), 1U);
     EXPECT_NE(dialogs.messages[0].find(bad), std::string::npos);
     EXPECT_EQ(presc.Gph_count(), 0);
 
     const std::string empty = write({{"DOSIS"}, {{{}, {"1"}}}});
     folder.write("lote.dbf", "no es una tabla");
-    EXPECT_TRUE(presc.loadFromFile(empty, dialogs, texts));
+    EXPECT_TRUE(presc.loadFromFile(empty, desk));
     ASSERT_EQ(dialogs.messages.size(), 3U);
     EXPECT_NE(dialogs.messages[1].find("lote.dbf"), std::string::npos) << dialogs.messages[1];
     EXPECT_EQ(dialogs.messages[2],
@@ -231,7 +232,7 @@ TEST_F(PrescTest, HoldsADamagedFileAsFarAsItIsSound) {
     const Result<FileBytes> whole = readFile(path);
     ASSERT_TRUE(whole);
     folder.write("lote.shp", std::string(whole->text().substr(0, whole->text().size() - 1)));
-    EXPECT_TRUE(presc.loadFromFile(path, dialogs, texts));
+    EXPECT_TRUE(presc.loadFromFile(path, desk));
     EXPECT_TRUE(presc.notes().damage.has_value());
     EXPECT_EQ(presc.Gph_count(), 2);
     EXPECT_EQ(presc.dosisCollection(1), (Values{0, 1, 2}));

@@ -14,8 +14,8 @@ namespace {
 struct PrescVexTest : testing::Test {
     GphPresc& add(const std::string& name, const std::vector<std::string>& doses, LonLat corner) {
         auto presc = std::make_unique<GphPresc>();
-        EXPECT_TRUE(
-            presc->loadFromFile(rowOfZones(doses, corner).write(folder, name), dialogs, Texts()));
+        EXPECT_TRUE(presc->loadFromFile(rowOfZones(doses, corner).write(folder, name),
+                                        {dialogs, Texts(), FixedLocale()}));
         presc->setColumnaDosis(1);
         GphPresc& added = *presc;
         vex.addChannel(std::move(presc));

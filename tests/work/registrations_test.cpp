@@ -15,7 +15,7 @@ namespace {
 using ::testing::IsEmpty;
 
 Registrations loadFrom(const TempFolder& folder, ScriptedDialogs& dialogs) {
-    return loadRegistrations(folder.path(), dialogs, Texts());
+    return loadRegistrations(folder.path(), {dialogs, Texts(), FixedLocale()});
 }
 
 TEST(Registrations, FindsSerialsWithoutRegardToCaseAndBlanks) {

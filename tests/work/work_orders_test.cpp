@@ -87,7 +87,8 @@ protected:
         std::filesystem::create_directory(nativePath(destination));
     }
     bool copyTo(const std::string& target) {
-        return copyOrder(scanFolder(folder.file("card"), {}).at(0), target, {}, dialogs, Texts());
+        return copyOrder(scanFolder(folder.file("card"), {}).at(0), target, {},
+                         {dialogs, Texts(), FixedLocale()});
     }
     [[nodiscard]] std::string content(const std::string& name) const {
         return contentOf(folder.file(name));

@@ -174,7 +174,9 @@ void LegendCommands::askClassValue(int index) {
     if (!value) {
         return;
     }
-    scale().setClassValue(index, *value, map_.desk().dialogs, map_.desk().texts);
+    if (const std::optional<Failure> refused = scale().setClassValue(index, *value)) {
+        map_.desk().tell(*refused);
+    }
     display_.showLegend();
     display_.redraw();
 }

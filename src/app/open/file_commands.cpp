@@ -67,10 +67,11 @@ void FileCommands::preview(const std::vector<std::string>& selected) {
         preview_.emplace(map_, display_, tools_);
     }
     QuietDialogs quiet;
+    const Desk desk = map_.desk().with(quiet);
     std::vector<std::string> files;
     for (const std::string& path : selected) {
         if (!isFolder(path)) {  // to open one means to go into it
-            const std::vector<std::string> behind = filesOf(path, quiet).files;
+            const std::vector<std::string> behind = filesOf(path, desk).files;
             files.insert(files.end(), behind.begin(), behind.end());
         }
     }
@@ -84,9 +85,8 @@ void FileCommands::showShapeKind(const std::vector<std::string>& selected) {
     display_.window().setToolText(kind ? map_.desk().texts(*kind) : "");
 }
 
-FileCommands::Behind FileCommands::filesOf(const std::string& path, Dialogs& dialogs) const {
-    const Desk desk = map_.desk().with(dialogs);
-    if (auto project = filesOfProject(path, map_.programFolder(), desk.dialogs, desk.texts)) {
+FileCommands::Behind FileCommands::filesOf(const std::string& path, const Desk& desk) const {
+    if (auto project = filesOfProject(path, map_.programFolder(), desk)) {
         return {std::move(project->paths), true};
     }
     std::vector<std::string> files = filesBehind(path);
@@ -100,7 +100,7 @@ bool FileCommands::openPaths(const std::vector<std::string>& paths, bool resetFi
     std::vector<std::string> files;
     std::vector<std::string> projects;
     for (const std::string& path : paths) {
-        const Behind behind = filesOf(path, map_.desk().dialogs);
+        const Behind behind = filesOf(path, map_.desk());
         files.insert(files.end(), behind.files.begin(), behind.files.end());
         if (behind.isProject) {
             projects.push_back(path);

@@ -52,7 +52,7 @@ private:
         std::vector<std::string> files;
         bool isProject = false;
     };
-    [[nodiscard]] Behind filesOf(const std::string& path, Dialogs& dialogs) const;
+    [[nodiscard]] Behind filesOf(const std::string& path, const Desk& desk) const;
 
     OpenMap& map_;
     MapDisplay& display_;

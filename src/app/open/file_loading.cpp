@@ -73,7 +73,7 @@ std::optional<OpenedFile> openZones(std::string_view path, const OpenDesk& desk)
         return std::nullopt;
     }
     auto zones = std::make_unique<GphPresc>(desk.colors.shape);
-    if (!zones->loadFromFile(path, desk.dialogs, desk.texts)) {
+    if (!zones->loadFromFile(path, desk)) {
         return std::nullopt;
     }
     return OpenedFile{std::move(zones), std::nullopt, std::nullopt};

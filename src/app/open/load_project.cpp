@@ -55,34 +55,29 @@ std::optional<std::vector<std::string>> entriesOf(std::string_view path,
 /// Says which listed files are missing, without burying the user in boxes.
 class MissingFiles {
 public:
-    MissingFiles(Dialogs& dialogs, const Texts& texts) : dialogs_(dialogs), texts_(texts) {}
+    explicit MissingFiles(const Desk& desk) : desk_(desk) {}
 
     void add(std::string_view path) {
-        addWith(std::string(texts_(TextId::ListedFileMissing)).append(path));
+        addWith(std::string(desk_.texts(TextId::ListedFileMissing)).append(path));
     }
     void addSilent(std::string_view path) {
-        addWith(texts_.sentence(because(TextId::FileCannotBeRead, {std::string(path)},
-                                        {TextId::FileDoesNotAnswer, {}})));
+        addWith(desk_.texts.sentence(because(TextId::FileCannotBeRead, {std::string(path)},
+                                             {TextId::FileDoesNotAnswer, {}})));
     }
     void tellTheRest() const {
         if (count_ > kMostFilesNamed) {
-            say(texts_.format(TextId::MoreListedFilesMissing,
-                              {numberText(count_ - kMostFilesNamed)}));
+            desk_.tell({TextId::MoreListedFilesMissing, {numberText(count_ - kMostFilesNamed)}});
         }
-    }
-    void say(std::string_view text) const {
-        dialogs_.message(text, MessageIcon::Exclamation, texts_(TextId::ProgramName));
     }
 
 private:
     void addWith(std::string_view text) {
         if (++count_ <= kMostFilesNamed) {
-            say(text);
+            desk_.tell(text);
         }
     }
 
-    Dialogs& dialogs_;
-    const Texts& texts_;
+    const Desk& desk_;
     int count_ = 0;
 };
 
@@ -90,8 +85,7 @@ private:
 /// off keeps the program waiting.
 class OtherComputers {
 public:
-    OtherComputers(std::string_view project, Dialogs& dialogs, const Texts& texts)
-        : project_(project), dialogs_(dialogs), texts_(texts) {}
+    OtherComputers(std::string_view project, const Desk& desk) : project_(project), desk_(desk) {}
 
     [[nodiscard]] bool mayTouch(std::string_view path) {
         const std::string computer = computerOf(path);
@@ -100,19 +94,19 @@ public:
         }
         auto known = answers_.find(computer);
         if (known == answers_.end()) {
-            const bool yes = dialogs_.askYesNo(
-                texts_.format(TextId::AskOtherComputer, {std::string(project_), computer}),
-                MessageIcon::Question, texts_(TextId::ProgramName));
+            const bool yes = desk_.ask(
+                desk_.texts.format(TextId::AskOtherComputer, {std::string(project_), computer}),
+                MessageIcon::Question);
             known = answers_.emplace(computer, Answered{yes}).first;
         }
         known->second.skipped += known->second.yes ? 0 : 1;
         return known->second.yes;
     }
-    void tellSkipped(const MissingFiles& missing) const {
+    void tellSkipped() const {
         for (const auto& [computer, answered] : answers_) {
             if (answered.skipped > 0) {
-                missing.say(texts_.format(TextId::OtherComputerSkipped,
-                                          {computer, numberText(answered.skipped)}));
+                desk_.tell(
+                    {TextId::OtherComputerSkipped, {computer, numberText(answered.skipped)}});
             }
         }
     }
@@ -124,8 +118,7 @@ private:
     };
 
     std::string_view project_;
-    Dialogs& dialogs_;
-    const Texts& texts_;
+    const Desk& desk_;
     std::map<std::string, Answered> answers_;
 };
 
@@ -146,19 +139,17 @@ private:
 /// Goes through the entries of a project and of those in it.
 class ProjectWalk {
 public:
-    ProjectWalk(std::string_view path, std::string_view programFolder, Dialogs& dialogs,
-                const Texts& texts)
+    ProjectWalk(std::string_view path, std::string_view programFolder, const Desk& desk)
         : programFolder_(programFolder),
           relative_(beforeRelative(programFolder)),
-          dialogs_(dialogs),
-          texts_(texts),
-          missing_(dialogs, texts),
-          computers_(path, dialogs, texts) {}
+          desk_(desk),
+          missing_(desk),
+          computers_(path, desk) {}
 
     [[nodiscard]] ProjectFiles walk(const std::string& project, std::vector<std::string> entries) {
         opened_.open(project);
         push(std::move(entries));
-        const auto progress = dialogs_.progress(texts_(TextId::FindingProjectFiles));
+        const auto progress = desk_.dialogs.progress(desk_.texts(TextId::FindingProjectFiles));
         for (std::size_t done = 0; !waiting_.empty(); ++done) {
             const auto percent = static_cast<int>(100 * done / (done + waiting_.size()));
             if (done % kReportEvery == 0 && !progress->report(percent)) {
@@ -168,11 +159,11 @@ public:
             waiting_.pop_back();
             take(entry);
         }
-        computers_.tellSkipped(missing_);
+        computers_.tellSkipped();
         missing_.tellTheRest();
         if (files_.paths.empty()) {
             files_.complete = false;
-            missing_.say(texts_.format(TextId::ProjectWithoutFiles, {project}));
+            desk_.tell({TextId::ProjectWithoutFiles, {project}});
         }
         return std::move(files_);
     }
@@ -183,7 +174,7 @@ private:
     }
     /// Nothing is opened then.
     [[nodiscard]] ProjectFiles cancelled() const {
-        missing_.say(texts_.format(TextId::ProjectCancelled, {numberText(waiting_.size())}));
+        desk_.tell({TextId::ProjectCancelled, {numberText(waiting_.size())}});
         return {{}, false};
     }
     void take(const std::string& entry) {
@@ -223,8 +214,7 @@ private:
 
     std::string_view programFolder_;
     std::string relative_;
-    Dialogs& dialogs_;
-    const Texts& texts_;
+    const Desk& desk_;
     MissingFiles missing_;
     OtherComputers computers_;
     OpenedProjects opened_;
@@ -237,19 +227,17 @@ private:
 }  // namespace
 
 std::optional<ProjectFiles> filesOfProject(std::string_view path, std::string_view programFolder,
-                                           Dialogs& dialogs, const Texts& texts) {
+                                           const Desk& desk) {
     const std::string project = findIgnoringCase(path);
     std::optional<std::vector<std::string>> entries = entriesOf(project, programFolder);
     if (!entries) {
         return std::nullopt;
     }
-    return ProjectWalk(path, programFolder, dialogs, texts).walk(project, std::move(*entries));
+    return ProjectWalk(path, programFolder, desk).walk(project, std::move(*entries));
 }
 
 bool loadProject(OpenMap& map, std::string_view path) {
-    const Desk& desk = map.desk();
-    const std::optional<ProjectFiles> files =
-        filesOfProject(path, map.programFolder(), desk.dialogs, desk.texts);
+    const std::optional<ProjectFiles> files = filesOfProject(path, map.programFolder(), map.desk());
     if (!files) {
         return false;
     }

@@ -9,8 +9,7 @@
 #include <vector>
 
 #include "app/open_map.h"
-#include "base/texts.h"
-#include "platform/dialogs.h"
+#include "platform/desk.h"
 
 namespace campora {
 
@@ -26,9 +25,8 @@ struct ProjectFiles {
 /// without a message, when the file cannot be read or is no project. A listed file that is not
 /// there is reported, after the first twenty only their number is; one that no reader takes is left
 /// out without a message.
-[[nodiscard]] std::optional<ProjectFiles> filesOfProject(std::string_view path,
-                                                         std::string_view programFolder,
-                                                         Dialogs& dialogs, const Texts& texts);
+[[nodiscard]] std::optional<ProjectFiles>
+filesOfProject(std::string_view path, std::string_view programFolder, const Desk& desk);
 
 /// Opens the files of a project beside those that are open, until the user has enough. False when
 /// `path` is no project.

@@ -108,16 +108,13 @@ void SummaryRows::move(int step) {
     }
 }
 
-SummaryEditor::SummaryEditor(std::string_view path, Dialogs& dialogs, const Texts& texts)
-    : path_(path), dialogs_(dialogs), texts_(texts) {
+SummaryEditor::SummaryEditor(std::string_view path, const Desk& desk) : path_(path), desk_(desk) {
     const Result<FileBytes> file = readFile(path);
     if (!file) {
         const Failure& failure = file.failure();
         const bool missing =
             !failure.cause.empty() && failure.cause.front().text == TextId::FileNotFound;
-        dialogs_.message(missing ? std::string(texts_(TextId::SummaryFileMissing))
-                                 : texts_.sentence(failure),
-                         MessageIcon::Error, texts_(TextId::Error));
+        desk_.tellError(missing ? Failure{TextId::SummaryFileMissing, {}} : failure);
         return;
     }
     const SummaryContent content = splitSummary(file->text());
@@ -133,16 +130,14 @@ bool SummaryEditor::accept() {
     const std::string bytes = encodeSummary(rows_.rows(), frame_);
     if (const std::optional<Failure> failure =
             writeFile(path_, std::as_bytes(std::span(bytes.data(), bytes.size())))) {
-        dialogs_.message(texts_.sentence(*failure), MessageIcon::Error, texts_(TextId::Error));
+        desk_.tellError(*failure);
         return false;
     }
     return true;
 }
 
-void askAndRemove(SummaryRows& rows, Dialogs& dialogs, const Texts& texts) {
-    if (rows.selected() &&
-        dialogs.askYesNoCancel(texts(TextId::AskRemoveEntries), MessageIcon::Exclamation,
-                               texts(TextId::ProgramName)) == Answer::Yes) {
+void askAndRemove(SummaryRows& rows, const Desk& desk) {
+    if (rows.selected() && desk.askOrCancel(desk.texts(TextId::AskRemoveEntries)) == Answer::Yes) {
         rows.remove();
     }
 }

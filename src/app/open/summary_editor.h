@@ -8,9 +8,8 @@
 #include <string_view>
 #include <vector>
 
-#include "base/texts.h"
 #include "model/file_properties.h"
-#include "platform/dialogs.h"
+#include "platform/desk.h"
 #include "work/summary_file.h"
 
 namespace campora {
@@ -58,8 +57,7 @@ private:
 class SummaryEditor {
 public:
     /// Reads the file; says so when it is not there or cannot be read, and has no rows then.
-    /// `dialogs` and `texts` outlive the editor.
-    SummaryEditor(std::string_view path, Dialogs& dialogs, const Texts& texts);
+    SummaryEditor(std::string_view path, const Desk& desk);
 
     /// False when there is nothing to edit, which has been said.
     [[nodiscard]] bool wasRead() const { return wasRead_; }
@@ -72,14 +70,13 @@ public:
 
 private:
     std::string path_;
-    Dialogs& dialogs_;
-    const Texts& texts_;
+    Desk desk_;
     SummaryRows rows_;
     bool wasRead_ = false;
     SummaryFrame frame_;
 };
 
 /// Asks before the selected row is taken out; nothing happens without one.
-void askAndRemove(SummaryRows& rows, Dialogs& dialogs, const Texts& texts);
+void askAndRemove(SummaryRows& rows, const Desk& desk);
 
 }  // namespace campora

@@ -128,7 +128,7 @@ void WorkOrdersBrowser::copy() {
          fileFilter(texts, TextId::FilterLogs, kTrackEnding)});
     if (!destination.empty()) {
         writeText(settings_, SettingId::SelectFolder, destination);
-        copyOrder(order, destination, map_.filesInUse(), map_.desk().dialogs, texts);
+        copyOrder(order, destination, map_.filesInUse(), map_.desk());
     }
 }
 

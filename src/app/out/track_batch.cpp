@@ -80,7 +80,7 @@ bool TrackBatch::exportList(const std::vector<std::string>& paths) {
             tellLeftUndone(
                 TextId::ExportCancelled,
                 std::span(paths).subspan(static_cast<std::size_t>(&path - paths.data()) + 1),
-                map_.desk().dialogs, texts);
+                map_.desk());
             break;
         }
     }

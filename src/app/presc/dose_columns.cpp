@@ -82,7 +82,7 @@ void DoseColumns::load(Row& row, int index) {
     auto presc = std::make_unique<GphPresc>();
     follow(*presc, index);
     busy_ = true;
-    if (presc->loadFromFile(row.path, desk_.dialogs, desk_.texts)) {
+    if (presc->loadFromFile(row.path, desk_)) {
         row.presc = std::move(presc);
     }
     busy_ = false;

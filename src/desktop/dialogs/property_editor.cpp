@@ -8,9 +8,9 @@
 namespace campora {
 
 void editProperties(SummaryRows rows, const std::function<bool(const SummaryRows&)>& keep,
-                    Dialogs& dialogs, const Texts& texts, QWidget* parent) {
+                    const Desk& desk, QWidget* parent) {
     SummaryRowsDialog dialog(
-        rows, [&] { return keep(rows); }, dialogs, texts, parent);
+        rows, [&] { return keep(rows); }, desk, parent);
     dialog.setObjectName("frmProperties");
     dialog.exec();
 }

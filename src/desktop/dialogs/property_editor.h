@@ -6,8 +6,7 @@
 #include <functional>
 
 #include "app/open/summary_editor.h"
-#include "base/texts.h"
-#include "platform/dialogs.h"
+#include "platform/desk.h"
 
 class QWidget;
 
@@ -16,6 +15,6 @@ namespace campora {
 /// Opens an editor of the rows of a summary that has no file, modally. What the user accepts is
 /// handed to `keep`; the editor stays open when it answers false.
 void editProperties(SummaryRows rows, const std::function<bool(const SummaryRows&)>& keep,
-                    Dialogs& dialogs, const Texts& texts, QWidget* parent);
+                    const Desk& desk, QWidget* parent);
 
 }  // namespace campora

@@ -18,16 +18,14 @@ constexpr QSize kSize{560, 460};
 
 }  // namespace
 
-SummaryRowsDialog::SummaryRowsDialog(SummaryRows& rows, Keep keep, Dialogs& dialogs,
-                                     const Texts& texts, QWidget* parent)
-    : QDialog(parent),
-      view_(new SummaryRowsView(rows, dialogs, texts, this)),
-      keep_(std::move(keep)) {
-    setWindowTitle(toQt(texts(TextId::EditSummary)));
-    auto* const accept = new QPushButton(toQt(texts(TextId::ButtonOk)), this);
+SummaryRowsDialog::SummaryRowsDialog(SummaryRows& rows, Keep keep, const Desk& desk,
+                                     QWidget* parent)
+    : QDialog(parent), view_(new SummaryRowsView(rows, desk, this)), keep_(std::move(keep)) {
+    setWindowTitle(toQt(desk.texts(TextId::EditSummary)));
+    auto* const accept = new QPushButton(toQt(desk.texts(TextId::ButtonOk)), this);
     accept->setObjectName("cmdAcept");
     accept->setAutoDefault(false);  // Enter belongs to the fields
-    auto* const cancel = new QPushButton(toQt(texts(TextId::ButtonCancel)), this);
+    auto* const cancel = new QPushButton(toQt(desk.texts(TextId::ButtonCancel)), this);
     cancel->setObjectName("CmdCancel");
     cancel->setAutoDefault(false);
     connect(accept, &QPushButton::clicked, this, [this] { this->accept(); });
@@ -49,17 +47,16 @@ void SummaryRowsDialog::accept() {
     }
 }
 
-SummaryEditorDialog::SummaryEditorDialog(SummaryEditor& editor, Dialogs& dialogs,
-                                         const Texts& texts, QWidget* parent)
+SummaryEditorDialog::SummaryEditorDialog(SummaryEditor& editor, const Desk& desk, QWidget* parent)
     : SummaryRowsDialog(
-          editor.rows(), [&editor] { return editor.accept(); }, dialogs, texts, parent) {
+          editor.rows(), [&editor] { return editor.accept(); }, desk, parent) {
     setObjectName("frmWrkEdit");
 }
 
-void editSummaryFile(std::string_view path, Dialogs& dialogs, const Texts& texts, QWidget* parent) {
-    SummaryEditor editor(path, dialogs, texts);
+void editSummaryFile(std::string_view path, const Desk& desk, QWidget* parent) {
+    SummaryEditor editor(path, desk);
     if (editor.wasRead()) {
-        SummaryEditorDialog(editor, dialogs, texts, parent).exec();
+        SummaryEditorDialog(editor, desk, parent).exec();
     }
 }
 

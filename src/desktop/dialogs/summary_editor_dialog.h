@@ -22,8 +22,7 @@ public:
     using Keep = std::function<bool()>;
 
     /// The arguments outlive the dialog.
-    SummaryRowsDialog(SummaryRows& rows, Keep keep, Dialogs& dialogs, const Texts& texts,
-                      QWidget* parent);
+    SummaryRowsDialog(SummaryRows& rows, Keep keep, const Desk& desk, QWidget* parent);
 
     void accept() override;
 
@@ -36,11 +35,10 @@ private:
 class SummaryEditorDialog final : public SummaryRowsDialog {
 public:
     /// `editor` and the other arguments outlive the dialog.
-    SummaryEditorDialog(SummaryEditor& editor, Dialogs& dialogs, const Texts& texts,
-                        QWidget* parent);
+    SummaryEditorDialog(SummaryEditor& editor, const Desk& desk, QWidget* parent);
 };
 
 /// Opens the editor of a summary file modally; one that cannot be read is told and not opened.
-void editSummaryFile(std::string_view path, Dialogs& dialogs, const Texts& texts, QWidget* parent);
+void editSummaryFile(std::string_view path, const Desk& desk, QWidget* parent);
 
 }  // namespace campora

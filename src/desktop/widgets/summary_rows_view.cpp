@@ -27,14 +27,13 @@ constexpr int kNarrowestColumn = 80;
 
 }  // namespace
 
-SummaryRowsView::SummaryRowsView(SummaryRows& rows, Dialogs& dialogs, const Texts& texts,
-                                 QWidget* parent)
-    : QWidget(parent), rows_(rows), dialogs_(dialogs), texts_(texts), list_(new QTreeWidget(this)) {
+SummaryRowsView::SummaryRowsView(SummaryRows& rows, const Desk& desk, QWidget* parent)
+    : QWidget(parent), rows_(rows), desk_(desk), list_(new QTreeWidget(this)) {
     list_->setObjectName("DataList");
-    list_->setAccessibleName(toQt(texts(TextId::SummaryHeading)));
+    list_->setAccessibleName(toQt(desk.texts(TextId::SummaryHeading)));
     QStringList captions;
     for (const TextId caption : kCaptions) {
-        captions += toQt(texts(caption));
+        captions += toQt(desk.texts(caption));
     }
     list_->setHeaderLabels(captions);
     list_->setRootIsDecorated(false);
@@ -59,13 +58,13 @@ SummaryRowsView::SummaryRowsView(SummaryRows& rows, Dialogs& dialogs, const Text
 }
 
 QWidget* SummaryRowsView::makeFields() {
-    auto* const frame = new QGroupBox(toQt(texts_(TextId::ModifyFrame)), this);
+    auto* const frame = new QGroupBox(toQt(desk_.texts(TextId::ModifyFrame)), this);
     auto* const form = new QFormLayout(frame);
     for (std::size_t i = 0; i < fields_.size(); ++i) {
         fields_[i] = new QLineEdit(frame);
         fields_[i]->setObjectName(kFieldNames[i]);
         connect(fields_[i], &QLineEdit::returnPressed, this, &SummaryRowsView::change);
-        form->addRow(toQt(texts_(kCaptions[i])), fields_[i]);
+        form->addRow(toQt(desk_.texts(kCaptions[i])), fields_[i]);
     }
     return frame;
 }
@@ -91,9 +90,9 @@ QWidget* SummaryRowsView::makeButtons() {
 }
 
 QPushButton* SummaryRowsView::makeButton(const char* name, TextId text, TextId tip, Action action) {
-    auto* const button = new QPushButton(toQt(texts_(text)), this);
+    auto* const button = new QPushButton(toQt(desk_.texts(text)), this);
     button->setObjectName(name);
-    button->setToolTip(toQt(texts_(tip)));
+    button->setToolTip(toQt(desk_.texts(tip)));
     button->setAutoDefault(false);
     connect(button, &QPushButton::clicked, this, action);
     return button;
@@ -112,7 +111,7 @@ void SummaryRowsView::acceptFields() {
 }
 
 void SummaryRowsView::quit() {
-    askAndRemove(rows_, dialogs_, texts_);
+    askAndRemove(rows_, desk_);
     showRows();
 }
 

@@ -9,8 +9,7 @@
 #include <QWidget>
 
 #include "app/open/summary_editor.h"
-#include "base/texts.h"
-#include "platform/dialogs.h"
+#include "platform/desk.h"
 
 class QLineEdit;
 class QPushButton;
@@ -22,7 +21,7 @@ namespace campora {
 class SummaryRowsView final : public QWidget {
 public:
     /// The arguments outlive the widget; the rows change only through it from now on.
-    SummaryRowsView(SummaryRows& rows, Dialogs& dialogs, const Texts& texts, QWidget* parent);
+    SummaryRowsView(SummaryRows& rows, const Desk& desk, QWidget* parent);
 
     /// What stands in the fields goes into the rows, as `SummaryRows::acceptFields` says.
     void acceptFields();
@@ -46,8 +45,7 @@ private:
     void showFields();
 
     SummaryRows& rows_;
-    Dialogs& dialogs_;
-    const Texts& texts_;
+    Desk desk_;
     QTreeWidget* list_;
     std::array<QLineEdit*, 3> fields_{};
     /// Those that need a selected row.

@@ -79,6 +79,8 @@ protected:
     TempFolder folder;
     ScriptedDialogs dialogs;
     Texts texts;
+    FixedLocale locale;
+    Desk desk{dialogs, texts, locale};
 };
 
 TEST_F(SummaryEditorTest, AcceptingWithoutAChangeKeepsEveryRow) {
@@ -98,7 +100,7 @@ TEST_F(SummaryEditorTest, AcceptingWithoutAChangeKeepsEveryRow) {
     for (const auto& [before, after] : rows) {
         SCOPED_TRACE(before);
         const std::string path = folder.write("Wrk0001.txt", before);
-        SummaryEditor editor(path, dialogs, texts);
+        SummaryEditor editor(path, desk);
         EXPECT_TRUE(editor.accept());
         EXPECT_EQ(contentOf(path), after);
         EXPECT_EQ(decodeSummary(after).entries(), decodeSummary(before).entries());
@@ -108,7 +110,7 @@ TEST_F(SummaryEditorTest, AcceptingWithoutAChangeKeepsEveryRow) {
 
 TEST_F(SummaryEditorTest, ChangesAreWrittenAsTheConsoleReadsThem) {
     const std::string path = folder.write("Wrk0001.txt", "Lote:,1,\r\nAncho:,18,mts\r\n");
-    SummaryEditor editor(path, dialogs, texts);
+    SummaryEditor editor(path, desk);
     EXPECT_THAT(shown(editor.rows()), ElementsAre("Lote|1|", "Ancho|18|mts"));
     editor.rows().select(0);
     editor.rows().fields = {"Dueño", "\"Ñandú\", 5\"", "π"};
@@ -123,14 +125,14 @@ TEST_F(SummaryEditorTest, ChangesAreWrittenAsTheConsoleReadsThem) {
 }
 
 TEST_F(SummaryEditorTest, ARowGoesOnlyWhenTheUserSaysSo) {
-    SummaryEditor editor(folder.write("Wrk0001.txt", "A:,1,\r\nB:,2,\r\n"), dialogs, texts);
-    askAndRemove(editor.rows(), dialogs, texts);
+    SummaryEditor editor(folder.write("Wrk0001.txt", "A:,1,\r\nB:,2,\r\n"), desk);
+    askAndRemove(editor.rows(), desk);
     EXPECT_THAT(dialogs.questions, IsEmpty()) << "nothing is selected";
     editor.rows().select(0);
     dialogs.answers = {Answer::No, Answer::Yes};
-    askAndRemove(editor.rows(), dialogs, texts);
+    askAndRemove(editor.rows(), desk);
     EXPECT_THAT(shown(editor.rows()), ElementsAre("*A|1|", "B|2|"));
-    askAndRemove(editor.rows(), dialogs, texts);
+    askAndRemove(editor.rows(), desk);
     EXPECT_THAT(shown(editor.rows()), ElementsAre("B|2|"));
     EXPECT_THAT(dialogs.questions,
                 testing::Each("Exclamation|Campora|Seguro que desea eliminar los campos "
@@ -139,7 +141,7 @@ TEST_F(SummaryEditorTest, ARowGoesOnlyWhenTheUserSaysSo) {
 
 TEST_F(SummaryEditorTest, AFileThatCannotBeWrittenKeepsTheEditorOpen) {
     const std::string path = folder.write("card/Wrk0001.txt", "A:,1,\r\n");
-    SummaryEditor editor(path, dialogs, texts);
+    SummaryEditor editor(path, desk);
     std::filesystem::remove_all(nativePath(folder.file("card")));
     EXPECT_FALSE(editor.accept());
     EXPECT_THAT(dialogs.messages, ElementsAre("Error|Error|No se puede guardar el archivo " + path +

@@ -31,7 +31,7 @@ struct PrescCommandsTest : testing::Test, SessionDesk {
             auto presc = std::make_unique<GphPresc>();
             const std::string name = "canal" + std::to_string(chosen.size() + 1);
             const std::string path = rowOfZones(doses).write(folder, name);
-            ASSERT_TRUE(presc->loadFromFile(path, dialogs, session.texts()));
+            ASSERT_TRUE(presc->loadFromFile(path, session.map().desk()));
             presc->setColumnaDosis(1);
             chosen.push_back(std::move(presc));
         }

@@ -48,9 +48,11 @@ protected:
     TempFolder folder;
     ScriptedDialogs dialogs;
     Texts texts;
+    FixedLocale locale;
+    Desk desk{dialogs, texts, locale};
     std::string path = folder.write("card/Wrk0001.txt", "A:,1,m\r\nB:,2,\r\nC:,3,\r\n");
-    SummaryEditor editor{path, dialogs, texts};
-    SummaryEditorDialog dialog{editor, dialogs, texts, nullptr};
+    SummaryEditor editor{path, desk};
+    SummaryEditorDialog dialog{editor, desk, nullptr};
     EditorWidgets widgets{dialog};
 };
 
@@ -93,7 +95,6 @@ TEST_F(SummaryEditorDialogTest, StaysOpenWhenTheFileCannotBeWritten) {
 
 TEST(PropertyEditor, HandsOverWhatStandsInTheFieldsWhenAccepted) {
     ScriptedDialogs dialogs;
-    const Texts texts;
     for (const char* button : {"CmdCancel", "cmdAcept"}) {
         QTimer::singleShot(0, [button] {
             const EditorWidgets widgets{*QApplication::activeModalWidget()};
@@ -109,7 +110,7 @@ TEST(PropertyEditor, HandsOverWhatStandsInTheFieldsWhenAccepted) {
                 kept = rows.rows();
                 return false;  // and the dialog stays
             },
-            dialogs, texts, nullptr);
+            {dialogs, Texts(), FixedLocale()}, nullptr);
         const bool accepted = button == std::string_view("cmdAcept");
         ASSERT_EQ(kept.size(), accepted ? 1U : 0U);
         EXPECT_TRUE(!accepted || kept.front().value == "13");
