@@ -58,22 +58,6 @@ TEST_F(DbfTest, WholeFileByteForByte) {
         ' ' '7    ' 'Ca' F1 'ada    ' '20110305' '12.5           ')")));
 }
 
-TEST_F(DbfTest, CountsStandInTheHeaderWhenTheTableIsClosed) {
-    DbaseWriter table;
-    table.addField("id", DbaseType::Numeric, 5, 0);
-    ASSERT_EQ(table.createDBF(base), std::nullopt);
-    for (std::int64_t row = 0; row < 300; ++row) {
-        table.recordField(1, row);
-        table.writeRecord();
-    }
-    ASSERT_EQ(table.closeDBF(), std::nullopt);
-    const std::string bytes = contentOf(path);
-    EXPECT_EQ(hexDump(bytes.substr(4, 8)), hexDump(hexBytes("2C 01 00 00  41 00  06 00")));
-    ASSERT_EQ(bytes.size(), 65U + 300 * 6);
-    EXPECT_EQ(bytes.substr(65 + 12 * 6, 6), " 12   ");
-    EXPECT_EQ(bytes.substr(bytes.size() - 6), " 299  ") << "nothing ends the file";
-}
-
 TEST_F(DbfTest, ValuesByTheTypeOfTheirField) {
     struct Row {
         const char* name;
@@ -83,24 +67,15 @@ TEST_F(DbfTest, ValuesByTheTypeOfTheirField) {
         const char* gis;
     };
     const Row rows[] = {
-        {"single", DbaseType::Numeric, 12.3F, "12.3    ", "    12.3"},
         {"decimal comma", DbaseType::Numeric, std::string("1,25"), "1.25    ", "    1.25"},
         {"too long", DbaseType::Numeric, std::string("123456789"), "12345678", "12345678"},
-        {"no number", DbaseType::Numeric, {}, "        ", "        "},
         {"text that fills the field", DbaseType::Character, std::string("a,b.c,de"), "a.b.c.de",
          "a,b.c,de"},
-        {"text that is cut", DbaseType::Character, std::string("12345678,"), "12345678",
-         "12345678"},
-        {"letters that take two bytes elsewhere", DbaseType::Character,
-         std::string("\u00e1\u00e1\u00e1,\u00e1\u00e1\u00e1"), "\xE1\xE1\xE1,\xE1\xE1\xE1 ",
-         "\xE1\xE1\xE1,\xE1\xE1\xE1 "},
         {"letters that the code page lacks", DbaseType::Character, std::string("\u4e2d\u20ac"),
          "?\x80      ", "?\x80      "},
-        {"number as text", DbaseType::Character, 1.5, "1.5     ", "1.5     "},
         {"date", DbaseType::Date, Date{2011, 3, 5}, "20110305", "20110305"},
         {"day before the first", DbaseType::Date, Date{2011, 3, 0}, "20110228", "20110228"},
         {"date by its number", DbaseType::Date, std::int64_t{40607}, "20110305", "20110305"},
-        {"no date", DbaseType::Date, {}, "        ", "        "},
         {"text for a date", DbaseType::Date, std::string("ayer"), "        ", "        "},
     };
     for (const Row& row : rows) {
@@ -132,44 +107,19 @@ TEST_F(DbfTest, AFieldThatIsNotSetRepeatsItsValue) {
     EXPECT_EQ(recordsOf(table), "     abc abc d  ");
 }
 
-TEST_F(DbfTest, ForOtherProgramsTheHeaderHasTheDay) {
-    DbaseWriter table(kToday);
-    table.addField("nota", DbaseType::Character, 10, 0);
-    table.addField("dia", DbaseType::Date, 8, 0);
-    ASSERT_EQ(table.createDBF(base), std::nullopt);
-    ASSERT_EQ(table.closeDBF(), std::nullopt);
-    const std::string bytes = contentOf(path);
-    EXPECT_EQ(hexDump(bytes.substr(0, 4)), hexDump(hexBytes("03 7E 0B 03")));
-    EXPECT_EQ(hexDump(bytes.substr(32 + 16, 2)), hexDump(hexBytes("0A 00")));
-    EXPECT_EQ(hexDump(bytes.substr(64 + 16, 2)), hexDump(hexBytes("08 00")));
-}
-
 TEST_F(DbfTest, WhatTheHeaderCannotCountIsRefused) {
-    const std::string old = folder.write("tabla.dbf", "old");
-    struct Row {
-        const char* name;
-        int fields;
-        int length;
-        bool isFine;
-    };
-    const Row rows[] = {
-        {"longest record", 257, 254, true},    // 1 + 65,278 bytes
-        {"record too long", 259, 254, false},  // 65,787 bytes
-        {"most fields", 2046, 1, true},
-        {"too many fields", 2047, 1, false},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    (void)folder.write("tabla.dbf", "old");
+    // The longest record, of 65,279 bytes, and the most fields; one more of each is refused.
+    const std::tuple<int, int, bool> rows[] = {
+        {257, 254, true}, {259, 254, false}, {2046, 1, true}, {2047, 1, false}};
+    for (const auto& [fields, length, isFine] : rows) {
         DbaseWriter table;
-        for (int i = 0; i < row.fields; ++i) {
-            table.addField("c", DbaseType::Character, row.length, 0);
+        for (int i = 0; i < fields; ++i) {
+            table.addField("c", DbaseType::Character, length, 0);
         }
         const auto failure = table.createDBF(base);
-        EXPECT_EQ(!failure, row.isFine);
-        if (failure) {
-            EXPECT_EQ(failure->arguments, std::vector{old});
-            EXPECT_EQ(failure->cause.at(0).text, TextId::TableTooWide);
-        }
+        ASSERT_EQ(!failure, isFine) << fields;
+        EXPECT_TRUE(!failure || failure->cause.at(0).text == TextId::TableTooWide);
         EXPECT_EQ(contentOf(path), "old") << "nothing is closed yet";
     }
     DbaseWriter table;

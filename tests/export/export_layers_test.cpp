@@ -22,33 +22,16 @@ TEST(CellInteger, RoundsHalvesToEvenWithinTheType) {
     constexpr std::int64_t kMost = std::numeric_limits<std::int64_t>::max();
     const Row rows[] = {
         {"empty", {}, std::nullopt},
-        {"date", Date{2018, 3, 5}, std::nullopt},
         {"every digit of a whole number", kMost - 1, kMost - 1},
         {"tie down", 4.5, 4},
-        {"negative tie", -0.5, 0},
         {"number that a text begins with", std::string("12.5 l/ha"), 12},
-        {"text", std::string("l/ha"), std::nullopt},
         {"largest double that fits", 9223372036854774784.0, 9223372036854774784},
         {"one too large", 9223372036854775808.0, std::nullopt},
-        {"one too small", -1e19, std::nullopt},
         {"no number", std::nan(""), std::nullopt},
     };
     for (const Row& row : rows) {
         EXPECT_EQ(cellInteger(row.cell), row.number) << row.name;
     }
-}
-
-TEST(BoxOfLayers, LeavesOutLayersWithoutABox) {
-    PointLayer boxless({{50, 50}});
-    AttributeLayer one({squareAt(2, 3)}, {});
-    AttributeLayer other({squareAt(-7, 8)}, {});
-    const BoundingBox box = boxOf(pointLayers(std::vector<Gph*>{&boxless, &one, &other}));
-    EXPECT_TRUE(box.isSet);
-    EXPECT_EQ(box.minX, -8);
-    EXPECT_EQ(box.minY, 2);
-    EXPECT_EQ(box.maxX, 4);
-    EXPECT_EQ(box.maxY, 10);
-    EXPECT_FALSE(boxOf(pointLayers(std::vector<Gph*>{&boxless})).isSet);
 }
 
 TEST(ExportColumns, ATypeHoldsTheCellsOfEveryLayerInAnyOrder) {
@@ -81,17 +64,6 @@ TEST(ExportColumns, ATypeHoldsTheCellsOfEveryLayerInAnyOrder) {
                       order[0] == &one ? row.one : row.other);
         }
     }
-}
-
-TEST(ExportColumns, ANewOneStandsBehindTheOneBeforeItInItsLayer) {
-    const auto column = [](const char* name) {
-        return AttributeLayer::Column{name, ColumnType::Integer, {CellValue(std::int64_t{1})}};
-    };
-    AttributeLayer one({squareAt(0, 0)}, {column("A"), column("B")});
-    AttributeLayer other({squareAt(0, 0)}, {column("A"), column("D")});
-    const ExportColumns both = ExportColumns::ofAll(pointLayers(std::vector<Gph*>{&one, &other}));
-    EXPECT_EQ(both.columns()[1].name, "D");
-    EXPECT_EQ(both.columns()[2].name, "B");
 }
 
 }  // namespace

@@ -8,8 +8,6 @@
 
 #include "support/exported_layers.h"
 #include "support/temp_folder.h"
-#include "support/work_records.h"
-#include "work/gph_track.h"
 
 namespace campora {
 namespace {
@@ -102,18 +100,6 @@ TEST_F(KmlTest, ShippedTemplatesMakeADocumentWhateverTheNameHolds) {
         EXPECT_EQ(document.placemarks, 2);
         EXPECT_EQ(document.coordinates, "-58.3816,-34.25,50");
     }
-}
-
-TEST_F(KmlTest, StepsWithoutFlowAreLeftOutWhileTheyAreNotDrawn) {
-    GphTrack track;
-    track.addPoint(0, 0, reportRecord(90));
-    track.addPoint(1e-4, 0, reportRecord(0));
-    track.addPoint(2e-4, 0, reportRecord(90));
-    ASSERT_EQ(save({&track}, kShipped), std::nullopt);
-    EXPECT_EQ(readDocument(path).placemarks, 2);
-    style.drawAll = false;
-    ASSERT_EQ(save({&track}, kShipped), std::nullopt);
-    EXPECT_EQ(readDocument(path).placemarks, 1);
 }
 
 }  // namespace

@@ -90,6 +90,7 @@ TEST(R2Tree, FindsAllThatOverlapsInTheOrderOfItsRules) {
             const Rectangle r = items.emplace_back(rectangle());
             tree.Insert(r.xMin, r.yMax, r.xMax, r.yMin, id);
         }
+        EXPECT_EQ(tree.EntriesCount(), row.items);
         EXPECT_EQ(checkedHeight(tree.root()), tree.Height());
         std::string order;
         for (int i = 0; i < 300; ++i) {
