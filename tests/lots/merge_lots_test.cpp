@@ -17,13 +17,6 @@ TEST(MergeLots, SaysWhatTheUserShouldKnow) {
     const std::tuple<const char*, std::vector<std::vector<LonLat>>, Lines> rows[] = {
         {"they overlap", {squareRing(0, 0, 2), squareRing(1, 1, 2)}, {}},
         {"apart", {squareRing(0, 0, 1), squareRing(5, 5, 1)}, {"Quedan 2 contornos separados"}},
-        {"in one point",
-         {squareRing(0, 0, 1), squareRing(1, 1, 1)},
-         {"Quedan 2 contornos separados"}},
-        {"a bow alone", {{{0, 0}, {2, 2}, {2, 0}, {0, 2}}}, {"Quedan 2 contornos separados"}},
-        {"some without area",
-         {line, squareRing(0, 0, 1), {{4, 4}}, {}},
-         {"Lotes que no encierran ninguna superficie y no se unieron: 3"}},
         {"none with area", {line, {{4, 4}}}, {"Los lotes no encierran ninguna superficie"}},
         {"apart, round a hole and one without area",
          {{{0, 0}, {3, 0}, {3, 1}, {0, 1}},

@@ -39,25 +39,19 @@ TEST(MergeOutlines, IsTheUnion) {
     const Ring pentagram = {
         {0, 1}, {0.588, -0.809}, {-0.951, 0.309}, {0.951, 0.309}, {-0.588, -0.809}};
     const std::tuple<const char*, std::vector<Ring>, std::vector<double>, int> rows[] = {
-        {"nothing", {}, {}, 0},
-        {"one", {box(0, 0, 2, 1)}, {2}, 0},
         {"overlap", {box(0, 0, 2, 2), box(1, 1, 3, 3)}, {7}, 0},
-        {"one runs the other way", {box(0, 0, 2, 2), backwards(box(1, 1, 3, 3))}, {7}, 0},
         {"one within the other, the other way",
          {box(0, 0, 4, 4), backwards(box(1, 1, 2, 2))},
          {16},
          0},
-        {"neighbours with a common side", {box(0, 0, 1, 1), box(1, 0, 2, 1)}, {2}, 0},
         {"apart, largest first", {box(0, 0, 1, 1), box(5, 5, 7, 7)}, {4, 1}, 0},
         {"a common corner does not join", {box(0, 0, 1, 1), box(1, 1, 2, 2)}, {1, 1}, 0},
-        {"twice the same", {box(0, 0, 1, 1), box(0, 0, 1, 1)}, {1}, 0},
         {"a ring of four round a hole",
          {box(0, 0, 3, 1), box(0, 2, 3, 3), box(0, 0, 1, 3), box(2, 0, 3, 3)},
          {9},
          1},
         {"a bow has two wings", {bow}, {1, 1}, 0},
         {"the middle of a star counts", {pentagram, box(-0.2, -0.2, 0.2, 0.2)}, {1.1227}, 0},
-        {"two points", {{{0, 0}, {1, 1}}, box(0, 0, 1, 1)}, {1}, 0},
         {"without area", {{{0, 0}, {1, 1}, {2, 2}}, {}, {{3, 3}}}, {}, 0},
     };
     for (const auto& [name, rings, areas, holes] : rows) {
@@ -87,15 +81,12 @@ TEST(MergeOutlines, CoordinatesComeBackUnchanged) {
 TEST(RingCrossing, FindsWhatMeets) {
     const std::tuple<const char*, Ring, bool> rows[] = {
         {"triangle", {{0, 0}, {1, 0}, {0, 1}}, false},
-        {"two points", {{0, 0}, {1, 0}}, false},
         {"bow", {{0, 0}, {2, 2}, {2, 0}, {0, 2}}, true},
-        {"closing side crosses", {{0, 0}, {4, 0}, {4, 3}, {2, -1}}, true},
         {"notch", {{0, 0}, {4, 0}, {4, 4}, {2, 1}, {0, 4}}, false},
         {"a corner on another side", {{0, 0}, {4, 0}, {4, 4}, {2, 0}, {0, 4}}, true},
         {"a corner twice", {{0, 0}, {1, 1}, {2, 0}, {2, 2}, {1, 1}, {0, 2}}, true},
         {"a spike", {{0, 0}, {4, 0}, {4, 4}, {4, 2}, {0, 2}}, true},
         {"a point repeated", {{0, 0}, {1, 0}, {1, 0}, {0, 1}, {0, 0}}, false},
-        {"a point on a straight side", {{0, 0}, {1, 0}, {2, 0}, {2, 2}}, false},
         {"all on a line", {{0, 0}, {1, 0}, {2, 0}}, true},
     };
     for (const auto& [name, ring, crosses] : rows) {
