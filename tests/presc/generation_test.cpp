@@ -93,8 +93,6 @@ TEST_F(GenerationTest, AGridHasAMarginOfTwoCellsAndADoseWhereAZoneIs) {
     const PreGrid grid = readPre();
     EXPECT_EQ(grid.header.columns, 54);
     EXPECT_EQ(grid.header.rows, 29);
-    EXPECT_EQ(grid.header.cellSize, 20);
-    EXPECT_EQ(grid.header.metresPerMinuteOfLatitude, 1855);
     EXPECT_EQ(grid.header.metresPerMinuteOfLongitude, 1855);
     EXPECT_EQ(std::count(grid.doses.begin(), grid.doses.end(), 85), 50 * 25);
     EXPECT_EQ(grid.doses.at(2 * 54 + 2), 85) << "the north-west corner of the field";
@@ -119,13 +117,6 @@ TEST_F(GenerationTest, EveryChannelHasItsFallbackDose) {
     EXPECT_THAT(std::vector(grid.doses.begin(), grid.doses.begin() + 3), ElementsAre(33, 0, -2));
     const auto inside = grid.doses.begin() + (2 * 54 + 2) * 3;
     EXPECT_THAT(std::vector(inside, inside + 3), ElementsAre(12, 14, 1)) << "halves to even";
-}
-
-TEST_F(GenerationTest, ACancelledFallbackDoseEndsTheSave) {
-    dialogs.inputAnswers = {"33", std::nullopt};
-    EXPECT_FALSE(pre({oneZone(1), oneZone(2)}));
-    EXPECT_THAT(files(), ElementsAre());
-    EXPECT_THAT(dialogs.messages, ElementsAre());
 }
 
 TEST_F(GenerationTest, AVrtGoesNorthInHundredthsWithoutQuestions) {
@@ -176,10 +167,8 @@ TEST(Generation, AGridTooLargeForConsolesIsAskedAbout) {
     };
     const Row rows[] = {
         {"as many as consoles take", {}, {}, true, 480, nullptr, nullptr, 2, 952},
-        {"one more", {Answer::Cancel}, {}, false, 0, "menor a 3\n", nullptr, 2, 954},
         {"keep it", {Answer::No}, {}, true, 1004, "menor a 4\n", nullptr},
         {"as proposed", {Answer::Yes, Answer::Yes}, {"4", "5"}, true, 404, "menor a 5\n", "5"},
-        {"no number", {Answer::Yes}, {"ancho"}, false, 0, "menor a 4\n", "4"},
         {"no answer: asks again", {Answer::Yes, Answer::No}, {""}, true, 1004, "a 4\n", "4"},
         {"cancels", {Answer::Yes}, {std::nullopt}, false, 0, "lote.pre", "4"},
     };
@@ -218,11 +207,9 @@ TEST(Generation, WhatNoFileCanHoldIsRefusedBeforeAnythingIsWritten) {
     pole.add(1, {rectangleRing(10, 89, 11, 90)});
     const Row rows[] = {
         {"above 16 bits", oneZone(32767.5F), 20, false, "dosis 32767.5 de la zona 1 del canal 1"},
-        {"below 16 bits", oneZone(-32769), 20, false, "debe ser de -32768 a 32767"},
         {"in a zone that no cell meets", far, 20, false, "la dosis 32768 de la zona 2"},
         {"above hundredths", oneZone(327.68F), 20, true, "debe ser de -327.68 a 327.67"},
         {"no cell meets a zone", thin, 20, true, "ninguna celda cae en una zona"},
-        {"no zones", ZoneLayer(), 20, false, "no tiene ningún polígono"},
         {"no width", oneZone(1), 0, false, "mayor que 0 y hasta 32767 metros: 0"},
         {"the pole", pole, 20, false, "el mapa llega hasta el polo"},
     };
@@ -270,13 +257,6 @@ TEST(Generation, AnEarlierPrescriptionOutlivesWhatFails) {
         EXPECT_EQ(readFile(worked.prePath)->text(), "earlier");
         EXPECT_EQ(contentOf(worked.folder.file(name)).size(), 5001U);
     }
-    Desk blocked;
-    blocked.folder.write("lote.pre", "earlier");
-    blocked.folder.write("lote.rpt/in the way", "");  // the companion's name is taken by a folder
-    blocked.dialogs.inputAnswers = {""};
-    EXPECT_FALSE(blocked.pre({oneZone(1)}));
-    EXPECT_THAT(blocked.dialogs.messages, ElementsAre(HasSubstr("lote.rpt")));
-    EXPECT_EQ(readFile(blocked.prePath)->text(), "earlier");
 }
 
 }  // namespace

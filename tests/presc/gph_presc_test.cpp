@@ -8,7 +8,6 @@
 
 #include <gtest/gtest.h>
 
-#include "base/files.h"
 #include "base/numbers.h"
 #include "support/recording_canvas.h"
 #include "support/scripted_platform.h"
@@ -85,16 +84,6 @@ TEST_F(PrescTest, ARecordCountsOncePerPart) {
     EXPECT_EQ(presc.searchOrder(), (std::vector<std::int32_t>{0, 1}));
 }
 
-TEST_F(PrescTest, AChosenColumnGivesDosesClassesAndColours) {
-    ASSERT_TRUE(load(rowOfZones({"0.7", "30", "0.7", "0.1"})));
-    presc.setColumnaDosis(1);
-    EXPECT_EQ(scale(), (Values{0, 0.1F, 0.7F, 30}));
-    EXPECT_EQ(doses(), (Values{0.7F, 30, 0.7F, 0.1F}));
-    EXPECT_TRUE(isColoured());
-    presc.escalaColor().setClassColor(2, Color::rgb(1, 2, 3));
-    EXPECT_EQ(presc.polygons()[0].color, Color::rgb(1, 2, 3));
-}
-
 TEST_F(PrescTest, DosesChangeByClassAndByZone) {
     ASSERT_TRUE(load(rowOfZones({"100", "50", "100"})));
     presc.setColumnaDosis(1);
@@ -107,19 +96,6 @@ TEST_F(PrescTest, DosesChangeByClassAndByZone) {
     EXPECT_EQ(scale(), (Values{0, 77.5, 120}));
     EXPECT_TRUE(isColoured());
     EXPECT_THROW(presc.setDosis(3, 1), std::out_of_range);
-}
-
-TEST_F(PrescTest, TheLastZoneOfTheSearchOrderHasThePlace) {
-    ASSERT_TRUE(load({{"DOSIS"},
-                      {{{squareAt({0, 0}, 2)}, {"1"}},
-                       {{squareAt({1, 1}, 2), holeAt({2.2, 2.2}, 0.5)}, {"2"}},
-                       {{squareAt({2.1, 2.1}, 0.05)}, {"3"}}}}));
-    EXPECT_EQ(presc.searchOrder(), (std::vector<std::int32_t>{0, 1, 2}));
-    const std::vector<std::pair<LonLat, std::int32_t>> cases{
-        {{0.5, 0.5}, 0}, {{1.5, 1.5}, 1}, {{2.12, 2.12}, 2}, {{2.4, 2.4}, -1}, {{5, 5}, -1}};
-    for (const auto& [at, zone] : cases) {
-        EXPECT_EQ(presc.polygonIndexAt(at), zone) << at.x;
-    }
 }
 
 TEST_F(PrescTest, TellsTheColumnsAndTheAreaOfAZone) {
@@ -194,8 +170,6 @@ TEST_F(PrescTest, PointsAndLinesAreShownAndHoldNoGround) {
         ASSERT_TRUE(map.loadFromFile(folder.write("m.shp", shapes.bytes()), desk));
         EXPECT_TRUE(dialogs.messages.empty());
         EXPECT_EQ(map.figures(), figures);
-        EXPECT_TRUE(map.searchOrder().empty());
-        EXPECT_EQ(map.polygonIndexAt({0.01, 0.01}), -1);
         const ViewTransform view(1.1132F, 1.1132F, {0, 0}, {10000, 10000});
         EXPECT_EQ(map.Gph_mouseOver(view, style, {0.0105, 0.01}, 0), 0);
         EXPECT_EQ(map.Gph_mouseOver(view, style, {0.0125, 0.01}, 0), -1);
@@ -209,9 +183,6 @@ TEST_F(PrescTest, PointsAndLinesAreShownAndHoldNoGround) {
 }
 
 TEST_F(PrescTest, SaysWhatIsWrongWithAFile) {
-    EXPECT_FALSE(presc.loadFromFile(folder.file("falta.shp"), desk));
-    EXPECT_TRUE(dialogs.messages.empty());
-
     const std::string bad = folder.write("malo.shp", "no es un mapa");
     EXPECT_FALSE(presc.loadFromFile(bad, desk));
     ASSERT_EQ(dialogs.messages.size(), 1U);
@@ -225,20 +196,6 @@ TEST_F(PrescTest, SaysWhatIsWrongWithAFile) {
     EXPECT_NE(dialogs.messages[1].find("lote.dbf"), std::string::npos) << dialogs.messages[1];
     EXPECT_EQ(dialogs.messages[2],
               "Exclamation|Campora|El archivo no contiene polígonos: " + empty);
-}
-
-TEST_F(PrescTest, HoldsADamagedFileAsFarAsItIsSound) {
-    const std::string path = write(rowOfZones({"1", "2", "3"}));
-    const Result<FileBytes> whole = readFile(path);
-    ASSERT_TRUE(whole);
-    folder.write("lote.shp", std::string(whole->text().substr(0, whole->text().size() - 1)));
-    EXPECT_TRUE(presc.loadFromFile(path, desk));
-    EXPECT_TRUE(presc.notes().damage.has_value());
-    EXPECT_EQ(presc.Gph_count(), 2);
-    EXPECT_EQ(presc.dosisCollection(1), (Values{0, 1, 2}));
-    ASSERT_EQ(dialogs.messages.size(), 1U);
-    EXPECT_NE(dialogs.messages[0].find("se leyeron solo 2 registros de " + path), std::string::npos)
-        << dialogs.messages[0];
 }
 
 }  // namespace

@@ -9,7 +9,6 @@
 
 #include <gtest/gtest.h>
 
-#include "base/failure.h"
 #include "support/failures.h"
 #include "support/shape_bytes.h"
 
@@ -55,11 +54,8 @@ TEST(PreGrid, AFileThatLiesIsRefused) {
     using namespace std::string_literals;
     const std::tuple<const char*, std::size_t, std::string, TextId> rows[] = {
         {"no columns", 43, "\x00\x00"s, TextId::GridImpossible},
-        {"rows below zero", 54, "\xFF\xFF"s, TextId::GridImpossible},
-        {"cells without a side", 69, "\x00\x00"s, TextId::GridImpossible},
         {"latitude not a number", 12, "\x00\x00\xC0\x7F"s, TextId::GridImpossible},
         {"latitude at the pole", 12, "\x40\x54\x09\xCB"s, TextId::GridImpossible},
-        {"longitude infinite", 29, "\x00\x00\x80\x7F"s, TextId::GridImpossible},
         {"more columns than cells", 43, "\xFF\x7F"s, TextId::FileCutShort},
         {"more channels than doses", 95, "\xFF"s, TextId::FileCutShort},
     };
@@ -70,15 +66,6 @@ TEST(PreGrid, AFileThatLiesIsRefused) {
         lying.replace(at, bytes.size(), bytes);
         EXPECT_EQ(failureOf([&lying] { return decodePre(bytesOf(lying)); }).value().text, text);
     }
-}
-
-TEST(PreGrid, ACutFileIsRefusedAndALongOneRead) {
-    const std::string whole = encodePre(smallHeader(2), Doses{1, 2, 3, 4});
-    for (std::size_t size = 54; size < whole.size(); ++size) {
-        EXPECT_THROW(static_cast<void>(decodePre(bytesOf(whole.substr(0, size)))), FormatError)
-            << size;
-    }
-    EXPECT_EQ(decodePre(bytesOf(whole + "more")).doses, (Doses{1, 2, 3, 4}));
 }
 
 }  // namespace
