@@ -49,32 +49,19 @@ TEST(PageColumns, SetsBlocksAsLowAsTheyGo) {
     };
     const Row rows[] = {
         {"one below the other", {block("a", 2), block("b", 1)}, 1, 9, {"a a1 a2 - b b1 "}},
-        {"a column each", {block("a", 2), block("b", 2)}, 2, 9, {"a a1 a2 ", "b b1 b2 "}},
-        {"one that joins",
-         {block("a", 2), block("b", 1, true), block("c", 5)},
-         2,
-         9,
-         {"a a1 a2 - b b1 ", "c c1 c2 c3 c4 c5 "}},
         {"one that joins where there is room",
          {block("a", 2), block("b", 1, true), block("c", 2)},
          3,
          9,
          {"a a1 a2 ", "b b1 ", "c c1 c2 "}},
-        {"more blocks than columns",
-         {block("a", 4), block("b", 1), block("c", 2)},
-         2,
-         9,
-         {"a a1 a2 a3 a4 ", "b b1 - c c1 c2 "}},
         {"one long one runs on",
          {block("a", 13), block("b", 1)},
          2,
          20,
          {"a a1 a2 a3 a4 a5 a6 a7 a8 ", "a9 a10 a11 a12 a13 - b b1 "}},
-        {"without rows", {block("a", 0), block("b", 1)}, 1, 9, {"b b1 "}},
         {"more than fits", {block("a", 9), block("b", 1)}, 1, 7, {"a a1 a2 +7 - b b1 "}, true},
         {"too low for two", {block("a", 9), block("b", 1)}, 1, 3, {"a a1 +8 "}, true},
         {"no room", {block("a", 9)}, 1, 1, {}, true},
-        {"nothing", {}, 3, 9, {}},
     };
     for (const Row& row : rows) {
         const PlacedBlocks placed =

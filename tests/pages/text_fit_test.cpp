@@ -33,13 +33,10 @@ TEST(TextFit, ElidesToWhatFitsWithoutCuttingACharacter) {
         std::string start;
     };
     const Row rows[] = {
-        {"fits", "lote.rpt", 8, "lote.rpt", "lote.rpt"},
         {"too long", "campo/lote.rpt", 8, "campo/l…", "…ote.rpt"},
         {"accents", "ñandúñandú", 4, "ñan…", "…ndú"},
         {"no blank before the dots", "lote norte", 6, "lote…", "…norte"},
-        {"only the dots", "lote", 1, "…", "…"},
         {"nothing fits", "lote", 0.5, "", ""},
-        {"empty", "", 0, "", ""},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);

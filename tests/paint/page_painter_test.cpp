@@ -52,18 +52,13 @@ bool fillRed(MapCanvas& canvas) {
 }
 
 TEST_F(PagePainter, TheMapHasTheDotsOfThePrinterAsFarAsMemoryGoes) {
-    struct Row {
-        std::size_t paper;
-        int dots;
-        double least;
-        double most;
-    };
-    const Row rows[] = {{1, 150, 149, 151}, {1, 600, 599, 601}, {0, 600, 500, 599}};
-    for (const Row& row : rows) {
-        setup.paper = papers()[row.paper];
-        const QImage map = pageMapPicture(page(), canvas(), row.dots, fillRed);
+    const std::tuple<std::size_t, int, double, double> rows[] = {
+        {1, 150, 149, 151}, {1, 600, 599, 601}, {0, 600, 500, 599}};
+    for (const auto& [paper, wanted, least, most] : rows) {
+        setup.paper = papers()[paper];
+        const QImage map = pageMapPicture(page(), canvas(), wanted, fillRed);
         const double dots = map.width() / (page().map.width / 25.4);
-        EXPECT_TRUE(dots > row.least && dots < row.most) << dots;
+        EXPECT_TRUE(dots > least && dots < most) << dots;
         EXPECT_LE(1.0 * map.width() * map.height(), 36.1e6);
     }
     EXPECT_TRUE(pageMapPicture(page(), canvas(), 150, [](MapCanvas& /*canvas*/) {

