@@ -39,24 +39,6 @@ struct DoseColumnDialogTest : testing::Test {
     DoseColumnDialog dialog{desk.session.map(), desk.session.services(), nullptr};
 };
 
-TEST_F(DoseColumnDialogTest, ShowsARowForEveryChannel) {
-    dialog.show();
-    for (int rows = 1; rows <= 4; ++rows) {
-        for (int row = 0; row < 4; ++row) {
-            EXPECT_EQ(part<QComboBox>("cbDosis", row).isVisible(), row < rows);
-        }
-        EXPECT_EQ(part<QPushButton>("cmdRemove").isEnabled(), rows > 1);
-        EXPECT_EQ(part<QPushButton>("cmdAdd").isEnabled(), rows < 4);
-        click("cmdAdd");
-    }
-    openMap(3, "lote");
-    part<QComboBox>("cbDosis", 3).setCurrentIndex(0);
-    click("cmdRemove");
-    click("cmdAdd");
-    EXPECT_EQ(part<QComboBox>("cbDosis", 3).count(), 0);
-    EXPECT_EQ(part<QLabel>("lblNumDosis", 3).text(), "Archivo no cargado");
-}
-
 TEST_F(DoseColumnDialogTest, HandsOverTheMapsWithTheirColumns) {
     QTimer::singleShot(0, &dialog, [this] {
         click("cmdOk");

@@ -4,12 +4,10 @@
 #include "desktop/lot_panel.h"
 
 #include <QAbstractButton>
-#include <QCheckBox>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QTableView>
 #include <QTimer>
-#include <QToolBar>
 
 #include "desktop/dialogs/coord_dialog.h"
 #include "desktop/window_fixture.h"
@@ -37,30 +35,7 @@ struct LotPanelTest : WindowTest {
         clickOnMap({200, 60});
         clickOnMap({130, 200});
     }
-    [[nodiscard]] QString cell(int row, int column) const {
-        return panel().vertices().model()->index(row, column).data().toString();
-    }
 };
-
-TEST_F(LotPanelTest, ListsWhatIsDrawnInTheUsersCoordinates) {
-    EXPECT_TRUE(panel().isVisible());
-    EXPECT_TRUE(map().hasFocus());
-    drawTriangle();
-    QTableView& table = panel().vertices();
-    ASSERT_EQ(table.model()->rowCount(), 3);
-    EXPECT_EQ(table.currentIndex().row(), 2);
-    const LonLat second = under({200, 60});
-    EXPECT_EQ(cell(1, 0), toQt(formatCoord(second.y, CoordType::Degrees)).trimmed());
-    action(TextId::CoordSeconds)->trigger();
-    EXPECT_EQ(cell(1, 1), toQt(formatCoord(second.x, CoordType::DegreesMinutesSeconds)).trimmed());
-    table.setFocus();
-    QTest::keyClick(&table, Qt::Key_Up);
-    EXPECT_EQ(editor().draft().selected(), std::size_t{1});
-    EXPECT_TRUE(part<QLabel>("lblLoteFigures").text().startsWith("Superficie: "));
-    clickOnMap({130, 20});
-    EXPECT_EQ(toUtf8(part<QLabel>("lblLoteWarning").text()),
-              window->session().texts()(TextId::LoteCrosses));
-}
 
 TEST_F(LotPanelTest, KeysChangeTheLotAndNotTheListOfFiles) {
     drawTriangle();
@@ -154,17 +129,6 @@ TEST_F(LotPanelTest, TheMapKeepsItsPlaceAndANarrowWindowItsMap) {
     action(TextId::ActionLote)->trigger();
     EXPECT_TRUE(window->sidePanelShown());
     EXPECT_TRUE(action(TextId::ActionSidePanel)->isEnabled());
-}
-
-TEST_F(LotPanelTest, SpeaksTheUsersLanguageAndNamesItsControls) {
-    window->session().setLanguage(Language::Portuguese);
-    EXPECT_EQ(part<QAbstractButton>("cmdLoteSave").text(), "&Salvar...");
-    EXPECT_EQ(part<QCheckBox>("chkLoteTransparent").text(), "Parte interna &transparente");
-    for (const QAbstractButton* button : panel().findChildren<QAbstractButton*>()) {
-        if (button->objectName().startsWith("cmd") && button->text().isEmpty()) {
-            EXPECT_FALSE(button->accessibleName().isEmpty()) << toUtf8(button->objectName());
-        }
-    }
 }
 
 TEST_F(LotPanelTest, TheWindowDoesNotCloseOverALotThatIsNotSaved) {

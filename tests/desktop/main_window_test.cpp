@@ -7,9 +7,7 @@
 #include <QAbstractScrollArea>
 #include <QDropEvent>
 #include <QHeaderView>
-#include <QLabel>
 #include <QMimeData>
-#include <QStatusBar>
 #include <gmock/gmock.h>
 
 #include "desktop/widgets/color_list.h"
@@ -22,7 +20,6 @@ namespace {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::IsEmpty;
 
 constexpr int kUnits = RasterCanvas::kUnitsPerPixel;
 
@@ -35,31 +32,6 @@ int drawnPixels(const QImage& image) {
         }
     }
     return drawn;
-}
-
-TEST_F(WindowTest, ShowsAnOpenedReport) {
-    open({writeReport("lote.rpt")});
-
-    EXPECT_THAT(rows(), ElementsAre("lote.rpt"));
-    EXPECT_EQ(list().selectedRow(), 0);
-    const SummaryTable& summary = window->sidePanel().summary();
-    ASSERT_GE(summary.topLevelItemCount(), 4);
-    EXPECT_EQ(summary.topLevelItem(0)->text(0), "Nombre Archivo:");
-    EXPECT_EQ(toUtf8(summary.topLevelItem(0)->text(1).trimmed()), "lote.rpt");
-    const LegendView& legend = window->sidePanel().legend();
-    EXPECT_GT(legend.classes().count(), 1);
-    EXPECT_EQ(legend.reference().item(0)->text(), "Fondo");
-    EXPECT_THAT(toUtf8(window->windowTitle()), HasSubstr("lote.rpt]"));
-    EXPECT_GT(drawnPixels(map().canvas().image()), 1000);
-    EXPECT_THAT(dialogs.messages, IsEmpty());
-}
-
-TEST_F(WindowTest, SubmenusStandBeforeTheirEntries) {
-    const QList<QAction*> entries = window->menuBar()->actions().first()->menu()->actions();
-    const qsizetype reload = entries.indexOf(window->findChild<QAction*>("mnuFileReload"));
-    ASSERT_GT(reload, 0);
-    EXPECT_NE(entries[reload - 1]->menu(), nullptr);
-    EXPECT_EQ(window->findChild<QSlider*>("animation")->minimum(), 0);
 }
 
 TEST_F(WindowTest, ShowsWhatIsToBeSaidAboutAFile) {
@@ -77,15 +49,6 @@ TEST_F(WindowTest, ShowsWhatIsToBeSaidAboutAFile) {
     const auto marked = summary.findItems("(!)", Qt::MatchContains, 1);
     ASSERT_EQ(marked.size(), 1);
     EXPECT_EQ(toUtf8(marked.front()->text(0)), "Hectáreas fumig:");
-}
-
-TEST_F(WindowTest, OpenCommandReplacesWhatIsOpen) {
-    open({writeReport("viejo.rpt")});
-    dialogs.openAnswers.push_back({writeReport("nuevo.rpt")});
-    QTest::keyClick(window.get(), Qt::Key_O, Qt::ControlModifier);
-    EXPECT_THAT(rows(), ElementsAre("nuevo.rpt"));
-    ASSERT_EQ(dialogs.opens.size(), 1U);
-    EXPECT_FALSE(dialogs.opens[0].filters.empty());
 }
 
 TEST_F(WindowTest, DroppedFilesAndFoldersJoinTheOpenOnes) {
@@ -108,35 +71,6 @@ TEST_F(WindowTest, DroppedFilesAndFoldersJoinTheOpenOnes) {
     EXPECT_THAT(rows(), ElementsAre("lote.rpt", "suelto.rpt", "A.RPT", "b.rpt"));
 }
 
-TEST_F(WindowTest, DoubleClickShowsTheFile) {
-    open({writeReport("a.rpt"), writeReport("b.rpt", 50000)});
-    const float whole = view().scaleX();
-    const QPoint row = list().visualItemRect(list().item(1)).center();
-    QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, row);
-    QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, row);
-    EXPECT_LT(view().scaleX(), whole / 5);
-    const BoundingBox& box = window->session().map().files().file(1).File_bound();
-    const LonLat middle = under(map().rect().center());
-    EXPECT_NEAR(middle.x, (box.minX + box.maxX) / 2, 1e-3);
-    EXPECT_NEAR(middle.y, (box.minY + box.maxY) / 2, 1e-3);
-}
-
-TEST_F(WindowTest, DeleteKeyUnloadsDownToTheEmptyMap) {
-    const std::string first = writeReport("a.rpt");
-    open({first, writeReport("b.rpt", 100)});
-    action(TextId::FileDown)->trigger();
-    EXPECT_THAT(rows(), ElementsAre("b.rpt", "a.rpt"));
-    list().setFocus();
-    QTest::keyClick(&list(), Qt::Key_Delete);
-    EXPECT_THAT(rows(), ElementsAre("b.rpt"));
-    QTest::keyClick(&list(), Qt::Key_Delete);
-    EXPECT_THAT(rows(), IsEmpty());
-    EXPECT_FALSE(action(TextId::FileUnload)->isEnabled());
-    EXPECT_EQ(window->sidePanel().summary().topLevelItemCount(), 0);
-    EXPECT_EQ(drawnPixels(map().canvas().image()), 0);
-    EXPECT_TRUE(canOpen(first));
-}
-
 TEST_F(WindowTest, ResizingKeepsTheWholeMap) {
     open({writeReport("lote.rpt")});
     action(TextId::ActionZoomIn)->trigger();
@@ -153,20 +87,6 @@ TEST_F(WindowTest, ResizingKeepsTheWholeMap) {
         const CanvasPoint high = view().transform().mapToScreen(box.maxX, box.maxY);
         EXPECT_TRUE(low.x > 0 && high.x < canvas.width && high.y > 0 && low.y < canvas.height);
     }
-}
-
-TEST_F(WindowTest, StatusBarTellsPositionAndScale) {
-    open({writeReport("lote.rpt")});
-    QTest::mouseMove(&map(), {100, 100});
-    QTest::mouseMove(&map(), {200, 150});
-    QString texts;
-    for (const QLabel* label : window->statusBar()->findChildren<QLabel*>()) {
-        texts += label->text() + "|";
-    }
-    const LonLat at = under({200, 150});
-    EXPECT_THAT(toUtf8(texts), HasSubstr("Long: " + std::to_string(at.x).substr(0, 6)));
-    EXPECT_THAT(toUtf8(texts), HasSubstr("Lat: " + std::to_string(at.y).substr(0, 6)));
-    EXPECT_THAT(toUtf8(texts), HasSubstr("Escala 1:"));
 }
 
 TEST_F(WindowTest, OpensAsItWasLeft) {

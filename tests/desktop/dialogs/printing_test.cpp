@@ -104,28 +104,6 @@ TEST_F(WindowTest, ThePreviewTurnsThePageAndLeavesTheMapAlone) {
     EXPECT_EQ(map().canvas().image(), before);
 }
 
-TEST_F(WindowTest, PrintingNeedsAMap) {
-    for (const TextId id :
-         {TextId::ActionPageSetup, TextId::ActionPrintPreview, TextId::ActionPrint}) {
-        EXPECT_FALSE(action(id)->isEnabled());
-    }
-    open({writeReport("lote.rpt")});
-    window->active(false, false);  // as a running replay does
-    EXPECT_FALSE(action(TextId::ActionPrint)->isEnabled());
-    window->active(true, false);
-    EXPECT_TRUE(action(TextId::ActionPrint)->isEnabled());
-    EXPECT_TRUE(action(TextId::ActionPrintPreview)->isEnabled());
-}
-
-TEST_F(WindowTest, EscapeOnTheMapLeavesTheTool) {
-    open({writeReport("lote.rpt")});
-    action(TextId::ActionMeasure)->trigger();
-    EXPECT_FALSE(action(TextId::ActionMoveMap)->isChecked());
-    QTest::keyClick(&map(), Qt::Key_Escape);
-    EXPECT_EQ(window->session().tools().tool(), ToolId::Pan);
-    EXPECT_TRUE(action(TextId::ActionMoveMap)->isChecked());
-}
-
 TEST(AboutDialog, TellsTheVersionAndCopiesIt) {
     MemoryClipboard clipboard;
     AboutDialog dialog(Texts(), clipboard, nullptr);

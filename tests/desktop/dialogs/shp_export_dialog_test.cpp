@@ -5,12 +5,8 @@
 
 #include <filesystem>
 
-#include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QPushButton>
-#include <QRadioButton>
-#include <QSlider>
 
 #include "desktop/window_fixture.h"
 
@@ -55,32 +51,6 @@ protected:
     }
 };
 
-TEST_F(ShpExportTest, AListIsExportedLineByLine) {
-    const std::vector<std::string> paths{track("a.nbr"), folder.write("b.nbr", "x"),
-                                         track("c.nbr")};
-    inDialog(paths, [&](ShpExportDialog& dialog) {
-        EXPECT_EQ(dialog.windowTitle(), "Exportar a shp (Poligonos)");
-        EXPECT_EQ(in<QLineEdit>(dialog, "txtOrig").text(), "a.nbr; b.nbr; c.nbr");
-        EXPECT_EQ(in<QLineEdit>(dialog, "txtDest").text(), toQt(folder.path() + "/"));
-        auto& slider = in<QSlider>(dialog, "Slider1");
-        EXPECT_EQ(slider.value(), 10);
-        slider.setValue(500);
-        EXPECT_EQ(in<QLabel>(dialog, "lblSlider").text(), "100");
-        press(dialog, "cmdExport");
-        auto& lines = in<QListWidget>(dialog, "msgs");
-        ASSERT_EQ(lines.count(), 3);
-        EXPECT_EQ(lines.item(0)->text(), "Exportando a.nbr:...........Ok");
-        EXPECT_EQ(lines.item(1)->text(), "Exportando b.nbr:...........Error");
-        EXPECT_EQ(lines.item(2)->text(), "Exportando c.nbr:...........Ok");
-        EXPECT_TRUE(in<QLabel>(dialog, "lblRemark").text().endsWith("/b.nbr"));
-        EXPECT_TRUE(in<QPushButton>(dialog, "cmdExport").isHidden());
-        EXPECT_EQ(in<QPushButton>(dialog, "CmdCancel").text(), "Cerrar");
-    });
-    EXPECT_EQ(sizeOf("a.shx"), 108U) << "one polygon of at most 100 points";
-    EXPECT_EQ(sizeOf("b.shx"), 0U);
-    EXPECT_EQ(sizeOf("c.shx"), 108U);
-}
-
 TEST_F(ShpExportTest, OneFileCanGoElsewhere) {
     const std::string path = track("a.nbr");
     inDialog({path}, [&](ShpExportDialog& dialog) {
@@ -103,16 +73,6 @@ TEST_F(ShpExportTest, OneFileCanGoElsewhere) {
               std::vector<std::string>{"Information|Campora|Archivo exportado correctamente."});
     EXPECT_GT(sizeOf("otra.shp"), 100U);
     EXPECT_EQ(sizeOf("a.shp"), 0U);
-}
-
-TEST_F(ShpExportTest, OneFileLeftAsItIsIsAListOfOne) {
-    inDialog({track("a.nbr")}, [&](ShpExportDialog& dialog) {
-        press(dialog, "cmdExport");
-        auto& lines = in<QListWidget>(dialog, "msgs");
-        ASSERT_EQ(lines.count(), 1);
-        EXPECT_EQ(lines.item(0)->text(), "Exportando a.nbr:...........Ok");
-    });
-    EXPECT_GT(sizeOf("a.shp"), 100U);
 }
 
 TEST_F(ShpExportTest, ClosingDuringARunStopsAfterThePresentFile) {

@@ -5,17 +5,14 @@
 
 #include <filesystem>
 
-#include <QApplication>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
-#include <QTimer>
 #include <QTreeWidget>
 #include <gtest/gtest.h>
 
 #include "base/files.h"
 #include "base/paths.h"
-#include "desktop/dialogs/property_editor.h"
 #include "desktop/platform/qt_text.h"
 #include "support/scripted_platform.h"
 #include "support/temp_folder.h"
@@ -91,30 +88,6 @@ TEST_F(SummaryEditorDialogTest, StaysOpenWhenTheFileCannotBeWritten) {
     EXPECT_EQ(dialogs.messages.size(), 1U);
     widgets.button("CmdCancel").click();
     EXPECT_FALSE(dialog.isVisible());
-}
-
-TEST(PropertyEditor, HandsOverWhatStandsInTheFieldsWhenAccepted) {
-    ScriptedDialogs dialogs;
-    for (const char* button : {"CmdCancel", "cmdAcept"}) {
-        QTimer::singleShot(0, [button] {
-            const EditorWidgets widgets{*QApplication::activeModalWidget()};
-            widgets.list().setCurrentItem(widgets.list().topLevelItem(0));
-            widgets.field("txtCampo2").setText("13");
-            widgets.button(button).click();  // without the button that changes the row
-            widgets.button("CmdCancel").click();
-        });
-        std::vector<SummaryEntry> kept;
-        editProperties(
-            SummaryRows({{"Hectáreas fumig: ", "12", ""}}),
-            [&kept](const SummaryRows& rows) {
-                kept = rows.rows();
-                return false;  // and the dialog stays
-            },
-            {dialogs, Texts(), FixedLocale()}, nullptr);
-        const bool accepted = button == std::string_view("cmdAcept");
-        ASSERT_EQ(kept.size(), accepted ? 1U : 0U);
-        EXPECT_TRUE(!accepted || kept.front().value == "13");
-    }
 }
 
 }  // namespace

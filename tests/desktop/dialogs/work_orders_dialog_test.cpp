@@ -9,7 +9,6 @@
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
-#include <QTreeView>
 #include <QTreeWidget>
 #include <gtest/gtest.h>
 
@@ -61,36 +60,6 @@ protected:
         dialog->showOpen(card);
     }
 };
-
-TEST_F(WorkOrdersDialogTest, ListsTheOrdersOfTheFolder) {
-    run([this] {
-        const QTreeWidgetItem& row = *list().topLevelItem(0);
-        EXPECT_EQ(row.text(0), "Orden 15");
-        EXPECT_EQ(row.text(3), "2");
-        EXPECT_FALSE(button("cmdOpen").isEnabled());
-        EXPECT_FALSE(button("cmdCopy").isEnabled());
-        select(0);
-        EXPECT_TRUE(button("cmdCopy").isEnabled());
-        QTreeView& folders = *dialog->findChild<QTreeView*>("Dir1");
-        EXPECT_TRUE(folders.isColumnHidden(1));
-        EXPECT_GT(folders.height(), dialog->height() / 4);
-        folders.setCurrentIndex(folders.currentIndex().parent());
-        EXPECT_EQ(list().topLevelItemCount(), 0);
-        EXPECT_FALSE(button("cmdOpen").isEnabled());
-    });
-    EXPECT_EQ(desk.session.map().plotCount(), 0);
-}
-
-TEST_F(WorkOrdersDialogTest, OpensAnOrderAndCloses) {
-    run([this] {
-        select(0);
-        button("cmdOpen").click();
-        EXPECT_FALSE(dialog->isVisible());
-        EXPECT_EQ(dialog->result(), QDialog::Accepted);
-    });
-    EXPECT_EQ(desk.listed(), (Names{"15 - log1.nbr", "15 - log2.nbr"}));
-    EXPECT_EQ(desk.settings.values["OpenZELPath"], card);
-}
 
 TEST_F(WorkOrdersDialogTest, AddingKeepsTheDialogAndCancelOnlyStopsIt) {
     run([this] {

@@ -25,19 +25,6 @@ struct Desk {
     }
 };
 
-TEST(FreedesktopClasses, ADoubleClickOpensTheRunningProgram) {
-    Desk desk;
-    registerFileTypes("/opt/mi campo/100% $a/campora", desk.classes);
-    EXPECT_EQ(desk.classes.keys().at(".pre"), "FurrowScope.PreFile");
-    const QByteArray entry = desk.content("applications/campora.desktop");
-    EXPECT_TRUE(entry.contains("\nExec=\"/opt/mi campo/100%% \\\\$a/campora\" %F\n"))
-        << entry.data();
-    EXPECT_TRUE(entry.contains("x-campora-report;")) << entry.data();
-    EXPECT_TRUE(desk.content("mime/packages/campora.xml").contains("*.rpt"));
-    EXPECT_FALSE(desk.content("icons/hicolor/scalable/mimetypes/application-x-campora-report.svg")
-                     .isEmpty());
-}
-
 TEST(FreedesktopClasses, AFolderThatCannotBeWrittenIsNoMatter) {
     const TempFolder folder;
     FreedesktopClasses classes(toQt(folder.write("file", "x")));

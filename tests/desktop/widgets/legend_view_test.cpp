@@ -40,12 +40,6 @@ protected:
         }
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
-    void rightClick(int row) const {
-        const QPoint at = middleOf(row);
-        QTest::mouseClick(&viewport(), Qt::RightButton, {}, at);
-        QContextMenuEvent event(QContextMenuEvent::Mouse, at, viewport().mapToGlobal(at));
-        QApplication::sendEvent(&viewport(), &event);
-    }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const {
         QTest::keyClick(const_cast<ColorList*>(&classes()), key, modifiers);
     }
@@ -64,25 +58,6 @@ protected:
         FAIL() << "no entry " << toUtf8(shown);
     }
 };
-
-TEST_F(LegendViewTest, TheMenuChangesTheClasses) {
-    const int before = classes().count();
-    rightClick(2);
-    choose(TextId::MoreClasses);
-    EXPECT_EQ(classes().count(), before + 1);
-
-    dialogs.colorAnswers = {Color{0x123456}};
-    rightClick(2);
-    choose(TextId::ClassColor);
-    EXPECT_EQ(scale().getClass(2).color, Color{0x123456});
-    EXPECT_EQ(classes().item(2)->data(Qt::AccessibleDescriptionRole).toString(), "Color #563412");
-    EXPECT_EQ(classes().currentRow(), 2) << "the row stays in use";
-
-    rightClick(0);
-    choose(TextId::RampGreys);
-    EXPECT_EQ(scale().getClass(0).color, Color::rgb(224, 224, 224));
-    EXPECT_TRUE(dialogs.messages.empty());
-}
 
 TEST_F(LegendViewTest, TheKeyboardReachesEverything) {
     const_cast<ColorList&>(classes()).setFocus();

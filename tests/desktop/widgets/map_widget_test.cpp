@@ -46,25 +46,6 @@ TEST_F(MapWidgetTest, WheelZoomsAboutThePointer) {
     EXPECT_EQ(map().canvas().image(), settled);
 }
 
-TEST_F(MapWidgetTest, MiddleButtonDragsTheMapWithThePointer) {
-    view().zoomIn();
-    view().zoomIn();
-    const QPoint from = map().rect().center();
-    const LonLat held = under(from);
-    QTest::mousePress(&map(), Qt::MiddleButton, {}, from);
-    for (int i = 1; i <= 10; ++i) {
-        const QPointF to = from + QPoint(7 * i, -3 * i);
-        QMouseEvent move(QEvent::MouseMove, to, map().mapToGlobal(to), Qt::NoButton,
-                         Qt::MiddleButton, Qt::NoModifier);
-        QApplication::sendEvent(&map(), &move);
-    }
-    EXPECT_TRUE(view().isPictureMoved());
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !view().isPictureMoved(); }))
-        << "drawn while the button is held";
-    QTest::mouseRelease(&map(), Qt::MiddleButton, {}, from + QPoint(70, -30));
-    expectShownAt(held, from + QPoint(70, -30), 3);
-}
-
 TEST_F(MapWidgetTest, KeysZoomAndScroll) {
     const float whole = view().scaleX();
     map().setFocus();
