@@ -3,13 +3,7 @@
 
 #include "base/folder_files.h"
 
-#include <atomic>
-#include <chrono>
-#include <future>
-#include <memory>
-#include <optional>
 #include <string>
-#include <thread>
 #include <utility>
 #include <vector>
 
@@ -17,7 +11,6 @@
 
 #include "base/folder_looks.h"
 #include "base/paths.h"
-#include "base/time_limit.h"
 #include "support/temp_folder.h"
 
 namespace campora {
@@ -63,24 +56,6 @@ TEST(FolderLooks, FindWhatTheFolderHeldWithoutRegardToCase) {
     }
     folder.write("falta.rpt", "");
     EXPECT_EQ(looks.find(folder.file("falta.rpt")).path, "") << "one look at each folder";
-}
-
-TEST(WithinLimit, WaitsForWhatMovesAndLeavesWhatDoesNot) {
-    using std::chrono::milliseconds;
-    auto steps = std::make_shared<std::atomic<std::size_t>>(0);
-    const auto slow = [steps] {
-        for (; *steps < 6; ++*steps) {
-            std::this_thread::sleep_for(milliseconds(20));
-        }
-        return 5;
-    };
-    const auto progress = [steps] { return steps->load(); };
-    EXPECT_EQ(withinLimit(slow, progress, milliseconds(60)), 5);
-    auto release = std::make_shared<std::promise<void>>();
-    EXPECT_EQ(withinLimit([ready = release->get_future().share()] { return ready.wait(), 5; },
-                          progress, milliseconds(5)),
-              std::nullopt);
-    release->set_value();
 }
 
 }  // namespace

@@ -228,17 +228,6 @@ TEST_F(ShpTest, GisColumnsAreWideEnoughForEveryCell) {
     EXPECT_EQ(failure->cause.at(0).arguments.at(0), "r");
 }
 
-TEST_F(ShpTest, GisColumnsHoldTheCellsOfEveryLayer) {
-    AttributeLayer one({squareAt(0, 0)}, {{"a", ColumnType::Integer, {whole(7)}},
-                                          {"b", ColumnType::Real, {0.123456789012}}});
-    AttributeLayer two({squareAt(5, 5)}, {{"a", ColumnType::Real, {7.25F}},
-                                          {"b", ColumnType::Text, {std::string("x")}}});
-    AttributeLayer none({squareAt(9, 9)}, {});
-    ASSERT_EQ(gis({&one, &two, &none}), std::nullopt);
-    EXPECT_EQ(records(2), "           7.0000.123456789012           7.250x             " +
-                              std::string(1 + 15 + 14, ' '));
-}
-
 TEST_F(ShpTest, AnIntegerBeyond16BitsIsRefusedInThePlainForm) {
     for (const std::int64_t value : {32768, -32769}) {
         AttributeLayer layer({squareAt(0, 0)}, {{"Dosis", ColumnType::Integer, {value}}});

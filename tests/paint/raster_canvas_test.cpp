@@ -47,23 +47,6 @@ TEST(RasterCanvas, IsAsManyPixelsAsItsUnitsAndRatioSay) {
     }
 }
 
-TEST(RasterCanvas, OutlinesWithThePenAndFillsWithTheFillColour) {
-    RasterCanvas canvas({20 * kUnits, 20 * kUnits});
-    canvas.setBackgroundColor(kBlue);
-    canvas.clear();
-    canvas.setPenColor(kBlack);
-    canvas.setFillColor(kRed);
-    canvas.polygon(square(5, 5, 15, 15));
-    EXPECT_EQ(colorAt(canvas, 5, 10), kBlack);
-    EXPECT_EQ(colorAt(canvas, 10, 10), kRed);
-    EXPECT_EQ(colorAt(canvas, 15, 10), kBlack);
-
-    canvas.clear();
-    canvas.setFillStyle(FillStyle::Transparent);
-    canvas.polygon(square(5, 5, 15, 15));
-    EXPECT_EQ(colorAt(canvas, 10, 10), kBlue);
-}
-
 TEST(RasterCanvas, ARingWithinARingIsAHoleWhicheverWayItRuns) {
     std::vector<CanvasPoint> hole = square(6, 6, 14, 14);
     for (int turned = 0; turned < 2; ++turned) {

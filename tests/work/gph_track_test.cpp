@@ -3,11 +3,8 @@
 
 #include "work/gph_track.h"
 
-#include <random>
-
 #include <gtest/gtest.h>
 
-#include "model/ring_geometry.h"
 #include "support/work_records.h"
 
 namespace campora {
@@ -60,38 +57,6 @@ TEST(GphTrack, FindsTheStepUnderThePointer) {
             << name;
     }
     EXPECT_EQ(track.Gph_mouseOver(ViewTransform(), MapStyle(), atMetres(150, 500), 0), -1);
-}
-
-/// The quick refusal of far steps must not lose one: against every exported polygon in turn.
-TEST(GphTrack, HoverAgreesWithTheExportedPolygons) {
-    std::mt19937 random(20260101);
-    std::uniform_real_distribution<double> stride(-30, 30);
-    std::uniform_real_distribution<float> swath(2, 40);
-    GphTrack track;
-    LonLat at{500, 500 + 60 * METERS_PER_DEGREE};
-    for (int i = 0; i < 200; ++i) {
-        addAt(track, at.x, at.y, reportRecord(100, swath(random)));
-        at = {at.x + stride(random), at.y + stride(random)};
-    }
-    const BoundingBox& box = track.Gph_bound();
-    const ViewTransform view(1, 1, {box.minX - 0.01, box.minY - 0.01}, {10000, 10000});
-    std::uniform_real_distribution<double> x(box.minX, box.maxX);
-    std::uniform_real_distribution<double> y(box.minY, box.maxY);
-    int hits = 0;
-    for (int trial = 0; trial < 500; ++trial) {
-        const LonLat position{x(random), y(random)};
-        std::int32_t expected = -1;
-        for (std::int32_t i = 0; i < track.Gph_count() && expected < 0; ++i) {
-            std::vector<LonLat> ring;
-            for (std::int32_t corner = 0; corner < 4; ++corner) {
-                ring.push_back(track.ExportablePolygon_polygonNpoint(i, corner));
-            }
-            expected = pointInRing(ring, position) ? i : -1;
-        }
-        hits += expected >= 0 ? 1 : 0;
-        EXPECT_EQ(track.Gph_mouseOver(view, MapStyle(), position, 0), expected);
-    }
-    EXPECT_GT(hits, 50);
 }
 
 TEST(GphTrack, StepsWithoutFlowAreExportedWhileAllAreDrawn) {

@@ -3,23 +3,15 @@
 
 #include "work/pass_rules.h"
 
-#include <cmath>
-#include <random>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
 
-#include "model/geodesy.h"
 #include "support/work_records.h"
 
 namespace campora {
 namespace {
-
-/// The direction of a step of one degree at so many degrees to the left of east.
-StepDirection heading(double degrees, double length = 1) {
-    return {length * std::cos(toRadians(degrees)), length * std::sin(toRadians(degrees))};
-}
 
 TEST(TurningAngle, IsZeroStraightOnAndForAReversal) {
     const std::tuple<const char*, StepDirection, StepDirection, float> rows[] = {
@@ -38,28 +30,6 @@ TEST(TurningAngle, StepsEastAreShorterAwayFromTheEquator) {
     const StepDirection step = stepDirection({-60, 60}, {-59, 61});
     EXPECT_NEAR(step.x, 0.5, 1e-12);
     EXPECT_DOUBLE_EQ(step.y, 1);
-}
-
-TEST(TurnsSharply, AgreesWithTheAngle) {
-    std::mt19937 random(20180305);
-    std::uniform_real_distribution<double> any(-180, 180);
-    std::normal_distribution<double> aboutRight(90, 1e-5);
-    std::normal_distribution<double> aboutBack(180, 1e-2);
-    int sharp = 0;
-    constexpr int kRounds = 30000;
-    for (int i = 0; i < kRounds; ++i) {
-        const double start = any(random);
-        const double bend = i % 3 == 0   ? any(random)
-                            : i % 3 == 1 ? aboutRight(random)
-                                         : aboutBack(random);
-        const StepDirection arriving = heading(start, 1e-5);
-        const StepDirection leaving = heading(start + bend, 3e-5);
-        const bool expected = turningAngle(arriving, leaving) > 90;
-        sharp += expected ? 1 : 0;
-        ASSERT_EQ(turnsSharply(arriving, leaving), expected) << start << ' ' << bend;
-    }
-    EXPECT_GT(sharp, kRounds / 4);
-    EXPECT_LT(sharp, kRounds * 3 / 4);
 }
 
 /// Where a machine of swath `swath` goes, metres east and north, and what becomes of each record:

@@ -137,7 +137,6 @@ TEST(TrackDataRPT, DescribesItselfInEveryLanguage) {
 TEST(TrackDataRPT, OffersItsColumns) {
     const std::tuple<int, const char*, ColumnType, CellValue> rows[] = {
         {0, "D_Real1", ColumnType::Real, std::int64_t{120}},
-        {3, "D_Espec2", ColumnType::Real, std::int64_t{50}},
         {5, "Alarmas", ColumnType::Real, std::int64_t{2147483904}},
         {6, "AnchoLabor", ColumnType::Real, 12.34F},
         {7, "Hora", ColumnType::Text, std::string("07:05:09")},
