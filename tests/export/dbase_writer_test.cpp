@@ -43,7 +43,7 @@ TEST_F(DbfTest, WholeFileByteForByte) {
     table.writeRecord();
     EXPECT_EQ(table.recordCount(), 1);
     ASSERT_EQ(table.closeDBF(), std::nullopt);
-    EXPECT_EQ(hexDump(contentOf(path)), hexDump(hexBytes(R"(
+    EXPECT_EQ(contentOf(path), hexBytes(R"(
         03 63 01 1E  01 00 00 00  A1 00  27 00  00 00 00 00 00 00 00 00 00 00 00 00 00 00 00 00
                                                 00 00 00 00
         'id' 00 00 00 00 00 00 00 00 00  'N'  00 00 00 00  05 00
@@ -55,18 +55,11 @@ TEST_F(DbfTest, WholeFileByteForByte) {
         'Dosis' 00 00 00 00 00 00  'N'  00 00 00 00  0F 03
                                                 00 00 00 00 00 00 00 00 00 00 00 00 00 00
         0D
-        ' ' '7    ' 'Ca' F1 'ada    ' '20110305' '12.5           ')")));
+        ' ' '7    ' 'Ca' F1 'ada    ' '20110305' '12.5           ')"));
 }
 
 TEST_F(DbfTest, ValuesByTheTypeOfTheirField) {
-    struct Row {
-        const char* name;
-        DbaseType type;
-        CellValue value;
-        const char* plain;
-        const char* gis;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, DbaseType, CellValue, const char*, const char*> rows[] = {
         {"decimal comma", DbaseType::Numeric, std::string("1,25"), "1.25    ", "    1.25"},
         {"too long", DbaseType::Numeric, std::string("123456789"), "12345678", "12345678"},
         {"text that fills the field", DbaseType::Character, std::string("a,b.c,de"), "a.b.c.de",
@@ -78,15 +71,15 @@ TEST_F(DbfTest, ValuesByTheTypeOfTheirField) {
         {"date by its number", DbaseType::Date, std::int64_t{40607}, "20110305", "20110305"},
         {"text for a date", DbaseType::Date, std::string("ayer"), "        ", "        "},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto& [name, type, value, plain, gis] : rows) {
+        SCOPED_TRACE(name);
         for (const bool forGis : {false, true}) {
             DbaseWriter table(forGis ? std::optional(kToday) : std::nullopt);
-            table.addField("c", row.type, 8, 2);
+            table.addField("c", type, 8, 2);
             ASSERT_EQ(table.createDBF(base), std::nullopt);
-            table.recordField(1, row.value);
+            table.recordField(1, value);
             table.writeRecord();
-            EXPECT_EQ(recordsOf(table), std::string(" ") + (forGis ? row.gis : row.plain));
+            EXPECT_EQ(recordsOf(table), std::string(" ") + (forGis ? gis : plain));
         }
     }
 }

@@ -14,13 +14,8 @@ namespace campora {
 namespace {
 
 TEST(CellInteger, RoundsHalvesToEvenWithinTheType) {
-    struct Row {
-        const char* name;
-        CellValue cell;
-        std::optional<std::int64_t> number;
-    };
     constexpr std::int64_t kMost = std::numeric_limits<std::int64_t>::max();
-    const Row rows[] = {
+    const std::tuple<const char*, CellValue, std::optional<std::int64_t>> rows[] = {
         {"empty", {}, std::nullopt},
         {"every digit of a whole number", kMost - 1, kMost - 1},
         {"tie down", 4.5, 4},
@@ -29,39 +24,33 @@ TEST(CellInteger, RoundsHalvesToEvenWithinTheType) {
         {"one too large", 9223372036854775808.0, std::nullopt},
         {"no number", std::nan(""), std::nullopt},
     };
-    for (const Row& row : rows) {
-        EXPECT_EQ(cellInteger(row.cell), row.number) << row.name;
+    for (const auto& [name, cell, number] : rows) {
+        EXPECT_EQ(cellInteger(cell), number) << name;
     }
 }
 
 TEST(ExportColumns, ATypeHoldsTheCellsOfEveryLayerInAnyOrder) {
     using enum ColumnType;
-    struct Row {
-        const char* name;
-        ColumnType one;
-        ColumnType other;
-        ColumnType both;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, ColumnType, ColumnType, ColumnType> rows[] = {
         {"the same", Date, Date, Date},
         {"numbers", Integer, Real, Real},
         {"number and text", Real, Text, Text},
         {"number and date", Integer, Date, Text},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        AttributeLayer one({squareAt(0, 0)}, {{"A", row.one, {CellValue()}}});
+    for (const auto& [name, first, second, united] : rows) {
+        SCOPED_TRACE(name);
+        AttributeLayer one({squareAt(0, 0)}, {{"A", first, {CellValue()}}});
         // Of two columns of one name in a layer only the first one is read.
-        AttributeLayer other({squareAt(0, 0)}, {{"A", row.other, {CellValue()}},
+        AttributeLayer other({squareAt(0, 0)}, {{"A", second, {CellValue()}},
                                                 {"A", ColumnType::Text, {CellValue()}}});
         const std::vector<Gph*> orders[] = {{&one, &other}, {&other, &one}};
         for (const std::vector<Gph*>& order : orders) {
             const auto layers = pointLayers(order);
             const ExportColumns all = ExportColumns::ofAll(layers);
             ASSERT_EQ(all.columns().size(), 1U);
-            EXPECT_EQ(all.columns()[0].type, row.both);
+            EXPECT_EQ(all.columns()[0].type, united);
             EXPECT_EQ(ExportColumns::ofFirst(layers).columns()[0].type,
-                      order[0] == &one ? row.one : row.other);
+                      order[0] == &one ? first : second);
         }
     }
 }

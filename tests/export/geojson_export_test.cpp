@@ -48,13 +48,7 @@ TEST_F(GeoJsonTest, WholeFile) {
 }
 
 TEST_F(GeoJsonTest, PropertiesByTheTypeOfTheirColumn) {
-    struct Row {
-        const char* name;
-        ColumnType type;
-        CellValue cell;
-        const char* json;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, ColumnType, CellValue, const char*> rows[] = {
         {"fraction among integers", ColumnType::Integer, 12.34F, "12.34"},
         {"no integer", ColumnType::Integer, std::string("x"), "null"},
         {"more than a shapefile holds", ColumnType::Integer, std::int64_t{123456789012},
@@ -65,11 +59,11 @@ TEST_F(GeoJsonTest, PropertiesByTheTypeOfTheirColumn) {
         {"text", ColumnType::Text, std::string("a\\b"), R"("a\\b")"},
         {"text of another code page", ColumnType::Text, std::string("Ca\xF1"), "\"Ca\u00f1\""},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        AttributeLayer layer({squareAt(0, 0)}, {{"c", row.type, {row.cell}}});
+    for (const auto& [name, type, cell, json] : rows) {
+        SCOPED_TRACE(name);
+        AttributeLayer layer({squareAt(0, 0)}, {{"c", type, {cell}}});
         ASSERT_EQ(write({&layer}), std::nullopt);
-        EXPECT_NE(contentOf(path).find(std::string("{\"c\":") + row.json + "}}"), std::string::npos)
+        EXPECT_NE(contentOf(path).find(std::string("{\"c\":") + json + "}}"), std::string::npos)
             << contentOf(path);
     }
 }
@@ -78,15 +72,12 @@ TEST_F(GeoJsonTest, ColumnsOfAllLayers) {
     AttributeLayer one({squareAt(0, 0)}, {{"A", ColumnType::Integer, {std::int64_t{1}}}});
     AttributeLayer two({squareAt(3, 0), squareAt(5, 0)},
                        {{"B", ColumnType::Text, {std::string("x"), std::string("y")}}});
-    AttributeLayer none({squareAt(9, 0)}, {});
     const nlohmann::json both = written({&one, &two})["features"];
     ASSERT_EQ(both.size(), 3U);
     EXPECT_EQ(both[0]["properties"], nlohmann::json::parse(R"({"A":1,"B":null})"));
     EXPECT_EQ(both[2]["properties"], nlohmann::json::parse(R"({"A":null,"B":"y"})"));
     AttributeLayer bare({squareAt(0, 0), squareAt(1, 1)}, {});
-    const nlohmann::json numbered = written({&bare, &none})["features"];
-    EXPECT_EQ(numbered[1]["properties"], nlohmann::json::parse(R"({"id":1})"));
-    EXPECT_EQ(numbered[2]["properties"], nlohmann::json::parse(R"({"id":0})"));
+    EXPECT_EQ(written({&bare})["features"][1]["properties"], nlohmann::json::parse(R"({"id":1})"));
 }
 
 TEST_F(GeoJsonTest, AHoleRunsWithTheClock) {

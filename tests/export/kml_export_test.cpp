@@ -3,7 +3,6 @@
 
 #include "export/kml_export.h"
 
-#include <QXmlStreamReader>
 #include <gtest/gtest.h>
 
 #include "support/exported_layers.h"
@@ -11,8 +10,6 @@
 
 namespace campora {
 namespace {
-
-constexpr auto kShipped = CAMPORA_SOURCE_DIR "/data";
 
 struct KmlTest : testing::Test {
     KmlTest() {
@@ -61,45 +58,6 @@ TEST_F(KmlTest, TemplatesAreFoundBesideTheProgramThenInItsFolderWithoutRegardToC
     other.write("kmlHead.inc", "a");
     EXPECT_EQ(save({&dot}, other.path() + "/"), std::nullopt);
     EXPECT_EQ(contentOf(path), "a\r\nlote.kml\r\n-\r\n-\r\n1.,2.,50\r\n-\r\nz\r\n");
-}
-
-struct Document {
-    bool isWhole = false;
-    std::string name;
-    int placemarks = 0;
-    std::string coordinates;
-};
-
-Document readDocument(const std::string& path) {
-    Document document;
-    QXmlStreamReader reader(QByteArray::fromStdString(contentOf(path)));
-    while (!reader.atEnd()) {
-        if (reader.readNext() != QXmlStreamReader::StartElement) {
-            continue;
-        }
-        if (reader.name() == u"name") {
-            document.name = reader.readElementText().trimmed().toStdString();
-        } else if (reader.name() == u"Placemark") {
-            ++document.placemarks;
-        } else if (reader.name() == u"coordinates") {
-            document.coordinates = reader.readElementText().simplified().toStdString();
-        }
-    }
-    document.isWhole = !reader.hasError();
-    return document;
-}
-
-TEST_F(KmlTest, ShippedTemplatesMakeADocumentWhateverTheNameHolds) {
-    for (const std::string name : {"a]]>b]]>.kml", "Ca\u00f1ada & \"Sur\" <1>\t.kml"}) {
-        SCOPED_TRACE(name);
-        path = folder.file(name);
-        ASSERT_EQ(save({&triangle}, kShipped), std::nullopt);
-        const Document document = readDocument(path);
-        EXPECT_TRUE(document.isWhole);
-        EXPECT_EQ(document.name, QString::fromStdString(name).replace('\t', ' ').toStdString());
-        EXPECT_EQ(document.placemarks, 2);
-        EXPECT_EQ(document.coordinates, "-58.3816,-34.25,50");
-    }
 }
 
 }  // namespace

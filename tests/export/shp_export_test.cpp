@@ -63,8 +63,7 @@ TEST_F(ShpTest, PolygonsByteForByte) {
     const std::string head = hexBytes(R"(
         00 00 27 0A  00 00 00 00  00 00 00 00  00 00 00 00  00 00 00 00  00 00 00 00)");
     const std::string type = hexBytes("E8 03 00 00  05 00 00 00");
-    EXPECT_EQ(hexDump(content(".shp")),
-              hexDump(head + hexBytes("00 00 00 A2") + type + box + noBox + hexBytes(R"(
+    EXPECT_EQ(content(".shp"), head + hexBytes("00 00 00 A2") + type + box + noBox + hexBytes(R"(
         00 00 00 01  00 00 00 30
         05 00 00 00
         00 00 00 00 00 00 F0 3F  00 00 00 00 00 00 00 40
@@ -81,11 +80,10 @@ TEST_F(ShpTest, PolygonsByteForByte) {
         00 00 00 00 00 00 00 00  00 00 00 00 00 00 00 00
         00 00 00 00 00 00 F0 3F  00 00 00 00 00 00 00 00
         00 00 00 00 00 00 00 00  00 00 00 00 00 00 F0 3F
-        00 00 00 00 00 00 00 00  00 00 00 00 00 00 00 00)")));
-    EXPECT_EQ(hexDump(content(".shx")),
-              hexDump(head + hexBytes("00 00 00 3A") + type + box + noBox + hexBytes(R"(
+        00 00 00 00 00 00 00 00  00 00 00 00 00 00 00 00)"));
+    EXPECT_EQ(content(".shx"), head + hexBytes("00 00 00 3A") + type + box + noBox + hexBytes(R"(
         00 00 00 32  00 00 00 30
-        00 00 00 66  00 00 00 38)")));
+        00 00 00 66  00 00 00 38)"));
     EXPECT_EQ(records(1), " 0     2    ") << "the number in its layer";
     EXPECT_EQ(content(".cpg"), "1252");
     EXPECT_TRUE(content(".prj").starts_with("GEOGCS[\"GCS_WGS_1984\",DATUM["));
@@ -97,29 +95,21 @@ TEST_F(ShpTest, PointsByteForByte) {
     ASSERT_EQ(points({&first, &second}), std::nullopt);
     const std::string shapes = content(".shp");
     ASSERT_EQ(shapes.size(), 184U);
-    EXPECT_EQ(hexDump(shapes.substr(24, 12)),
-              hexDump(hexBytes("00 00 00 5C E8 03 00 00 01 00 00 00")));
-    EXPECT_EQ(hexDump(shapes.substr(100)), hexDump(hexBytes(R"(
+    EXPECT_EQ(shapes.substr(24, 12), hexBytes("00 00 00 5C E8 03 00 00 01 00 00 00"));
+    EXPECT_EQ(shapes.substr(100), hexBytes(R"(
         00 00 00 01  00 00 00 0A  01 00 00 00
             00 00 00 00 00 00 F0 3F  00 00 00 00 00 00 00 40
         00 00 00 02  00 00 00 0A  01 00 00 00
             00 00 00 00 00 00 08 C0  00 00 00 00 00 00 10 40
         00 00 00 03  00 00 00 0A  01 00 00 00
-            00 00 00 00 00 00 14 40  00 00 00 00 00 00 18 40)")));
-    EXPECT_EQ(hexDump(content(".shx").substr(100)), hexDump(hexBytes(R"(
-        00 00 00 32 00 00 00 0A  00 00 00 40 00 00 00 0A  00 00 00 4E 00 00 00 0A)")));
+            00 00 00 00 00 00 14 40  00 00 00 00 00 00 18 40)"));
+    EXPECT_EQ(content(".shx").substr(100), hexBytes(R"(
+        00 00 00 32 00 00 00 0A  00 00 00 40 00 00 00 0A  00 00 00 4E 00 00 00 0A)"));
     EXPECT_EQ(records(1), " 0     1     0    ") << "from 0 in every layer";
 }
 
 TEST_F(ShpTest, CellsByTheTypeOfTheirColumn) {
-    struct Row {
-        const char* name;
-        ColumnType type;
-        CellValue cell;
-        const char* plain;
-        const char* gis;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, ColumnType, CellValue, const char*, const char*> rows[] = {
         {"tie to even", ColumnType::Integer, 2.5F, "2     ", "          2.500"},
         {"rounded", ColumnType::Real, 0.0005, "0.001          ", "          0.001"},
         {"whole number in a real column", ColumnType::Real, whole(4294967295), "4294967295.000 ",
@@ -127,13 +117,13 @@ TEST_F(ShpTest, CellsByTheTypeOfTheirColumn) {
         {"text", ColumnType::Text, std::string("Ca\u00f1 a"), "Ca\xF1 a     ", "Ca\xF1 a     "},
         {"date", ColumnType::Date, Date{2018, 3, 5}, "20180305", "20180305"},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        AttributeLayer layer({squareAt(0, 0)}, {{"c", row.type, {row.cell}}});
+    for (const auto& [name, type, cell, plain, ofGis] : rows) {
+        SCOPED_TRACE(name);
+        AttributeLayer layer({squareAt(0, 0)}, {{"c", type, {cell}}});
         ASSERT_EQ(polygons({&layer}), std::nullopt);
-        EXPECT_EQ(records(1), std::string(" ") + row.plain);
+        EXPECT_EQ(records(1), std::string(" ") + plain);
         ASSERT_EQ(gis({&layer}), std::nullopt);
-        EXPECT_EQ(records(1), std::string(" ") + row.gis);
+        EXPECT_EQ(records(1), std::string(" ") + ofGis);
     }
 }
 
@@ -161,8 +151,7 @@ TEST_F(ShpTest, LayersThatLackTheFiguresAreLeftOut) {
     PointLayer pointsOnly({{7, 8}});
     RingLayer ringsOnly({squareAt(0, 0)});
     ASSERT_EQ(points({&picture, &pointsOnly, &ringsOnly}), std::nullopt);
-    EXPECT_EQ(hexDump(content(".shp").substr(32, 36)),
-              hexDump(hexBytes("01 00 00 00") + std::string(32, '\0')))
+    EXPECT_EQ(content(".shp").substr(32, 36), hexBytes("01 00 00 00") + std::string(32, '\0'))
         << "no layer has a box";
     RingLayer noRings({});
     ASSERT_EQ(gis({&picture, &noRings, &pointsOnly}), std::nullopt);
@@ -193,9 +182,9 @@ TEST_F(ShpTest, GisRingsAreClosedClockwiseAndWithoutCrossings) {
                          {{"n", ColumnType::Integer, {whole(0), whole(1), whole(2)}}});
     ASSERT_EQ(gis({&layer}), std::nullopt);
     const std::string shapes = content(".shp");
-    EXPECT_EQ(hexDump(shapes.substr(36, 32)), hexDump(hexBytes(R"(
+    EXPECT_EQ(shapes.substr(36, 32), hexBytes(R"(
         00 00 00 00 00 00 00 00  00 00 00 00 00 00 00 00
-        00 00 00 00 00 00 00 40  00 00 00 00 00 00 00 40)")))
+        00 00 00 00 00 00 00 40  00 00 00 00 00 00 00 40)"))
         << "what the polygons cover";
     ShapeReader reader;
     ASSERT_EQ(reader.open(base + ".shp"), std::nullopt);

@@ -32,12 +32,7 @@ struct TextTest : testing::Test {
 };
 
 TEST_F(TextTest, CoordinatesHaveABlankForASignAndFifteenDigits) {
-    struct Row {
-        const char* name;
-        double value;
-        const char* text;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, double, const char*> rows[] = {
         {"negative zero", -0.0, " 0"},
         {"fifteen digits", -58.381612345678912, "-58.3816123456789"},
         {"the sixteenth rounds", 0.1 + 0.2, " 0.3"},
@@ -45,10 +40,10 @@ TEST_F(TextTest, CoordinatesHaveABlankForASignAndFifteenDigits) {
         {"large, without exponent", 1e17, " 100000000000000000"},
         {"no number", std::numeric_limits<double>::quiet_NaN(), " 0"},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        const PointLayer layer({{row.value, 1}});
-        EXPECT_EQ(table({&layer}), "Longitud\tLatitud\r\n" + std::string(row.text) + "\t 1\r\n");
+    for (const auto& [name, value, text] : rows) {
+        SCOPED_TRACE(name);
+        const PointLayer layer({{value, 1}});
+        EXPECT_EQ(table({&layer}), "Longitud\tLatitud\r\n" + std::string(text) + "\t 1\r\n");
     }
 }
 

@@ -25,23 +25,16 @@ double oneEach(std::string_view text, PageFont /*font*/) {
 }
 
 TEST(TextFit, ElidesToWhatFitsWithoutCuttingACharacter) {
-    struct Row {
-        const char* name;
-        std::string text;
-        double width;
-        std::string end;
-        std::string start;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, const char*, double, const char*, const char*> rows[] = {
         {"too long", "campo/lote.rpt", 8, "campo/l…", "…ote.rpt"},
         {"accents", "ñandúñandú", 4, "ñan…", "…ndú"},
         {"no blank before the dots", "lote norte", 6, "lote…", "…norte"},
         {"nothing fits", "lote", 0.5, "", ""},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_EQ(elidedEnd(row.text, kFont, row.width, oneEach), row.end);
-        EXPECT_EQ(elidedStart(row.text, kFont, row.width, oneEach), row.start);
+    for (const auto& [name, text, width, end, start] : rows) {
+        SCOPED_TRACE(name);
+        EXPECT_EQ(elidedEnd(text, kFont, width, oneEach), end);
+        EXPECT_EQ(elidedStart(text, kFont, width, oneEach), start);
     }
 }
 

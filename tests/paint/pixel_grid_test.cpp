@@ -42,14 +42,9 @@ struct Picture {
 };
 
 TEST(RingFiller, FillsThePixelsWhoseCentresLieInside) {
-    struct Row {
-        const char* name;
-        std::vector<PixelPoint> ring;
-        const char* picture;
-    };
     const char* const kNone = "......|......|......|......";
     const char* const kAll = "111111|111111|111111|111111";
-    const Row rows[] = {
+    const std::tuple<const char*, std::vector<PixelPoint>, const char*> rows[] = {
         {"square on pixel edges", {{1, 1}, {4, 1}, {4, 3}, {1, 3}}, "......|.111..|.111..|......"},
         {"too thin for a centre", {{1, 1.6}, {5, 1.6}, {5, 2.4}, {1, 2.4}}, kNone},
         {"a second turn the same way leaves no hole",
@@ -61,11 +56,11 @@ TEST(RingFiller, FillsThePixelsWhoseCentresLieInside) {
         {"figure of eight", {{0, 0}, {6, 4}, {6, 0}, {0, 4}}, "1....1|11..11|11..11|1....1"},
         {"far outside", {{-1e9, -1e9}, {1e9, -1e9}, {1e9, 1e9}, {-1e9, 1e9}}, kAll},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto& [name, ring, drawn] : rows) {
+        SCOPED_TRACE(name);
         Picture picture(6, 4);
-        RingFiller().fill(picture.grid, row.ring, 1);
-        EXPECT_EQ(picture.text(), row.picture);
+        RingFiller().fill(picture.grid, ring, 1);
+        EXPECT_EQ(picture.text(), drawn);
     }
 }
 

@@ -28,13 +28,4 @@ namespace campora {
     return bytes;
 }
 
-/// The other way, for messages: a line of 16 for every 16 bytes.
-[[nodiscard]] inline std::string hexDump(std::string_view bytes) {
-    std::string text;
-    for (std::size_t i = 0; i < bytes.size(); ++i) {
-        text += hexText(static_cast<unsigned char>(bytes[i]), 2) + (i % 16 == 15 ? "\n" : " ");
-    }
-    return text;
-}
-
 }  // namespace campora
