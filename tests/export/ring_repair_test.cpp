@@ -82,52 +82,34 @@ bool holds(const std::vector<ValidPolygon>& polygons, LonLat point) {
 }
 
 TEST(ValidPolygons, GiveWhatTheRingEncloses) {
-    struct Row {
-        const char* name;
-        std::size_t polygons;
-        std::size_t holes;
-        double area;
-        Ring ring;
-    };
-    const Row rows[] = {
-        {"open square against the clock", 1, 0, 1, {{0, 0}, {1, 0}, {1, 1}, {0, 1}}},
-        {"bow tie", 2, 0, 2, {{0, 0}, {2, 2}, {2, 0}, {0, 2}}},
-        {"corner on the edge opposite", 2, 0, 4, {{0, 0}, {4, 0}, {4, 2}, {2, 0}, {0, 2}}},
-        {"spike outside", 1, 0, 4, {{0, 0}, {2, 0}, {2, 1}, {5, 1}, {2, 1}, {2, 2}, {0, 2}}},
-        {"spike along an edge", 1, 0, 4, {{0, 0}, {4, 0}, {2, 0}, {2, 2}, {0, 2}}},
-        {"a hole reached by a cut",
-         1,
+    const std::tuple<const char*, std::size_t, double, Ring> rows[] = {
+        {"open square against the clock", 1, 1, {{0, 0}, {1, 0}, {1, 1}, {0, 1}}},
+        {"bow tie", 2, 2, {{0, 0}, {2, 2}, {2, 0}, {0, 2}}},
+        {"corner on the edge opposite", 2, 4, {{0, 0}, {4, 0}, {4, 2}, {2, 0}, {0, 2}}},
+        {"spike outside", 1, 4, {{0, 0}, {2, 0}, {2, 1}, {5, 1}, {2, 1}, {2, 2}, {0, 2}}},
+        {"spike along an edge", 1, 4, {{0, 0}, {4, 0}, {2, 0}, {2, 2}, {0, 2}}},
+        {"a hole that touches a corner",
          1,
          32,
-         {{0, 0}, {6, 0}, {6, 6}, {0, 6}, {0, 0}, {2, 2}, {2, 4}, {4, 4}, {4, 2}, {2, 2}}},
-        {"star of five, its middle counted twice",
-         5,
-         0,
-         0,
-         {{0, 3}, {1.8, -2.4}, {-2.9, 0.9}, {2.9, 0.9}, {-1.8, -2.4}}},
-        {"there and back", 0, 0, 0, {{0, 0}, {1, 1}, {2, 2}, {1, 1}}},
-        {"twice round", 0, 0, 0, {{0, 0}, {1, 0}, {1, 1}, {0, 0}, {1, 0}, {1, 1}}},
-        {"nothing", 0, 0, 0, {}},
-        {"no number", 0, 0, 0, {{0, 0}, {1, 0}, {1, std::nan("")}, {0, 1}}},
+         {{0, 0}, {6, 0}, {6, 6}, {0, 6}, {0, 0}, {1, 3}, {3, 1}}},
+        {"there and back", 0, 0, {{0, 0}, {1, 1}, {2, 2}, {1, 1}}},
+        {"twice round", 0, 0, {{0, 0}, {1, 0}, {1, 1}, {0, 0}, {1, 0}, {1, 1}}},
+        {"nothing", 0, 0, {}},
+        {"no number", 0, 0, {{0, 0}, {1, 0}, {1, std::nan("")}, {0, 1}}},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        const std::vector<ValidPolygon> polygons = valid(row.ring);
+    for (const auto& [name, count, expected, ring] : rows) {
+        SCOPED_TRACE(name);
+        const std::vector<ValidPolygon> polygons = valid(ring);
         expectSimple(polygons);
-        EXPECT_EQ(polygons.size(), row.polygons);
-        std::size_t holes = 0;
+        EXPECT_EQ(polygons.size(), count);
         double area = 0;
         for (const ValidPolygon& polygon : polygons) {
-            holes += polygon.holes.size();
             area -= twiceClosedArea(polygon.outer) / 2;
             for (const ClosedRing& hole : polygon.holes) {
                 area -= twiceClosedArea(hole) / 2;
             }
         }
-        EXPECT_EQ(holes, row.holes);
-        if (row.area > 0) {
-            EXPECT_NEAR(area, row.area, 1e-12);
-        }
+        EXPECT_NEAR(area, expected, 1e-12);
     }
 }
 

@@ -33,37 +33,34 @@ TEST(NumberColumn, ReadsThousandsAndDecimalsByTheSign) {
 }
 
 TEST(NumberColumn, IsReadInOneWayInTwoOrInNone) {
-    struct Row {
-        const char* name;
-        std::vector<std::string> cells;
-        bool point;
-        bool comma;
-        bool ambiguous;
-        int bad;  ///< record
-        int blanks = 0;
-        bool isText = true;
-    };
-    const Row rows[] = {
-        {"a point between thousands or decimals", {"950", "1.200"}, true, true, true, 0},
-        {"the same in a column of numbers", {"950", "1.200"}, true, false, false, 0, 0, false},
-        {"no thousands", {"1.200", "0.5"}, true, false, false, 0},
-        {"both signs", {"1.5", "2,5"}, false, false, false, 2},
-        {"blanks and stars", {"", "7", "***"}, true, true, false, 0, 2},
-        {"nothing but blanks", {"", ""}, false, false, false, 1, 2},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        ColumnSurvey survey(row.isText);
-        for (std::size_t i = 0; i < row.cells.size(); ++i) {
-            const bool plain = row.cells[i].find_first_not_of("0123456789.") == std::string::npos;
-            survey.add(static_cast<std::int32_t>(i) + 1, row.cells[i],
-                       plain && !row.cells[i].empty());
+    const std::tuple<const char*, std::vector<std::string>, bool, bool, bool, int, int, bool>
+        rows[] = {
+            {"a point between thousands or decimals",
+             {"950", "1.200"},
+             true,
+             true,
+             true,
+             0,
+             0,
+             true},
+            {"the same in a column of numbers", {"950", "1.200"}, true, false, false, 0, 0, false},
+            {"no thousands", {"1.200", "0.5"}, true, false, false, 0, 0, true},
+            {"both signs", {"1.5", "2,5"}, false, false, false, 2, 0, true},
+            {"blanks and stars", {"", "7", "***"}, true, true, false, 0, 2, true},
+            {"nothing but blanks", {"", ""}, false, false, false, 1, 2, true},
+        };
+    for (const auto& [name, cells, point, comma, ambiguous, bad, blanks, isText] : rows) {
+        SCOPED_TRACE(name);
+        ColumnSurvey survey(isText);
+        for (std::size_t i = 0; i < cells.size(); ++i) {
+            const bool plain = cells[i].find_first_not_of("0123456789.") == std::string::npos;
+            survey.add(static_cast<std::int32_t>(i) + 1, cells[i], plain && !cells[i].empty());
         }
-        EXPECT_EQ(survey.fits(DecimalSign::Point), row.point);
-        EXPECT_EQ(survey.fits(DecimalSign::Comma), row.comma);
-        EXPECT_EQ(survey.ambiguous() != nullptr, row.ambiguous);
-        EXPECT_EQ(survey.bad() ? survey.bad()->record : 0, row.bad);
-        EXPECT_EQ(survey.blanks(), row.blanks);
+        EXPECT_EQ(survey.fits(DecimalSign::Point), point);
+        EXPECT_EQ(survey.fits(DecimalSign::Comma), comma);
+        EXPECT_EQ(survey.ambiguous() != nullptr, ambiguous);
+        EXPECT_EQ(survey.bad() ? survey.bad()->record : 0, bad);
+        EXPECT_EQ(survey.blanks(), blanks);
     }
 }
 

@@ -3,7 +3,6 @@
 
 #include "paint/pixel_grid.h"
 
-#include <cmath>
 #include <random>
 #include <string>
 #include <vector>
@@ -64,40 +63,6 @@ TEST(RingFiller, FillsThePixelsWhoseCentresLieInside) {
     }
 }
 
-TEST(RingFiller, NeighboursThatShareCornersLeaveNoSeamAndNoOverlap) {
-    // A crooked mesh over the whole picture: every pixel must be covered exactly once.
-    constexpr int kCells = 9;
-    constexpr int kStep = 7;
-    constexpr int kSide = kCells * kStep;
-    std::mt19937 random(7);
-    std::uniform_real_distribution<double> shift(-2.9, 2.9);
-    std::vector<PixelPoint> knots;
-    for (int row = 0; row <= kCells; ++row) {
-        for (int column = 0; column <= kCells; ++column) {
-            const bool inside = row % kCells != 0 && column % kCells != 0;
-            knots.push_back({column * kStep + (inside ? shift(random) : 0),
-                             row * kStep + (inside ? shift(random) : 0)});
-        }
-    }
-    Picture covered(kSide, kSide);
-    RingFiller filler;
-    const auto knot = [&](int row, int column) {
-        return knots[static_cast<std::size_t>(row * (kCells + 1) + column)];
-    };
-    for (int row = 0; row < kCells; ++row) {
-        for (int column = 0; column < kCells; ++column) {
-            Picture one(kSide, kSide);
-            const std::vector<PixelPoint> ring{knot(row, column), knot(row, column + 1),
-                                               knot(row + 1, column + 1), knot(row + 1, column)};
-            filler.fill(one.grid, ring, 1);
-            for (std::size_t i = 0; i < one.pixels.size(); ++i) {
-                covered.pixels[i] += one.pixels[i];
-            }
-        }
-    }
-    EXPECT_EQ(covered.pixels, std::vector<std::uint32_t>(covered.pixels.size(), 1));
-}
-
 TEST(RingFiller, ARunOfStepsCoversWhatItsStepsCover) {
     std::mt19937 random(11);
     std::uniform_real_distribution<double> weave(-1.5, 1.5);
@@ -122,20 +87,11 @@ TEST(RingFiller, ARunOfStepsCoversWhatItsStepsCover) {
 }
 
 TEST(LineDrawer, DrawsLinesOfAnyDirectionWidthAndStyle) {
-    struct Line {
-        PixelPoint from;
-        PixelPoint to;
-    };
-    struct Row {
-        const char* name;
-        std::vector<Line> lines;
-        LineDrawer::Pen pen;
-        const char* picture;
-    };
+    using Lines = std::vector<std::pair<PixelPoint, PixelPoint>>;
     const LineDrawer::Pen thin{1, 1, false};
     const LineDrawer::Pen wide{1, 2, false};
     const LineDrawer::Pen dots{1, 1, true};
-    const Row rows[] = {
+    const std::tuple<const char*, Lines, LineDrawer::Pen, const char*> rows[] = {
         {"a point", {{{2.5, 1.5}, {2.5, 1.5}}}, thin, ".......|..1....|......."},
         {"both ends belong to it", {{{1, 1}, {5, 1}}}, thin, ".......|.11111.|......."},
         {"slanting", {{{0, 0}, {6, 2}}}, thin, "11.....|..111..|.....11"},
@@ -147,14 +103,14 @@ TEST(LineDrawer, DrawsLinesOfAnyDirectionWidthAndStyle) {
          ".......|1..1..1|......."},
         {"clipped at both ends", {{{-1e8, 1}, {1e8, 1}}}, thin, ".......|1111111|......."},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto& [name, lines, pen, drawn] : rows) {
+        SCOPED_TRACE(name);
         Picture picture(7, 3);
         LineDrawer drawer;
-        for (const Line& line : row.lines) {
-            drawer.line(picture.grid, line.from, line.to, row.pen);
+        for (const auto& [from, to] : lines) {
+            drawer.line(picture.grid, from, to, pen);
         }
-        EXPECT_EQ(picture.text(), row.picture);
+        EXPECT_EQ(picture.text(), drawn);
     }
 }
 

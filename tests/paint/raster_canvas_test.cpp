@@ -114,31 +114,6 @@ TEST(RasterCanvas, DrawnInPartsItIsTheSamePicture) {
     }
 }
 
-/// A ring in one row or column of pixels has a way of its own.
-TEST(RasterCanvas, ASmallRingOfOneColourIsItsOutlineAndItsInside) {
-    std::mt19937 random(20260105);
-    std::uniform_int_distribution<std::int32_t> corner(0, 3 * kUnits);
-    for (int i = 0; i < 2000; ++i) {
-        std::vector<CanvasPoint> ring;
-        for (int k = 0; k < 3 + i % 4; ++k) {
-            ring.push_back(
-                {150 + corner(random) / (1 + i % 3), 150 + corner(random) / (3 - i % 3)});
-        }
-        RasterCanvas small({20 * kUnits, 20 * kUnits});
-        RasterCanvas drawn({20 * kUnits, 20 * kUnits});
-        small.setFillColor(kRed);
-        small.setPenColor(kRed);
-        small.polygon(ring);
-        drawn.setFillColor(kRed);
-        drawn.setPenColor(kBlue);
-        drawn.polygon(ring);
-        for (int at = 0; at < 400; ++at) {
-            const Color color = colorAt(drawn, at % 20, at / 20);
-            EXPECT_EQ(colorAt(small, at % 20, at / 20), color == kBlue ? kRed : color);
-        }
-    }
-}
-
 TEST(RasterCanvas, WhatFailsInAPartFailsOutside) {
     RasterCanvas canvas({20 * kUnits, 20 * kUnits});
     EXPECT_THROW(canvas.drawInParts([](MapCanvas&, CanvasRows) { throw std::bad_alloc(); }),

@@ -15,9 +15,7 @@ TEST(VexAlarmas, NamesAlarmsOfTheMachine) {
         {WorkKind::Seeder, 0, "Falla de siembra"},
         {WorkKind::Seeder, 2, ""},
         {WorkKind::Seeder, 24, "Motor 4 no responde"},
-        {WorkKind::Seeder, 29, "Alta tensión"},
         {WorkKind::OlderForm, 0, "Falla de siembra"},
-        {WorkKind::Sprayer, 0, "Presión Máxima"},
         {WorkKind::Sprayer, 10, "Alarma de Verificar Fusibles"},
         {WorkKind::Sprayer, 32, ""},
     };
