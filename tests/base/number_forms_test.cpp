@@ -3,7 +3,6 @@
 
 #include "base/number_forms.h"
 
-#include <cmath>
 #include <limits>
 
 #include <gtest/gtest.h>

@@ -16,7 +16,6 @@
 #include <gtest/gtest.h>
 
 #include "base/numbers.h"
-#include "support/scripted_platform.h"
 
 namespace campora {
 namespace {

@@ -3,8 +3,6 @@
 
 #include "lots/load_lot.h"
 
-#include <filesystem>
-
 #include <gtest/gtest.h>
 
 #include "lots/gph_lote.h"
@@ -41,14 +39,6 @@ TEST_F(LoadLot, MakesAnEntryOfTheList) {
     const auto& lot = dynamic_cast<const GphLote&>(*file->File_gphList().front());
     EXPECT_EQ(lot.vertices()[2], (LonLat{0.01, 0.01}));
     EXPECT_TRUE(dialogs.messages.empty());
-}
-
-TEST_F(LoadLot, TheAreaHoldsFarFromTheOrigin) {
-    // 47.51; in single precision it would be 47.496.
-    const auto file =
-        load(folder.write("x.lot", "34,62\r\n34,61.9932\r\n33.9932,61.9932\r\n33.9932,62"));
-    ASSERT_NE(file, nullptr);
-    EXPECT_EQ(file->File_resumen().value_(1), "48");
 }
 
 TEST_F(LoadLot, RefusesWhatIsNoLotWithAMessage) {

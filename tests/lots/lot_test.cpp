@@ -7,8 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include "base/failure.h"
-
 namespace campora {
 
 void PrintTo(const LonLat& position, std::ostream* out) {

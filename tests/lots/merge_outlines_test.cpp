@@ -4,8 +4,6 @@
 #include "lots/merge_outlines.h"
 
 #include <algorithm>
-#include <cmath>
-#include <numeric>
 
 #include <gtest/gtest.h>
 

@@ -71,17 +71,5 @@ TEST(RingGeometry, PointInRing) {
     EXPECT_FALSE(pointInRing({}, {0, 0}));
 }
 
-TEST(RingPerimeter, GoesRoundEachEdgeAtItsOwnLatitude) {
-    const std::tuple<const char*, std::vector<LonLat>, double> rows[] = {
-        {"nothing", {}, 0},
-        {"there and back", {{0, 0}, {0.01, 0}}, 2226.4},
-        {"a square at the equator", {{0, 0}, {0.01, 0}, {0.01, 0.01}, {0, 0.01}}, 4452.8},
-        {"a square at 60 degrees", {{5, 60}, {5.01, 60}, {5.01, 60.01}, {5, 60.01}}, 3339.43},
-    };
-    for (const auto& [name, ring, metres] : rows) {
-        EXPECT_NEAR(ringPerimeter(ring), metres, 0.1) << name;
-    }
-}
-
 }  // namespace
 }  // namespace campora

@@ -3,14 +3,12 @@
 
 #include "model/view_transform.h"
 
-#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
 #include <random>
 #include <utility>
-#include <vector>
 
 #include <gtest/gtest.h>
 

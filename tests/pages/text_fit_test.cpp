@@ -5,8 +5,6 @@
 
 #include <gmock/gmock.h>
 
-#include "base/encoding.h"
-
 namespace campora {
 namespace {
 

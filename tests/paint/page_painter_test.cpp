@@ -3,7 +3,6 @@
 
 #include "paint/page_painter.h"
 
-#include <algorithm>
 #include <memory>
 #include <string>
 

@@ -5,7 +5,6 @@
 #include <filesystem>
 #include <set>
 #include <string>
-#include <vector>
 
 #include <gtest/gtest.h>
 

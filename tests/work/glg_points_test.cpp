@@ -3,7 +3,6 @@
 
 #include "work/glg_points.h"
 
-#include <cmath>
 #include <limits>
 #include <span>
 

@@ -3,7 +3,6 @@
 
 #include <limits>
 #include <numeric>
-#include <string>
 #include <vector>
 
 #include <gmock/gmock.h>

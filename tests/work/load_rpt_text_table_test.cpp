@@ -121,18 +121,5 @@ TEST(LoadRptTextTable, AnUnreadableLineEndsTheReading) {
     }
 }
 
-TEST(LoadRptTextTable, FieldsBeyondTheirRangeTakeTheNearestValue) {
-    const LoadedWork work =
-        WorkReading()
-            .table(kHeadings8 + "-61.2\t-34.6\t1e99\t-1e99\t1e99\t300\t1e99\t-1:999:5.7\n")
-            .value();
-    const TrackDataRPT& record = reportRecordOf(work, 0, 0);
-    EXPECT_EQ(record.getCaudal()[0], 2147483647);
-    EXPECT_EQ(record.getDosis()[0], -2147483648);
-    EXPECT_EQ(record.velocidad(), 3.40282347e38F);
-    EXPECT_EQ(record.code(), 255);
-    EXPECT_EQ(record.hora(), "00:255:06");
-}
-
 }  // namespace
 }  // namespace campora

@@ -71,17 +71,5 @@ TEST(RptView, TheFifthFieldTellsTheOlderFormsApart) {
     }
 }
 
-TEST(RptView, TheOlderFormsHaveNoDate) {
-    RptBytes eight;
-    RptBytes::Record written = record(534, 55);
-    written.time.time = {16, 45, 11};
-    eight.add(written);
-    const auto fields = viewOf(eight.bytes()).record(0).fields;
-    EXPECT_EQ(fields.time, (TimeOfDay{16, 45, 11}));
-    EXPECT_FALSE(fields.date);
-    EXPECT_EQ(fields.real[0], 53);
-    EXPECT_FLOAT_EQ(fields.speed, 5.5F);
-}
-
 }  // namespace
 }  // namespace campora

@@ -3,8 +3,6 @@
 
 #include "work/vex_alarmas.h"
 
-#include <string>
-
 #include <gtest/gtest.h>
 
 namespace campora {

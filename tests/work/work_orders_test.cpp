@@ -54,7 +54,6 @@ TEST(WorkOrders, FilesAreGroupedByTheNumberInTheirHeaders) {
     folder.write("log0005.nbr", track("-7", "01-01-2018", "08:00:00"));
     folder.write("log0006.nbr.txt", track("15"));
     folder.write("log0007.nbr", "archivo borrado");
-    folder.write("log0008.nbr", "");
     folder.write("log0009.nbr", "*TRACKER LOG FILE* V1.3\r\n15\r\n0\r\n05-03");
     std::filesystem::create_directory(nativePath(folder.file("log0010.nbr")));
     folder.write("dentro/log0011.nbr", track("15"));
