@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include "support/hex_bytes.h"
 #include "support/temp_folder.h"
 
 namespace campora {
@@ -49,28 +48,6 @@ TEST_F(ShpTrackTest, ARecordWithoutSpeedKeepsTheLitresBeforeIt) {
               " 0   100       "
               " 200 100 20.00 "
               " 0   50  20.00 ");
-}
-
-TEST_F(ShpTrackTest, FilesOfTheTrack) {
-    BoundingBox extent;
-    extent.addPoint(-1, 0);
-    extent.addPoint(2, 4);
-    TrackShapefileWriter shapes(base, extent);
-    shapes.add(figure(200, 100, 1, 15));
-    EXPECT_EQ(shapes.recordCount(), 1);
-    ASSERT_EQ(shapes.finish(), std::nullopt);
-    const std::string main = contentOf(base + ".shp");
-    EXPECT_EQ(main.substr(24, 20),
-              hexBytes("00 00 00 76  E8 03 00 00  05 00 00 00  00 00 00 00 00 00 F0 BF"));
-    const std::string table = contentOf(base + ".dbf");
-    const char* const expected[] = {
-        "'Velocidad' 00 00 'N' 00 00 00 00 04 00",
-        "'Caudal' 00 00 00 00 00 'N' 00 00 00 00 04 00",
-        "'LitroHect' 00 00 'N' 00 00 00 00 06 02",
-    };
-    for (std::size_t i = 0; i < std::size(expected); ++i) {
-        EXPECT_EQ(table.substr(32 + 32 * i, 18), hexBytes(expected[i])) << i;
-    }
 }
 
 TEST_F(ShpTrackTest, AValueThatWouldBecomeAnotherOneIsAFailure) {

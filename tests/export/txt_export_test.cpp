@@ -3,6 +3,7 @@
 
 #include "export/txt_export.h"
 
+#include <array>
 #include <limits>
 
 #include <gtest/gtest.h>
@@ -48,38 +49,23 @@ TEST_F(TextTest, CoordinatesHaveABlankForASignAndFifteenDigits) {
 }
 
 TEST_F(TextTest, CellsAreAsTheLocaleWritesThemWithTheChosenSymbol) {
-    struct Row {
-        const char* name;
-        CellValue cell;
-        /// User's symbol and chosen symbol, "." and ",".
-        const char* points;
-        const char* pointComma;
-        const char* commaPoint;
-        const char* commas;
+    // The cell with user's symbol and chosen symbol "..", ".,", ",." and ",,".
+    const std::tuple<CellValue, std::array<const char*, 4>> rows[] = {
+        {std::int64_t{4294967295}, {"4294967295", "4294967295", "4294967295", "4294967295"}},
+        {std::string("a,b.c"), {"a,b.c", "a,b,c", "a.b.c", "a,b.c"}},
+        {std::string("\u00f1 \u4e2d\tb\r\n"),
+         {"\xF1 ? b  ", "\xF1 ? b  ", "\xF1 ? b  ", "\xF1 ? b  "}},
+        {Date{2018, 3, 5}, {"05.03.18", "05,03,18", "05.03.18", "05.03.18"}},
     };
-    const Row rows[] = {
-        {"whole", std::int64_t{4294967295}, "4294967295", "4294967295", "4294967295", "4294967295"},
-        {"text with signs", std::string("a,b.c"), "a,b.c", "a,b,c", "a.b.c", "a,b.c"},
-        {"text of another code page", std::string("\u00f1 \u4e2d"), "\xF1 ?", "\xF1 ?", "\xF1 ?",
-         "\xF1 ?"},
-        {"text that would break the table", std::string("a\tb\r\nc"), "a b  c", "a b  c", "a b  c",
-         "a b  c"},
-        {"date", Date{2018, 3, 5}, "05.03.18", "05,03,18", "05.03.18", "05.03.18"},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        const AttributeLayer cells({{{-58.5, 34.25}}}, {{"A", ColumnType::Text, {row.cell}}});
-        const std::pair<const char*, const char*> expected[] = {
-            {"..", row.points}, {".,", row.pointComma}, {",.", row.commaPoint}, {",,", row.commas}};
-        for (const auto& [symbols, cell] : expected) {
-            locale = FixedLocale(symbols[0], "dd.mm.yy");
-            form.decimalSymbol = symbols[1];
-            const bool commas = symbols[0] == '.' && symbols[1] == ',';
+    for (const auto& [cell, texts] : rows) {
+        const AttributeLayer cells({{{-58.5, 34.25}}}, {{"A", ColumnType::Text, {cell}}});
+        for (std::size_t i = 0; i < texts.size(); ++i) {
+            locale = FixedLocale(i < 2 ? '.' : ',', "dd.mm.yy");
+            form.decimalSymbol = i % 2 == 0 ? '.' : ',';
             EXPECT_EQ(table({&cells}),
                       "Longitud\tLatitud\tA\r\n" +
-                          std::string(commas ? "-58,5\t 34,25\t" : "-58.5\t 34.25\t") + cell +
-                          "\r\n")
-                << symbols;
+                          std::string(i == 1 ? "-58,5\t 34,25\t" : "-58.5\t 34.25\t") + texts[i] +
+                          "\r\n");
         }
     }
 }

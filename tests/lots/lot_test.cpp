@@ -81,17 +81,6 @@ TEST(Lot, LinesOfTheDescriptionStayDescription) {
     }
 }
 
-TEST(Lot, KeepsTenLinesOfTheDescription) {
-    std::string eleven;
-    for (int i = 1; i <= 11; ++i) {
-        eleven += "línea " + std::to_string(i) + "\n";
-    }
-    const Lot lot = decodeLot(encodeLot(kTriangle, eleven));
-    EXPECT_EQ(descriptionLines(lot.description).size(), 10U);
-    EXPECT_TRUE(lot.description.ends_with("línea 10\r\n"));
-    EXPECT_EQ(lot.vertices, kTriangle);
-}
-
 TEST(Lot, IsWrittenInTheCodePageOfConsoles) {
     EXPECT_EQ(encodeLot({}, "Ñandú \u4e00"), "\xD1"
                                              "and\xFA ?\r\n");

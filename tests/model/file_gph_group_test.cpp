@@ -55,7 +55,7 @@ TEST(FileGphGroup, BoxFollowsItsLayers) {
 
 TEST(FileGphGroup, ErrorHectaresAndAlarmsComeFromItsWork) {
     FileGphGroup group;
-    auto work = workOf({80, 88}, 125);  // 20 % off, which counts, and 12 %
+    auto work = workOf({80, 88}, 125);  // 20 % off, which counts, and 12 %, at the limit
     const GphTrack& seen = *work;
     group.addGph(std::move(work));
     group.addGph(lotOf({0, 0}, {1, 1}));
@@ -63,7 +63,7 @@ TEST(FileGphGroup, ErrorHectaresAndAlarmsComeFromItsWork) {
     FileProperties& summary = group.File_resumen();
     summary.addProperty("Fecha:", "29/11/2017", "");
     MapStyle style;
-    style.errorLimit = 12.5F;
+    style.errorLimit = 12;
     for (const bool on : {true, false}) {
         style.mode = on ? ColorMode::Error : ColorMode::Alarm;
         group.calcErrorArea(style, FixedLocale(','));

@@ -154,16 +154,5 @@ TEST_F(ColorModesTest, AnErrorMapHasAClassASpecifiedDose) {
     EXPECT_EQ(bounds(), (Bounds{{70, 90}, {140, 180}}));
 }
 
-TEST_F(ColorModesTest, AnErrorMapOfTheTotalKeepsTheDoseClasses) {
-    addDays({43100});
-    ranges.dose = {50, 250};
-    setUp();
-    const Bounds doses = bounds();
-    style.mode = ColorMode::Error;
-    ranges.dose = {0, 9999};
-    setUp();
-    EXPECT_EQ(bounds(), doses);
-}
-
 }  // namespace
 }  // namespace campora

@@ -22,19 +22,6 @@ void addAt(GphTrack& track, double east, double north, const TrackDataRPT& recor
     track.addPoint(at.x, at.y, record);
 }
 
-TEST(GphTrack, HectaresAboveTheErrorLimit) {
-    GphTrack track;
-    addAt(track, 0, 0, reportRecord(80, 50));     // 20 % off, 100 m of 50 m
-    addAt(track, 100, 0, reportRecord(90, 50));   // 10 % off: at the limit, not above
-    addAt(track, 200, 0, reportRecord(130, 20));  // 30 % off, 100 m of 20 m
-    addAt(track, 200, 100, reportRecord(0, 20));  // the last record has no step
-    MapStyle style;
-    EXPECT_FLOAT_EQ(track.getHectareasError(style, 10), 0.7F);
-    EXPECT_FLOAT_EQ(track.getHectareasError(style, 25), 0.2F);
-    style.selectedChannel = 1;
-    EXPECT_EQ(track.getHectareasError(style, 10), 0) << "a channel that the records lack";
-}
-
 TEST(GphTrack, FindsTheStepUnderThePointer) {
     GphTrack track;
     const std::pair<LonLat, std::int32_t> stops[] = {
@@ -57,21 +44,6 @@ TEST(GphTrack, FindsTheStepUnderThePointer) {
             << name;
     }
     EXPECT_EQ(track.Gph_mouseOver(ViewTransform(), MapStyle(), atMetres(150, 500), 0), -1);
-}
-
-TEST(GphTrack, StepsWithoutFlowAreExportedWhileAllAreDrawn) {
-    GphTrack track;
-    addAt(track, 0, 0, reportRecord(90, 20));
-    addAt(track, 100, 0, reportRecord(0, 40));
-    addAt(track, 200, 0, reportRecord(110, 60));
-    EXPECT_EQ(track.ExportablePolygon_polygonCount(), 2);
-    EXPECT_EQ(track.ExportablePolygon_polygonNpoint(0, 0), atMetres(0, 10)) << "left at its start";
-    EXPECT_EQ(track.ExportablePolygon_polygonNpoint(0, 2), atMetres(100, -10));
-    MapStyle style;
-    EXPECT_EQ(track.ExportablePolygon_polygonNCount(style, 1), 4);
-    style.drawAll = false;
-    EXPECT_EQ(track.ExportablePolygon_polygonNCount(style, 0), 4);
-    EXPECT_EQ(track.ExportablePolygon_polygonNCount(style, 1), 0) << "without flow";
 }
 
 }  // namespace

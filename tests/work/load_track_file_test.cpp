@@ -103,18 +103,6 @@ TEST(LoadTrackFile, RangesAndFlowStops) {
     EXPECT_FLOAT_EQ(work.ranges.litres->greatest, 30 * 10000 / (12 * 18 * 1000 / 60.0F));
 }
 
-TEST(LoadTrackFile, TakesTheSummaryBesideItInAnyCase) {
-    const TempFolder folder;
-    TrackText track;
-    track.addPoint(0, 0, 20, 12);
-    const std::string path = folder.write("LOG0007.NBR", track.bytes());
-    const std::string summary = folder.write("wrk0007.TXT", "\"Lote:\",\"La Pe\xF1\x61\",\"\"\r\n");
-    WorkReading reading;
-    const LoadedWork work = loadTrackFile(path, reading.context()).value();
-    EXPECT_THAT(summaryLines(work), ElementsAre("Lote:|La Peña|"));
-    EXPECT_EQ(work.group->File_resumen().sourcePath, summary);
-}
-
 TEST(LoadTrackFile, ForeignFilesAreRefused) {
     for (const char* text : {"", "archivo borrado\r\n", "*TRACKER LOG FILE*\r\n0\r\n",
                              "*TRACKER LOG FILE* Vx\r\n", "*tracker log file* V1.3\r\n"}) {

@@ -138,7 +138,6 @@ TEST(TrackDataRPT, OffersItsColumns) {
     const std::tuple<int, const char*, ColumnType, CellValue> rows[] = {
         {0, "D_Real1", ColumnType::Real, std::int64_t{120}},
         {5, "Alarmas", ColumnType::Real, std::int64_t{2147483904}},
-        {6, "AnchoLabor", ColumnType::Real, 12.34F},
         {7, "Hora", ColumnType::Text, std::string("07:05:09")},
         {8, "Fecha", ColumnType::Date, kDay},
         {9, "", ColumnType::Integer, {}},
@@ -151,8 +150,6 @@ TEST(TrackDataRPT, OffersItsColumns) {
         EXPECT_EQ(record.getColumnNtype(column), type);
         EXPECT_EQ(record.getCell(column, {}), cell);
     }
-    const CellOptions centimetres{.swathInCentimetres = true};
-    EXPECT_EQ(record.getCell(6, centimetres), CellValue(1234.0F));
 }
 
 }  // namespace
