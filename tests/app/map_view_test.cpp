@@ -192,47 +192,6 @@ TEST(MapView, ZoomStepsKeepTheirFixedPoint) {
     }
 }
 
-TEST(MapView, ScrollBarsCoverTheRange) {
-    struct Row {
-        const char* name;
-        float scale;
-        bool visible;
-        std::int32_t maximum;
-        float factor;
-    };
-    // The extent is 45818 m and 2291 m of margin at either end: 50400 m.
-    const Row rows[] = {
-        {"nothing to scroll", 126, false, 1, 1},
-        {"one metre", 125.9975F, true, 1, 1},
-        {"a step a metre", 44.0825F, true, 32767, 1},
-        {"the first range too long", 44.08F, true, 32767, 32768 / 32767.0F},
-        {"fifty kilometres", 1, true, 32767, 50000 / 32767.0F},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        MapDesk f({1000, 400}, boxOf(100, 45818));
-        f.view.setView(row.scale, row.scale, 0, 0);
-        f.view.updateScrollBars();
-        EXPECT_EQ(f.window.view.vertical.visible, row.visible);
-        EXPECT_EQ(f.window.view.vertical.maximum, row.maximum);
-        EXPECT_EQ(f.window.view.vertical.position, row.maximum);
-        EXPECT_FLOAT_EQ(f.view.scrollFactorY(), row.factor);
-    }
-}
-
-TEST(MapView, TheVerticalBarRunsFromNorthToSouth) {
-    MapDesk f({1000, 400}, boxOf(100, 45818));
-    f.view.setView(1, 1, 0, 0);
-    f.view.updateScrollBars();
-    f.view.scrollBarsMoved(0, 0);
-    EXPECT_NEAR(f.view.scrollY(), 50000, 1);
-    EXPECT_EQ(f.window.view.vertical.position, 0);
-    f.view.scrollBarsMoved(0, 32767);
-    EXPECT_EQ(f.view.scrollY(), 0);
-    EXPECT_EQ(f.window.view.vertical.position, 32767);
-    EXPECT_EQ(f.redraws(), 3U);
-}
-
 TEST_F(MapViewTest, PositionsGivenToTheWindowDoNotComeBackAsMovements) {
     view.setView(1, 1, 300, 200);
     window.onViewControls = [this] { view.scrollBarsMoved(7, 8); };
@@ -244,38 +203,6 @@ TEST_F(MapViewTest, PositionsGivenToTheWindowDoNotComeBackAsMovements) {
     view.scrollBarsMoved(7, 8);
     EXPECT_EQ(view.scrollX(), 7);
     EXPECT_EQ(view.scrollY(), 492);
-}
-
-TEST_F(MapViewTest, ScrollsByPartsOfTheCanvasWithinTheMap) {
-    view.setView(1, 1, 0, 0);
-    view.updateScrollBars();
-    view.scrollBy(0.25, 0.1);
-    EXPECT_EQ(view.scrollX(), 250);
-    EXPECT_EQ(view.scrollY(), 50);
-    view.scrollBy(5, 5);
-    EXPECT_EQ(view.scrollX(), 1200);
-    EXPECT_EQ(view.scrollY(), 500);
-    view.scrollBy(-5, -5);
-    EXPECT_EQ(view.scrollX(), 0);
-    EXPECT_EQ(view.scrollY(), 0);
-}
-
-TEST_F(MapViewTest, DrawsScaleBarAndArrowsIntoThePicture) {
-    style.colors.fore = {0x102030};
-    view.setView(1, 1, 5, 0);
-    view.updateScrollBars();
-    canvas.forget();
-    view.DrawMap();
-    const std::vector<std::string> expected = {
-        "line 0x102030 width=1 solid: (105,360) (105,600)",
-        "line 0x102030 width=1 solid: (1200,360) (1200,600)",
-        "line 0x102030 width=2 solid: (120,480) (1200,480)",
-        "text pen=0x102030 top-centre bold: (660,105) \"1080m\"",
-        "picture up: (1305,5) 240x240",
-        "picture right: (755,130) 240x240",
-        "picture left: (5,705) 240x240",
-    };
-    EXPECT_EQ(canvas.calls(), expected);
 }
 
 TEST_F(MapViewTest, WithoutAMapOnlyTheBackgroundIsDrawn) {

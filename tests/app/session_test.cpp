@@ -37,23 +37,6 @@ TEST(Session, StartsEmptyWithTheUsersSettings) {
     EXPECT_EQ(desk.listed(), Names{"log0001.nbr (LV-XYZ)"});
 }
 
-TEST_F(SessionTest, ALoadedReportIsListedDrawnAndSummedUp) {
-    canvas.forget();
-    session.map().style().graduated = false;
-    ASSERT_TRUE(open({report("Lote 3.RPT")}, true));
-    EXPECT_EQ(window.files, (std::vector<FileListRow>{{"Lote 3.RPT", "rptfile"}}));
-    EXPECT_EQ(window.selected, 0);
-    EXPECT_EQ(window.summary.front(), (SummaryRow{"Nombre Archivo:", "Lote 3.RPT "}));
-    EXPECT_TRUE(window.title.ends_with("lote 3.rpt]")) << window.title;
-    EXPECT_TRUE(window.mapActive);
-    EXPECT_TRUE(session.map().style().graduated);
-    EXPECT_EQ(window.legend.unit, "lt/hect");
-    EXPECT_EQ(window.legend.classes.back().text, "101.6 - 102");
-    EXPECT_EQ(canvas.callsOf("polygon").size(), 2U);
-    EXPECT_EQ(redraws(), 2U) << "one for the empty map, one for the whole";
-    EXPECT_FALSE(window.view.scaleLabel.empty());
-}
-
 TEST_F(SessionTest, AFileThatIsNotTakenChangesNothing) {
     ASSERT_TRUE(open({report("Lote.rpt")}, true));
     // What the message says; null when there is none.
@@ -88,28 +71,6 @@ TEST_F(SessionTest, AFileThatIsNotTakenChangesNothing) {
     }
 }
 
-TEST_F(SessionTest, OpeningInPlaceOfTheOthersForgetsThemFirst) {
-    ASSERT_TRUE(open({report("uno.rpt", 1000)}, true));
-    ASSERT_TRUE(open({report("dos.rpt", 3000)}, true));
-    EXPECT_EQ(listed(), Names{"dos.rpt"});
-    EXPECT_EQ(session.map().ranges().dose, (ValueRange<float>{300, 302}));
-    EXPECT_FALSE(open({"otro.rpt"}, true));
-    EXPECT_FALSE(open({folder.write("vacio.rpt", "")}, true));
-    EXPECT_EQ(listed(), Names{"dos.rpt"}) << "a refused file costs nothing";
-    session.listCommands().removeCurrentFile();
-    EXPECT_EQ(window.legend.classes.size(), 0U) << "nothing is left to explain";
-}
-
-TEST_F(SessionTest, SeveralFilesAreDrawnOnce) {
-    add("viejo");
-    canvas.forget();
-    const Names paths = {report("uno.rpt"), "falta.rpt", report("dos.rpt")};
-    EXPECT_EQ(open(paths, true), 2U);
-    EXPECT_EQ(listed(), (Names{"uno.rpt", "dos.rpt"}));
-    EXPECT_EQ(window.selected, 0);
-    EXPECT_EQ(redraws(), 2U) << "one for the empty map, one for both";
-}
-
 TEST_F(SessionTest, RangesAreThoseOfTheOpenFiles) {
     open({report("uno.rpt", 1000)});
     open({report("dos.rpt", 3000)});
@@ -128,53 +89,6 @@ TEST_F(SessionTest, RangesAreThoseOfTheOpenFiles) {
     EXPECT_EQ(session.map().ranges().dose, (ValueRange<float>{200, 202}));
 }
 
-TEST_F(SessionTest, ARefusedDuplicateLeavesTheRangesAlone) {
-    open({track("log0001.nbr", 5, 4)});
-    dialogs.yesNoAnswers = {false};
-    EXPECT_FALSE(open({track("log0002.nbr", 50, 3)}));
-    EXPECT_EQ(dialogs.questions.size(), 1U);
-    EXPECT_EQ(session.map().ranges().flow, (ValueRange<float>{5, 5}));
-    EXPECT_EQ(session.map().plotCount(), 1);
-}
-
-TEST_F(SessionTest, AMoreCompleteCopyTakesThePlaceOnTheMap) {
-    open({track("log0001.nbr", 5, 3)});
-    TrackText text;
-    text.west = "61";
-    for (const std::uint32_t west : {0U, 100U, 200U, 300U}) {
-        text.addPoint(west, 0, 5, 20);
-    }
-    dialogs.yesNoAnswers = {false};
-    EXPECT_TRUE(open({folder.write("log0002.nbr", text.bytes())}));
-    EXPECT_EQ(listed(), Names{"log0002.nbr"});
-    EXPECT_TRUE(
-        session.display().view().totalBound.equals(session.map().files().file(0).File_bound()));
-}
-
-TEST_F(SessionTest, NoRangeBeginsBelowZero) {
-    ASSERT_TRUE(open({report("raro.rpt", -500)}));
-    EXPECT_EQ(session.map().ranges().dose->least, 0);
-    EXPECT_EQ(session.map().scales().of(false).count(), 1);
-}
-
-TEST_F(SessionTest, TellsWhenATrackFileHasNoRecordOfStops) {
-    open({track("log0001.nbr", 5, 3, "1")});
-    EXPECT_EQ(window.workStatus, "No hay registros del comienzo ni detención de la fumigación");
-    open({track("log0002.nbr", 0, 3, "2")});
-    EXPECT_EQ(window.workStatus, "");
-    open({track("log0003.nbr", 5, 3, "3")});
-    EXPECT_EQ(window.workStatus, "") << "one of the open files has them";
-}
-
-TEST_F(SessionTest, TheFirstFileLiesOnTop) {
-    add("a");
-    add("b");
-    session.map().addFile(std::make_unique<NamedFile>("c"), true);
-    canvas.forget();
-    session.display().view().ZoomUno();
-    EXPECT_EQ(drawn(), "b1 b2 a1 a2 c1 c2 ");
-}
-
 TEST_F(SessionTest, TheViewFollowsAddedFiles) {
     add("a", -60);
     EXPECT_TRUE(session.display().view().transform().isFitted());
@@ -191,23 +105,6 @@ TEST_F(SessionTest, TheViewFollowsAddedFiles) {
     EXPECT_EQ(session.display().view().totalBound.minX, -62);
     EXPECT_EQ(session.display().view().totalBound.maxX, -60 + 0.01) << "a file without points";
     EXPECT_FALSE(session.display().recalcGphBound());
-}
-
-TEST_F(SessionTest, TheWindowFollowsTheSelection) {
-    add("a");
-    addScale(add("b"), 7);
-    session.listCommands().selectFile(1);
-    EXPECT_EQ(window.title, "Campora - [.../campo/b]");
-    EXPECT_EQ(window.summary, (std::vector<SummaryRow>{{"Nombre:", "b "}, {"Área:", "12.5 Has"}}));
-    EXPECT_EQ(window.legend.classes.front().text, "0 - 7");
-    session.listCommands().selectFile(2);
-    session.listCommands().selectFile(-1);
-    EXPECT_EQ(window.summary.front().value, "b ") << "no such row";
-    session.listCommands().selectFile(0);
-    EXPECT_EQ(window.legend.classes.size(), 6U);
-    session.listCommands().selectFile(std::nullopt);
-    EXPECT_EQ(session.map().files().currentFile(), nullptr);
-    EXPECT_TRUE(window.summary.empty());
 }
 
 TEST(Session, MovesTheCurrentFileAndRedraws) {
@@ -255,26 +152,6 @@ TEST_F(SessionTest, RemovingAFileLeavesItsNeighbourCurrent) {
     EXPECT_EQ(drawn(), "a1 a2 ") << "same extent: drawn again as it stands";
     session.map().removeFile(nullptr);
     EXPECT_EQ(session.map().plotCount(), 1);
-}
-
-TEST_F(SessionTest, CommandsWithoutACurrentFileDoNothing) {
-    canvas.forget();
-    session.listCommands().zoomToCurrentFile();
-    session.listCommands().moveCurrentFile(FileListCommands::Move::Up);
-    session.listCommands().removeCurrentFile();
-    session.summaryCommands().copyData(clipboard);
-    session.map().recalcErrorAreas();
-    EXPECT_TRUE(canvas.calls().empty());
-    EXPECT_EQ(clipboard.text, "");
-}
-
-TEST_F(SessionTest, TheDateMapLeavesWithTheLastDate) {
-    open({report("uno.rpt"), track("log0001.nbr", 5)}, true);
-    session.modes().mnuColorDateMap();
-    session.listCommands().selectFile(0);
-    session.listCommands().removeCurrentFile();
-    EXPECT_EQ(session.map().style().mode, ColorMode::Dose);
-    EXPECT_FALSE(session.map().scales().of(false).isDate);
 }
 
 }  // namespace

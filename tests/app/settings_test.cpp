@@ -29,21 +29,6 @@ std::string valueOf(const SettingsStore& settings, const SettingRow& row) {
     return readText(settings, row.id);
 }
 
-TEST(Settings, WhatIsMissingHasTheDefaultOfItsKey) {
-    const std::map<std::string_view, std::string> some = {
-        {"language", "1"},           {"mapDrawcolor", "16744576"}, {"mapBackcolor", "16777215"},
-        {"DrawDotted", "False"},     {"DrawBorders", "True"},      {"printLandscape", "True"},
-        {"printMarginBottom", "10"}, {"printResolution", "600"},
-    };
-    std::map<std::string_view, std::string> found;
-    for (const SettingRow& row : settingRows()) {
-        if (some.contains(row.key)) {
-            found[row.key] = valueOf(MemorySettings(), row);
-        }
-    }
-    EXPECT_EQ(found, some);
-}
-
 TEST(Settings, NonsenseInAnyKeyIsAsGoodAsNothing) {
     const std::string texts[] = {"",    " ", "Verdadero",   "12 34",     "0x12",
                                  "1.5", "-", "99999999999", "2147483648"};
@@ -62,14 +47,6 @@ TEST(Settings, NonsenseInAnyKeyIsAsGoodAsNothing) {
             stored = bytes;
             EXPECT_EQ(valueOf(settings, setting), byDefault);
         }
-    }
-}
-
-TEST(Settings, AColourHasThreeBytes) {
-    for (const char* stored : {"-1", "16777216"}) {
-        MemorySettings settings;
-        settings.values["mapAlarmColor"] = stored;
-        EXPECT_EQ(readColor(settings, SettingId::AlarmColor), Color{0x0000FF}) << stored;
     }
 }
 

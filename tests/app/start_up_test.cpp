@@ -33,20 +33,6 @@ TEST(StartUp, SpeaksTheLanguageOfTheSettingOrTheSystem) {
     }
 }
 
-TEST(StartUp, ReadsSettingsRegistersAndShowsTheEmptyMap) {
-    SessionDesk desk;
-    desk.settings.values = {{"mapCoordType", "2"}, {"mapBackcolor", "255"}, {"DrawDotted", "True"}};
-    loadMainWindow(desk.session, "/opt/campora/campora");
-    EXPECT_EQ(desk.session.tools().coordType(), CoordType::DegreesMinutes);
-    EXPECT_EQ(desk.session.map().style().colors.back, Color{255});
-    EXPECT_TRUE(desk.session.map().style().drawDotted);
-    EXPECT_EQ(desk.canvas.backgroundColor(), Color{255});
-    EXPECT_EQ(desk.settings.values["RunPath"], "/opt/campora/campora");
-    EXPECT_EQ(desk.classes.values[".rpt"], "FurrowScope.RptFile");
-    EXPECT_FALSE(desk.window.mapActive);
-    EXPECT_TRUE(desk.window.title.starts_with("Campora "));
-}
-
 TEST(StartUp, CommandLineOpensAndReplays) {
     const SessionDesk disk;
     const std::string report = disk.report("lote-3.rpt");

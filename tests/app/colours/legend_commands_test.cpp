@@ -44,35 +44,9 @@ struct LegendDesk : SessionDesk {
         found.push_back(scale().classes().back().upper);
         return found;
     }
-    void makeSingleValues(std::initializer_list<double> values) {
-        SetList set;
-        for (const double value : values) {
-            set.addDosis(value);
-        }
-        scale().loadFromSetList(set, 0);
-        scale().allowValueChange = true;
-        session.display().showLegend();
-        canvas.forget();
-    }
 
     LegendCommands& commands = session.legendCommands();
 };
-
-struct LegendCommandsTest : testing::Test, LegendDesk {};
-
-TEST_F(LegendCommandsTest, WorkOnTheScaleThatIsShown) {
-    commands.addClass();
-    EXPECT_EQ(bounds(), (Bounds{0, 20, 40, 60, 80, 100}));
-    EXPECT_EQ(window.legend.classes.size(), 5U);
-    EXPECT_GT(redraws(), 0U);
-    canvas.forget();
-    session.map().scales().of(false).setClassColor(0, {0x123456});
-    EXPECT_EQ(redraws(), 0U) << "not the scale in the legend";
-    session.listCommands().selectFile(std::nullopt);
-    commands.removeClass();
-    EXPECT_EQ(session.map().scales().of(false).count(), 5);
-    EXPECT_EQ(scale().count(), 5) << "not the one in the legend";
-}
 
 /// Steps of 10 m, one in 150 with a dose of 3000 and the others from 80 to 89.
 std::string creepingReport(const TempFolder& folder, int span = 10) {
@@ -112,17 +86,6 @@ TEST(LegendCommands, ClassesCanBeSpreadOverMostOfTheArea) {
     EXPECT_EQ(next.session.map().scales().of(false).valueMax(), 89) << "it is remembered";
     next.session.legendCommands().spreadClasses(false);
     EXPECT_EQ(next.session.map().scales().of(false).valueMax(), 3000);
-}
-
-TEST(LegendCommands, WorkOfOneDoseCannotBeSpread) {
-    SessionDesk desk;
-    desk.session.start();
-    desk.open({creepingReport(desk.folder, 1)});
-    EXPECT_EQ(desk.window.legend.remark, "Una clase cubre el 99 % de la superficie trabajada.");
-    EXPECT_EQ(desk.window.legend.offer, "");
-    desk.session.legendCommands().spreadClasses(true);
-    EXPECT_EQ(desk.session.map().scales().of(false).valueMax(), 3000);
-    EXPECT_FALSE(desk.session.map().scales().of(false).openEnds);
 }
 
 TEST(LegendCommands, TheNumberOfClassesStaysWithinItsLimits) {
@@ -216,36 +179,6 @@ TEST(LegendCommands, RampColoursAreChosenOneByOne) {
     EXPECT_THAT(colors(), ElementsAre(1U, 5U, 9U));
     desk.commands.chooseClassColor(1);
     EXPECT_THAT(colors(), ElementsAre(1U, 0x100U, 9U));
-}
-
-TEST(LegendCommands, AValueIsTypedWhereItMayChange) {
-    // The value of the second class, 150 before, and the number of refusals.
-    const std::tuple<const char*, double, int> rows[] = {
-        {"160,0", 160, 0}, {"160.0", 160, 0}, {"", 150, 0}, {"mucho", 150, 1}};
-    for (const auto& [typed, value, refusals] : rows) {
-        SCOPED_TRACE(typed);
-        LegendDesk desk;
-        desk.makeSingleValues({100, 150, 200});
-        desk.dialogs.inputAnswers = {typed};
-        desk.commands.askClassValue(1);
-        EXPECT_THAT(desk.dialogs.inputs, ElementsAre(HasSubstr("|150")));
-        EXPECT_EQ(desk.bounds()[1], value);
-        EXPECT_EQ(desk.redraws(), value == 150 ? 0U : 1U);
-        EXPECT_EQ(desk.window.legend.classes[1].text, value == 150 ? "150" : "160");
-        EXPECT_THAT(desk.dialogs.messages, SizeIs(refusals));
-    }
-}
-
-TEST_F(LegendCommandsTest, FixedValuesAndIntervalsKeepTheirs) {
-    commands.askClassValue(0);
-    scale().allowValueChange = true;
-    dialogs.inputAnswers = {"5"};
-    commands.askClassValue(0);
-    commands.askClassValue(4);
-    EXPECT_EQ(bounds(), (Bounds{0, 25, 50, 75, 100}));
-    EXPECT_THAT(dialogs.messages,
-                ElementsAre("Exclamation|Campora|Los valores de esta escala no se pueden cambiar",
-                            "Exclamation|Campora|No se puede cambiar un intervalo"));
 }
 
 }  // namespace

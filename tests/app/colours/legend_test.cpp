@@ -26,14 +26,6 @@ LegendContent legendOf(const ColorScale& scale, const UserLocale& locale = Fixed
     return legendContent(MapStyle(), &scale, WorkKind::Sprayer, Texts(), locale);
 }
 
-SetList setOf(const std::vector<double>& values) {
-    SetList set;
-    for (const double value : values) {
-        set.addDosis(value);
-    }
-    return set;
-}
-
 using Rows = std::vector<std::string>;
 
 TEST(Legend, IntervalsAreShownWithDigitsThatTellThemApart) {
@@ -56,30 +48,6 @@ TEST(Legend, IntervalsAreShownWithDigitsThatTellThemApart) {
         scale.setClassNumberExt(static_cast<int>(texts.size()), least, greatest);
         EXPECT_EQ(textsOf(legendOf(scale, FixedLocale(',')).classes), texts);
     }
-}
-
-TEST(Legend, SingleValuesStandAlone) {
-    const std::pair<std::vector<double>, Rows> rows[] = {
-        {{80, 150, 200}, {"80", "150", "200"}},
-        {{100, 100.5, 250}, {"100", "100.5", "250"}},
-        {{151.25}, {"151.25"}},
-        {{72.5, 72.125}, {"72.125", "72.5"}},
-        {{0}, {"0"}},
-    };
-    for (const auto& [values, texts] : rows) {
-        ColorScale scale;
-        scale.loadFromSetList(setOf(values), 0);
-        EXPECT_EQ(textsOf(legendOf(scale).classes), texts);
-    }
-}
-
-TEST(Legend, ADayIsShownAsADate) {
-    ColorScale scale;
-    scale.loadFromSetList(setOf({43164, 43166}), 0);
-    scale.isDate = true;
-    EXPECT_EQ(textsOf(legendOf(scale).classes), (Rows{"05/03/2018", "07/03/2018"}));
-    EXPECT_EQ(textsOf(legendOf(scale, FixedLocale('.', "yyyy-m-d")).classes),
-              (Rows{"2018-3-5", "2018-3-7"}));
 }
 
 // Twelve intervals of days seldom begin and end at midnight: each must name the days that take its
@@ -112,41 +80,6 @@ TEST(Legend, OpenEndsSayOnWhichSideTheyAre) {
     scale.setClassNumberExt(3, 30, 90);
     scale.openEnds = true;
     EXPECT_EQ(textsOf(legendOf(scale).classes), (Rows{"< 50", "50 - 70", "> 70"}));
-}
-
-// A plain colour that is not on the map would be taken for the class that looks like it.
-TEST(Legend, TellsWhatThePlainColoursOfTheMapMean) {
-    struct Row {
-        ColorMode mode;
-        bool graduated;
-        WorkKind kind;
-        Rows reference;
-        bool dotted = false;
-    };
-    const Row rows[] = {
-        {ColorMode::Dose, true, WorkKind::Sprayer, {"Fondo"}},
-        {ColorMode::Dose, true, WorkKind::Sprayer, {"No fumigado", "Fondo"}, true},
-        {ColorMode::Dose, false, WorkKind::Seeder, {"Sembrado", "No sembrado", "Fondo"}},
-        {ColorMode::Date, false, WorkKind::OlderForm, {"Sin fecha", "Fondo"}},
-        {ColorMode::Error, false, WorkKind::Sprayer, {"Fondo", "Errores > 12,5%"}},
-        {ColorMode::Alarm, true, WorkKind::Sprayer, {"Fondo", "Con alarma", "Sin alarma"}},
-    };
-    ColorScale scale;
-    MapStyle style;
-    style.scale = &scale;
-    style.errorLimit = 12.5F;
-    style.colors = {.draw = {1}, .noDraw = {2}, .back = {3}, .alarm = {4}, .noAlarm = {5}};
-    for (const Row& row : rows) {
-        style.mode = row.mode;
-        style.graduated = row.graduated;
-        style.drawDotted = row.dotted;
-        const LegendContent legend =
-            legendContent(style, nullptr, row.kind, Texts(), FixedLocale(','));
-        EXPECT_EQ(textsOf(legend.reference), row.reference);
-        EXPECT_TRUE(legend.classes.empty());
-    }
-    EXPECT_EQ(legendContent(style, nullptr, WorkKind::Sprayer, Texts(), FixedLocale()).reference,
-              (std::vector<LegendRow>{{{3}, "Fondo"}, {{4}, "Con alarma"}, {{5}, "Sin alarma"}}));
 }
 
 }  // namespace

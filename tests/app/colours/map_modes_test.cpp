@@ -149,20 +149,6 @@ TEST(MapModes, TheThreeMapsExcludeEachOther) {
     }
 }
 
-TEST_F(MapModesTest, TheDateMapNeedsADate) {
-    ASSERT_TRUE(open({track("log0001.nbr", 5)}));
-    EXPECT_FALSE(modes.canShowDates());
-    modes.mnuColorDateMap();
-    EXPECT_EQ(mode(), ColorMode::Dose);
-    openReport("lote.rpt");
-    EXPECT_TRUE(modes.canShowDates());
-    modes.mnuColorDateMap();
-    EXPECT_TRUE(session.map().scales().of(false).isDate);
-    EXPECT_EQ(window.legend.classes.front().text, "05/03/2018");
-    modes.mnuColorDateMap();
-    EXPECT_FALSE(session.map().scales().of(false).isDate);
-}
-
 TEST_F(MapModesTest, TheErrorMapTellsColoursAndHectares) {
     openReport("lote.rpt", 2);
     modes.mnuColorErrorMap();
@@ -243,42 +229,6 @@ TEST_F(MapModesTest, AFileWithoutTheChannelIsNamedAndKeepsItsOwn) {
     EXPECT_EQ(redraws(), 1U);
     modes.mnuColorScaleSelTotal();
     EXPECT_EQ(several.current, -1);
-}
-
-TEST(MapModes, DrawingOptionsAreSeenAndSomeAreKept) {
-    using Stored = decltype(MemorySettings::values);
-    const std::tuple<Handler, bool MapStyle::*, std::string> rows[] = {
-        {&MapModes::mnuEditDrawAll, &MapStyle::drawAll, ""},  // not kept
-        {&MapModes::mnuEditDoted, &MapStyle::drawDotted, "DrawDotted"},
-        {&MapModes::mnuEditDrawBorder, &MapStyle::drawBorders, "DrawBorders"},
-    };
-    for (const auto& [handler, option, key] : rows) {
-        SCOPED_TRACE(key);
-        ModesDesk desk;
-        const MapStyle& style = desk.session.map().style();
-        const bool before = style.*option;
-        for (const bool expected : {!before, before}) {
-            desk.forget();
-            (desk.modes.*handler)();
-            EXPECT_EQ(style.*option, expected);
-            EXPECT_EQ(desk.redraws(), 1U);
-            const Stored kept = {{key, expected ? "True" : "False"}};
-            EXPECT_EQ(desk.settings.values, key.empty() ? Stored() : kept);
-        }
-    }
-}
-
-TEST_F(MapModesTest, TheMachineReadLastNamesItsWork) {
-    const auto caption = [this] { return std::string(session.texts()(modes.drawAllCaption())); };
-    EXPECT_EQ(caption(), "Ver solo fumigado");
-    openReport("siembra.rpt", 1, kSeeder);
-    EXPECT_EQ(caption(), "Ver solo sembrado");
-    modes.mnuEditGraduated();
-    EXPECT_EQ(window.legend.reference.front().text, "Sembrado");
-    open({track("log0001.nbr", 5)});
-    EXPECT_EQ(caption(), "Ver solo sembrado") << "a track file is no report";
-    openReport("lote.rpt");
-    EXPECT_EQ(caption(), "Ver solo fumigado");
 }
 
 TEST_F(MapModesTest, LitresAndUnitsOfSeedHaveAScaleEach) {

@@ -72,28 +72,6 @@ TEST(DrawLayers, DrawsThePictureOfTheLayersOneByOne) {
     }
 }
 
-TEST(DrawLayers, LotsAreSolidWhenAloneAndOutlinedOnTopOfEverything) {
-    GphTrack track;
-    for (const double east : {0.0, 100.0}) {
-        const LonLat at = atMetres(east, 50);
-        track.addPoint(at.x, at.y, reportRecord(9));
-    }
-    const GphLote lot = lotAt(20, 20, 60);
-    const MapStyle style;
-    const auto calls = [&](const std::vector<const Gph*>& layers) {
-        RecordingCanvas canvas(kCanvas);
-        drawLayers({canvas, kView, style}, layers);
-        return canvas.callsOf("polygon");
-    };
-    const std::vector<std::string> alone = calls({&lot, &lot});
-    ASSERT_EQ(alone.size(), 4U);
-    EXPECT_NE(alone[1].find("style=solid"), std::string::npos);
-    const std::vector<std::string> mixed = calls({&lot, &track});
-    ASSERT_EQ(mixed.size(), 3U);
-    EXPECT_NE(mixed[0].find("style=hatched"), std::string::npos);
-    EXPECT_NE(mixed[2].find("style=transparent"), std::string::npos);
-}
-
 TEST(PlaceMarks, NameWhatIsTooSmallToBeSeen) {
     const auto place = [](double east, double north, double side, const char* name) {
         return MarkedPlace{lotAt(east, north, side).Gph_bound(), name};

@@ -255,32 +255,6 @@ TEST_F(ReplayTest, ASeekGivesWayToANewerOneAndIsFinishedBeforePlaying) {
     EXPECT_EQ(window.replay, at(0));
 }
 
-TEST_F(ReplayTest, RepeatsUntilStopped) {
-    replay.repeat = true;
-    after(20, [&] { replay.stop(); });
-    replay.play();
-    EXPECT_EQ(drawn(), "| p a0 a1 a2 b0 b1 b2 b3 b4 | p a0 a1 a2 b0 b1 b2 b3 b4 "
-                       "| p a0 a1 a2 b0 | map ");
-    replay.seek(8);
-    EXPECT_EQ(drawn(), "| p a b ");
-}
-
-TEST_F(ReplayTest, WaitsBetweenElementsWhileEventsAct) {
-    clock.now = 0xFFFFFFF0U;  // begins again at 0 meanwhile
-    replay.setSpeed(12);
-    replay.play();
-    EXPECT_EQ(clock.now, 0xFFFFFFF0U + 6 * 48);  // not before the first of each track
-    EXPECT_EQ(clock.sleeps, std::vector<std::uint32_t>(6 * 8, 6));
-
-    replay.setSpeed(1000);
-    EXPECT_EQ(replay.speed(), 250);
-    clock.sleeps.clear();
-    after(3, [&] { replay.play(); });
-    replay.play();
-    EXPECT_EQ(clock.sleeps.size(), 1U) << "a pause ends the wait";
-    EXPECT_EQ(window.replay, at(1));
-}
-
 TEST_F(ReplayTest, ReadsOutTheSpeedOfTheElement) {
     auto track = std::make_unique<GphTrack>();
     for (int i = 0; i < 4; ++i) {
