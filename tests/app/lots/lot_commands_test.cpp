@@ -131,19 +131,6 @@ TEST_F(LotCommandsTest, AResultAloneIsMergedAgain) {
     EXPECT_EQ(lotsOf(session.map().files().file(0)).size(), 2U);
 }
 
-TEST_F(LotCommandsTest, ALotTakenOffTheMapDoesNotComeBackByMerging) {
-    openLot("a.lot", squareRing(-60, -34, 1));
-    openLot("b.lot", squareRing(-59.5, -34, 1));
-    openLot("c.lot", squareRing(-59, -34, 1));
-    commands.mnuLoteMerge();
-    session.map().removeFile(&session.map().files().file(1));
-    commands.mnuLoteMerge();
-    EXPECT_EQ(listed(), (Names{"Fusionado", "b.lot", "c.lot"}));
-    EXPECT_EQ(session.map().files().file(0).File_bound().minX, -59.5);
-    session.map().removeFile(&session.map().files().file(1));
-    EXPECT_FALSE(commands.canMerge());
-}
-
 TEST_F(LotCommandsTest, AResultOfMergingThatIsNotSavedGoesOnlyWhenTheUserAgrees) {
     openLot("a.lot", squareRing(-60, -34, 1));
     openLot("b.lot", squareRing(-59.5, -34, 1));

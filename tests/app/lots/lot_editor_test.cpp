@@ -118,35 +118,6 @@ TEST_F(LotEditorTest, ANewVertexIsPulledOutOfTheMiddleOfASide) {
                 window.laid<HandledRing>()->handles.front().x == 500);
 }
 
-TEST_F(LotEditorTest, TellsFiguresAndWhetherTheOutlineCrossesItself) {
-    locale = FixedLocale(',');
-    int changes = 0;
-    editor.onChanged = [&] { ++changes; };
-    editor.open();
-    EXPECT_EQ(editor.figures(), "Superficie: 0,00 ha\nPerímetro: 0 m");
-    for (const LonLat corner : squareRing(-62, -34, 0.01)) {
-        editor.add(corner);
-    }
-    EXPECT_EQ(editor.figures(), "Superficie: 102,74 ha\nPerímetro: 4072 m");
-    EXPECT_FALSE(editor.crossesItself());
-    editor.select(0);
-    editor.moveSelected({-61.98, -33.995});
-    EXPECT_TRUE(editor.crossesItself());
-    EXPECT_EQ(changes, 7);
-    editor.onChanged = nullptr;
-}
-
-TEST_F(LotEditorTest, TheInsideIsOpenUntilItIsToBeFilled) {
-    editor.open();
-    drawTriangle();
-    EXPECT_FALSE(window.laid<HandledRing>()->filled);
-    editor.setTransparent(false);
-    EXPECT_TRUE(window.laid<HandledRing>()->filled);
-    dialogs.colorAnswers.push_back(Color{0x123456});
-    session.modes().mnuEditColorLotes();
-    EXPECT_EQ(window.laid<HandledRing>()->color, Color{0x123456});
-}
-
 TEST_F(LotEditorTest, SavesWithItsNumberAndShowsTheLot) {
     settings.values["LotesPath"] = folder.path();
     const std::string target = folder.file("lote07.lot");
@@ -283,52 +254,6 @@ TEST_F(LotEditorTest, ADrawingThatWasClearedIsAskedAboutAndComesBackWithItsFile)
     EXPECT_EQ(decodeLot(contentOf(folder.file("campo.lot"))).vertices.size(), 5U);
     EXPECT_EQ(listed(), Names{"campo.lot"});
     EXPECT_TRUE(editor.close());
-}
-
-TEST_F(LotEditorTest, TheMapLeavesOutWhatIsEdited) {
-    const auto lotsOnMap = [this] {
-        canvas.forget();
-        session.display().redraw();
-        return canvas.callsOf("polygon").size() / 2;  // inside and outline
-    };
-    ASSERT_EQ(lotsOnMap(), 1U);
-    canvas.forget();
-    editor.edit(session.map().files().file(0));
-    EXPECT_EQ(redraws(), 1U);
-    EXPECT_EQ(canvas.callsOf("polygon").size(), 0U);
-    editor.saveBack();
-    EXPECT_EQ(lotsOnMap(), 0U);
-    editor.clear();
-    EXPECT_EQ(lotsOnMap(), 1U);  // another one is drawn now
-    editor.undo();
-    EXPECT_EQ(lotsOnMap(), 0U);
-    canvas.forget();
-    EXPECT_TRUE(editor.close());
-    EXPECT_EQ(redraws(), 1U);
-    EXPECT_EQ(canvas.callsOf("polygon").size(), 2U);
-    // A new one joins the map, but not under its drawing.
-    settings.values["LotesPath"] = folder.path();
-    session.listCommands().selectFile(std::nullopt);
-    editor.open();
-    drawTriangle();
-    dialogs.inputAnswers.push_back("1");
-    dialogs.saveAnswers.push_back({folder.file("lote01.lot"), 0});
-    editor.save();
-    EXPECT_EQ(lotsOnMap(), 1U);
-    EXPECT_TRUE(editor.close());
-    EXPECT_EQ(lotsOnMap(), 2U);
-}
-
-TEST_F(LotEditorTest, KeepsTheLotWhenTheMapChanges) {
-    editor.open();
-    drawTriangle();
-    const LonLat vertex = editor.draft().vertices()[0];
-    session.map().removeFile(&session.map().files().file(0));
-    EXPECT_EQ(window.laid<HandledRing>(), std::nullopt);
-    EXPECT_EQ(editor.draft().vertices().size(), 3U);
-    open({writeLot(folder, "otro.lot", squareRing(-61, -35, 2))});
-    ASSERT_EQ(drawn().size(), 3U);
-    EXPECT_EQ(drawn()[0], onCanvas(vertex));
 }
 
 TEST_F(LotEditorTest, APositionThatIsLookedForIsMarkedBesideTheLot) {

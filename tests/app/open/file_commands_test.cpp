@@ -22,27 +22,6 @@ struct FileCommandsTest : testing::Test, SessionDesk {
     FileCommands& commands = session.fileCommands();
 };
 
-TEST_F(FileCommandsTest, OpensTheChosenFilesAndRemembersTheirFolder) {
-    add("viejo");
-    settings.values["OpenPath"] = folder.path();
-    dialogs.openAnswers = {{}};
-    commands.fileOpen();
-    EXPECT_EQ(session.map().plotCount(), 1) << "cancelled";
-    ASSERT_EQ(dialogs.opens.size(), 1U);
-    EXPECT_EQ(dialogs.opens[0].folder, folder.path());
-
-    dialogs.openAnswers = {{report("lote.rpt"), report("otro.rpt", 1, 2)}};
-    commands.fileOpen();
-    EXPECT_EQ(listed(), (Names{"lote.rpt", "otro.rpt"}));
-    EXPECT_EQ(settings.values["OpenPath"], folder.path() + "/");
-    EXPECT_EQ(commands.recentFiles(), (Names{folder.file("otro.rpt"), folder.file("lote.rpt")}));
-
-    settings.values["OpenPath"] = "no/such/folder";
-    dialogs.openAnswers = {{}};
-    commands.fileOpen();
-    EXPECT_EQ(dialogs.opens.back().folder, session.map().programFolder());
-}
-
 TEST_F(FileCommandsTest, CancellingAPreviewPutsEverythingBack) {
     open({report("lote.rpt")});
     session.map().style().graduated = false;

@@ -52,12 +52,5 @@ TEST(FilesBehind, ABlankReportBesideItsPrescriptionIsLeftOut) {
                 ElementsAre("hecho.pre", "hecho.rpt", "Lote.PRE", "solo.rpt"));
 }
 
-TEST(FilesBehind, AnyOtherPathStandsForItself) {
-    const TempFolder folder;
-    const std::string file = folder.write("leeme.doc", "x");
-    EXPECT_THAT(filesBehind(file), ElementsAre(file));
-    EXPECT_THAT(filesBehind(folder.file("nada.rpt")), ElementsAre(folder.file("nada.rpt")));
-}
-
 }  // namespace
 }  // namespace campora

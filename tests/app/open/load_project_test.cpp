@@ -50,20 +50,6 @@ TEST(ProjectFile, TheFirstLineSaysWhetherItIsOne) {
     EXPECT_FALSE(isProject(folder.file("falta.fsp")));
 }
 
-TEST(ProjectFile, EveryLineIsACommentOrAPath) {
-    const std::string text = std::string(kHeader) + "  #comentario\r\n"
-                                                    "\r\n"
-                                                    "\\ejemplos\\lote.shp\n"
-                                                    " /log0012.nbr\t\r\n"
-                                                    "C:\\datos\\\xD1"
-                                                    "and\xFA #2.rpt";
-    EXPECT_THAT(decodeProject(text, "C:\\Prog").value(),
-                ElementsAre("", "C:\\Prog\\\\ejemplos\\lote.shp", "C:\\Prog\\/log0012.nbr",
-                            "C:\\datos\\Ñandú #2.rpt"));
-    EXPECT_THAT(decodeProject(std::string(kHeader) + "\\a", "/opt/").value(),
-                ElementsAre("/opt/\\a"));
-}
-
 TEST(LoadProject, OpensTheFilesBesideTheOpenOnes) {
     SessionDesk desk;
     desk.session.start();
@@ -93,16 +79,6 @@ TEST(LoadProject, MissingFilesAreNamedAndOthersOpened) {
         desk.dialogs.messages,
         ElementsAre("Exclamation|Campora|No se encuentra el archivo: ",
                     "Exclamation|Campora|No se encuentra el archivo: " + folder + "\\/falta.rpt"));
-}
-
-TEST(LoadProject, OneWithoutAUsableEntryIsRefused) {
-    SessionDesk desk;
-    const std::string project =
-        desk.folder.write("campo.fsp", std::string(kHeader) + "/carta.doc\r\n# nada\r\n");
-    desk.folder.write("carta.doc", "Estimado");
-    EXPECT_TRUE(openProject(desk, project));
-    EXPECT_THAT(desk.dialogs.messages, ElementsAre("Exclamation|Campora|El proyecto " + project +
-                                                   " no tiene archivos que se puedan abrir"));
 }
 
 TEST(LoadProject, ProjectsInProjectsAreReadOnce) {

@@ -49,31 +49,6 @@ TEST(SummaryRows, AreAddedMovedAndChanged) {
     EXPECT_THAT(shown(rows), ElementsAre("*Dosis|7|l", "a|1|m", "d|4|", "n|x y z|"));
 }
 
-TEST(SummaryRows, WhatStandsInTheFieldsCountsAtTheEnd) {
-    struct Row {
-        const char* name;
-        std::optional<int> selected;
-        SummaryEntry typed;
-        std::vector<std::string> after;
-    };
-    const Row rows[] = {
-        {"nothing typed", 1, {"b", "2", ""}, {"a|1|m", "*b|2|"}},
-        {"into the selected row", 1, {"c", " 3", ""}, {"a|1|m", "*c|3|"}},
-        {"into the row of that name", {}, {"a", "4", "m"}, {"a|4|m", "b|2|"}},
-        {"a new row", {}, {"c", "5", ""}, {"a|1|m", "b|2|", "c|5|"}},
-        {"fields that were emptied", {}, {"", " ", ""}, {"a|1|m", "b|2|"}},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        SummaryRows edited({{"a", "1", "m"}, {"b", "2", ""}});
-        edited.select(row.selected);
-        edited.fields = row.typed;
-        edited.acceptFields();
-        edited.acceptFields();  // a second time, after the first could not be kept
-        EXPECT_EQ(shown(edited), row.after);
-    }
-}
-
 class SummaryEditorTest : public ::testing::Test {
 protected:
     TempFolder folder;
@@ -108,22 +83,6 @@ TEST_F(SummaryEditorTest, AcceptingWithoutAChangeKeepsEveryRow) {
     EXPECT_THAT(dialogs.messages, IsEmpty());
 }
 
-TEST_F(SummaryEditorTest, ChangesAreWrittenAsTheConsoleReadsThem) {
-    const std::string path = folder.write("Wrk0001.txt", "Lote:,1,\r\nAncho:,18,mts\r\n");
-    SummaryEditor editor(path, desk);
-    EXPECT_THAT(shown(editor.rows()), ElementsAre("Lote|1|", "Ancho|18|mts"));
-    editor.rows().select(0);
-    editor.rows().fields = {"Dueño", "\"Ñandú\", 5\"", "π"};
-    editor.rows().change();
-    editor.rows().down();
-    EXPECT_EQ(contentOf(path), "Lote:,1,\r\nAncho:,18,mts\r\n") << "nothing is written yet";
-    EXPECT_TRUE(editor.accept());
-    EXPECT_EQ(contentOf(path), "\"Ancho:\",\"18\",\"mts\"\r\n"
-                               "\"Due\xF1o:\",\"\"\"\xD1"
-                               "and\xFA\"\", 5\"\"\",\"?\"\r\n");
-    EXPECT_EQ(decodeSummary(contentOf(path)).value_(1), "\"Ñandú\", 5\"");
-}
-
 TEST_F(SummaryEditorTest, ARowGoesOnlyWhenTheUserSaysSo) {
     SummaryEditor editor(folder.write("Wrk0001.txt", "A:,1,\r\nB:,2,\r\n"), desk);
     askAndRemove(editor.rows(), desk);
@@ -137,18 +96,6 @@ TEST_F(SummaryEditorTest, ARowGoesOnlyWhenTheUserSaysSo) {
     EXPECT_THAT(dialogs.questions,
                 testing::Each("Exclamation|Campora|Seguro que desea eliminar los campos "
                               "seleccionados?"));
-}
-
-TEST_F(SummaryEditorTest, AFileThatCannotBeWrittenKeepsTheEditorOpen) {
-    const std::string path = folder.write("card/Wrk0001.txt", "A:,1,\r\n");
-    SummaryEditor editor(path, desk);
-    std::filesystem::remove_all(nativePath(folder.file("card")));
-    EXPECT_FALSE(editor.accept());
-    EXPECT_THAT(dialogs.messages, ElementsAre("Error|Error|No se puede guardar el archivo " + path +
-                                              ": la carpeta no existe"));
-    folder.write("card/Wrk0001.txt", "otra");
-    EXPECT_TRUE(editor.accept());
-    EXPECT_EQ(contentOf(path), "\"A:\",\"1\",\"\"\r\n");
 }
 
 }  // namespace

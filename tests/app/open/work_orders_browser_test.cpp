@@ -53,52 +53,6 @@ struct WorkOrdersBrowserTest : testing::Test, SessionDesk {
     }
 };
 
-TEST_F(WorkOrdersBrowserTest, ListsTheOrdersOfAFolder) {
-    WorkOrdersBrowser browser(session.map(), session.display(), session.tools(),
-                              session.services());
-    EXPECT_TRUE(browser.showFolder(card));
-    EXPECT_THAT(browser.rows(), ElementsAre(OrderRow{"Orden 15", "15/07/16", "18:03:32", "2"},
-                                            OrderRow{"Sin número", "15/07/16", "18:03:32", "1"}));
-    browser.select(2);
-    EXPECT_EQ(browser.selected(), std::nullopt);
-    EXPECT_EQ(browser.open(steps), 0);
-}
-
-TEST_F(WorkOrdersBrowserTest, AScanGivesWayToTheNextFolder) {
-    folder.write("leer/LEEME.TXT", "");
-    WorkOrdersBrowser browser(session.map(), session.display(), session.tools(),
-                              session.services());
-    bool changed = false;
-    clock.onEvents = [&](int) {
-        if (!std::exchange(changed, true)) {
-            EXPECT_TRUE(browser.showFolder(folder.file("leer")));
-        }
-    };
-    EXPECT_FALSE(browser.showFolder(card));
-    EXPECT_EQ(browser.folder(), folder.file("leer"));
-    EXPECT_THAT(browser.orders(), IsEmpty());
-    clock.onEvents = [&](int) { browser.cancel(); };
-    EXPECT_FALSE(browser.showFolder(card));
-    EXPECT_THAT(browser.orders(), IsEmpty());
-}
-
-TEST_F(WorkOrdersBrowserTest, OpensTheFilesOfAnOrderBesideTheOthers) {
-    WorkOrdersBrowser browser(session.map(), session.display(), session.tools(),
-                              session.services());
-    browser.showFolder(card);
-    browser.select(0);
-    const std::size_t before = redraws();
-    EXPECT_EQ(browser.open(steps), 2);
-    EXPECT_EQ(listed(), (Names{"abierto.rpt", "15 - log1.nbr", "15 - log2.nbr"}));
-    EXPECT_THAT(steps.percents, ElementsAre(50));
-    EXPECT_EQ(redraws(), before + 1);
-    browser.select(1);
-    steps.goesOn = false;
-    EXPECT_EQ(browser.open(steps), 1);
-    browser.cancel();
-    EXPECT_EQ(session.map().plotCount(), 4) << "what was opened stays";
-}
-
 TEST_F(WorkOrdersBrowserTest, APreviewComesAndGoesWithTheSelection) {
     const Names open = {"abierto.rpt"};
     const Names alone = {"15 - log1.nbr", "15 - log2.nbr"};

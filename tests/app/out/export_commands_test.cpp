@@ -146,18 +146,6 @@ TEST_F(ExportCommandsTest, AnExportThatFailsGivesAMessageAndNoFile) {
     EXPECT_EQ(shell.opened, Names{});
 }
 
-TEST_F(ExportCommandsTest, CancellingLeavesNoFileAndSaysNothing) {
-    openReport();
-    dialogs.cancelAfter = 1;
-    for (const char* word : {"kml", "txt"}) {
-        exportTo("a", word);
-        EXPECT_EQ(made().size(), 0U) << word;
-    }
-    EXPECT_EQ(dialogs.messages, Names{});
-    EXPECT_EQ(dialogs.questions, Names{});
-    EXPECT_THAT(dialogs.progresses, testing::Contains("Exportando a.kml: 0"));
-}
-
 TEST_F(ExportCommandsTest, APictureIsWhatTheMapShows) {
     openReport();
     Names saved;
@@ -213,18 +201,6 @@ TEST_F(ExportCommandsTest, GlgHoldsThePointsOfAllTracksInOrder) {
     ASSERT_EQ(bytes.size(), 6U * 8U);
     // The logger's first point, 31.5 south and 60.5 west, comes after the three of the report.
     EXPECT_EQ(bytes.substr(24, 8), std::string("\x26\x5F\x46\x80\x86\x28\x87\x80", 8));
-}
-
-TEST_F(ExportCommandsTest, TrackFilesAreHandedToTheirDialog) {
-    std::vector<Names> shown;
-    commands.showTrackExport = [&](const Names& paths) { shown.push_back(paths); };
-    dialogs.openAnswers = {{}, {folder.file("a b.nbr"), folder.file("c.nbr")}};
-    commands.mnuFileExportSel();
-    commands.mnuFileExportSel();
-    EXPECT_EQ(shown, std::vector<Names>({{folder.file("a b.nbr"), folder.file("c.nbr")}}));
-    EXPECT_EQ(dialogs.opens.at(0).caption, "Exportar:");
-    EXPECT_EQ(dialogs.opens[0].filters.at(0).caption, "Archivos de Nimbra");
-    EXPECT_TRUE(dialogs.opens[0].several);
 }
 
 }  // namespace

@@ -27,19 +27,5 @@ TEST(PageSettings, ComeBackAsTheyWere) {
     }
 }
 
-TEST(PageSettings, NonsenseIsAnOrdinaryPage) {
-    MemorySettings settings;
-    settings.values = {{"printPaper", "B0"}, {"printLandscape", "sí"}, {"printMarginTop", "-400"}};
-    const PageSetup setup = readPageSetup(settings);
-    EXPECT_EQ(setup.paper.key, "A4");
-    EXPECT_EQ(setup.sheet(), (PageRect{0, 0, 297, 210}));
-    EXPECT_EQ(setup.inside(), (PageRect{10, 10, 277, 190}));
-}
-
-TEST(PageSettings, PapersAreNamedInTheUsersLanguageWithTheirSize) {
-    EXPECT_EQ(paperText(papers()[1], Texts(Language::Portuguese)), "A4 (210 × 297 mm)");
-    EXPECT_EQ(paperText(papers()[3], Texts(Language::Spanish)), "Carta (216 × 279 mm)");
-}
-
 }  // namespace
 }  // namespace campora

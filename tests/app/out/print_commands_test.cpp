@@ -15,21 +15,12 @@
 namespace campora {
 namespace {
 
-using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
 double halfEach(std::string_view text, PageFont font) {
     return static_cast<double>(text.size()) * font.emMm / 2;
-}
-
-std::vector<std::string> textsOf(const PageLayout& page) {
-    std::vector<std::string> texts;
-    for (const PageText& text : page.texts) {
-        texts.push_back(text.text);
-    }
-    return texts;
 }
 
 struct PrintDesk : SessionDesk {
@@ -43,26 +34,6 @@ struct PrintDesk : SessionDesk {
         return dialogs.messages.empty() ? "" : dialogs.messages.back();
     }
 };
-
-TEST(PrintCommands, ThePageTellsOfTheSelectedFile) {
-    PrintDesk desk;
-    desk.add("uno.rpt");
-    desk.add("dos.rpt");
-    desk.session.listCommands().selectFile(1);
-    desk.print.change(desk.print.setup(), "Glifosato\n2 l/ha");
-    const std::vector<std::string> texts = textsOf(desk.print.page(halfEach));
-    for (const char* said : {"dos.rpt y 1 más", "/campo/dos.rpt", "Área:", "12.5 Has", "Glifosato",
-                             "2 l/ha", "Fondo"}) {
-        EXPECT_THAT(texts, Contains(said));
-    }
-    EXPECT_THAT(texts, Contains("Impreso el " + dateText(desk.clock.today(), "dd/mm/yyyy")));
-    EXPECT_EQ(desk.print.documentName(), "dos");
-    EXPECT_EQ(desk.settings.values["printDescription"], "Glifosato\n2 l/ha");
-    EXPECT_EQ(desk.print.description(), "Glifosato\n2 l/ha");
-
-    desk.session.listCommands().selectFile(std::nullopt);
-    EXPECT_THAT(textsOf(desk.print.page(halfEach)), Contains("uno.rpt y 1 más"));
-}
 
 TEST(PrintCommands, TheMapIsDrawnAgainAndTheWindowStaysAsItWas) {
     PrintDesk desk;
@@ -95,14 +66,6 @@ TEST(PrintCommands, DrawingCanBeCancelled) {
     RecordingCanvas paper(desk.print.mapCanvas(page));
     EXPECT_FALSE(desk.print.drawMap(page, paper, progress.get()));
     EXPECT_EQ(paper.callsOf("text").size(), 1U);
-}
-
-TEST(PrintCommands, KeepsToTheMarginsThatThePrinterNeeds) {
-    PrintDesk desk;
-    desk.add("a");
-    const PageLayout page = desk.print.page(halfEach, {4, 25, 0, 0});
-    EXPECT_EQ(page.frame.x, 10);
-    EXPECT_EQ(page.frame.y, 25);
 }
 
 TEST(PrintCommands, WritesThePdfWhereTheUserSaysAndOffersToOpenIt) {

@@ -62,23 +62,6 @@ TEST_F(TrackExportTest, OnlySprayedLeavesOutTheStops) {
     EXPECT_EQ(exported({{10, 0, 0, 40, 50}}, {10, true}), "5:10 5:40");
 }
 
-TEST_F(TrackExportTest, ALengthOutOfRangeIsTheNearestInIt) {
-    const std::vector<std::vector<float>> pass = {std::vector<float>(103, 5.0F)};
-    EXPECT_EQ(exported({{1, 2, 3}}, {0, false}), "5:1 5:2");
-    EXPECT_EQ(exported(pass, {500, false}), "203:5 7:5");
-}
-
-TEST_F(TrackExportTest, HeaderBoxIsTheExtentOfThePoints) {
-    ASSERT_EQ(exportTrack(work({{5, 5, 5}, {5, 5}}), base, {}), std::nullopt);
-    const FileBytes bytes(contentOf(base + ".shp"));
-    ByteReader reader(bytes.bytes(), 36);
-    const LonLat corner = atMetres(20, 100);
-    EXPECT_EQ(reader.f64le(), 0);
-    EXPECT_EQ(reader.f64le(), 0);
-    EXPECT_EQ(reader.f64le(), corner.x);
-    EXPECT_EQ(reader.f64le(), corner.y);
-}
-
 TEST_F(TrackExportTest, AWorkWithoutPolygonsIsAFailureAndLeavesNoFile) {
     for (const auto& passes : {std::vector<std::vector<float>>{}, {{5}}, {{0, 0}, {0}}}) {
         const auto failure = exportTrack(work(passes), base, {10, true});

@@ -8,7 +8,6 @@
 
 #include <gtest/gtest.h>
 
-#include "app/presc/dose_choice.h"
 #include "base/paths.h"
 #include "base/text.h"
 #include "support/session_desk.h"
@@ -44,21 +43,6 @@ struct DoseColumnsTest : testing::Test, SessionDesk {
 
     DoseColumns columns{session.map().desk()};
 };
-
-TEST_F(DoseColumnsTest, TellsWhatAColumnHolds) {
-    EXPECT_EQ(columns.doseLabel(0), "Archivo no cargado");
-    choose(0, {"10", "20", "30", "20"});
-    EXPECT_EQ(columns.columns(0), (std::vector<std::string>{"DOSIS", "NOMBRE"}));
-    columns.chooseColumn(0, 2);
-    EXPECT_EQ(columns.doseLabel(0), "Invalido: Valores No Numericos");
-    columns.chooseColumn(0, 1);
-    EXPECT_EQ(columns.doseLabel(0), "4 dosis diferentes");
-    dialogs.openAnswers.push_back({});
-    columns.chooseFile(0, settings, folder.path());  // cancelled
-    EXPECT_EQ(columns.column(0), 1);
-    choose(0, {"1"});  // another map has other columns
-    EXPECT_EQ(columns.column(0), GphPresc::kNoColumn);
-}
 
 TEST_F(DoseColumnsTest, AMapThatCannotBeReadLeavesItsRowWithoutOne) {
     choose(0, {"1"});
@@ -123,21 +107,6 @@ TEST_F(DoseColumnsTest, ConfirmsOnlyWhenEveryRowIsComplete) {
     EXPECT_EQ(channels[0]->name(), "canal0.shp");
     EXPECT_EQ(channels[0]->columnaDosis(), 1);
     EXPECT_EQ(channels[1]->polygons()[0].dosis, 5);
-}
-
-TEST_F(DoseColumnsTest, AsksBeforeItTakesManyDoses) {
-    const std::tuple<int, std::optional<Answer>, bool> rows[] = {
-        {15, std::nullopt, true}, {16, Answer::No, false}, {16, Answer::Yes, true}};
-    for (const auto& [distinct, answer, confirmed] : rows) {
-        dialogs.questions.clear();
-        choose(0, doses(distinct));
-        columns.chooseColumn(0, 1);
-        if (answer) {
-            dialogs.answers.push_back(*answer);
-        }
-        EXPECT_EQ(columns.confirm(), confirmed) << distinct;
-        EXPECT_EQ(dialogs.questions.size(), answer ? 1U : 0U);
-    }
 }
 
 TEST_F(DoseColumnsTest, AsksHowAColumnIsToBeRead) {
@@ -235,46 +204,6 @@ TEST_F(DoseColumnsTest, SaysWhatIsWrongWithAMap) {
         ASSERT_EQ(dialogs.messages.size(), says.empty() ? 0U : 1U);
         EXPECT_TRUE(says.empty() || dialogs.messages[0].find(says) != std::string::npos)
             << dialogs.messages[0];
-    }
-}
-
-struct DoseChoiceTest : testing::Test, SessionDesk {
-    DoseChoiceTest() {
-        SetList set;
-        for (const double dose : {0.0, 50.0, 72.5}) {
-            set.addDosis(dose);
-        }
-        scale.loadFromSetList(set, 0);
-    }
-
-    ColorScale scale;
-};
-
-TEST_F(DoseChoiceTest, OffersTheDosesOfTheScale) {
-    DoseChoice choice(&scale, 50, session.map().desk());
-    ASSERT_EQ(choice.legend().classes.size(), 3U);
-    EXPECT_EQ(choice.legend().classes[2], (LegendRow{scale.getClass(2).color, "72.5"}));
-    EXPECT_EQ(choice.way(), DoseChoice::Way::Existing);
-    choice.selectClass(3);
-    EXPECT_EQ(choice.accept(), std::nullopt);
-    EXPECT_EQ(dialogs.messages, Messages{"Exclamation|Campora|Debe seleccionar una dosis"});
-    choice.selectClass(2);
-    EXPECT_EQ(choice.accept(), 72.5F);
-}
-
-TEST_F(DoseChoiceTest, TakesANewDose) {
-    DoseChoice choice(nullptr, 12.5F, session.map().desk());
-    EXPECT_EQ(choice.way(), DoseChoice::Way::New);
-    EXPECT_EQ(choice.accept(), 12.5F);
-    const std::vector<std::pair<std::string, std::optional<float>>> cases{
-        {" 80 ", 80.F}, {"7,25", 7.25F}, {"", std::nullopt}, {"cien", std::nullopt}, {"5x", {}}};
-    for (const auto& [text, dose] : cases) {
-        dialogs.messages.clear();
-        choice.setText(text);
-        EXPECT_EQ(choice.accept(), dose) << text;
-        EXPECT_EQ(dialogs.messages,
-                  dose ? Messages{}
-                       : Messages{"Exclamation|Campora|La dosis debe ser un valor numérico"});
     }
 }
 

@@ -123,47 +123,6 @@ TEST_F(PrescCommandsTest, TheDoseToolChangesAZoneOfTheCurrentChannel) {
     EXPECT_EQ(session.tools().tool(), ToolId::Pan);
 }
 
-TEST_F(PrescCommandsTest, TheLegendChangesADoseAndTheSummaryFollows) {
-    create({{"10", "20", "10"}});
-    dialogs.inputAnswers.push_back("40");
-    session.legendCommands().askClassValue(1);
-    EXPECT_EQ(legend(), (Names{"0", "20", "40"}));
-    EXPECT_EQ(window.legend.valueChangeCaption, "Cambiar Dosis");
-    EXPECT_NEAR(std::stod(window.summary.back().value), 100 * 103.95, 100);
-}
-
-TEST_F(PrescCommandsTest, SavesAPreThatShowsTheChangedDoses) {
-    create({{"10", "20"}});
-    answer = 33.F;
-    clickOn(1);
-    const std::string path = folder.file("salida/uno.pre");
-    std::filesystem::create_directories(nativePath(folder.file("salida")));
-    dialogs.saveAnswers.push_back({path, 0});
-    dialogs.inputAnswers = {"50", "1"};
-    commands.mnuFileSavePrescript();
-    ASSERT_EQ(dialogs.saves.size(), 1U);
-    EXPECT_EQ(dialogs.saves[0].name, "canal1.pre");
-    EXPECT_EQ(settings.values["SavePath"], folder.file("salida/"));
-    EXPECT_EQ(dialogs.inputs[0], "192|Campora|20");
-    EXPECT_TRUE(std::filesystem::exists(nativePath(folder.file("salida/uno.rpt"))));
-
-    const std::vector<SummaryRow> panel = window.summary;
-    ASSERT_TRUE(open({path}, true));
-    EXPECT_FALSE(commands.isOpen());
-    EXPECT_EQ(legend(), (Names{"1", "10", "33"}));
-    const auto figures = [](const std::vector<SummaryRow>& rows) {
-        Names values;
-        for (const SummaryRow& row : rows) {
-            if (row.property == "Superficie (C 1)" || row.property == "Producto total (C 1)") {
-                values.push_back(row.value.substr(0, row.value.find(' ')));
-            }
-        }
-        return values;
-    };
-    EXPECT_EQ(figures(panel).size(), 2U);
-    EXPECT_EQ(figures(panel), figures(window.summary)) << "after the save, to the cell";
-}
-
 TEST_F(PrescCommandsTest, SavesAVrtUnderItsName) {
     create({{"10", "20"}});
     const std::string path = folder.file("uno.vrt");
@@ -203,16 +162,6 @@ TEST_F(PrescCommandsTest, ASaveThatIsCancelledOrNoNumberWritesNothing) {
     }
     EXPECT_EQ(dialogs.messages.size(), 1U);
     EXPECT_FALSE(std::filesystem::exists(nativePath(path)));
-}
-
-TEST_F(PrescCommandsTest, AMapOpensAsAFileOfItsOwn) {
-    const std::string path = rowOfZones({"10", "20"}).write(folder, "lote");
-    session.map().style().colors.shape = Color::rgb(1, 2, 3);
-    session.map().style().graduated = false;  // which is about records, not about maps
-    ASSERT_TRUE(open({path}, true));
-    const std::vector<std::string> zones = canvas.callsOf("polypolygon");
-    ASSERT_FALSE(zones.empty());
-    EXPECT_TRUE(zones.back().starts_with("polypolygon fill=0x030201")) << zones.back();
 }
 
 }  // namespace
