@@ -76,9 +76,7 @@ TEST(ViewTransform, LeavesOutOnlyWhatDoesNotShow) {
         };
         const LonLat from = near();
         const LonLat to = i % 2 == 0 ? near() : LonLat{from.x + uniform(-0.01, 0.01), from.y};
-        SCOPED_TRACE(testing::Message()
-                     << "scale " << scale << " origin " << origin.x << " " << origin.y << " from "
-                     << from.x << " " << from.y << " to " << to.x << " " << to.y);
+        SCOPED_TRACE(i);
         if (shows(view.mapToScreen(from.x, from.y), view.mapToScreen(to.x, to.y), canvas)) {
             ++shown;
             ASSERT_TRUE(view.mayTouch(from, to, 0));

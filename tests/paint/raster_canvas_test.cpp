@@ -97,12 +97,7 @@ TEST(RasterCanvas, DrawnInPartsItIsTheSamePicture) {
             canvas.setPenStyle(i % 36 == 0 ? PenStyle::Dotted : PenStyle::Solid);
             canvas.setFillStyle(i % 24 == 0 ? FillStyle::Hatched : FillStyle::Solid);
             canvas.polygon(std::span(points).subspan(i, i % 60 == 0 ? 12 : 5));
-            canvas.setPenColor({shade & 0xFFFFFFU});
-            canvas.polygon(square(points[i].x / kUnits, points[i].y / kUnits, points[i].x / kUnits,
-                                  points[i + 1].y / kUnits));
             canvas.line(points[i], points[i + 1], {shade & 0xFFFFFFU});
-            canvas.rectangle(points[i + 2], points[i + 3], {0x445566}, RectangleStyle::Outlined);
-            canvas.point(points[i + 4], kRed);
         }
     };
     for (const double ratio : {1.0, 1.5}) {

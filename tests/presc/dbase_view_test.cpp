@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "base/texts.h"
+#include "support/failures.h"
 #include "support/shape_bytes.h"
 
 namespace campora {
@@ -74,17 +75,9 @@ TEST(DbaseView, ReadsTextsInTheirCodePage) {
 
 /// What the user reads about the table; empty when it is taken.
 std::string fault(const std::string& bytes) {
-    try {
-        const DbaseView file(bytesOf(bytes));
-        for (std::int32_t row = 0; row < 3; ++row) {
-            for (int column = 0; column < file.fieldCount(); ++column) {
-                (void)file.value(row, column);
-            }
-        }
-        return {};
-    } catch (const FormatError& error) {
-        return Texts(Language::English).sentence(error.failure());
-    }
+    const std::optional<Failure> failure =
+        failureOf([&bytes] { return DbaseView(bytesOf(bytes)).fieldCount(); });
+    return failure ? Texts(Language::English).sentence(*failure) : std::string();
 }
 
 TEST(DbaseView, SaysWhatIsWrong) {

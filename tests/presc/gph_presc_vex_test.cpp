@@ -37,7 +37,6 @@ TEST_F(PrescVexTest, ShowsTheCurrentChannel) {
     EXPECT_EQ(vex.File_gphList(), std::vector<Gph*>{&second});
     EXPECT_EQ(vex.File_escalaColores(), &second.escalaColor());
     EXPECT_THROW(vex.setCurrentChannel(2), std::out_of_range);
-    EXPECT_EQ(vex.currentChannel(), 1);
     EXPECT_EQ(vex.File_bound().maxX, 0.04);
 }
 
