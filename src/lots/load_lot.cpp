@@ -49,22 +49,18 @@ void fillSummary(std::span<const Lot> lots, FileGphGroup& group, const UserLocal
     }
 }
 
-void tell(std::string_view path, const Failure& cause, const Desk& desk) {
-    desk.titled(TextId::WrongFileFormat)
-        .tell(because(TextId::FileCannotBeRead, {std::string(path)}, cause), MessageIcon::Error);
-}
-
 }  // namespace
 
 std::unique_ptr<FileGphGroup> loadLot(std::string_view path, const Desk& desk) {
     const Result<FileBytes> file = readFile(path);
     if (!file) {
-        desk.titled(TextId::WrongFileFormat).tell(file.failure(), MessageIcon::Error);
+        desk.tellWrongFile(file.failure());
         return nullptr;
     }
     const Lot lot = decodeLot(file->text());
     if (lot.vertices.empty()) {
-        tell(path, {TextId::LoteWithoutVertices, {}}, desk);
+        desk.tellWrongFile(because(TextId::FileCannotBeRead, {std::string(path)},
+                                   {TextId::LoteWithoutVertices, {}}));
         return nullptr;
     }
     auto group = makeLotGroup({&lot, 1}, path, fileNamePart(path), desk.locale);

@@ -17,6 +17,10 @@ void Desk::tellError(const Failure& failure) const {
     titled(TextId::Error).tell(failure, MessageIcon::Error);
 }
 
+void Desk::tellWrongFile(const Failure& failure) const {
+    titled(TextId::WrongFileFormat).tell(failure, MessageIcon::Error);
+}
+
 bool Desk::ask(std::string_view question, MessageIcon icon) const {
     return dialogs.askYesNo(question, icon, texts(caption));
 }

@@ -27,6 +27,8 @@ struct Desk {
     void tell(const Failure& failure, MessageIcon icon = MessageIcon::Exclamation) const;
     /// Something that was asked for could not be done.
     void tellError(const Failure& failure) const;
+    /// A file cannot be read, or is none of those that the program opens.
+    void tellWrongFile(const Failure& failure) const;
     /// Yes or no.
     [[nodiscard]] bool ask(std::string_view question,
                            MessageIcon icon = MessageIcon::Exclamation) const;

@@ -15,10 +15,6 @@ namespace campora {
 
 namespace {
 
-void tell(const Failure& failure, const Desk& desk) {
-    desk.titled(TextId::WrongFileFormat).tell(failure, MessageIcon::Error);
-}
-
 bool isGrid(const FileBytes& head) {
     return isVrtFile(head.bytes()) || isPreFile(head.bytes());
 }
@@ -41,22 +37,22 @@ std::unique_ptr<GridLayer> loadGrid(std::string_view path, const Desk& desk, Col
     constexpr std::size_t kHeadBytes = 64;
     const std::optional<std::string> head = readFileHead(path, kHeadBytes);
     if (head && !isGrid(FileBytes(*head))) {
-        tell({TextId::FileNotCompatibleNamed, {std::string(path)}}, desk);
+        desk.tellWrongFile({TextId::FileNotCompatibleNamed, {std::string(path)}});
         return nullptr;
     }
     const Result<FileBytes> file = readFile(path);
     if (!file) {
-        tell(file.failure(), desk);
+        desk.tellWrongFile(file.failure());
         return nullptr;
     }
     try {
         std::unique_ptr<GridLayer> layer = readGrid(path, *file, background, desk.decimalSymbol());
         if (!layer) {
-            tell({TextId::FileNotCompatibleNamed, {std::string(path)}}, desk);
+            desk.tellWrongFile({TextId::FileNotCompatibleNamed, {std::string(path)}});
         }
         return layer;
     } catch (const FormatError& error) {
-        tell(because(TextId::FileCannotBeRead, {std::string(path)}, error.failure()), desk);
+        desk.tellWrongFile(because(TextId::FileCannotBeRead, {std::string(path)}, error.failure()));
         return nullptr;
     }
 }

@@ -91,8 +91,7 @@ void addRemarks(const TrackLog& log, const BoundsCheck& bounds, const UserLocale
 float readTrackHeader(std::string_view firstLine, std::string_view path, const Desk& desk) {
     const TrackVersion version = trackVersion(firstLine);
     if (version.number == 0) {
-        desk.titled(TextId::WrongFileFormat)
-            .tell({TextId::FileNotCompatibleNamed, {std::string(path)}}, MessageIcon::Error);
+        desk.tellWrongFile({TextId::FileNotCompatibleNamed, {std::string(path)}});
     } else if (version.number > kNewestTrackVersion) {
         std::string warning(desk.texts(TextId::NewerVersion));
         warning.append(decodeText(version.text.substr(0, kMostVersionLetters)));

@@ -12,37 +12,30 @@
 
 namespace campora {
 
-namespace {
-
-void reportFailure(const Failure& failure, const WorkDesk& desk) {
-    desk.tell(failure, MessageIcon::Error);
-}
-
-}  // namespace
-
 std::optional<LoadedWork> openWork(std::string_view path, const WorkDesk& desk, WorkReader reader) {
     const Result<FileBytes> file = readFile(path);
     if (!file) {
-        reportFailure(file.failure(), desk);
+        desk.tell(file.failure(), MessageIcon::Error);
         return std::nullopt;
     }
     try {
         return reader(path, *file, desk);
     } catch (const FormatError& error) {
-        reportFailure(because(TextId::FileCannotBeRead, {std::string(path)}, error.failure()),
-                      desk);
+        desk.tell(because(TextId::FileCannotBeRead, {std::string(path)}, error.failure()),
+                  MessageIcon::Error);
         return std::nullopt;
     }
 }
 
 std::optional<LoadedWork> refuseWithoutPoints(std::string_view path, const WorkDesk& desk) {
-    reportFailure({TextId::FileWithoutPoints, {std::string(path)}}, desk);
+    desk.tell({TextId::FileWithoutPoints, {std::string(path)}}, MessageIcon::Error);
     return std::nullopt;
 }
 
 void refuseAnswer(TextId why, const std::string& answer, std::string_view path,
                   const WorkDesk& desk) {
-    reportFailure(because(TextId::FileCannotBeRead, {std::string(path)}, {why, {answer}}), desk);
+    desk.tell(because(TextId::FileCannotBeRead, {std::string(path)}, {why, {answer}}),
+              MessageIcon::Error);
 }
 
 void tellBounds(const BoundsCheck& bounds, const UserLocale& locale, FileGphGroup& group) {

@@ -69,7 +69,7 @@ std::optional<OpenedFile> openZones(std::string_view path, const OpenDesk& desk)
         const Result<FileBytes> file = readFile(path);
         const Failure why =
             file ? Failure{TextId::FileNotCompatibleNamed, {std::string(path)}} : file.failure();
-        desk.titled(TextId::WrongFileFormat).tell(why, MessageIcon::Error);
+        desk.tellWrongFile(why);
         return std::nullopt;
     }
     auto zones = std::make_unique<GphPresc>(desk.colors.shape);
