@@ -12,7 +12,7 @@
 
 #include <benchmark/benchmark.h>
 
-#include "app/colours/map_modes.h"
+#include "app/colours/color_mode_commands.h"
 #include "app/session.h"
 #include "field.h"
 #include "paint/raster_canvas.h"

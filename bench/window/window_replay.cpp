@@ -12,8 +12,8 @@
 #include <QElapsedTimer>
 #include <QTimer>
 
-#include "desktop/program.h"
 #include "desktop/widgets/look.h"
+#include "desktop/window_program.h"
 #include "support/temp_folder.h"
 #include "window/large_report.h"
 

@@ -14,10 +14,10 @@
 #include <QTimer>
 
 #include "desktop/platform/qt_text.h"
-#include "desktop/program.h"
 #include "desktop/widgets/look.h"
 #include "desktop/widgets/map_area.h"
 #include "desktop/widgets/map_widget.h"
+#include "desktop/window_program.h"
 #include "support/temp_folder.h"
 #include "window/large_report.h"
 

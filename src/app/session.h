@@ -5,8 +5,8 @@
 
 #include <string>
 
+#include "app/colours/color_mode_commands.h"
 #include "app/colours/legend_commands.h"
-#include "app/colours/map_modes.h"
 #include "app/loaded_file_list.h"
 #include "app/lots/lot_commands.h"
 #include "app/lots/lot_editor.h"

@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "app/out/track_batch.h"
+#include "app/out/track_export_run.h"
 #include "base/interruption.h"
 #include "base/plain_text.h"
 #include "cli/batch_map.h"

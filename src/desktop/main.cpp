@@ -7,8 +7,8 @@
 
 #include "base/disk_calls.h"
 #include "base/interruption.h"
-#include "desktop/program.h"
 #include "desktop/widgets/look.h"
+#include "desktop/window_program.h"
 
 int main(int argc, char* argv[]) {
     QApplication application(argc, argv);

@@ -28,7 +28,7 @@
 #include "desktop/platform/pointer_override.h"
 #include "desktop/platform/qt_text.h"
 #include "desktop/widgets/elided_label.h"
-#include "desktop/widgets/file_list.h"
+#include "desktop/widgets/file_list_view.h"
 #include "desktop/widgets/legend_view.h"
 #include "desktop/widgets/map_area.h"
 #include "desktop/widgets/map_widget.h"

@@ -14,7 +14,7 @@
 #include "base/texts.h"
 #include "desktop/main_window.h"
 #include "desktop/platform/qt_text.h"
-#include "desktop/widgets/file_list.h"
+#include "desktop/widgets/file_list_view.h"
 #include "desktop/widgets/map_area.h"
 #include "desktop/widgets/map_widget.h"
 #include "desktop/widgets/side_panel.h"

@@ -20,11 +20,11 @@
 #include <gtest/gtest.h>
 
 #include "desktop/platform/qt_text.h"
-#include "desktop/program.h"
-#include "desktop/widgets/file_list.h"
+#include "desktop/widgets/file_list_view.h"
 #include "desktop/widgets/map_area.h"
 #include "desktop/widgets/map_widget.h"
 #include "desktop/widgets/side_panel.h"
+#include "desktop/window_program.h"
 #include "support/temp_folder.h"
 
 namespace campora {

@@ -8,7 +8,7 @@
 #include <QDialog>
 #include <QTimer>
 
-#include "desktop/dialogs/printing.h"
+#include "desktop/dialogs/page_printer.h"
 
 class QAction;
 class QPrintPreviewWidget;

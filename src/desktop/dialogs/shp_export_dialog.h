@@ -8,7 +8,7 @@
 
 #include <QDialog>
 
-#include "app/out/track_batch.h"
+#include "app/out/track_export_run.h"
 #include "base/text_id.h"
 #include "platform/clock.h"
 

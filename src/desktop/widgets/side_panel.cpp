@@ -8,7 +8,7 @@
 #include <QVBoxLayout>
 
 #include "desktop/platform/qt_text.h"
-#include "desktop/widgets/file_list.h"
+#include "desktop/widgets/file_list_view.h"
 #include "desktop/widgets/legend_view.h"
 #include "desktop/widgets/section_heading.h"
 #include "desktop/widgets/summary_table.h"

@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "desktop/widgets/file_list.h"
+#include "desktop/widgets/file_list_view.h"
 
 #include <QContextMenuEvent>
 #include <QFile>

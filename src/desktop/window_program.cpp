@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "desktop/program.h"
+#include "desktop/window_program.h"
 
 #include <cstdlib>
 #include <string>

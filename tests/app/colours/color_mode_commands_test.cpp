@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "app/colours/map_modes.h"
+#include "app/colours/color_mode_commands.h"
 
 #include <map>
 #include <memory>

@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "desktop/dialogs/printing.h"
+#include "desktop/dialogs/page_printer.h"
 
 #include <cmath>
 
