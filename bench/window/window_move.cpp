@@ -104,7 +104,7 @@ int main(int argc, char** argv) {
     qputenv("XDG_DATA_HOME", folder.path().c_str());
     QApplication application(argc, argv);
     applyLook();
-    Program program;
+    WindowProgram program;
     MainWindow& window = program.window();
     QTimer::singleShot(500, &window, [&] {
         window.openPaths({folder.write("lote.rpt", largeReport(kRecords))}, true);

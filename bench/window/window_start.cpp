@@ -48,7 +48,7 @@ private:
 int showReport(int argc, char** argv) {
     QApplication application(argc, argv);
     applyLook();
-    Program program;
+    WindowProgram program;
     const QuitWhenDrawn quit(program.window());
     return QApplication::exec();
 }

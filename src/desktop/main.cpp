@@ -15,7 +15,7 @@ int main(int argc, char* argv[]) {
     campora::applyLook();
     campora::allowManyFiles();
     const campora::InterruptionWatch watch;
-    campora::Program program;
+    campora::WindowProgram program;
     program.endWith(watch);
     // It may have been asked to stop while it opened its first files.
     const int status = campora::isInterrupted() ? EXIT_FAILURE : QApplication::exec();

@@ -87,7 +87,8 @@ void MainWindow::goToCoordinate() {
 }
 
 void MainWindow::setUpPage() {
-    static_cast<void>(Printing(session_->map(), session_->display(), services_, this).setUpPage());
+    static_cast<void>(
+        PagePrinter(session_->map(), session_->display(), services_, this).setUpPage());
 }
 
 void MainWindow::printPreview() {
@@ -95,7 +96,7 @@ void MainWindow::printPreview() {
 }
 
 void MainWindow::print() {
-    Printing(session_->map(), session_->display(), services_, this).print();
+    PagePrinter(session_->map(), session_->display(), services_, this).print();
 }
 
 void MainWindow::leaveTool() {

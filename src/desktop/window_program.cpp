@@ -37,7 +37,7 @@ std::string programPath() {
 
 }  // namespace
 
-Program::Program()
+WindowProgram::WindowProgram()
     : window_({dialogs_, settings_, locale_, clipboard_, clock_, classes_, shell_},
               Language::Spanish, dataFolderOf(toUtf8(QApplication::applicationDirPath()))),
       widgetTexts_(window_.session().texts()) {
@@ -47,11 +47,11 @@ Program::Program()
     window_.show();
 }
 
-Program::~Program() {
+WindowProgram::~WindowProgram() {
     QApplication::removeTranslator(&widgetTexts_);
 }
 
-void Program::endWith(const InterruptionWatch& watch) {
+void WindowProgram::endWith(const InterruptionWatch& watch) {
     if (watch.descriptor() < 0) {
         return;
     }

@@ -20,14 +20,15 @@
 
 namespace campora {
 
-/// The main window with everything it needs of the desktop. The application object exists already.
-class Program {
+/// The program that has a window, unlike the batch program: its main window with everything that it
+/// needs of the desktop. The application object exists already.
+class WindowProgram {
 public:
     /// Shows the window; the paths of the command line are opened when it stands on the screen.
-    Program();
-    ~Program();
-    Program(const Program&) = delete;
-    Program& operator=(const Program&) = delete;
+    WindowProgram();
+    ~WindowProgram();
+    WindowProgram(const WindowProgram&) = delete;
+    WindowProgram& operator=(const WindowProgram&) = delete;
 
     [[nodiscard]] MainWindow& window() { return window_; }
 

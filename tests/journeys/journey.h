@@ -34,7 +34,7 @@ class Journey : public testing::Test {
 protected:
     /// Settings of its own for each journey.
     TempFolder settingsFolder;
-    std::unique_ptr<Program> program;
+    std::unique_ptr<WindowProgram> program;
 
     void SetUp() override {
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
@@ -44,7 +44,7 @@ protected:
 
     void start() {
         program.reset();
-        program = std::make_unique<Program>();
+        program = std::make_unique<WindowProgram>();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
         ASSERT_TRUE(QTest::qWaitFor([this] { return map().hasFocus(); }));
     }

@@ -37,14 +37,14 @@ PageMargins leastMargins(const QPrinter& printer) {
 
 }  // namespace
 
-Printing::Printing(const OpenMap& map, const MapDisplay& display, const Services& services,
-                   QWidget* parent)
+PagePrinter::PagePrinter(const OpenMap& map, const MapDisplay& display, const Services& services,
+                         QWidget* parent)
     : desk_(map.desk()),
       settings_(services.settings),
       parent_(parent),
       commands_(map, display, services) {}
 
-bool Printing::setUpPage() {
+bool PagePrinter::setUpPage() {
     PageSetupDialog dialog(commands_.setup(), commands_.description(), desk_.texts, parent_);
     if (dialog.exec() != QDialog::Accepted) {
         return false;
@@ -53,13 +53,13 @@ bool Printing::setUpPage() {
     return true;
 }
 
-void Printing::setLandscape(bool landscape) {
+void PagePrinter::setLandscape(bool landscape) {
     PageSetup setup = commands_.setup();
     setup.landscape = landscape;
     commands_.change(setup, commands_.description());
 }
 
-void Printing::preparePaper(QPrinter& printer) const {
+void PagePrinter::preparePaper(QPrinter& printer) const {
     const PageSetup setup = commands_.setup();
     const QPageSize size(QSizeF(setup.paper.widthMm, setup.paper.heightMm), QPageSize::Millimeter,
                          QString(), QPageSize::FuzzyMatch);
@@ -68,7 +68,7 @@ void Printing::preparePaper(QPrinter& printer) const {
     printer.setPageOrientation(setup.landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
 }
 
-void Printing::paintPreview(QPrinter& printer, int dotsPerInch) const {
+void PagePrinter::paintPreview(QPrinter& printer, int dotsPerInch) const {
     const PointerOverride busy(Qt::WaitCursor);
     const PageLayout page = commands_.page(pageTextWidth());
     const QImage map =
@@ -78,7 +78,8 @@ void Printing::paintPreview(QPrinter& printer, int dotsPerInch) const {
     paintPage(painter, printer.resolution() / kMmPerInch, page, map);
 }
 
-Printing::Drawn Printing::drawMap(const PageLayout& page, int dotsPerInch, QImage& map) const {
+PagePrinter::Drawn PagePrinter::drawMap(const PageLayout& page, int dotsPerInch,
+                                        QImage& map) const {
     const auto progress = desk_.dialogs.progress(desk_.texts(TextId::PreparingPage));
     bool cancelled = false;
     map = pageMapPicture(page, commands_.mapCanvas(page), dotsPerInch, [&](MapCanvas& canvas) {
@@ -91,7 +92,7 @@ Printing::Drawn Printing::drawMap(const PageLayout& page, int dotsPerInch, QImag
     return map.isNull() ? Drawn::TooLarge : Drawn::Whole;
 }
 
-Result<std::string> Printing::makePdf(int dotsPerInch) const {
+Result<std::string> PagePrinter::makePdf(int dotsPerInch) const {
     const PointerOverride busy(Qt::WaitCursor);
     const PageLayout page = commands_.page(pageTextWidth());
     QImage map;
@@ -106,7 +107,7 @@ Result<std::string> Printing::makePdf(int dotsPerInch) const {
     return pagePdf(page, map, {commands_.documentName(), versionTitle()});
 }
 
-PrintTarget Printing::proposedTarget() const {
+PrintTarget PagePrinter::proposedTarget() const {
     PrintTarget target;
     const std::string last = readText(settings_, SettingId::Printer);
     if (last != kPdfSetting) {
@@ -116,7 +117,7 @@ PrintTarget Printing::proposedTarget() const {
     return target;
 }
 
-void Printing::print() {
+void PagePrinter::print() {
     PrintDialog dialog(QPrinterInfo::availablePrinterNames(), proposedTarget(), desk_.texts,
                        parent_);
     if (dialog.exec() != QDialog::Accepted) {
@@ -133,7 +134,7 @@ void Printing::print() {
     }
 }
 
-void Printing::printOn(const PrintTarget& target) const {
+void PagePrinter::printOn(const PrintTarget& target) const {
     const QPrinterInfo info = QPrinterInfo::printerInfo(target.printer);
     const auto report = [&](TextId text) { desk_.tellError({text, {toUtf8(target.printer)}}); };
     if (info.isNull()) {
@@ -150,7 +151,7 @@ void Printing::printOn(const PrintTarget& target) const {
     }
 }
 
-bool Printing::paintOn(QPrinter& printer, int dotsPerInch) const {
+bool PagePrinter::paintOn(QPrinter& printer, int dotsPerInch) const {
     const PageLayout page = commands_.page(pageTextWidth(), leastMargins(printer));
     QImage map;
     const Drawn drawn = drawMap(page, dotsPerInch, map);

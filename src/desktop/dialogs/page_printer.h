@@ -14,12 +14,12 @@ namespace campora {
 
 struct PrintTarget;
 
-/// The windows around the printed page, and the way to paper.
-class Printing {
+/// Prints the page of the open map: sets it up, paints its preview, asks for the printer.
+class PagePrinter {
 public:
     /// `parent`: the window over which the others open. All of it outlives this.
-    Printing(const OpenMap& map, const MapDisplay& display, const Services& services,
-             QWidget* parent);
+    PagePrinter(const OpenMap& map, const MapDisplay& display, const Services& services,
+                QWidget* parent);
 
     /// False when the user left everything as it was.
     bool setUpPage();

@@ -38,18 +38,18 @@ PrintPreview::PrintPreview(const OpenMap& map, const MapDisplay& display, const 
                            QWidget* parent)
     : QDialog(parent, Qt::Window | Qt::WindowMaximizeButtonHint | Qt::WindowCloseButtonHint),
       texts_(map.desk().texts),
-      printing_(map, display, services, this),
+      pagePrinter_(map, display, services, this),
       printer_(std::make_unique<QPrinter>(QPrinter::HighResolution)) {
     setObjectName("preview");
     setWindowTitle(toQt(texts_(TextId::PreviewTitle)));
     setWindowModality(Qt::ApplicationModal);
     // A page of a file looks the same as one of a printer, and no printer is needed for it.
     printer_->setOutputFormat(QPrinter::PdfFormat);
-    printing_.preparePaper(*printer_);
+    pagePrinter_.preparePaper(*printer_);
     view_ = new QPrintPreviewWidget(printer_.get(), this);
     connect(view_, &QPrintPreviewWidget::paintRequested, this, [this](QPrinter* printer) {
         drawnDots_ = dotsPerInch();
-        printing_.paintPreview(*printer, drawnDots_);
+        pagePrinter_.paintPreview(*printer, drawnDots_);
     });
     rest_.setSingleShot(true);
     rest_.setInterval(kRest);
@@ -126,10 +126,10 @@ void PrintPreview::fillBar(QToolBar& bar) {
 }
 
 void PrintPreview::showAnew() {
-    printing_.preparePaper(*printer_);
+    pagePrinter_.preparePaper(*printer_);
     rest_.start();
-    portrait_->setChecked(!printing_.isLandscape());
-    landscape_->setChecked(printing_.isLandscape());
+    portrait_->setChecked(!pagePrinter_.isLandscape());
+    landscape_->setChecked(pagePrinter_.isLandscape());
     view_->updatePreview();
 }
 
@@ -150,17 +150,17 @@ void PrintPreview::resizeEvent(QResizeEvent* event) {
 }
 
 void PrintPreview::setUpPage() {
-    if (printing_.setUpPage()) {
+    if (pagePrinter_.setUpPage()) {
         showAnew();
     }
 }
 
 void PrintPreview::print() {
-    printing_.print();
+    pagePrinter_.print();
 }
 
 void PrintPreview::turn(bool landscape) {
-    printing_.setLandscape(landscape);
+    pagePrinter_.setLandscape(landscape);
     showAnew();
 }
 

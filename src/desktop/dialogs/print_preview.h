@@ -58,7 +58,7 @@ private:
     void sharpen();
 
     const Texts& texts_;
-    Printing printing_;
+    PagePrinter pagePrinter_;
     std::unique_ptr<QPrinter> printer_;
     QPrintPreviewWidget* view_;
     /// Waits for the end of a change of size.
