@@ -44,7 +44,7 @@ void beginMap(MapCanvas& canvas, const MapColors& colors) {
     canvas.setPenColor(colors.fore);
 }
 
-struct MapView::Fit {
+struct MapView::ScaleAndMargins {
     float scale = 0;
     std::int32_t marginX = 0;
     std::int32_t marginY = 0;
@@ -83,7 +83,8 @@ bool MapView::hasMap() const {
     return totalBound.isSet && canvas.width > 0 && canvas.height > 0;
 }
 
-MapView::Fit MapView::fitOf(const BoundingBox& box, double room, float finest) const {
+MapView::ScaleAndMargins MapView::scaleToShow(const BoundingBox& box, double room,
+                                              float finest) const {
     const auto [width, height] = canvas_.size();
     const auto tightX = static_cast<float>(box.widthM * room / width);
     const auto tightY = static_cast<float>(box.heightM * room / height);
@@ -105,11 +106,11 @@ void MapView::fitView() {
     if (!hasMap()) {
         return;
     }
-    const Fit fit = fitOf(totalBound, 1, 0);
-    x_.scale = fit.scale;
-    y_.scale = fit.scale;
-    x_.margin = fit.marginX;
-    y_.margin = fit.marginY;
+    const ScaleAndMargins fitted = scaleToShow(totalBound, 1, 0);
+    x_.scale = fitted.scale;
+    y_.scale = fitted.scale;
+    x_.margin = fitted.marginX;
+    y_.margin = fitted.marginY;
 }
 
 void MapView::ZoomUno() {
@@ -135,13 +136,13 @@ void MapView::zoomToBox(const BoundingBox& box) {
         ZoomUno();
         return;
     }
-    const Fit fit =
-        fitOf(box, kBoxRoom, maxScale_ > 0 ? std::min(maxScale_, kFinestScale) : kFinestScale);
+    const ScaleAndMargins fitted = scaleToShow(
+        box, kBoxRoom, maxScale_ > 0 ? std::min(maxScale_, kFinestScale) : kFinestScale);
     const double eastM =
         (box.minX - totalBound.minX) * cosineOfLatitude(box.minY) * METERS_PER_DEGREE;
     const double northM = (box.minY - totalBound.minY) * METERS_PER_DEGREE;
-    setView(fit.scale, fit.scale, roundToInt32(eastM + x_.margin - fit.marginX),
-            roundToInt32(northM + y_.margin - fit.marginY));
+    setView(fitted.scale, fitted.scale, roundToInt32(eastM + x_.margin - fitted.marginX),
+            roundToInt32(northM + y_.margin - fitted.marginY));
     updateScrollBars();
 }
 

@@ -146,11 +146,12 @@ private:
                                           double canvasM) const;
         [[nodiscard]] ScrollBarState fitScrollBar(std::int32_t scrollRange);
     };
-    struct Fit;
+    struct ScaleAndMargins;
 
     [[nodiscard]] bool hasMap() const;
     /// At no finer scale than `finest`, unless that is 0.
-    [[nodiscard]] Fit fitOf(const BoundingBox& box, double room, float finest) const;
+    [[nodiscard]] ScaleAndMargins scaleToShow(const BoundingBox& box, double room,
+                                              float finest) const;
     // From the left and the bottom edge of the canvas to the point that stays, canvas units. None
     // where there is nothing to zoom.
     [[nodiscard]] std::optional<Place> zoomedIn(double fromLeft, double fromBottom) const;

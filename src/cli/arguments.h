@@ -60,7 +60,7 @@ struct ChannelSource {
 };
 
 /// What a prescription is made of.
-struct PrescriptionOrder {
+struct PrescriptionRequest {
     GridKind kind = GridKind::Pre;
     std::vector<ChannelSource> channels;
     /// Blank cells of the columns are ground outside every zone.
@@ -95,7 +95,7 @@ struct Arguments {
     bool json = false;
 
     std::optional<OrderCopy> copy;
-    PrescriptionOrder prescription;
+    PrescriptionRequest prescription;
 
     /// Of an export; not null then.
     const ExportFormat* exportFormat = nullptr;

@@ -106,10 +106,10 @@ std::optional<Failure> whyNotWritten(const Arguments& arguments) {
 
 bool writeGrid(const Arguments& arguments, std::span<const ChannelZones> channels,
                const Desk& desk) {
-    const PrescriptionOrder& order = arguments.prescription;
-    if (order.kind == GridKind::Vrt) {
-        return generateVRT(arguments.output, *order.resolution, {order.name, order.description},
-                           channels, desk)
+    const PrescriptionRequest& request = arguments.prescription;
+    if (request.kind == GridKind::Vrt) {
+        return generateVRT(arguments.output, *request.resolution,
+                           {request.name, request.description}, channels, desk)
             .has_value();
     }
     const std::string swath = arguments.swath.value_or(std::string(kUsualSwath));
@@ -123,7 +123,7 @@ bool writeGrid(const Arguments& arguments, std::span<const ChannelZones> channel
 int runPrescribe(const Arguments& arguments, const Console& console) {
     BatchMap batch(arguments, console.boxes);
     const Desk& desk = batch.desk();
-    const PrescriptionOrder& order = arguments.prescription;
+    const PrescriptionRequest& request = arguments.prescription;
     if (const std::optional<Failure> refused = whyNotWritten(arguments)) {
         desk.tell(*refused);
         return exit_status::kRefused;
@@ -132,10 +132,10 @@ int runPrescribe(const Arguments& arguments, const Console& console) {
     columns.onNote = [&console](const std::string& text) {
         console.boxes << "note: " << oneLine(text) << '\n';
     };
-    columns.answers = ColumnAnswers{order.blanksOutside, order.decimal};
-    columns.warnsOfDecimals = order.kind == GridKind::Pre;
+    columns.answers = ColumnAnswers{request.blanksOutside, request.decimal};
+    columns.warnsOfDecimals = request.kind == GridKind::Pre;
     int row = 0;
-    for (const ChannelSource& source : order.channels) {
+    for (const ChannelSource& source : request.channels) {
         if (!addColumn(columns, row++, source, desk)) {
             return exit_status::kRefused;
         }

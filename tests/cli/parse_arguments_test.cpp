@@ -93,18 +93,18 @@ TEST(Arguments, LooksOfThePicture) {
 }
 
 TEST(Arguments, APrescriptionIsMadeOfItsChannels) {
-    const PrescriptionOrder order =
+    const PrescriptionRequest request =
         parsed("prescribe --channel a,b.SHP,DOSIS --channel c.shp,SEMILLA,12,5 --channel d.shp,X, "
                "--format vrt --resolution 7,5 --oversize change --name N --description D "
                "-o out.vrt")
             .prescription;
-    EXPECT_EQ(order.channels, (std::vector<ChannelSource>{{"a,b.SHP", "DOSIS", std::nullopt},
-                                                          {"c.shp", "SEMILLA", "12,5"},
-                                                          {"d.shp", "X", ""}}));
-    EXPECT_EQ(order.kind, GridKind::Vrt);
-    EXPECT_EQ(order.resolution, 7.5F);
-    EXPECT_EQ(order.oversize, Answer::Yes);
-    EXPECT_EQ(order.name + order.description, "ND");
+    EXPECT_EQ(request.channels, (std::vector<ChannelSource>{{"a,b.SHP", "DOSIS", std::nullopt},
+                                                            {"c.shp", "SEMILLA", "12,5"},
+                                                            {"d.shp", "X", ""}}));
+    EXPECT_EQ(request.kind, GridKind::Vrt);
+    EXPECT_EQ(request.resolution, 7.5F);
+    EXPECT_EQ(request.oversize, Answer::Yes);
+    EXPECT_EQ(request.name + request.description, "ND");
 }
 
 TEST(Arguments, AWrongCommandLineIsExplained) {

@@ -120,15 +120,15 @@ void Replay::setSpeedShown(bool shown) {
     showSpeed();
 }
 
-void Replay::start(Order order) {
-    next_ = order;
+void Replay::start(Target target) {
+    next_ = target;
     if (busy_) {
         return;  // the loop that runs sees to it
     }
     const Lock lock(window_, busy_);
     hideInfo_();
     while (next_) {
-        const Order current = *std::exchange(next_, std::nullopt);
+        const Target current = *std::exchange(next_, std::nullopt);
         run(current);
     }
     plotOnTop();
@@ -143,16 +143,16 @@ void Replay::plotOnTop() {
     }
 }
 
-void Replay::run(const Order& order) {
-    Order round = order;
-    if (!order.seek && shown_.position < shown_.maximum) {
+void Replay::run(const Target& target) {
+    Target round = target;
+    if (!target.seek && shown_.position < shown_.maximum) {
         round.position = shown_.position;
     }
     while (drawFrom(round) == Outcome::RanOut) {
-        if (!repeat || order.seek) {
+        if (!repeat || target.seek) {
             state_ = State::Idle;
             shown_.playing = next_.has_value();
-            const bool toTheEnd = order.seek && order.position >= shown_.maximum;
+            const bool toTheEnd = target.seek && target.position >= shown_.maximum;
             shown_.position = toTheEnd ? shown_.maximum : 0;
             elementSpeed_.reset();
             showSpeed();
@@ -166,11 +166,11 @@ void Replay::run(const Order& order) {
     }
 }
 
-Replay::Outcome Replay::drawFrom(const Order& order) {
+Replay::Outcome Replay::drawFrom(const Target& target) {
     const ViewTransform view = view_.transform();
     MapContext context{canvas_, view, style_};
     // What a pause left on the canvas is not drawn again: layers below it would cover it.
-    const bool resumes = state_ == State::Paused && !order.seek;
+    const bool resumes = state_ == State::Paused && !target.seek;
     if (!resumes) {
         canvas_.clear();
     }
@@ -191,7 +191,7 @@ Replay::Outcome Replay::drawFrom(const Order& order) {
     for (; walk.current < walk.layers.size(); ++walk.current) {
         const Gph* const layer = walk.layers[walk.current];
         const std::int32_t count = layer->Gph_count();
-        if (walk.before + count > order.position) {
+        if (walk.before + count > target.position) {
             break;
         }
         if (!resumes) {
@@ -199,11 +199,11 @@ Replay::Outcome Replay::drawFrom(const Order& order) {
         }
         walk.before += count;
     }
-    state_ = order.seek ? State::Seeking : State::Playing;
-    auto position = static_cast<std::int32_t>(order.position - walk.before);
+    state_ = target.seek ? State::Seeking : State::Playing;
+    auto position = static_cast<std::int32_t>(target.position - walk.before);
     std::int32_t first = resumes ? position : 0;
     for (; walk.current < walk.layers.size(); ++walk.current) {
-        if (drawElements(context, walk, position, first, order.seek) == Outcome::Interrupted) {
+        if (drawElements(context, walk, position, first, target.seek) == Outcome::Interrupted) {
             return Outcome::Interrupted;
         }
         walk.before += walk.layers[walk.current]->Gph_count();

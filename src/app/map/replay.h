@@ -71,7 +71,8 @@ public:
     void waitMs(std::uint32_t milliseconds);
 
 private:
-    struct Order {
+    /// The element up to which is drawn, at once or played.
+    struct Target {
         bool seek = false;
         std::int32_t position = 0;
     };
@@ -84,10 +85,10 @@ private:
     };
     enum class Outcome { Interrupted, RanOut };
 
-    void start(Order order);
+    void start(Target target);
     void plotOnTop();
-    void run(const Order& order);
-    [[nodiscard]] Outcome drawFrom(const Order& order);
+    void run(const Target& target);
+    [[nodiscard]] Outcome drawFrom(const Target& target);
     [[nodiscard]] Outcome drawElements(MapContext& context, Walk& walk, std::int32_t position,
                                        std::int32_t first, bool seeking);
     void showElement(const Walk& walk, std::int32_t n);
@@ -118,7 +119,7 @@ private:
     /// While set, the window is being told a position and may report it back.
     bool showing_ = false;
     /// What is to be done when the loop that runs has ended.
-    std::optional<Order> next_;
+    std::optional<Target> next_;
 };
 
 }  // namespace campora

@@ -22,42 +22,46 @@ namespace campora {
 namespace {
 
 /// The writers of sets of files add the endings themselves.
-std::string_view basePath(const ExportJob& job) {
-    return std::string_view(job.path).substr(0, job.path.size() - kShapeEnding.size());
+std::string_view basePath(const ExportRequest& request) {
+    return std::string_view(request.path).substr(0, request.path.size() - kShapeEnding.size());
 }
 
-std::optional<Failure> writeShpPolygons(const ExportJob& job) {
-    return exportShpPolygons(job.layers, basePath(job), job.map.style(), job.progress);
+std::optional<Failure> writeShpPolygons(const ExportRequest& request) {
+    return exportShpPolygons(request.layers, basePath(request), request.map.style(),
+                             request.progress);
 }
 
-std::optional<Failure> writeShpPoints(const ExportJob& job) {
-    return exportShpPoints(job.layers, basePath(job), job.progress);
+std::optional<Failure> writeShpPoints(const ExportRequest& request) {
+    return exportShpPoints(request.layers, basePath(request), request.progress);
 }
 
-std::optional<Failure> writeShpGis(const ExportJob& job) {
-    return exportShpGis(job.layers, basePath(job), {job.map.style(), &job.map.desk().texts},
-                        job.means.today, job.progress);
+std::optional<Failure> writeShpGis(const ExportRequest& request) {
+    return exportShpGis(request.layers, basePath(request),
+                        {request.map.style(), &request.map.desk().texts}, request.means.today,
+                        request.progress);
 }
 
-std::optional<Failure> writeGeoJson(const ExportJob& job) {
-    return exportGeoJson(job.layers, job.path, {job.map.style(), &job.map.desk().texts},
-                         job.progress);
+std::optional<Failure> writeGeoJson(const ExportRequest& request) {
+    return exportGeoJson(request.layers, request.path,
+                         {request.map.style(), &request.map.desk().texts}, request.progress);
 }
 
-std::optional<Failure> writeKml(const ExportJob& job) {
-    return kmlExport(job.layers, job.path, job.map.programFolder(), job.map.style(), job.progress);
+std::optional<Failure> writeKml(const ExportRequest& request) {
+    return kmlExport(request.layers, request.path, request.map.programFolder(), request.map.style(),
+                     request.progress);
 }
 
 template <char kDecimalSymbol>
-std::optional<Failure> writeText(const ExportJob& job) {
+std::optional<Failure> writeText(const ExportRequest& request) {
     TextTableForm form;
     form.decimalSymbol = kDecimalSymbol;
-    return txtExport(job.layers, job.path, form, job.map.desk().locale, job.progress);
+    return txtExport(request.layers, request.path, form, request.map.desk().locale,
+                     request.progress);
 }
 
 template <PictureForm kForm>
-std::optional<Failure> writePicture(const ExportJob& job) {
-    return job.means.savePicture(job.means.picture(), job.path, kForm);
+std::optional<Failure> writePicture(const ExportRequest& request) {
+    return request.means.savePicture(request.means.picture(), request.path, kForm);
 }
 
 // clang-format off

@@ -36,7 +36,7 @@ struct ExportMeans {
 };
 
 /// What an export writes, and with what.
-struct ExportJob {
+struct ExportRequest {
     const OpenMap& map;
     const ExportMeans& means;
     std::vector<Gph*> layers;
@@ -64,7 +64,7 @@ struct ExportFormat {
     /// The layers of a table that has columns only when all of them have; null for others.
     std::vector<ExportLayer> (*tableLayers)(std::span<const Gph* const> layers) = nullptr;
     /// A map without anything for the format is a failure.
-    std::optional<Failure> (*write)(const ExportJob& job) = nullptr;
+    std::optional<Failure> (*write)(const ExportRequest& request) = nullptr;
 };
 
 /// In the order of the save dialog.
