@@ -11,7 +11,7 @@ namespace campora {
 
 int runExportTrack(const Arguments& arguments, const Console& console) {
     BatchMap batch(arguments, console.boxes);
-    TrackBatch tracks(batch.map());
+    TrackExportRun tracks(batch.map());
     tracks.options = arguments.trackExport;
     tracks.onBegin = [](const std::string& /*line*/) {};
     tracks.onDone = [&console, &tracks](const std::string& line,

@@ -296,7 +296,7 @@ constexpr ActionRow kActions[] = {
 
 constexpr MenuId kAlarmMenu = MenuId::Alarms;
 
-constexpr ToolRow kMainTools[] = {
+constexpr ToolBarRow kMainTools[] = {
     {"open", "mnuFileOpen"}, {"save", "mnuFileSaveas"}, {"export", "mnuFileExport"},
     {"copy", "mnuEditCopy"},
     {"preview", "mnuFilePrev"}, {"print", "mnuFilePrint"}, {},
@@ -308,7 +308,7 @@ constexpr ToolRow kMainTools[] = {
     {"panel", "mnuViewPanel"},
 };
 
-constexpr ToolRow kFileTools[] = {
+constexpr ToolBarRow kFileTools[] = {
     {"up", "mnuFileContextUp"}, {"down", "mnuFileContextDown"}, {"top", "mnuFileContextUpMost"},
     {"bottom", "mnuFileContextDownMost"}, {},
     {"zoom", "mnuFileContextZoom"}, {},
@@ -322,11 +322,11 @@ std::span<const ActionRow> actionRows() {
     return kActions;
 }
 
-std::span<const ToolRow> mainToolRows() {
+std::span<const ToolBarRow> mainToolBarRows() {
     return kMainTools;
 }
 
-std::span<const ToolRow> fileToolRows() {
+std::span<const ToolBarRow> fileToolBarRows() {
     return kFileTools;
 }
 

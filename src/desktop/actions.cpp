@@ -112,8 +112,8 @@ ActionSet::ActionSet(const MainWindow& commands, const ActionPlaces& places, Per
     for (const MenuRow& row : kMenus) {
         static_cast<void>(menu(row.id));  // also those that are filled while the program runs
     }
-    fillToolBar(places.mainTools, mainToolRows());
-    fillToolBar(places.fileTools, fileToolRows());
+    fillToolBar(places.mainTools, mainToolBarRows());
+    fillToolBar(places.fileTools, fileToolBarRows());
 }
 
 QAction* ActionSet::makeAction(const ActionRow& row) {
@@ -132,8 +132,8 @@ QAction* ActionSet::makeAction(const ActionRow& row) {
     return made;
 }
 
-void ActionSet::fillToolBar(QToolBar& bar, std::span<const ToolRow> rows) {
-    for (const ToolRow& row : rows) {
+void ActionSet::fillToolBar(QToolBar& bar, std::span<const ToolBarRow> rows) {
+    for (const ToolBarRow& row : rows) {
         if (*row.key == 0) {
             addLine(bar);
             continue;

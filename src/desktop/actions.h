@@ -89,15 +89,15 @@ struct ActionRow {
 [[nodiscard]] std::span<const ActionRow> actionRows();
 
 /// A button of a tool bar: its key and the command behind it; a row without a key is a line.
-struct ToolRow {
+struct ToolBarRow {
     const char* key = "";
     const char* action = "";
     /// The menu that drops down from it, beside the command.
     const MenuId* menu = nullptr;
 };
 
-[[nodiscard]] std::span<const ToolRow> mainToolRows();
-[[nodiscard]] std::span<const ToolRow> fileToolRows();
+[[nodiscard]] std::span<const ToolBarRow> mainToolBarRows();
+[[nodiscard]] std::span<const ToolBarRow> fileToolBarRows();
 
 /// The keys of a command, the one that is shown first.
 [[nodiscard]] QList<QKeySequence> keysOf(const ActionRow& row);
@@ -140,7 +140,7 @@ public:
 
 private:
     QAction* makeAction(const ActionRow& row);
-    void fillToolBar(QToolBar& bar, std::span<const ToolRow> rows);
+    void fillToolBar(QToolBar& bar, std::span<const ToolBarRow> rows);
     [[nodiscard]] QAction* action(std::string_view name) const;
 
     const MainWindow& commands_;

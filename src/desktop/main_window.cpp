@@ -185,13 +185,13 @@ void MainWindow::connectMap() {
 
 void MainWindow::connectFileList() {
     sidePanel_->legend().setCommands(session_->legendCommands());
-    FileList& files = sidePanel_->files();
+    FileListView& files = sidePanel_->files();
     files.setFileMenu(actions_->menu(MenuId::SelectedFile));
-    connect(&files, &FileList::rowChosen, this, [this](std::optional<int> row) {
+    connect(&files, &FileListView::rowChosen, this, [this](std::optional<int> row) {
         session_->listCommands().selectFile(row);
         commandsChanged();
     });
-    connect(&files, &FileList::zoomAsked, this,
+    connect(&files, &FileListView::zoomAsked, this,
             [this] { session_->listCommands().zoomToCurrentFile(); });
     connect(&sidePanel_->summary(), &SummaryTable::menuAsked, this, &MainWindow::openSummaryMenu);
 }

@@ -65,7 +65,7 @@ protected:
 
     void open(const std::vector<std::string>& paths) { window->openPaths(paths, true); }
 
-    [[nodiscard]] FileList& list() const { return window->sidePanel().files(); }
+    [[nodiscard]] FileListView& list() const { return window->sidePanel().files(); }
     [[nodiscard]] MapWidget& map() const { return window->mapArea().map(); }
     [[nodiscard]] MapView& view() const { return window->session().display().view(); }
     [[nodiscard]] ViewControls controls() const {

@@ -24,7 +24,7 @@ namespace {
 using WorkLoader = std::optional<LoadedWork> (*)(std::string_view, const WorkDesk&);
 
 template <WorkLoader load>
-std::optional<OpenedFile> openWork(std::string_view path, const OpenDesk& desk) {
+std::optional<OpenedFile> openWork(std::string_view path, const ReadingDesk& desk) {
     std::optional<LoadedWork> work = load(path, desk);
     if (!work) {
         return std::nullopt;
@@ -48,7 +48,7 @@ std::string foreignMapText(std::string_view path, const Texts& texts) {
            std::string(texts(TextId::FormatNeedsShape));
 }
 
-std::optional<OpenedFile> openGrid(std::string_view path, const OpenDesk& desk) {
+std::optional<OpenedFile> openGrid(std::string_view path, const ReadingDesk& desk) {
     const bool isForeign = std::any_of(
         std::begin(kForeignMaps), std::end(kForeignMaps),
         [name = lowerCase(path)](std::string_view ending) { return name.ends_with(ending); });
@@ -64,7 +64,7 @@ std::optional<OpenedFile> openGrid(std::string_view path, const OpenDesk& desk) 
     return OpenedFile{std::move(grid), std::nullopt, std::nullopt};
 }
 
-std::optional<OpenedFile> openZones(std::string_view path, const OpenDesk& desk) {
+std::optional<OpenedFile> openZones(std::string_view path, const ReadingDesk& desk) {
     if (!canOpen(path)) {
         const Result<FileBytes> file = readFile(path);
         const Failure why =
@@ -79,7 +79,7 @@ std::optional<OpenedFile> openZones(std::string_view path, const OpenDesk& desk)
     return OpenedFile{std::move(zones), std::nullopt, std::nullopt};
 }
 
-std::optional<OpenedFile> openLot(std::string_view path, const OpenDesk& desk) {
+std::optional<OpenedFile> openLot(std::string_view path, const ReadingDesk& desk) {
     std::unique_ptr<File> lot = loadLot(path, desk);
     if (!lot) {
         return std::nullopt;

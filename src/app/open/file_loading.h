@@ -18,7 +18,7 @@
 namespace campora {
 
 /// A desk that knows in which colours the map is drawn, for the readers of all kinds of files.
-struct OpenDesk : WorkDesk {
+struct ReadingDesk : WorkDesk {
     const MapColors& colors;
 };
 
@@ -40,7 +40,7 @@ struct FileFormat {
     /// Whether its files come from a logging console, which "save as" copies.
     bool fromLogger = false;
     /// Reports what is wrong with the file and answers none then.
-    std::optional<OpenedFile> (*read)(std::string_view path, const OpenDesk& desk);
+    std::optional<OpenedFile> (*read)(std::string_view path, const ReadingDesk& desk);
 };
 
 [[nodiscard]] std::span<const FileFormat> fileFormats();

@@ -22,7 +22,7 @@ namespace {
 
 constexpr std::string_view kResultDots = ":...........";
 
-/// Keeps what the reader of a file says, instead of a box for each file of a batch.
+/// Keeps what the reader of a file says, instead of a box for each file of a run.
 class RemarkDialogs final : public QuietDialogs {
 public:
     std::string remarks;
@@ -35,8 +35,8 @@ public:
 
 }  // namespace
 
-TrackExportOutcome TrackBatch::exportOne(const std::string& source,
-                                         std::string_view basePath) const {
+TrackExportOutcome TrackExportRun::exportOne(const std::string& source,
+                                             std::string_view basePath) const {
     if (const auto refused = inUse_.whyNotTarget(filesOfShapefile(basePath))) {
         return {false, map_.desk().texts.sentence(*refused)};
     }
@@ -50,14 +50,14 @@ TrackExportOutcome TrackBatch::exportOne(const std::string& source,
     return {!failure, failure ? map_.desk().texts.sentence(*failure) : dialogs.remarks};
 }
 
-void TrackBatch::lookWhatIsInUse(const std::vector<std::string>& sources) {
+void TrackExportRun::lookWhatIsInUse(const std::vector<std::string>& sources) {
     inUse_ = map_.filesInUse();
     for (const std::string& source : sources) {
         addOpened(inUse_, source);
     }
 }
 
-bool TrackBatch::exportList(const std::vector<std::string>& paths) {
+bool TrackExportRun::exportList(const std::vector<std::string>& paths) {
     if (running_) {
         return false;
     }
@@ -88,7 +88,7 @@ bool TrackBatch::exportList(const std::vector<std::string>& paths) {
     return all && !stopped_;
 }
 
-bool TrackBatch::exportFiles(const std::string& source, const std::string& target) {
+bool TrackExportRun::exportFiles(const std::string& source, const std::string& target) {
     const std::string base = pathEnding(target) == kShapeEnding ? shapeBaseOf(target) : target;
     const Texts& texts = map_.desk().texts;
     const std::optional<Failure> refused = whyNoTarget(target);

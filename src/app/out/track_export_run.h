@@ -24,10 +24,10 @@ struct TrackExportOutcome {
 
 /// The dialog that exports track files without its widgets. Pending events run between the files,
 /// so `stop` may be called before `exportList` returns.
-class TrackBatch {
+class TrackExportRun {
 public:
-    /// `map` outlives the batch.
-    explicit TrackBatch(const OpenMap& map) : map_(map) {}
+    /// `map` outlives the run.
+    explicit TrackExportRun(const OpenMap& map) : map_(map) {}
 
     TrackExportOptions options;
     /// Told when a file is begun ("Exportando x.nbr") and again when it is done

@@ -35,7 +35,7 @@ ShpExportDialog::ShpExportDialog(const OpenMap& map, Clock& clock, QWidget* pare
     : QDialog(parent),
       map_(map),
       clock_(clock),
-      batch_(map),
+      run_(map),
       txtOrig_(new QLineEdit(this)),
       txtDest_(new QLineEdit(this)),
       expAll_(new QRadioButton(word(TextId::ExportEverything), this)),
@@ -64,12 +64,12 @@ ShpExportDialog::ShpExportDialog(const OpenMap& map, Clock& clock, QWidget* pare
     connect(msgs_, &QListWidget::currentItemChanged, this, [this](const QListWidgetItem* item) {
         remark_->setText(item == nullptr ? QString() : item->data(kRemark).toString());
     });
-    batch_.onBegin = [this](const std::string& line) {
+    run_.onBegin = [this](const std::string& line) {
         msgs_->addItem(shownName(line));
         msgs_->scrollToBottom();
         clock_.processEvents();
     };
-    batch_.onDone = [this](const std::string& line, const TrackExportOutcome& outcome) {
+    run_.onDone = [this](const std::string& line, const TrackExportOutcome& outcome) {
         showDone(line, outcome);
         clock_.processEvents();
     };
@@ -232,15 +232,15 @@ void ShpExportDialog::browseTarget() {
 }
 
 void ShpExportDialog::run() {
-    batch_.options.polygonLength = slider_->value();
-    batch_.options.onlySprayed = expFum_->isChecked();
+    run_.options.polygonLength = slider_->value();
+    run_.options.onlySprayed = expFum_->isChecked();
     if (isAsProposed()) {
         runList();
         return;
     }
     {
         const PointerOverride busy(Qt::WaitCursor);
-        batch_.exportFiles(toUtf8(txtOrig_->text()), toUtf8(txtDest_->text()));
+        run_.exportFiles(toUtf8(txtOrig_->text()), toUtf8(txtDest_->text()));
     }
     accept();
 }
@@ -250,7 +250,7 @@ void ShpExportDialog::runList() {
     msgs_->clear();
     {
         const PointerOverride busy(Qt::BusyCursor);
-        batch_.exportList(paths_);
+        run_.exportList(paths_);
     }
     cmdExport_->hide();
     cmdCancel_->setText(word(TextId::ButtonClose));
@@ -272,9 +272,9 @@ void ShpExportDialog::showDone(const std::string& line, const TrackExportOutcome
 }
 
 void ShpExportDialog::reject() {
-    if (batch_.isRunning()) {
+    if (run_.isRunning()) {
         closing_ = true;
-        batch_.stop();
+        run_.stop();
         return;
     }
     QDialog::reject();

@@ -59,7 +59,7 @@ private:
 
     const OpenMap& map_;
     Clock& clock_;
-    TrackBatch batch_;
+    TrackExportRun run_;
     std::vector<std::string> paths_;
     bool closing_ = false;
 

@@ -61,17 +61,17 @@ private:
 
 }  // namespace
 
-FileList::FileList(QWidget* parent) : QListWidget(parent) {
+FileListView::FileListView(QWidget* parent) : QListWidget(parent) {
     setItemDelegate(new RemarkMarks(this));
     setIconSize({20, 20});
     setTextElideMode(Qt::ElideMiddle);
     setUniformItemSizes(true);
     connect(this, &QListWidget::itemSelectionChanged, this,
             [this] { emit rowChosen(selectedRow()); });
-    connect(this, &QListWidget::itemDoubleClicked, this, &FileList::zoomAsked);
+    connect(this, &QListWidget::itemDoubleClicked, this, &FileListView::zoomAsked);
 }
 
-void FileList::setRows(std::span<const FileListRow> rows, std::optional<int> selected) {
+void FileListView::setRows(std::span<const FileListRow> rows, std::optional<int> selected) {
     const QSignalBlocker silent(this);
     clear();
     for (const FileListRow& row : rows) {
@@ -87,12 +87,12 @@ void FileList::setRows(std::span<const FileListRow> rows, std::optional<int> sel
     }
 }
 
-std::optional<int> FileList::selectedRow() const {
+std::optional<int> FileListView::selectedRow() const {
     const QList<QListWidgetItem*> selected = selectedItems();
     return selected.isEmpty() ? std::nullopt : std::optional(row(selected.front()));
 }
 
-void FileList::keyPressEvent(QKeyEvent* event) {
+void FileListView::keyPressEvent(QKeyEvent* event) {
     if (selectedRow() && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
         emit zoomAsked();
         return;
@@ -100,7 +100,7 @@ void FileList::keyPressEvent(QKeyEvent* event) {
     QListWidget::keyPressEvent(event);
 }
 
-void FileList::contextMenuEvent(QContextMenuEvent* event) {
+void FileListView::contextMenuEvent(QContextMenuEvent* event) {
     if (fileMenu_ == nullptr || !selectedRow()) {
         return;
     }

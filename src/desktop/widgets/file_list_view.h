@@ -15,11 +15,11 @@ class QMenu;
 namespace campora {
 
 /// The open files, the one on top of the map first.
-class FileList final : public QListWidget {
+class FileListView final : public QListWidget {
     Q_OBJECT
 
 public:
-    explicit FileList(QWidget* parent = nullptr);
+    explicit FileListView(QWidget* parent = nullptr);
 
     /// Shows other rows without answering as if the user had chosen one.
     void setRows(std::span<const FileListRow> rows, std::optional<int> selected);

@@ -35,7 +35,7 @@ QWidget* section(std::initializer_list<QWidget*> widgets) {
 
 SidePanel::SidePanel(QWidget* parent)
     : QWidget(parent),
-      files_(new FileList),
+      files_(new FileListView),
       fileTools_(new QToolBar),
       summary_(new SummaryTable),
       legend_(new LegendView),

@@ -12,7 +12,7 @@ class QToolBar;
 
 namespace campora {
 
-class FileList;
+class FileListView;
 class LegendView;
 class SectionHeading;
 class SummaryTable;
@@ -24,14 +24,14 @@ public:
 
     void retranslate(const Texts& texts);
 
-    [[nodiscard]] FileList& files() const { return *files_; }
+    [[nodiscard]] FileListView& files() const { return *files_; }
     /// The buttons over the file list.
     [[nodiscard]] QToolBar& fileTools() const { return *fileTools_; }
     [[nodiscard]] SummaryTable& summary() const { return *summary_; }
     [[nodiscard]] LegendView& legend() const { return *legend_; }
 
 private:
-    FileList* files_;
+    FileListView* files_;
     QToolBar* fileTools_;
     SummaryTable* summary_;
     LegendView* legend_;

@@ -15,11 +15,11 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-struct TrackBatchTest : testing::Test, SessionDesk {
-    TrackBatchTest() {
+struct TrackExportRunTest : testing::Test, SessionDesk {
+    TrackExportRunTest() {
         session.start();
-        batch.onBegin = [this](const std::string& line) { begun.push_back(line); };
-        batch.onDone = [this](const std::string& line, const TrackExportOutcome& outcome) {
+        run.onBegin = [this](const std::string& line) { begun.push_back(line); };
+        run.onDone = [this](const std::string& line, const TrackExportOutcome& outcome) {
             done.push_back(line);
             remarks.push_back(outcome.remark);
         };
@@ -28,16 +28,16 @@ struct TrackBatchTest : testing::Test, SessionDesk {
         return std::filesystem::exists(nativePath(folder.file(name)));
     }
 
-    TrackBatch batch{session.map()};
+    TrackExportRun run{session.map()};
     Names begun;
     Names done;
     Names remarks;
 };
 
-TEST_F(TrackBatchTest, AFileThatFailsKeepsNoOtherFromBeingExported) {
+TEST_F(TrackExportRunTest, AFileThatFailsKeepsNoOtherFromBeingExported) {
     const Names paths{track("Log1.nbr", 50), folder.write("roto.nbr", "*TRACKER*\r\n"),
                       track("log 2.NBR", 60)};
-    EXPECT_FALSE(batch.exportList(paths));
+    EXPECT_FALSE(run.exportList(paths));
     EXPECT_EQ(begun, (Names{"Exportando Log1.nbr", "Exportando roto.nbr", "Exportando log 2.NBR"}));
     EXPECT_EQ(done,
               (Names{"Exportando Log1.nbr:...........Ok", "Exportando roto.nbr:...........Error",
@@ -50,34 +50,34 @@ TEST_F(TrackBatchTest, AFileThatFailsKeepsNoOtherFromBeingExported) {
     EXPECT_EQ(dialogs.messages, Names{});
 }
 
-TEST_F(TrackBatchTest, StoppingEndsTheRunAfterThePresentFile) {
+TEST_F(TrackExportRunTest, StoppingEndsTheRunAfterThePresentFile) {
     const Names paths{track("a.nbr", 50), track("b.nbr", 50), track("c.nbr", 50)};
-    batch.onBegin = [this](const std::string& line) {
+    run.onBegin = [this](const std::string& line) {
         begun.push_back(line);
         if (begun.size() == 2) {
-            EXPECT_TRUE(batch.isRunning());
-            EXPECT_FALSE(batch.exportList({})) << "one run at a time";
-            batch.stop();
+            EXPECT_TRUE(run.isRunning());
+            EXPECT_FALSE(run.exportList({})) << "one run at a time";
+            run.stop();
         }
     };
-    EXPECT_FALSE(batch.exportList(paths));
+    EXPECT_FALSE(run.exportList(paths));
     EXPECT_EQ(done.size(), 2U);
     EXPECT_EQ(
         dialogs.messages,
         Names{"Information|Campora|Se canceló la exportación. No se exportaron:\n" + paths[2]});
-    EXPECT_FALSE(batch.isRunning());
+    EXPECT_FALSE(run.isRunning());
     EXPECT_TRUE(isThere("b.shp"));
     EXPECT_FALSE(isThere("c.shp"));
 }
 
-TEST_F(TrackBatchTest, OneFileGoesWhereItIsWantedAndWhatCameOfItIsSaid) {
+TEST_F(TrackExportRunTest, OneFileGoesWhereItIsWantedAndWhatCameOfItIsSaid) {
     const std::string source = track("a.nbr", 50);
-    EXPECT_TRUE(batch.exportFiles(source, folder.file("otra.shp")));
+    EXPECT_TRUE(run.exportFiles(source, folder.file("otra.shp")));
     EXPECT_TRUE(isThere("otra.dbf"));
-    EXPECT_TRUE(batch.exportFiles(source, folder.file("sin final 3.5")));
+    EXPECT_TRUE(run.exportFiles(source, folder.file("sin final 3.5")));
     EXPECT_TRUE(isThere("sin final 3.5.shp"));
-    EXPECT_FALSE(batch.exportFiles(source, folder.file("gone/otra.shp")));
-    EXPECT_FALSE(batch.exportFiles(folder.file("gone.nbr"), folder.file("x.shp")));
+    EXPECT_FALSE(run.exportFiles(source, folder.file("gone/otra.shp")));
+    EXPECT_FALSE(run.exportFiles(folder.file("gone.nbr"), folder.file("x.shp")));
     ASSERT_EQ(dialogs.messages.size(), 4U);
     EXPECT_EQ(dialogs.messages[0], "Information|Campora|Archivo exportado correctamente.");
     EXPECT_TRUE(dialogs.messages[2].starts_with(
