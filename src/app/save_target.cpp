@@ -7,8 +7,8 @@
 
 namespace campora {
 
-std::string startFolder(const SettingsStore& settings, SettingId setting,
-                        const std::string& otherwise) {
+std::string keptFolder(const SettingsStore& settings, SettingId setting,
+                       const std::string& otherwise) {
     std::string folder = readText(settings, setting);
     return isFolder(folder) ? folder : otherwise;
 }

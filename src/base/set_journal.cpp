@@ -56,7 +56,7 @@ std::string encode(std::span<const SetMember> set) {
     return text;
 }
 
-bool readNumber(std::string_view text, std::uint64_t& number) {
+bool takesNumber(std::string_view text, std::uint64_t& number) {
     const char* const end = text.data() + text.size();
     const auto [stop, error] = std::from_chars(text.data(), end, number);
     return error == std::errc{} && stop == end;
@@ -84,8 +84,8 @@ std::optional<std::vector<SetMember>> decode(std::string_view text) {
     for (std::size_t i = 1; i < fields.size(); i += kFields) {
         SetMember member{
             std::string(fields[i]), std::string(fields[i + 1]), std::string(fields[i + 2]), {}};
-        if (!readNumber(fields[i + 3], member.mark.size) ||
-            !readNumber(fields[i + 4], member.mark.sum) || !isSound(member)) {
+        if (!takesNumber(fields[i + 3], member.mark.size) ||
+            !takesNumber(fields[i + 4], member.mark.sum) || !isSound(member)) {
             return std::nullopt;
         }
         set.push_back(std::move(member));

@@ -33,7 +33,7 @@ namespace campora {
 namespace {
 
 /// A file or folder name in a menu, where "&" marks a key.
-QString menuText(std::string_view text) {
+QString asMenuEntry(std::string_view text) {
     return shownName(text).replace("&", "&&");
 }
 
@@ -171,7 +171,7 @@ void MainWindow::fillRecentMenu() {
     int number = 0;
     for (const std::string& path : session_->fileCommands().recentFiles()) {
         QAction* entry =
-            menu.addAction(QString("&%1 ").arg(++number) + menuText(fileNamePart(path)));
+            menu.addAction(QString("&%1 ").arg(++number) + asMenuEntry(fileNamePart(path)));
         entry->setToolTip(plainToolTip(shownName(path)));
         // Queued: opening fills this menu anew.
         connect(

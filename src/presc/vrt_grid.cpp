@@ -24,7 +24,7 @@ constexpr std::size_t kDescriptionSize = 64;
 constexpr std::size_t kCells = 109;  // after 4 zero bytes
 
 /// Up to the first zero byte.
-std::string readText(ByteReader& reader, std::size_t size) {
+std::string readFixedText(ByteReader& reader, std::size_t size) {
     const std::span<const std::byte> field = reader.take(size);
     const std::string_view text(reinterpret_cast<const char*>(field.data()), field.size());
     return fromWindows1252(text.substr(0, text.find('\0')));
@@ -58,8 +58,8 @@ VrtGrid decodeVrt(std::span<const std::byte> bytes) {
     header.columns = reader.i32le();
     header.rows = reader.i32le();
     header.channels = reader.u8();
-    header.name = readText(reader, kNameSize);
-    header.description = readText(reader, kDescriptionSize);
+    header.name = readFixedText(reader, kNameSize);
+    header.description = readFixedText(reader, kDescriptionSize);
     reader.seek(kCells);
     if (!isPossible(header)) {
         throw FormatError(

@@ -122,7 +122,7 @@ std::optional<LoadedWork> readRptFile(std::string_view path, const FileBytes& by
 }
 
 std::optional<LoadedWork> loadRptFile(std::string_view path, const WorkDesk& desk) {
-    return openWork(path, desk, readRptFile);
+    return readFromDisk(path, desk, readRptFile);
 }
 
 }  // namespace campora

@@ -127,7 +127,7 @@ std::optional<LoadedWork> readRptTextTable(std::string_view path, const FileByte
 }
 
 std::optional<LoadedWork> loadRptTextTable(std::string_view path, const WorkDesk& desk) {
-    return openWork(path, desk, readRptTextTable);
+    return readFromDisk(path, desk, readRptTextTable);
 }
 
 }  // namespace campora

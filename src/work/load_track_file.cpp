@@ -141,7 +141,7 @@ std::optional<LoadedWork> loadTrackFile(std::string_view path, const WorkDesk& d
             return std::nullopt;
         }
     }
-    return openWork(path, desk, readTrackFile);
+    return readFromDisk(path, desk, readTrackFile);
 }
 
 }  // namespace campora

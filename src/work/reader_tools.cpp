@@ -12,7 +12,8 @@
 
 namespace campora {
 
-std::optional<LoadedWork> openWork(std::string_view path, const WorkDesk& desk, WorkReader reader) {
+std::optional<LoadedWork> readFromDisk(std::string_view path, const WorkDesk& desk,
+                                       WorkReader reader) {
     const Result<FileBytes> file = readFile(path);
     if (!file) {
         desk.tell(file.failure(), MessageIcon::Error);

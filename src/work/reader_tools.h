@@ -27,8 +27,8 @@ using WorkReader = std::optional<LoadedWork> (*)(std::string_view path, const Fi
 
 /// Opens the file and hands it to the reader; a file that cannot be read or that breaks its format
 /// is reported.
-[[nodiscard]] std::optional<LoadedWork> openWork(std::string_view path, const WorkDesk& desk,
-                                                 WorkReader reader);
+[[nodiscard]] std::optional<LoadedWork> readFromDisk(std::string_view path, const WorkDesk& desk,
+                                                     WorkReader reader);
 
 /// Says that the file has no points and answers none.
 [[nodiscard]] std::optional<LoadedWork> refuseWithoutPoints(std::string_view path,

@@ -50,7 +50,7 @@ std::string proposedLotNumber(const OpenMap& map, const SettingsStore& settings,
     if (const std::optional<int> number = numberInName(path)) {
         return numberText(*number);
     }
-    const std::string folder = startFolder(settings, SettingId::LotesPath, map.programFolder());
+    const std::string folder = keptFolder(settings, SettingId::LotesPath, map.programFolder());
     for (int number = 1; number < kLotNumbers; ++number) {
         if (!isThere(inFolder(folder, lotFileName(number)))) {
             return numberText(number);
@@ -62,7 +62,7 @@ std::string proposedLotNumber(const OpenMap& map, const SettingsStore& settings,
 std::string askLotTarget(const OpenMap& map, SettingsStore& settings, const std::string& name) {
     const Texts& texts = map.desk().texts;
     const SaveRequest request{std::string(texts(TextId::ExportTitle)),
-                              startFolder(settings, SettingId::LotesPath, map.programFolder()),
+                              keptFolder(settings, SettingId::LotesPath, map.programFolder()),
                               name,
                               {fileFilter(texts, TextId::FilterLote, kLotEnding)}};
     std::string path = map.desk().dialogs.saveFile(request).path;

@@ -120,15 +120,15 @@ void Replay::setSpeedShown(bool shown) {
     showSpeed();
 }
 
-void Replay::start(Target target) {
-    next_ = target;
+void Replay::start(Round wanted) {
+    next_ = wanted;
     if (busy_) {
         return;  // the loop that runs sees to it
     }
     const Lock lock(window_, busy_);
     hideInfo_();
     while (next_) {
-        const Target current = *std::exchange(next_, std::nullopt);
+        const Round current = *std::exchange(next_, std::nullopt);
         run(current);
     }
     plotOnTop();
@@ -143,16 +143,16 @@ void Replay::plotOnTop() {
     }
 }
 
-void Replay::run(const Target& target) {
-    Target round = target;
-    if (!target.seek && shown_.position < shown_.maximum) {
+void Replay::run(const Round& wanted) {
+    Round round = wanted;
+    if (!wanted.seek && shown_.position < shown_.maximum) {
         round.position = shown_.position;
     }
     while (drawFrom(round) == Outcome::RanOut) {
-        if (!repeat || target.seek) {
+        if (!repeat || wanted.seek) {
             state_ = State::Idle;
             shown_.playing = next_.has_value();
-            const bool toTheEnd = target.seek && target.position >= shown_.maximum;
+            const bool toTheEnd = wanted.seek && wanted.position >= shown_.maximum;
             shown_.position = toTheEnd ? shown_.maximum : 0;
             elementSpeed_.reset();
             showSpeed();
@@ -166,11 +166,11 @@ void Replay::run(const Target& target) {
     }
 }
 
-Replay::Outcome Replay::drawFrom(const Target& target) {
+Replay::Outcome Replay::drawFrom(const Round& wanted) {
     const ViewTransform view = view_.transform();
     MapContext context{canvas_, view, style_};
     // What a pause left on the canvas is not drawn again: layers below it would cover it.
-    const bool resumes = state_ == State::Paused && !target.seek;
+    const bool resumes = state_ == State::Paused && !wanted.seek;
     if (!resumes) {
         canvas_.clear();
     }
@@ -191,7 +191,7 @@ Replay::Outcome Replay::drawFrom(const Target& target) {
     for (; walk.current < walk.layers.size(); ++walk.current) {
         const Gph* const layer = walk.layers[walk.current];
         const std::int32_t count = layer->Gph_count();
-        if (walk.before + count > target.position) {
+        if (walk.before + count > wanted.position) {
             break;
         }
         if (!resumes) {
@@ -199,11 +199,11 @@ Replay::Outcome Replay::drawFrom(const Target& target) {
         }
         walk.before += count;
     }
-    state_ = target.seek ? State::Seeking : State::Playing;
-    auto position = static_cast<std::int32_t>(target.position - walk.before);
+    state_ = wanted.seek ? State::Seeking : State::Playing;
+    auto position = static_cast<std::int32_t>(wanted.position - walk.before);
     std::int32_t first = resumes ? position : 0;
     for (; walk.current < walk.layers.size(); ++walk.current) {
-        if (drawElements(context, walk, position, first, target.seek) == Outcome::Interrupted) {
+        if (drawElements(context, walk, position, first, wanted.seek) == Outcome::Interrupted) {
             return Outcome::Interrupted;
         }
         walk.before += walk.layers[walk.current]->Gph_count();
@@ -256,7 +256,7 @@ void Replay::showElement(const Walk& walk, std::int32_t n) {
 }
 
 bool Replay::isCancelled() const {
-    // Playing on after a seek waits for its end; another target does not.
+    // Playing on after a seek waits for its end; another round does not.
     return state_ == State::Idle || (next_ && next_->seek);
 }
 

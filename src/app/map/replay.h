@@ -71,8 +71,8 @@ public:
     void waitMs(std::uint32_t milliseconds);
 
 private:
-    /// The element up to which is drawn, at once or played.
-    struct Target {
+    /// Once through the layers: up to a position at once, or played from it on.
+    struct Round {
         bool seek = false;
         std::int32_t position = 0;
     };
@@ -85,10 +85,10 @@ private:
     };
     enum class Outcome { Interrupted, RanOut };
 
-    void start(Target target);
+    void start(Round wanted);
     void plotOnTop();
-    void run(const Target& target);
-    [[nodiscard]] Outcome drawFrom(const Target& target);
+    void run(const Round& wanted);
+    [[nodiscard]] Outcome drawFrom(const Round& wanted);
     [[nodiscard]] Outcome drawElements(MapContext& context, Walk& walk, std::int32_t position,
                                        std::int32_t first, bool seeking);
     void showElement(const Walk& walk, std::int32_t n);
@@ -119,7 +119,7 @@ private:
     /// While set, the window is being told a position and may report it back.
     bool showing_ = false;
     /// What is to be done when the loop that runs has ended.
-    std::optional<Target> next_;
+    std::optional<Round> next_;
 };
 
 }  // namespace campora

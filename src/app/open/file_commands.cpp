@@ -47,7 +47,7 @@ FileCommands::FileCommands(OpenMap& map, MapDisplay& display, MapTools& tools,
 
 void FileCommands::fileOpen() {
     OpenRequest request{std::string(map_.desk().texts(TextId::Open)),
-                        startFolder(settings_, SettingId::OpenPath, map_.programFolder()),
+                        keptFolder(settings_, SettingId::OpenPath, map_.programFolder()),
                         openFilters(map_.desk().texts)};
     request.several = true;
     request.preview = [this](const std::vector<std::string>& selected) { preview(selected); };

@@ -43,8 +43,8 @@ std::string computerOf(std::string_view path) {
     return lowerCase(path.substr(0, path.find_first_of(kSeparators)));
 }
 
-std::optional<std::vector<std::string>> entriesOf(std::string_view path,
-                                                  std::string_view programFolder) {
+std::optional<std::vector<std::string>> listedPaths(std::string_view path,
+                                                    std::string_view programFolder) {
     if (!isProject(path)) {
         return std::nullopt;  // known by its first bytes, however large the file
     }
@@ -186,7 +186,7 @@ private:
             }
         } else if (isProject(found->path)) {
             if (opened_.open(found->path)) {
-                push(entriesOf(found->path, programFolder_).value_or(std::vector<std::string>()));
+                push(listedPaths(found->path, programFolder_).value_or(std::vector<std::string>()));
             }
         } else if (formatOf(found->path) != nullptr) {
             files_.paths.push_back(found->path);
@@ -229,7 +229,7 @@ private:
 std::optional<ProjectFiles> filesOfProject(std::string_view path, std::string_view programFolder,
                                            const Desk& desk) {
     const std::string project = findIgnoringCase(path);
-    std::optional<std::vector<std::string>> entries = entriesOf(project, programFolder);
+    std::optional<std::vector<std::string>> entries = listedPaths(project, programFolder);
     if (!entries) {
         return std::nullopt;
     }

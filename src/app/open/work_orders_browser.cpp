@@ -32,7 +32,7 @@ WorkOrdersBrowser::~WorkOrdersBrowser() {
 }
 
 std::string WorkOrdersBrowser::startFolder() const {
-    return campora::startFolder(settings_, SettingId::OpenZelPath, map_.programFolder());
+    return keptFolder(settings_, SettingId::OpenZelPath, map_.programFolder());
 }
 
 std::vector<OrderRow> WorkOrdersBrowser::rows() const {

@@ -52,7 +52,7 @@ void ExportCommands::copyImage() {
 }
 
 std::string ExportCommands::folderFor(SettingId setting) const {
-    return startFolder(services_.settings, setting, map_.programFolder());
+    return keptFolder(services_.settings, setting, map_.programFolder());
 }
 
 bool ExportCommands::written(const std::function<bool()>& write) {

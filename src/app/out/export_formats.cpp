@@ -52,7 +52,7 @@ std::optional<Failure> writeKml(const ExportRequest& request) {
 }
 
 template <char kDecimalSymbol>
-std::optional<Failure> writeText(const ExportRequest& request) {
+std::optional<Failure> writeTextTable(const ExportRequest& request) {
     TextTableForm form;
     form.decimalSymbol = kDecimalSymbol;
     return txtExport(request.layers, request.path, form, request.map.desk().locale,
@@ -75,9 +75,9 @@ constexpr ExportFormat kFormats[] = {
     {"kml", kKmlEnding, TextId::FilterKml, ExportSource::Layers,
      AfterExport::AskToOpen, nullptr, writeKml},
     {"txt", kTextEnding, TextId::FilterText, ExportSource::Layers,
-     AfterExport::Open, nullptr, writeText<'.'>},
+     AfterExport::Open, nullptr, writeTextTable<'.'>},
     {"txt-comma", kTextEnding, TextId::FilterTextComma, ExportSource::Layers,
-     AfterExport::Open, nullptr, writeText<','>},
+     AfterExport::Open, nullptr, writeTextTable<','>},
     {"shp-gis", kShapeEnding, TextId::FilterShapeGis, ExportSource::Layers,
      AfterExport::Nothing, nullptr, writeShpGis},
     {"geojson", kGeoJsonEnding, TextId::FilterGeoJson, ExportSource::Layers,

@@ -75,7 +75,7 @@ PrintPreview::~PrintPreview() {
     delete view_;  // before the printer that it shows
 }
 
-QAction* PrintPreview::addCommand(QToolBar& bar, const Command& row) {
+QAction* PrintPreview::addCommand(QToolBar& bar, const BarCommand& row) {
     QAction* const command = bar.addAction(QIcon(QString(":/icons/%1.svg").arg(row.icon)),
                                            toQt(texts_(row.text)).remove('&').remove("..."));
     command->setObjectName(row.name);

@@ -30,7 +30,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    struct Command {
+    struct BarCommand {
         const char* name = "";
         TextId text{};
         const char* icon = "";
@@ -38,7 +38,7 @@ private:
         void (PrintPreview::*run)() = nullptr;
     };
 
-    QAction* addCommand(QToolBar& bar, const Command& row);
+    QAction* addCommand(QToolBar& bar, const BarCommand& row);
     void fillBar(QToolBar& bar);
     void setUpPage();
     void print();

@@ -15,7 +15,7 @@ namespace campora {
 
 namespace {
 
-struct CommandRow {
+struct LegendCommandRow {
     TextId text;
     void (LegendCommands::*run)();
     /// Only where the classes may change.
@@ -23,7 +23,7 @@ struct CommandRow {
     bool opensGroup = false;
 };
 
-constexpr CommandRow kCommands[] = {
+constexpr LegendCommandRow kCommands[] = {
     {TextId::MoreClasses, &LegendCommands::addClass, true, true},
     {TextId::FewerClasses, &LegendCommands::removeClass, true},
     {TextId::ClassNumber, &LegendCommands::askClassNumber, true},
@@ -79,7 +79,7 @@ QMenu* makeLegendMenu(QWidget& parent, const LegendContent& legend, int row,
         add(toQt(legend.valueChangeCaption), row >= 0,
             [&commands, row] { commands.askClassValue(row); });
     }
-    for (const CommandRow& command : kCommands) {
+    for (const LegendCommandRow& command : kCommands) {
         if (command.opensGroup) {
             menu->addSeparator();
         }
