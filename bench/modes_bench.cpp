@@ -12,7 +12,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include "app/colours/color_mode_commands.h"
 #include "app/session.h"
 #include "field.h"
 #include "paint/raster_canvas.h"
@@ -68,34 +67,34 @@ struct Desk {
     ScriptedClock clock;
     MemoryClasses classes;
     Session session;
-    MapModes& modes = session.modes();
 };
 
-void changeMode(benchmark::State& state, void (MapModes::*handler)(), int channel) {
+void changeMode(benchmark::State& state, void (*change)(Session&), int channel) {
     Desk desk(static_cast<std::size_t>(state.range(0)));
     if (channel >= 0) {
-        desk.modes.mnuColorScaleSelCH(channel);
+        desk.session.colorModeCommands().mnuColorScaleSelCH(channel);
     }
     for (auto _ : state) {
-        (desk.modes.*handler)();
+        change(desk.session);
     }
     benchmark::DoNotOptimize(desk.canvas.image().constBits());
 }
 
-#define CAMPORA_MODE(name, handler, channel)                                                       \
-    BENCHMARK_CAPTURE(changeMode, name, &MapModes::handler, channel)                               \
+#define CAMPORA_MODE(name, command, channel)                                                       \
+    BENCHMARK_CAPTURE(                                                                             \
+        changeMode, name, [](Session& session) { session.command(); }, channel)                    \
         ->Arg(100000)                                                                              \
         ->Unit(benchmark::kMillisecond)
 
-CAMPORA_MODE(alarmMap, mnuAlarmsPaint, -1);
-CAMPORA_MODE(dateMap, mnuColorDateMap, -1);
-CAMPORA_MODE(errorMapOfTotal, mnuColorErrorMap, -1);
-CAMPORA_MODE(errorMapOfChannel, mnuColorErrorMap, 0);
-CAMPORA_MODE(graduated, mnuEditGraduated, -1);
-CAMPORA_MODE(byMinute, mnuEditGraduatedByLtsMin, -1);
-CAMPORA_MODE(total, mnuColorScaleSelTotal, -1);
-CAMPORA_MODE(onlyWorked, mnuEditDrawAll, -1);
-CAMPORA_MODE(borders, mnuEditDrawBorder, -1);
+CAMPORA_MODE(alarmMap, colorModeCommands().mnuAlarmsPaint, -1);
+CAMPORA_MODE(dateMap, colorModeCommands().mnuColorDateMap, -1);
+CAMPORA_MODE(errorMapOfTotal, colorModeCommands().mnuColorErrorMap, -1);
+CAMPORA_MODE(errorMapOfChannel, colorModeCommands().mnuColorErrorMap, 0);
+CAMPORA_MODE(graduated, colorModeCommands().mnuEditGraduated, -1);
+CAMPORA_MODE(byMinute, colorModeCommands().mnuEditGraduatedByLtsMin, -1);
+CAMPORA_MODE(total, colorModeCommands().mnuColorScaleSelTotal, -1);
+CAMPORA_MODE(onlyWorked, drawingCommands().mnuEditDrawAll, -1);
+CAMPORA_MODE(borders, drawingCommands().mnuEditDrawBorder, -1);
 
 }  // namespace
 

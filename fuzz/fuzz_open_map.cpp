@@ -58,16 +58,17 @@ bool open(WatchedSession& watched, const FileSet& set, const ScratchFolder& fold
 }
 
 void drawInEveryMode(Session& session) {
-    MapModes& modes = session.modes();
-    modes.mnuEditDrawAll();
+    ColorModeCommands& modes = session.colorModeCommands();
+    DrawingCommands& drawing = session.drawingCommands();
+    drawing.mnuEditDrawAll();
     modes.mnuAlarmsPaint();
     modes.mnuAlarmsAlarm(1);
     modes.mnuColorDateMap();
     modes.mnuColorErrorMap();
     modes.mnuColorErrorMap();
     modes.mnuEditGraduated();
-    modes.mnuEditDoted();
-    modes.mnuEditDrawBorder();
+    drawing.mnuEditDoted();
+    drawing.mnuEditDrawBorder();
     modes.mnuEditGraduated();
     modes.mnuEditGraduatedByLtsMin();
     for (int channel = 0; channel < std::min(modes.channelCount(), 4); ++channel) {
@@ -76,7 +77,8 @@ void drawInEveryMode(Session& session) {
     }
     modes.mnuColorScaleSelTotal();
     modes.mnuEditGraduatedByLtsHect();
-    modes.mnuEditDrawAll();
+    DrawingCommands& drawing = session.drawingCommands();
+    drawing.mnuEditDrawAll();
 }
 
 void drag(MapTools& tools, CanvasPoint from, CanvasPoint to) {

@@ -78,6 +78,11 @@ void MapDisplay::showChange() {
     }
 }
 
+void MapDisplay::styleChanged() {
+    redraw();
+    window_.commandsChanged();
+}
+
 void MapDisplay::showEmpty() {
     view_.forget();
     redraw();

@@ -54,6 +54,8 @@ public:
     void showEmpty();
     /// Draws the map again as it stands, in the user's background.
     void redraw() { view_.refrescar("-1"); }
+    /// Draws the map again in another style, which the menus show as well.
+    void styleChanged();
     /// Fits the view to the open files; false when their extent is what it was. Draws nothing.
     bool recalcGphBound();
     /// The canvas has another size.

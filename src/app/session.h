@@ -6,6 +6,7 @@
 #include <string>
 
 #include "app/colours/color_mode_commands.h"
+#include "app/colours/drawing_commands.h"
 #include "app/colours/legend_commands.h"
 #include "app/loaded_file_list.h"
 #include "app/lots/lot_commands.h"
@@ -51,7 +52,8 @@ public:
     [[nodiscard]] FileListCommands& listCommands() { return listCommands_; }
     [[nodiscard]] SummaryCommands& summaryCommands() { return summaryCommands_; }
     [[nodiscard]] LegendCommands& legendCommands() { return legendCommands_; }
-    [[nodiscard]] MapModes& modes() { return modes_; }
+    [[nodiscard]] ColorModeCommands& colorModeCommands() { return colorModeCommands_; }
+    [[nodiscard]] DrawingCommands& drawingCommands() { return drawingCommands_; }
     [[nodiscard]] PrescCommands& prescCommands() { return prescCommands_; }
     [[nodiscard]] LotEditor& lotEditor() { return lotEditor_; }
     [[nodiscard]] LotCommands& lotCommands() { return lotCommands_; }
@@ -68,7 +70,8 @@ private:
     FileListCommands listCommands_;
     SummaryCommands summaryCommands_;
     LegendCommands legendCommands_;
-    MapModes modes_;
+    ColorModeCommands colorModeCommands_;
+    DrawingCommands drawingCommands_;
     PrescCommands prescCommands_;
     LotEditor lotEditor_;
     LotCommands lotCommands_;

@@ -191,7 +191,7 @@ void MainWindow::fillRecentMenu() {
 void MainWindow::fillChannelMenu() {
     QMenu& menu = actions_->menu(MenuId::Channel);
     menu.clear();
-    MapModes& modes = session_->modes();
+    ColorModeCommands& modes = session_->colorModeCommands();
     const auto add = [&](const QString& caption, int channel, auto choose) {
         QAction* entry = menu.addAction(caption, this, choose);
         entry->setCheckable(true);
@@ -212,13 +212,13 @@ void MainWindow::fillAlarmMenu() {
     for (QAction* old : std::exchange(alarmActions_, {})) {
         delete old;
     }
-    const std::vector<AlarmEntry> entries = session_->modes().alarmEntries();
+    const std::vector<AlarmEntry> entries = session_->colorModeCommands().alarmEntries();
     for (std::size_t i = 0; i < entries.size(); ++i) {
         if (!entries[i].visible) {
             continue;
         }
         QAction* entry = menu.addAction(toQt(entries[i].caption), this, [this, i] {
-            session_->modes().mnuAlarmsAlarm(static_cast<int>(i));
+            session_->colorModeCommands().mnuAlarmsAlarm(static_cast<int>(i));
         });
         entry->setCheckable(true);
         entry->setChecked(entries[i].checked);

@@ -12,8 +12,6 @@
 #include "base/numbers.h"
 #include "base/text.h"
 #include "base/typed_number.h"
-#include "model/measures.h"
-#include "model/work_layer.h"
 #include "presc/multi_channel.h"
 #include "work/gph_track.h"
 #include "work/vex_alarmas.h"
@@ -65,7 +63,7 @@ std::string_view withoutPercent(std::string_view answer) {
 
 }  // namespace
 
-std::vector<AlarmEntry> MapModes::alarmEntries() const {
+std::vector<AlarmEntry> ColorModeCommands::alarmEntries() const {
     std::vector<AlarmEntry> entries;
     entries.reserve(kAlarmEntries);
     for (int i = 0; i < kAlarmEntries; ++i) {
@@ -77,41 +75,41 @@ std::vector<AlarmEntry> MapModes::alarmEntries() const {
     return entries;
 }
 
-void MapModes::mnuAlarmsAll() {
+void ColorModeCommands::mnuAlarmsAll() {
     setAlarms(~std::uint32_t{0});
 }
 
-void MapModes::mnuAlarmsNone() {
+void ColorModeCommands::mnuAlarmsNone() {
     setAlarms(0);
 }
 
-void MapModes::setAlarms(std::uint32_t bits) {
+void ColorModeCommands::setAlarms(std::uint32_t bits) {
     map_.style().alarmSelection.fill(bits);
-    redraw();
+    display_.styleChanged();
 }
 
-void MapModes::mnuAlarmsAlarm(int index) {
+void ColorModeCommands::mnuAlarmsAlarm(int index) {
     if (index < 0 || index >= kAlarmEntries) {
         return;
     }
     const auto place = static_cast<unsigned>(index);
     map_.style().alarmSelection[place / kBits] ^= 1U << (place % kBits);
-    redraw();
+    display_.styleChanged();
 }
 
-void MapModes::mnuAlarmsPaint() {
+void ColorModeCommands::mnuAlarmsPaint() {
     toggle(ColorMode::Alarm);
 }
 
-void MapModes::mnuColorDateMap() {
+void ColorModeCommands::mnuColorDateMap() {
     toggle(ColorMode::Date);
 }
 
-void MapModes::mnuColorErrorMap() {
+void ColorModeCommands::mnuColorErrorMap() {
     toggle(ColorMode::Error);
 }
 
-void MapModes::toggle(ColorMode mode) {
+void ColorModeCommands::toggle(ColorMode mode) {
     MapStyle& style = map_.style();
     const ColorMode before = style.mode;
     style.mode = before == mode ? ColorMode::Dose : mode;
@@ -126,7 +124,7 @@ void MapModes::toggle(ColorMode mode) {
     showNewClasses();
 }
 
-void MapModes::mnuColorErrorMapMin() {
+void ColorModeCommands::mnuColorErrorMapMin() {
     MapStyle& style = map_.style();
     const std::optional<std::string> answer =
         map_.desk()
@@ -149,30 +147,30 @@ void MapModes::mnuColorErrorMapMin() {
     }
 }
 
-bool MapModes::canShowDates() const {
+bool ColorModeCommands::canShowDates() const {
     return map_.ranges().date.has_value();
 }
 
-void MapModes::mnuEditGraduated() {
+void ColorModeCommands::mnuEditGraduated() {
     MapStyle& style = map_.style();
     style.graduated = !style.graduated;
     showAgain();
 }
 
-void MapModes::mnuEditGraduatedByLtsHect() {
+void ColorModeCommands::mnuEditGraduatedByLtsHect() {
     graduateBy(GraduatedBy::Hectare);
 }
 
-void MapModes::mnuEditGraduatedByLtsMin() {
+void ColorModeCommands::mnuEditGraduatedByLtsMin() {
     graduateBy(GraduatedBy::Minute);
 }
 
-void MapModes::graduateBy(GraduatedBy by) {
+void ColorModeCommands::graduateBy(GraduatedBy by) {
     map_.style().by = by;
     showNewClasses();
 }
 
-int MapModes::channelCount() const {
+int ColorModeCommands::channelCount() const {
     int most = map_.style().selectedChannel + 1;  // the one in use is always offered
     for (int i = 0; i < map_.files().loadedCount(); ++i) {
         most = std::max(most, channelsOf(map_.files().file(i)));
@@ -180,113 +178,32 @@ int MapModes::channelCount() const {
     return most;
 }
 
-std::string MapModes::channelCaption(int index) const {
+std::string ColorModeCommands::channelCaption(int index) const {
     return map_.desk().texts.format(TextId::ReportPointChannel, {numberText(index + 1)});
 }
 
-void MapModes::mnuColorScaleSelTotal() {
+void ColorModeCommands::mnuColorScaleSelTotal() {
     mnuColorScaleSelCH(-1);
 }
 
-void MapModes::mnuColorScaleSelCH(int index) {
+void ColorModeCommands::mnuColorScaleSelCH(int index) {
     selectChannel(map_, index);
     showNewClasses();
 }
 
-void MapModes::mnuEditDrawAll() {
-    map_.style().drawAll = !map_.style().drawAll;
-    redraw();
-}
-
-void MapModes::mnuEditDoted() {
-    bool& dotted = map_.style().drawDotted;
-    dotted = !dotted;
-    writeSwitch(settings_, SettingId::DrawDotted, dotted);
-    redraw();
-}
-
-void MapModes::mnuEditDrawBorder() {
-    bool& borders = map_.style().drawBorders;
-    borders = !borders;
-    writeSwitch(settings_, SettingId::DrawBorders, borders);
-    redraw();
-}
-
-TextId MapModes::drawAllCaption() const {
-    switch (map_.history().lastKind.value_or(WorkKind::Sprayer)) {
-    case WorkKind::Seeder:
-        return TextId::OnlySown;
-    case WorkKind::OlderForm:
-        return TextId::OnlyWorked;
-    case WorkKind::Sprayer:
-        break;
-    }
-    return TextId::OnlySprayed;
-}
-
-void MapModes::mnuEditTrocha() {
-    const std::optional<std::string> answer = map_.desk().askText(TextId::AskSwath, {});
-    if (!answer || answer->empty()) {
-        return;
-    }
-    const std::optional<double> metres = typedNumber(*answer);
-    const float swath = static_cast<float>(std::min(metres.value_or(0), kWidestSwath));
-    if (swath <= 0) {
-        map_.desk().tell({metres ? TextId::SwathNotPositive : TextId::AnswerNotANumber, {*answer}});
-        return;
-    }
-    for (Gph* layer : map_.getGphList()) {
-        if (auto* const work = dynamic_cast<WorkLayer*>(layer)) {
-            work->trocha(swath);
-        }
-    }
-    if (map_.style().mode == ColorMode::Error) {
-        map_.recalcErrorAreas();
-        display_.showSummary();
-    }
-    display_.redraw();
-}
-
-void MapModes::chooseColor(SettingId id) {
-    const auto settings = colorSettings();
-    const auto found = std::find_if(settings.begin(), settings.end(),
-                                    [id](const ColorSetting& row) { return row.id == id; });
-    Color& color = map_.style().colors.*found->color;
-    const std::optional<Color> chosen = map_.desk().dialogs.chooseColor(color);
-    if (!chosen) {
-        return;
-    }
-    color = *chosen;
-    writeColor(settings_, id, color);
-    showAgain();
-}
-
-void MapModes::mnuEditColorDefect() {
-    map_.style().colors = {};
-    for (const auto& [id, color] : colorSettings()) {
-        writeColor(settings_, id, map_.style().colors.*color);
-    }
-    showAgain();
-}
-
-void MapModes::showNewClasses() {
+void ColorModeCommands::showNewClasses() {
     map_.refreshColorScale();
     display_.showLegend();
     if (map_.style().mode == ColorMode::Error) {
         map_.recalcErrorAreas();
         display_.showSummary();
     }
-    redraw();
+    display_.styleChanged();
 }
 
-void MapModes::showAgain() {
+void ColorModeCommands::showAgain() {
     display_.showLegend();
-    redraw();
-}
-
-void MapModes::redraw() {
-    display_.redraw();
-    display_.window().commandsChanged();
+    display_.styleChanged();
 }
 
 }  // namespace campora

@@ -13,6 +13,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "app/colours/drawing_commands.h"
 #include "base/typed_number.h"
 #include "presc/multi_channel.h"
 #include "support/session_desk.h"
@@ -25,7 +26,8 @@ using testing::Each;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-using Handler = void (MapModes::*)();
+using ModeHandler = void (ColorModeCommands::*)();
+using DrawingHandler = void (DrawingCommands::*)();
 using Lines = std::vector<std::string>;
 
 constexpr std::uint32_t kSprayer = 0x6001;
@@ -67,7 +69,8 @@ struct ModesDesk : SessionDesk {
     }
     [[nodiscard]] ColorMode mode() { return session.map().style().mode; }
 
-    MapModes& modes = session.modes();
+    ColorModeCommands& modes = session.colorModeCommands();
+    DrawingCommands& drawing = session.drawingCommands();
 };
 
 /// A file with several channels.
@@ -81,7 +84,7 @@ struct ChannelsFile : NamedFile, MultiChannel {
     int current = 0;
 };
 
-struct MapModesTest : testing::Test, ModesDesk {};
+struct ColorModeCommandsTest : testing::Test, ModesDesk {};
 
 TEST(TypedNumber, TakesEitherDecimalSymbolAndNothingElse) {
     const std::map<std::string, double> numbers = {{"12,5", 12.5}, {"12.5", 12.5}, {" 7 ", 7},
@@ -95,7 +98,7 @@ TEST(TypedNumber, TakesEitherDecimalSymbolAndNothingElse) {
     }
 }
 
-TEST_F(MapModesTest, SelectedAlarmsColourThePointsThatHaveThem) {
+TEST_F(ColorModeCommandsTest, SelectedAlarmsColourThePointsThatHaveThem) {
     openReport("lote.rpt");
     modes.mnuAlarmsPaint();
     const Lines alarm = {"0x0000FF"};
@@ -121,11 +124,11 @@ TEST_F(MapModesTest, SelectedAlarmsColourThePointsThatHaveThem) {
     EXPECT_EQ(entries.at(0), (AlarmEntry{"Falla de siembra", true, true}));
 }
 
-TEST(MapModes, TheThreeMapsExcludeEachOther) {
-    const std::pair<Handler, ColorMode> maps[] = {
-        {&MapModes::mnuAlarmsPaint, ColorMode::Alarm},
-        {&MapModes::mnuColorDateMap, ColorMode::Date},
-        {&MapModes::mnuColorErrorMap, ColorMode::Error},
+TEST(ColorModeCommands, TheThreeMapsExcludeEachOther) {
+    const std::pair<ModeHandler, ColorMode> maps[] = {
+        {&ColorModeCommands::mnuAlarmsPaint, ColorMode::Alarm},
+        {&ColorModeCommands::mnuColorDateMap, ColorMode::Date},
+        {&ColorModeCommands::mnuColorErrorMap, ColorMode::Error},
     };
     for (const auto& [first, firstMode] : maps) {
         for (const auto& [second, secondMode] : maps) {
@@ -149,7 +152,7 @@ TEST(MapModes, TheThreeMapsExcludeEachOther) {
     }
 }
 
-TEST_F(MapModesTest, TheErrorMapTellsColoursAndHectares) {
+TEST_F(ColorModeCommandsTest, TheErrorMapTellsColoursAndHectares) {
     openReport("lote.rpt", 2);
     modes.mnuColorErrorMap();
     EXPECT_EQ(fills(), Lines{"0xFF00FF"}) << "15 % in total";
@@ -167,7 +170,7 @@ TEST_F(MapModesTest, TheErrorMapTellsColoursAndHectares) {
     EXPECT_EQ(window.summary.back(), (SummaryRow{"Hectareas Error", " "}));
 }
 
-TEST(MapModes, TheAllowedErrorIsTakenAsTyped) {
+TEST(ColorModeCommands, TheAllowedErrorIsTakenAsTyped) {
     const std::tuple<const char*, std::optional<float>, const char*> rows[] = {
         {"12,5", 12.5F, "Errores > 12,5%"},
         {"20%", 20.0F, "Errores > 20%"},
@@ -191,7 +194,7 @@ TEST(MapModes, TheAllowedErrorIsTakenAsTyped) {
     }
 }
 
-TEST_F(MapModesTest, GraduatedWorkTakesTheColoursOfTheScale) {
+TEST_F(ColorModeCommandsTest, GraduatedWorkTakesTheColoursOfTheScale) {
     openReport("lote.rpt");
     ASSERT_TRUE(session.map().style().graduated);
     modes.mnuEditGraduated();
@@ -211,7 +214,7 @@ TEST_F(MapModesTest, GraduatedWorkTakesTheColoursOfTheScale) {
     EXPECT_EQ(window.legend.unit, "lt/hect");
 }
 
-TEST_F(MapModesTest, AFileWithoutTheChannelIsNamedAndKeepsItsOwn) {
+TEST_F(ColorModeCommandsTest, AFileWithoutTheChannelIsNamedAndKeepsItsOwn) {
     auto two = std::make_unique<ChannelsFile>("dos.pre", 2);
     auto three = std::make_unique<ChannelsFile>("tres.pre", 3);
     const ChannelsFile& fewer = *two;
@@ -231,7 +234,7 @@ TEST_F(MapModesTest, AFileWithoutTheChannelIsNamedAndKeepsItsOwn) {
     EXPECT_EQ(several.current, -1);
 }
 
-TEST_F(MapModesTest, LitresAndUnitsOfSeedHaveAScaleEach) {
+TEST_F(ColorModeCommandsTest, LitresAndUnitsOfSeedHaveAScaleEach) {
     open({report("siembra.rpt", 30000, kSeeder)});
     open({report("lote.rpt", 1000)});
     const auto shown = [this](int row) {
@@ -251,7 +254,7 @@ TEST_F(MapModesTest, LitresAndUnitsOfSeedHaveAScaleEach) {
     EXPECT_EQ(window.legend.unit, "unid/hect");
 }
 
-TEST(MapModes, ASwathWidthIsGivenToAllWork) {
+TEST(DrawingCommands, ASwathWidthIsGivenToAllWork) {
     struct Row {
         const char* answer;
         float metres;  ///< 20 as before
@@ -269,7 +272,7 @@ TEST(MapModes, ASwathWidthIsGivenToAllWork) {
         desk.modes.mnuColorErrorMap();
         desk.forget();
         desk.dialogs.inputAnswers = {row.answer};
-        desk.modes.mnuEditTrocha();
+        desk.drawing.mnuEditTrocha();
         EXPECT_EQ(desk.dialogs.inputs, Lines{"192|Campora|"});
         for (const Gph* layer : desk.session.map().getGphList()) {
             EXPECT_EQ(dynamic_cast<const GphTrack&>(*layer).pointInfo(1).trocha(), row.metres);
@@ -285,24 +288,24 @@ TEST(MapModes, ASwathWidthIsGivenToAllWork) {
     }
 }
 
-TEST(MapModes, AChosenColourIsKeptAndSeen) {
-    const std::tuple<Handler, const char*, Color MapColors::*> rows[] = {
-        {&MapModes::mnuEditColorFum, "mapDrawcolor", &MapColors::draw},
-        {&MapModes::mnuEditColorNofum, "mapNoDrawcolor", &MapColors::noDraw},
-        {&MapModes::mnuEditColorBack, "mapBackcolor", &MapColors::back},
-        {&MapModes::mnuEditColorText, "mapForecolor", &MapColors::fore},
-        {&MapModes::mnuEditColorAlarms, "mapAlarmColor", &MapColors::alarm},
-        {&MapModes::mnuEditColorNoAlarms, "mapNoAlarmColor", &MapColors::noAlarm},
-        {&MapModes::mnuEditColorShapes, "mapShapeColor", &MapColors::shape},
-        {&MapModes::mnuEditColorLotes, "mapLoteColor", &MapColors::lote},
+TEST(DrawingCommands, AChosenColourIsKeptAndSeen) {
+    const std::tuple<DrawingHandler, const char*, Color MapColors::*> rows[] = {
+        {&DrawingCommands::mnuEditColorFum, "mapDrawcolor", &MapColors::draw},
+        {&DrawingCommands::mnuEditColorNofum, "mapNoDrawcolor", &MapColors::noDraw},
+        {&DrawingCommands::mnuEditColorBack, "mapBackcolor", &MapColors::back},
+        {&DrawingCommands::mnuEditColorText, "mapForecolor", &MapColors::fore},
+        {&DrawingCommands::mnuEditColorAlarms, "mapAlarmColor", &MapColors::alarm},
+        {&DrawingCommands::mnuEditColorNoAlarms, "mapNoAlarmColor", &MapColors::noAlarm},
+        {&DrawingCommands::mnuEditColorShapes, "mapShapeColor", &MapColors::shape},
+        {&DrawingCommands::mnuEditColorLotes, "mapLoteColor", &MapColors::lote},
     };
     for (const auto& [handler, key, color] : rows) {
         SCOPED_TRACE(key);
         ModesDesk desk;
         desk.dialogs.colorAnswers = {std::nullopt, Color{0x0000AB}};
-        (desk.modes.*handler)();
+        (desk.drawing.*handler)();
         EXPECT_TRUE(desk.settings.values.empty()) << "cancelled";
-        (desk.modes.*handler)();
+        (desk.drawing.*handler)();
         MapColors expected;
         EXPECT_THAT(desk.dialogs.colors, Each(expected.*color));
         expected.*color = {0x0000AB};
@@ -310,7 +313,7 @@ TEST(MapModes, AChosenColourIsKeptAndSeen) {
         EXPECT_EQ(desk.settings.values, (decltype(desk.settings.values){{key, "171"}}));
         EXPECT_EQ(desk.redraws(), 1U);
 
-        desk.modes.mnuEditColorDefect();
+        desk.drawing.mnuEditColorDefect();
         MapStyle stored;
         readStyleSettings(desk.settings, stored);
         EXPECT_EQ(stored.colors, MapColors{});
