@@ -123,7 +123,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         prescription.mnuFileSavePrescript();
         checkSaved(out, ".pre", decodePre);
         out.clear();
-        prescription.mnuFileSaveVrt();
+        prescription.saveVrt();
         checkSaved(out, ".vrt", decodeVrt);
         if (watched.dialogs.said() == before) {
             stop("prescriptions neither saved nor refused");

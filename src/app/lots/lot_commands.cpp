@@ -38,7 +38,7 @@ std::vector<Lot> lotsIn(std::span<File* const> files) {
 
 }  // namespace
 
-void LotCommands::mnuLote() {
+void LotCommands::toggleEditor() {
     if (editor_.isOpen()) {
         editor_.close();
     } else {
@@ -51,7 +51,7 @@ bool LotCommands::canEdit() const {
     return current != nullptr && isOneLot(*current);
 }
 
-void LotCommands::mnuLoteEdit() {
+void LotCommands::edit() {
     if (canEdit()) {
         editor_.edit(*map_.files().currentFile());
     }
@@ -62,7 +62,7 @@ bool LotCommands::canSave() const {
     return current != nullptr && !lotsOf(*current).empty();
 }
 
-void LotCommands::mnuLoteSave() {
+void LotCommands::save() {
     if (!canSave()) {
         return;
     }
@@ -127,7 +127,7 @@ bool LotCommands::canMerge() const {
     return lotsIn(filesToMerge()).size() > 1;
 }
 
-void LotCommands::mnuLoteMerge() {
+void LotCommands::merge() {
     if (!canMerge()) {
         return;
     }

@@ -21,17 +21,17 @@ public:
         : map_(map), display_(display), editor_(editor), settings_(settings) {}
 
     /// Opens the editor, or closes it.
-    void mnuLote();
+    void toggleEditor();
     /// Opens the editor with the selected lot.
-    void mnuLoteEdit();
+    void edit();
     [[nodiscard]] bool canEdit() const;
     /// Asks where to and writes the lots of the selected file, one a file.
-    void mnuLoteSave();
+    void save();
     [[nodiscard]] bool canSave() const;
     /// Shows the union of all open lots as a file of its own, on no disk yet, in place of an
     /// earlier one. That one is merged only when no other lots are open: what the user has taken
     /// off the map must not come back with it.
-    void mnuLoteMerge();
+    void merge();
     [[nodiscard]] bool canMerge() const;
 
 private:

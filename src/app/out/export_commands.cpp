@@ -158,7 +158,7 @@ bool ExportCommands::canExportGlg() const {
     return !tracksOf(map_.getGphList()).empty();
 }
 
-void ExportCommands::mnuFileExportGlg() {
+void ExportCommands::exportGlg() {
     const Texts& texts = map_.desk().texts;
     const File* const current = map_.files().currentFile();
     const std::string proposed =

@@ -38,7 +38,7 @@ public:
     /// Asks for a report and writes it as a text table, without showing it on the map.
     void mnuFileExportRpt();
     /// Asks where to and writes the points of all tracks in the GLG point format.
-    void mnuFileExportGlg();
+    void exportGlg();
     /// The map with its scale bar to the clipboard; the canvas stays as it was.
     void copyImage();
     /// Whether there is a track on the map.

@@ -141,7 +141,7 @@ void PrescCommands::mnuFileSavePrescript() {
     }
 }
 
-void PrescCommands::mnuFileSaveVrt() {
+void PrescCommands::saveVrt() {
     GphPrescVex* const open = prescription();
     if (open == nullptr) {
         return;

@@ -47,7 +47,7 @@ public:
     /// Asks where to and for the swath width, and writes a PRE file.
     void mnuFileSavePrescript();
     /// Asks where to, for the resolution, a name and a description, and writes a VRT file.
-    void mnuFileSaveVrt();
+    void saveVrt();
     /// Asks for the dose of the current channel's zone at the position; nothing where none is.
     /// Without a prescription it lays the tool down.
     void changeDose(LonLat position);

@@ -31,9 +31,9 @@ struct LotCommandsTest : testing::Test, SessionDesk {
 };
 
 TEST_F(LotCommandsTest, AreThereForWhatIsOpen) {
-    commands.mnuLoteEdit();
-    commands.mnuLoteSave();
-    commands.mnuLoteMerge();
+    commands.edit();
+    commands.save();
+    commands.merge();
     EXPECT_FALSE(session.lotEditor().isOpen());
     ASSERT_TRUE(open({report("a.rpt")}));
     EXPECT_FALSE(commands.canEdit() || commands.canSave() || commands.canMerge());
@@ -43,25 +43,25 @@ TEST_F(LotCommandsTest, AreThereForWhatIsOpen) {
     EXPECT_FALSE(commands.canMerge());
     openLot("b.lot", squareRing(-59, -34, 1));
     EXPECT_TRUE(commands.canMerge());
-    commands.mnuLoteEdit();
+    commands.edit();
     EXPECT_EQ(session.lotEditor().draft().origin().path, folder.file("a.lot"));
-    commands.mnuLote();
+    commands.toggleEditor();
     EXPECT_FALSE(session.lotEditor().isOpen());
 }
 
 TEST_F(LotCommandsTest, MergedLotsAreShownAndSaved) {
     openLot("a.lot", squareRing(-60, -34, 1));
     openLot("b.lot", squareRing(-59.5, -34, 1));
-    commands.mnuLoteMerge();
+    commands.merge();
     EXPECT_EQ(listed(), (Names{"Fusionado", "a.lot", "b.lot"}));
     EXPECT_EQ(window.selected, 0);
     EXPECT_EQ(window.title, "Campora - [Untitled]");
-    commands.mnuLoteMerge();
+    commands.merge();
     EXPECT_EQ(listed(), (Names{"Fusionado", "a.lot", "b.lot"}));
     EXPECT_TRUE(dialogs.messages.empty());
 
     dialogs.saveAnswers.push_back({folder.file("los dos"), 0});
-    commands.mnuLoteSave();
+    commands.save();
     EXPECT_EQ(dialogs.saves[0].name, "Fusionado.lot");
     EXPECT_EQ(listed(), (Names{"los dos.lot", "a.lot", "b.lot"}));
     const Lot merged = decodeLot(contentOf(folder.file("los dos.lot")));
@@ -72,16 +72,16 @@ TEST_F(LotCommandsTest, MergedLotsAreShownAndSaved) {
 TEST_F(LotCommandsTest, LotsApartAreSavedEachInAFile) {
     openLot("a.lot", squareRing(-60, -34, 1));
     openLot("b.lot", squareRing(-50, -34, 2));
-    commands.mnuLoteMerge();
+    commands.merge();
     EXPECT_EQ(dialogs.messages, Names{"Exclamation|Lote Virtual|Quedan 2 contornos separados"});
     EXPECT_FALSE(commands.canEdit());
     folder.write("x-2.lot", "");
     dialogs.saveAnswers = {{folder.file("x.lot"), 0}, {folder.file("x.lot"), 0}};
     dialogs.yesNoAnswers = {false};
-    commands.mnuLoteSave();
+    commands.save();
     EXPECT_EQ(contentOf(folder.file("x-1.lot")), "");
     dialogs.yesNoAnswers = {true};
-    commands.mnuLoteSave();
+    commands.save();
     EXPECT_EQ(listed(), (Names{"x-1.lot", "a.lot", "b.lot", "x-2.lot"}));
     EXPECT_EQ(decodeLot(contentOf(folder.file("x-1.lot"))).vertices.size(), 4U);
 }
@@ -89,8 +89,8 @@ TEST_F(LotCommandsTest, LotsApartAreSavedEachInAFile) {
 TEST_F(LotCommandsTest, AnEditedResultOfMergingIsNoLongerUntitledOnceItIsSaved) {
     openLot("a.lot", squareRing(-60, -34, 1));
     openLot("b.lot", squareRing(-59.5, -34, 1));
-    commands.mnuLoteMerge();
-    commands.mnuLoteEdit();
+    commands.merge();
+    commands.edit();
     dialogs.inputAnswers.push_back("5");
     dialogs.saveAnswers.push_back({folder.file("lote05.lot"), 0});
     session.lotEditor().save();
@@ -104,12 +104,12 @@ TEST_F(LotCommandsTest, AnOpenFileIsWrittenOverByNoneButItself) {
     const auto saveTo = [this](const char* name) {
         dialogs.messages.clear();
         dialogs.saveAnswers.push_back({folder.file(name), 0});
-        commands.mnuLoteSave();
+        commands.save();
         return dialogs.messages.empty() ? std::string() : dialogs.messages[0];
     };
     EXPECT_NE(saveTo("b.lot").find("se perdería " + folder.file("b.lot")), std::string::npos);
     EXPECT_EQ(saveTo("a.lot"), "") << "its own";
-    commands.mnuLoteMerge();
+    commands.merge();
     EXPECT_NE(saveTo("a.lot").find("se perdería "), std::string::npos);
     session.map().removeFile(&session.map().files().file(1));
     EXPECT_NE(saveTo("a.lot").find("se perdería "), std::string::npos) << "it was merged from it";
@@ -121,12 +121,12 @@ TEST_F(LotCommandsTest, AnOpenFileIsWrittenOverByNoneButItself) {
 TEST_F(LotCommandsTest, AResultAloneIsMergedAgain) {
     openLot("a.lot", squareRing(-60, -34, 1));
     openLot("b.lot", squareRing(-50, -34, 2));
-    commands.mnuLoteMerge();
+    commands.merge();
     session.map().removeFile(&session.map().files().file(1));
     EXPECT_FALSE(commands.canMerge()) << "one is on disk, and what was taken off stays off";
     session.map().removeFile(&session.map().files().file(1));
     ASSERT_TRUE(commands.canMerge());
-    commands.mnuLoteMerge();
+    commands.merge();
     EXPECT_EQ(listed(), Names{"Fusionado"});
     EXPECT_EQ(lotsOf(session.map().files().file(0)).size(), 2U);
 }
@@ -135,7 +135,7 @@ TEST_F(LotCommandsTest, AResultOfMergingThatIsNotSavedGoesOnlyWhenTheUserAgrees)
     openLot("a.lot", squareRing(-60, -34, 1));
     openLot("b.lot", squareRing(-59.5, -34, 1));
     EXPECT_TRUE(mayCloseFiles(session.map()));
-    commands.mnuLoteMerge();
+    commands.merge();
     dialogs.openAnswers.push_back({folder.file("b.lot")});
     const std::function<void()> ways[] = {
         [this] { EXPECT_FALSE(mayCloseFiles(session.map())); },

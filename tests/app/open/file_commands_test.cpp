@@ -84,7 +84,7 @@ TEST_F(FileCommandsTest, AStepLosesNothingUnsavedUnasked) {
     writeLot(folder, "a.lot", squareRing(-60, -34, 1), "");
     writeLot(folder, "b.lot", squareRing(-59.5, -34, 1), "");
     commands.openPaths({folder.file("a.lot"), folder.file("b.lot")}, true);
-    session.lotCommands().mnuLoteMerge();
+    session.lotCommands().merge();
     for (const int step : {1, -1}) {
         session.listCommands().selectFile(step > 0 ? 1 : 2);
         dialogs.yesNoAnswers = {false};

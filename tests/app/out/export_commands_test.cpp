@@ -196,7 +196,7 @@ TEST_F(ExportCommandsTest, GlgHoldsThePointsOfAllTracksInOrder) {
     ASSERT_TRUE(open({track("log1.nbr", 50)}));
     EXPECT_TRUE(commands.canExportGlg());
     dialogs.saveAnswers = {{folder.file("puntos"), 0}};
-    commands.mnuFileExportGlg();
+    commands.exportGlg();
     const std::string bytes = contentOf(folder.file("puntos.glg"));
     ASSERT_EQ(bytes.size(), 6U * 8U);
     // The logger's first point, 31.5 south and 60.5 west, comes after the three of the report.

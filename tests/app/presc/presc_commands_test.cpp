@@ -128,7 +128,7 @@ TEST_F(PrescCommandsTest, SavesAVrtUnderItsName) {
     const std::string path = folder.file("uno.vrt");
     dialogs.saveAnswers.push_back({path, 0});
     dialogs.inputAnswers = {"20.5", "Lote 7", "maiz"};
-    commands.mnuFileSaveVrt();
+    commands.saveVrt();
     EXPECT_EQ(dialogs.saves[0].name, "canal1.vrt");
     EXPECT_TRUE(dialogs.inputs[1].ends_with("|Campora|canal1"));
     ASSERT_TRUE(open({path}, true));
@@ -140,7 +140,7 @@ TEST_F(PrescCommandsTest, SavesAVrtUnderItsName) {
 
 TEST_F(PrescCommandsTest, ASaveThatIsCancelledOrNoNumberWritesNothing) {
     commands.mnuFileSavePrescript();
-    commands.mnuFileSaveVrt();
+    commands.saveVrt();
     EXPECT_TRUE(dialogs.saves.empty());  // nothing to save
     create({{"10"}});
     const std::string path = folder.file("uno.pre");
@@ -157,7 +157,7 @@ TEST_F(PrescCommandsTest, ASaveThatIsCancelledOrNoNumberWritesNothing) {
              {std::nullopt}, {"20", std::nullopt}, {"20", "Lote 7", std::nullopt}}) {
         dialogs.saveAnswers = {{path, 0}};
         dialogs.inputAnswers = answers;
-        commands.mnuFileSaveVrt();
+        commands.saveVrt();
         EXPECT_EQ(dialogs.inputFiles.back(), path);
     }
     EXPECT_EQ(dialogs.messages.size(), 1U);
