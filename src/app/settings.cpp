@@ -54,7 +54,7 @@ constexpr std::array kRows = {
     color(SettingId::AlarmColor, "mapAlarmColor", kColors.alarm),
     color(SettingId::NoAlarmColor, "mapNoAlarmColor", kColors.noAlarm),
     color(SettingId::ShapeColor, "mapShapeColor", kColors.shape),
-    color(SettingId::LoteColor, "mapLoteColor", kColors.lote),
+    color(SettingId::LotColor, "mapLoteColor", kColors.lot),
     number(SettingId::CoordType, "mapCoordType", 0, 0, 2),
     onOff(SettingId::DrawDotted, "DrawDotted", kStyle.drawDotted),
     onOff(SettingId::DrawBorders, "DrawBorders", kStyle.drawBorders),
@@ -64,9 +64,9 @@ constexpr std::array kRows = {
     text(SettingId::OpenPath, "OpenPath"),
     text(SettingId::SavePath, "SavePath"),
     text(SettingId::ExportPath, "ExportPath"),
-    text(SettingId::OpenZelPath, "OpenZELPath"),
-    text(SettingId::SelectFolder, "SelectFolder"),
-    text(SettingId::LotesPath, "LotesPath"),
+    text(SettingId::WorkOrdersPath, "OpenZELPath"),
+    text(SettingId::OrderCopyPath, "SelectFolder"),
+    text(SettingId::LotsPath, "LotesPath"),
     text(SettingId::PrescOpenPath, "PrescOpenPath"),
     text(SettingId::RecentFiles, "RecentFiles"),
     text(SettingId::WindowGeometry, "WindowGeometry"),
@@ -99,7 +99,7 @@ constexpr ColorSetting kColorSettings[] = {
     {SettingId::DrawColor, &MapColors::draw},   {SettingId::NoDrawColor, &MapColors::noDraw},
     {SettingId::BackColor, &MapColors::back},   {SettingId::ForeColor, &MapColors::fore},
     {SettingId::AlarmColor, &MapColors::alarm}, {SettingId::NoAlarmColor, &MapColors::noAlarm},
-    {SettingId::ShapeColor, &MapColors::shape}, {SettingId::LoteColor, &MapColors::lote},
+    {SettingId::ShapeColor, &MapColors::shape}, {SettingId::LotColor, &MapColors::lot},
 };
 
 struct LanguageCode {

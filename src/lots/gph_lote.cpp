@@ -59,11 +59,11 @@ float GphLote::hectares() const {
 
 void GphLote::Gph_plot(MapContext& context) const {
     draw(context, context.lotsAlone ? FillStyle::Solid : FillStyle::Hatched,
-         context.style.colors.lote, 1);
+         context.style.colors.lot, 1);
 }
 
 void GphLote::plotOnTop(MapContext& context) const {
-    draw(context, FillStyle::Transparent, context.style.colors.lote.darker(), kOutlinePixels);
+    draw(context, FillStyle::Transparent, context.style.colors.lot.darker(), kOutlinePixels);
 }
 
 void GphLote::draw(MapContext& context, FillStyle fill, Color pen, int penWidth) const {
@@ -80,7 +80,7 @@ void GphLote::draw(MapContext& context, FillStyle fill, Color pen, int penWidth)
     canvas.setPenColor(pen);
     canvas.setPenWidth(penWidth);
     canvas.setFillStyle(fill);
-    canvas.setFillColor(context.style.colors.lote);
+    canvas.setFillColor(context.style.colors.lot);
     canvas.polygon(corners);
     // Others draw with what they find.
     canvas.setPenColor(before);

@@ -13,14 +13,16 @@ namespace campora {
 
 /// The user's colours of the map.
 struct MapColors {
+    /// Of steps with flow, where the scale does not colour them, and without.
     Color draw{0xFF8080};
     Color noDraw{0x40FF00};
     Color back{0xFFFFFF};
+    /// Of the pen and of texts.
     Color fore{0x000000};
     Color alarm{0x0000FF};
     Color noAlarm{0x00FF00};
     Color shape{0x00FF00};
-    Color lote{0x00FFFF};
+    Color lot{0x00FFFF};
 
     bool operator==(const MapColors&) const = default;
 };

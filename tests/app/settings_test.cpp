@@ -52,7 +52,7 @@ TEST(Settings, NonsenseInAnyKeyIsAsGoodAsNothing) {
 
 TEST(Settings, WrittenValuesAreReadAgain) {
     MemorySettings settings;
-    writeColor(settings, SettingId::LoteColor, {0xFFFFFF});
+    writeColor(settings, SettingId::LotColor, {0xFFFFFF});
     writeNumber(settings, SettingId::CoordType, 2);
     writeSwitch(settings, SettingId::DrawBorders, false);
     writeSwitch(settings, SettingId::DrawDotted, true);
@@ -62,7 +62,7 @@ TEST(Settings, WrittenValuesAreReadAgain) {
                                                           {"DrawBorders", "False"},
                                                           {"DrawDotted", "True"},
                                                           {"OpenPath", "/campo/año 2018/"}}));
-    EXPECT_EQ(readColor(settings, SettingId::LoteColor), Color{0xFFFFFF});
+    EXPECT_EQ(readColor(settings, SettingId::LotColor), Color{0xFFFFFF});
     EXPECT_EQ(readNumber(settings, SettingId::CoordType), 2);
     EXPECT_FALSE(readSwitch(settings, SettingId::DrawBorders));
     EXPECT_EQ(readText(settings, SettingId::OpenPath), "/campo/año 2018/");

@@ -43,7 +43,7 @@ TEST(GphLote, IsExportedAsAClosedRing) {
 TEST(GphLote, IsHatchedAmongOthersAndItsOutlineLiesOnTop) {
     RecordingCanvas canvas{{1000, 500}};
     MapStyle style;
-    style.colors.lote = Color::rgb(90, 180, 9);
+    style.colors.lot = Color::rgb(90, 180, 9);
     canvas.setPenColor(Color{0xABCDEF});
     const ViewTransform view(10, 10, {0, 0}, canvas.size());
     MapContext context{canvas, view, style};

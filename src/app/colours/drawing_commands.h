@@ -38,7 +38,7 @@ public:
     void mnuEditColorNoAlarms() { chooseColor(SettingId::NoAlarmColor); }
     /// Of shapefiles without doses.
     void mnuEditColorShapes() { chooseColor(SettingId::ShapeColor); }
-    void mnuEditColorLotes() { chooseColor(SettingId::LoteColor); }
+    void mnuEditColorLotes() { chooseColor(SettingId::LotColor); }
     void mnuEditColorBack() { chooseColor(SettingId::BackColor); }
     /// Of what was worked ("fumigado"), and of what was not.
     void mnuEditColorFum() { chooseColor(SettingId::DrawColor); }

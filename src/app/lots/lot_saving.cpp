@@ -50,7 +50,7 @@ std::string proposedLotNumber(const OpenMap& map, const SettingsStore& settings,
     if (const std::optional<int> number = numberInName(path)) {
         return numberText(*number);
     }
-    const std::string folder = keptFolder(settings, SettingId::LotesPath, map.programFolder());
+    const std::string folder = keptFolder(settings, SettingId::LotsPath, map.programFolder());
     for (int number = 1; number < kLotNumbers; ++number) {
         if (!isThere(inFolder(folder, lotFileName(number)))) {
             return numberText(number);
@@ -62,7 +62,7 @@ std::string proposedLotNumber(const OpenMap& map, const SettingsStore& settings,
 std::string askLotTarget(const OpenMap& map, SettingsStore& settings, const std::string& name) {
     const Texts& texts = map.desk().texts;
     const SaveRequest request{std::string(texts(TextId::ExportTitle)),
-                              keptFolder(settings, SettingId::LotesPath, map.programFolder()),
+                              keptFolder(settings, SettingId::LotsPath, map.programFolder()),
                               name,
                               {fileFilter(texts, TextId::FilterLote, kLotEnding)}};
     std::string path = map.desk().dialogs.saveFile(request).path;
@@ -71,7 +71,7 @@ std::string askLotTarget(const OpenMap& map, SettingsStore& settings, const std:
     }
     const std::string_view folder =
         std::string_view(path).substr(0, path.size() - fileNamePart(path).size());
-    writeText(settings, SettingId::LotesPath, folder);
+    writeText(settings, SettingId::LotsPath, folder);
     if (pathEnding(path) != kLotEnding) {
         path.append(kLotEnding);  // by its ending it is known again
         if (!overwriteAgreed(map.desk(), path)) {

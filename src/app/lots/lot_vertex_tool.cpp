@@ -155,7 +155,7 @@ void LotVertexTool::addShapes(MapOverlay& overlay) const {
             ring.handles.push_back(*handle);
         }
     }
-    ring.color = map_.style().colors.lote;
+    ring.color = map_.style().colors.lot;
     ring.filled = filled_;
     overlay.emplace_back(std::move(ring));
 }

@@ -32,7 +32,7 @@ WorkOrdersBrowser::~WorkOrdersBrowser() {
 }
 
 std::string WorkOrdersBrowser::startFolder() const {
-    return keptFolder(settings_, SettingId::OpenZelPath, map_.programFolder());
+    return keptFolder(settings_, SettingId::WorkOrdersPath, map_.programFolder());
 }
 
 std::vector<OrderRow> WorkOrdersBrowser::rows() const {
@@ -105,7 +105,7 @@ int WorkOrdersBrowser::open(Progress& progress) {
     }
     const WorkOrder order = *selectedOrder();  // the list may change while events run
     shown_.reset();
-    writeText(settings_, SettingId::OpenZelPath, folder_);
+    writeText(settings_, SettingId::WorkOrdersPath, folder_);
     OpenManner manner;
     manner.progress = &progress;
     const std::vector<std::string> taken = map_.openAll(order.files, manner);
@@ -121,13 +121,13 @@ void WorkOrdersBrowser::copy() {
     }
     const WorkOrder order = *selectedOrder();
     const Texts& texts = map_.desk().texts;
-    const std::string last = readText(settings_, SettingId::SelectFolder);
+    const std::string last = readText(settings_, SettingId::OrderCopyPath);
     const std::string destination = map_.desk().dialogs.chooseFolder(
         {std::string(texts(TextId::ChooseFolder)), isFolder(last) ? last : folder_,
          std::string(texts(TextId::FilesOfOrder)),
          fileFilter(texts, TextId::FilterLogs, kTrackEnding)});
     if (!destination.empty()) {
-        writeText(settings_, SettingId::SelectFolder, destination);
+        writeText(settings_, SettingId::OrderCopyPath, destination);
         copyOrder(order, destination, map_.filesInUse(), map_.desk());
     }
 }

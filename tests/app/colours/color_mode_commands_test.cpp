@@ -297,7 +297,7 @@ TEST(DrawingCommands, AChosenColourIsKeptAndSeen) {
         {&DrawingCommands::mnuEditColorAlarms, "mapAlarmColor", &MapColors::alarm},
         {&DrawingCommands::mnuEditColorNoAlarms, "mapNoAlarmColor", &MapColors::noAlarm},
         {&DrawingCommands::mnuEditColorShapes, "mapShapeColor", &MapColors::shape},
-        {&DrawingCommands::mnuEditColorLotes, "mapLoteColor", &MapColors::lote},
+        {&DrawingCommands::mnuEditColorLotes, "mapLoteColor", &MapColors::lot},
     };
     for (const auto& [handler, key, color] : rows) {
         SCOPED_TRACE(key);
