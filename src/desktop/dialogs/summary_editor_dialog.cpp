@@ -8,7 +8,7 @@
 #include <QVBoxLayout>
 
 #include "desktop/platform/qt_text.h"
-#include "desktop/widgets/summary_rows_view.h"
+#include "desktop/widgets/summary_draft_view.h"
 
 namespace campora {
 

@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "desktop/widgets/summary_rows_view.h"
+#include "desktop/widgets/summary_draft_view.h"
 
 #include <QFormLayout>
 #include <QGroupBox>
