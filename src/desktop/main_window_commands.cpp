@@ -14,7 +14,6 @@
 #include "desktop/dialogs/dose_column_dialog.h"
 #include "desktop/dialogs/page_printer.h"
 #include "desktop/dialogs/print_preview.h"
-#include "desktop/dialogs/property_editor.h"
 #include "desktop/dialogs/select_dose_dialog.h"
 #include "desktop/dialogs/shp_export_dialog.h"
 #include "desktop/dialogs/summary_editor_dialog.h"
@@ -138,8 +137,8 @@ void MainWindow::connectMenus() {
         return SelectDoseDialog(&scale, current, session_->map().desk(), this).getDosis();
     };
     SummaryCommands& summary = session_->summaryCommands();
-    summary.editRows = [this](SummaryRows rows, const SummaryCommands::Keep& keep) {
-        editProperties(std::move(rows), keep, session_->map().desk(), this);
+    summary.editMeasured = [this](SummaryDraft draft, const SummaryCommands::Keep& keep) {
+        editMeasuredSummary(std::move(draft), keep, session_->map().desk(), this);
     };
     summary.editFile = [this](const std::string& path) {
         editSummaryFile(path, session_->map().desk(), this);

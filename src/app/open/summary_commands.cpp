@@ -27,7 +27,7 @@ void SummaryCommands::edit() {
         editFile(source);
         reread();
     } else {
-        editRows(rows(), [this](const SummaryRows& rows) { return keep(rows); });
+        editMeasured(draft(), [this](const SummaryDraft& edited) { return keep(edited); });
     }
 }
 
@@ -62,22 +62,22 @@ void SummaryCommands::reread() {
     }
 }
 
-SummaryRows SummaryCommands::rows() const {
+SummaryDraft SummaryCommands::draft() const {
     std::vector<SummaryEntry> entries;
     if (File* const file = map_.files().currentFile()) {
         for (const ShownEntry& row : shownEntries(file->File_resumen())) {
             entries.push_back({row.property, row.value, row.unit});
         }
     }
-    return SummaryRows(std::move(entries));
+    return SummaryDraft(std::move(entries));
 }
 
-bool SummaryCommands::keep(const SummaryRows& rows) {
+bool SummaryCommands::keep(const SummaryDraft& draft) {
     File* const file = map_.files().currentFile();
     if (file == nullptr) {
         return false;
     }
-    return keep(editsThatMake(rows.rows(), file->File_resumen()));
+    return keep(editsThatMake(draft.rows(), file->File_resumen()));
 }
 
 bool SummaryCommands::keep(SummaryEdits edits) {

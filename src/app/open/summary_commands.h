@@ -25,9 +25,9 @@ public:
     SummaryCommands(OpenMap& map, MapDisplay& display) : map_(map), display_(display) {}
 
     /// Hands over the rows that the user wants; false when they could not be kept.
-    using Keep = std::function<bool(const SummaryRows& rows)>;
+    using Keep = std::function<bool(const SummaryDraft& draft)>;
     // Set by the window.
-    std::function<void(SummaryRows rows, const Keep& keep)> editRows;
+    std::function<void(SummaryDraft draft, const Keep& keep)> editMeasured;
     std::function<void(const std::string& path)> editFile;
 
     /// Whether there is a file on the disk whose summary can be edited.
@@ -41,10 +41,10 @@ public:
     void reread();
 
     /// The rows as they are shown.
-    [[nodiscard]] SummaryRows rows() const;
+    [[nodiscard]] SummaryDraft draft() const;
     /// Shows these rows from now on. False when they could not be kept, or the user does not want
     /// to lose the edits that are there and cannot be used: nothing has changed then.
-    [[nodiscard]] bool keep(const SummaryRows& rows);
+    [[nodiscard]] bool keep(const SummaryDraft& draft);
 
     /// Whether a shown row is edited or was added.
     [[nodiscard]] bool isEdited(int row) const;

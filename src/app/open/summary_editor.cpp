@@ -41,14 +41,14 @@ std::vector<SummaryEntry> entriesOf(const FileProperties& summary) {
 
 }  // namespace
 
-SummaryRows::SummaryRows(std::vector<SummaryEntry> rows) : rows_(std::move(rows)) {
+SummaryDraft::SummaryDraft(std::vector<SummaryEntry> rows) : rows_(std::move(rows)) {
     if (!rows_.empty()) {
         fields = rows_.front();
     }
     untouched_ = fields;
 }
 
-void SummaryRows::select(std::optional<int> row) {
+void SummaryDraft::select(std::optional<int> row) {
     if (!row || *row < 0 || *row >= static_cast<int>(rows_.size())) {
         selected_.reset();
         return;
@@ -58,7 +58,7 @@ void SummaryRows::select(std::optional<int> row) {
     untouched_ = fields;
 }
 
-void SummaryRows::add() {
+void SummaryDraft::add() {
     rows_.insert(selected_ ? rows_.begin() + *selected_ : rows_.end(), withoutBreaks(fields));
     if (selected_) {
         ++*selected_;
@@ -66,7 +66,7 @@ void SummaryRows::add() {
     untouched_ = fields;
 }
 
-void SummaryRows::remove() {
+void SummaryDraft::remove() {
     if (selected_) {
         rows_.erase(rows_.begin() + *selected_);
         selected_.reset();
@@ -74,14 +74,14 @@ void SummaryRows::remove() {
     }
 }
 
-void SummaryRows::change() {
+void SummaryDraft::change() {
     if (selected_) {
         rows_[static_cast<std::size_t>(*selected_)] = trimmed(fields);
         untouched_ = fields;
     }
 }
 
-void SummaryRows::acceptFields() {
+void SummaryDraft::acceptFields() {
     const SummaryEntry typed = trimmed(fields);
     if (fields == untouched_ || (!selected_ && typed == SummaryEntry())) {
         return;
@@ -99,7 +99,7 @@ void SummaryRows::acceptFields() {
     untouched_ = fields;
 }
 
-void SummaryRows::move(int step) {
+void SummaryDraft::move(int step) {
     const int target = selected_.value_or(0) + step;
     if (selected_ && target >= 0 && target < static_cast<int>(rows_.size())) {
         std::swap(rows_[static_cast<std::size_t>(*selected_)],
@@ -120,14 +120,14 @@ SummaryEditor::SummaryEditor(std::string_view path, const Desk& desk) : path_(pa
     const SummaryContent content = splitSummary(file->text());
     wasRead_ = true;
     frame_ = content.frame;
-    rows_ = SummaryRows(entriesOf(content.entries));
+    draft_ = SummaryDraft(entriesOf(content.entries));
 }
 
 bool SummaryEditor::accept() {
     if (!wasRead_) {
         return true;
     }
-    const std::string bytes = encodeSummary(rows_.rows(), frame_);
+    const std::string bytes = encodeSummary(draft_.rows(), frame_);
     if (const std::optional<Failure> failure =
             writeFile(path_, std::as_bytes(std::span(bytes.data(), bytes.size())))) {
         desk_.tellError(*failure);
@@ -136,9 +136,9 @@ bool SummaryEditor::accept() {
     return true;
 }
 
-void askAndRemove(SummaryRows& rows, const Desk& desk) {
-    if (rows.selected() && desk.askOrCancel(desk.texts(TextId::AskRemoveEntries)) == Answer::Yes) {
-        rows.remove();
+void askAndRemove(SummaryDraft& draft, const Desk& desk) {
+    if (draft.selected() && desk.askOrCancel(desk.texts(TextId::AskRemoveEntries)) == Answer::Yes) {
+        draft.remove();
     }
 }
 

@@ -14,16 +14,16 @@
 
 namespace campora {
 
-/// The rows of a summary with the one that is selected and the texts of the input fields. Of a
-/// summary file, the properties stand without the ":" at their end.
-class SummaryRows {
+/// A summary while a person changes it: its rows with the one that is selected and the texts of the
+/// input fields. Of a summary file, the properties stand without the ":" at their end.
+class SummaryDraft {
 public:
     /// What the user has typed.
     SummaryEntry fields;
 
-    SummaryRows() = default;
+    SummaryDraft() = default;
     /// The first row comes into the fields, without being selected.
-    explicit SummaryRows(std::vector<SummaryEntry> rows);
+    explicit SummaryDraft(std::vector<SummaryEntry> rows);
 
     [[nodiscard]] const std::vector<SummaryEntry>& rows() const { return rows_; }
     [[nodiscard]] std::optional<int> selected() const { return selected_; }
@@ -61,8 +61,7 @@ public:
 
     /// False when there is nothing to edit, which has been said.
     [[nodiscard]] bool wasRead() const { return wasRead_; }
-    [[nodiscard]] SummaryRows& rows() { return rows_; }
-    [[nodiscard]] const SummaryRows& rows() const { return rows_; }
+    [[nodiscard]] SummaryDraft& draft() { return draft_; }
 
     /// Writes the rows back when the file was read at opening, in the encoding that it had. False
     /// when that failed, which has been reported: the editor stays open.
@@ -71,12 +70,12 @@ public:
 private:
     std::string path_;
     Desk desk_;
-    SummaryRows rows_;
+    SummaryDraft draft_;
     bool wasRead_ = false;
     SummaryFrame frame_;
 };
 
 /// Asks before the selected row is taken out; nothing happens without one.
-void askAndRemove(SummaryRows& rows, const Desk& desk);
+void askAndRemove(SummaryDraft& draft, const Desk& desk);
 
 }  // namespace campora

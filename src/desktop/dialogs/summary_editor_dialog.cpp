@@ -18,9 +18,9 @@ constexpr QSize kSize{560, 460};
 
 }  // namespace
 
-SummaryRowsDialog::SummaryRowsDialog(SummaryRows& rows, Keep keep, const Desk& desk,
-                                     QWidget* parent)
-    : QDialog(parent), view_(new SummaryRowsView(rows, desk, this)), keep_(std::move(keep)) {
+SummaryDraftDialog::SummaryDraftDialog(SummaryDraft& draft, Keep keep, const Desk& desk,
+                                       QWidget* parent)
+    : QDialog(parent), view_(new SummaryDraftView(draft, desk, this)), keep_(std::move(keep)) {
     setWindowTitle(toQt(desk.texts(TextId::EditSummary)));
     auto* const accept = new QPushButton(toQt(desk.texts(TextId::ButtonOk)), this);
     accept->setObjectName("cmdAcept");
@@ -40,7 +40,7 @@ SummaryRowsDialog::SummaryRowsDialog(SummaryRows& rows, Keep keep, const Desk& d
     resize(kSize);
 }
 
-void SummaryRowsDialog::accept() {
+void SummaryDraftDialog::accept() {
     view_->acceptFields();
     if (keep_()) {
         QDialog::accept();
@@ -48,8 +48,8 @@ void SummaryRowsDialog::accept() {
 }
 
 SummaryEditorDialog::SummaryEditorDialog(SummaryEditor& editor, const Desk& desk, QWidget* parent)
-    : SummaryRowsDialog(
-          editor.rows(), [&editor] { return editor.accept(); }, desk, parent) {
+    : SummaryDraftDialog(
+          editor.draft(), [&editor] { return editor.accept(); }, desk, parent) {
     setObjectName("frmWrkEdit");
 }
 
@@ -58,6 +58,14 @@ void editSummaryFile(std::string_view path, const Desk& desk, QWidget* parent) {
     if (editor.wasRead()) {
         SummaryEditorDialog(editor, desk, parent).exec();
     }
+}
+
+void editMeasuredSummary(SummaryDraft draft, const std::function<bool(const SummaryDraft&)>& keep,
+                         const Desk& desk, QWidget* parent) {
+    SummaryDraftDialog dialog(
+        draft, [&] { return keep(draft); }, desk, parent);
+    dialog.setObjectName("frmProperties");
+    dialog.exec();
 }
 
 }  // namespace campora

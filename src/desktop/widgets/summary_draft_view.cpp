@@ -27,8 +27,8 @@ constexpr int kNarrowestColumn = 80;
 
 }  // namespace
 
-SummaryRowsView::SummaryRowsView(SummaryRows& rows, const Desk& desk, QWidget* parent)
-    : QWidget(parent), rows_(rows), desk_(desk), list_(new QTreeWidget(this)) {
+SummaryDraftView::SummaryDraftView(SummaryDraft& draft, const Desk& desk, QWidget* parent)
+    : QWidget(parent), draft_(draft), desk_(desk), list_(new QTreeWidget(this)) {
     list_->setObjectName("DataList");
     list_->setAccessibleName(toQt(desk.texts(TextId::SummaryHeading)));
     QStringList captions;
@@ -51,36 +51,37 @@ SummaryRowsView::SummaryRowsView(SummaryRows& rows, const Desk& desk, QWidget* p
     column->setContentsMargins(0, 0, 0, 0);
     column->addLayout(upper, 1);
     column->addWidget(makeFields());
-    connect(list_, &QTreeWidget::itemSelectionChanged, this, &SummaryRowsView::select);
-    connect(list_, &QTreeWidget::itemClicked, this, &SummaryRowsView::select);
+    connect(list_, &QTreeWidget::itemSelectionChanged, this, &SummaryDraftView::select);
+    connect(list_, &QTreeWidget::itemClicked, this, &SummaryDraftView::select);
     showRows();
     showFields();
 }
 
-QWidget* SummaryRowsView::makeFields() {
+QWidget* SummaryDraftView::makeFields() {
     auto* const frame = new QGroupBox(toQt(desk_.texts(TextId::ModifyFrame)), this);
     auto* const form = new QFormLayout(frame);
     for (std::size_t i = 0; i < fields_.size(); ++i) {
         fields_[i] = new QLineEdit(frame);
         fields_[i]->setObjectName(kFieldNames[i]);
-        connect(fields_[i], &QLineEdit::returnPressed, this, &SummaryRowsView::change);
+        connect(fields_[i], &QLineEdit::returnPressed, this, &SummaryDraftView::change);
         form->addRow(toQt(desk_.texts(kCaptions[i])), fields_[i]);
     }
     return frame;
 }
 
-QWidget* SummaryRowsView::makeButtons() {
+QWidget* SummaryDraftView::makeButtons() {
     auto* const part = new QWidget(this);
     auto* const column = new QVBoxLayout(part);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(
-        makeButton("cmdAdd", TextId::AddEntry, TextId::TipEntryAdd, &SummaryRowsView::add));
+        makeButton("cmdAdd", TextId::AddEntry, TextId::TipEntryAdd, &SummaryDraftView::add));
     rowButtons_ = {
-        makeButton("cmdQuit", TextId::RemoveEntry, TextId::TipEntryRemove, &SummaryRowsView::quit),
+        makeButton("cmdQuit", TextId::RemoveEntry, TextId::TipEntryRemove,
+                   &SummaryDraftView::remove),
         makeButton("cmdChange", TextId::ChangeEntry, TextId::TipEntryChange,
-                   &SummaryRowsView::change),
-        makeButton("cmdUp", TextId::FileUp, TextId::TipEntryUp, &SummaryRowsView::up),
-        makeButton("cmdDown", TextId::FileDown, TextId::TipEntryDown, &SummaryRowsView::down),
+                   &SummaryDraftView::change),
+        makeButton("cmdUp", TextId::FileUp, TextId::TipEntryUp, &SummaryDraftView::up),
+        makeButton("cmdDown", TextId::FileDown, TextId::TipEntryDown, &SummaryDraftView::down),
     };
     for (QPushButton* button : rowButtons_) {
         column->addWidget(button);
@@ -89,7 +90,8 @@ QWidget* SummaryRowsView::makeButtons() {
     return part;
 }
 
-QPushButton* SummaryRowsView::makeButton(const char* name, TextId text, TextId tip, Action action) {
+QPushButton* SummaryDraftView::makeButton(const char* name, TextId text, TextId tip,
+                                          Action action) {
     auto* const button = new QPushButton(toQt(desk_.texts(text)), this);
     button->setObjectName(name);
     button->setToolTip(toQt(desk_.texts(tip)));
@@ -98,43 +100,43 @@ QPushButton* SummaryRowsView::makeButton(const char* name, TextId text, TextId t
     return button;
 }
 
-void SummaryRowsView::add() {
+void SummaryDraftView::add() {
     readFields();
-    rows_.add();
+    draft_.add();
     showRows();
 }
 
-void SummaryRowsView::acceptFields() {
+void SummaryDraftView::acceptFields() {
     readFields();
-    rows_.acceptFields();
+    draft_.acceptFields();
     showRows();
 }
 
-void SummaryRowsView::quit() {
-    askAndRemove(rows_, desk_);
+void SummaryDraftView::remove() {
+    askAndRemove(draft_, desk_);
     showRows();
 }
 
-void SummaryRowsView::change() {
+void SummaryDraftView::change() {
     readFields();
-    rows_.change();
+    draft_.change();
     showRows();
 }
 
-void SummaryRowsView::up() {
-    rows_.up();
+void SummaryDraftView::up() {
+    draft_.up();
     showRows();
 }
 
-void SummaryRowsView::down() {
-    rows_.down();
+void SummaryDraftView::down() {
+    draft_.down();
     showRows();
 }
 
-void SummaryRowsView::select() {
+void SummaryDraftView::select() {
     const QList<QTreeWidgetItem*> chosen = list_->selectedItems();
-    rows_.select(chosen.isEmpty() ? std::nullopt
-                                  : std::optional(list_->indexOfTopLevelItem(chosen.front())));
+    draft_.select(chosen.isEmpty() ? std::nullopt
+                                   : std::optional(list_->indexOfTopLevelItem(chosen.front())));
     for (QPushButton* button : rowButtons_) {
         button->setEnabled(!chosen.isEmpty());
     }
@@ -143,17 +145,17 @@ void SummaryRowsView::select() {
     }
 }
 
-void SummaryRowsView::readFields() {
-    rows_.fields = {toUtf8(fields_[0]->text()), toUtf8(fields_[1]->text()),
-                    toUtf8(fields_[2]->text())};
+void SummaryDraftView::readFields() {
+    draft_.fields = {toUtf8(fields_[0]->text()), toUtf8(fields_[1]->text()),
+                     toUtf8(fields_[2]->text())};
 }
 
-void SummaryRowsView::showRows() {
-    const std::optional<int> selected = rows_.selected();
+void SummaryDraftView::showRows() {
+    const std::optional<int> selected = draft_.selected();
     {
         const QSignalBlocker quiet(list_);
         list_->clear();
-        for (const SummaryEntry& row : rows_.rows()) {
+        for (const SummaryEntry& row : draft_.rows()) {
             new QTreeWidgetItem(
                 list_, {shownName(row.property), shownName(row.value), shownName(row.unit)});
         }
@@ -166,10 +168,10 @@ void SummaryRowsView::showRows() {
     }
 }
 
-void SummaryRowsView::showFields() {
-    fields_[0]->setText(toQt(rows_.fields.property));
-    fields_[1]->setText(toQt(rows_.fields.value));
-    fields_[2]->setText(toQt(rows_.fields.unit));
+void SummaryDraftView::showFields() {
+    fields_[0]->setText(toQt(draft_.fields.property));
+    fields_[1]->setText(toQt(draft_.fields.value));
+    fields_[2]->setText(toQt(draft_.fields.unit));
 }
 
 }  // namespace campora

@@ -18,22 +18,22 @@ class QTreeWidget;
 namespace campora {
 
 /// Rows of a summary in a list, the fields of one row below it, and the buttons that change them.
-class SummaryRowsView final : public QWidget {
+class SummaryDraftView final : public QWidget {
 public:
     /// The arguments outlive the widget; the rows change only through it from now on.
-    SummaryRowsView(SummaryRows& rows, const Desk& desk, QWidget* parent);
+    SummaryDraftView(SummaryDraft& draft, const Desk& desk, QWidget* parent);
 
-    /// What stands in the fields goes into the rows, as `SummaryRows::acceptFields` says.
+    /// What stands in the fields goes into the rows, as `SummaryDraft::acceptFields` says.
     void acceptFields();
 
 private:
-    using Action = void (SummaryRowsView::*)();
+    using Action = void (SummaryDraftView::*)();
 
     [[nodiscard]] QWidget* makeFields();
     [[nodiscard]] QWidget* makeButtons();
     QPushButton* makeButton(const char* name, TextId text, TextId tip, Action action);
     void add();
-    void quit();
+    void remove();
     void change();
     void up();
     void down();
@@ -44,7 +44,7 @@ private:
     void showRows();
     void showFields();
 
-    SummaryRows& rows_;
+    SummaryDraft& draft_;
     Desk desk_;
     QTreeWidget* list_;
     std::array<QLineEdit*, 3> fields_{};

@@ -29,7 +29,7 @@ struct EditsDesk : SessionDesk {
     }
     /// Gives a row another value; a name that is not there makes a row.
     [[nodiscard]] bool edit(const std::string& name, const std::string& value) {
-        SummaryRows rows = commands.rows();
+        SummaryDraft rows = commands.draft();
         rows.fields = {name, value, ""};
         rows.acceptFields();
         return commands.keep(rows);
@@ -89,7 +89,7 @@ TEST(SummaryCommands, EditsAreShownBesideWhatWasMeasuredAndStay) {
 TEST(SummaryCommands, RowsThatWereRemovedOrMovedComeBack) {
     EditsDesk desk;
     const std::vector<SummaryRow> before = desk.window.summary;
-    SummaryRows rows = desk.commands.rows();
+    SummaryDraft rows = desk.commands.draft();
     rows.select(0);
     rows.remove();
     rows.select(1);

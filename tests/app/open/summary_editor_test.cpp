@@ -21,7 +21,7 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 /// "property|value|unit" a row, the selected one with a "*".
-std::vector<std::string> shown(const SummaryRows& rows) {
+std::vector<std::string> shown(const SummaryDraft& rows) {
     std::vector<std::string> texts;
     for (const SummaryEntry& row : rows.rows()) {
         const bool selected = rows.selected() == static_cast<int>(texts.size());
@@ -30,8 +30,8 @@ std::vector<std::string> shown(const SummaryRows& rows) {
     return texts;
 }
 
-TEST(SummaryRows, AreAddedMovedAndChanged) {
-    SummaryRows rows({{"a", "1", "m"}, {"b", "2", ""}});
+TEST(SummaryDraft, AreAddedMovedAndChanged) {
+    SummaryDraft rows({{"a", "1", "m"}, {"b", "2", ""}});
     rows.up();  // nothing is selected: nothing moves, and a new row is the last
     rows.fields = {"n", "x\r\ny\nz", ""};
     rows.add();
@@ -85,14 +85,14 @@ TEST_F(SummaryEditorTest, AcceptingWithoutAChangeKeepsEveryRow) {
 
 TEST_F(SummaryEditorTest, ARowGoesOnlyWhenTheUserSaysSo) {
     SummaryEditor editor(folder.write("Wrk0001.txt", "A:,1,\r\nB:,2,\r\n"), desk);
-    askAndRemove(editor.rows(), desk);
+    askAndRemove(editor.draft(), desk);
     EXPECT_THAT(dialogs.questions, IsEmpty()) << "nothing is selected";
-    editor.rows().select(0);
+    editor.draft().select(0);
     dialogs.answers = {Answer::No, Answer::Yes};
-    askAndRemove(editor.rows(), desk);
-    EXPECT_THAT(shown(editor.rows()), ElementsAre("*A|1|", "B|2|"));
-    askAndRemove(editor.rows(), desk);
-    EXPECT_THAT(shown(editor.rows()), ElementsAre("B|2|"));
+    askAndRemove(editor.draft(), desk);
+    EXPECT_THAT(shown(editor.draft()), ElementsAre("*A|1|", "B|2|"));
+    askAndRemove(editor.draft(), desk);
+    EXPECT_THAT(shown(editor.draft()), ElementsAre("B|2|"));
     EXPECT_THAT(dialogs.questions,
                 testing::Each("Exclamation|Campora|Seguro que desea eliminar los campos "
                               "seleccionados?"));
