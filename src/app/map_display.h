@@ -63,6 +63,7 @@ public:
     /// Does something that gives the canvas another size; what it shows stays in its middle.
     void keepingPlace(const std::function<void()>& change);
 
+    /// Lists the open files, the current one selected when `selectCurrent` says so.
     void loadFileList(bool selectCurrent);
     /// Summary, title and legend.
     void showCurrentFile();

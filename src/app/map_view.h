@@ -42,7 +42,7 @@ public:
     /// Scale and margins that show `totalBound`: the tight axis gets a border of 5 %, the other one
     /// centres the box. Draws nothing.
     void fitView();
-    /// Shows the whole scrollable extent: `totalBound` with its margins.
+    /// "Zoom 1": shows the whole scrollable extent, `totalBound` with its margins.
     void ZoomUno();
     /// Shows a box with a border, at the scale where zooming in ends if it is small; one equal to
     /// `totalBound` as `ZoomUno` does.
@@ -66,16 +66,17 @@ public:
     void equalizeScales();
     /// Every redraw of the whole map goes through here.
     void setView(float scaleX, float scaleY, std::int32_t scrollX, std::int32_t scrollY);
-    /// Sets the background to the colour number in `colour`, or to the user's own for "-1", and
-    /// redraws.
+    /// "Refresh": sets the background to the colour number in `colour`, or to the user's own for
+    /// "-1", and redraws.
     void refrescar(std::string_view colour);
-    /// Burns the scale bar and the visible arrows into the canvas picture.
+    /// Draws no map: burns the scale bar and the visible arrows into the canvas picture.
     void DrawMap();
     /// Computes scroll bars, arrows and scale bar anew and hands them to the window. An axis with
     /// nothing to scroll goes back to 0.
     void updateScrollBars();
     /// Puts the scroll bars where the view is.
     void syncScrollBars();
+    /// The position of the canvas's lower left corner, from scroll and margins.
     void computeOrigin();
     /// The user moved a scroll bar: positions in steps of the bars.
     void scrollBarsMoved(std::int32_t horizontal, std::int32_t vertical);

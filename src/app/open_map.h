@@ -73,6 +73,7 @@ public:
 
     [[nodiscard]] LoadedFileList& files() { return files_; }
     [[nodiscard]] const LoadedFileList& files() const { return files_; }
+    /// How many files are open.
     [[nodiscard]] int plotCount() const { return files_.loadedCount(); }
     /// All layers of all open files, first file first.
     [[nodiscard]] std::vector<Gph*> getGphList() const;

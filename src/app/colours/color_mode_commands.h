@@ -3,8 +3,8 @@
 
 #pragma once
 
+#include <cstdint>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "app/map_display.h"

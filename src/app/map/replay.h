@@ -65,6 +65,7 @@ public:
     /// The user moved the speed slider; values beyond its range count as its ends.
     void setSpeed(int value);
     void setSpeedShown(bool shown);
+    /// Reads the speed ("velocidad") out, or no longer.
     void mnuEditViewVel() { setSpeedShown(!speedShown_); }
 
     /// Lets pending events act for so many milliseconds, or until the replay no longer plays.

@@ -66,6 +66,7 @@ private:
     QLineEdit* txtOrig_;
     QLineEdit* txtDest_;
     std::vector<QPushButton*> browses_;
+    /// All points, or those with flow ("fumigado").
     QRadioButton* expAll_;
     QRadioButton* expFum_;
     QSlider* slider_;
