@@ -50,7 +50,7 @@ constexpr Name kNames[] = {
     {"Nombre", TextId::DialogName},
     {"Descripcion", TextId::SummaryDescription},
     {"Resolución", TextId::SummaryResolution},
-    {"Superficie:", TextId::SummaryLoteArea},
+    {"Superficie:", TextId::SummaryLotArea},
     {"Perímetro:", TextId::SummaryPerimeter},
     {"Vértices:", TextId::SummaryVertices},
 };

@@ -13,7 +13,7 @@ namespace campora {
 
 bool mayLose(const File& file, const Desk& desk) {
     if (areUnsavedLots(file)) {
-        return desk.titled(TextId::LoteTitle)
+        return desk.titled(TextId::LotTitle)
             .ask(desk.texts.format(TextId::AskLoseMerged, {file.File_name()}));
     }
     const auto* const prescription = dynamic_cast<const GphPrescVex*>(&file);

@@ -100,7 +100,7 @@ std::optional<Failure> checkFiles(const Arguments& parsed) {
     if (parsed.command == Command::Lot) {
         constexpr std::size_t kFewestVertices = 3;
         return parsed.vertices.size() < kFewestVertices
-                   ? std::optional(Failure{TextId::LoteTooFew, {}})
+                   ? std::optional(Failure{TextId::LotTooFew, {}})
                    : std::nullopt;
     }
     if (parsed.files.empty()) {

@@ -79,7 +79,7 @@ void addCommands(QTreeWidget& rows, const Texts& texts) {
 }
 
 void addLotKeys(QTreeWidget& rows, const Texts& texts) {
-    QTreeWidgetItem* const group = addGroup(rows, plain(texts, TextId::ActionLote));
+    QTreeWidgetItem* const group = addGroup(rows, plain(texts, TextId::ActionLot));
     for (const LotKey& key : lotKeys()) {
         addRow(group, QKeySequence(key.keys).toString(QKeySequence::NativeText),
                plain(texts, key.does));

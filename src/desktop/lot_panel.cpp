@@ -61,15 +61,15 @@ const LotPanel::Tool LotPanel::Tool::kTools[] = {
      [](const LotEditor& e) { return e.draft().canUndo(); }},
     {"cmdLoteRedo", "redo", TextId::EditRedo, "Ctrl+Y", [](LotPanel& p) { p.editor_.redo(); },
      [](const LotEditor& e) { return e.draft().canRedo(); }},
-    {"cmdLoteAdd", "vertex-add", TextId::LoteAdd, "", [](LotPanel& p) { p.addVertex(); },
+    {"cmdLoteAdd", "vertex-add", TextId::LotAdd, "", [](LotPanel& p) { p.addVertex(); },
      [](const LotEditor&) { return true; }},
-    {"cmdLoteMove", "vertex-edit", TextId::LoteMove, "", [](LotPanel& p) { p.editVertex(); },
+    {"cmdLoteMove", "vertex-edit", TextId::LotMove, "", [](LotPanel& p) { p.editVertex(); },
      hasVertex},
-    {"cmdLoteInsert", "vertex-insert", TextId::LoteInsert, "Ins",
+    {"cmdLoteInsert", "vertex-insert", TextId::LotInsert, "Ins",
      [](LotPanel& p) { p.editor_.insertAfterSelected(); }, hasVertex},
-    {"cmdLoteDelete", "vertex-delete", TextId::LoteDelete, "Del",
+    {"cmdLoteDelete", "vertex-delete", TextId::LotDelete, "Del",
      [](LotPanel& p) { p.editor_.removeSelected(); }, hasVertex},
-    {"cmdLoteClear", "clear", TextId::LoteClear, "", [](LotPanel& p) { p.editor_.clear(); },
+    {"cmdLoteClear", "clear", TextId::LotClear, "", [](LotPanel& p) { p.editor_.clear(); },
      [](const LotEditor& e) {
          return !e.draft().vertices().empty() || !e.draft().description().empty();
      }},
@@ -225,25 +225,25 @@ void LotPanel::retranslate() {
         actions_[i]->setToolTip(tip);
         tools_->widgetForAction(actions_[i])->setAccessibleName(tip);
     }
-    tools_->setAccessibleName(toQt(texts(TextId::LoteTools)));
-    vertices_->setAccessibleName(toQt(texts(TextId::LoteVertices)));
-    descriptionLabel_->setText(toQt(texts(TextId::LoteDescription)));
-    description_->setAccessibleName(toQt(texts(TextId::LoteDescription)).remove('&'));
-    tooLong_->setText(toQt(texts(TextId::LoteTooManyLines)));
-    transparent_->setText(toQt(texts(TextId::LoteTransparent)));
-    transparent_->setToolTip(toQt(texts(TextId::TipLoteTransparent)));
-    save_->setText(toQt(texts(TextId::LoteSaveAs)));
-    save_->setToolTip(toQt(texts(TextId::TipLoteSaveAs)));
-    saveBack_->setText(toQt(texts(TextId::LoteSave)));
-    earth_->setText(toQt(texts(TextId::LoteEarth)));
-    earth_->setToolTip(toQt(texts(TextId::TipLoteEarth)));
+    tools_->setAccessibleName(toQt(texts(TextId::LotTools)));
+    vertices_->setAccessibleName(toQt(texts(TextId::LotVertices)));
+    descriptionLabel_->setText(toQt(texts(TextId::LotDescription)));
+    description_->setAccessibleName(toQt(texts(TextId::LotDescription)).remove('&'));
+    tooLong_->setText(toQt(texts(TextId::LotTooManyLines)));
+    transparent_->setText(toQt(texts(TextId::LotTransparent)));
+    transparent_->setToolTip(toQt(texts(TextId::TipLotTransparent)));
+    save_->setText(toQt(texts(TextId::LotSaveAs)));
+    save_->setToolTip(toQt(texts(TextId::TipLotSaveAs)));
+    saveBack_->setText(toQt(texts(TextId::LotSave)));
+    earth_->setText(toQt(texts(TextId::LotEarth)));
+    earth_->setToolTip(toQt(texts(TextId::TipLotEarth)));
     refresh();
 }
 
 void LotPanel::refresh() {
     const Texts& texts = session_.texts();
     const std::string_view path = editor_.draft().origin().path;
-    const QString name = shownName(path.empty() ? texts(TextId::LoteTitle) : fileNamePart(path));
+    const QString name = shownName(path.empty() ? texts(TextId::LotTitle) : fileNamePart(path));
     title_->setText(name);
     setAccessibleName(name);
     model_->refresh();
@@ -258,10 +258,10 @@ void LotPanel::refresh() {
         colors.setColor(QPalette::WindowText, QColor(kWarningColor));
     }
     warning_->setPalette(colors);
-    warning_->setText(toQt(texts(crosses ? TextId::LoteCrosses : TextId::LoteHint)));
+    warning_->setText(toQt(texts(crosses ? TextId::LotCrosses : TextId::LotHint)));
     showDescription();
     saveBack_->setEnabled(!path.empty());
-    const QString tip = shownName(texts.format(TextId::TipLoteSaveBack, {std::string(path)}));
+    const QString tip = shownName(texts.format(TextId::TipLotSaveBack, {std::string(path)}));
     saveBack_->setToolTip(path.empty() ? QString() : plainToolTip(tip));
 }
 

@@ -94,7 +94,7 @@ std::int32_t GphLote::Gph_mouseOver(const ViewTransform& /*view*/, const MapStyl
 }
 
 std::string GphLote::Gph_getInfo(const InfoContext& context, std::int32_t /*n*/) const {
-    return context.texts.format(TextId::LoteInfo,
+    return context.texts.format(TextId::LotInfo,
                                 {areaText(hectares(), context.locale.decimalSymbol())});
 }
 

@@ -60,7 +60,7 @@ std::unique_ptr<FileGphGroup> loadLot(std::string_view path, const Desk& desk) {
     const Lot lot = decodeLot(file->text());
     if (lot.vertices.empty()) {
         desk.tellWrongFile(because(TextId::FileCannotBeRead, {std::string(path)},
-                                   {TextId::LoteWithoutVertices, {}}));
+                                   {TextId::LotWithoutVertices, {}}));
         return nullptr;
     }
     auto group = makeLotGroup({&lot, 1}, path, fileNamePart(path), desk.locale);

@@ -21,7 +21,7 @@ struct LotPanelTest : WindowTest {
         WindowTest::SetUp();
         open({writeReport("a.rpt")});
         list().setCurrentRow(-1);
-        action(TextId::ActionLote)->trigger();
+        action(TextId::ActionLot)->trigger();
     }
     [[nodiscard]] LotPanel& panel() const { return window->lotPanel(); }
     [[nodiscard]] LotEditor& editor() const { return window->session().lotEditor(); }
@@ -112,13 +112,13 @@ TEST_F(LotPanelTest, MoreThanTenLinesAreTheUsersToCut) {
 }
 
 TEST_F(LotPanelTest, TheMapKeepsItsPlaceAndANarrowWindowItsMap) {
-    action(TextId::ActionLote)->trigger();
+    action(TextId::ActionLot)->trigger();
     EXPECT_FALSE(panel().isVisible());
     view().zoomIn();
     view().zoomIn();
     const float scale = view().scaleX();
     const LonLat middle = under(map().rect().center());
-    action(TextId::ActionLote)->trigger();
+    action(TextId::ActionLot)->trigger();
     EXPECT_EQ(view().scaleX(), scale);
     EXPECT_NEAR(under(map().rect().center()).x, middle.x, 1e-3);
     window->resize(MainWindow::kMinimumSize);
@@ -126,7 +126,7 @@ TEST_F(LotPanelTest, TheMapKeepsItsPlaceAndANarrowWindowItsMap) {
     EXPECT_FALSE(action(TextId::ActionSidePanel)->isEnabled());
     EXPECT_GE(map().width(), map().minimumSizeHint().width());
     EXPECT_LE(panel().mapTo(window.get(), panel().rect().bottomRight()).x(), window->width());
-    action(TextId::ActionLote)->trigger();
+    action(TextId::ActionLot)->trigger();
     EXPECT_TRUE(window->sidePanelShown());
     EXPECT_TRUE(action(TextId::ActionSidePanel)->isEnabled());
 }
@@ -143,7 +143,7 @@ TEST_F(LotPanelTest, TheWindowDoesNotCloseOverALotThatIsNotSaved) {
 TEST_F(LotPanelTest, TheWindowDoesNotCloseOverAResultOfMergingThatIsNotSaved) {
     open({writeLot(folder, "a.lot", squareRing(-60, -34, 1)),
           writeLot(folder, "b.lot", squareRing(-59, -34, 1))});
-    action(TextId::ActionLoteMerge)->trigger();
+    action(TextId::ActionLotMerge)->trigger();
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
     dialogs.yesNoAnswers = {false};
     EXPECT_FALSE(window->close());

@@ -107,7 +107,7 @@ void LotCommands::showSaved(const File& file, const std::vector<std::string>& pa
         }
     }
     display_.window().setToolText(
-        map_.desk().texts.format(TextId::LoteSaved, {std::string(fileNamePart(paths.front()))}));
+        map_.desk().texts.format(TextId::LotSaved, {std::string(fileNamePart(paths.front()))}));
 }
 
 std::vector<File*> LotCommands::lotFiles(bool unsaved) const {

@@ -38,7 +38,7 @@ void LotEditor::open() {
     const File* const current = map_.files().currentFile();
     const Desk desk = lotDesk(map_);
     const bool edits = current != nullptr && isOneLot(*current) &&
-                       desk.ask(desk.texts.format(TextId::AskEditLote, {current->File_name()}),
+                       desk.ask(desk.texts.format(TextId::AskEditLot, {current->File_name()}),
                                 MessageIcon::Information);
     start(edits ? current : nullptr);
 }
@@ -80,7 +80,7 @@ bool LotEditor::close() {
 bool LotEditor::mayClose() const {
     const Desk desk = lotDesk(map_);
     return !isOpen_ || !draft_.isChanged() ||
-           desk.ask(namingFile(desk.texts(TextId::AskLoseLote), path()));
+           desk.ask(namingFile(desk.texts(TextId::AskLoseLot), path()));
 }
 
 void LotEditor::select(std::optional<std::size_t> index) {
@@ -150,7 +150,7 @@ std::string LotEditor::figures() const {
         fixedNumberText(ringAreaM2(draft_.vertices()) / kSquareMetresPerHectare, 2);
     std::replace(hectares.begin(), hectares.end(), '.', symbol);
     const double metres = draft_.vertices().size() < 2 ? 0 : ringPerimeter(draft_.vertices());
-    return map_.desk().texts.format(TextId::LoteFigures,
+    return map_.desk().texts.format(TextId::LotFigures,
                                     {hectares, numberText(roundHalfEven(metres))});
 }
 

@@ -32,20 +32,20 @@ bool LotEditor::isWhole() const {
 
 bool LotEditor::refuseFewVertices() const {
     if (!isWhole()) {
-        lotDesk(map_).tell({TextId::LoteTooFew, {}});
+        lotDesk(map_).tell({TextId::LotTooFew, {}});
     }
     return !isWhole();
 }
 
 std::optional<int> LotEditor::askNumber() const {
     const std::optional<std::string> answer = lotDesk(map_).askText(
-        TextId::AskLoteNumber, proposedLotNumber(map_, settings_, path()), path());
+        TextId::AskLotNumber, proposedLotNumber(map_, settings_, path()), path());
     if (!answer || trim(*answer).empty()) {
         return std::nullopt;
     }
     const double number = typedNumber(*answer).value_or(-1);
     if (number < 0 || number >= kLotNumbers || number != std::trunc(number)) {
-        lotDesk(map_).tell({TextId::BadLoteNumber, {}});
+        lotDesk(map_).tell({TextId::BadLotNumber, {}});
         return std::nullopt;
     }
     return static_cast<int>(number);
@@ -87,7 +87,7 @@ void LotEditor::write(const std::string& target) {
         hidden_ = edited();  // drawn without it just now
     }
     display_.window().setToolText(
-        map_.desk().texts.format(TextId::LoteSaved, {std::string(fileNamePart(target))}));
+        map_.desk().texts.format(TextId::LotSaved, {std::string(fileNamePart(target))}));
     changed();
 }
 
@@ -95,7 +95,7 @@ void LotEditor::viewInEarth() {
     if (refuseFewVertices()) {
         return;
     }
-    std::string name(path().empty() ? map_.desk().texts(TextId::LoteTitle) : fileStem(path()));
+    std::string name(path().empty() ? map_.desk().texts(TextId::LotTitle) : fileStem(path()));
     const Result<std::string> document = documents_.file(name.append(kKmlEnding));
     if (!document) {
         lotDesk(map_).tell(document.failure());
@@ -109,7 +109,7 @@ void LotEditor::viewInEarth() {
             kmlExport(layers, *document, map_.programFolder(), map_.style(), progress)) {
         lotDesk(map_).tell(*failure);
     } else if (!shell_.open(*document)) {
-        lotDesk(map_).tell({TextId::LoteEarthFailed, {}});
+        lotDesk(map_).tell({TextId::LotEarthFailed, {}});
     }
 }
 

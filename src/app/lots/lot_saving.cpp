@@ -64,7 +64,7 @@ std::string askLotTarget(const OpenMap& map, SettingsStore& settings, const std:
     const SaveRequest request{std::string(texts(TextId::ExportTitle)),
                               keptFolder(settings, SettingId::LotsPath, map.programFolder()),
                               name,
-                              {fileFilter(texts, TextId::FilterLote, kLotEnding)}};
+                              {fileFilter(texts, TextId::FilterLot, kLotEnding)}};
     std::string path = map.desk().dialogs.saveFile(request).path;
     if (path.empty()) {
         return {};

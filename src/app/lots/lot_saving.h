@@ -18,7 +18,7 @@ inline constexpr int kLotNumbers = 100;
 
 /// The desk with the boxes that are about lots.
 [[nodiscard]] inline Desk lotDesk(const OpenMap& map) {
-    return map.desk().titled(TextId::LoteTitle);
+    return map.desk().titled(TextId::LotTitle);
 }
 
 /// "lote07.lot"

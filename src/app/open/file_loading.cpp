@@ -93,7 +93,7 @@ constexpr FileFormat kFormats[] = {
     {kTrackEnding, TextId::FilterTrackFiles, false, true, openWork<loadTrackFile>},
     {kShapeEnding, TextId::FilterShapes, false, false, openZones},
     {kVrtEnding, TextId::FilterPrescriptions, false, false, openGrid},
-    {kLotEnding, TextId::FilterLotes, false, false, openLot},
+    {kLotEnding, TextId::FilterLots, false, false, openLot},
     // The last: files without an ending of the table are offered to its reader.
     {kPreEnding, TextId::FilterPrescriptions, false, false, openGrid},
 };

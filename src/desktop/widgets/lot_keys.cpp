@@ -8,9 +8,9 @@ namespace campora {
 namespace {
 
 constexpr LotKey kKeys[] = {
-    {Qt::Key_Insert, TextId::LoteInsert, &LotEditor::insertAfterSelected},
-    {Qt::Key_Delete, TextId::LoteDelete, &LotEditor::removeSelected},
-    {Qt::Key_Backspace, TextId::LoteDelete, &LotEditor::removeSelected},
+    {Qt::Key_Insert, TextId::LotInsert, &LotEditor::insertAfterSelected},
+    {Qt::Key_Delete, TextId::LotDelete, &LotEditor::removeSelected},
+    {Qt::Key_Backspace, TextId::LotDelete, &LotEditor::removeSelected},
     {Qt::CTRL | Qt::Key_Z, TextId::EditUndo, &LotEditor::undo},
     {Qt::CTRL | Qt::Key_Y, TextId::EditRedo, &LotEditor::redo},
     {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, TextId::EditRedo, &LotEditor::redo},

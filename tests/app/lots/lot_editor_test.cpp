@@ -129,7 +129,7 @@ TEST_F(LotEditorTest, SavesWithItsNumberAndShowsTheLot) {
     const float scale = session.display().view().scaleX();
     editor.save();
     EXPECT_EQ(dialogs.inputs.back(),
-              std::to_string(static_cast<int>(TextId::AskLoteNumber)) + "|Lote Virtual|1");
+              std::to_string(static_cast<int>(TextId::AskLotNumber)) + "|Lote Virtual|1");
     ASSERT_EQ(dialogs.saves.size(), 1U);
     EXPECT_EQ(dialogs.saves[0].caption, "Exportar a...");
     EXPECT_EQ(dialogs.saves[0].name, "lote07.lot");
