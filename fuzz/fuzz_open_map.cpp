@@ -77,7 +77,6 @@ void drawInEveryMode(Session& session) {
     }
     modes.mnuColorScaleSelTotal();
     modes.mnuEditGraduatedByLtsHect();
-    DrawingCommands& drawing = session.drawingCommands();
     drawing.mnuEditDrawAll();
 }
 
@@ -120,7 +119,7 @@ void drawLot(Session& session, const FileSet& set) {
     const CanvasPoint other = placeOf(set, 6);
     MapTools& tools = session.tools();
     for (const CanvasPoint corner : {one, CanvasPoint{one.x, other.y}, other}) {
-        tools.onClick(corner);
+        drag(tools, corner, corner);  // a click
     }
     drag(tools, one, {other.x, one.y});
     drag(tools, {one.x, (one.y + other.y) / 2}, {0, 0});
