@@ -47,8 +47,8 @@ std::string reportBytes(std::size_t steps) {
     return bytes.bytes();
 }
 
-struct Desk {
-    explicit Desk(std::size_t steps)
+struct OpenWork {
+    explicit OpenWork(std::size_t steps)
         : session(canvas, window, {dialogs, settings, locale, clipboard, clock, classes, shell},
                   Language::English, folder.path()) {
         session.start();
@@ -70,14 +70,14 @@ struct Desk {
 };
 
 void changeMode(benchmark::State& state, void (*change)(Session&), int channel) {
-    Desk desk(static_cast<std::size_t>(state.range(0)));
+    OpenWork work(static_cast<std::size_t>(state.range(0)));
     if (channel >= 0) {
-        desk.session.colorModeCommands().mnuColorScaleSelCH(channel);
+        work.session.colorModeCommands().mnuColorScaleSelCH(channel);
     }
     for (auto _ : state) {
-        change(desk.session);
+        change(work.session);
     }
-    benchmark::DoNotOptimize(desk.canvas.image().constBits());
+    benchmark::DoNotOptimize(work.canvas.image().constBits());
 }
 
 #define CAMPORA_MODE(name, command, channel)                                                       \

@@ -25,8 +25,8 @@ namespace campora {
 namespace {
 
 /// A field shown whole in a window that does nothing.
-struct Desk {
-    explicit Desk(std::size_t steps) {
+struct OpenWork {
+    explicit OpenWork(std::size_t steps) {
         auto group = std::make_unique<FileGphGroup>();
         group->addGph(std::make_unique<GphTrack>(fieldTrack(steps, false)));
         map.addFile(std::move(group), false);
@@ -46,25 +46,25 @@ struct Desk {
 };
 
 void replayElements(benchmark::State& state) {
-    Desk desk(static_cast<std::size_t>(state.range(0)));
-    Replay replay(desk.map, desk.display, desk.clock, [] {});
+    OpenWork work(static_cast<std::size_t>(state.range(0)));
+    Replay replay(work.map, work.display, work.clock, [] {});
     replay.prepareReplay();
     replay.setSpeed(0);
     replay.setSpeedShown(true);
     for (auto _ : state) {
         replay.play();
     }
-    state.SetItemsProcessed(state.iterations() * desk.track().Gph_count());
+    state.SetItemsProcessed(state.iterations() * work.track().Gph_count());
 }
 BENCHMARK(replayElements)->Arg(100000)->Unit(benchmark::kMillisecond);
 
 /// The last place at which a click finds something, so that every step is looked at.
 void askAtTheEnd(benchmark::State& state) {
-    Desk desk(static_cast<std::size_t>(state.range(0)));
-    const ViewTransform view = desk.display.view().transform();
-    const LonLat last = desk.track().points()[desk.track().points().size() - 2];
+    OpenWork work(static_cast<std::size_t>(state.range(0)));
+    const ViewTransform view = work.display.view().transform();
+    const LonLat last = work.track().points()[work.track().points().size() - 2];
     for (auto _ : state) {
-        benchmark::DoNotOptimize(desk.track().Gph_mouseOver(view, desk.map.style(), last, 0));
+        benchmark::DoNotOptimize(work.track().Gph_mouseOver(view, work.map.style(), last, 0));
     }
 }
 BENCHMARK(askAtTheEnd)->Arg(1000000)->Unit(benchmark::kMillisecond);
