@@ -36,6 +36,7 @@ TEST_F(ShpTrackTest, AveragesAndLitresPerHectare) {
         {"width in whole metres", figure(200, 100, 1, 14.5F), " 200 100 21.43 "},
         {"cut to the field", figure(12000, 99999 * 0.2, 1, 1), " 120020001000.0"},
         {"cut below zero", figure(1, -167, 1, 1), " 1   -167-10020"},
+        {"no width", figure(200, 100, 1, 0.5F), " 200 100       "},
         {"no speed", figure(0.4, 100, 1, 15), " 0   100       "},
     };
     for (const auto& [name, one, row] : table) {

@@ -71,6 +71,8 @@ TEST(Lot, LinesOfTheDescriptionStayDescription) {
         {"a vertex with a remark", "3,4,norte", "3,4_,norte\r\n"},
         {"no number", "12 ha", "12 ha\r\n"},
         {"an empty line", "a\n\nb\n", "a\r\n\r\nb\r\n"},
+        {"no more than ten", "a\nb\nc\nd\ne\nf\ng\nh\ni\nj\nk",
+         "a\r\nb\r\nc\r\nd\r\ne\r\nf\r\ng\r\nh\r\ni\r\nj\r\n"},
         {"old line ends", "a\rb", "a\r\nb\r\n"},
     };
     for (const auto& [name, description, written] : rows) {

@@ -37,7 +37,6 @@ TEST(RasterCanvas, IsAsManyPixelsAsItsUnitsAndRatioSay) {
     const std::tuple<CanvasSize, double, QSize> rows[] = {
         {{18000, 13500}, 1, {1200, 900}},
         {{18000, 13500}, 2, {2400, 1800}},
-        {{150, 150}, 1.5, {15, 15}},
         {{0, 0}, 1, {1, 1}},
     };
     for (const auto& [units, ratio, pixels] : rows) {

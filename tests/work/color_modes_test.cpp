@@ -80,6 +80,10 @@ TEST(ColorModes, DoseClassesCoverWhatIsLoaded) {
         EXPECT_EQ(f.scale.count(), classes);
         EXPECT_EQ(f.scale.classes().front().lower, least);
         EXPECT_EQ(f.scale.classes().back().upper, greatest);
+        f.style.mode = ColorMode::Error;
+        f.ranges.dose = {0, 9999};
+        f.setUp();
+        EXPECT_EQ(f.scale.classes().back().upper, greatest) << "kept while it shows errors";
     }
 }
 
