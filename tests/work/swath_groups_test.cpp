@@ -60,11 +60,14 @@ TEST(SwathGroups, DivideAPass) {
 
 TEST(SwathGroups, RingsHaveTheCornersOfTheMapAndTile) {
     const GphTrack pass = bend(std::vector<TrackDataNBR>(6, loggerRecord(5)));
-    EXPECT_EQ(nextSwathGroup(pass, 3, 3, false)->sumFlow, 10) << "no step begins at the last point";
+    const auto last = nextSwathGroup(pass, 3, 3, false);
+    ASSERT_TRUE(last.has_value());
+    EXPECT_EQ(last->sumFlow, 10) << "no step begins at the last point";
+    EXPECT_EQ(last->sumSpeed, 400);
     std::vector<LonLat> one;
     std::vector<LonLat> other;
     collectSwathRing(pass, *nextSwathGroup(pass, 0, 3, false), one);
-    collectSwathRing(pass, *nextSwathGroup(pass, 3, 3, false), other);
+    collectSwathRing(pass, *last, other);
     ASSERT_EQ(one.size(), 9U);
     ASSERT_EQ(other.size(), 7U);
     EXPECT_EQ(one.front(), one.back());
