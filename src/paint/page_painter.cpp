@@ -13,8 +13,8 @@
 #include <QPainterPath>
 #include <QPdfWriter>
 
-#include "base/plain_text.h"
 #include "paint/raster_canvas.h"
+#include "paint/shown_text.h"
 
 namespace campora {
 
@@ -43,10 +43,6 @@ QFont qtFont(PageFont font) {
 }
 
 /// Names of files stand on maps and pages too.
-QString qtText(std::string_view text) {
-    return QString::fromStdString(plainText(text));
-}
-
 Qt::Alignment alignment(PageAlign align) {
     switch (align) {
     case PageAlign::Left:
@@ -66,7 +62,7 @@ void paintTexts(QPainter& painter, const PageLayout& page) {
         painter.drawText(units(text.place),
                          static_cast<int>(alignment(text.align) | Qt::AlignVCenter) |
                              Qt::TextDontClip | Qt::TextSingleLine,
-                         qtText(text.text));
+                         shownText(text.text));
     }
 }
 
@@ -106,7 +102,7 @@ void paintNorth(QPainter& painter, const PageLayout& page) {
 
 TextWidth pageTextWidth() {
     return [](std::string_view text, PageFont font) {
-        return QFontMetricsF(qtFont(font)).horizontalAdvance(qtText(text)) / kUnits;
+        return QFontMetricsF(qtFont(font)).horizontalAdvance(shownText(text)) / kUnits;
     };
 }
 
@@ -151,8 +147,8 @@ std::string pagePdf(const PageLayout& page, const QImage& map, const PdfNames& n
     {
         QPdfWriter writer(&buffer);
         writer.setResolution(kResolution);
-        writer.setTitle(qtText(names.title));
-        writer.setCreator(qtText(names.program));
+        writer.setTitle(shownText(names.title));
+        writer.setCreator(shownText(names.program));
         const QSizeF sheet(page.sheet.width, page.sheet.height);
         writer.setPageLayout(
             QPageLayout(QPageSize(sheet, QPageSize::Millimeter, QString(), QPageSize::ExactMatch),

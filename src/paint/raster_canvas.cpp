@@ -13,8 +13,8 @@
 #include <QPainter>
 #include <QPolygonF>
 
-#include "base/plain_text.h"
 #include "paint/parallel.h"
+#include "paint/shown_text.h"
 
 namespace campora {
 
@@ -39,10 +39,6 @@ QFont mapFont(bool bold) {
 }
 
 /// Names of files stand on maps and pages too.
-QString qtText(std::string_view text) {
-    return QString::fromStdString(plainText(text));
-}
-
 }  // namespace
 
 RasterCanvas::RasterCanvas(CanvasSize size, double pixelRatio) {
@@ -187,7 +183,7 @@ void RasterCanvas::text(CanvasPoint at, std::string_view text, TextAnchor anchor
     painter.setFont(mapFont(bold));
     painter.setPen(QColor::fromRgb(pixel(penColor_)));
     const QFontMetricsF metrics(painter.font());
-    const QString shown = qtText(text);
+    const QString shown = shownText(text);
     double x = static_cast<double>(at.x) / kUnitsPerPixel;
     if (anchor == TextAnchor::TopCentre) {
         x -= metrics.horizontalAdvance(shown) / 2;
@@ -198,7 +194,7 @@ void RasterCanvas::text(CanvasPoint at, std::string_view text, TextAnchor anchor
 
 CanvasSize RasterCanvas::textSize(std::string_view text, bool bold) const {
     const QFontMetricsF metrics(mapFont(bold));
-    const QSizeF size = metrics.size(0, qtText(text));
+    const QSizeF size = metrics.size(0, shownText(text));
     return {static_cast<std::int32_t>(std::ceil(size.width() * kUnitsPerPixel)),
             static_cast<std::int32_t>(std::ceil(size.height() * kUnitsPerPixel))};
 }

@@ -9,6 +9,7 @@
 #include <QString>
 
 #include "base/plain_text.h"
+#include "paint/shown_text.h"
 
 namespace campora {
 
@@ -17,12 +18,8 @@ namespace campora {
     return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
 
-/// A text that is only shown, without what would steer the screen; `toQt` is for those that come
-/// back, such as paths in fields.
-[[nodiscard]] inline QString shownText(std::string_view utf8) {
-    return toQt(plainText(utf8));
-}
-/// The same for a name, which takes one line.
+/// A name that is only shown, in one line, as `shownText` shows texts; `toQt` is for those that
+/// come back, such as paths in fields.
 [[nodiscard]] inline QString shownName(std::string_view utf8) {
     return toQt(plainLine(utf8));
 }
