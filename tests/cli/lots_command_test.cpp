@@ -3,11 +3,9 @@
 
 // Lots written and merged by the batch program.
 
-#include <filesystem>
 #include <string>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
 #include "support/batch_run.h"

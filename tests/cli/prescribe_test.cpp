@@ -12,7 +12,6 @@
 #include <QImage>
 #include <QPoint>
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
 #include "base/files.h"
@@ -48,12 +47,7 @@ struct Prescribe : BatchRun {
 };
 
 TEST_F(Prescribe, SaysWhatItWroteAndAnswersAsItIsTold) {
-    struct Row {
-        const char* words;
-        int status;
-        const char* says;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, int, const char*> rows[] = {
         {"DOSIS --swath 10", 0, "Canal 1: 390 celdas con dosis, 3.9 ha, "},
         {"DOSIS, --swath 10", 0, "Canal 1: 242 celdas con dosis, 2.42 ha, "},
         {"DOSIS --swath 0", 1, "mayor que 0"},
@@ -61,13 +55,13 @@ TEST_F(Prescribe, SaysWhatItWroteAndAnswersAsItIsTold) {
         {"MEDIA --swath 10", 0, "Un archivo PRE guarda enteros"},
         {"NOMBRE --swath 10", 1, "contiene valores no numéricos"},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.words);
+    for (const auto& [words, status, says] : rows) {
+        SCOPED_TRACE(words);
         const Outcome outcome =
-            run(std::string("prescribe -o @out.pre --channel @mapa.shp,") + row.words);
-        EXPECT_EQ(outcome.status, row.status);
-        EXPECT_THAT(outcome.boxes, HasSubstr(row.says));
-        EXPECT_EQ(std::filesystem::exists(grid), row.status == 0);
+            run(std::string("prescribe -o @out.pre --channel @mapa.shp,") + words);
+        EXPECT_EQ(outcome.status, status);
+        EXPECT_THAT(outcome.boxes, HasSubstr(says));
+        EXPECT_EQ(std::filesystem::exists(grid), status == 0);
         std::filesystem::remove(grid);
     }
     const Outcome decimals =
@@ -82,23 +76,23 @@ TEST_F(Prescribe, SaysWhatItWroteAndAnswersAsItIsTold) {
 TEST_F(Prescribe, EveryChannelOfAPrescriptionCanBeDrawn) {
     const std::string channels = "--channel @mapa.shp,DOSIS, --channel @mapa.shp,DOSIS,7";
     ASSERT_EQ(run("prescribe --swath 10 -o @out.pre " + channels).status, 0);
-    struct Row {
-        const char* channel;
-        bool margin;  ///< whether cells without a zone have a colour
-        const char* says;
+    // Whether cells without a zone have a colour, and what is said.
+    const std::tuple<const char*, bool, const char*> rows[] = {
+        {"1", false, ""},
+        {"2", true, ""},
+        {"3", false, "Advertencia: out.pre no tiene un Canal 3\n"},
     };
-    for (const Row& row : {Row{"1", false, ""}, Row{"2", true, ""},
-                           Row{"3", false, "Advertencia: out.pre no tiene un Canal 3\n"}}) {
-        SCOPED_TRACE(row.channel);
+    for (const auto& [channel, margin, says] : rows) {
+        SCOPED_TRACE(channel);
         const Outcome outcome =
             run(std::string("render @out.pre --no-overlay --size 260x150 -o @mapa.png --channel ") +
-                row.channel);
+                channel);
         EXPECT_EQ(outcome.status, 0);
-        EXPECT_EQ(outcome.boxes, row.says);
+        EXPECT_EQ(outcome.boxes, says);
         const QImage image(QString::fromStdString(folder.file("mapa.png")));
         ASSERT_FALSE(image.isNull());
         const QPoint corner(image.width() / 2, image.height() / 7);
-        EXPECT_EQ(image.pixel(corner) != qRgb(255, 255, 255), row.margin);
+        EXPECT_EQ(image.pixel(corner) != qRgb(255, 255, 255), margin);
         EXPECT_NE(image.pixel(image.rect().center()), qRgb(255, 255, 255));
     }
 }
@@ -142,10 +136,6 @@ TEST_F(SharedPrescriptions, ColumnsOfPeopleAreReadAsItIsTold) {
     EXPECT_FALSE(std::filesystem::exists(grid));
     const Outcome taken = run({"prescribe", "--channel", channel, "--blanks", "empty", "-o", grid});
     EXPECT_EQ(taken.status, 0) << taken.boxes;
-    const Outcome overlap =
-        run({"prescribe", "--channel", *samples + "/overlap.shp,DOSIS", "-o", grid});
-    EXPECT_EQ(overlap.status, 0);
-    EXPECT_THAT(overlap.boxes, HasSubstr("note: Polígonos de overlap.shp que se superponen"));
 }
 
 TEST_F(SharedPrescriptions, AreMadeByteForByte) {

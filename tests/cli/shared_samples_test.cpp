@@ -132,15 +132,5 @@ TEST_F(SharedWork, TheMemoryCardHoldsThreeOrders) {
          "files": ["log0006.nbr", "LOG0007.NBR"]}])"));
 }
 
-TEST_F(SharedWork, AProjectHoldsWhatItsFilesHold) {
-    const Outcome outcome =
-        run({"project", *samples + "/campania 2017.fsp", "--json", "--program-dir", *samples});
-    EXPECT_EQ(outcome.status, 0);
-    EXPECT_EQ(outcome.boxes, "");
-    const Words files = {"Lote Norte 29-11.rpt", "log0012.nbr", "log0105.nbr",
-                         "Siembra soja lote 7.rpt"};
-    EXPECT_EQ(filesIn(outcome), info(files, {})["output"]);
-}
-
 }  // namespace
 }  // namespace campora
