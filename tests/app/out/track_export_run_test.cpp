@@ -18,10 +18,8 @@ using Names = std::vector<std::string>;
 struct TrackExportRunTest : testing::Test, SessionDesk {
     TrackExportRunTest() {
         session.start();
-        run.onBegin = [this](const std::string& line) { begun.push_back(line); };
-        run.onDone = [this](const std::string& line, const TrackExportOutcome& outcome) {
+        run.onDone = [this](const std::string& line, const TrackExportOutcome& /*outcome*/) {
             done.push_back(line);
-            remarks.push_back(outcome.remark);
         };
     }
     [[nodiscard]] bool isThere(std::string_view name) const {
@@ -31,24 +29,7 @@ struct TrackExportRunTest : testing::Test, SessionDesk {
     TrackExportRun run{session.map()};
     Names begun;
     Names done;
-    Names remarks;
 };
-
-TEST_F(TrackExportRunTest, AFileThatFailsKeepsNoOtherFromBeingExported) {
-    const Names paths{track("Log1.nbr", 50), folder.write("roto.nbr", "*TRACKER*\r\n"),
-                      track("log 2.NBR", 60)};
-    EXPECT_FALSE(run.exportList(paths));
-    EXPECT_EQ(begun, (Names{"Exportando Log1.nbr", "Exportando roto.nbr", "Exportando log 2.NBR"}));
-    EXPECT_EQ(done,
-              (Names{"Exportando Log1.nbr:...........Ok", "Exportando roto.nbr:...........Error",
-                     "Exportando log 2.NBR:...........Ok"}));
-    EXPECT_EQ(remarks, (Names{"", "El archivo no es compatible: " + paths[1], ""}));
-    for (const char* name : {"Log1.shp", "Log1.shx", "Log1.dbf", "log 2.shp"}) {
-        EXPECT_TRUE(isThere(name)) << name;
-    }
-    EXPECT_FALSE(isThere("roto.shp"));
-    EXPECT_EQ(dialogs.messages, Names{});
-}
 
 TEST_F(TrackExportRunTest, StoppingEndsTheRunAfterThePresentFile) {
     const Names paths{track("a.nbr", 50), track("b.nbr", 50), track("c.nbr", 50)};
