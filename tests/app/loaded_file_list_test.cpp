@@ -10,7 +10,6 @@
 #include <vector>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "model/file_gph_group.h"
 #include "support/scripted_platform.h"
@@ -20,7 +19,6 @@ namespace campora {
 namespace {
 
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 std::unique_ptr<FileGphGroup> makeFile(std::string path, std::string id = "",
                                        std::int32_t priority = 0, std::string summary = "") {

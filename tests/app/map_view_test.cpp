@@ -169,29 +169,6 @@ TEST_F(MapViewTest, TurningTheWheelMovesThePictureUntilItSettles) {
     EXPECT_EQ(redraws(), 1U) << "once";
 }
 
-TEST(MapView, ZoomStepsKeepTheirFixedPoint) {
-    for (const CanvasPoint fixed : {CanvasPoint{500, 250}, {0, 0}, {1000, 500}, {730, 40}}) {
-        SCOPED_TRACE(testing::Message() << fixed.x << ',' << fixed.y);
-        MapDesk f;
-        f.view.setView(0.4F, 0.4F, 900, 450);
-        const auto x = static_cast<float>(fixed.x);
-        const auto y = static_cast<float>(fixed.y);
-        const LonLat place = f.view.transform().screenToMap(x, y);
-        const auto expectPlace = [&] {
-            // Scrolls are whole metres, which is up to half a metre off.
-            const LonLat now = f.view.transform().screenToMap(x, y);
-            EXPECT_NEAR(now.x, place.x, 1.1 / METERS_PER_DEGREE);
-            EXPECT_NEAR(now.y, place.y, 1.1 / METERS_PER_DEGREE);
-        };
-        f.view.zoomPicture(fixed, 1);
-        EXPECT_FLOAT_EQ(f.view.scaleX(), 0.4F / 1.5F);
-        expectPlace();
-        f.view.zoomPicture(fixed, -1);
-        EXPECT_FLOAT_EQ(f.view.scaleX(), 0.4F);
-        expectPlace();
-    }
-}
-
 TEST_F(MapViewTest, PositionsGivenToTheWindowDoNotComeBackAsMovements) {
     view.setView(1, 1, 300, 200);
     window.onViewControls = [this] { view.scrollBarsMoved(7, 8); };

@@ -3,9 +3,7 @@
 
 #include "app/settings.h"
 
-#include <map>
 #include <string>
-#include <string_view>
 
 #include <gtest/gtest.h>
 
@@ -62,10 +60,11 @@ TEST(Settings, WrittenValuesAreReadAgain) {
                                                           {"DrawBorders", "False"},
                                                           {"DrawDotted", "True"},
                                                           {"OpenPath", "/campo/año 2018/"}}));
-    EXPECT_EQ(readColor(settings, SettingId::LotColor), Color{0xFFFFFF});
-    EXPECT_EQ(readNumber(settings, SettingId::CoordType), 2);
-    EXPECT_FALSE(readSwitch(settings, SettingId::DrawBorders));
-    EXPECT_EQ(readText(settings, SettingId::OpenPath), "/campo/año 2018/");
+    for (const SettingRow& row : settingRows()) {
+        if (const auto found = settings.values.find(row.key); found != settings.values.end()) {
+            EXPECT_EQ(valueOf(settings, row), found->second);
+        }
+    }
     settings.values["DrawBorders"] = " true ";
     settings.values["mapCoordType"] = "3";
     EXPECT_TRUE(readSwitch(settings, SettingId::DrawBorders));

@@ -4,12 +4,10 @@
 #include "app/colours/legend_commands.h"
 
 #include <cstdint>
-#include <initializer_list>
 #include <string>
 #include <vector>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "support/session_desk.h"
 
@@ -114,32 +112,23 @@ TEST(LegendCommands, TheNumberOfClassesStaysWithinItsLimits) {
 }
 
 TEST(LegendCommands, ExtremesAreTypedInAnyForm) {
-    struct Row {
-        const char* name;
-        std::vector<std::string> answers;
-        Bounds bounds;
-        const char* says = nullptr;
-    };
     const Bounds before = {0, 25, 50, 75, 100};
-    const Row rows[] = {
-        {"with a comma", {"10,5", "12,5"}, {10.5, 11, 11.5, 12, 12.5}},
-        {"with a point", {"-1.5", "0.5"}, {-1.5, -1, -0.5, 0, 0.5}},
-        {"equal", {"7", "7"}, before, "menor que el máximo: 7 y 7"},
-        {"swapped", {"100", "50"}, before, "menor que el máximo"},
-        {"no number", {"1", "alto"}, before, "alto"},
-        {"cancelled later", {"1", ""}, before},
+    // What is typed, the classes afterwards and what is said.
+    const std::tuple<std::vector<std::string>, Bounds, const char*> rows[] = {
+        {{"-1,5", "0.5"}, {-1.5, -1, -0.5, 0, 0.5}, nullptr},
+        {{"7", "7"}, before, "menor que el máximo: 7 y 7"},
+        {{"1", "alto"}, before, "alto"},
+        {{"1", ""}, before, nullptr},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto& [answers, bounds, says] : rows) {
+        SCOPED_TRACE(answers.back());
         LegendDesk desk;
-        desk.dialogs.inputAnswers.assign(row.answers.begin(), row.answers.end());
+        desk.dialogs.inputAnswers.assign(answers.begin(), answers.end());
         desk.commands.askExtremes();
-        EXPECT_EQ(desk.bounds(), row.bounds);
+        EXPECT_EQ(desk.bounds(), bounds);
         EXPECT_TRUE(desk.dialogs.inputAnswers.empty());
-        EXPECT_EQ(desk.dialogs.messages.size(), row.says == nullptr ? 0U : 1U);
-        if (row.says != nullptr) {
-            EXPECT_THAT(desk.dialogs.messages.at(0), HasSubstr(row.says));
-        }
+        EXPECT_EQ(desk.dialogs.messages.size(), says == nullptr ? 0U : 1U);
+        EXPECT_TRUE(says == nullptr || desk.dialogs.messages.at(0).find(says) != std::string::npos);
     }
 }
 

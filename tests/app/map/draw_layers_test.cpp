@@ -76,22 +76,13 @@ TEST(PlaceMarks, NameWhatIsTooSmallToBeSeen) {
     const auto place = [](double east, double north, double side, const char* name) {
         return MarkedPlace{lotAt(east, north, side).Gph_bound(), name};
     };
+    MarkedPlace longPlace = place(100, 150, 0, "a");
+    longPlace.bound.addPoint(atMetres(130, 150).x, atMetres(130, 150).y);
     using Lines = std::vector<std::string>;
     const std::tuple<const char*, std::vector<MarkedPlace>, std::size_t, Lines> rows[] = {
         {"twelve pixels can be seen", {place(100, 100, 12.1, "a")}, 0, {}},
         {"eleven cannot", {place(100, 100, 11, "a")}, 1, {"a"}},
-        {"a long one can",
-         {place(100, 100, 0, "a"),
-          {[] {
-               BoundingBox box;
-               for (const double east : {100.0, 130.0}) {
-                   box.addPoint(atMetres(east, 150).x, atMetres(east, 150).y);
-               }
-               return box;
-           }(),
-           "b"}},
-         1,
-         {"a"}},
+        {"a long one can", {longPlace}, 0, {}},
         {"off the canvas", {place(500, 100, 5, "a"), {BoundingBox(), "b"}}, 0, {}},
         {"places at one spot share a mark",
          {place(100, 100, 5, "a"), place(104, 97, 2, "b"), place(200, 100, 5, "c")},
