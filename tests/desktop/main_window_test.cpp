@@ -71,6 +71,14 @@ TEST_F(WindowTest, DroppedFilesAndFoldersJoinTheOpenOnes) {
     EXPECT_THAT(rows(), ElementsAre("lote.rpt", "suelto.rpt", "A.RPT", "b.rpt"));
 }
 
+TEST_F(WindowTest, SubmenusStandBeforeTheirEntries) {
+    const QList<QAction*> entries = window->menuBar()->actions().first()->menu()->actions();
+    const qsizetype reload = entries.indexOf(window->findChild<QAction*>("mnuFileReload"));
+    ASSERT_GT(reload, 0);
+    EXPECT_NE(entries[reload - 1]->menu(), nullptr);
+    EXPECT_EQ(window->findChild<QSlider*>("animation")->minimum(), 0);
+}
+
 TEST_F(WindowTest, ResizingKeepsTheWholeMap) {
     open({writeReport("lote.rpt")});
     action(TextId::ActionZoomIn)->trigger();
@@ -89,12 +97,8 @@ TEST_F(WindowTest, ResizingKeepsTheWholeMap) {
     }
 }
 
-TEST_F(WindowTest, OpensAsItWasLeft) {
-    window->resize(800, 640);
+TEST_F(WindowTest, OpensWithSettingsThatAreNonsense) {
     window->close();
-    openWindow(Language::Spanish);
-    EXPECT_EQ(window->size(), QSize(800, 640));
-
     for (auto& [key, value] : settings.values) {
         value = "%%%";
     }

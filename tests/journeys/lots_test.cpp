@@ -3,10 +3,8 @@
 
 // Lots drawn, saved, mended and merged in the real window.
 
-#include <filesystem>
 #include <string>
 
-#include <QCheckBox>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPlainTextEdit>

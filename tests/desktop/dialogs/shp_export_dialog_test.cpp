@@ -5,8 +5,10 @@
 
 #include <filesystem>
 
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSlider>
 
 #include "desktop/window_fixture.h"
 
@@ -66,12 +68,15 @@ TEST_F(ShpExportTest, OneFileCanGoElsewhere) {
             }
         }
         EXPECT_EQ(target.text(), toQt(folder.file("otra.shp")));
+        in<QSlider>(dialog, "Slider1").setValue(500);
+        EXPECT_EQ(in<QLabel>(dialog, "lblSlider").text(), "100");
         press(dialog, "cmdExport");
         EXPECT_FALSE(dialog.isVisible());
     });
+    EXPECT_TRUE(dialogs.opens.at(0).several);
     EXPECT_EQ(dialogs.messages,
               std::vector<std::string>{"Information|Campora|Archivo exportado correctamente."});
-    EXPECT_GT(sizeOf("otra.shp"), 100U);
+    EXPECT_EQ(sizeOf("otra.shx"), 108U) << "one polygon of at most 100 points";
     EXPECT_EQ(sizeOf("a.shp"), 0U);
 }
 

@@ -83,6 +83,9 @@ TEST_F(WorkOrdersDialogTest, CancelTakesThePreviewOffTheMap) {
     run([this] {
         QComboBox& preview = *dialog->findChild<QComboBox*>("comboPrev");
         EXPECT_EQ(preview.count(), 2) << "nothing is open to preview beside";
+        const QTreeView& folders = *dialog->findChild<QTreeView*>("Dir1");
+        EXPECT_TRUE(folders.isColumnHidden(1));
+        EXPECT_GT(folders.height(), dialog->height() / 4);
         select(0);
         preview.setCurrentIndex(1);
         EXPECT_EQ(desk.session.map().plotCount(), 2);

@@ -4,7 +4,6 @@
 #include "desktop/widgets/legend_view.h"
 
 #include <QApplication>
-#include <QContextMenuEvent>
 #include <QMenu>
 #include <gmock/gmock.h>
 
