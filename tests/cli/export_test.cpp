@@ -152,13 +152,6 @@ TEST_F(ExportTest, AnInterruptionLeavesNoFile) {
     }
     const fs::directory_iterator left(nativePath(folder.path()));
     EXPECT_EQ(std::distance(begin(left), end(left)), 1) << "the source";
-    auto* const handler = std::signal(SIGHUP, SIG_IGN);
-    {
-        const InterruptionWatch watch;
-        (void)std::raise(SIGHUP);
-        EXPECT_EQ(run("glg @lote.rpt -o @a.glg").status, 0) << "nobody interrupts this one";
-    }
-    (void)std::signal(SIGHUP, handler);
 }
 
 }  // namespace
