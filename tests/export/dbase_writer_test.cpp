@@ -80,6 +80,7 @@ TEST_F(DbfTest, ValuesByTheTypeOfTheirField) {
             table.recordField(1, value);
             table.writeRecord();
             EXPECT_EQ(recordsOf(table), std::string(" ") + (forGis ? gis : plain));
+            EXPECT_EQ(contentOf(path).substr(1, 3), hexBytes(forGis ? "7E 0B 03" : "63 01 1E"));
         }
     }
 }

@@ -37,8 +37,9 @@ struct KmlTest : testing::Test {
 };
 
 TEST_F(KmlTest, PutsThePolygonsBetweenTheTemplatesLastPointFirst) {
+    path = folder.file("lote\t1]]>.kml");  // the name stands in a CDATA section
     EXPECT_EQ(save({&points, &triangle}, program.path()), std::nullopt);
-    EXPECT_EQ(contentOf(path), "<a>\r\nb\r\nlote.kml\r\n</a>\r\n"
+    EXPECT_EQ(contentOf(path), "<a>\r\nb\r\nlote 1]]]]><![CDATA[>.kml\r\n</a>\r\n"
                                "(\r\n1.,1.,50\r\n1.,.,50\r\n.5,.,50\r\n)\r\n"
                                "(\r\n-58.3816,-34.25,50\r\n)\r\n"
                                "Fin de la campa\u00f1a\r\n");
