@@ -87,6 +87,13 @@ TEST_F(SessionTest, RangesAreThoseOfTheOpenFiles) {
     EXPECT_EQ(session.map().ranges().dose, (ValueRange<float>{200, 202}));
 }
 
+TEST_F(SessionTest, TellsWhenNoTrackFileHasRecordsOfStops) {
+    open({track("log0001.nbr", 5, 3, "1")});
+    EXPECT_EQ(window.workStatus, "No hay registros del comienzo ni detención de la fumigación");
+    open({track("log0002.nbr", 0, 3, "2")});
+    EXPECT_EQ(window.workStatus, "");
+}
+
 TEST_F(SessionTest, TheViewFollowsAddedFiles) {
     add("a", -60);
     EXPECT_TRUE(session.display().view().transform().isFitted());
