@@ -130,24 +130,6 @@ TEST(MapView, ZoomStepsGoAboutTheCentreAndStayOnTheMap) {
     }
 }
 
-TEST(MapView, ZoomingInEndsAtATenthOfAMetreAPixelOnEveryMap) {
-    constexpr float kFinest = 0.1F / 15;
-    for (const double widthM : {0.0, 2.0, 20.0, 2000.0, 2e6}) {
-        SCOPED_TRACE(widthM);
-        MapDesk f({15000, 7500}, boxOf(widthM, widthM / 10));
-        const float whole = f.view.scaleX();
-        for (int i = 0; i < 60; ++i) {
-            f.view.zoomIn();
-        }
-        EXPECT_GE(f.view.scaleX(), std::min(whole, kFinest));
-        EXPECT_LT(f.view.scaleX(), 1.5F * kFinest);
-        f.view.zoomToRectangle({0, 0}, {});
-        EXPECT_FLOAT_EQ(f.view.scaleX(), std::min(whole, kFinest)) << "it never zooms out";
-        f.view.zoomToBox(boxOf(0.2, 0.2));
-        EXPECT_FLOAT_EQ(f.view.scaleX(), std::min(whole, kFinest));
-    }
-}
-
 /// What is on the canvas moves at once, by as much as the places that it shows.
 TEST_F(MapViewTest, TurningTheWheelMovesThePictureUntilItSettles) {
     view.setView(1, 1, 500, 200);

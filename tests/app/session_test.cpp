@@ -94,22 +94,6 @@ TEST_F(SessionTest, TellsWhenNoTrackFileHasRecordsOfStops) {
     EXPECT_EQ(window.workStatus, "");
 }
 
-TEST_F(SessionTest, TheViewFollowsAddedFiles) {
-    add("a", -60);
-    EXPECT_TRUE(session.display().view().transform().isFitted());
-    EXPECT_TRUE(
-        session.display().view().totalBound.equals(session.map().files().file(0).File_bound()));
-    session.map().addFile(std::make_unique<NamedFile>("c", -62), false);
-    EXPECT_EQ(session.display().view().totalBound.minX, -60) << "not asked to";
-    auto without = std::make_unique<NamedFile>("sin puntos");
-    without->bound = {};
-    session.map().addFile(std::move(without), false);
-    EXPECT_TRUE(session.display().recalcGphBound());
-    EXPECT_EQ(session.display().view().totalBound.minX, -62);
-    EXPECT_EQ(session.display().view().totalBound.maxX, -60 + 0.01) << "a file without points";
-    EXPECT_FALSE(session.display().recalcGphBound());
-}
-
 TEST(Session, MovesTheCurrentFileAndRedraws) {
     const std::tuple<const char*, int, FileListCommands::Move, Names> rows[] = {
         {"up", 1, FileListCommands::Move::Up, {"b", "a", "c"}},
@@ -134,24 +118,6 @@ TEST(Session, MovesTheCurrentFileAndRedraws) {
         EXPECT_EQ(desk.session.map().files().indexOf(desk.session.map().files().currentFile()),
                   desk.window.selected);
     }
-}
-
-TEST_F(SessionTest, RemovingAFileLeavesItsNeighbourCurrent) {
-    add("a", -60);
-    addScale(add("b", -61), 7);
-    add("c", -60);
-    session.display().view().ZoomUno();
-    const float scale = session.display().view().scaleX();
-    session.listCommands().selectFile(1);
-    session.listCommands().removeCurrentFile();
-    EXPECT_EQ(listed(), (Names{"a", "c"}));
-    EXPECT_EQ(window.selected, 1);
-    EXPECT_EQ(window.title, "Campora - [.../campo/c]");
-    EXPECT_EQ(window.legend.classes.size(), 6U) << "the scale went with its file";
-    EXPECT_LT(session.display().view().scaleX(), scale) << "the map is smaller now";
-    canvas.forget();
-    session.listCommands().removeCurrentFile();
-    EXPECT_EQ(drawn(), "a1 a2 ") << "same extent: drawn again as it stands";
 }
 
 }  // namespace

@@ -57,20 +57,5 @@ TEST(StartUp, CommandLineOpensAndReplays) {
     }
 }
 
-TEST(StartUp, AnimPlaysAtOnceUntilTheWindowCloses) {
-    SessionDesk desk;
-    loadMainWindow(desk.session, "/opt/campora/campora");
-    desk.clock.onEvents = [&](int times) {
-        if (times == 200) {
-            unloadMainWindow(desk.session);
-        }
-    };
-    desk.settings.values["printDescription"] = "Lote 4";
-    processCommandLine(desk.session, {{desk.report("lote.rpt")}, true, false, true});
-    EXPECT_GE(desk.clock.events, 200) << "repeated until then";
-    EXPECT_EQ(desk.session.replay().state(), Replay::State::Idle);
-    EXPECT_EQ(desk.settings.values["printDescription"], "Lote 4");
-}
-
 }  // namespace
 }  // namespace campora

@@ -28,23 +28,6 @@ std::size_t entriesOf(const TempFolder& folder) {
     return static_cast<std::size_t>(std::distance(begin(entries), end(entries)));
 }
 
-TEST(FileDraft, AppendsAndWritesOver) {
-    const TempFolder folder;
-    const std::string path = folder.file("a.shp");
-    FileDraft draft(path);
-    const std::string much(100000, 'm');  // more than a buffer holds
-    draft.write("head");
-    draft.write(much);
-    draft.overwrite(1, "EA");
-    draft.write("tail");
-    draft.overwrite(draft.size() - 1, "L");
-    EXPECT_EQ(draft.size(), much.size() + 8);
-    EXPECT_EQ(contentOf(path), "none");
-    EXPECT_FALSE(draft.finish().has_value());
-    EXPECT_EQ(contentOf(path), "hEAd" + much + "taiL");
-    EXPECT_EQ(entriesOf(folder), 1U);
-}
-
 #ifdef __linux__
 
 TEST(FileDraft, AFolderThatTakesNoFilesIsNotAMissingTarget) {

@@ -39,20 +39,6 @@ Arguments rendered(const std::string& options) {
     return parsed("render a.rpt -o a.png" + options);
 }
 
-TEST(Arguments, OptionsStandAnywhere) {
-    const Arguments arguments =
-        parsed("info --decimal , a.rpt --json --language pt b.rpt --swath 5,5 --columns 4 "
-               "--program-dir datos --yes --date-format m/d/yy");
-    EXPECT_EQ(arguments.files, (Words{"a.rpt", "b.rpt"}));
-    EXPECT_EQ(arguments.decimalSymbol, ',');
-    EXPECT_TRUE(arguments.json && arguments.yes);
-    EXPECT_EQ(arguments.language, Language::Portuguese);
-    EXPECT_EQ(arguments.swath, "5,5");
-    EXPECT_EQ(arguments.columns, "4");
-    EXPECT_EQ(arguments.programFolder, "datos");
-    EXPECT_EQ(arguments.dateForm, "m/d/yy");
-}
-
 TEST(Arguments, AnOrderIsCopiedToAFolder) {
     const Arguments arguments = parsed("orders --copy -3 copia --json tarjeta --copy 0 b");
     EXPECT_EQ(arguments.files, Words{"tarjeta"});

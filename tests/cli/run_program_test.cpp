@@ -28,25 +28,6 @@ auto linesOf(const std::string& text) {
     return std::count(text.begin(), text.end(), '\n');
 }
 
-TEST_F(Program, TellsWhatIsInAFile) {
-    folder.write("matriculas.txt", "6001:LV-XYZ");
-    dataFolder = folder.path();
-    const std::string path = track("log0001.nbr", 3);
-    folder.write("Wrk0001.txt", "Lote,La Loma,\r\nAncho.,18,mts\r\n");
-    const Outcome outcome = run("info @log0001.nbr");
-    EXPECT_EQ(outcome.status, 0);
-    EXPECT_EQ(outcome.boxes, "");
-    EXPECT_EQ(outcome.out, "log0001.nbr (LV-XYZ)\n"
-                           "  " +
-                               path +
-                               "\n"
-                               "  Lot: La Loma\n"
-                               "  Ancho: 18 mts\n"
-                               "  Capas GphTrack: 1 (2 elementos, 3 puntos)\n"
-                               "  Extensión: (-60.5002; -31.5) a (-60.5; -31.5), 19 x 0 m\n");
-    EXPECT_THAT(run("info @log0001.nbr --program-dir @otra").out, Not(HasSubstr("LV-XYZ")));
-}
-
 TEST_F(Program, NotesWhatIsToBeSaidAboutAFileThatOpens) {
     std::string bytes = reportBytes();
     bytes[32 + 32 + 27] = 1;  // the highest byte of a swath

@@ -111,26 +111,6 @@ TEST_F(LotPanelTest, MoreThanTenLinesAreTheUsersToCut) {
     EXPECT_EQ(description.toPlainText(), ten);
 }
 
-TEST_F(LotPanelTest, TheMapKeepsItsPlaceAndANarrowWindowItsMap) {
-    action(TextId::ActionLot)->trigger();
-    EXPECT_FALSE(panel().isVisible());
-    view().zoomIn();
-    view().zoomIn();
-    const float scale = view().scaleX();
-    const LonLat middle = under(map().rect().center());
-    action(TextId::ActionLot)->trigger();
-    EXPECT_EQ(view().scaleX(), scale);
-    EXPECT_NEAR(under(map().rect().center()).x, middle.x, 1e-3);
-    window->resize(MainWindow::kMinimumSize);
-    EXPECT_FALSE(window->sidePanelShown());
-    EXPECT_FALSE(action(TextId::ActionSidePanel)->isEnabled());
-    EXPECT_GE(map().width(), map().minimumSizeHint().width());
-    EXPECT_LE(panel().mapTo(window.get(), panel().rect().bottomRight()).x(), window->width());
-    action(TextId::ActionLot)->trigger();
-    EXPECT_TRUE(window->sidePanelShown());
-    EXPECT_TRUE(action(TextId::ActionSidePanel)->isEnabled());
-}
-
 TEST_F(LotPanelTest, TheWindowDoesNotCloseOverALotThatIsNotSaved) {
     drawTriangle();
     dialogs.yesNoAnswers = {false};

@@ -45,21 +45,5 @@ TEST_F(KmlTest, PutsThePolygonsBetweenTheTemplatesLastPointFirst) {
                                "Fin de la campa\u00f1a\r\n");
 }
 
-TEST_F(KmlTest, TemplatesAreFoundBesideTheProgramThenInItsFolderWithoutRegardToCase) {
-    const TempFolder other;
-    for (const char* name : {"kmlhead.inc", "kmlheadb.inc", "kmlPolyhead.inc", "kmlPolyend.inc"}) {
-        other.write("kml/" + std::string(name), "-");
-    }
-    const std::optional<Failure> failure = save({&dot}, other.path());
-    ASSERT_NE(failure, std::nullopt);
-    EXPECT_EQ(Texts().sentence(*failure),
-              "No se puede leer el archivo " + other.path() + "/kmlend.inc: no existe");
-    EXPECT_FALSE(std::filesystem::exists(path));
-    other.write("KMLEND.INC", "z");
-    other.write("kmlHead.inc", "a");
-    EXPECT_EQ(save({&dot}, other.path() + "/"), std::nullopt);
-    EXPECT_EQ(contentOf(path), "a\r\nlote.kml\r\n-\r\n-\r\n1.,2.,50\r\n-\r\nz\r\n");
-}
-
 }  // namespace
 }  // namespace campora

@@ -146,21 +146,6 @@ TEST_F(ShpTest, ColumnsOfLayersThatDiffer) {
     EXPECT_EQ(records(1), " 0     0    ") << "a layer without columns leaves the number alone";
 }
 
-TEST_F(ShpTest, LayersThatLackTheFiguresAreLeftOut) {
-    NamedLayer picture("");
-    PointLayer pointsOnly({{7, 8}});
-    RingLayer ringsOnly({squareAt(0, 0)});
-    ASSERT_EQ(points({&picture, &pointsOnly, &ringsOnly}), std::nullopt);
-    EXPECT_EQ(content(".shp").substr(32, 36), hexBytes("01 00 00 00") + std::string(32, '\0'))
-        << "no layer has a box";
-    RingLayer noRings({});
-    ASSERT_EQ(gis({&picture, &noRings, &pointsOnly}), std::nullopt);
-    EXPECT_EQ(content(".shp")[32], 1) << "points where there are no polygons";
-    ASSERT_EQ(gis({&pointsOnly, &ringsOnly}), std::nullopt);
-    EXPECT_EQ(content(".shp")[32], 5);
-    EXPECT_EQ(records(1), "     0") << "never both";
-}
-
 TEST_F(ShpTest, StepsWithoutFlowFollowTheStyle) {
     GphTrack track;
     for (int i = 0; i < 4; ++i) {

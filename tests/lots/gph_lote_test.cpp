@@ -40,30 +40,6 @@ TEST(GphLote, IsExportedAsAClosedRing) {
     EXPECT_EQ(GphLote().ExportablePolygon_polygonNCount(style, 0), 0);
 }
 
-TEST(GphLote, IsHatchedAmongOthersAndItsOutlineLiesOnTop) {
-    RecordingCanvas canvas{{1000, 500}};
-    MapStyle style;
-    style.colors.lot = Color::rgb(90, 180, 9);
-    canvas.setPenColor(Color{0xABCDEF});
-    const ViewTransform view(10, 10, {0, 0}, canvas.size());
-    MapContext context{canvas, view, style};
-    const auto drawn = [&](auto operation, const GphLote& lot) {
-        canvas.forget();
-        (lot.*operation)(context);
-        EXPECT_EQ(canvas.penColor(), Color{0xABCDEF});
-        return canvas.calls().empty() ? std::string() : canvas.calls()[0];
-    };
-    EXPECT_THAT(drawn(&GphLote::Gph_plot, square(0.01)),
-                testing::StartsWith("polygon fill=0x09B45A style=hatched pen=0x09B45A width=1"));
-    EXPECT_THAT(
-        drawn(&GphLote::plotOnTop, square(0.01)),
-        testing::StartsWith("polygon fill=0x09B45A style=transparent pen=0x056432 width=2"));
-    context.lotsAlone = true;
-    EXPECT_THAT(drawn(&GphLote::Gph_plot, square(0.01)),
-                testing::StartsWith("polygon fill=0x09B45A style=solid pen=0x09B45A"));
-    EXPECT_EQ(drawn(&GphLote::Gph_plot, GphLote({{50, 50}, {51, 50}, {50, 51}}, "")), "");
-}
-
 TEST(GphLote, HoldsWhatLiesInside) {
     const GphLote lot = square(0.01);
     EXPECT_EQ(lot.Gph_mouseOver({}, {}, {0.005, 0.005}, 0), 0);

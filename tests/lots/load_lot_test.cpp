@@ -23,24 +23,6 @@ struct LoadLot : testing::Test {
     }
 };
 
-TEST_F(LoadLot, MakesAnEntryOfTheList) {
-    const std::string path = folder.write(
-        "Lote Ñ.lot", "Campo 1\r\nSoja\r\n. , .\r\n. , -.01\r\n-.01 , -.01\r\n-.01 , .");
-    const auto file = load(path);
-    ASSERT_NE(file, nullptr);
-    EXPECT_EQ(file->name, "Lote Ñ.lot");
-    const std::vector<SummaryEntry> expected = {
-        {"Nombre Archivo:", "Lote Ñ.lot", ""}, {"Superficie:", "124", "Has"},
-        {"Perímetro:", "4453", "m"},           {"Vértices:", "4", ""},
-        {"Descripcion", "Campo 1", ""},        {"", "Soja", ""},
-    };
-    EXPECT_EQ(file->File_resumen().entries(), expected);
-    ASSERT_EQ(file->File_gphList().size(), 1U);
-    const auto& lot = dynamic_cast<const GphLote&>(*file->File_gphList().front());
-    EXPECT_EQ(lot.vertices()[2], (LonLat{0.01, 0.01}));
-    EXPECT_TRUE(dialogs.messages.empty());
-}
-
 TEST_F(LoadLot, RefusesWhatIsNoLotWithAMessage) {
     const std::tuple<const char*, std::string, const char*> rows[] = {
         {"no text at all", std::string("\0\xFF\x01,\0", 5), "no tiene ningún vértice"},

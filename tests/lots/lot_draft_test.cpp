@@ -98,22 +98,6 @@ TEST(LotDraft, RemovingKeepsTheMoveThatItEnds) {
     EXPECT_EQ(draft.vertices(), (Vertices{kAt, {0, 4}}));
 }
 
-TEST(LotDraft, OnlyTheClearingOfADescriptionIsAStepOfItsOwn) {
-    LotDraft draft = triangle();
-    draft.append({1, 1});
-    draft.setDescription("Soja");
-    draft.undo();
-    EXPECT_EQ(draft.description(), "Soja");
-    EXPECT_TRUE(draft.canRedo());
-    draft.clear();
-    EXPECT_FALSE(draft.canRedo()) << "a new change ends what could be done again";
-    draft.setDescription("Maíz");
-    draft.undo();
-    EXPECT_EQ(draft.description(), "Soja");
-    draft.redo();
-    EXPECT_EQ(draft.description(), "Maíz");
-}
-
 TEST(LotDraft, KnowsWhatWouldBeLost) {
     LotDraft draft = triangle();
     draft.clear();
@@ -129,25 +113,6 @@ TEST(LotDraft, KnowsWhatWouldBeLost) {
     EXPECT_FALSE(draft.isChanged());
     draft.setDescription("otra");
     EXPECT_TRUE(draft.isChanged());
-}
-
-TEST(LotDraft, UndoingAClearBringsTheOriginBack) {
-    LotDraft draft;
-    draft.start({kTriangle, "Campo 1"}, {"a.lot", nullptr});
-    draft.clear();
-    EXPECT_EQ(draft.origin().path, "");
-    draft.append({1, 1});
-    draft.markSaved("b.lot");
-    draft.undo();
-    EXPECT_EQ(draft.origin().path, "b.lot");
-    draft.undo();
-    EXPECT_EQ(draft.origin().path, "a.lot");
-    EXPECT_EQ(draft.vertices(), kTriangle);
-    EXPECT_FALSE(draft.isChanged());
-    draft.redo();
-    draft.redo();
-    EXPECT_EQ(draft.origin().path, "b.lot");
-    EXPECT_FALSE(draft.isChanged());
 }
 
 TEST(LotDraft, ForgetsTheOldestSteps) {

@@ -14,7 +14,6 @@ namespace {
 
 using testing::Contains;
 using testing::HasSubstr;
-using testing::Not;
 
 /// Characters are half as wide as they are high.
 double halfEach(std::string_view text, PageFont font) {
@@ -144,22 +143,6 @@ TEST(PageLayout, SaysAllThatItIsGiven) {
             EXPECT_THAT(texts, Contains(said)) << landscape;
         }
     }
-}
-
-TEST(PageLayout, LeavesOutWhatIsNotWantedOrEmpty) {
-    PageSetup setup = setupOf("A4", true);
-    const PageLayout full = layOut(setup, content(5, 9, 3));
-    setup.legend = false;
-    setup.summary = false;
-    setup.description = false;
-    const PageLayout bare = layOut(setup, content(5, 9, 3));
-    EXPECT_TRUE(bare.swatches.empty());
-    EXPECT_EQ(full.swatches.size(), 8U);
-    for (const char* gone : {"clase 4", "Summary", "Description", "renglón 1"}) {
-        EXPECT_THAT(textsOf(bare), Not(Contains(gone)));
-    }
-    EXPECT_GT(layOut(setupOf("A4", false), content(5, 0, 0)).map.height,
-              layOut(setupOf("A4", false), content(5, 9, 20)).map.height);
 }
 
 TEST(PageLayout, TellsHowMuchIsLeftOut) {

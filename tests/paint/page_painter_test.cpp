@@ -50,21 +50,6 @@ bool fillRed(MapCanvas& canvas) {
     return true;
 }
 
-TEST_F(PagePainter, TheMapHasTheDotsOfThePrinterAsFarAsMemoryGoes) {
-    const std::tuple<std::size_t, int, double, double> rows[] = {
-        {1, 150, 149, 151}, {1, 600, 599, 601}, {0, 600, 500, 599}};
-    for (const auto& [paper, wanted, least, most] : rows) {
-        setup.paper = papers()[paper];
-        const QImage map = pageMapPicture(page(), canvas(), wanted, fillRed);
-        const double dots = map.width() / (page().map.width / 25.4);
-        EXPECT_TRUE(dots > least && dots < most) << dots;
-        EXPECT_LE(1.0 * map.width() * map.height(), 36.1e6);
-    }
-    EXPECT_TRUE(pageMapPicture(page(), canvas(), 150, [](MapCanvas& /*canvas*/) {
-                    return false;
-                }).isNull());
-}
-
 TEST_F(PagePainter, AKilometreOnTheMapIsThatLongOnPaper) {
     const PageLayout laid = page();
     const ViewTransform view = pageTransform(extent, laid.map, laid.scale);

@@ -40,20 +40,6 @@ TEST(DbaseView, ReadsCellsByTheTypeOfTheirColumn) {
     }
 }
 
-TEST(DbaseView, KnowsItsColumnsAndRows) {
-    DbaseBytes table({{"DOSIS", 'N', 6}, {"ELEVENCHARS", 'C', 4}});
-    table.addRow({"1", "a"});
-    table.addRow({"2", "b"}, true);
-    const std::string bytes = table.bytes();
-    const DbaseView file(bytesOf(bytes));
-    EXPECT_EQ(file.fieldName(1), "ELEVENCHARS");
-    EXPECT_EQ(file.number(1, 0), 2) << "marked as deleted";
-    for (const std::int32_t row : {-1, 2, 1'000'000'000}) {
-        EXPECT_EQ(file.value(row, 1), kEmpty);
-        EXPECT_EQ(file.number(row, 0), std::nullopt);
-    }
-}
-
 TEST(DbaseView, ReadsTextsInTheirCodePage) {
     const std::tuple<const char*, std::string, int, std::string, std::string> rows[] = {
         {"nothing said", "", 0, "A\xF1o", "Año"},

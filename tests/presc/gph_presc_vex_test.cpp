@@ -27,19 +27,6 @@ struct PrescVexTest : testing::Test {
     GphPrescVex vex{"Prescripción", ','};
 };
 
-TEST_F(PrescVexTest, ShowsTheCurrentChannel) {
-    EXPECT_EQ(vex.File_escalaColores(), nullptr);
-    EXPECT_TRUE(vex.File_gphList().empty());
-    GphPresc& first = add("uno", {"10"}, {0, 0});
-    GphPresc& second = add("dos", {"20", "30"}, {0.02, 0.02});
-    EXPECT_EQ(vex.File_gphList(), std::vector<Gph*>{&first});
-    vex.setCurrentChannel(1);
-    EXPECT_EQ(vex.File_gphList(), std::vector<Gph*>{&second});
-    EXPECT_EQ(vex.File_escalaColores(), &second.escalaColor());
-    EXPECT_THROW(vex.setCurrentChannel(2), std::out_of_range);
-    EXPECT_EQ(vex.File_bound().maxX, 0.04);
-}
-
 TEST_F(PrescVexTest, SumsUpItsChannelsByTheDosesOfNow) {
     GphPresc& first = add("uno", {"10"}, {0, 0});
     add("dos", {"20", "30"}, {0, 0});

@@ -74,19 +74,6 @@ TEST(GridLayer, APreTellsSurfaceAndProductOfItsChannels) {
                             "Producto total (C 2)|-0,12|"));
 }
 
-TEST(GridLayer, AVrtTellsItsTextsAndCountsInHundredths) {
-    GphVRT layer = vrt({1250, 0, -5, 1234});
-    EXPECT_THAT(summaryOf(layer),
-                ElementsAre("Nombre|Norte|", "Descripcion|Maíz|", "Resolución|20|mts",
-                            "Cant. de Canales|1|", "Superficie (C 1)|0.12|Has",
-                            "Producto total (C 1)|0.9916|"));
-    EXPECT_EQ(layer.dose(0, 0), 12.5F);
-    const ColorScale& scale = layer.channelScale(0);
-    ASSERT_EQ(scale.count(), 4);
-    EXPECT_EQ(scale.getClass(3).lower, 12.5);
-    EXPECT_EQ(scale.getClass(2).lower, static_cast<double>(12.34F));
-}
-
 TEST(GridLayer, CellsLieFromTheirCornerOn) {
     const GphPRE layer = pre(3, 2, {1, 2, 3, 4, 5, 6});
     const double step = 20.0 / 91742;  // whole metres a degree at the north edge

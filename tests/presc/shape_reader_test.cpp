@@ -55,24 +55,6 @@ TEST(ShapeReader, StepsThroughRecordsWithTheirRows) {
     EXPECT_EQ(reader.fieldValue(1), CellValue()) << "the table's fourth row is no record's";
 }
 
-TEST(ShapeReader, FindsCompanionsInLettersOfEitherCase) {
-    const std::vector<std::string> rows[] = {
-        {"zonas.shp", "ZONAS.DBF", "ZONAS.CPG", "zonas.shp"},
-        {"Lote.2.Shp", "Lote.2.dbf", "Lote.2.cpg", "lote.2.SHP"},
-    };
-    for (const std::vector<std::string>& names : rows) {
-        SCOPED_TRACE(names[0]);
-        const TempFolder folder;
-        (void)folder.write(names[0], threeZones().bytes());
-        (void)folder.write(names[1], DbaseBytes({{"A\xC3\xB1o", 'C', 4}}).bytes());
-        (void)folder.write(names[2], "UTF-8");
-        ShapeReader reader;
-        ASSERT_EQ(reader.open(folder.file(names[3])), std::nullopt);
-        ASSERT_EQ(reader.fieldCount(), 1);
-        EXPECT_EQ(reader.fieldName(1), "Año");
-    }
-}
-
 TEST(ShapeReader, ATableOfAnotherLengthOrNone) {
     const TempFolder folder;
     const std::string path = folder.write("a.shp", threeZones().bytes());

@@ -143,20 +143,5 @@ TEST(ColorModes, ManyDaysShareTwelveClasses) {
     }
 }
 
-TEST_F(ColorModesTest, AnErrorMapHasAClassASpecifiedDose) {
-    std::vector<TrackDataRPT> records;
-    for (int i = 0; i < 300; ++i) {
-        TrackDataRPT::Fields fields = reportFields(100);
-        fields.spec[0] = i % 2 == 0 ? 160 : 80;
-        records.emplace_back(fields);
-    }
-    addFile(records);
-    style.mode = ColorMode::Error;
-    style.selectedChannel = 0;
-    style.errorLimit = 12.5F;
-    setUp();
-    EXPECT_EQ(bounds(), (Bounds{{70, 90}, {140, 180}}));
-}
-
 }  // namespace
 }  // namespace campora

@@ -10,23 +10,6 @@
 namespace campora {
 namespace {
 
-TEST(CompanionNames, DeriveTheOtherFileOfTheJob) {
-    const std::tuple<const char*, const char*, const char*, const char*> rows[] = {
-        {"summary", "C:\\Datos\\Wrk0001.txt", "C:\\Datos\\Wrk0001.txt", "C:\\Datos\\Log0001.nbr"},
-        {"the folder keeps its case and its log", "/Log/LOG7.nbr", "/Log/Wrk7.txt",
-         "/Log/LOG7.nbr"},
-        {"every log of the name", "LogLog.nbr", "WrkWrk.txt", "LogLog.nbr"},
-        {"a name without log", "Lote.nbr", "lote.txt", "Lote.nbr"},
-        {"empty", "", "", ""},
-    };
-    for (const auto& [name, path, summary, track] : rows) {
-        SCOPED_TRACE(name);
-        const CompanionNames names = companionNames(path);
-        EXPECT_EQ(names.summaryPath, summary);
-        EXPECT_EQ(names.trackPath, track);
-    }
-}
-
 TEST(CompanionNames, SummaryOfAReportIsFoundInAnyCase) {
     const TempFolder folder;
     EXPECT_EQ(findLogForReport(folder.file("Log0007.rpt")), "");

@@ -66,21 +66,6 @@ TEST(LoadRptFile, SummaryOfASprayerWithTwoProducts) {
                             "Hora inicio:|15/01/2018 - 18:03:32|", "Duración:|0|min"));
 }
 
-TEST(LoadRptFile, SummaryNamesFollowTheKindOfWork) {
-    RptBytes seeder(1, 0x2104, 0x5D);
-    seeder.add(at(0, 0));
-    WorkReading reading;
-    const LoadedWork seeding = reading.report(seeder.bytes()).value();
-    // One record makes no step: the averages are 0.
-    EXPECT_THAT(summaryLines(seeding),
-                testing::IsSupersetOf({"Hect. Sembradas: |0|", "Dosis Prom.: |0|unid/hect"}));
-    RptBytes older;
-    older.add(at(0, 0));
-    const LoadedWork work = reading.report(older.bytes()).value();
-    EXPECT_EQ(summaryValue(work, "Hect. Trabajadas: "), "0");
-    EXPECT_EQ(summaryValue(work, "Hora inicio:"), "10:00:00");
-}
-
 TEST(LoadRptFile, SomeRecordsCountForTheirDoseOnly) {
     const std::tuple<Records, std::size_t, const char*, ValueRange<float>> rows[] = {
         // a glitch; impossible doses: 5000 when rounded
@@ -93,25 +78,6 @@ TEST(LoadRptFile, SomeRecordsCountForTheirDoseOnly) {
         EXPECT_EQ(summaryValue(work, "Dosis Prom.: "), average);
         EXPECT_EQ(work.ranges.dose, doses);
     }
-}
-
-TEST(LoadRptFile, RecordsWithoutAPositionCountForNothing) {
-    Records records;
-    RptBytes::Record lost = at(0, 0, 4000);
-    lost.time.date.year = 2030;
-    for (const LonLat& nowhere : {LonLat{0, 0}, LonLat{0, -34}, LonLat{200, 10},
-                                  LonLat{10, std::numeric_limits<double>::quiet_NaN()}}) {
-        lost.position = nowhere;
-        records.push_back(lost);
-    }
-    for (const double east : {0, 10, 20, 30}) {
-        records.push_back(at(east, 0, 800));
-    }
-    const LoadedWork work = loaded(records);
-    EXPECT_THAT(pointCounts(work), ElementsAre(4));
-    EXPECT_EQ(summaryValue(work, "Dosis Prom.: "), "107");
-    EXPECT_EQ(work.ranges.dose, (ValueRange<float>{80, 80}));
-    EXPECT_EQ(work.ranges.date, (ValueRange<std::int32_t>{43164, 43164}));
 }
 
 TEST(LoadRptFile, DurationLeavesBreaksOfMoreThanAnHourOut) {

@@ -22,20 +22,6 @@ const std::string kHeadings8 =
     kTitle + "Longitud\tLatitud\tDosis\tEspec.\tVelocidad\tCodigo\tAncho (cm)\tHora\r\n";
 const std::string kRecord8 = "-61.2\t-34.6\t138\t140\t15.6\t7\t3086\t10:20:00\r\n";
 
-TEST(LoadRptTextTable, ReadsEightColumns) {
-    const LoadedWork work = WorkReading().table(kHeadings8 + kRecord8).value();
-    EXPECT_EQ(trackOf(work, 0).points().front(), (LonLat{-61.2, -34.6}));
-    const TrackDataRPT& record = reportRecordOf(work, 0, 0);
-    EXPECT_EQ(record.caudal(), 138);
-    EXPECT_EQ(record.dosisTotal(), 140);
-    EXPECT_EQ(record.velocidad(), 15.6F);
-    EXPECT_EQ(record.code(), 7);
-    EXPECT_EQ(record.trocha(), 30.86F);
-    EXPECT_EQ(record.hora(), "10:20:00");
-    EXPECT_EQ(record.workKind(), WorkKind::Sprayer);
-    EXPECT_FALSE(record.hasDate());
-}
-
 TEST(LoadRptTextTable, ReadsFourColumnsWithTheAskedSwath) {
     WorkReading reading;
     reading.dialogs.inputAnswers = {"250"};
@@ -45,21 +31,6 @@ TEST(LoadRptTextTable, ReadsFourColumnsWithTheAskedSwath) {
     EXPECT_EQ(record.caudal(), 138) << "halves to even";
     EXPECT_EQ(record.velocidad(), 9.8F);
     EXPECT_EQ(record.trocha(), 200);
-}
-
-TEST(LoadRptTextTable, TheSeparatorOfTheLongitudeHoldsForItsLine) {
-    WorkReading reading;
-    reading.locale = FixedLocale(',');
-    const LoadedWork work =
-        reading
-            .table(kHeadings8 + "-61,2\t-34,6\t100\t100\t15,6\t0\t3000\t10:00:00\n"
-                                "-61.2\t-34.6001\t100\t100\t14.5\t0\t3000\t10:00:00\n"
-                                "-61\t-34,6002\t100\t100\t13,5\t0\t3000\t10:00:00\n")
-            .value();
-    EXPECT_THAT(pointCounts(work), ElementsAre(2, 1));
-    EXPECT_EQ(trackOf(work, 0).points()[1], (LonLat{-61.2, -34.6001}));
-    EXPECT_EQ(trackOf(work, 1).points()[0], (LonLat{-61, -34.6002}));
-    EXPECT_EQ(reportRecordOf(work, 1, 0).velocidad(), 13.5F);
 }
 
 TEST(LoadRptTextTable, SummaryCountsTheFirstRecordAndEveryStep) {

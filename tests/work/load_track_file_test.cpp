@@ -20,22 +20,6 @@ const TrackDataNBR& loggerRecordOf(const LoadedWork& work, std::size_t n, std::i
     return dynamic_cast<const TrackDataNBR&>(trackOf(work, n).pointInfo(i));
 }
 
-TEST(LoadTrackFile, NamesTheWorkAfterItsHeader) {
-    TrackText track;
-    track.order = "15";
-    track.serial = "AB12";
-    track.addPoint(0, 0, 20, 12);
-    track.addPoint(0, 10, 20, 12);
-    WorkReading reading;
-    reading.registrations.add("ab12", "LV-ABC");
-    const LoadedWork work = reading.track(track.bytes()).value();
-    const FileGphGroup& group = *work.group;
-    EXPECT_EQ(group.File_name(), "15 - track12.nbr (LV-ABC)");
-    EXPECT_EQ(group.File_id(), "ab12-18:03:32-15/07/16");
-    EXPECT_EQ(group.File_priority(), 10);
-    EXPECT_EQ(loggerRecordOf(work, 0, 1).trocha(), 18);
-}
-
 TEST(LoadTrackFile, ReadsOffsetsFlowAndSpeedByVersion) {
     // West and south in millionths of a degree, both -1 when the line is skipped.
     const std::tuple<const char*, const char*, const char*, double, double, float, float> rows[] = {
@@ -88,19 +72,6 @@ TEST(LoadTrackFile, BlankLinesAndLeapsEndPasses) {
         const LoadedWork work = WorkReading().track(track.bytes()).value();
         EXPECT_EQ(pointCounts(work), points);
     }
-}
-
-TEST(LoadTrackFile, RangesAndFlowStops) {
-    TrackText track;
-    track.addPoint(0, 0, 30, 12);
-    track.addPoint(0, 10, 20, 10);
-    EXPECT_EQ(WorkReading().track(track.bytes())->hasFlowStops, false);
-    track.addPoint(0, 20, 0, 10);
-    const LoadedWork work = WorkReading().track(track.bytes()).value();
-    EXPECT_EQ(work.hasFlowStops, true);
-    EXPECT_EQ(work.ranges.flow, (ValueRange<float>{0, 30}));
-    EXPECT_EQ(work.ranges.litres->least, 0);
-    EXPECT_FLOAT_EQ(work.ranges.litres->greatest, 30 * 10000 / (12 * 18 * 1000 / 60.0F));
 }
 
 TEST(LoadTrackFile, ForeignFilesAreRefused) {

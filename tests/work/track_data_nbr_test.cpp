@@ -45,23 +45,5 @@ TEST(TrackDataNBR, DescribesItself) {
               "Lt/Hect: 3,8\r\nAvion: LV-XYZ\r\n");
 }
 
-TEST(TrackDataNBR, OffersItsColumns) {
-    const std::tuple<int, const char*, ColumnType, CellValue> rows[] = {
-        {0, "Caudal", ColumnType::Real, 20.0F},
-        {1, "Velocidad", ColumnType::Integer, 200.0F},
-        {2, "AnchoLabor", ColumnType::Real, 18.5F},
-        {3, "LitrosHectarea", ColumnType::Real, 3.2432432F},
-        {4, "", ColumnType::Integer, {}},
-    };
-    const TrackDataNBR record = loggerRecord(20, 200, 18.5F);
-    EXPECT_EQ(record.getColumnCount(), 4);
-    for (const auto& [column, name, type, cell] : rows) {
-        SCOPED_TRACE(column);
-        EXPECT_EQ(record.getColumnNname(column), name);
-        EXPECT_EQ(record.getColumnNtype(column), type);
-        EXPECT_EQ(record.getCell(column, {}), cell);
-    }
-}
-
 }  // namespace
 }  // namespace campora

@@ -134,23 +134,5 @@ TEST(TrackDataRPT, DescribesItselfInEveryLanguage) {
     EXPECT_TRUE(infoOf(reportRecord(100), style).ends_with("Error = 0%\r\nSin alarmas\r\n"));
 }
 
-TEST(TrackDataRPT, OffersItsColumns) {
-    const std::tuple<int, const char*, ColumnType, CellValue> rows[] = {
-        {0, "D_Real1", ColumnType::Real, std::int64_t{120}},
-        {5, "Alarmas", ColumnType::Real, std::int64_t{2147483904}},
-        {7, "Hora", ColumnType::Text, std::string("07:05:09")},
-        {8, "Fecha", ColumnType::Date, kDay},
-        {9, "", ColumnType::Integer, {}},
-    };
-    const TrackDataRPT record(twoChannels());
-    EXPECT_EQ(record.getColumnCount(), 9);
-    for (const auto& [column, name, type, cell] : rows) {
-        SCOPED_TRACE(column);
-        EXPECT_EQ(record.getColumnNname(column), name);
-        EXPECT_EQ(record.getColumnNtype(column), type);
-        EXPECT_EQ(record.getCell(column, {}), cell);
-    }
-}
-
 }  // namespace
 }  // namespace campora

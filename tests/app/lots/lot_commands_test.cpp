@@ -49,23 +49,6 @@ TEST_F(LotCommandsTest, AreThereForWhatIsOpen) {
     EXPECT_FALSE(session.lotEditor().isOpen());
 }
 
-TEST_F(LotCommandsTest, LotsApartAreSavedEachInAFile) {
-    openLot("a.lot", squareRing(-60, -34, 1));
-    openLot("b.lot", squareRing(-50, -34, 2));
-    commands.merge();
-    EXPECT_EQ(dialogs.messages, Names{"Exclamation|Lote Virtual|Quedan 2 contornos separados"});
-    EXPECT_FALSE(commands.canEdit());
-    folder.write("x-2.lot", "");
-    dialogs.saveAnswers = {{folder.file("x.lot"), 0}, {folder.file("x.lot"), 0}};
-    dialogs.yesNoAnswers = {false};
-    commands.save();
-    EXPECT_EQ(contentOf(folder.file("x-1.lot")), "");
-    dialogs.yesNoAnswers = {true};
-    commands.save();
-    EXPECT_EQ(listed(), (Names{"x-1.lot", "a.lot", "b.lot", "x-2.lot"}));
-    EXPECT_EQ(decodeLot(contentOf(folder.file("x-1.lot"))).vertices.size(), 4U);
-}
-
 TEST_F(LotCommandsTest, AnEditedResultOfMergingIsNoLongerUntitledOnceItIsSaved) {
     openLot("a.lot", squareRing(-60, -34, 1));
     openLot("b.lot", squareRing(-59.5, -34, 1));
@@ -97,19 +80,6 @@ TEST_F(LotCommandsTest, AnOpenFileIsWrittenOverByNoneButItself) {
     EXPECT_EQ(contentOf(folder.file("a.lot")), before);
     EXPECT_EQ(saveTo("c.lot"), "");
     EXPECT_EQ(listed(), (Names{"c.lot", "b.lot"}));
-}
-
-TEST_F(LotCommandsTest, AResultAloneIsMergedAgain) {
-    openLot("a.lot", squareRing(-60, -34, 1));
-    openLot("b.lot", squareRing(-50, -34, 2));
-    commands.merge();
-    session.map().removeFile(&session.map().files().file(1));
-    EXPECT_FALSE(commands.canMerge()) << "one is on disk, and what was taken off stays off";
-    session.map().removeFile(&session.map().files().file(1));
-    ASSERT_TRUE(commands.canMerge());
-    commands.merge();
-    EXPECT_EQ(listed(), Names{"Fusionado"});
-    EXPECT_EQ(lotsOf(session.map().files().file(0)).size(), 2U);
 }
 
 TEST_F(LotCommandsTest, AResultOfMergingThatIsNotSavedGoesOnlyWhenTheUserAgrees) {

@@ -31,10 +31,6 @@ struct LotEditorTest : testing::Test, SessionDesk {
         session.tools().move(to);
         session.tools().release(button, to);
     }
-    [[nodiscard]] CanvasPoint onCanvas(LonLat position) const {
-        return const_cast<Session&>(session).display().view().transform().mapToScreen(position.x,
-                                                                                      position.y);
-    }
     /// Vertices as they lie on the canvas.
     [[nodiscard]] std::vector<CanvasPoint> drawn() const {
         const auto ring = window.laid<HandledRing>();
@@ -85,20 +81,6 @@ TEST_F(LotEditorTest, AVertexIsDraggedWithAnyButtonButTheRightOne) {
     EXPECT_EQ(drawn()[0], (CanvasPoint{300, 300}));
     drag({300, 300}, {400, 400}, Button::Right);
     EXPECT_EQ(drawn()[0], (CanvasPoint{300, 300}));
-}
-
-TEST_F(LotEditorTest, AClickOnAVertexSelectsItAndEscapeGivesAMoveUp) {
-    editor.open();
-    drawTriangle();
-    const std::vector<LonLat> before = editor.draft().vertices();
-    click({104, 446});
-    EXPECT_EQ(editor.draft().selected(), std::size_t{0});
-    EXPECT_EQ(window.laid<MarkFrame>(), (MarkFrame{{100, 450}}));
-    session.tools().press(Button::Left, {100, 450});
-    session.tools().move({300, 300});
-    session.tools().escape();
-    session.tools().release(Button::Left, {300, 300});
-    EXPECT_EQ(editor.draft().vertices(), before);
 }
 
 TEST_F(LotEditorTest, ANewVertexIsPulledOutOfTheMiddleOfASide) {
@@ -183,24 +165,6 @@ TEST_F(LotEditorTest, FewVerticesAndADiskThatFailsAreTold) {
     EXPECT_EQ(dialogs.messages.size(), 3U);
     EXPECT_TRUE(editor.draft().isChanged());
     EXPECT_EQ(listed(), Names{"campo.lot"});
-}
-
-TEST_F(LotEditorTest, OffersTheSelectedLot) {
-    session.listCommands().selectFile(0);
-    dialogs.yesNoAnswers = {true};
-    editor.open();
-    EXPECT_EQ(dialogs.questions.size(), 1U);
-    EXPECT_EQ(editor.draft().vertices(), squareRing(-60, -34, kSide));
-    EXPECT_EQ(editor.draft().description(), "Campo 1\r\n");
-    EXPECT_EQ(editor.draft().origin().path, folder.file("campo.lot"));
-    EXPECT_FALSE(editor.draft().canUndo());
-    EXPECT_TRUE(editor.close());
-    EXPECT_EQ(window.laid<HandledRing>(), std::nullopt);
-    EXPECT_EQ(window.laid<MarkFrame>(), std::nullopt);
-    dialogs.yesNoAnswers = {false};
-    editor.open();
-    EXPECT_TRUE(editor.draft().vertices().empty());
-    EXPECT_EQ(editor.draft().origin().path, "");
 }
 
 TEST_F(LotEditorTest, AsksBeforeWhatIsNotSavedIsLost) {

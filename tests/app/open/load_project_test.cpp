@@ -63,20 +63,6 @@ TEST(LoadProject, MissingFilesAreNamedAndOthersOpened) {
                     "Exclamation|Campora|No se encuentra el archivo: " + folder + "\\/falta.rpt"));
 }
 
-TEST(LoadProject, ProjectsInProjectsAreReadOnce) {
-    SessionDesk desk;
-    desk.report("a.rpt", 1000, 0x6001);
-    desk.report("b.rpt", 1000, 0x6002);
-    desk.report("c.rpt", 1000, 0x6003);
-    desk.folder.write("dentro.txt", std::string(kHeader) + "/campo.fsp\r\n/b.rpt\r\n/DENTRO.TXT");
-    const std::string project = desk.folder.write(
-        "campo.fsp", std::string(kHeader) + "/campo.fsp\r\n/a.rpt\r\n/dentro.txt\r\n/c.rpt");
-    desk.session.start();
-    EXPECT_TRUE(openProject(desk, project));
-    EXPECT_EQ(desk.listed(), (Names{"a.rpt", "b.rpt", "c.rpt"}));
-    EXPECT_THAT(desk.dialogs.messages, IsEmpty());
-}
-
 TEST(LoadProject, OtherComputersAreAskedAboutOnceBeforeTheyAreTouched) {
     for (const bool yes : {false, true}) {
         SessionDesk desk;

@@ -16,7 +16,6 @@ namespace campora {
 namespace {
 
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 using Names = std::vector<std::string>;
 
@@ -68,25 +67,6 @@ TEST_F(WorkOrdersBrowserTest, APreviewComesAndGoesWithTheSelection) {
     browser.choosePreview(OrderPreview::Alone);
     EXPECT_EQ(browser.open(*dialogs.progress("")), 2);
     EXPECT_EQ(listed(), adding);
-}
-
-TEST_F(WorkOrdersBrowserTest, CancellingPutsBackWhatAPreviewReplaced) {
-    writeTrack("menos.nbr", "15", "6001", 2);  // the work of log1.nbr, less complete
-    ASSERT_TRUE(open({folder.file("menos.nbr")}));
-    const Names before = listed();
-    const std::string title = window.title;
-    for (const OrderPreview preview : {OrderPreview::Alone, OrderPreview::Adding}) {
-        WorkOrdersBrowser browser(session.map(), session.display(), session.tools(),
-                                  session.services());
-        browser.showFolder(card);
-        browser.choosePreview(preview);
-        browser.select(0);
-        EXPECT_NE(listed(), before);
-        browser.cancel();
-        EXPECT_EQ(listed(), before);
-        EXPECT_EQ(window.title, title);
-    }
-    EXPECT_THAT(dialogs.questions, IsEmpty()) << "a preview asks nothing";
 }
 
 TEST_F(WorkOrdersBrowserTest, CopiesToAFolderThatItRemembers) {

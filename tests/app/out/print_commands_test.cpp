@@ -35,26 +35,6 @@ struct PrintDesk : SessionDesk {
     }
 };
 
-TEST(PrintCommands, TheMapIsDrawnAgainAndTheWindowStaysAsItWas) {
-    PrintDesk desk;
-    desk.add("a");
-    desk.add("b");
-    desk.session.display().view().zoomIn();
-    desk.session.map().style().colors.back = Color{0x123456};
-    const MapView::Place place = desk.session.display().view().place();
-    desk.canvas.forget();
-
-    const PageLayout page = desk.print.page(halfEach);
-    RecordingCanvas paper(desk.print.mapCanvas(page));
-    EXPECT_TRUE(desk.print.drawMap(page, paper, nullptr));
-    EXPECT_EQ(paper.calls().front(), "clear 0x123456");
-    EXPECT_EQ(paper.callsOf("text").size(), 4U);
-    EXPECT_THAT(desk.canvas.calls(), IsEmpty());
-    EXPECT_EQ(desk.session.display().view().place().scale, place.scale);
-    EXPECT_EQ(desk.session.display().view().place().scrollX, place.scrollX);
-    EXPECT_EQ(desk.session.display().view().place().scrollY, place.scrollY);
-}
-
 TEST(PrintCommands, DrawingCanBeCancelled) {
     PrintDesk desk;
     desk.add("a");

@@ -123,21 +123,6 @@ TEST_F(PrescCommandsTest, TheDoseToolChangesAZoneOfTheCurrentChannel) {
     EXPECT_EQ(session.tools().tool(), ToolId::Pan);
 }
 
-TEST_F(PrescCommandsTest, SavesAVrtUnderItsName) {
-    create({{"10", "20"}});
-    const std::string path = folder.file("uno.vrt");
-    dialogs.saveAnswers.push_back({path, 0});
-    dialogs.inputAnswers = {"20.5", "Lote 7", "maiz"};
-    commands.saveVrt();
-    EXPECT_EQ(dialogs.saves[0].name, "canal1.vrt");
-    EXPECT_TRUE(dialogs.inputs[1].ends_with("|Campora|canal1"));
-    ASSERT_TRUE(open({path}, true));
-    ASSERT_GE(window.summary.size(), 3U);
-    EXPECT_EQ(window.summary[0].value, "Lote 7 ");
-    EXPECT_EQ(window.summary[1].value, "maiz ");
-    EXPECT_TRUE(window.summary[2].value.starts_with("20.5 "));
-}
-
 TEST_F(PrescCommandsTest, ASaveThatIsCancelledOrNoNumberWritesNothing) {
     commands.mnuFileSavePrescript();
     commands.saveVrt();

@@ -65,28 +65,6 @@ TEST_F(MapWidgetTest, KeysZoomAndScroll) {
     EXPECT_FLOAT_EQ(view().scaleX(), whole);
 }
 
-TEST_F(MapWidgetTest, EdgeArrowsScrollTheirWayAndGoAtTheEdge) {
-    view().zoomIn();
-    QList<EdgeArrow*> shown;
-    for (EdgeArrow* arrow : map().findChildren<EdgeArrow*>()) {
-        EXPECT_TRUE(map().rect().contains(arrow->geometry()));
-        if (arrow->isVisible()) {
-            shown.push_back(arrow);
-        }
-    }
-    ASSERT_EQ(shown.size(), 4);
-    EdgeArrow* const east = *std::max_element(shown.begin(), shown.end(),
-                                              [](auto* a, auto* b) { return a->x() < b->x(); });
-    map().setFocus();
-    EXPECT_EQ(map().grab().toImage().pixelColor(0, 0), map().palette().color(QPalette::Highlight));
-    const LonLat before = under({0, 0});
-    QTest::mouseClick(east, Qt::LeftButton);
-    EXPECT_GT(under({0, 0}).x, before.x);
-    QTest::mouseClick(east, Qt::LeftButton);
-    QTest::mouseClick(east, Qt::LeftButton);
-    EXPECT_FALSE(east->isVisible());
-}
-
 TEST_F(MapWidgetTest, ScrollBarsFollowTheViewAndMoveIt) {
     QScrollBar& bar = window->mapArea().horizontalBar();
     const QSize size = map().size();
