@@ -63,21 +63,6 @@ TEST(Arguments, LooksOfThePicture) {
     EXPECT_EQ(parsed("render a.rpt -o x/A.BMP").output, "x/A.BMP");
 }
 
-TEST(Arguments, APrescriptionIsMadeOfItsChannels) {
-    const PrescriptionRequest request =
-        parsed("prescribe --channel a,b.SHP,DOSIS --channel c.shp,SEMILLA,12,5 --channel d.shp,X, "
-               "--format vrt --resolution 7,5 --oversize change --name N --description D "
-               "-o out.vrt")
-            .prescription;
-    EXPECT_EQ(request.channels, (std::vector<ChannelSource>{{"a,b.SHP", "DOSIS", std::nullopt},
-                                                            {"c.shp", "SEMILLA", "12,5"},
-                                                            {"d.shp", "X", ""}}));
-    EXPECT_EQ(request.kind, GridKind::Vrt);
-    EXPECT_EQ(request.resolution, 7.5F);
-    EXPECT_EQ(request.oversize, Answer::Yes);
-    EXPECT_EQ(request.name + request.description, "ND");
-}
-
 TEST(Arguments, AWrongCommandLineIsExplained) {
     const std::pair<const char*, const char*> rows[] = {
         {"", "The command is missing"},

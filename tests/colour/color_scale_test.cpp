@@ -124,28 +124,6 @@ TEST(ColorScale, TheFirstClassThatFitsTakesAValueWhateverTheOrder) {
     }
 }
 
-TEST(ColorScale, SingleValueTakesAnotherAndAnIntervalIsRefused) {
-    ColorScale scale;
-    scale.loadFromSetList(setOf({10, 20, 30}), 0);
-    std::vector<std::string> heard;
-    const auto changed = scale.onChanged([&heard] { heard.emplace_back("changed"); });
-    const auto value = scale.onClassValueChanged([&](int index, double from, double to) {
-        EXPECT_EQ(scale.getClass(index).upper, to);
-        heard.push_back(std::to_string(index) + ": " + numberText(from) + " " + numberText(to));
-    });
-    EXPECT_FALSE(scale.setClassValue(1, 12.5));
-    EXPECT_EQ(heard, std::vector<std::string>{"1: 20 12.5"});
-    EXPECT_EQ(scale.getClass(0).upper, 10);
-    EXPECT_EQ(scale.getClass(1).lower, 12.5);
-    EXPECT_EQ(scale.getClass(2).upper, 30);
-
-    scale.setClassNumber(3);
-    const std::vector<Clase> before = scale.classes();
-    const std::optional<Failure> refused = scale.setClassValue(1, 3);
-    EXPECT_TRUE(refused && refused->text == TextId::IntervalCannotChange);
-    EXPECT_EQ(scale.classes(), before);
-}
-
 TEST(ColorScaleListeners, MayComeAndGoWhileTheyAreCalled) {
     auto scale = std::make_unique<ColorScale>();
     std::string heard;

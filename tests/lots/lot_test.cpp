@@ -64,25 +64,6 @@ TEST(Lot, TwoNumbersThatAreNoPositionAreDescription) {
     }
 }
 
-TEST(Lot, LinesOfTheDescriptionStayDescription) {
-    const std::tuple<const char*, const char*, const char*> rows[] = {
-        {"a number", "12", "12_\r\n"},
-        {"a vertex", "34.25 , 58.5", "34.25 , 58.5_\r\n"},
-        {"a vertex with a remark", "3,4,norte", "3,4_,norte\r\n"},
-        {"no number", "12 ha", "12 ha\r\n"},
-        {"an empty line", "a\n\nb\n", "a\r\n\r\nb\r\n"},
-        {"no more than ten", "a\nb\nc\nd\ne\nf\ng\nh\ni\nj\nk",
-         "a\r\nb\r\nc\r\nd\r\ne\r\nf\r\ng\r\nh\r\ni\r\nj\r\n"},
-        {"old line ends", "a\rb", "a\r\nb\r\n"},
-    };
-    for (const auto& [name, description, written] : rows) {
-        SCOPED_TRACE(name);
-        const std::string bytes = encodeLot({}, description);
-        EXPECT_EQ(bytes, written);
-        EXPECT_EQ(decodeLot(bytes), (Lot{{}, written}));
-    }
-}
-
 TEST(Lot, IsWrittenInTheCodePageOfConsoles) {
     EXPECT_EQ(encodeLot({}, "Ñandú \u4e00"), "\xD1"
                                              "and\xFA ?\r\n");

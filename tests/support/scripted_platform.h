@@ -58,8 +58,6 @@ public:
     std::vector<FolderRequest> folders;
     /// The colours that were preselected.
     std::vector<Color> colors;
-    /// "caption: percent percent ..." for every progress window.
-    std::vector<std::string> progresses;
 
     void message(std::string_view text, MessageIcon icon, std::string_view caption) override {
         messages.push_back(box(icon, caption, text));
@@ -101,25 +99,22 @@ public:
         colors.push_back(current);
         return next(colorAnswers, "colour");
     }
-    [[nodiscard]] std::unique_ptr<Progress> progress(std::string_view caption) override {
-        progresses.emplace_back(std::string(caption) + ":");
-        return std::make_unique<Reports>(*this, progresses.size() - 1);
+    [[nodiscard]] std::unique_ptr<Progress> progress(std::string_view /*caption*/) override {
+        return std::make_unique<Reports>(*this);
     }
 
 private:
     class Reports final : public Progress {
     public:
-        Reports(ScriptedDialogs& dialogs, std::size_t index) : dialogs_(dialogs), index_(index) {}
+        explicit Reports(ScriptedDialogs& dialogs) : dialogs_(dialogs) {}
 
-        [[nodiscard]] bool report(int percent) override {
-            dialogs_.progresses.at(index_) += " " + std::to_string(percent);
+        [[nodiscard]] bool report(int /*percent*/) override {
             ++count_;
             return !dialogs_.cancelAfter || count_ < *dialogs_.cancelAfter;
         }
 
     private:
         ScriptedDialogs& dialogs_;
-        std::size_t index_;
         int count_ = 0;
     };
 

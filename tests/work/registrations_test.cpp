@@ -18,19 +18,6 @@ Registrations loadFrom(const TempFolder& folder, ScriptedDialogs& dialogs) {
     return loadRegistrations(folder.path(), {dialogs, Texts(), FixedLocale()});
 }
 
-TEST(Registrations, FindsSerialsWithoutRegardToCaseAndBlanks) {
-    const TempFolder folder;
-    folder.write("matriculas.txt",
-                 "6001:LV-XYZ\r\n ab12 : LV-ABC \n6001:LV-SECOND\nMU\xD1OZ:LV-\xD1");
-    ScriptedDialogs dialogs;
-    const Registrations found = loadFrom(folder, dialogs);
-    EXPECT_EQ(found.registrationOf("6001"), "LV-XYZ");
-    EXPECT_EQ(found.registrationOf("AB12 "), "LV-ABC");
-    EXPECT_EQ(found.registrationOf("muñoz"), "LV-Ñ");
-    EXPECT_EQ(found.registrationOf("6002"), "");
-    EXPECT_THAT(dialogs.messages, IsEmpty());
-}
-
 TEST(Registrations, NameBadLinesAndGoOnCountingAfterTwenty) {
     const TempFolder folder;
     ScriptedDialogs dialogs;

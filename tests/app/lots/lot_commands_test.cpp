@@ -30,25 +30,6 @@ struct LotCommandsTest : testing::Test, SessionDesk {
     LotCommands& commands = session.lotCommands();
 };
 
-TEST_F(LotCommandsTest, AreThereForWhatIsOpen) {
-    commands.edit();
-    commands.save();
-    commands.merge();
-    EXPECT_FALSE(session.lotEditor().isOpen());
-    ASSERT_TRUE(open({report("a.rpt")}));
-    EXPECT_FALSE(commands.canEdit() || commands.canSave() || commands.canMerge());
-    openLot("a.lot", squareRing(-60, -34, 1));
-    session.listCommands().selectFile(1);
-    EXPECT_TRUE(commands.canEdit() && commands.canSave());
-    EXPECT_FALSE(commands.canMerge());
-    openLot("b.lot", squareRing(-59, -34, 1));
-    EXPECT_TRUE(commands.canMerge());
-    commands.edit();
-    EXPECT_EQ(session.lotEditor().draft().origin().path, folder.file("a.lot"));
-    commands.toggleEditor();
-    EXPECT_FALSE(session.lotEditor().isOpen());
-}
-
 TEST_F(LotCommandsTest, AnEditedResultOfMergingIsNoLongerUntitledOnceItIsSaved) {
     openLot("a.lot", squareRing(-60, -34, 1));
     openLot("b.lot", squareRing(-59.5, -34, 1));

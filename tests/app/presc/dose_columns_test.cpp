@@ -104,6 +104,21 @@ TEST_F(DoseColumnsTest, ConfirmsOnlyWhenEveryRowIsComplete) {
     EXPECT_EQ(channels[1]->polygons()[0].dosis, 5);
 }
 
+TEST_F(DoseColumnsTest, AsksBeforeItTakesManyDoses) {
+    const std::tuple<int, std::optional<Answer>, bool> rows[] = {
+        {15, std::nullopt, true}, {16, Answer::No, false}, {16, Answer::Yes, true}};
+    for (const auto& [distinct, answer, confirmed] : rows) {
+        dialogs.questions.clear();
+        choose(0, doses(distinct));
+        columns.chooseColumn(0, 1);
+        if (answer) {
+            dialogs.answers.push_back(*answer);
+        }
+        EXPECT_EQ(columns.confirm(), confirmed) << distinct;
+        EXPECT_EQ(dialogs.questions.size(), answer ? 1U : 0U);
+    }
+}
+
 TEST_F(DoseColumnsTest, AsksHowAColumnIsToBeRead) {
     struct Row {
         std::string_view cells;

@@ -65,19 +65,20 @@ TEST_F(SummaryEditorDialogTest, RowsAreChangedWithTheButtons) {
     widgets.button("cmdDown").click();
     widgets.button("cmdDown").click();
     EXPECT_EQ(widgets.names(), "A C B");
-    widgets.field("txtCampo1").setText("D");
+    widgets.field("txtCampo1").setText("Ñ");
     widgets.button("cmdAdd").click();
-    EXPECT_EQ(widgets.names(), "A C D B");
+    EXPECT_EQ(widgets.names(), "A C Ñ B");
     QTest::keyClick(&widgets.field("txtCampo1"), Qt::Key_Return);
-    EXPECT_EQ(widgets.names(), "A C D D");
+    EXPECT_EQ(widgets.names(), "A C Ñ Ñ");
     dialogs.answers = {Answer::Yes};
     widgets.button("cmdQuit").click();
-    EXPECT_EQ(widgets.names(), "A C D");
+    EXPECT_EQ(widgets.names(), "A C Ñ");
     EXPECT_FALSE(widgets.button("cmdChange").isEnabled());
     widgets.button("cmdAcept").click();
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
     EXPECT_EQ(readFile(path)->text(),
-              "\"A:\",\"1\",\"m\"\r\n\"C:\",\"3\",\"\"\r\n\"D:\",\"2\",\"\"\r\n");
+              "\"A:\",\"1\",\"m\"\r\n\"C:\",\"3\",\"\"\r\n\"\xD1:\",\"2\",\"\"\r\n")
+        << "in the code page of consoles";
 }
 
 TEST_F(SummaryEditorDialogTest, StaysOpenWhenTheFileCannotBeWritten) {
