@@ -206,11 +206,6 @@ std::int32_t codeOfLanguage(Language language) {
     return kFollowSystem;
 }
 
-std::optional<Language> readLanguageSetting(const SettingsStore& settings) {
-    const std::int32_t code = readNumber(settings, SettingId::Language);
-    return code == kFollowSystem ? std::nullopt : std::optional(languageOfCode(code, code));
-}
-
 void writeLanguageSetting(SettingsStore& settings, Language language) {
     writeNumber(settings, SettingId::Language, codeOfLanguage(language));
 }

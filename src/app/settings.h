@@ -106,8 +106,6 @@ inline constexpr std::int32_t kFollowSystem = 1;
 [[nodiscard]] Language languageOfCode(std::int32_t code, std::int32_t systemCode);
 [[nodiscard]] std::int32_t codeOfLanguage(Language language);
 
-/// The language that the user chose; none while it follows the system.
-[[nodiscard]] std::optional<Language> readLanguageSetting(const SettingsStore& settings);
 void writeLanguageSetting(SettingsStore& settings, Language language);
 
 }  // namespace campora

@@ -42,7 +42,6 @@ public:
     [[nodiscard]] Session& session() const { return *session_; }
     [[nodiscard]] MapArea& mapArea() const { return *mapArea_; }
     [[nodiscard]] SidePanel& sidePanel() const { return *sidePanel_; }
-    [[nodiscard]] ReplayBar& replayBar() const { return *replayBar_; }
     [[nodiscard]] LotPanel& lotPanel() const { return *lotPanel_; }
 
     /// Settings and tables are read now; what the command line asks for is done when the window

@@ -92,6 +92,7 @@ TEST(MapView, ShowsASinglePointInTheMiddle) {
     MapDesk f({1000, 500}, boxOf(0, 0));
     EXPECT_FLOAT_EQ(f.view.scaleX(), 0.1F);
     EXPECT_EQ(f.view.transform().mapToScreen(kWest, kSouth), (CanvasPoint{500, 250}));
+    EXPECT_EQ(f.view.transform().screenToMap(0, 500), (LonLat{f.view.originX(), f.view.originY()}));
 }
 
 TEST_F(MapViewTest, ZoomsToABoxWithABorder) {

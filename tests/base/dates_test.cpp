@@ -11,10 +11,6 @@
 
 namespace campora {
 
-void PrintTo(const Date& date, std::ostream* out) {
-    *out << date.year << '-' << date.month << '-' << date.day;
-}
-
 namespace {
 
 TEST(DayNumber, LimitsHold) {

@@ -111,6 +111,8 @@ TEST(ColorScale, EveryValueHasAClass) {
     EXPECT_EQ(quarters.getClassByValue(nan), nullptr);
     EXPECT_EQ(quarters.getClassIndexByValue(nan), 0);
     EXPECT_EQ(quarters.getColor(nan), kYellow);
+    quarters.addClassManual(100, 200);
+    EXPECT_EQ(quarters.getClassIndexByValue(150), 4);
 }
 
 // An edited value may leave the classes unsorted: the first that fits still takes a value.

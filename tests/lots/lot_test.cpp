@@ -9,10 +9,6 @@
 
 namespace campora {
 
-void PrintTo(const LonLat& position, std::ostream* out) {
-    *out << position.x << ", " << position.y;
-}
-
 namespace {
 
 using Vertices = std::vector<LonLat>;

@@ -54,6 +54,7 @@ struct GphPolygonTest : testing::Test, Drawing {};
 
 TEST_F(GphPolygonTest, DrawsItselfFilled) {
     GphPolygon ring = square(0.001, 0.002, 0.001);
+    EXPECT_EQ(ring.pointToScreen(view, 0), (CanvasPoint{100, 800}));
     EXPECT_EQ(of(ring),
               std::vector<std::string>{"polygon fill=0x112233 style=solid pen=0x000000 width=1 "
                                        "solid: (100,800) (100,700) (200,700) (200,800)"});

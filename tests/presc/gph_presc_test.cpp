@@ -132,6 +132,7 @@ TEST_F(PrescTest, ABlankOfTheColumnIsGroundOutsideEveryZone) {
     EXPECT_EQ(presc.searchOrder(), (std::vector<std::int32_t>{0, 2}));
     EXPECT_EQ(scale(), (Values{0, 10, 1200.5}));
     EXPECT_EQ(presc.polygonIndexAt({0.5, 0.5}), 0);
+    EXPECT_EQ(presc.getPolygonAtPoint(0.5, 0.5), presc.polygons().data());
     EXPECT_EQ(presc.polygonIndexAt({1.5, 1.5}), -1);
     EXPECT_EQ(presc.Gph_mouseOver({}, style, {1.5, 1.5}, 0), 1) << "its values can be read";
     EXPECT_FALSE(presc.escalaColor().setClassValue(0, 7));

@@ -40,7 +40,7 @@ TEST(ShapeReader, StepsThroughRecordsWithTheirRows) {
     ASSERT_EQ(reader.partCount(), 2);
     EXPECT_EQ(reader.partLastVertex(2), 9);
     EXPECT_EQ(reader.partRingCode(2), 1);
-    EXPECT_EQ(reader.vertexX(2), 4);
+    EXPECT_EQ((LonLat{reader.vertexX(2), reader.vertexY(2)}), reader.vertex(2));
     EXPECT_EQ(reader.fieldName(2), "NOMBRE");
     EXPECT_EQ(reader.fieldValue(2), CellValue(std::string("zona 1")));
     reader.moveNext();

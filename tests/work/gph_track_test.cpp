@@ -44,6 +44,7 @@ TEST(GphTrack, FindsTheStepUnderThePointer) {
             << name;
     }
     EXPECT_EQ(track.Gph_mouseOver(ViewTransform(), MapStyle(), atMetres(150, 500), 0), -1);
+    EXPECT_EQ(track.Gph_delayN(0), 1) << "two records of one second";
 }
 
 }  // namespace
