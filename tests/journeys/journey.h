@@ -45,10 +45,14 @@ protected:
     void start() {
         program.reset();
         program = std::make_unique<WindowProgram>();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+        ASSERT_TRUE(becomesActive(window()));
         ASSERT_TRUE(QTest::qWaitFor([this] { return map().hasFocus(); }));
     }
 
+    /// Waits until the keys go there, however busy the machine is.
+    [[nodiscard]] static bool becomesActive(QWidget& widget) {
+        return QTest::qWaitForWindowActive(&widget, 30000);
+    }
     [[nodiscard]] MainWindow& window() const { return program->window(); }
     [[nodiscard]] Session& session() const { return window().session(); }
     [[nodiscard]] MapWidget& map() const { return window().mapArea().map(); }
@@ -62,6 +66,9 @@ protected:
                 poll->stop();
                 poll->deleteLater();
                 act(*dialog);
+                if (HasFatalFailure()) {
+                    QApplication::closeAllWindows();  // else a box would wait for ever
+                }
             }
         });
         poll->start(20);

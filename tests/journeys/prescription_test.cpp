@@ -62,7 +62,7 @@ TEST_F(Prescription, FromTwoMapsToAFileAndBack) {
     const std::string first = rowOfZones({"100", "50", "80"}).write(folder, "uno");
     const std::string second = rowOfZones({"7", "9"}).write(folder, "dos");
     inNextDialog<DoseColumnDialog>([&](DoseColumnDialog& dialog) {
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        ASSERT_TRUE(becomesActive(dialog));
         fillRow(dialog, 0, first);
         QTest::mouseClick(dialog.findChild<QPushButton*>("cmdAdd"), Qt::LeftButton);
         fillRow(dialog, 1, second);
@@ -74,7 +74,7 @@ TEST_F(Prescription, FromTwoMapsToAFileAndBack) {
 
     click("prescDosis");
     inNextDialog<SelectDoseDialog>([](SelectDoseDialog& dialog) {
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        ASSERT_TRUE(becomesActive(dialog));
         dialog.findChild<QLineEdit*>("txtNewDosis")->setFocus();
         dialog.findChild<QLineEdit*>("txtNewDosis")->setText("65");
         QTest::keyClick(&dialog, Qt::Key_Return);

@@ -30,7 +30,7 @@ protected:
     /// Answers the print dialog with a file, and the question whether to open it with No.
     void printTo(const std::string& path) {
         inNextDialog<PrintDialog>([this, path](PrintDialog& dialog) {
-            ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+            ASSERT_TRUE(becomesActive(dialog));
             auto* const printer = dialog.findChild<QComboBox*>("printer");
             printer->setCurrentIndex(printer->count() - 1);
             giveFile(path);
@@ -66,7 +66,7 @@ TEST_F(PrintedPage, SetUpPreviewAndPdf) {
     openByDialog(CAMPORA_SOURCE_DIR "/samples/lote-demo.rpt");
     ASSERT_EQ(session().map().plotCount(), 1);
     inNextDialog<PageSetupDialog>([](PageSetupDialog& dialog) {
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        ASSERT_TRUE(becomesActive(dialog));
         dialog.findChild<QPlainTextEdit*>("description")->setPlainText("Glifosato\n2 l/ha");
         QTest::mouseClick(dialog.findChild<QRadioButton*>("landscape"), Qt::LeftButton);
         dialog.accept();
@@ -78,14 +78,14 @@ TEST_F(PrintedPage, SetUpPreviewAndPdf) {
 
     const std::string fromPreview = folder.file("apaisada.pdf");
     inNextDialog<PrintPreview>([&](PrintPreview& preview) {
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&preview));
+        ASSERT_TRUE(becomesActive(preview));
         printTo(fromPreview);
         preview.findChild<QAction*>("previewPrint")->trigger();
         preview.findChild<QAction*>("previewPortrait")->trigger();
         QTest::keyClick(&preview, Qt::Key_Escape);
     });
     click("preview");
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window()));
+    ASSERT_TRUE(becomesActive(window()));
     const std::string fromBar = folder.file("vertical.pdf");
     printTo(fromBar);
     QTest::keyClick(&map(), Qt::Key_P, Qt::ControlModifier);
