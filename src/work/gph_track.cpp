@@ -9,7 +9,7 @@
 
 #include "model/measures.h"
 #include "model/ring_geometry.h"
-#include "work/swath_geometry.h"
+#include "model/swath_geometry.h"
 
 namespace campora {
 

@@ -5,8 +5,8 @@
 
 #include <stdexcept>
 
+#include "model/swath_geometry.h"
 #include "work/gph_track.h"
-#include "work/swath_geometry.h"
 #include "work/vex_alarmas.h"
 
 namespace campora {

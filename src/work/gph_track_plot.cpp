@@ -12,8 +12,8 @@
 
 #include "model/geodesy.h"
 #include "model/outline_rule.h"
+#include "model/swath_geometry.h"
 #include "work/gph_track.h"
-#include "work/swath_geometry.h"
 
 namespace campora {
 

@@ -6,7 +6,7 @@
 #include <cmath>
 
 #include "model/geodesy.h"
-#include "work/swath_geometry.h"
+#include "model/swath_geometry.h"
 
 namespace campora {
 

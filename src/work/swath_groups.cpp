@@ -5,7 +5,7 @@
 
 #include <cstdint>
 
-#include "work/swath_geometry.h"
+#include "model/swath_geometry.h"
 
 namespace campora {
 

@@ -8,8 +8,8 @@
 #include <cstddef>
 #include <type_traits>
 
+#include "model/swath_geometry.h"
 #include "work/gph_track.h"
-#include "work/swath_geometry.h"
 
 namespace campora {
 

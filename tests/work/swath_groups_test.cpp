@@ -5,8 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include "model/swath_geometry.h"
 #include "support/work_records.h"
-#include "work/swath_geometry.h"
 
 namespace campora {
 namespace {

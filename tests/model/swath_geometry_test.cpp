@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-#include "work/swath_geometry.h"
+#include "model/swath_geometry.h"
 
 #include <cmath>
 #include <vector>
