@@ -139,6 +139,12 @@ float GphTrack::speedN(std::int32_t n) const {
     return std::visit([i](const auto& records) { return records[i].velocidad(); }, records_);
 }
 
+WorkRecord GphTrack::recordN(std::int32_t n) const {
+    const auto i = static_cast<std::size_t>(n);
+    return std::visit([&](const auto& records) { return records.at(i).workRecord(points_.at(i)); },
+                      records_);
+}
+
 std::int32_t GphTrack::Gph_count() const {
     return points_.size() < 2 ? 0 : static_cast<std::int32_t>(points_.size() - 1);
 }

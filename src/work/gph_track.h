@@ -50,6 +50,10 @@ public:
     [[nodiscard]] bool hasSpecifiedDose() const override;
     void clearAlarmas() override;
     [[nodiscard]] float speedN(std::int32_t n) const override;
+    [[nodiscard]] std::int32_t recordCount() const override {
+        return static_cast<std::int32_t>(points_.size());
+    }
+    [[nodiscard]] WorkRecord recordN(std::int32_t n) const override;
 
     [[nodiscard]] std::string_view Gph_kind() const override { return "GphTrack"; }
     [[nodiscard]] std::int32_t Gph_count() const override;

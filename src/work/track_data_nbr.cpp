@@ -57,6 +57,16 @@ Color TrackDataNBR::color(const MapStyle& style) const {
     return flow_ == 0 ? style.colors.noDraw : style.colors.draw;
 }
 
+WorkRecord TrackDataNBR::workRecord(LonLat position) const {
+    WorkRecord record;
+    record.position = position;
+    record.swath = swath_;
+    record.speed = speed_;
+    record.worked = flow_ > 0;
+    record.applied[0] = litrosH();
+    return record;
+}
+
 double TrackDataNBR::scaledValue(const MapStyle& style) const {
     return style.by == GraduatedBy::Hectare ? litrosH() : flow_;
 }

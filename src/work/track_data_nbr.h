@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "model/track_data.h"
+#include "model/work_record.h"
 
 namespace campora {
 
@@ -38,6 +39,8 @@ public:
 
     /// What the scale colours: litres per hectare or per minute.
     [[nodiscard]] double scaledValue(const MapStyle& style) const;
+    /// The record in the form of all logs; `position`: of its point, degrees.
+    [[nodiscard]] WorkRecord workRecord(LonLat position) const;
 
     /// Flow in litres per minute.
     [[nodiscard]] float caudal() const override { return flow_; }

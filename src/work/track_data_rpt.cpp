@@ -118,6 +118,28 @@ float TrackDataRPT::dosisTotal() const {
     return total(getDosis());
 }
 
+WorkRecord TrackDataRPT::workRecord(LonLat position) const {
+    constexpr std::int64_t kSecondsPerDay = 86400;
+    WorkRecord record;
+    record.position = position;
+    record.swath = swath_;
+    record.speed = speed_;
+    record.second = time().secondOfDay();
+    record.clock = RecordClock::TimeOfDay;
+    if (hasDate_) {
+        record.second += dayNumber(fecha()) * kSecondsPerDay;
+        record.clock = RecordClock::DateAndTime;
+    }
+    record.worked = caudal() > 0;
+    record.channels = channels_;
+    record.alarms = alarms_;
+    for (std::size_t channel = 0; channel < channels_; ++channel) {
+        record.applied[channel] = static_cast<float>(real_[channel]);
+        record.specified[channel] = static_cast<float>(spec_[channel]);
+    }
+    return record;
+}
+
 float TrackDataRPT::caudal() const {
     return total(getCaudal());
 }

@@ -10,6 +10,7 @@
 
 #include "base/dates.h"
 #include "model/track_data.h"
+#include "model/work_record.h"
 #include "work/work_kind.h"
 
 namespace campora {
@@ -76,6 +77,8 @@ public:
     [[nodiscard]] float getError(int channel) const;
     /// The dose that the scale colours: that of the selected channel, 0 without it, or the total.
     [[nodiscard]] double scaledValue(const MapStyle& style) const;
+    /// The record in the form of all logs; `position`: of its point, degrees.
+    [[nodiscard]] WorkRecord workRecord(LonLat position) const;
     [[nodiscard]] bool onAlarm(const MapStyle& style) const;
 
     /// Sum of the real doses; for one channel the same as `getCaudal()[0]`.
