@@ -176,6 +176,11 @@ void MapDisplay::showFlowStops() {
 }
 
 LegendContent MapDisplay::legend() const {
+    File* const current = map_.files().currentFile();
+    const bool hasOwn = current != nullptr && current->File_escalaColores() != nullptr;
+    if (const ModeLayer* const mode = map_.modeLayer(); mode != nullptr && !hasOwn) {
+        return mode->legend(map_.desk());
+    }
     return map_.scales().legend(map_.ranges(), map_.history().lastKind, map_.desk());
 }
 

@@ -120,9 +120,42 @@ bool OpenMap::takeWork(std::string_view path, const FileFormat& format, bool inP
     return true;
 }
 
+void OpenMap::refreshColorScale() {
+    remakeModeLayer();
+    scales_.refresh();
+}
+
+bool OpenMap::showModeLayer(ColorMode mode, MakeModeLayer make) {
+    std::unique_ptr<ModeLayer> layer = make(*this);
+    if (layer == nullptr) {
+        return false;
+    }
+    makeModeLayer_ = std::move(make);
+    modeLayer_ = std::move(layer);
+    layeredMode_ = mode;
+    style_.mode = mode;
+    scales_.refresh();
+    return true;
+}
+
+const ModeLayer* OpenMap::modeLayer() const {
+    return style_.mode == layeredMode_ ? modeLayer_.get() : nullptr;
+}
+
+void OpenMap::remakeModeLayer() {
+    if (style_.mode != layeredMode_ || !makeModeLayer_) {
+        modeLayer_.reset();
+        return;
+    }
+    modeLayer_ = files_.empty() ? nullptr : makeModeLayer_(*this);
+    if (modeLayer_ == nullptr) {
+        style_.mode = ColorMode::Dose;
+    }
+}
+
 void OpenMap::filesChanged() {
     ranges_ = rangesOf(files_.all());
-    scales_.refresh();
+    refreshColorScale();
     if (style_.mode == ColorMode::Error) {
         recalcErrorAreas();
     }
@@ -176,6 +209,7 @@ void OpenMap::removeFile(const File* file) {
     if (wasCurrent) {
         files_.setCurrentFile(&files_.file(std::min(*index, files_.loadedCount() - 1)));
     }
+    remakeModeLayer();
     if (hadWork) {
         scales_.refresh();  // the classes are those of the work that is left
     }
@@ -183,6 +217,7 @@ void OpenMap::removeFile(const File* file) {
 
 void OpenMap::reset() {
     files_.clearFiles();
+    remakeModeLayer();
     ranges_ = {};
     history_.hasFlowStops.reset();
     if (onReset) {

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "app/loaded_file_list.h"
+#include "app/mode_layer.h"
 #include "app/work_scales.h"
 #include "base/files_in_use.h"
 #include "model/bounding_box.h"
@@ -86,8 +87,18 @@ public:
     [[nodiscard]] MapStyle& style() { return style_; }
     [[nodiscard]] const MapStyle& style() const { return style_; }
     [[nodiscard]] WorkScales& scales() { return scales_; }
-    /// The scales anew for the style as it is.
-    void refreshColorScale() { scales_.refresh(); }
+    /// The scales anew for the style as it is, and what a mode draws in place of the work.
+    void refreshColorScale();
+
+    /// Makes the layer of a mode from what is open; null when there is nothing that it could show.
+    using MakeModeLayer = std::function<std::unique_ptr<ModeLayer>(const OpenMap& map)>;
+    /// From now on the map is in that mode and shows such a layer, made anew whenever the work
+    /// changes. False, and nothing else is done, when there is nothing to show. The mode ends with
+    /// the last thing that it could show, or when the style takes another one.
+    [[nodiscard]] bool showModeLayer(ColorMode mode, MakeModeLayer make);
+    /// What is drawn in place of the work; null for nothing.
+    [[nodiscard]] const ModeLayer* modeLayer() const;
+
     /// Brings the hectares in error of every file up to date with the error map.
     void recalcErrorAreas();
 
@@ -130,6 +141,7 @@ private:
                                 const Desk& desk);
     /// What follows from the files.
     void filesChanged();
+    void remakeModeLayer();
 
     Desk desk_;
     std::string programFolder_;
@@ -141,6 +153,10 @@ private:
     WorkHistory history_;
     std::vector<std::string> sources_;
     std::optional<PutAway> putAway_;
+    MakeModeLayer makeModeLayer_;
+    /// Of the mode that it was made for.
+    std::unique_ptr<ModeLayer> modeLayer_;
+    ColorMode layeredMode_ = ColorMode::Dose;
 };
 
 /// Lets a dose channel, from 0, colour the work; prescriptions show it. -1 is the total. Files that

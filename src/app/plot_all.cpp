@@ -10,6 +10,7 @@
 
 #include "app/map/draw_layers.h"
 #include "app/map/place_marks.h"
+#include "model/work_layer.h"
 
 namespace campora {
 
@@ -24,6 +25,15 @@ std::vector<const Gph*> layersFromBelow(const OpenMap& map, const File* without)
             const std::vector<Gph*> layers = file->File_gphList();
             all.insert(all.end(), layers.begin(), layers.end());
         }
+    }
+    if (const ModeLayer* const mode = map.modeLayer()) {
+        // Where the lowest of the work lies: grids under it stay there, lots over it too.
+        const auto isWork = [](const Gph* layer) {
+            return dynamic_cast<const WorkLayer*>(layer) != nullptr;
+        };
+        const auto place = std::find_if(all.begin(), all.end(), isWork) - all.begin();
+        std::erase_if(all, isWork);
+        all.insert(all.begin() + place, &mode->layer());
     }
     return all;
 }

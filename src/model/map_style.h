@@ -27,7 +27,9 @@ struct MapColors {
     bool operator==(const MapColors&) const = default;
 };
 
-enum class ColorMode { Dose, Alarm, Date, Error };
+/// What the colours of work mean. In the last two a layer of their own is drawn in its place:
+/// ground covered once or again, what was applied against what was prescribed.
+enum class ColorMode { Dose, Alarm, Date, Error, Coverage, Deviation };
 enum class GraduatedBy { Hectare, Minute };
 
 /// Everything that decides how layers look. Menus and options change it, records and layers read

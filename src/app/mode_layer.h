@@ -1,0 +1,22 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "model/gph.h"
+#include "platform/desk.h"
+#include "platform/main_window_controls.h"
+
+namespace campora {
+
+/// What a mode of the map draws in place of the recorded work: something that was computed from
+/// it. It refers to nothing that the open files own.
+class ModeLayer {
+public:
+    virtual ~ModeLayer() = default;
+
+    [[nodiscard]] virtual const Gph& layer() const = 0;
+    [[nodiscard]] virtual LegendContent legend(const Desk& desk) const = 0;
+};
+
+}  // namespace campora
