@@ -192,6 +192,9 @@ void MapTools::cancelDrag() {
 void MapTools::showOverlay() {
     MapOverlay overlay;
     if (!map_.files().empty()) {
+        for (const OverlaySource& source : sources_) {
+            source(overlay);
+        }
         if (layer_ != nullptr) {
             layer_->addShapes(overlay);
         }

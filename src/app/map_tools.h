@@ -7,6 +7,8 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <utility>
+#include <vector>
 
 #include "app/map_display.h"
 #include "app/map_tool.h"
@@ -34,6 +36,12 @@ public:
     /// Asked first at each press, with every tool, and told of clicks that nothing else is meant
     /// by; null: nobody. It outlives the tools or is taken away before.
     void layOver(LayeredTool* layer);
+
+    /// Appends what someone else shows over the map, in canvas units.
+    using OverlaySource = std::function<void(MapOverlay& overlay)>;
+    /// Asked whenever the overlay is put together, for as long as the tools live; what it adds lies
+    /// below the shapes of the tools. Whoever has something else to show calls `showOverlay`.
+    void addOverlay(OverlaySource source) { sources_.push_back(std::move(source)); }
 
     [[nodiscard]] ToolId tool() const { return tool_; }
     /// Takes up a tool in place of another. Tools other than Pan need an open file.
@@ -83,6 +91,7 @@ private:
     MapDisplay& display_;
     std::map<ToolId, std::unique_ptr<MapTool>> tools_;
     LayeredTool* layer_ = nullptr;
+    std::vector<OverlaySource> sources_;
 
     ToolId tool_ = ToolId::Pan;
     /// The tool that the pressed button works with; null for none.

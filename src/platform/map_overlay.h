@@ -34,6 +34,13 @@ struct MarkFrame {
     bool operator==(const MarkFrame&) const = default;
 };
 
+/// A stretch that is picked out, visible on every colour.
+struct HaloLine {
+    std::vector<CanvasPoint> points;
+
+    bool operator==(const HaloLine&) const = default;
+};
+
 /// A closed ring whose vertices can be moved.
 struct HandledRing {
     std::vector<CanvasPoint> vertices;
@@ -57,7 +64,7 @@ struct TextPlate {
 };
 
 /// Something that lies over the map without being drawn on it. Canvas units.
-using MapShape = std::variant<HandledRing, DashedBox, ThinLine, MarkFrame, TextPlate>;
+using MapShape = std::variant<HandledRing, DashedBox, ThinLine, MarkFrame, TextPlate, HaloLine>;
 
 /// The lowest comes first. A text plate lies above everything; there is one at most.
 using MapOverlay = std::vector<MapShape>;

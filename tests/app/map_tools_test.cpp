@@ -190,7 +190,10 @@ TEST(MapTools, TheRulerMeasuresAndStaysOnTheMap) {
     EXPECT_EQ(d.window.toolText, "Dist:5000 m");
     d.tools.move({301, 401});
     EXPECT_EQ(d.window.toolText, "Dist:4256,78 m");
-    EXPECT_EQ(d.window.laid<ThinLine>(), (ThinLine{{0, 100}, {301, 401}}));
+    const HaloLine halo{{{1, 2}, {3, 4}}};
+    d.tools.addOverlay([&halo](MapOverlay& overlay) { overlay.emplace_back(halo); });
+    d.tools.showOverlay();
+    EXPECT_EQ(d.window.overlay, (MapOverlay{halo, ThinLine{{0, 100}, {301, 401}}}));
     d.canvas.forget();
     d.tools.release(Button::Left, {301, 401});
     EXPECT_EQ(d.window.laid<ThinLine>(), std::nullopt);

@@ -3,6 +3,7 @@
 
 #include "desktop/widgets/overlay_painter.h"
 
+#include <utility>
 #include <variant>
 
 #include <QPainter>
@@ -20,6 +21,9 @@ constexpr double kMark = 4;
 /// Halves of the marks of a ring's vertices and of the middles of its sides, in pixels.
 constexpr double kVertex = 3;
 constexpr double kHandle = 3.5;
+/// Widths of the two lines of a halo, in pixels.
+constexpr double kHaloEdge = 7;
+constexpr double kHaloCore = 2;
 constexpr QColor kRingEdge(0x3C, 0x4A, 0x50);
 
 QRectF squareAround(QPointF middle, double half) {
@@ -49,6 +53,7 @@ struct ShapePainter {
         painter.drawPoint(middle);
     }
     void operator()(const TextPlate& /*plate*/) const {}
+    void operator()(const HaloLine& halo) const;
 };
 
 void ShapePainter::operator()(const HandledRing& shape) const {
@@ -74,6 +79,23 @@ void ShapePainter::operator()(const HandledRing& shape) const {
     painter.setBrush(Qt::white);
     for (const QPointF& middle : ring) {
         painter.drawRect(squareAround(middle, kVertex));
+    }
+}
+
+void ShapePainter::operator()(const HaloLine& halo) const {
+    painter.setRenderHint(QPainter::Antialiasing);
+    QPolygonF line;
+    for (const CanvasPoint& point : halo.points) {
+        line << widgetPixels(point);
+    }
+    for (const auto& [color, width] :
+         {std::pair(Qt::white, kHaloEdge), std::pair(Qt::black, kHaloCore)}) {
+        painter.setPen(QPen(color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        if (line.size() == 1) {
+            painter.drawPoint(line.front());
+        } else {
+            painter.drawPolyline(line);
+        }
     }
 }
 
