@@ -17,7 +17,7 @@ constexpr TextRow kRows[] = {
 #undef CAMPORA_TEXT
 };
 
-constexpr std::size_t kEndOfIds = 3100;
+constexpr std::size_t kEndOfIds = 3500;
 
 /// One more than the place of each text in `kRows`, by its number; 0 where there is none.
 constexpr auto kPlaces = [] {
