@@ -121,9 +121,12 @@ TEST(TimeSeries, AddsUpWhatWasDoneBetweenTwoRecords) {
         std::int64_t seconds;
     };
     const Row rows[] = {
-        {0, 50, 1, 100, 50},      {50, 100, 1, 200, 50}, {45, 52, 0.14, 18, 7},
-        {7, 7, 0, 0, 0},          {100, 102, 0, 0, 201},  // from one pass to the next, and a step
-                                                          // without dose
+        {0, 50, 1, 100, 50},
+        {50, 100, 1, 200, 50},
+        {45, 52, 0.14, 18, 7},
+        {7, 7, 0, 0, 0},
+        {100, 102, 0, 0, 201},  // from one pass to the next, and a step
+                                // without dose
         {0, 103, 2.02, 306, 309},
     };
     for (const Row& row : rows) {
