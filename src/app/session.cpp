@@ -3,6 +3,9 @@
 
 #include "app/session.h"
 
+#include <algorithm>
+#include <cstdint>
+#include <optional>
 #include <utility>
 
 #include "app/settings.h"
@@ -60,6 +63,19 @@ void Session::setLanguage(Language language) {
     window.setToolText({});
     tools_.hideResult();
     window.commandsChanged();
+}
+
+void Session::playFrom(const WorkPlace& place) {
+    if (const std::optional<std::int32_t> position = replayPosition(map_, place)) {
+        replay_.playFrom(*position);
+    }
+}
+
+void Session::goToRecord(const WorkPlace& place) {
+    if (const std::optional<std::int32_t> position = replayPosition(map_, place)) {
+        // A seek stops behind its target, at the first element that it shows.
+        replay_.jumpTo(std::max(*position - 1, 0));
+    }
 }
 
 void Session::setCoordType(CoordType type) {

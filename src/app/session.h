@@ -20,6 +20,7 @@
 #include "app/open_map.h"
 #include "app/out/export_commands.h"
 #include "app/presc/presc_commands.h"
+#include "app/work_place.h"
 #include "base/texts.h"
 #include "platform/services.h"
 
@@ -41,6 +42,10 @@ public:
     void setLanguage(Language language);
     /// How positions are shown, from now on and at the next start.
     void setCoordType(CoordType type);
+
+    /// Plays from a record on, or puts the replay there: a replay that plays goes on from it.
+    void playFrom(const WorkPlace& place);
+    void goToRecord(const WorkPlace& place);
 
     [[nodiscard]] const Services& services() const { return services_; }
     [[nodiscard]] const Texts& texts() const { return texts_; }

@@ -202,6 +202,11 @@ void MainWindow::connectReplay() {
     connect(replayBar_, &ReplayBar::stopAsked, this, [&replay] { replay.stop(); });
     connect(replayBar_, &ReplayBar::seekAsked, this,
             [&replay](int position) { replay.seek(position); });
+    connect(replayBar_, &ReplayBar::jumpAsked, this,
+            [&replay](int position) { replay.jumpTo(position); });
+    replayBar_->setClockForm([this](const ReplayMoment& moment) {
+        return toQt(replayClockText(moment, services_.locale));
+    });
     connect(replayBar_, &ReplayBar::speedChosen, this,
             [&replay](int speed) { replay.setSpeed(speed); });
 }

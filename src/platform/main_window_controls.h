@@ -98,6 +98,17 @@ struct LegendContent {
     bool operator==(const LegendContent&) const = default;
 };
 
+/// When what is replayed was done; none of it without a clock that can tell.
+struct ReplayMoment {
+    /// Since 30 December 1899, or since midnight for a time without a date.
+    std::optional<std::int64_t> second;
+    bool hasDate = false;
+    /// Seconds since the first record of the file.
+    std::optional<std::int64_t> elapsed;
+
+    bool operator==(const ReplayMoment&) const = default;
+};
+
 struct ReplayState {
     /// Something open can be replayed.
     bool available = false;
@@ -105,8 +116,10 @@ struct ReplayState {
     /// In elements.
     std::int32_t maximum = 0;
     std::int32_t position = 0;
-    /// Position of the speed slider.
+    /// A quarter of the milliseconds between two elements.
     int speed = 0;
+    /// Of the element that was replayed last.
+    ReplayMoment moment = {};
 
     bool operator==(const ReplayState&) const = default;
 };

@@ -52,7 +52,8 @@ Replay::Replay(const OpenMap& map, MapDisplay& display, Clock& clock,
       style_(map.style()),
       texts_(map.desk().texts),
       locale_(map.desk().locale),
-      hideInfo_(std::move(hideInfo)) {}
+      hideInfo_(std::move(hideInfo)),
+      moments_(map) {}
 
 void Replay::prepareReplay() {
     std::int64_t total = 0;
@@ -61,15 +62,15 @@ void Replay::prepareReplay() {
     }
     constexpr std::int64_t kMost = std::numeric_limits<std::int32_t>::max();
     stopReplay();
-    shown_ = {total > 0, false, static_cast<std::int32_t>(std::min(total, kMost)), 0, speed_};
+    moments_.forget();
+    shown_ = {total > 0, false, static_cast<std::int32_t>(std::min(total, kMost)), 0, speed_, {}};
     show();
 }
 
 void Replay::stopReplay() {
     next_.reset();
     state_ = State::Idle;
-    elementSpeed_.reset();
-    showSpeed();
+    forgetElement();
     if (shown_.playing || shown_.position != 0) {
         shown_.playing = false;
         shown_.position = 0;
@@ -107,6 +108,26 @@ void Replay::seek(std::int32_t position) {
     shown_.playing = false;
     shown_.position = std::clamp(position, 0, shown_.maximum);
     start({true, shown_.position});
+}
+
+void Replay::jumpTo(std::int32_t position) {
+    if (state_ == State::Playing) {
+        playFrom(position);
+    } else {
+        seek(position);
+    }
+}
+
+void Replay::playFrom(std::int32_t position) {
+    if (showing_ || !shown_.available) {
+        return;
+    }
+    view_.settle();
+    state_ = State::Idle;  // what runs ends, and what is on the canvas is drawn anew
+    shown_.playing = true;
+    shown_.position = std::clamp(position, 0, shown_.maximum - 1);
+    show();
+    start({false, shown_.position});
 }
 
 void Replay::setSpeed(int value) {
@@ -154,8 +175,7 @@ void Replay::run(const Round& wanted) {
             shown_.playing = next_.has_value();
             const bool toTheEnd = wanted.seek && wanted.position >= shown_.maximum;
             shown_.position = toTheEnd ? shown_.maximum : 0;
-            elementSpeed_.reset();
-            showSpeed();
+            forgetElement();
             show();
             return;
         }
@@ -249,10 +269,17 @@ void Replay::showElement(const Walk& walk, std::int32_t n) {
     const auto* const work = dynamic_cast<const WorkLayer*>(walk.layers[walk.current]);
     elementSpeed_ = work != nullptr ? std::optional(work->speedN(n)) : std::nullopt;
     showSpeed();
+    shown_.moment = work != nullptr ? moments_.at(*work, n) : ReplayMoment{};
     shown_.position =
         static_cast<std::int32_t>(std::min<std::int64_t>(walk.before + n, shown_.maximum));
     show();
     canvas_.refresh();
+}
+
+void Replay::forgetElement() {
+    elementSpeed_.reset();
+    showSpeed();
+    shown_.moment = {};
 }
 
 bool Replay::isCancelled() const {

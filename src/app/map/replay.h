@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "app/map/replay_clock.h"
 #include "app/map_display.h"
 #include "app/map_view.h"
 #include "app/open_map.h"
@@ -33,8 +34,7 @@ class WorkLayer;
 class Replay {
 public:
     enum class State { Idle = 0, Playing = 1, Paused = 2, Seeking = 3 };
-    /// Range of the speed slider and where it starts: a quarter of the milliseconds between two
-    /// elements.
+    /// Range of the speed and where it starts: a quarter of the milliseconds between two elements.
     static constexpr int kLongestPause = 250;
     static constexpr int kUsualPause = 12;
 
@@ -62,6 +62,10 @@ public:
     /// The user moved the slider: draws everything up to there and pauses. Without effect while the
     /// replay plays.
     void seek(std::int32_t position);
+    /// As `seek` for a replay that does not play; one that plays goes on from there.
+    void jumpTo(std::int32_t position);
+    /// Plays from a position on, whatever it does now.
+    void playFrom(std::int32_t position);
     /// The user moved the speed slider; values beyond its range count as its ends.
     void setSpeed(int value);
     void setSpeedShown(bool shown);
@@ -93,6 +97,8 @@ private:
     [[nodiscard]] Outcome drawElements(MapContext& context, Walk& walk, std::int32_t position,
                                        std::int32_t first, bool seeking);
     void showElement(const Walk& walk, std::int32_t n);
+    /// Nothing is replayed: neither speed nor moment.
+    void forgetElement();
     /// What runs is to leave canvas and slider alone.
     [[nodiscard]] bool isCancelled() const;
     [[nodiscard]] bool isInterrupted() const { return state_ == State::Paused || isCancelled(); }
@@ -108,6 +114,7 @@ private:
     const Texts& texts_;
     const UserLocale& locale_;
     std::function<void()> hideInfo_;
+    ReplayClock moments_;
 
     State state_ = State::Idle;
     ReplayState shown_;

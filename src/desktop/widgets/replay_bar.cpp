@@ -3,6 +3,8 @@
 
 #include "desktop/widgets/replay_bar.h"
 
+#include <utility>
+
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -12,12 +14,18 @@
 
 #include "app/map/replay.h"
 #include "desktop/platform/qt_text.h"
+#include "desktop/widgets/jump_slider.h"
 
 namespace campora {
 
 namespace {
 
 constexpr int kFrame = 16;  // milliseconds
+
+/// Where the slider stands for a pause, and the pause for where it stands.
+int shownSpeed(int pause) {
+    return Replay::kLongestPause - pause;
+}
 
 QToolButton* makeButton(const char* name, const char* icon) {
     auto* button = new QToolButton;
@@ -35,18 +43,23 @@ ReplayBar::ReplayBar(QWidget* parent)
     : QWidget(parent),
       play_(makeButton("CmdPlay", "play")),
       stop_(makeButton("CmdStop", "stop")),
-      position_(new QSlider(Qt::Horizontal)),
+      position_(new JumpSlider),
+      clock_(new QLabel),
       speedCaption_(new QLabel),
       speedValue_(new QLabel),
       speedFrame_(new QGroupBox),
       speed_(new QSlider(Qt::Horizontal)) {
     position_->setObjectName("animation");
+    clock_->setObjectName("replayClock");
+    clock_->setTextFormat(Qt::PlainText);
+    clock_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    clock_->setMinimumWidth(fontMetrics().horizontalAdvance("00/00/0000 00:00:00   +00:00:00"));
     speedCaption_->setObjectName("lblVelo");
     speedValue_->setObjectName("velo");
     speedFrame_->setObjectName("ViewSpeed");
     speed_->setObjectName("Speed");
     speed_->setRange(0, Replay::kLongestPause);
-    speed_->setValue(Replay::kUsualPause);
+    speed_->setValue(shownSpeed(Replay::kUsualPause));
     speed_->setFixedWidth(110);
     speedValue_->setMinimumWidth(fontMetrics().horizontalAdvance("000.00 km/h"));
 
@@ -58,6 +71,7 @@ ReplayBar::ReplayBar(QWidget* parent)
     row->addWidget(play_);
     row->addWidget(stop_);
     row->addWidget(position_, 1);
+    row->addWidget(clock_);
     row->addWidget(speedCaption_);
     row->addWidget(speedValue_);
     row->addWidget(speedFrame_);
@@ -67,7 +81,9 @@ ReplayBar::ReplayBar(QWidget* parent)
     connect(play_, &QToolButton::clicked, this, &ReplayBar::playAsked);
     connect(stop_, &QToolButton::clicked, this, &ReplayBar::stopAsked);
     connect(position_, &QSlider::valueChanged, this, &ReplayBar::seekAsked);
-    connect(speed_, &QSlider::valueChanged, this, &ReplayBar::speedChosen);
+    connect(position_, &JumpSlider::jumped, this, &ReplayBar::jumpAsked);
+    connect(speed_, &QSlider::valueChanged, this,
+            [this](int shown) { emit speedChosen(shownSpeed(shown)); });
     setSpeedShown(false);
     enableControls();
 }
@@ -86,7 +102,7 @@ void ReplayBar::setState(const ReplayState& state) {
     }
     play_->setIcon(QIcon(state.playing ? ":/icons/pause.svg" : ":/icons/play.svg"));
     const QSignalBlocker silent(speed_);
-    speed_->setValue(state.speed);
+    speed_->setValue(shownSpeed(state.speed));
     enableControls();
     showPosition();
 }
@@ -98,6 +114,14 @@ void ReplayBar::showPosition() {
     position_->setPageStep(std::max(1, state_.maximum / 20));
     position_->setSingleStep(std::max(1, state_.maximum / 200));
     position_->setValue(state_.position);
+    if (clockForm_) {
+        clock_->setText(clockForm_(state_.moment));
+    }
+}
+
+void ReplayBar::setClockForm(std::function<QString(const ReplayMoment&)> form) {
+    clockForm_ = std::move(form);
+    showPosition();
 }
 
 void ReplayBar::setActive(bool active) {
@@ -131,6 +155,7 @@ void ReplayBar::retranslate(const Texts& texts) {
     const QString position = toQt(texts(TextId::ReplayPosition));
     position_->setToolTip(position);
     position_->setAccessibleName(position);
+    clock_->setToolTip(toQt(texts(TextId::ReplayClockTip)));
     speedFrame_->setTitle(toQt(texts(TextId::SpeedFrame)));
     const QString pause = toQt(texts(TextId::ReplaySpeed));
     speed_->setToolTip(pause);

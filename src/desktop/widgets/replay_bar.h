@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <functional>
+
 #include <QElapsedTimer>
 #include <QTimer>
 #include <QWidget>
@@ -17,7 +19,10 @@ class QToolButton;
 
 namespace campora {
 
-/// The controls of the replay: play, stop, position, speed, and the read-out of the speed.
+class JumpSlider;
+
+/// The controls of the replay: play, stop, position, speed, its clock and the read-out of the
+/// speed.
 class ReplayBar final : public QWidget {
     Q_OBJECT
 
@@ -25,6 +30,8 @@ public:
     explicit ReplayBar(QWidget* parent = nullptr);
 
     void setState(const ReplayState& state);
+    /// How the clock tells a moment.
+    void setClockForm(std::function<QString(const ReplayMoment&)> form);
     /// Whether the controls that there is something for can be used.
     void setActive(bool active);
     /// Empty: nothing is read out.
@@ -37,6 +44,10 @@ signals:
     void stopAsked();
     /// The user moved the position.
     void seekAsked(int position);
+    /// The user clicked beside the position.
+    void jumpAsked(int position);
+    /// A quarter of the milliseconds between two elements: the slider shows less of it farther to
+    /// the right.
     void speedChosen(int speed);
 
 private:
@@ -45,12 +56,14 @@ private:
 
     QToolButton* play_;
     QToolButton* stop_;
-    QSlider* position_;
+    JumpSlider* position_;
+    QLabel* clock_;
     QLabel* speedCaption_;
     QLabel* speedValue_;
     QGroupBox* speedFrame_;
     QSlider* speed_;
     ReplayState state_;
+    std::function<QString(const ReplayMoment&)> clockForm_;
     bool active_ = true;
     /// A fast replay reports far more positions than a screen shows.
     QElapsedTimer sinceShown_;

@@ -4,9 +4,11 @@
 #include "app/map/replay.h"
 
 #include <memory>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
+#include "app/work_place.h"
 #include "support/named_file.h"
 #include "support/recording_canvas.h"
 #include "support/scripted_platform.h"
@@ -195,6 +197,8 @@ TEST(Replay, WhatTheUserDoesMeanwhileActsOnTheReplayThatRuns) {
     const Act stop = [](Replay& r) { r.stop(); };
     const Act redraw = [](Replay& r) { r.stopReplay(); };
     const auto slider = [](std::int32_t to) { return [to](Replay& r) { r.seek(to); }; };
+    const Act jump = [](Replay& r) { r.jumpTo(4); };
+    const Act from = [](Replay& r) { r.playFrom(4); };
     // What happens when "a1" is drawn, what is drawn in all, and where it pauses; 0: it is over.
     const std::tuple<const char*, std::vector<Act>, const char*, std::int32_t> rows[] = {
         {"pause", {play}, "| p a0 a1 ", 1},
@@ -203,6 +207,9 @@ TEST(Replay, WhatTheUserDoesMeanwhileActsOnTheReplayThatRuns) {
         {"the slider", {slider(6)}, "| p a0 a1 a2 b0 b1 b2 b3 b4 ", 0},
         {"stop and play", {stop, play}, "| p a0 a1 | map | p a0 a1 a2 b0 b1 b2 b3 b4 ", 0},
         {"pause and slider", {play, slider(4)}, "| p a0 a1 | p a b0 b1 b2 ", 5},
+        {"a jump", {jump}, "| p a0 a1 | p a b0 b1 b2 b3 b4 ", 0},
+        {"pause and jump", {play, jump}, "| p a0 a1 | p a b0 b1 b2 ", 5},
+        {"pause and play from", {play, from}, "| p a0 a1 | p a b0 b1 b2 b3 b4 ", 0},
     };
     for (const auto& row : rows) {
         const auto& [name, acts, drawn, pausedAt] = row;
@@ -243,11 +250,12 @@ TEST_F(ReplayTest, ASeekGivesWayToANewerOneAndIsFinishedBeforePlaying) {
     EXPECT_EQ(window.replay, at(0));
 }
 
-TEST_F(ReplayTest, ReadsOutTheSpeedOfTheElement) {
+TEST_F(ReplayTest, TellsSpeedAndTimeOfTheElement) {
     auto track = std::make_unique<GphTrack>();
     for (int i = 0; i < 4; ++i) {
         TrackDataRPT::Fields fields = reportFields(100);
         fields.speed = 10.5F + static_cast<float>(i);
+        fields.time = i == 0 ? TimeOfDay{23, 59, 58} : TimeOfDay{0, 0, 2 + i};
         const LonLat at = atMetres(0, 10.0 * i);
         track->addPoint(at.x, at.y, TrackDataRPT(fields));
     }
@@ -261,8 +269,38 @@ TEST_F(ReplayTest, ReadsOutTheSpeedOfTheElement) {
     EXPECT_EQ(window.speed, "");
     replay.seek(0);
     EXPECT_EQ(window.speed, "11,5 km/h");
+    EXPECT_EQ(replayClockText(window.replay.moment, locale), "00:00:03   +0:00:05");
     replay.stop();
     EXPECT_EQ(window.speed, "");
+    EXPECT_EQ(replayClockText(window.replay.moment, locale), "–   –");
+}
+
+TEST_F(ReplayTest, FindsTheRecordsOfAFile) {
+    layers.erase(layers.begin(), layers.end() - 1);  // five steps that are no records
+    LayersFile& second = addFile();
+    for (const int points : {3, 1, 4}) {
+        auto track = std::make_unique<GphTrack>();
+        for (int i = 0; i < points; ++i) {
+            const LonLat at = atMetres(0, 10.0 * i);
+            track->addPoint(at.x, at.y, reportRecord(100));
+        }
+        second.layers.push_back(std::move(track));
+    }
+    // Record, its position, and the record that is replayed there.
+    const std::tuple<std::size_t, std::optional<std::int32_t>, std::size_t> rows[] = {
+        {0, 5, 0}, {1, 6, 1}, {2, 6, 1}, {4, 7, 4}, {6, 9, 6}, {7, 9, 6}, {8, std::nullopt, 0},
+    };
+    for (const auto& [record, position, replayed] : rows) {
+        SCOPED_TRACE(record);
+        EXPECT_EQ(replayPosition(map, {&second, record}), position);
+        const auto place = position ? placeInWork(map, *position) : placeInWork(map, 10);
+        ASSERT_EQ(place.has_value(), position.has_value());
+        if (place) {
+            EXPECT_EQ(place->file, &second);
+            EXPECT_EQ(place->record, replayed);
+        }
+    }
+    EXPECT_EQ(placeInWork(map, 2).has_value(), false);
 }
 
 }  // namespace
