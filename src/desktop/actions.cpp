@@ -108,6 +108,8 @@ ActionSet::ActionSet(const MainWindow& commands, const ActionPlaces& places, Per
             addLine(holder);
         }
         holder.addAction(made);
+        // A menu shows the reasons why entries are grey.
+        holder.setToolTipsVisible(holder.toolTipsVisible() || row.whyNot != nullptr);
     }
     for (const MenuRow& row : kMenus) {
         static_cast<void>(menu(row.id));  // also those that are filled while the program runs
@@ -169,19 +171,28 @@ QMenu& ActionSet::menu(MenuId id) {
     return *made;
 }
 
+QString ActionSet::toolTip(std::size_t index, const Texts& texts) const {
+    const QKeySequence key = actions_[index]->shortcut();
+    const QString tip = toQt(texts(actionRows()[index].tooltip));
+    return key.isEmpty() ? tip : tip + " (" + key.toString(QKeySequence::NativeText) + ")";
+}
+
+void ActionSet::showReason(std::size_t index, std::optional<TextId> reason, const Texts& texts) {
+    QAction& shown = *actions_[index];
+    const QString tip = toolTip(index, texts);
+    const QString why = reason ? toQt(texts(*reason)) : QString();
+    shown.setToolTip(reason ? tip + "\n" + why : tip);
+    shown.setStatusTip(why);
+}
+
 void ActionSet::retranslate(const Texts& texts) {
     for (const MenuRow& row : kMenus) {
         menu(row.id).setTitle(toQt(texts(row.text)));
     }
     const auto rows = actionRows();
     for (std::size_t i = 0; i < actions_.size(); ++i) {
-        QAction& shown = *actions_[i];
-        QString tip = toQt(texts(rows[i].tooltip));
-        if (!shown.shortcut().isEmpty()) {
-            tip += " (" + shown.shortcut().toString(QKeySequence::NativeText) + ")";
-        }
-        shown.setText(toQt(texts(rows[i].text)));
-        shown.setToolTip(tip);
+        actions_[i]->setText(toQt(texts(rows[i].text)));
+        actions_[i]->setToolTip(toolTip(i, texts));
     }
     for (const auto& [button, command] : buttons_) {
         button->setAccessibleName(command->toolTip());
@@ -193,7 +204,12 @@ void ActionSet::showStates(const Texts& texts, const Availability& availability)
     for (std::size_t i = 0; i < actions_.size(); ++i) {
         const ActionRow& row = rows[i];
         const bool possible = row.possible == nullptr || row.possible(commands_);
-        actions_[i]->setEnabled(availability.fulfils(row.needs) && possible);
+        const std::optional<TextId> reason =
+            row.whyNot == nullptr ? std::nullopt : row.whyNot(commands_);
+        actions_[i]->setEnabled(availability.fulfils(row.needs) && possible && !reason);
+        if (row.whyNot != nullptr) {
+            showReason(i, reason, texts);
+        }
         if (row.isOn != nullptr) {
             actions_[i]->setChecked(row.isOn(commands_));
         }

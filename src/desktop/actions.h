@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <span>
 #include <string_view>
 #include <utility>
@@ -81,6 +82,8 @@ struct ActionRow {
     bool (*isOn)(const MainWindow& window) = nullptr;
     /// A further condition; none: always.
     bool (*possible)(const MainWindow& window) = nullptr;
+    /// Why it cannot be used, as its tooltip says while it cannot; none when it can.
+    std::optional<TextId> (*whyNot)(const MainWindow& window) = nullptr;
     /// For commands whose caption follows the work: which text instead of `text`.
     TextId (*caption)(const MainWindow& window) = nullptr;
 };
@@ -141,6 +144,8 @@ public:
 private:
     QAction* makeAction(const ActionRow& row);
     void fillToolBar(QToolBar& bar, std::span<const ToolBarRow> rows);
+    [[nodiscard]] QString toolTip(std::size_t index, const Texts& texts) const;
+    void showReason(std::size_t index, std::optional<TextId> reason, const Texts& texts);
     [[nodiscard]] QAction* action(std::string_view name) const;
 
     const MainWindow& commands_;
