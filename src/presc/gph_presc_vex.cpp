@@ -97,6 +97,12 @@ void GphPrescVex::setCurrentChannel(int channel) {
     current_ = channel;
 }
 
+std::optional<float> GphPrescVex::doseAt(LonLat position, int channel) const {
+    const GphPolygonMulti* const zone =
+        channels_.at(static_cast<std::size_t>(channel))->getPolygonAtPoint(position.x, position.y);
+    return zone == nullptr ? std::nullopt : std::optional(zone->dosis);
+}
+
 ColorScale* GphPrescVex::File_escalaColores() {
     return channels_.empty() ? nullptr : &channel(current_).escalaColor();
 }

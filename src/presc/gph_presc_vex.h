@@ -6,9 +6,11 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "model/dose_source.h"
 #include "model/file.h"
 #include "presc/channel_zones.h"
 #include "presc/gph_presc.h"
@@ -19,7 +21,7 @@ namespace campora {
 
 /// A prescription under work: a layer of zones for each product channel, shown as one file. One
 /// channel is current: its layer is on the map and its scale in the legend. Channels count from 0.
-class GphPrescVex final : public File, public MultiChannel {
+class GphPrescVex final : public File, public MultiChannel, public DoseSource {
 public:
     /// `name`: as the list of files and the title show it; `symbol`: decimal, of its summary.
     explicit GphPrescVex(std::string name = "Prescripción", char symbol = '.')
@@ -47,6 +49,9 @@ public:
     void setCurrentChannel(int channel) override;
     void showTotal() override { current_ = 0; }
     [[nodiscard]] int channelsCnt() const override { return static_cast<int>(channels_.size()); }
+    [[nodiscard]] int doseChannels() const override { return channelsCnt(); }
+    /// The dose that the zone there has now.
+    [[nodiscard]] std::optional<float> doseAt(LonLat position, int channel) const override;
 
     [[nodiscard]] std::string File_name() const override { return name_; }
     [[nodiscard]] std::string File_path() const override { return name_; }

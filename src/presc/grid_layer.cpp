@@ -132,15 +132,16 @@ double GridLayer::cellRise() const {
     return cells_.northward ? height : -height;
 }
 
-std::int32_t GridLayer::Gph_mouseOver(const ViewTransform& /*view*/, const MapStyle& /*style*/,
-                                      LonLat position, std::int32_t /*start*/) const {
+std::int32_t GridLayer::cellAt(LonLat position) const {
+    const double width = cellWidth();
+    const double rise = cellRise();
     const std::vector<double>& xs = cells_.columnX;
-    const auto column = std::partition_point(
-        xs.begin(), xs.end(), [&](double x) { return x + cellWidth() < position.x; });
+    const auto column = std::partition_point(xs.begin(), xs.end(),
+                                             [&](double x) { return x + width < position.x; });
     const std::vector<double>& ys = cells_.rowY;
     const bool northward = cells_.northward;
     const auto row = std::partition_point(ys.begin(), ys.end(), [&](double y) {
-        return northward ? y + cellRise() < position.y : y + cellRise() > position.y;
+        return northward ? y + rise < position.y : y + rise > position.y;
     });
     // The first cell that reaches as far as the position has it, unless it begins beyond it.
     if (column == xs.end() || row == ys.end() || !(*column <= position.x) ||
@@ -149,6 +150,18 @@ std::int32_t GridLayer::Gph_mouseOver(const ViewTransform& /*view*/, const MapSt
     }
     return static_cast<std::int32_t>(row - ys.begin()) * columns() +
            static_cast<std::int32_t>(column - xs.begin());
+}
+
+std::optional<float> GridLayer::doseAt(LonLat position, int channel) const {
+    static_cast<void>(at(channel));
+    const std::int32_t cell = cellAt(position);
+    return cell < 0 ? std::nullopt
+                    : std::optional(static_cast<float>(inUnits(steps(cell, channel))));
+}
+
+std::int32_t GridLayer::Gph_mouseOver(const ViewTransform& /*view*/, const MapStyle& /*style*/,
+                                      LonLat position, std::int32_t /*start*/) const {
+    return cellAt(position);
 }
 
 std::string GridLayer::Gph_getInfo(const InfoContext& context, std::int32_t n) const {

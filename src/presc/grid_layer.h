@@ -6,10 +6,12 @@
 #include <cstddef>
 #include <cstdint>
 #include <deque>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "colour/color_scale.h"
+#include "model/dose_source.h"
 #include "model/exportable.h"
 #include "model/file.h"
 #include "model/still_layer.h"
@@ -39,6 +41,7 @@ struct GridCells {
 class GridLayer : public StillLayer,
                   public File,
                   public MultiChannel,
+                  public DoseSource,
                   public ExportablePolygon,
                   public ExportableData,
                   public ExportablePoint {
@@ -65,6 +68,10 @@ public:
     void setCurrentChannel(int channel) override;
     void showTotal() override;
     [[nodiscard]] int channelsCnt() const override { return cells_.channels; }
+    /// The first cell that holds the position, edges included; -1 for none.
+    [[nodiscard]] std::int32_t cellAt(LonLat position) const;
+    [[nodiscard]] int doseChannels() const override { return cells_.channels; }
+    [[nodiscard]] std::optional<float> doseAt(LonLat position, int channel) const override;
 
     [[nodiscard]] std::int32_t Gph_count() const override { return 1; }
     /// Of the cells' corners, not of the cells.
@@ -73,7 +80,6 @@ public:
     /// colours of the scale. Cells of a pixel or less are points; large ones with a dose have an
     /// outline each.
     void Gph_plot(MapContext& context) const override;
-    /// The first cell that holds the position, edges included.
     [[nodiscard]] std::int32_t Gph_mouseOver(const ViewTransform& view, const MapStyle& style,
                                              LonLat position, std::int32_t start) const override;
     [[nodiscard]] std::string Gph_getInfo(const InfoContext& context,
