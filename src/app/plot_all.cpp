@@ -11,10 +11,17 @@
 #include "app/map/draw_layers.h"
 #include "app/map/place_marks.h"
 #include "model/work_layer.h"
+#include "presc/gph_presc.h"
+#include "presc/grid_layer.h"
 
 namespace campora {
 
 namespace {
+
+bool isPrescribed(const Gph* layer) {
+    return dynamic_cast<const GridLayer*>(layer) != nullptr ||
+           dynamic_cast<const GphPresc*>(layer) != nullptr;
+}
 
 std::vector<const Gph*> layersFromBelow(const OpenMap& map, const File* without) {
     std::vector<File*> files = map.files().all();
@@ -31,9 +38,14 @@ std::vector<const Gph*> layersFromBelow(const OpenMap& map, const File* without)
         const auto isWork = [](const Gph* layer) {
             return dynamic_cast<const WorkLayer*>(layer) != nullptr;
         };
-        const auto place = std::find_if(all.begin(), all.end(), isWork) - all.begin();
-        std::erase_if(all, isWork);
+        auto place = std::find_if(all.begin(), all.end(), isWork) - all.begin();
+        if (map.style().mode == ColorMode::Deviation) {
+            // What was prescribed would hide what is told about it.
+            const auto last = std::find_if(all.rbegin(), all.rend(), isPrescribed);
+            place = std::max(place, all.rend() - last);
+        }
         all.insert(all.begin() + place, &mode->layer());
+        std::erase_if(all, isWork);
     }
     return all;
 }

@@ -8,6 +8,7 @@
 #include "app/colours/color_mode_commands.h"
 #include "app/colours/drawing_commands.h"
 #include "app/colours/legend_commands.h"
+#include "app/findings/compare_commands.h"
 #include "app/loaded_file_list.h"
 #include "app/lots/lot_commands.h"
 #include "app/lots/lot_editor.h"
@@ -59,6 +60,7 @@ public:
     [[nodiscard]] LegendCommands& legendCommands() { return legendCommands_; }
     [[nodiscard]] ColorModeCommands& colorModeCommands() { return colorModeCommands_; }
     [[nodiscard]] DrawingCommands& drawingCommands() { return drawingCommands_; }
+    [[nodiscard]] CompareCommands& compareCommands() { return compareCommands_; }
     [[nodiscard]] PrescCommands& prescCommands() { return prescCommands_; }
     [[nodiscard]] LotEditor& lotEditor() { return lotEditor_; }
     [[nodiscard]] LotCommands& lotCommands() { return lotCommands_; }
@@ -77,6 +79,7 @@ private:
     LegendCommands legendCommands_;
     ColorModeCommands colorModeCommands_;
     DrawingCommands drawingCommands_;
+    CompareCommands compareCommands_;
     PrescCommands prescCommands_;
     LotEditor lotEditor_;
     LotCommands lotCommands_;

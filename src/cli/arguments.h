@@ -30,7 +30,8 @@ enum class Command {
     Lot,
     Merge,
     Orders,
-    Project
+    Project,
+    Compare
 };
 
 struct PixelSize {
@@ -93,6 +94,7 @@ struct Arguments {
     bool yes = false;
 
     bool json = false;
+    bool csv = false;
 
     std::optional<OrderCopy> copy;
     PrescriptionRequest prescription;
@@ -102,6 +104,13 @@ struct Arguments {
     TrackExportOptions trackExport;
     /// The decimal symbol of a report's text table.
     bool comma = false;
+
+    /// The channel of the jobs that is compared, from 0; none: all.
+    std::optional<int> comparedChannel;
+    /// Per cent: the deviation that is allowed.
+    double limit = 10;
+    /// What a picture of deviations compares the jobs with.
+    std::string plan;
 
     /// Of a lot.
     std::vector<LonLat> vertices;

@@ -47,5 +47,7 @@ inline constexpr int kWrongCommandLine = 2;
 [[nodiscard]] int runOrders(const Arguments& arguments, const Console& console);
 /// As `runInfo` for the files that a project lists.
 [[nodiscard]] int runProject(const Arguments& arguments, const Console& console);
+/// What jobs applied beside what a prescription, the first of the files, says.
+[[nodiscard]] int runCompare(const Arguments& arguments, const Console& console);
 
 }  // namespace campora

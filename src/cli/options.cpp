@@ -110,6 +110,7 @@ bool setMode(Arguments& arguments, std::string_view value) {
                               {"alarm", ColorMode::Alarm},
                               {"date", ColorMode::Date},
                               {"error", ColorMode::Error},
+                              {"compare", ColorMode::Deviation},
                               {"plain", ColorMode::Dose}});
 }
 
@@ -122,6 +123,18 @@ bool setChannel(Arguments& arguments, std::string_view value) {
     const int channel = value == "total" ? 0 : parse<int>(value).value_or(-1);
     arguments.style.selectedChannel = channel - 1;
     return channel > 0 || value == "total";
+}
+
+bool setComparedChannel(Arguments& arguments, std::string_view value) {
+    const auto channel = parse<int>(value);
+    arguments.comparedChannel = channel.value_or(0) - 1;
+    return channel && *channel > 0;
+}
+
+bool setLimit(Arguments& arguments, std::string_view value) {
+    const auto limit = parse<double>(replaceAll(value, ",", "."));
+    arguments.limit = limit.value_or(0);
+    return limit && *limit >= 0;
 }
 
 bool setScale(Arguments& arguments, std::string_view value) {
@@ -269,9 +282,22 @@ constexpr Option kOptions[] = {
     {Command::Orders, "--json", "", TextId::CliJson, setJson},
     {Command::Orders, "--copy", "N DEST", TextId::CliCopyOrder, setCopy},
     {Command::Project, "--json", "", TextId::CliJson, setJson},
+    {Command::Compare, "--channel", "N", TextId::CliChannel, setComparedChannel},
+    {Command::Compare, "--limit", "P", TextId::CliLimit, setLimit},
+    {Command::Compare, "--json", "", TextId::CliJson, setJson},
+    {Command::Compare, "--csv", "", TextId::CliDosesCsv,
+     [](Arguments& a, std::string_view) {
+         a.csv = true;
+         return true;
+     }},
     {Command::Render, "-o", "OUT.png|OUT.bmp", TextId::CliOutput, setPicturePath},
     {Command::Render, "--size", "WxH", TextId::CliSize, setSize},
-    {Command::Render, "--mode", "dose|alarm|date|error|plain", TextId::CliMode, setMode},
+    {Command::Render, "--mode", "dose|alarm|date|error|plain|compare", TextId::CliMode, setMode},
+    {Command::Render, "--prescription", "P", TextId::CliPrescription,
+     [](Arguments& a, std::string_view value) {
+         a.plan = value;
+         return !value.empty();
+     }},
     {Command::Render, "--by", "ha|min", TextId::CliBy, setBy},
     {Command::Render, "--channel", "N|total", TextId::CliChannel, setChannel},
     {Command::Render, "--scale", "equal|percentile", TextId::CliScale, setScale},

@@ -34,6 +34,7 @@ constexpr CommandRow kCommands[] = {
     {Command::Merge, "merge", TextId::CliMerge},
     {Command::Orders, "orders", TextId::CliOrders},
     {Command::Project, "project", TextId::CliProject},
+    {Command::Compare, "compare", TextId::CliCompare},
 };
 
 const Option* findOption(Command command, std::string_view name) {
@@ -106,6 +107,9 @@ std::optional<Failure> checkFiles(const Arguments& parsed) {
     if (parsed.files.empty()) {
         return Failure{TextId::CliMissingFile, {}};
     }
+    if (parsed.command == Command::Compare && parsed.files.size() < 2) {
+        return Failure{TextId::CliMissingFile, {}};
+    }
     const bool takesOne = parsed.command == Command::Orders || parsed.command == Command::Project ||
                           parsed.command == Command::ReportToText;
     if (takesOne && parsed.files.size() > 1) {
@@ -133,6 +137,9 @@ std::optional<Failure> checkOptions(const Arguments& parsed) {
     }
     if (parsed.command == Command::Export && parsed.exportFormat == nullptr) {
         return Failure{TextId::CliMissingOption, {"--format"}};
+    }
+    if (parsed.style.mode == ColorMode::Deviation && parsed.plan.empty()) {
+        return Failure{TextId::CliMissingOption, {"--prescription"}};
     }
     if (parsed.output.empty() && needsOutput(parsed.command)) {
         return Failure{TextId::CliMissingOption, {"-o"}};

@@ -1,6 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
+#include "app/findings/compare_commands.h"
 #include "base/file_endings.h"
 #include "base/interruption.h"
 #include "base/paths.h"
@@ -11,6 +12,28 @@
 #include "paint/raster_canvas.h"
 
 namespace campora {
+
+namespace {
+
+/// The prescription of a picture of deviations, into whose mode it puts the map; none, and told,
+/// when there is nothing to compare.
+std::optional<ReadPrescription> comparedWith(const std::string& plan, BatchMap& batch) {
+    std::optional<ReadPrescription> read = readPrescription(plan, batch.desk());
+    if (!read) {
+        return std::nullopt;
+    }
+    const DoseSource* const source = read->prescription.source;
+    const bool isShown = showDeviation(batch.map(), [source](const File& /*job*/) {
+        return OpenPrescription{{}, {}, false, source, nullptr};
+    });
+    if (!isShown) {
+        batch.desk().tell({TextId::CompareNothingWorked, {}});
+        return std::nullopt;
+    }
+    return read;
+}
+
+}  // namespace
 
 int runRender(const Arguments& arguments, const Console& console) {
     const OffscreenApplication application;
@@ -24,6 +47,13 @@ int runRender(const Arguments& arguments, const Console& console) {
     if (const auto refused = map.filesInUse().whyNotTarget(arguments.output)) {
         batch.desk().tell(*refused);
         return exit_status::kRefused;
+    }
+    std::optional<ReadPrescription> plan;
+    if (arguments.style.mode == ColorMode::Deviation) {
+        plan = comparedWith(arguments.plan, batch);
+        if (!plan) {
+            return exit_status::kRefused;
+        }
     }
     WholeMap whole(map, canvas, arguments);
     const PictureForm form =

@@ -33,6 +33,8 @@ int runCommand(const Arguments& arguments, const Console& console) {
         return runMerge(arguments, console);
     case Command::Orders:
         return runOrders(arguments, console);
+    case Command::Compare:
+        return runCompare(arguments, console);
     case Command::Project:
         break;
     }

@@ -59,6 +59,7 @@ public:
     /// `row`: of the summary, -1 for none.
     void openSummaryMenu(int row, QPoint place);
     void goToCoordinate();
+    void compareDoses();
     void setUpPage();
     void printPreview();
     void print();

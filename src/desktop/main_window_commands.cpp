@@ -10,6 +10,7 @@
 
 #include "base/paths.h"
 #include "desktop/dialogs/about_dialog.h"
+#include "desktop/dialogs/compare_dialog.h"
 #include "desktop/dialogs/coord_dialog.h"
 #include "desktop/dialogs/dose_column_dialog.h"
 #include "desktop/dialogs/page_printer.h"
@@ -83,6 +84,10 @@ void MainWindow::goToCoordinate() {
             session_->map().desk().tell({TextId::PositionOffTheMap, {}}, MessageIcon::Information);
         }
     }
+}
+
+void MainWindow::compareDoses() {
+    CompareDialog(session_->compareCommands(), session_->texts(), services_.clipboard, this).exec();
 }
 
 void MainWindow::setUpPage() {

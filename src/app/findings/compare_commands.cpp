@@ -1,0 +1,135 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/findings/compare_commands.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "app/findings/deviation_layer.h"
+#include "base/numbers.h"
+
+namespace campora {
+
+namespace {
+
+std::optional<int> shownChannel(const MapStyle& style) {
+    return style.selectedChannel < 0 ? std::nullopt : std::optional(style.selectedChannel);
+}
+
+}  // namespace
+
+bool showDeviation(OpenMap& map, const PlanOf& planOf) {
+    return map.showModeLayer(ColorMode::Deviation, [planOf](const OpenMap& open) {
+        std::vector<PlannedJob> jobs;
+        std::vector<OpenPrescription> plans;
+        for (const File* file : open.files().all()) {
+            std::vector<const WorkLayer*> work = workLayers(*file);
+            if (!work.empty()) {
+                const DoseSource* const source = plans.emplace_back(planOf(*file)).source;
+                jobs.push_back({std::move(work), source});
+            }
+        }
+        return makeDeviationLayer(jobs, shownChannel(open.style()));
+    });
+}
+
+std::optional<TextId> CompareCommands::whyNot() const {
+    if (!hasJob(map_.files())) {
+        return TextId::WhyNoJob;
+    }
+    return hasPrescription(map_.files()) ? std::nullopt : std::optional(TextId::WhyNoPrescription);
+}
+
+void CompareCommands::toggleMap() {
+    if (isMapOn()) {
+        map_.style().mode = ColorMode::Dose;
+        map_.refreshColorScale();
+    } else if (whyNot() || !showMap()) {
+        return;
+    }
+    display_.showLegend();
+    display_.styleChanged();
+}
+
+bool CompareCommands::showMap() {
+    const bool hadErrors = map_.style().mode == ColorMode::Error;
+    const bool isShown = showDeviation(map_, [this](const File& job) { return planOf(job); });
+    if (hadErrors) {
+        map_.recalcErrorAreas();
+        display_.showSummary();
+    }
+    return isShown;
+}
+
+std::vector<const File*> CompareCommands::jobs() const {
+    std::vector<const File*> jobs;
+    for (const File* file : map_.files().all()) {
+        if (!workLayers(*file).empty()) {
+            jobs.push_back(file);
+        }
+    }
+    return jobs;
+}
+
+std::optional<std::size_t>
+CompareCommands::currentOf(const File& job, const std::vector<PrescriptionMatch>& matches) const {
+    const auto chosen = chosen_.find(job.File_path());
+    if (chosen != chosen_.end()) {
+        const auto match =
+            std::find_if(matches.begin(), matches.end(), [&](const PrescriptionMatch& each) {
+                return each.prescription->key == chosen->second;
+            });
+        if (match != matches.end()) {
+            return static_cast<std::size_t>(match - matches.begin());
+        }
+    }
+    return guessedPrescription(matches);
+}
+
+OpenPrescription CompareCommands::planOf(const File& job) const {
+    std::vector<OpenPrescription> open = openPrescriptions(map_.files());
+    const auto current = currentOf(job, matchPrescriptions(workLayers(job), open));
+    return current ? std::move(open[*current]) : OpenPrescription();
+}
+
+CompareCommands::Choices CompareCommands::choices(const File& job) const {
+    constexpr double kPerCent = 100;
+    const std::vector<OpenPrescription> open = openPrescriptions(map_.files());
+    const auto matches = matchPrescriptions(workLayers(job), open);
+    const std::optional<std::size_t> guessed = guessedPrescription(matches);
+    Choices choices;
+    choices.current = currentOf(job, matches);
+    for (const auto& [prescription, common] : matches) {
+        const TextId text =
+            choices.all.size() == guessed ? TextId::CompareGuessed : TextId::CompareCommon;
+        choices.all.push_back(
+            {prescription->key,
+             map_.desk().texts.format(
+                 text, {prescription->name, numberText(roundHalfEven(common * kPerCent))})});
+    }
+    return choices;
+}
+
+void CompareCommands::choose(const File& job, const std::string& key) {
+    chosen_[job.File_path()] = key;
+    if (isMapOn()) {
+        map_.refreshColorScale();
+        display_.showLegend();
+        display_.styleChanged();
+    }
+}
+
+std::optional<ComparisonTexts> CompareCommands::compare(const File& job) const {
+    const OpenPrescription plan = planOf(job);
+    if (plan.source == nullptr) {
+        return std::nullopt;
+    }
+    const std::vector<const WorkLayer*> work = workLayers(job);
+    const auto channels = channelPairs(work, *plan.source, shownChannel(map_.style()));
+    const File* const jobs[] = {&job};
+    return comparisonTexts(compareDoses(work, *plan.source, channels, kUsualLimit), kUsualLimit,
+                           productUnit(jobs, map_.desk().texts), map_.desk());
+}
+
+}  // namespace campora

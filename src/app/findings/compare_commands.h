@@ -1,0 +1,75 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "app/findings/comparison_texts.h"
+#include "app/findings/open_prescriptions.h"
+#include "app/map_display.h"
+#include "app/open_map.h"
+
+namespace campora {
+
+/// Answers what was prescribed for a job; without a source where nothing was.
+using PlanOf = std::function<OpenPrescription(const File& job)>;
+
+/// Puts the map into the mode of what was applied against what was prescribed. False when there is
+/// no recorded work.
+[[nodiscard]] bool showDeviation(OpenMap& map, const PlanOf& planOf);
+
+/// Per cent: how far the dose of a job may be off where nobody says otherwise.
+inline constexpr double kUsualLimit = 10;
+
+/// What was applied in the open jobs beside what the open prescriptions say. Which prescription is
+/// for which job follows from the ground until the user says otherwise.
+class CompareCommands {
+public:
+    struct Choice {
+        std::string key;
+        /// With how much ground it has in common with the job.
+        std::string caption;
+    };
+    /// The prescriptions for a job.
+    struct Choices {
+        std::vector<Choice> all;
+        /// Of the one that is compared; none when no one fits.
+        std::optional<std::size_t> current;
+    };
+
+    /// Both outlive this.
+    CompareCommands(OpenMap& map, MapDisplay& display) : map_(map), display_(display) {}
+
+    /// Why nothing can be compared; none when it can.
+    [[nodiscard]] std::optional<TextId> whyNot() const;
+    [[nodiscard]] bool isMapOn() const { return map_.style().mode == ColorMode::Deviation; }
+    /// The map of deviations, or back to the doses.
+    void toggleMap();
+
+    /// The open files with recorded work, in the order of the list.
+    [[nodiscard]] std::vector<const File*> jobs() const;
+    [[nodiscard]] Choices choices(const File& job) const;
+    /// From now on that prescription is for the job, on the map too.
+    void choose(const File& job, const std::string& key);
+    /// None where nothing was prescribed for the job. Channel by channel as the map shows them.
+    [[nodiscard]] std::optional<ComparisonTexts> compare(const File& job) const;
+
+private:
+    /// What is compared with a job; without a source when no prescription fits.
+    [[nodiscard]] OpenPrescription planOf(const File& job) const;
+    [[nodiscard]] std::optional<std::size_t>
+    currentOf(const File& job, const std::vector<PrescriptionMatch>& matches) const;
+    [[nodiscard]] bool showMap();
+
+    OpenMap& map_;
+    MapDisplay& display_;
+    /// Keys of prescriptions by paths of jobs.
+    std::map<std::string, std::string> chosen_;
+};
+
+}  // namespace campora

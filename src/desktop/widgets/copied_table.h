@@ -1,0 +1,38 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <span>
+#include <string>
+#include <vector>
+
+#include <QTableWidget>
+
+#include "platform/clipboard.h"
+
+namespace campora {
+
+/// A table that is read: rows are selected as a whole, and Ctrl+C copies those selected, or all,
+/// with their headings, as a spreadsheet takes them.
+class CopiedTable final : public QTableWidget {
+    Q_OBJECT
+
+public:
+    /// `clipboard` outlives it.
+    CopiedTable(Clipboard& clipboard, QWidget* parent);
+
+    /// `figuresFrom`: the first of the columns that stand at the right of their cells.
+    void setContent(const std::vector<std::string>& columns,
+                    std::span<const std::vector<std::string>> rows, int figuresFrom);
+    /// The headings and the rows, tabs between the cells; with `selected`, only selected rows.
+    [[nodiscard]] std::string asText(bool selected) const;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    Clipboard& clipboard_;
+};
+
+}  // namespace campora
