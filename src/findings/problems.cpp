@@ -1,0 +1,202 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "findings/problems.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cmath>
+#include <utility>
+
+#include "findings/dose_mean.h"
+#include "findings/passes.h"
+#include "findings/turns.h"
+#include "findings/usual_work.h"
+#include "model/measures.h"
+
+namespace campora {
+
+namespace {
+
+/// What is wrong with a step: a bit an alarm, and above them a bit a kind.
+using Faults = std::uint64_t;
+
+constexpr int kAlarmBits = 32;
+constexpr int kFaults = kAlarmBits + 6;
+
+constexpr Faults faultOf(ProblemKind kind) {
+    return Faults{1} << (kAlarmBits + static_cast<int>(kind));
+}
+
+/// Looks for the stretches of every kind at once.
+class ProblemFinder {
+public:
+    ProblemFinder(const WorkWay& way, const FindingOptions& options)
+        : way_(way),
+          limit_(static_cast<double>(options.errorLimit) / 100),
+          usual_(usualWork(way)) {}
+
+    [[nodiscard]] Problems find() {
+        const WayRuns runs = leaveOutTurns(way_);
+        found_.turns = runs.turns;
+        for (const WayRun& run : runs.runs) {
+            searchRun(run);
+        }
+        for (const std::size_t last : runs.straightOn) {
+            searchJump(last);
+        }
+        std::stable_sort(
+            found_.rows.begin(), found_.rows.end(),
+            [](const Problem& a, const Problem& b) { return a.firstRecord < b.firstRecord; });
+        return std::move(found_);
+    }
+
+private:
+    /// The steps from the first to the last one that are wrong.
+    struct Stretch {
+        std::size_t first = 0;
+        std::size_t last = 0;
+    };
+
+    void searchRun(const WayRun& run) {
+        for (std::size_t step = run.first; step < run.last; ++step) {
+            const Faults found = faultsOf(step);
+            if ((found & faultOf(ProblemKind::Gap)) != 0) {
+                closeAll(faultOf(ProblemKind::Gap));
+            }
+            for (Faults faults = found; faults != 0; faults &= faults - 1) {
+                extend(std::countr_zero(faults), step);
+            }
+        }
+        closeAll(0);
+    }
+
+    void closeAll(Faults but) {
+        for (Faults faults = open_ & ~but; faults != 0; faults &= faults - 1) {
+            close(std::countr_zero(faults));
+        }
+        open_ &= but;
+    }
+
+    [[nodiscard]] Faults faultsOf(std::size_t step) const {
+        // Nobody knows whether what the record says held on until the next one.
+        if (isGap(step)) {
+            return faultOf(ProblemKind::Gap);
+        }
+        const WayRecord& record = way_.records()[step];
+        Faults faults = record.alarms;
+        if (record.specified > 0) {
+            faults |= !record.dosed                  ? faultOf(ProblemKind::NoDose)
+                      : deviationOf(record) > limit_ ? faultOf(ProblemKind::OffDose)
+                                                     : 0;
+        }
+        faults |= isOddSpeed(record) ? faultOf(ProblemKind::Speed) : 0;
+        faults |= isOtherSwath(record.swath, usual_.swath) ? faultOf(ProblemKind::Swath) : 0;
+        return faults;
+    }
+
+    [[nodiscard]] bool isGap(std::size_t step) const {
+        return way_.metres(step, step + 1) > usual_.farthestStep || lacksTime(step);
+    }
+
+    [[nodiscard]] bool lacksTime(std::size_t step) const {
+        const std::optional<double> seconds = way_.seconds(step, step + 1);
+        return seconds && usual_.longestStep && *seconds > *usual_.longestStep;
+    }
+
+    [[nodiscard]] bool isOddSpeed(const WayRecord& record) const {
+        return record.dosed && record.speed > 0 && usual_.slowest &&
+               (record.speed < *usual_.slowest || record.speed > *usual_.fastest);
+    }
+
+    void extend(int fault, std::size_t step) {
+        constexpr double kJoinSeconds = 3;
+        Stretch& stretch = stretches_[static_cast<std::size_t>(fault)];
+        const Faults bit = Faults{1} << fault;
+        if ((open_ & bit) != 0) {
+            if (way_.assumedSeconds(stretch.last + 1, step) < kJoinSeconds) {
+                stretch.last = step;
+                return;
+            }
+            close(fault);
+        }
+        open_ |= bit;
+        stretch = {step, step};
+    }
+
+    void close(int fault) {
+        const Stretch& stretch = stretches_[static_cast<std::size_t>(fault)];
+        const std::size_t end = stretch.last + 1;
+        if (way_.assumedSeconds(stretch.first, end) < kShortestSeconds &&
+            way_.metres(stretch.first, end) < kShortestMetres) {
+            return;
+        }
+        const bool isAlarm = fault < kAlarmBits;
+        Problem problem = measured(stretch.first, end);
+        problem.kind = isAlarm ? ProblemKind::Alarm : static_cast<ProblemKind>(fault - kAlarmBits);
+        problem.alarm = isAlarm ? fault : -1;
+        problem.lastRecord = problem.kind == ProblemKind::Gap ? end : stretch.last;
+        addGround(problem, stretch);
+        found_.rows.push_back(problem);
+    }
+
+    /// Between two passes that lie on one line.
+    void searchJump(std::size_t last) {
+        if (lacksTime(last)) {
+            Problem problem = measured(last, last + 1);
+            problem.kind = ProblemKind::Gap;
+            problem.lastRecord = last + 1;
+            found_.rows.push_back(problem);
+        }
+    }
+
+    [[nodiscard]] Problem measured(std::size_t first, std::size_t end) const {
+        Problem problem;
+        problem.firstRecord = first;
+        problem.start = way_.time(first);
+        problem.seconds = way_.seconds(first, end);
+        problem.metres = way_.metres(first, end);
+        problem.position = way_.middle(first, end);
+        return problem;
+    }
+
+    void addGround(Problem& problem, const Stretch& stretch) const {
+        double hectares = 0;
+        double lost = 0;
+        DoseMean dose;
+        DoseMean specified;
+        for (std::size_t i = stretch.first; i <= stretch.last; ++i) {
+            const WayRecord& record = way_.records()[i];
+            const double ground = way_.squareMetres(i) / kSquareMetresPerHectare;
+            hectares += ground;
+            dose.add(static_cast<double>(record.dose), ground);
+            if (record.specified > 0 && std::isfinite(record.dose)) {
+                specified.add(static_cast<double>(record.specified), ground);
+                lost += ground * deviationOf(record);
+            }
+        }
+        problem.hectares = hectares;
+        if (problem.kind != ProblemKind::Gap) {
+            problem.dose = dose.mean();
+            problem.specified = specified.mean();
+            problem.lost = problem.specified ? std::optional(lost) : std::nullopt;
+        }
+    }
+
+    const WorkWay& way_;
+    double limit_;
+    UsualWork usual_;
+    Problems found_;
+    std::array<Stretch, kFaults> stretches_{};
+    Faults open_ = 0;
+};
+
+}  // namespace
+
+Problems findProblems(std::span<const WorkLayer* const> layers, const FindingOptions& options) {
+    const WorkWay way(layers, options);
+    return ProblemFinder(way, options).find();
+}
+
+}  // namespace campora
