@@ -31,7 +31,9 @@ enum class Command {
     Merge,
     Orders,
     Project,
-    Compare
+    Compare,
+    Passes,
+    Problems
 };
 
 struct PixelSize {

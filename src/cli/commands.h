@@ -49,5 +49,9 @@ inline constexpr int kWrongCommandLine = 2;
 [[nodiscard]] int runProject(const Arguments& arguments, const Console& console);
 /// What jobs applied beside what a prescription, the first of the files, says.
 [[nodiscard]] int runCompare(const Arguments& arguments, const Console& console);
+/// The passes of the jobs, one a row.
+[[nodiscard]] int runPasses(const Arguments& arguments, const Console& console);
+/// The problems of the jobs, one a row, in order of time.
+[[nodiscard]] int runProblems(const Arguments& arguments, const Console& console);
 
 }  // namespace campora

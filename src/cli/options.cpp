@@ -75,6 +75,11 @@ bool setJson(Arguments& arguments, std::string_view /*value*/) {
     return true;
 }
 
+bool setCsv(Arguments& arguments, std::string_view /*value*/) {
+    arguments.csv = true;
+    return true;
+}
+
 /// First the number of the order, then the folder.
 bool setCopy(Arguments& arguments, std::string_view value) {
     std::optional<OrderCopy>& copy = arguments.copy;
@@ -290,6 +295,11 @@ constexpr Option kOptions[] = {
          a.csv = true;
          return true;
      }},
+    {Command::Passes, "--json", "", TextId::CliJson, setJson},
+    {Command::Passes, "--csv", "", TextId::CliCsv, setCsv},
+    {Command::Problems, "--error-limit", "P", TextId::CliErrorLimit, setErrorLimit},
+    {Command::Problems, "--json", "", TextId::CliJson, setJson},
+    {Command::Problems, "--csv", "", TextId::CliCsv, setCsv},
     {Command::Render, "-o", "OUT.png|OUT.bmp", TextId::CliOutput, setPicturePath},
     {Command::Render, "--size", "WxH", TextId::CliSize, setSize},
     {Command::Render, "--mode", "dose|alarm|date|error|plain|compare", TextId::CliMode, setMode},

@@ -35,6 +35,8 @@ constexpr CommandRow kCommands[] = {
     {Command::Orders, "orders", TextId::CliOrders},
     {Command::Project, "project", TextId::CliProject},
     {Command::Compare, "compare", TextId::CliCompare},
+    {Command::Passes, "passes", TextId::CliPasses},
+    {Command::Problems, "problems", TextId::CliProblems},
 };
 
 const Option* findOption(Command command, std::string_view name) {

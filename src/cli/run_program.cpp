@@ -35,6 +35,10 @@ int runCommand(const Arguments& arguments, const Console& console) {
         return runOrders(arguments, console);
     case Command::Compare:
         return runCompare(arguments, console);
+    case Command::Passes:
+        return runPasses(arguments, console);
+    case Command::Problems:
+        return runProblems(arguments, console);
     case Command::Project:
         break;
     }
