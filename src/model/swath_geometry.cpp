@@ -21,9 +21,10 @@ struct Offset {
     double y = 0;
 };
 
-/// One unit to the left of the direction of travel.
-Offset leftOf(LonLat from, LonLat to) {
-    const double dx = to.x - from.x;
+/// One unit to the left of the direction of travel. `cosine`: how much shorter a degree to the east
+/// counts than one to the north.
+Offset leftOf(LonLat from, LonLat to, double cosine = 1) {
+    const double dx = (to.x - from.x) * cosine;
     const double dy = to.y - from.y;
     const double length = std::sqrt(dx * dx + dy * dy);
     // Differences too small to be squared have no direction.
@@ -77,6 +78,14 @@ SwathCorners swathCorners(std::span<const LonLat> pass, std::size_t i, double wi
     const Offset offset = offsetAt(
         pass.size(), i, [pass](std::size_t step) { return leftOf(pass[step], pass[step + 1]); });
     return cornersAt(pass[i], offset, degreesOf(widthMetres / 2), cosineOfLatitude(pass[i].y));
+}
+
+SwathCorners groundSwathCorners(std::span<const LonLat> pass, std::size_t i, double widthMetres) {
+    const double cosine = cosineOfLatitude(pass[i].y);
+    const Offset offset = offsetAt(pass.size(), i, [pass, cosine](std::size_t step) {
+        return leftOf(pass[step], pass[step + 1], cosine);
+    });
+    return cornersAt(pass[i], offset, degreesOf(widthMetres / 2), cosine);
 }
 
 SwathSides::Corners SwathSides::corners(std::size_t i, double widthMetres) {

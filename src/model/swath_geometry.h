@@ -29,6 +29,12 @@ inline constexpr double kMitreLimit = 1.5;
 [[nodiscard]] SwathCorners swathCorners(std::span<const LonLat> pass, std::size_t i,
                                         double widthMetres);
 
+/// As `swathCorners`, with the directions taken on the ground too: what lies between the corners of
+/// a straight swath is its length times its width in any direction, where what is drawn is up to
+/// 0.5 % smaller at 35 degrees of latitude, and 6 % at 60.
+[[nodiscard]] SwathCorners groundSwathCorners(std::span<const LonLat> pass, std::size_t i,
+                                              double widthMetres);
+
 /// The corners along a pass, point by point: those of `swathCorners`, with directions and cosines
 /// kept from one point for the next.
 class SwathSides {
