@@ -163,7 +163,12 @@ void MapDisplay::showTitle(std::string title) {
 }
 
 std::vector<SummaryRow> MapDisplay::summary() const {
-    return summaryRows(map_.files().currentFile(), map_.desk().texts);
+    std::vector<SummaryRow> rows = summaryRows(map_.files().currentFile(), map_.desk().texts);
+    if (const ModeLayer* const mode = map_.modeLayer()) {
+        const std::vector<SummaryRow> figures = mode->figures(map_.desk());
+        rows.insert(rows.end(), figures.begin(), figures.end());
+    }
+    return rows;
 }
 
 void MapDisplay::showSummary() {

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <vector>
+
 #include "model/gph.h"
 #include "platform/desk.h"
 #include "platform/main_window_controls.h"
@@ -17,6 +19,11 @@ public:
 
     [[nodiscard]] virtual const Gph& layer() const = 0;
     [[nodiscard]] virtual LegendContent legend(const Desk& desk) const = 0;
+    /// What it computed, to be shown under the summary.
+    [[nodiscard]] virtual std::vector<SummaryRow> figures(const Desk& desk) const {
+        static_cast<void>(desk);
+        return {};
+    }
 };
 
 }  // namespace campora

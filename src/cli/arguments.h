@@ -33,7 +33,8 @@ enum class Command {
     Project,
     Compare,
     Passes,
-    Problems
+    Problems,
+    Coverage
 };
 
 struct PixelSize {
@@ -82,6 +83,8 @@ struct PrescriptionRequest {
 struct Arguments {
     Command command = Command::Info;
     std::vector<std::string> files;
+    /// Opened after the files.
+    std::vector<std::string> lots;
 
     Language language = Language::Spanish;
     char decimalSymbol = '.';

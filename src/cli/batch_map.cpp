@@ -71,9 +71,11 @@ bool BatchMap::openFiles() {
     UntilInterrupted progress;
     OpenManner manner;
     manner.progress = &progress;
-    manner.sources = arguments_.files;
-    const std::vector<std::string> taken = map_.openAll(arguments_.files, manner);
-    bool all = taken.size() == arguments_.files.size();
+    std::vector<std::string> paths = arguments_.files;
+    paths.insert(paths.end(), arguments_.lots.begin(), arguments_.lots.end());
+    manner.sources = paths;
+    const std::vector<std::string> taken = map_.openAll(paths, manner);
+    bool all = taken.size() == paths.size();
     for (const File* file : map_.files().all()) {
         desk_.dialogs().note(*file, desk().texts);
         const auto* const zones = dynamic_cast<const GphPresc*>(file);

@@ -53,5 +53,7 @@ inline constexpr int kWrongCommandLine = 2;
 [[nodiscard]] int runPasses(const Arguments& arguments, const Console& console);
 /// The problems of the jobs, one a row, in order of time.
 [[nodiscard]] int runProblems(const Arguments& arguments, const Console& console);
+/// What was covered once, again and not at all, by file and together.
+[[nodiscard]] int runCoverage(const Arguments& arguments, const Console& console);
 
 }  // namespace campora

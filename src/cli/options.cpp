@@ -116,6 +116,7 @@ bool setMode(Arguments& arguments, std::string_view value) {
                               {"date", ColorMode::Date},
                               {"error", ColorMode::Error},
                               {"compare", ColorMode::Deviation},
+                              {"coverage", ColorMode::Coverage},
                               {"plain", ColorMode::Dose}});
 }
 
@@ -300,9 +301,16 @@ constexpr Option kOptions[] = {
     {Command::Problems, "--error-limit", "P", TextId::CliErrorLimit, setErrorLimit},
     {Command::Problems, "--json", "", TextId::CliJson, setJson},
     {Command::Problems, "--csv", "", TextId::CliCsv, setCsv},
+    {Command::Coverage, "--lot", "LOT", TextId::CliCoverageLot,
+     [](Arguments& a, std::string_view value) {
+         a.lots.emplace_back(value);
+         return !value.empty();
+     }},
+    {Command::Coverage, "--json", "", TextId::CliJson, setJson},
     {Command::Render, "-o", "OUT.png|OUT.bmp", TextId::CliOutput, setPicturePath},
     {Command::Render, "--size", "WxH", TextId::CliSize, setSize},
-    {Command::Render, "--mode", "dose|alarm|date|error|plain|compare", TextId::CliMode, setMode},
+    {Command::Render, "--mode", "dose|alarm|date|error|plain|coverage|compare", TextId::CliMode,
+     setMode},
     {Command::Render, "--prescription", "P", TextId::CliPrescription,
      [](Arguments& a, std::string_view value) {
          a.plan = value;

@@ -37,6 +37,7 @@ constexpr CommandRow kCommands[] = {
     {Command::Compare, "compare", TextId::CliCompare},
     {Command::Passes, "passes", TextId::CliPasses},
     {Command::Problems, "problems", TextId::CliProblems},
+    {Command::Coverage, "coverage", TextId::CliCoverage},
 };
 
 const Option* findOption(Command command, std::string_view name) {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "app/findings/compare_commands.h"
+#include "app/findings/map_coverage.h"
 #include "base/file_endings.h"
 #include "base/interruption.h"
 #include "base/paths.h"
@@ -54,6 +55,11 @@ int runRender(const Arguments& arguments, const Console& console) {
         if (!plan) {
             return exit_status::kRefused;
         }
+    }
+    if (arguments.style.mode == ColorMode::Coverage &&
+        !map.showModeLayer(ColorMode::Coverage, makeCoverageMode)) {
+        batch.desk().tell({TextId::NoAppliedWork, {}});
+        return exit_status::kRefused;
     }
     WholeMap whole(map, canvas, arguments);
     const PictureForm form =

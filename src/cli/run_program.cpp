@@ -39,6 +39,8 @@ int runCommand(const Arguments& arguments, const Console& console) {
         return runPasses(arguments, console);
     case Command::Problems:
         return runProblems(arguments, console);
+    case Command::Coverage:
+        return runCoverage(arguments, console);
     case Command::Project:
         break;
     }

@@ -1,0 +1,126 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#include "app/findings/map_coverage.h"
+
+#include <optional>
+#include <utility>
+
+#include "app/findings/coverage_layer.h"
+#include "base/number_forms.h"
+#include "base/text.h"
+#include "lots/gph_lote.h"
+
+namespace campora {
+
+namespace {
+
+constexpr const char* kNoFigure = "–";
+
+class FigureTexts {
+public:
+    explicit FigureTexts(const Desk& desk) : symbol_(1, desk.locale.decimalSymbol()) {}
+
+    [[nodiscard]] std::string hectares(double value) const { return number(value, 2) + " ha"; }
+    /// With its part of `whole`, when that is more than nothing.
+    [[nodiscard]] std::string part(std::optional<double> value, double whole) const {
+        if (!value) {
+            return kNoFigure;
+        }
+        const std::string text = hectares(*value);
+        return whole > 0 ? text + " (" + number(*value / whole * 100, 1) + " %)" : text;
+    }
+
+private:
+    [[nodiscard]] std::string number(double value, int decimals) const {
+        return replaceAll(fixedNumberText(value, decimals), ".", symbol_);
+    }
+
+    std::string symbol_;
+};
+
+class CoverageMode final : public ModeLayer {
+public:
+    CoverageMode(Coverage coverage, std::vector<std::vector<LonLat>> lots)
+        : figures_(coverage.figures), layer_(std::move(coverage.grid), std::move(lots)) {}
+
+    [[nodiscard]] const Gph& layer() const override { return layer_; }
+    [[nodiscard]] LegendContent legend(const Desk& desk) const override {
+        const FigureTexts texts(desk);
+        const auto row = [&](Color color, TextId name, std::optional<double> value) {
+            return LegendRow{color,
+                             std::string(desk.texts(name)).append(": ") + texts.part(value, 0)};
+        };
+        LegendContent legend;
+        legend.unit = desk.texts(TextId::CoverageMap);
+        legend.classes = {row(coverage_colors::kOnce, TextId::CoveredOnce, figures_.once),
+                          row(coverage_colors::kTwice, TextId::CoveredTwice, figures_.twice),
+                          row(coverage_colors::kMore, TextId::CoveredMore, figures_.more),
+                          row(coverage_colors::kSkipped, skippedName(figures_), figures_.skipped)};
+        return legend;
+    }
+    [[nodiscard]] std::vector<SummaryRow> figures(const Desk& desk) const override {
+        std::vector<SummaryRow> rows;
+        for (CoverageRow& row : coverageRows(figures_, desk)) {
+            rows.push_back({std::string(desk.texts(row.name)).append(":"), std::move(row.value)});
+        }
+        return rows;
+    }
+
+    [[nodiscard]] static TextId skippedName(const CoverageFigures& figures) {
+        return figures.skippedIsEstimate ? TextId::SkippedEstimate : TextId::Skipped;
+    }
+
+private:
+    CoverageFigures figures_;
+    CoverageLayer layer_;
+};
+
+}  // namespace
+
+CoverageInput coverageInput(const LoadedFileList& files) {
+    CoverageInput input;
+    for (const File* file : files.all()) {
+        const std::vector<const WorkLayer*> work = workLayers(*file);
+        input.work.insert(input.work.end(), work.begin(), work.end());
+        for (const Gph* layer : file->File_gphList()) {
+            if (const auto* const lot = dynamic_cast<const GphLote*>(layer)) {
+                input.lots.emplace_back(lot->vertices());
+            }
+        }
+    }
+    return input;
+}
+
+std::vector<CoverageRow> coverageRows(const CoverageFigures& figures, const Desk& desk) {
+    const FigureTexts texts(desk);
+    std::vector<CoverageRow> rows{
+        {TextId::GrossArea, texts.hectares(figures.gross)},
+        {TextId::DosedArea, texts.part(figures.dosed, figures.gross)},
+        {TextId::UndosedArea, texts.part(figures.undosed, figures.gross)},
+        {TextId::NetCoverage, texts.part(figures.net, figures.dosed)},
+        {TextId::Overlap, texts.part(figures.overlap, figures.dosed)},
+        {CoverageMode::skippedName(figures),
+         texts.part(figures.skipped,
+                    figures.inside.value_or(figures.net) + figures.skipped.value_or(0))}};
+    if (figures.inside) {
+        rows.push_back({TextId::InsideLot, texts.part(figures.inside, figures.net)});
+        rows.push_back({TextId::OutsideLot, texts.part(figures.outside, figures.net)});
+    }
+    return rows;
+}
+
+std::unique_ptr<ModeLayer> makeCoverageMode(const OpenMap& map) {
+    const CoverageInput input = coverageInput(map.files());
+    Coverage coverage = coverGround(input.work, input.lots);
+    if (coverage.grid.tiles().empty()) {
+        return nullptr;
+    }
+    std::vector<std::vector<LonLat>> lots;
+    for (const LotRing& ring : input.lots) {
+        lots.emplace_back(ring.begin(), ring.end());
+    }
+    return std::make_unique<CoverageMode>(std::move(coverage), std::move(lots));
+}
+
+}  // namespace campora
