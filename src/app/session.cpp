@@ -31,6 +31,7 @@ Session::Session(MapCanvas& canvas, MainWindowControls& window, const Services& 
       colorModeCommands_(map_, display_),
       drawingCommands_(map_, display_, services_.settings),
       compareCommands_(map_, display_),
+      coverageCommands_(map_, display_),
       prescCommands_(map_, display_, tools_, services_.settings),
       lotEditor_(map_, display_, tools_, services_.settings, services_.shell),
       lotCommands_(map_, display_, lotEditor_, services_.settings),

@@ -9,6 +9,7 @@
 #include "app/colours/drawing_commands.h"
 #include "app/colours/legend_commands.h"
 #include "app/findings/compare_commands.h"
+#include "app/findings/coverage_commands.h"
 #include "app/loaded_file_list.h"
 #include "app/lots/lot_commands.h"
 #include "app/lots/lot_editor.h"
@@ -61,6 +62,7 @@ public:
     [[nodiscard]] ColorModeCommands& colorModeCommands() { return colorModeCommands_; }
     [[nodiscard]] DrawingCommands& drawingCommands() { return drawingCommands_; }
     [[nodiscard]] CompareCommands& compareCommands() { return compareCommands_; }
+    [[nodiscard]] CoverageCommands& coverageCommands() { return coverageCommands_; }
     [[nodiscard]] PrescCommands& prescCommands() { return prescCommands_; }
     [[nodiscard]] LotEditor& lotEditor() { return lotEditor_; }
     [[nodiscard]] LotCommands& lotCommands() { return lotCommands_; }
@@ -80,6 +82,7 @@ private:
     ColorModeCommands colorModeCommands_;
     DrawingCommands drawingCommands_;
     CompareCommands compareCommands_;
+    CoverageCommands coverageCommands_;
     PrescCommands prescCommands_;
     LotEditor lotEditor_;
     LotCommands lotCommands_;

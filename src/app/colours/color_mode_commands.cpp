@@ -119,7 +119,6 @@ void ColorModeCommands::toggle(ColorMode mode) {
     }
     if (before == ColorMode::Error && style.mode != ColorMode::Error) {
         map_.recalcErrorAreas();
-        display_.showSummary();
     }
     showNewClasses();
 }
@@ -196,8 +195,8 @@ void ColorModeCommands::showNewClasses() {
     display_.showLegend();
     if (map_.style().mode == ColorMode::Error) {
         map_.recalcErrorAreas();
-        display_.showSummary();
     }
+    display_.showSummary();  // errors, or what a mode computes, stand there
     display_.styleChanged();
 }
 
