@@ -48,6 +48,7 @@ void CompareCommands::toggleMap() {
     } else if (whyNot() || !showMap()) {
         return;
     }
+    display_.showSummary();  // what another mode computed stood there
     display_.showLegend();
     display_.styleChanged();
 }
@@ -57,7 +58,6 @@ bool CompareCommands::showMap() {
     const bool isShown = showDeviation(map_, [this](const File& job) { return planOf(job); });
     if (hadErrors) {
         map_.recalcErrorAreas();
-        display_.showSummary();
     }
     return isShown;
 }
