@@ -83,6 +83,9 @@ constexpr std::array kRows = {
     text(SettingId::Printer, "printer"),
     number(SettingId::PrintResolution, "printResolution", 600, 150, 600),
     text(SettingId::PrintPath, "printPath"),
+    text(SettingId::TankVolume, "tankVolume"),
+    text(SettingId::CheckedProducts, "checkedProducts"),
+    text(SettingId::ProductLimits, "productLimits"),
 };
 
 constexpr bool rowsAreInOrder() {

@@ -54,6 +54,9 @@ enum class SettingId {
     Printer,
     PrintResolution,
     PrintPath,
+    TankVolume,
+    CheckedProducts,
+    ProductLimits,
 };
 
 enum class SettingType { Number, Color, Switch, Text };

@@ -10,6 +10,7 @@
 
 #include "app/out/export_formats.h"
 #include "app/out/track_export.h"
+#include "app/presc/check_page.h"
 #include "base/lon_lat.h"
 #include "base/texts.h"
 #include "model/map_style.h"
@@ -103,6 +104,9 @@ struct Arguments {
 
     std::optional<OrderCopy> copy;
     PrescriptionRequest prescription;
+    /// Reads the prescription back when it has been written, or one that is there.
+    bool check = false;
+    CheckWishes checkWishes;
 
     /// Of an export; not null then.
     const ExportFormat* exportFormat = nullptr;

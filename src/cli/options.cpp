@@ -208,6 +208,22 @@ bool setResolution(Arguments& arguments, std::string_view value) {
     return arguments.prescription.resolution.has_value();
 }
 
+bool setTank(Arguments& arguments, std::string_view value) {
+    arguments.checkWishes.tank = parse<double>(value);
+    return arguments.checkWishes.tank.value_or(0) > 0;
+}
+
+/// Either may be left out.
+bool addDoseLimits(Arguments& arguments, std::string_view value) {
+    const std::size_t comma = std::min(value.find(','), value.size());
+    const std::string_view least = value.substr(0, comma);
+    const std::string_view most = value.substr(std::min(comma + 1, value.size()));
+    const DoseLimits limits{parse<double>(least), parse<double>(most)};
+    arguments.checkWishes.limits.push_back(limits);
+    return comma < value.size() && limits.least.has_value() != least.empty() &&
+           limits.most.has_value() != most.empty();
+}
+
 bool setExportFormat(Arguments& arguments, std::string_view value) {
     arguments.exportFormat = exportFormatOf(value);
     return arguments.exportFormat != nullptr;
@@ -278,6 +294,14 @@ constexpr Option kOptions[] = {
          a.prescription.description = value;
          return true;
      }},
+    {Command::Prescribe, "--check", "", TextId::CliCheck,
+     [](Arguments& a, std::string_view) {
+         a.check = true;
+         return true;
+     }},
+    {Command::Prescribe, "--tank", "V", TextId::CliTank, setTank},
+    {Command::Prescribe, "--dose-limits", "MIN,MAX", TextId::CliDoseLimits, addDoseLimits},
+    {Command::Prescribe, "--json", "", TextId::CliJson, setJson},
     {Command::Lot, "--description", "TEXT", TextId::CliLotDescription,
      [](Arguments& a, std::string_view value) {
          a.description = value;

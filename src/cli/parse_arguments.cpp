@@ -96,10 +96,11 @@ std::optional<Failure> takeWord(Arguments& parsed, const std::string& word) {
 /// What a command lacks, or has too much of.
 std::optional<Failure> checkFiles(const Arguments& parsed) {
     if (parsed.command == Command::Prescribe) {
-        // Its files stand in its options.
-        return parsed.files.empty()
+        // Its files stand in its options, but for one that is there and is only checked.
+        const std::size_t most = parsed.check && parsed.prescription.channels.empty() ? 1 : 0;
+        return parsed.files.size() <= most
                    ? std::nullopt
-                   : std::optional(Failure{TextId::CliUnknownOption, {parsed.files.front()}});
+                   : std::optional(Failure{TextId::CliUnknownOption, {parsed.files[most]}});
     }
     if (parsed.command == Command::Lot) {
         constexpr std::size_t kFewestVertices = 3;
@@ -130,7 +131,8 @@ bool needsOutput(Command command) {
 }
 
 std::optional<Failure> checkOptions(const Arguments& parsed) {
-    const bool prescribes = parsed.command == Command::Prescribe;
+    const bool isThere = parsed.check && !parsed.files.empty();
+    const bool prescribes = parsed.command == Command::Prescribe && !isThere;
     if (prescribes && parsed.prescription.channels.empty()) {
         return Failure{TextId::CliMissingOption, {"--channel"}};
     }
@@ -144,7 +146,7 @@ std::optional<Failure> checkOptions(const Arguments& parsed) {
     if (parsed.style.mode == ColorMode::Deviation && parsed.plan.empty()) {
         return Failure{TextId::CliMissingOption, {"--prescription"}};
     }
-    if (parsed.output.empty() && needsOutput(parsed.command)) {
+    if (parsed.output.empty() && needsOutput(parsed.command) && !isThere) {
         return Failure{TextId::CliMissingOption, {"-o"}};
     }
     if (prescribes && pathEnding(parsed.output) != (isVrt ? kVrtEnding : kPreEnding)) {

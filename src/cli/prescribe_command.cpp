@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
 #include <iterator>
 #include <memory>
@@ -18,8 +19,10 @@
 #include "base/typed_number.h"
 #include "cli/batch_map.h"
 #include "cli/commands.h"
+#include "cli/json_document.h"
 #include "presc/generation.h"
 #include "presc/layer_zones.h"
+#include "presc/load_grid.h"
 
 namespace campora {
 
@@ -104,18 +107,93 @@ std::optional<Failure> whyNotWritten(const Arguments& arguments) {
     return inUse.whyNotTarget(targets);
 }
 
-bool writeGrid(const Arguments& arguments, std::span<const ChannelZones> channels,
-               const Desk& desk) {
+std::optional<GridRule> writeGrid(const Arguments& arguments,
+                                  std::span<const ChannelZones> channels, const Desk& desk) {
     const PrescriptionRequest& request = arguments.prescription;
     if (request.kind == GridKind::Vrt) {
         return generateVRT(arguments.output, *request.resolution,
-                           {request.name, request.description}, channels, desk)
-            .has_value();
+                           {request.name, request.description}, channels, desk);
     }
     const std::string swath = arguments.swath.value_or(std::string(kUsualSwath));
     return generatePRE(arguments.output, roundToInt32(typedNumber(swath).value_or(0)), channels,
-                       desk)
-        .has_value();
+                       desk);
+}
+
+/// What a sum of cells has behind the sixth place is its rounding.
+Json figure(const std::optional<double>& value) {
+    constexpr double kPlaces = 1e6;
+    return value ? Json(std::round(*value * kPlaces) / kPlaces) : Json();
+}
+
+Json sumJson(const std::optional<CellSum>& sum) {
+    return sum ? Json{{"hectares", figure(sum->hectares)}, {"product", figure(sum->product)}}
+               : Json();
+}
+
+Json channelJson(const ChannelCheck& check, const GridLayer& file, int channel,
+                 const CheckWishes& wishes) {
+    Json rounded = Json::array();
+    for (const ChannelCheck::Rounded& dose : check.rounded) {
+        rounded.push_back({{"asked", asDecimal(dose.asked)}, {"written", dose.written}});
+    }
+    return {{"channel", channel + 1},
+            {"all", sumJson(check.all)},
+            {"zones", sumJson(check.zones)},
+            {"fallback", sumJson(check.fallback)},
+            {"negativeCells", check.negative},
+            {"fullCells", check.full},
+            {"cellsBeyondLimits", cellsBeyond(file, channel, limitsOf(wishes, channel))},
+            {"rounded", rounded},
+            {"smallestZoneM2", figure(check.smallestZone)},
+            {"tankLoads", figure(tankLoads(check.all.product, wishes))}};
+}
+
+Json checkJson(const std::string& path, const PrescriptionCheck& check, const GridLayer& file,
+               const CheckWishes& wishes) {
+    Json channels = Json::array();
+    for (int channel = 0; channel < file.channelsCnt(); ++channel) {
+        channels.push_back(
+            channelJson(check.channels[static_cast<std::size_t>(channel)], file, channel, wishes));
+    }
+    return {{"file", path},
+            {"agrees", check.isSameGrid ? Json(check.agrees()) : Json()},
+            {"cells", check.cells},
+            {"differentCells", check.different ? Json(*check.different) : Json()},
+            {"channels", channels}};
+}
+
+void printPage(const CheckPage& page, std::ostream& out) {
+    out << page.verdict << '\n';
+    for (const std::string& warning : page.warnings) {
+        out << warning << '\n';
+    }
+    for (const CheckPage::Figure& figure : page.figures) {
+        out << figure.name << ": " << figure.value << '\n';
+    }
+}
+
+/// What a file is to hold.
+struct Meant {
+    std::span<const ChannelZones> zones;
+    GridRule rule;
+};
+
+/// Reads the file back and prints what it holds, beside what it was to hold when that is known;
+/// false when it does not agree.
+bool checkFile(const Arguments& arguments, const std::string& path, const Meant* meant,
+               const Desk& desk, std::ostream& out) {
+    const std::unique_ptr<GridLayer> file = loadGrid(path, desk, MapColors().back);
+    if (file == nullptr) {
+        return false;
+    }
+    const PrescriptionCheck check =
+        meant == nullptr ? checkGrid(*file) : checkGrid(*file, meant->zones, meant->rule);
+    if (arguments.json) {
+        printJson(checkJson(path, check, *file, arguments.checkWishes), out);
+    } else {
+        printPage(checkPage(&check, file.get(), arguments.checkWishes, desk), out);
+    }
+    return check.agrees();
 }
 
 }  // namespace
@@ -124,6 +202,11 @@ int runPrescribe(const Arguments& arguments, const Console& console) {
     BatchMap batch(arguments, console.boxes);
     const Desk& desk = batch.desk();
     const PrescriptionRequest& request = arguments.prescription;
+    if (!arguments.files.empty()) {
+        return checkFile(arguments, arguments.files.front(), nullptr, desk, console.out)
+                   ? exit_status::kDone
+                   : exit_status::kRefused;
+    }
     if (const std::optional<Failure> refused = whyNotWritten(arguments)) {
         desk.tell(*refused);
         return exit_status::kRefused;
@@ -150,8 +233,14 @@ int runPrescribe(const Arguments& arguments, const Console& console) {
         channels.push_back(zonesOf(*layer));
     }
     GridDialogs dialogs(arguments, console.boxes);
-    const bool written = writeGrid(arguments, channels, desk.with(dialogs));
-    return written ? exit_status::kDone : exit_status::kRefused;
+    const std::optional<GridRule> rule = writeGrid(arguments, channels, desk.with(dialogs));
+    if (!rule) {
+        return exit_status::kRefused;
+    }
+    const Meant meant{channels, *rule};
+    const bool isGood =
+        !arguments.check || checkFile(arguments, arguments.output, &meant, desk, console.out);
+    return isGood ? exit_status::kDone : exit_status::kRefused;
 }
 
 }  // namespace campora

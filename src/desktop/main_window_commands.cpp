@@ -10,6 +10,7 @@
 
 #include "base/paths.h"
 #include "desktop/dialogs/about_dialog.h"
+#include "desktop/dialogs/check_dialog.h"
 #include "desktop/dialogs/compare_dialog.h"
 #include "desktop/dialogs/coord_dialog.h"
 #include "desktop/dialogs/dose_column_dialog.h"
@@ -137,6 +138,9 @@ void MainWindow::toggleFullScreen() {
 void MainWindow::connectMenus() {
     session_->prescCommands().chooseChannels = [this] {
         return DoseColumnDialog(session_->map(), services_, this).choose();
+    };
+    session_->prescCommands().showCheck = [this](std::unique_ptr<PrescriptionCheckup> checkup) {
+        (new CheckDialog(std::move(checkup), session_->texts(), services_.clipboard, this))->show();
     };
     session_->prescCommands().askDose = [this](const ColorScale& scale, float current) {
         return SelectDoseDialog(&scale, current, session_->map().desk(), this).getDosis();

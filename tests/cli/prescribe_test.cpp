@@ -46,6 +46,28 @@ struct Prescribe : BatchRun {
     std::string grid = folder.file("out.pre");
 };
 
+TEST_F(Prescribe, ReadsTheFileBackAndChecksIt) {
+    const std::string make = "prescribe --channel @mapa.shp,DOSIS,3 --swath 10 -o @out.pre ";
+    const Outcome page = run(make + "--check --tank 20 --dose-limits 5,15");
+    EXPECT_EQ(page.status, 0);
+    EXPECT_TRUE(page.out.starts_with("De acuerdo: las 390 celdas")) << page.out;
+    EXPECT_THAT(page.out, HasSubstr("Canal 1: 269 celdas con dosis fuera de los límites"));
+    const json said = json::parse(run(make + "--check --tank 20 --json").out);
+    EXPECT_EQ(said["agrees"], true);
+    const json& channel = said["channels"][0];
+    // 11 by 11 cells of 0.01 ha a zone.
+    EXPECT_NEAR(channel["zones"]["product"].get<double>(), 121 * 0.01 * (10 + 20), 1e-9);
+    EXPECT_NEAR(channel["fallback"]["product"].get<double>(), 148 * 0.01 * 3, 1e-9);
+    EXPECT_NEAR(channel["tankLoads"].get<double>(), (36.3 + 4.44) / 20, 1e-9);
+    EXPECT_EQ(run(make).out, "") << "as without it";
+
+    const Outcome alone = run("prescribe --check @out.pre --language en");
+    EXPECT_EQ(alone.status, 0);
+    EXPECT_TRUE(alone.out.starts_with("Without the maps")) << alone.out;
+    EXPECT_EQ(run("prescribe --check @mapa.dbf").status, 1);
+    EXPECT_EQ(run("prescribe @out.pre").status, 2);
+}
+
 TEST_F(Prescribe, SaysWhatItWroteAndAnswersAsItIsTold) {
     const std::tuple<const char*, int, const char*> rows[] = {
         {"DOSIS --swath 10", 0, "Canal 1: 390 celdas con dosis, 3.9 ha, "},

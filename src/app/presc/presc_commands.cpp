@@ -16,6 +16,7 @@
 #include "base/typed_number.h"
 #include "platform/file_filter.h"
 #include "presc/generation.h"
+#include "presc/load_grid.h"
 
 namespace campora {
 
@@ -71,6 +72,7 @@ void PrescCommands::mnuFilePrescript() {
     for (std::unique_ptr<GphPresc>& channel : channels) {
         made->addChannel(std::move(channel));
     }
+    saved_.reset();
     made->setRule({GridKind::Pre, cellMetres_, {}});
     map_.addFile(std::move(made), true);
     display_.showWhole();
@@ -118,11 +120,58 @@ std::optional<double> PrescCommands::askCellSize(const std::string& target) cons
     return metres;
 }
 
-void PrescCommands::saved(GphPrescVex& prescription, GridRule rule) {
+void PrescCommands::saved(GphPrescVex& prescription, const std::string& path, GridRule rule) {
     cellMetres_ = rule.metres;
+    saved_ = Saved{path, rule};
     prescription.setRule(std::move(rule));
     prescription.dosesSaved();
     display_.showSummary();
+    checkSaved();
+}
+
+const GridLayer* PrescCommands::openGrid() const {
+    const auto* const current = dynamic_cast<const GridLayer*>(map_.files().currentFile());
+    if (current != nullptr) {
+        return current;
+    }
+    for (const File* file : map_.files().all()) {
+        if (const auto* const grid = dynamic_cast<const GridLayer*>(file)) {
+            return grid;
+        }
+    }
+    return nullptr;
+}
+
+std::optional<TextId> PrescCommands::whyNotCheck() const {
+    const bool isSaved = isOpen() && saved_;
+    return isSaved || openGrid() != nullptr ? std::nullopt : std::optional(TextId::WhyNoGrid);
+}
+
+void PrescCommands::check() {
+    const GridLayer* const open = openGrid();
+    if (open == nullptr) {
+        checkSaved();
+        return;
+    }
+    std::unique_ptr<GridLayer> file =
+        loadGrid(open->File_diskPath(), map_.desk(), map_.style().colors.back);
+    PrescriptionCheck check = file == nullptr ? PrescriptionCheck() : checkGrid(*file, *open);
+    if (showCheck) {
+        showCheck(std::make_unique<PrescriptionCheckup>(std::move(file), std::move(check),
+                                                        map_.desk(), settings_));
+    }
+}
+
+void PrescCommands::checkSaved() {
+    const GphPrescVex* const open = prescription();
+    if (open == nullptr || !saved_ || !showCheck) {
+        return;
+    }
+    std::unique_ptr<GridLayer> file = loadGrid(saved_->path, map_.desk(), map_.style().colors.back);
+    PrescriptionCheck check =
+        file == nullptr ? PrescriptionCheck() : checkGrid(*file, open->zones(), saved_->rule);
+    showCheck(std::make_unique<PrescriptionCheckup>(std::move(file), std::move(check), map_.desk(),
+                                                    settings_));
 }
 
 void PrescCommands::mnuFileSavePrescript() {
@@ -136,7 +185,7 @@ void PrescCommands::mnuFileSavePrescript() {
     }
     if (const std::optional<double> metres = askCellSize(path)) {
         if (auto rule = generatePRE(path, roundToInt32(*metres), open->zones(), map_.desk())) {
-            saved(*open, std::move(*rule));
+            saved(*open, path, std::move(*rule));
         }
     }
 }
@@ -163,7 +212,7 @@ void PrescCommands::saveVrt() {
     }
     if (auto rule = generateVRT(path, static_cast<float>(*metres), {*name, *description},
                                 open->zones(), map_.desk())) {
-        saved(*open, std::move(*rule));
+        saved(*open, path, std::move(*rule));
     }
 }
 

@@ -100,6 +100,36 @@ TEST_F(PrescCommandsTest, ChangedDosesAreNotLostUnasked) {
     EXPECT_FALSE(commands.isOpen()) << "saved: nothing to ask";
 }
 
+TEST_F(PrescCommandsTest, WhatWasSavedIsReadBackAndJudged) {
+    std::vector<std::unique_ptr<PrescriptionCheckup>> shown;
+    commands.showCheck = [&](auto checkup) { shown.push_back(std::move(checkup)); };
+    create({{"10", "20"}});
+    EXPECT_EQ(commands.whyNotCheck(), TextId::WhyNoGrid);
+    const std::string path = folder.file("zonas.pre");
+    dialogs.saveAnswers = {{path, 0}};
+    dialogs.inputAnswers = {"100", "0"};
+    commands.mnuFileSavePrescript();
+    ASSERT_EQ(shown.size(), 1U);
+    EXPECT_EQ(shown[0]->page().agrees, std::optional(true));
+    shown[0]->setTank("100");
+    shown[0]->setProduct(0, "Urea");
+    shown[0]->setLimits(0, "", "15,5");
+    EXPECT_NE(shown[0]->page().warnings.at(0).find("(de – a 15.5)"), std::string::npos);
+
+    // Other doses than those of the file, by the settings that were kept.
+    answer = 30.0F;
+    clickOn(0);
+    commands.check();
+    EXPECT_EQ(shown.at(1)->page().agrees, std::optional(false));
+    EXPECT_EQ(shown[1]->tank() + shown[1]->product(0) + shown[1]->most(0), "100Urea15,5");
+
+    commands.prescription()->dosesSaved();
+    commands.mnuFilePrescript();
+    ASSERT_TRUE(open({path}));
+    commands.check();
+    EXPECT_EQ(shown.at(2)->page().agrees, std::optional(true)) << "the open grid is the file's";
+}
+
 TEST_F(PrescCommandsTest, TheDoseToolChangesAZoneOfTheCurrentChannel) {
     create({{"10", "20"}, {"5", "6"}});
     commands.prescription()->setCurrentChannel(1);
