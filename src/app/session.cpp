@@ -48,6 +48,7 @@ void Session::start() {
     readStyleSettings(services_.settings, map_.style());
     tools_.setCoordType(
         static_cast<CoordType>(readNumber(services_.settings, SettingId::CoordType)));
+    legendCommands_.restoreRamp();
     map_.readRegistrations();
     map_.reset();
 }

@@ -13,6 +13,7 @@
 #include "base/encoding.h"
 #include "base/numbers.h"
 #include "base/text.h"
+#include "base/typed_number.h"
 
 namespace campora {
 
@@ -86,6 +87,9 @@ constexpr std::array kRows = {
     text(SettingId::TankVolume, "tankVolume"),
     text(SettingId::CheckedProducts, "checkedProducts"),
     text(SettingId::ProductLimits, "productLimits"),
+    text(SettingId::TargetDose, "targetDose"),
+    // Of the ready ramps; 0: that of new scales.
+    number(SettingId::ScaleRamp, "scaleRamp", 0, 0, 63),
 };
 
 constexpr bool rowsAreInOrder() {
@@ -188,6 +192,8 @@ void readStyleSettings(const SettingsStore& settings, MapStyle& style) {
     style.drawDotted = readSwitch(settings, SettingId::DrawDotted);
     style.drawBorders = readSwitch(settings, SettingId::DrawBorders);
     style.spreadClasses = readSwitch(settings, SettingId::SpreadClasses);
+    const std::optional<double> target = typedNumber(readText(settings, SettingId::TargetDose));
+    style.targetDose = target.value_or(0) > 0 ? target : std::nullopt;
 }
 
 Language languageOfCode(std::int32_t code, std::int32_t systemCode) {

@@ -57,6 +57,8 @@ enum class SettingId {
     TankVolume,
     CheckedProducts,
     ProductLimits,
+    TargetDose,
+    ScaleRamp,
 };
 
 enum class SettingType { Number, Color, Switch, Text };

@@ -112,6 +112,10 @@ void WorkScales::addSpreading(LegendContent& legend, const ColorScale& scale, co
     }
     legend.canSpread = true;
     legend.spread = style_.spreadClasses;
+    legend.aroundTarget = style_.targetDose.has_value();
+    if (legend.aroundTarget) {
+        return;
+    }
     if (style_.spreadClasses || scale.count() < 2) {
         return;
     }
@@ -143,6 +147,12 @@ bool WorkScales::setUp() {
         }
     }
     return true;
+}
+
+void WorkScales::useRamp(Color start, std::optional<Color> middle, Color end) {
+    for (ColorScale* const scale : {&litres_, &units_}) {
+        scale->degrade(start, middle, end, false);
+    }
 }
 
 void WorkScales::setContent(Content content) {

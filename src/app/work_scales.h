@@ -55,6 +55,8 @@ public:
     };
     [[nodiscard]] Content content() const { return {litres_.content(), units_.content()}; }
     void setContent(Content content);
+    /// Both scales in one ramp, from now on; tells nobody.
+    void useRamp(Color start, std::optional<Color> middle, Color end);
 
 private:
     /// How the worked area lies in the classes of a scale.

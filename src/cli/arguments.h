@@ -127,6 +127,9 @@ struct Arguments {
 
     std::string output;
     PixelSize size{1200, 900};
+    /// Whether the classes lie around the target dose, and that dose.
+    bool aroundTarget = false;
+    std::optional<double> target;
     /// What the options say about the looks of the map.
     MapStyle style;
     bool overlay = true;

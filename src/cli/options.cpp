@@ -144,8 +144,14 @@ bool setLimit(Arguments& arguments, std::string_view value) {
 }
 
 bool setScale(Arguments& arguments, std::string_view value) {
+    arguments.aroundTarget = value == "target";
     return choose<bool>(arguments.style.spreadClasses, value,
-                        {{"equal", false}, {"percentile", true}});
+                        {{"equal", false}, {"percentile", true}, {"target", false}});
+}
+
+bool setTarget(Arguments& arguments, std::string_view value) {
+    arguments.target = parse<double>(replaceAll(value, ",", "."));
+    return arguments.target.value_or(0) > 0;
 }
 
 bool setErrorLimit(Arguments& arguments, std::string_view value) {
@@ -342,7 +348,8 @@ constexpr Option kOptions[] = {
      }},
     {Command::Render, "--by", "ha|min", TextId::CliBy, setBy},
     {Command::Render, "--channel", "N|total", TextId::CliChannel, setChannel},
-    {Command::Render, "--scale", "equal|percentile", TextId::CliScale, setScale},
+    {Command::Render, "--scale", "equal|percentile|target", TextId::CliScale, setScale},
+    {Command::Render, "--target", "DOSE", TextId::CliTarget, setTarget},
     {Command::Render, "--error-limit", "P", TextId::CliErrorLimit, setErrorLimit},
     {Command::Render, "--only-worked", "", TextId::CliOnlyWorked,
      [](Arguments& a, std::string_view) {

@@ -143,6 +143,9 @@ std::optional<Failure> checkOptions(const Arguments& parsed) {
     if (parsed.command == Command::Export && parsed.exportFormat == nullptr) {
         return Failure{TextId::CliMissingOption, {"--format"}};
     }
+    if (parsed.aroundTarget && !parsed.target) {
+        return Failure{TextId::CliMissingOption, {"--target"}};
+    }
     if (parsed.style.mode == ColorMode::Deviation && parsed.plan.empty()) {
         return Failure{TextId::CliMissingOption, {"--prescription"}};
     }

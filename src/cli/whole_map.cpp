@@ -25,6 +25,7 @@ WholeMap::WholeMap(OpenMap& map, MapCanvas& canvas, const Arguments& arguments)
     MapStyle style = arguments.style;
     style.scale = map.style().scale;
     style.unitScale = map.style().unitScale;
+    style.targetDose = arguments.aroundTarget ? arguments.target : std::nullopt;
     map.style() = style;
     if (style.selectedChannel >= 0) {
         selectChannel(map, style.selectedChannel);

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 
 #include "base/color.h"
 #include "colour/color_scale.h"
@@ -61,6 +62,8 @@ struct MapStyle {
     /// Classes of dose between the 1st and the 99th percentile of the worked area instead of
     /// between the extremes.
     bool spreadClasses = false;
+    /// The dose around which the classes of dose lie instead; none: no such dose.
+    std::optional<double> targetDose = std::nullopt;
 
     /// Whether the legend shows a scale beside the map, whose colours records then take.
     [[nodiscard]] bool scaleShown() const {

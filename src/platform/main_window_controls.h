@@ -90,6 +90,8 @@ struct LegendContent {
     /// Whether the classes can be spread over most of the worked area, and whether they are.
     bool canSpread = false;
     bool spread = false;
+    /// Whether they lie around a dose that was prescribed.
+    bool aroundTarget = false;
     /// A remark on the classes; empty for none.
     std::string remark = {};
     /// Caption of a button under the remark that spreads the classes; empty for none.

@@ -79,6 +79,28 @@ std::string_view doseUnit(std::span<File* const> files) {
     return tracks > 0 && inUnits == tracks ? kUnitsPerHectare : kLitresPerHectare;
 }
 
+/// A class for ground without a dose, and classes by how far a dose is from the target: 5, 10 and
+/// 20 per cent. From blue over cream to brown, which people who are blind to some colours can tell
+/// apart.
+void setUpTarget(ColorScale& scale, double target) {
+    constexpr std::array<double, 7> kUpper{0.8, 0.9, 0.95, 1.05, 1.1, 1.2, 2};
+    constexpr std::array<Color, 8> kClassColors{
+        Color::rgb(0x70, 0x70, 0x70), Color::rgb(0x1B, 0x4F, 0x9C), Color::rgb(0x5B, 0x9B, 0xD5),
+        Color::rgb(0xB4, 0xD6, 0xEE), Color::rgb(0xFF, 0xF6, 0xCC), Color::rgb(0xFB, 0xC3, 0x6B),
+        Color::rgb(0xE0, 0x82, 0x14), Color::rgb(0x7F, 0x3B, 0x08)};
+    scale.clearClass(0, 0);
+    double lower = 0;
+    for (const double part : kUpper) {
+        scale.addClassManual(lower, target * part);
+        lower = target * part;
+    }
+    for (int i = 0; i < scale.count(); ++i) {
+        scale.setClassColor(i, kClassColors[static_cast<std::size_t>(i)]);
+    }
+    scale.openEnds = true;
+    scale.allowClassEdit = false;
+}
+
 void setUpDoses(ColorScale& scale, const MapStyle& style, const ValueRanges& ranges,
                 std::span<File* const> files) {
     const auto doses = style.selectedChannel < 0
@@ -93,6 +115,10 @@ void setUpDoses(ColorScale& scale, const MapStyle& style, const ValueRanges& ran
     scale.isDate = false;
     scale.allowClassEdit = true;
     scale.unit = perMinute ? kLitresPerMinute : doseUnit(files);
+    if (style.targetDose && style.mode == ColorMode::Dose && !perMinute) {
+        setUpTarget(scale, *style.targetDose);
+        return;
+    }
     if (range) {
         // Doses that are all below 0 have their lower bound raised above the upper one.
         const float greatest = std::max(range->least, range->greatest);

@@ -3,11 +3,15 @@
 
 #include "app/colours/legend_commands.h"
 
+#include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <map>
 
 #include "app/settings.h"
 #include "base/numbers.h"
 #include "base/typed_number.h"
+#include "model/work_layer.h"
 
 namespace campora {
 
@@ -18,14 +22,14 @@ constexpr Color kGreen = Color::rgb(0, 255, 0);
 constexpr Color kRed = Color::rgb(255, 0, 0);
 
 constexpr ReadyRamp kRamps[] = {
-    {TextId::RampYellowGreenRed, kYellow, kGreen, kRed},
-    {TextId::RampRedYellowGreen, kRed, kYellow, kGreen},
-    {TextId::RampGreenYellowRed, kGreen, kYellow, kRed},
     {TextId::RampBlueYellow, Color::rgb(0, 34, 78), Color::rgb(125, 124, 120),
      Color::rgb(254, 232, 56)},
     {TextId::RampVioletYellow, Color::rgb(68, 1, 84), Color::rgb(33, 145, 140),
      Color::rgb(253, 231, 37)},
     {TextId::RampGreys, Color::rgb(224, 224, 224), std::nullopt, Color::rgb(32, 32, 32)},
+    {TextId::RampYellowGreenRed, kYellow, kGreen, kRed},
+    {TextId::RampRedYellowGreen, kRed, kYellow, kGreen},
+    {TextId::RampGreenYellowRed, kGreen, kYellow, kRed},
 };
 
 }  // namespace
@@ -104,12 +108,61 @@ void LegendCommands::askExtremes() {
     scale().calcRanges(*lower, *upper, true);
 }
 
-void LegendCommands::spreadClasses(bool spread) {
-    const int before = scale().count();
-    map_.style().spreadClasses = spread;
+void LegendCommands::askTarget() {
+    const double proposed = map_.style().targetDose.value_or(
+        specifiedDose().value_or((scale().valueMin() + scale().valueMax()) / 2));
+    const auto target = ask(TextId::AskTargetDose, TextId::ScaleHeading, proposed);
+    if (!target) {
+        return;
+    }
+    if (*target <= 0) {
+        map_.desk().tell({TextId::BadTargetDose, {typed(*target)}});
+        return;
+    }
+    setClasses(*target, false);
+    display_.redraw();
+}
+
+void LegendCommands::equalClasses() {
+    setClasses(std::nullopt, false);
+    display_.redraw();
+}
+
+void LegendCommands::setClasses(std::optional<double> target, bool spread) {
+    MapStyle& style = map_.style();
+    style.targetDose = target;
+    style.spreadClasses = spread;
+    writeText(settings_, SettingId::TargetDose, target ? numberText(*target) : "");
     writeSwitch(settings_, SettingId::SpreadClasses, spread);
     map_.refreshColorScale();
     display_.showLegend();
+}
+
+std::optional<double> LegendCommands::specifiedDose() const {
+    const int channel = map_.style().selectedChannel;
+    std::map<float, std::int64_t> records;
+    for (const Gph* layer : map_.getGphList()) {
+        const auto* const work = dynamic_cast<const WorkLayer*>(layer);
+        for (std::int32_t i = 0; work != nullptr && i < work->recordCount(); ++i) {
+            const WorkRecord record = work->recordN(i);
+            const float dose = channel < 0 ? record.specifiedTotal()
+                               : channel < record.channels
+                                   ? record.specified[static_cast<std::size_t>(channel)]
+                                   : 0;
+            records[dose] += dose > 0 ? 1 : 0;
+        }
+    }
+    const auto most =
+        std::max_element(records.begin(), records.end(),
+                         [](const auto& a, const auto& b) { return a.second < b.second; });
+    return most == records.end() || most->second == 0
+               ? std::nullopt
+               : std::optional(static_cast<double>(most->first));
+}
+
+void LegendCommands::spreadClasses(bool spread) {
+    const int before = map_.style().targetDose ? 0 : scale().count();
+    setClasses(std::nullopt, spread);
     if (scale().count() > 1 && before > 1 && scale().count() != before) {
         scale().setClassNumber(before);  // which draws
     } else {
@@ -148,6 +201,15 @@ void LegendCommands::useReadyRamp(int index) {
     if (index >= 0 && static_cast<std::size_t>(index) < ramps.size()) {
         const ReadyRamp& ramp = ramps[static_cast<std::size_t>(index)];
         scale().degrade(ramp.start, ramp.middle, ramp.end, true);
+        writeNumber(settings_, SettingId::ScaleRamp, index + 1);
+    }
+}
+
+void LegendCommands::restoreRamp() {
+    const auto index = static_cast<std::size_t>(readNumber(settings_, SettingId::ScaleRamp));
+    if (index > 0 && index <= readyRamps().size()) {
+        const ReadyRamp& ramp = readyRamps()[index - 1];
+        map_.scales().useRamp(ramp.start, ramp.middle, ramp.end);
     }
 }
 

@@ -24,8 +24,8 @@ struct ReadyRamp {
     Color end;
 };
 
-/// The ramps that the legend offers, the first one being that of new scales. Those that people who
-/// are blind to some colours can read are viridis (S. van der Walt and N. Smith, 2015, in the
+/// The ramps that the legend offers. Those that people who are blind to some colours can read come
+/// first; they are viridis (S. van der Walt and N. Smith, 2015, in the
 /// public domain) and cividis (J. Nuñez, C. Anderton and R. Renslow, PLOS ONE 13(7), 2018), each
 /// by its first, middle and last colour.
 [[nodiscard]] std::span<const ReadyRamp> readyRamps();
@@ -48,6 +48,11 @@ public:
     /// Asks for the lowest and the highest value.
     void askExtremes();
 
+    /// Asks for the dose around which the classes of dose lie from now on: within 5, 10 and 20 per
+    /// cent of it and beyond, and ground without a dose.
+    void askTarget();
+    /// Classes of dose equally wide over all values.
+    void equalClasses();
     /// Lays the classes of dose over most of the worked area, or over all values again, and keeps
     /// that for the work to come.
     void spreadClasses(bool spread);
@@ -56,8 +61,11 @@ public:
     void chooseRampMiddle();
     void dropRampMiddle();
     void chooseRampEnd();
-    /// `index`: in `readyRamps()`.
+    /// `index`: in `readyRamps()`. Kept for the work to come.
     void useReadyRamp(int index);
+
+    /// The scales of work in the ramp that was chosen last.
+    void restoreRamp();
 
     // Classes that the scale does not have are ignored.
     void chooseClassColor(int index);
@@ -67,6 +75,10 @@ public:
 
 private:
     [[nodiscard]] ColorScale& scale() const;
+    /// The classes that follow from it, which is kept.
+    void setClasses(std::optional<double> target, bool spread);
+    /// The dose that most records specify in the channel that is shown; none without one.
+    [[nodiscard]] std::optional<double> specifiedDose() const;
     [[nodiscard]] bool hasClass(int index) const;
     [[nodiscard]] bool classesMayChange() const;
     void setClassNumber(double number);

@@ -88,6 +88,16 @@ QMenu* makeLegendMenu(QWidget& parent, const LegendContent& legend, int row,
     }
     if (legend.canSpread) {
         menu->addSeparator();
+        const auto addChoice = [&](TextId text, bool isOn, void (LegendCommands::*run)()) {
+            QAction* const choice = menu->addAction(toQt(texts(text)));
+            choice->setCheckable(true);
+            choice->setChecked(isOn);
+            QObject::connect(choice, &QAction::triggered, menu->parent(),
+                             [&commands, run] { (commands.*run)(); });
+        };
+        addChoice(TextId::ScaleTarget, legend.aroundTarget, &LegendCommands::askTarget);
+        addChoice(TextId::ScaleEqual, !legend.aroundTarget && !legend.spread,
+                  &LegendCommands::equalClasses);
         QAction* spread = menu->addAction(toQt(texts(TextId::SpreadClasses)));
         spread->setCheckable(true);
         spread->setChecked(legend.spread);

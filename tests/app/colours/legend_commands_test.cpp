@@ -86,6 +86,40 @@ TEST(LegendCommands, ClassesCanBeSpreadOverMostOfTheArea) {
     EXPECT_EQ(next.session.map().scales().of(false).valueMax(), 3000);
 }
 
+TEST(LegendCommands, ClassesLieAroundTheDoseThatWasPrescribed) {
+    SessionDesk desk;
+    desk.session.start();
+    desk.open({creepingReport(desk.folder)});
+    const auto texts = [&desk] {
+        std::vector<std::string> found;
+        for (const LegendRow& row : desk.window.legend.classes) {
+            found.push_back(row.text);
+        }
+        return found;
+    };
+    desk.dialogs.inputAnswers = {"-5", "85"};
+    desk.session.legendCommands().askTarget();
+    EXPECT_THAT(desk.dialogs.inputs, ElementsAre(testing::EndsWith("|100"))) << "as specified";
+    EXPECT_THAT(desk.dialogs.messages, SizeIs(1));
+    EXPECT_FALSE(desk.window.legend.aroundTarget);
+    desk.session.legendCommands().askTarget();
+    EXPECT_TRUE(desk.window.legend.aroundTarget);
+    EXPECT_THAT(texts(), ElementsAre("0", "0 - 68", "68 - 76.5", "76.5 - 80.8", "80.8 - 89.3",
+                                     "89.3 - 93.5", "93.5 - 102", "> 102"));
+    desk.session.legendCommands().useReadyRamp(1);
+
+    SessionDesk next;
+    next.settings.values = desk.settings.values;
+    next.session.start();
+    next.open({creepingReport(next.folder)});
+    EXPECT_TRUE(next.window.legend.aroundTarget) << "it is remembered";
+    next.session.legendCommands().equalClasses();
+    EXPECT_FALSE(next.window.legend.aroundTarget);
+    const ColorScale& scale = next.session.map().scales().of(false);
+    EXPECT_EQ(scale.valueMax(), 3000);
+    EXPECT_EQ(scale.getClass(0).color, readyRamps()[1].start) << "so is the ramp";
+}
+
 TEST(LegendCommands, TheNumberOfClassesStaysWithinItsLimits) {
     const auto classesAfter = [](const char* typed, std::size_t refusals) {
         LegendDesk desk;
