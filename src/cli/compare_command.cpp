@@ -22,10 +22,14 @@ namespace campora {
 
 namespace {
 
-Json figure(std::optional<double> value) {
-    // What a sum of steps has behind the sixth place is its rounding.
+/// What a sum of steps has behind the sixth place is its rounding.
+double rounded(double value) {
     constexpr double kPlaces = 1e6;
-    return value ? Json(std::round(*value * kPlaces) / kPlaces) : Json();
+    return std::round(value * kPlaces) / kPlaces;
+}
+
+Json figure(std::optional<double> value) {
+    return value ? Json(rounded(*value)) : Json();
 }
 
 Json channelJson(const ChannelComparison& sum) {
@@ -67,10 +71,13 @@ void printCsv(const Comparison& comparison, char symbol, std::ostream& out) {
     for (const ChannelComparison& sum : comparison.channels) {
         for (const DoseComparison& ofDose : sum.doses) {
             const std::optional<double> within = ofDose.within();
-            const std::vector<std::string> cells{
-                numberText(sum.channel.ofJob + 1),   numberText(asDecimal(ofDose.dose), symbol),
-                numberText(ofDose.hectares, symbol), numberText(ofDose.prescribed, symbol),
-                numberText(ofDose.applied, symbol),  within ? numberText(*within, symbol) : ""};
+            const std::vector<std::string> cells{numberText(sum.channel.ofJob + 1),
+                                                 numberText(asDecimal(ofDose.dose), symbol),
+                                                 numberText(rounded(ofDose.hectares), symbol),
+                                                 numberText(rounded(ofDose.prescribed), symbol),
+                                                 numberText(rounded(ofDose.applied), symbol),
+                                                 within ? numberText(rounded(*within), symbol)
+                                                        : ""};
             out << csvLine(cells, symbol);
         }
     }
