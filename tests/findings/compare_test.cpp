@@ -3,6 +3,10 @@
 
 #include "findings/compare.h"
 
+#include <array>
+#include <cstdint>
+#include <vector>
+
 #include <gtest/gtest.h>
 
 #include "presc/gph_vrt.h"
@@ -15,7 +19,7 @@ namespace {
 /// Three cells of 20 m from 0, 0 to the east, for 100, 50 and nothing in the first channel.
 GphVRT threeCells(int channels = 1) {
     std::vector<std::int16_t> doses;
-    for (const std::int16_t dose : {10000, 5000, 0}) {
+    for (const std::int16_t dose : std::array<std::int16_t, 3>{10000, 5000, 0}) {
         doses.insert(doses.end(), static_cast<std::size_t>(channels), dose);
     }
     return {"plan.vrt", {{0, 0, 20, 3, 1, channels, "", ""}, doses}, Color{}, '.'};
