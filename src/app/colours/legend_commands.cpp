@@ -238,6 +238,8 @@ void LegendCommands::askClassValue(int index) {
     }
     if (const std::optional<Failure> refused = scale().setClassValue(index, *value)) {
         map_.desk().tell(*refused);
+    } else if (map_.style().mode == ColorMode::Deviation) {
+        map_.refreshColorScale();  // a prescription's doses are others
     }
     display_.showLegend();
     display_.redraw();

@@ -35,6 +35,9 @@ bool showDeviation(OpenMap& map, const PlanOf& planOf) {
 }
 
 std::optional<TextId> CompareCommands::whyNot() const {
+    if (isMapOn()) {
+        return std::nullopt;  // it can be switched off, whatever has been closed
+    }
     if (!hasJob(map_.files())) {
         return TextId::WhyNoJob;
     }

@@ -45,7 +45,7 @@ public:
     /// Both outlive this.
     CompareCommands(OpenMap& map, MapDisplay& display) : map_(map), display_(display) {}
 
-    /// Why nothing can be compared; none when it can.
+    /// Why nothing can be compared; none when it can, or when the map does so.
     [[nodiscard]] std::optional<TextId> whyNot() const;
     [[nodiscard]] bool isMapOn() const { return map_.style().mode == ColorMode::Deviation; }
     /// The map of deviations, or back to the doses.

@@ -236,7 +236,11 @@ void PrescCommands::changeDose(LonLat position) {
         return;
     }
     layer.setDosis(zone, *dose);
-    if (&map_.scales().shown() != &layer.escalaColor()) {
+    if (map_.style().mode == ColorMode::Deviation) {
+        map_.refreshColorScale();  // the deviations are others
+        display_.showLegend();
+        display_.redraw();
+    } else if (&map_.scales().shown() != &layer.escalaColor()) {
         display_.redraw();  // a scale in the legend has done so already
     }
     display_.showSummary();
