@@ -3,12 +3,14 @@
 
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 
 #include "app/map_display.h"
 #include "app/open_map.h"
 #include "base/lon_lat.h"
+#include "model/gph.h"
 #include "platform/map_canvas.h"
 #include "platform/map_overlay.h"
 
@@ -55,6 +57,8 @@ struct ToolSite {
     MapDisplay& display;
     /// A dose is to be changed at this position; may be empty.
     const std::function<void(LonLat)>& onDose;
+    /// Element `n` of a layer was asked about; may be empty.
+    const std::function<void(const Gph& layer, std::int32_t n)>& onAsked;
 };
 
 }  // namespace campora

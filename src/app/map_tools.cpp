@@ -25,7 +25,7 @@ bool holds(CanvasSize canvas, CanvasPoint at) {
 
 MapTools::MapTools(OpenMap& map, MapDisplay& display) : map_(map), display_(display) {
     for (const MapToolRow& row : mapToolRows()) {
-        tools_.emplace(row.id, row.make({map, display, onDose}));
+        tools_.emplace(row.id, row.make({map, display, onDose, onAsked}));
     }
 }
 

@@ -32,6 +32,8 @@ public:
 
     /// A click with the dose tool, at this position; may be empty.
     std::function<void(LonLat)> onDose;
+    /// The information tool was asked about element `n` of a layer; may be empty.
+    std::function<void(const Gph& layer, std::int32_t n)> onAsked;
 
     /// Asked first at each press, with every tool, and told of clicks that nothing else is meant
     /// by; null: nobody. It outlives the tools or is taken away before.

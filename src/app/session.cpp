@@ -35,13 +35,20 @@ Session::Session(MapCanvas& canvas, MainWindowControls& window, const Services& 
       prescCommands_(map_, display_, tools_, services_.settings),
       lotEditor_(map_, display_, tools_, services_.settings, services_.shell),
       lotCommands_(map_, display_, lotEditor_, services_.settings),
-      exportCommands_(map_, display_, tools_, services_) {
+      exportCommands_(map_, display_, tools_, services_),
+      findingCommands_(map_, display_, tools_) {
     map_.onReset = [this] { display_.showEmpty(); };
     display_.beforeDrawing = [this] { replay_.stopReplay(); };
     display_.onDrawn = [this] { tools_.viewChanged(); };
-    display_.onFilesChanged = [this] { replay_.prepareReplay(); };
+    display_.onFilesChanged = [this] {
+        replay_.prepareReplay();
+        findingCommands_.filesChanged();
+    };
     display_.onEmpty = [this] { tools_.reset(); };
     tools_.onDose = [this](LonLat position) { prescCommands_.changeDose(position); };
+    tools_.onAsked = [this](const Gph& layer, std::int32_t n) {
+        findingCommands_.selectAt(layer, n);
+    };
 }
 
 void Session::start() {

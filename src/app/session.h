@@ -10,6 +10,7 @@
 #include "app/colours/legend_commands.h"
 #include "app/findings/compare_commands.h"
 #include "app/findings/coverage_commands.h"
+#include "app/findings/finding_commands.h"
 #include "app/loaded_file_list.h"
 #include "app/lots/lot_commands.h"
 #include "app/lots/lot_editor.h"
@@ -67,6 +68,7 @@ public:
     [[nodiscard]] LotEditor& lotEditor() { return lotEditor_; }
     [[nodiscard]] LotCommands& lotCommands() { return lotCommands_; }
     [[nodiscard]] ExportCommands& exportCommands() { return exportCommands_; }
+    [[nodiscard]] FindingCommands& findingCommands() { return findingCommands_; }
 
 private:
     Services services_;
@@ -87,6 +89,7 @@ private:
     LotEditor lotEditor_;
     LotCommands lotCommands_;
     ExportCommands exportCommands_;
+    FindingCommands findingCommands_;
 };
 
 }  // namespace campora

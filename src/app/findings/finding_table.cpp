@@ -113,7 +113,7 @@ void FindingTable::addFile(std::string name, std::span<const Pass> passes) {
     files_.push_back(std::move(name));
     double number = 0;
     for (const Pass& pass : passes) {
-        addRow({{file, pass.firstRecord, pass.lastRecord},
+        addRow({{file, pass.firstRecord, pass.lastRecord, pass.lastRecord},
                 {static_cast<double>(file), ++number, orderOf(pass.start), pass.seconds,
                  pass.metres, pass.hectares, pass.dose, pass.doseDeviation, pass.speedKmh,
                  pass.headingDegrees, pass.largestError},
@@ -130,7 +130,9 @@ void FindingTable::addFile(std::string name, const Problems& problems, WorkKind 
     turns_ += problems.turns;
     for (const Problem& problem : problems.rows) {
         const double kind = static_cast<int>(problem.kind) * kBits + problem.alarm;
-        addRow({{file, problem.firstRecord, problem.lastRecord},
+        const bool isGap = problem.kind == ProblemKind::Gap;
+        const std::size_t end = problem.lastRecord + (isGap ? 0 : 1);
+        addRow({{file, problem.firstRecord, problem.lastRecord, end},
                 {static_cast<double>(file), kind, orderOf(problem.start), problem.seconds,
                  problem.metres, problem.hectares, problem.dose, problem.specified, problem.lost,
                  problem.position.y},
@@ -227,6 +229,10 @@ std::optional<std::size_t> FindingTable::neighbour(std::optional<std::size_t> ro
     if (row) {
         place = (order_[*row] + (forward ? 1 : count - 1)) % count;
     }
+    return rowAt(place);
+}
+
+std::size_t FindingTable::rowAt(std::size_t place) const {
     return static_cast<std::size_t>(std::find(order_.begin(), order_.end(), place) -
                                     order_.begin());
 }

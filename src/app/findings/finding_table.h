@@ -25,6 +25,8 @@ struct FoundStretch {
     /// Counted through all layers of the file.
     std::size_t firstRecord = 0;
     std::size_t lastRecord = 0;
+    /// Where the stretch ends on the map: what a record says holds until the next one.
+    std::size_t endRecord = 0;
 
     bool operator==(const FoundStretch&) const = default;
 };
@@ -63,6 +65,8 @@ public:
     [[nodiscard]] std::string heading(std::size_t column) const;
     /// Whether a column is aligned as figures are.
     [[nodiscard]] bool isFigure(std::size_t column) const;
+    [[nodiscard]] const Texts& texts() const { return desk_.texts; }
+    [[nodiscard]] std::size_t fileCount() const { return files_.size(); }
     [[nodiscard]] std::size_t rowCount() const { return order_.size(); }
     [[nodiscard]] std::string cell(std::size_t row, std::size_t column) const;
     [[nodiscard]] const FoundStretch& stretch(std::size_t row) const { return at(row).stretch; }
@@ -73,6 +77,9 @@ public:
     void sortBy(std::size_t column, bool descending);
     /// The row of the shortest stretch with that record; none without one.
     [[nodiscard]] std::optional<std::size_t> rowOf(std::size_t file, std::size_t record) const;
+    /// The place of a row in the order of the work, which sorting leaves, and the row of a place.
+    [[nodiscard]] std::size_t place(std::size_t row) const { return order_[row]; }
+    [[nodiscard]] std::size_t rowAt(std::size_t place) const;
     /// The row that comes after (or before) `row` in the order of the work, whatever the rows are
     /// sorted by, the first (or last) after the end and without `row`; none in an empty table.
     [[nodiscard]] std::optional<std::size_t> neighbour(std::optional<std::size_t> row,

@@ -17,6 +17,9 @@ void InfoTool::release(CanvasPoint at) {
     map_.files().setCurrentFile(hit->file);
     display_.showCurrentFile();
     display_.loadFileList(true);
+    if (onAsked_) {
+        onAsked_(*hit->layer, hit->element);
+    }
     if (!hit->text.empty()) {
         plate_ = textPlate(display_.canvas(), at, std::move(hit->text));
     }
@@ -32,7 +35,8 @@ std::optional<InfoTool::Hit> InfoTool::find(CanvasPoint at) const {
         for (const Gph* layer : file.File_gphList()) {
             const std::int32_t index = layer->Gph_mouseOver(view, style, position, 0);
             if (index >= 0) {
-                return Hit{&file, layer->Gph_getInfo({desk.texts, desk.locale, style}, index)};
+                return Hit{&file, layer, index,
+                           layer->Gph_getInfo({desk.texts, desk.locale, style}, index)};
             }
         }
     }

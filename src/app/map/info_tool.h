@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -13,7 +15,8 @@ namespace campora {
 /// Describes what lies under the pointer, and selects its file.
 class InfoTool final : public MapTool {
 public:
-    explicit InfoTool(const ToolSite& site) : map_(site.map), display_(site.display) {}
+    explicit InfoTool(const ToolSite& site)
+        : map_(site.map), display_(site.display), onAsked_(site.onAsked) {}
 
     bool press(CanvasPoint /*at*/) override { return true; }
     void release(CanvasPoint at) override;
@@ -23,12 +26,15 @@ public:
 private:
     struct Hit {
         File* file;
+        const Gph* layer;
+        std::int32_t element;
         std::string text;
     };
     [[nodiscard]] std::optional<Hit> find(CanvasPoint at) const;
 
     OpenMap& map_;
     MapDisplay& display_;
+    const std::function<void(const Gph&, std::int32_t)>& onAsked_;
     std::optional<TextPlate> plate_;
 };
 
