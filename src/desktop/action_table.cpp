@@ -18,6 +18,10 @@ bool isInUse(const MainWindow& window) {
     return window.session().tools().tool() == id;
 }
 
+std::optional<TextId> whyNoProblem(const MainWindow& window) {
+    return window.session().findingCommands().whyNoProblem();
+}
+
 // clang-format off
 constexpr ActionRow kActions[] = {
     {.name = "mnuFileOpen", .text = TextId::ActionOpen, .tooltip = TextId::TipOpen, .icon = "open",
@@ -198,6 +202,13 @@ constexpr ActionRow kActions[] = {
      .run = [](MainWindow& w) { w.toggleSidePanel(); },
      .isOn = [](const MainWindow& w) { return w.sidePanelShown(); },
      .possible = [](const MainWindow& w) { return w.hasRoomForSidePanel(); }},
+    {.name = "nextProblem", .text = TextId::ActionNextProblem, .tooltip = TextId::TipNextProblem,
+     .shortcuts = "F8", .menu = MenuId::View, .opensGroup = true, .needs = Needs::Map,
+     .isSlow = true, .run = [](MainWindow& w) { w.stepProblem(true); }, .whyNot = whyNoProblem},
+    {.name = "previousProblem", .text = TextId::ActionPreviousProblem,
+     .tooltip = TextId::TipPreviousProblem, .shortcuts = "Shift+F8", .menu = MenuId::View,
+     .needs = Needs::Map, .isSlow = true, .run = [](MainWindow& w) { w.stepProblem(false); },
+     .whyNot = whyNoProblem},
     {.name = "mnuViewFullScreen", .text = TextId::ActionFullScreen,
      .tooltip = TextId::TipFullScreen, .icon = "full-screen", .shortcuts = "F11",
      .menu = MenuId::View, .run = [](MainWindow& w) { w.toggleFullScreen(); },

@@ -33,6 +33,7 @@ constexpr HelpRow kMouse[] = {
     {TextId::GestureWheel, TextId::GestureWheelDoes},
     {TextId::GestureRight, TextId::GestureRightDoes},
     {TextId::GestureDouble, TextId::GestureDoubleDoes},
+    {TextId::GestureFinding, TextId::GestureFindingDoes},
     {TextId::GestureDrop, TextId::GestureDropDoes},
 };
 

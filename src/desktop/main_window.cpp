@@ -29,6 +29,7 @@
 #include "desktop/platform/qt_text.h"
 #include "desktop/widgets/elided_label.h"
 #include "desktop/widgets/file_list_view.h"
+#include "desktop/widgets/finding_view.h"
 #include "desktop/widgets/legend_view.h"
 #include "desktop/widgets/map_area.h"
 #include "desktop/widgets/map_widget.h"
@@ -102,7 +103,9 @@ MainWindow::MainWindow(const Services& services, Language language,
 }
 
 MainWindow::~MainWindow() {
-    delete lotPanel_;  // it works on the session, which goes before the other widgets
+    // They work on the session, which goes before the other widgets.
+    hide();
+    delete lotPanel_;
 }
 
 void MainWindow::arrange() {
@@ -185,6 +188,13 @@ void MainWindow::connectMap() {
 
 void MainWindow::connectFileList() {
     sidePanel_->legend().setCommands(session_->legendCommands());
+    FindingCommands& findings = session_->findingCommands();
+    sidePanel_->passes().setCommands(findings, services_.clipboard);
+    sidePanel_->problems().setCommands(findings, services_.clipboard);
+    findings.onSelected = [this](FindingTable::Kind kind) {
+        const bool isPass = kind == FindingTable::Kind::Passes;
+        (isPass ? sidePanel_->passes() : sidePanel_->problems()).showSelected();
+    };
     FileListView& files = sidePanel_->files();
     files.setFileMenu(actions_->menu(MenuId::SelectedFile));
     connect(&files, &FileListView::rowChosen, this, [this](std::optional<int> row) {
@@ -302,6 +312,8 @@ void MainWindow::commandsChanged() {
         return;
     }
     showLotPanel();
+    sidePanel_->passes().showWork();
+    sidePanel_->problems().showWork();
     actions_->showStates(session_->texts(), availability());
     replayBar_->setSpeedShown(session_->replay().speedShown());
 }

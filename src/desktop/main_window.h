@@ -73,6 +73,7 @@ public:
     /// A narrow window has no room for it while a lot is drawn.
     [[nodiscard]] bool hasRoomForSidePanel() const;
     void toggleFullScreen();
+    void stepProblem(bool forward);
 
     void setTitle(std::string_view title) override;
     void setFileList(std::span<const FileListRow> rows, std::optional<int> selected) override;

@@ -135,6 +135,11 @@ void MainWindow::toggleFullScreen() {
     setWindowState(windowState() ^ Qt::WindowFullScreen);
 }
 
+void MainWindow::stepProblem(bool forward) {
+    sidePanel_->openProblems();
+    session_->findingCommands().stepProblem(forward);
+}
+
 void MainWindow::connectMenus() {
     session_->prescCommands().chooseChannels = [this] {
         return DoseColumnDialog(session_->map(), services_, this).choose();

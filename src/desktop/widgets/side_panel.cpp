@@ -4,11 +4,15 @@
 #include "desktop/widgets/side_panel.h"
 
 #include <QSplitter>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QToolBar>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include "desktop/platform/qt_text.h"
 #include "desktop/widgets/file_list_view.h"
+#include "desktop/widgets/finding_view.h"
 #include "desktop/widgets/legend_view.h"
 #include "desktop/widgets/section_heading.h"
 #include "desktop/widgets/summary_table.h"
@@ -38,18 +42,29 @@ SidePanel::SidePanel(QWidget* parent)
       files_(new FileListView),
       fileTools_(new QToolBar),
       summary_(new SummaryTable),
+      passes_(new FindingView(FindingTable::Kind::Passes)),
+      problems_(new FindingView(FindingTable::Kind::Problems)),
+      tables_(new QTabWidget),
       legend_(new LegendView),
-      filesHeading_(new SectionHeading(*files_)),
-      summaryHeading_(new SectionHeading(*summary_)) {
+      filesHeading_(new SectionHeading(*files_)) {
     fileTools_->setIconSize({18, 18});
     fileTools_->setContentsMargins(0, 0, 0, 0);
     files_->setMinimumHeight(52);
     summary_->setMinimumHeight(72);
+    tables_->setDocumentMode(true);
+    // The toolkit names its buttons that scroll tabs in a language of its own.
+    for (QToolButton* button : tables_->tabBar()->findChildren<QToolButton*>()) {
+        button->setObjectName(QString());
+        button->setAccessibleName(QString());
+    }
+    for (QWidget* table : std::initializer_list<QWidget*>{summary_, passes_, problems_}) {
+        tables_->addTab(table, QString());
+    }
 
     auto* parts = new QSplitter(Qt::Vertical);
     parts->setChildrenCollapsible(false);
     parts->addWidget(section({filesHeading_, fileTools_, files_}));
-    parts->addWidget(section({summaryHeading_, summary_}));
+    parts->addWidget(section({tables_}));
     parts->addWidget(legend_);
     parts->setSizes({200, 290, 290});
 
@@ -57,16 +72,30 @@ SidePanel::SidePanel(QWidget* parent)
     column->setContentsMargins(kSpacing, 2 * kSpacing, 2 * kSpacing, kSpacing);
     column->addWidget(parts);
     setMinimumWidth(240);
-    setTabOrder(files_, summary_);
-    setTabOrder(summary_, legend_);
+    setTabOrder(files_, tables_);
+    setTabOrder(tables_, legend_);
 }
 
 void SidePanel::retranslate(const Texts& texts) {
     filesHeading_->setTitle(toQt(texts(TextId::FilesHeading)));
-    summaryHeading_->setTitle(toQt(texts(TextId::SummaryHeading)));
+    constexpr TextId kTabs[] = {TextId::SummaryHeading, TextId::PassesTab, TextId::ProblemsTab};
+    for (int tab = 0; tab < tables_->count(); ++tab) {
+        tables_->setTabText(tab, toQt(texts(kTabs[tab])));
+    }
+    summary_->setAccessibleName(toQt(texts(TextId::SummaryHeading)));
+    tables_->setAccessibleName(summary_->accessibleName());
+    tables_->tabBar()->setAccessibleName(summary_->accessibleName());
+    for (FindingView* table : {passes_, problems_}) {
+        table->retranslate(texts);
+        tables_->setTabToolTip(tables_->indexOf(table), plainToolTip(table->tip()));
+    }
     fileTools_->setAccessibleName(toQt(texts(TextId::FileTools)));
     summary_->retranslate(texts);
     legend_->retranslate(texts);
+}
+
+void SidePanel::openProblems() {
+    tables_->setCurrentWidget(problems_);
 }
 
 }  // namespace campora

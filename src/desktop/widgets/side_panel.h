@@ -8,16 +8,19 @@
 #include "base/texts.h"
 
 class QSplitter;
+class QTabWidget;
 class QToolBar;
 
 namespace campora {
 
 class FileListView;
+class FindingView;
 class LegendView;
 class SectionHeading;
 class SummaryTable;
 
-/// Beside the map: open files, summary of the selected one, legend.
+/// Beside the map: open files, what is to be said about them (the summary of the selected one, the
+/// passes and the problems of all), legend.
 class SidePanel final : public QWidget {
 public:
     explicit SidePanel(QWidget* parent = nullptr);
@@ -28,15 +31,21 @@ public:
     /// The buttons over the file list.
     [[nodiscard]] QToolBar& fileTools() const { return *fileTools_; }
     [[nodiscard]] SummaryTable& summary() const { return *summary_; }
+    [[nodiscard]] FindingView& passes() const { return *passes_; }
+    [[nodiscard]] FindingView& problems() const { return *problems_; }
+    /// Brings the problems to the front.
+    void openProblems();
     [[nodiscard]] LegendView& legend() const { return *legend_; }
 
 private:
     FileListView* files_;
     QToolBar* fileTools_;
     SummaryTable* summary_;
+    FindingView* passes_;
+    FindingView* problems_;
+    QTabWidget* tables_;
     LegendView* legend_;
     SectionHeading* filesHeading_;
-    SectionHeading* summaryHeading_;
 };
 
 }  // namespace campora
