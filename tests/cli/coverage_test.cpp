@@ -23,7 +23,7 @@ TEST_F(CoverageCommand, TellsFilesAndAllTogether) {
     ASSERT_EQ(told.status, 0) << told.boxes;
     const auto json = nlohmann::json::parse(told.out);
     ASSERT_EQ(json["files"].size(), 2U);
-    EXPECT_EQ(json["files"][1]["path"], folder.file("b.rpt"));
+    EXPECT_THAT(json["files"][1]["path"].get<std::string>(), testing::EndsWith("/b.rpt"));
     EXPECT_FALSE(json["total"]["skippedIsEstimate"]);
     const std::tuple<const char*, double, double> figures[] = {
         {"grossHa", 0.04, 0.08},  {"dosedHa", 0.04, 0.08},  {"undosedHa", 0, 0},
