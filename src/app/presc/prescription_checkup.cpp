@@ -3,6 +3,7 @@
 
 #include "app/presc/prescription_checkup.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <utility>
 
@@ -19,8 +20,10 @@ constexpr char kBetween = '\t';
 constexpr char kLineEnd = '\n';
 constexpr std::size_t kFields = 3;
 
-std::string asField(std::string_view text) {
-    return replaceAll(replaceAll(trim(text), "\t", " "), "\n", " ");
+std::string asField(std::string text) {
+    std::replace(text.begin(), text.end(), kBetween, ' ');
+    std::replace(text.begin(), text.end(), kLineEnd, ' ');
+    return std::string(trim(text));
 }
 
 }  // namespace
@@ -65,7 +68,7 @@ const std::string& PrescriptionCheckup::product(int channel) const {
 }
 
 void PrescriptionCheckup::setProduct(int channel, std::string name) {
-    products_.at(static_cast<std::size_t>(channel)) = asField(name);
+    products_.at(static_cast<std::size_t>(channel)) = asField(std::move(name));
     std::string names;
     for (const std::string& product : products_) {
         names.append(product).push_back(kBetween);
@@ -84,7 +87,7 @@ std::string PrescriptionCheckup::most(int channel) const {
 }
 
 void PrescriptionCheckup::setLimits(int channel, std::string least, std::string most) {
-    limits_[product(channel)] = {asField(least), asField(most)};
+    limits_[product(channel)] = {asField(std::move(least)), asField(std::move(most))};
     std::string lines;
     for (const auto& [name, limits] : limits_) {
         lines.append(name).push_back(kBetween);
