@@ -19,6 +19,15 @@ float doseOf(const std::array<float, WorkRecord::kMostChannels>& doses, const Wo
     return c < record.channels ? doses[c] : 0;
 }
 
+/// Not a number where product came out and no dose could be computed.
+float appliedOf(const WorkRecord& record, int channel) {
+    const float together = record.appliedTotal();
+    if (record.worked && !(together > 0)) {
+        return std::numeric_limits<float>::quiet_NaN();
+    }
+    return channel < 0 ? together : doseOf(record.applied, record, channel);
+}
+
 }  // namespace
 
 /// The columns that are asked for.
@@ -81,11 +90,9 @@ void TimeSeries::addPass(const WorkLayer& pass, int channel) {
     WorkRecord record = pass.recordN(0);
     for (std::int32_t n = 0; n < count; ++n) {
         seconds_.push_back(clock_.add(record));
-        const bool together = channel < 0;
-        doses_.push_back(together ? record.appliedTotal()
-                                  : doseOf(record.applied, record, channel));
-        specified_.push_back(together ? record.specifiedTotal()
-                                      : doseOf(record.specified, record, channel));
+        doses_.push_back(appliedOf(record, channel));
+        specified_.push_back(channel < 0 ? record.specifiedTotal()
+                                         : doseOf(record.specified, record, channel));
         speeds_.push_back(record.speed);
         alarms_.push_back(record.alarms);
         double area = 0;
@@ -114,9 +121,7 @@ void TimeSeries::build() {
         const SeriesColumn one = record(n);
         levels_.front().back().add(one);
         whole_.add(one);
-        const double hectares = areas_[n] / kSquareMetresPerHectare;
-        before.hectares += hectares;
-        before.product += hectares * static_cast<double>(doses_[n]);
+        addStep(before, n);
         if (speeds_[n] > 0) {
             speedSum += static_cast<double>(speeds_[n]);
             ++withSpeed;
@@ -234,12 +239,20 @@ void TimeSeries::hold(const Window& window) const {
     }
 }
 
+void TimeSeries::addStep(Sum& sum, std::size_t n) const {
+    if (areas_[n] > 0) {
+        const double hectares = static_cast<double>(areas_[n]) / kSquareMetresPerHectare;
+        const bool isTold = !std::isnan(doses_[n]);
+        sum.hectares += hectares;
+        sum.product += isTold ? hectares * static_cast<double>(doses_[n]) : 0;
+        sum.untold += isTold ? 0 : 1;
+    }
+}
+
 TimeSeries::Sum TimeSeries::sumBefore(std::size_t n) const {
     Sum sum = sums_[n / kLeaf];
     for (std::size_t i = n / kLeaf * kLeaf; i < n; ++i) {
-        const double hectares = areas_[i] / kSquareMetresPerHectare;
-        sum.hectares += hectares;
-        sum.product += hectares * static_cast<double>(doses_[i]);
+        addStep(sum, i);
     }
     return sum;
 }
@@ -247,15 +260,15 @@ TimeSeries::Sum TimeSeries::sumBefore(std::size_t n) const {
 TimeSeries::Totals TimeSeries::totals(std::size_t first, std::size_t last) const {
     const Sum before = sumBefore(first);
     const Sum whole = sumBefore(last);
-    Totals totals{whole.hectares - before.hectares, whole.product - before.product, {}, {}};
+    Totals totals;
     // Sums that grow over a job leave something in their last digits.
     const bool any = std::any_of(areas_.begin() + static_cast<std::ptrdiff_t>(first),
                                  areas_.begin() + static_cast<std::ptrdiff_t>(last),
                                  [](float area) { return area > 0; });
-    if (!any) {
-        totals.hectares = totals.product = 0;
-    } else {
-        totals.meanDose = totals.product / totals.hectares;
+    totals.hectares = any ? whole.hectares - before.hectares : 0;
+    if (whole.untold == before.untold) {
+        totals.product = any ? whole.product - before.product : 0;
+        totals.meanDose = any ? std::optional(*totals.product / totals.hectares) : std::nullopt;
     }
     if (isOverTime()) {
         totals.seconds = seconds_[last] - seconds_[first];

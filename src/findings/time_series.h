@@ -32,6 +32,7 @@ struct SeriesRange {
 struct SeriesColumn {
     static constexpr std::size_t kNoRecord = std::numeric_limits<std::size_t>::max();
 
+    /// Of the records whose dose can be told: not where product came out and none was computed.
     SeriesRange dose;
     /// Of the records for which a dose was specified.
     SeriesRange specified;
@@ -56,9 +57,9 @@ public:
     /// What was done between two records: hectares as length times width of steps with product.
     struct Totals {
         double hectares = 0;
-        /// Litres, or units: dose times hectares.
-        double product = 0;
-        /// None without hectares.
+        /// Litres, or units: dose times hectares; none where a dose cannot be told.
+        std::optional<double> product;
+        /// None without product or hectares.
         std::optional<double> meanDose;
         /// From the first record to the last; none over numbers of records.
         std::optional<std::int64_t> seconds;
@@ -105,11 +106,14 @@ private:
     struct Sum {
         double hectares = 0;
         double product = 0;
+        /// Steps with product whose dose cannot be told.
+        std::size_t untold = 0;
     };
     struct Window;
 
     void addPass(const WorkLayer& pass, int channel);
     void build();
+    void addStep(Sum& sum, std::size_t n) const;
     [[nodiscard]] Sum sumBefore(std::size_t n) const;
     void fold(std::size_t level, std::size_t node, const Window& window) const;
     void hold(const Window& window) const;
@@ -118,7 +122,7 @@ private:
 
     WorkClock clock_;
     std::vector<std::int64_t> seconds_;  // empty over numbers of records
-    std::vector<float> doses_;
+    std::vector<float> doses_;           // not a number where it cannot be told
     std::vector<float> specified_;
     std::vector<float> speeds_;
     std::vector<std::uint32_t> alarms_;

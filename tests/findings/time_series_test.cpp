@@ -133,12 +133,25 @@ TEST(TimeSeries, AddsUpWhatWasDoneBetweenTwoRecords) {
         SCOPED_TRACE(row.first);
         const TimeSeries::Totals totals = series.totals(row.first, row.last);
         EXPECT_NEAR(totals.hectares, row.hectares, 1e-6);
-        EXPECT_NEAR(totals.product, row.product, 1e-4);
+        EXPECT_NEAR(totals.product.value_or(-1), row.product, 1e-4);
         EXPECT_EQ(totals.seconds, row.seconds);
         ASSERT_EQ(totals.meanDose.has_value(), row.hectares > 0);
         EXPECT_NEAR(totals.meanDose.value_or(0), row.hectares > 0 ? row.product / row.hectares : 0,
                     1e-3);
     }
+    GphTrack log;  // of flows: without a speed there is no dose
+    for (int i = 0; i < 4; ++i) {
+        const LonLat at = atMetres(10.0 * i, 0);
+        log.addPoint(at.x, at.y, loggerRecord(i == 2 ? 0 : 40.0F, i == 0 ? 0 : 200.0F));
+    }
+    const WorkLayer* const logged[] = {&log};
+    const TimeSeries flows(logged);
+    EXPECT_FALSE(flows.isOverTime());
+    EXPECT_TRUE(flows.record(0).dose.empty());
+    EXPECT_NEAR(flows.totals(0, 3).hectares, 0.04, 1e-6);
+    EXPECT_EQ(flows.totals(0, 3).product, std::nullopt);
+    EXPECT_EQ(flows.totals(0, 3).meanDose, std::nullopt);
+    EXPECT_NEAR(flows.totals(1, 3).product.value_or(-1), 0.02 * 6, 1e-5) << "40 l/min at 200 km/h";
     EXPECT_EQ(series.placeOf(100).pass, 0U);
     EXPECT_EQ(series.placeOf(102).pass, 1U);
     EXPECT_EQ(series.placeOf(102).record, 1U);
