@@ -63,8 +63,8 @@ void DrawingCommands::mnuEditTrocha() {
     }
     if (map_.style().mode == ColorMode::Error) {
         map_.recalcErrorAreas();
-        display_.showSummary();
     }
+    display_.refresh();  // hectares are others
     display_.redraw();
 }
 
