@@ -10,7 +10,8 @@
 
 namespace campora {
 
-/// Parallel passes of 1 km, a record every two metres, doses that differ.
+/// Parallel passes of 1 km, a record every two metres and two seconds, doses that differ. At most
+/// a million records: one month.
 inline std::string largeReport(int records) {
     constexpr int kPerPass = 500;
     RptBytes report(1);
@@ -21,6 +22,9 @@ inline std::string largeReport(int records) {
         RptBytes::Record record;
         record.position = fixAt(2.0 * along, 20.0 * pass);
         record.realTenths[0] = 900 + i % 13 * 20;
+        const int second = 2 * i % 86'400;
+        record.time = {{2018, 3, 1 + 2 * i / 86'400},
+                       {second / 3600, second / 60 % 60, second % 60}};
         report.add(record);
     }
     return report.bytes();

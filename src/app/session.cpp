@@ -24,6 +24,7 @@ Session::Session(MapCanvas& canvas, MainWindowControls& window, const Services& 
                   tools_.hideResult();
                   tools_.cancelDrag();
               }),
+      timeStrip_(map_, display_, tools_),
       fileCommands_(map_, display_, tools_, services_.settings),
       listCommands_(map_, display_),
       summaryCommands_(map_, display_),
@@ -41,9 +42,12 @@ Session::Session(MapCanvas& canvas, MainWindowControls& window, const Services& 
     display_.beforeDrawing = [this] { replay_.stopReplay(); };
     display_.onDrawn = [this] { tools_.viewChanged(); };
     display_.onFilesChanged = [this] {
+        timeStrip_.filesChanged();
         replay_.prepareReplay();
         findingCommands_.filesChanged();
     };
+    timeStrip_.onGo = [this](const WorkPlace& place) { goToRecord(place); };
+    timeStrip_.onPlay = [this](const WorkPlace& place) { playFrom(place); };
     display_.onEmpty = [this] { tools_.reset(); };
     tools_.onDose = [this](LonLat position) { prescCommands_.changeDose(position); };
     tools_.onAsked = [this](const Gph& layer, std::int32_t n) {

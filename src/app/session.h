@@ -11,6 +11,7 @@
 #include "app/findings/compare_commands.h"
 #include "app/findings/coverage_commands.h"
 #include "app/findings/finding_commands.h"
+#include "app/findings/time_strip.h"
 #include "app/loaded_file_list.h"
 #include "app/lots/lot_commands.h"
 #include "app/lots/lot_editor.h"
@@ -56,6 +57,7 @@ public:
     [[nodiscard]] MapDisplay& display() { return display_; }
     [[nodiscard]] MapTools& tools() { return tools_; }
     [[nodiscard]] Replay& replay() { return replay_; }
+    [[nodiscard]] TimeStrip& timeStrip() { return timeStrip_; }
     [[nodiscard]] FileCommands& fileCommands() { return fileCommands_; }
     [[nodiscard]] FileListCommands& listCommands() { return listCommands_; }
     [[nodiscard]] SummaryCommands& summaryCommands() { return summaryCommands_; }
@@ -77,6 +79,7 @@ private:
     MapDisplay display_;
     MapTools tools_;
     Replay replay_;
+    TimeStrip timeStrip_;
     FileCommands fileCommands_;
     FileListCommands listCommands_;
     SummaryCommands summaryCommands_;

@@ -90,6 +90,7 @@ constexpr std::array kRows = {
     text(SettingId::TargetDose, "targetDose"),
     // Of the ready ramps; 0: that of new scales.
     number(SettingId::ScaleRamp, "scaleRamp", 0, 0, 63),
+    onOff(SettingId::TimeStrip, "timeStrip", false),
 };
 
 constexpr bool rowsAreInOrder() {

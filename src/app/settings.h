@@ -59,6 +59,7 @@ enum class SettingId {
     ProductLimits,
     TargetDose,
     ScaleRamp,
+    TimeStrip,
 };
 
 enum class SettingType { Number, Color, Switch, Text };

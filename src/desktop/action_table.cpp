@@ -22,6 +22,16 @@ std::optional<TextId> whyNoProblem(const MainWindow& window) {
     return window.session().findingCommands().whyNoProblem();
 }
 
+std::optional<TextId> whyNoTimeStrip(const MainWindow& window) {
+    const bool hasWork = window.session().timeStrip().hasWork();
+    return hasWork ? std::nullopt : std::optional(TextId::NoWorkOpen);
+}
+
+std::optional<TextId> whyNoStretch(const MainWindow& window) {
+    const bool isChosen = window.session().timeStrip().stretch().has_value();
+    return isChosen ? std::nullopt : std::optional(TextId::NoStretchChosen);
+}
+
 // clang-format off
 constexpr ActionRow kActions[] = {
     {.name = "mnuFileOpen", .text = TextId::ActionOpen, .tooltip = TextId::TipOpen, .icon = "open",
@@ -209,6 +219,11 @@ constexpr ActionRow kActions[] = {
      .tooltip = TextId::TipPreviousProblem, .shortcuts = "Shift+F8", .menu = MenuId::View,
      .needs = Needs::Map, .isSlow = true, .run = [](MainWindow& w) { w.stepProblem(false); },
      .whyNot = whyNoProblem},
+    {.name = "mnuViewTimeStrip", .text = TextId::ActionTimeStrip, .tooltip = TextId::TipTimeStrip,
+     .shortcuts = "F7", .menu = MenuId::View,
+     .run = [](MainWindow& w) { w.toggleTimeStrip(); },
+     .isOn = [](const MainWindow& w) { return w.timeStripWanted(); },
+     .whyNot = whyNoTimeStrip},
     {.name = "mnuViewFullScreen", .text = TextId::ActionFullScreen,
      .tooltip = TextId::TipFullScreen, .icon = "full-screen", .shortcuts = "F11",
      .menu = MenuId::View, .run = [](MainWindow& w) { w.toggleFullScreen(); },
@@ -309,6 +324,11 @@ constexpr ActionRow kActions[] = {
     {.name = "mnuReplayStop", .text = TextId::ActionStop, .tooltip = TextId::TipStop,
      .icon = "stop", .shortcuts = "Ctrl+.", .menu = MenuId::Replay, .needs = Needs::Replay,
      .run = [](MainWindow& w) { w.session().replay().stop(); }},
+    {.name = "mnuReplayStretch", .text = TextId::ActionPlayStretch,
+     .tooltip = TextId::TipPlayStretch, .shortcuts = "Shift+Space", .menu = MenuId::Replay,
+     .needs = Needs::Replay,
+     .run = [](MainWindow& w) { w.playStretch(); },
+     .whyNot = whyNoStretch},
     {.name = "mnuHelpKeys", .text = TextId::ActionKeys, .tooltip = TextId::TipKeys,
      .icon = "keys", .shortcuts = "F1", .menu = MenuId::Help,
      .run = [](MainWindow& w) { w.showKeys(); }},

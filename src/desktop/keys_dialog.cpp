@@ -37,6 +37,18 @@ constexpr HelpRow kMouse[] = {
     {TextId::GestureDrop, TextId::GestureDropDoes},
 };
 
+struct StripKey {
+    const char* key;
+    TextId does;
+};
+
+constexpr StripKey kStripKeys[] = {
+    {"Right", TextId::StripKeyMove},  {"Shift+Right", TextId::StripKeyBrush},
+    {"PgDown", TextId::StripKeyPage}, {"Home", TextId::StripKeyEnds},
+    {"+", TextId::StripKeyZoom},      {"Return", TextId::StripKeyGo},
+    {"Space", TextId::StripKeyPlay},  {"Esc", TextId::StripKeyClear},
+};
+
 QString plain(const Texts& texts, TextId id) {
     return toQt(texts(id)).remove('&').remove("...");
 }
@@ -87,6 +99,14 @@ void addLotKeys(QTreeWidget& rows, const Texts& texts) {
     }
 }
 
+void addStripKeys(QTreeWidget& rows, const Texts& texts) {
+    QTreeWidgetItem* const group = addGroup(rows, plain(texts, TextId::ActionTimeStrip));
+    for (const auto& [key, does] : kStripKeys) {
+        addRow(group, QKeySequence(key).toString(QKeySequence::NativeText), plain(texts, does));
+    }
+    addRow(group, plain(texts, TextId::KeysMouse), plain(texts, TextId::StripGestures));
+}
+
 void addOthers(QTreeWidget& rows, const Texts& texts) {
     QTreeWidgetItem* const keys = addGroup(rows, plain(texts, TextId::KeysElsewhere));
     addRow(keys, plain(texts, TextId::KeyArrows), plain(texts, TextId::KeyArrowsDoes));
@@ -112,6 +132,7 @@ KeysDialog::KeysDialog(const Texts& texts, QWidget* parent) : QDialog(parent) {
     rows->setAlternatingRowColors(true);
     addCommands(*rows, texts);
     addLotKeys(*rows, texts);
+    addStripKeys(*rows, texts);
     addOthers(*rows, texts);
     rows->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     rows->setCurrentItem(rows->topLevelItem(0));

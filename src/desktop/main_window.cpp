@@ -36,6 +36,7 @@
 #include "desktop/widgets/replay_bar.h"
 #include "desktop/widgets/side_panel.h"
 #include "desktop/widgets/summary_table.h"
+#include "desktop/widgets/time_strip_view.h"
 #include "pages/page_scale.h"
 
 namespace campora {
@@ -76,6 +77,8 @@ MainWindow::MainWindow(const Services& services, Language language,
       mapArea_(new MapArea),
       sidePanel_(new SidePanel),
       splitter_(new QSplitter),
+      timeStrip_(new TimeStripView),
+      timeStripWanted_(readSwitch(services.settings, SettingId::TimeStrip)),
       replayBar_(new ReplayBar),
       position_(new QLabel),
       toolText_(new QLabel),
@@ -95,6 +98,7 @@ MainWindow::MainWindow(const Services& services, Language language,
     session_ = std::make_unique<Session>(mapArea_->map().canvas(), *this, services, language,
                                          programFolder);
     makeLotPanel();
+    timeStrip_->setStrip(session_->timeStrip());
     connectMap();
     connectFileList();
     connectReplay();
@@ -122,6 +126,8 @@ void MainWindow::arrange() {
     row->setSpacing(0);
     row->addWidget(splitter_, 1);
     column->addLayout(row, 1);
+    timeStrip_->hide();
+    column->addWidget(timeStrip_);
     column->addWidget(replayBar_);
     setCentralWidget(middle);
     resize(kFirstSize.boundedTo(screen()->availableSize()));
@@ -227,6 +233,7 @@ void MainWindow::retranslate() {
     mapArea_->retranslate(texts);
     sidePanel_->retranslate(texts);
     replayBar_->retranslate(texts);
+    timeStrip_->retranslate(texts);
     lotPanel_->retranslate();
     tools_->setAccessibleName(toQt(texts(TextId::MainTools)));
     showScale();
@@ -314,12 +321,17 @@ void MainWindow::commandsChanged() {
     showLotPanel();
     sidePanel_->passes().showWork();
     sidePanel_->problems().showWork();
+    showTimeStrip();
     actions_->showStates(session_->texts(), availability());
     replayBar_->setSpeedShown(session_->replay().speedShown());
 }
 
 void MainWindow::setReplay(const ReplayState& state) {
     replayBar_->setState(state);
+    if (session_ != nullptr) {
+        session_->timeStrip().setReplayed(state.position > 0 ? std::optional(state.position)
+                                                             : std::nullopt);
+    }
 }
 
 void MainWindow::setSpeedReadout(std::string_view text) {

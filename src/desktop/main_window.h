@@ -26,6 +26,7 @@ class LotPanel;
 class MapArea;
 class ReplayBar;
 class SidePanel;
+class TimeStripView;
 
 /// The main window: shows what the session says and hands the user's commands to it.
 class MainWindow final : public QMainWindow, public MainWindowControls {
@@ -74,6 +75,9 @@ public:
     [[nodiscard]] bool hasRoomForSidePanel() const;
     void toggleFullScreen();
     void stepProblem(bool forward);
+    void toggleTimeStrip();
+    void playStretch();
+    [[nodiscard]] bool timeStripWanted() const { return timeStripWanted_; }
 
     void setTitle(std::string_view title) override;
     void setFileList(std::span<const FileListRow> rows, std::optional<int> selected) override;
@@ -107,6 +111,8 @@ private:
     /// Shows or hides the panel beside the map as the editor of lots is open or not.
     void showLotPanel();
     void arrangePanels();
+    /// Shows or hides the strip under the map as it is wanted and has something to show.
+    void showTimeStrip();
     void fillMenus();
     void fillRecentMenu();
     void fillChannelMenu();
@@ -122,6 +128,8 @@ private:
     MapArea* mapArea_;
     SidePanel* sidePanel_;
     QSplitter* splitter_;
+    TimeStripView* timeStrip_;
+    bool timeStripWanted_;
     ReplayBar* replayBar_;
     /// Made when there is a session.
     LotPanel* lotPanel_ = nullptr;

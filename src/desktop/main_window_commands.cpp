@@ -8,6 +8,7 @@
 #include <QAction>
 #include <QMenu>
 
+#include "app/settings.h"
 #include "base/paths.h"
 #include "desktop/dialogs/about_dialog.h"
 #include "desktop/dialogs/check_dialog.h"
@@ -27,6 +28,7 @@
 #include "desktop/widgets/map_area.h"
 #include "desktop/widgets/map_widget.h"
 #include "desktop/widgets/side_panel.h"
+#include "desktop/widgets/time_strip_view.h"
 #include "paint/picture_file.h"
 
 namespace campora {
@@ -138,6 +140,23 @@ void MainWindow::toggleFullScreen() {
 void MainWindow::stepProblem(bool forward) {
     sidePanel_->openProblems();
     session_->findingCommands().stepProblem(forward);
+}
+
+void MainWindow::toggleTimeStrip() {
+    timeStripWanted_ = !timeStripWanted_;
+    writeSwitch(services_.settings, SettingId::TimeStrip, timeStripWanted_);
+    showTimeStrip();
+    if (timeStripWanted_) {
+        timeStrip_->setFocus();
+    } else {
+        mapArea_->map().setFocus();
+    }
+}
+
+void MainWindow::playStretch() {
+    if (const std::optional<WorkPlace> first = session_->timeStrip().stretch()) {
+        session_->playFrom(*first);
+    }
 }
 
 void MainWindow::connectMenus() {

@@ -1,7 +1,7 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 
-// The panel that stands beside the map while a lot is drawn.
+// What stands beside and below the map for a while: the panel of a lot that is drawn, the strip.
 
 #include <algorithm>
 
@@ -12,6 +12,7 @@
 #include "desktop/widgets/map_area.h"
 #include "desktop/widgets/map_widget.h"
 #include "desktop/widgets/side_panel.h"
+#include "desktop/widgets/time_strip_view.h"
 
 namespace campora {
 
@@ -54,6 +55,18 @@ void MainWindow::showLotPanel() {
         centralWidget()->layout()->activate();  // the map has its new size now and shows all
     });
     mapArea_->map().setFocus();
+}
+
+void MainWindow::showTimeStrip() {
+    const bool shows = timeStripWanted_ && session_->timeStrip().hasWork();
+    if (shows == timeStrip_->isHidden()) {
+        session_->display().keepingPlace([this, shows] {
+            timeStrip_->setVisible(shows);
+            centralWidget()->layout()->activate();
+        });
+        session_->timeStrip().setShown(shows);
+    }
+    session_->timeStrip().refresh();
 }
 
 }  // namespace campora

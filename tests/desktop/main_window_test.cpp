@@ -191,6 +191,9 @@ TEST_P(WindowInLanguage, EveryTextIsFromTheTable) {
     const QMap<QString, QString> shown = shownTexts(*window);
     EXPECT_GT(shown.size(), 100);
     for (auto text = shown.begin(); text != shown.end(); ++text) {
+        if (text.value() == "QLabelreplayClock.text") {
+            continue;  // figures
+        }
         // Those of grey entries have the reason in a line of its own.
         const bool isWhole = table.contains(text.key());
         for (const QString& line : isWhole ? QStringList(text.key()) : text.key().split('\n')) {

@@ -76,6 +76,12 @@ ReplayBar::ReplayBar(QWidget* parent)
     row->addWidget(speedValue_);
     row->addWidget(speedFrame_);
 
+    connectControls();
+    setSpeedShown(false);
+    enableControls();
+}
+
+void ReplayBar::connectControls() {
     nextShown_.setSingleShot(true);
     connect(&nextShown_, &QTimer::timeout, this, &ReplayBar::showPosition);
     connect(play_, &QToolButton::clicked, this, &ReplayBar::playAsked);
@@ -84,8 +90,6 @@ ReplayBar::ReplayBar(QWidget* parent)
     connect(position_, &JumpSlider::jumped, this, &ReplayBar::jumpAsked);
     connect(speed_, &QSlider::valueChanged, this,
             [this](int shown) { emit speedChosen(shownSpeed(shown)); });
-    setSpeedShown(false);
-    enableControls();
 }
 
 void ReplayBar::setState(const ReplayState& state) {

@@ -51,6 +51,7 @@ signals:
     void speedChosen(int speed);
 
 private:
+    void connectControls();
     void showPosition();
     void enableControls();
 

@@ -1,0 +1,71 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+//
+// How many times a second the time strip of a large job is scrolled and painted. On the screen of
+// DISPLAY where there is one, else off the screen.
+
+#include <iostream>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QTimer>
+
+#include "desktop/main_window.h"
+#include "desktop/widgets/look.h"
+#include "desktop/widgets/time_strip_view.h"
+#include "desktop/window_program.h"
+#include "support/temp_folder.h"
+#include "window/large_report.h"
+
+namespace {
+
+using namespace campora;
+
+constexpr int kRecords = 1'000'000;
+constexpr int kFrames = 300;
+
+void measure(TimeStripView& view, TimeStrip& strip, int zoom) {
+    strip.zoomAt(0, zoom);
+    QElapsedTimer timer;
+    timer.start();
+    qint64 longest = 0;
+    for (int frame = 0; frame < kFrames; ++frame) {
+        QElapsedTimer one;
+        one.start();
+        strip.scroll(7);
+        view.repaint();
+        longest = std::max(longest, one.nsecsElapsed());
+    }
+    const double seconds = static_cast<double>(timer.nsecsElapsed()) / 1e9;
+    std::cout << view.width() << " pixels, zoom " << zoom << ": " << kFrames / seconds
+              << " frames a second, the longest " << static_cast<double>(longest) / 1e6 << " ms\n";
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (qEnvironmentVariableIsEmpty("DISPLAY")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    const TempFolder folder;
+    qputenv("XDG_CONFIG_HOME", folder.path().c_str());
+    qputenv("XDG_DATA_HOME", folder.path().c_str());
+    QApplication application(argc, argv);
+    applyLook();
+    WindowProgram program;
+    MainWindow& window = program.window();
+    window.resize(1366, 768);
+    QTimer::singleShot(500, &window, [&] {
+        window.openPaths({folder.write("lote.rpt", largeReport(kRecords))}, true);
+        QElapsedTimer timer;
+        timer.start();
+        window.toggleTimeStrip();
+        QCoreApplication::processEvents();
+        std::cout << "shown after " << timer.elapsed() << " ms\n";
+        for (const int zoom : {1, 5, 15, 20}) {
+            measure(*window.findChild<TimeStripView*>(), window.session().timeStrip(), zoom);
+        }
+        QCoreApplication::quit();
+    });
+    return QApplication::exec();
+}
