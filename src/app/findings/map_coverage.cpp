@@ -3,6 +3,8 @@
 
 #include "app/findings/map_coverage.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <optional>
 #include <utility>
 
@@ -41,8 +43,11 @@ private:
 
 class CoverageMode final : public ModeLayer {
 public:
-    CoverageMode(Coverage coverage, std::vector<std::vector<LonLat>> lots)
-        : figures_(coverage.figures), layer_(std::move(coverage.grid), std::move(lots)) {}
+    /// `works`: files of which it is the coverage together.
+    CoverageMode(Coverage coverage, std::vector<std::vector<LonLat>> lots, std::size_t works)
+        : figures_(coverage.figures),
+          layer_(std::move(coverage.grid), std::move(lots)),
+          works_(works) {}
 
     [[nodiscard]] const Gph& layer() const override { return layer_; }
     [[nodiscard]] LegendContent legend(const Desk& desk) const override {
@@ -61,6 +66,10 @@ public:
     }
     [[nodiscard]] std::vector<SummaryRow> figures(const Desk& desk) const override {
         std::vector<SummaryRow> rows;
+        if (works_ > 1) {
+            rows.push_back({std::string(desk.texts(TextId::CoverageMap)).append(":"),
+                            std::string(desk.texts(TextId::AllWorkTogether))});
+        }
         for (CoverageRow& row : coverageRows(figures_, desk)) {
             rows.push_back({std::string(desk.texts(row.name)).append(":"), std::move(row.value)});
         }
@@ -74,6 +83,7 @@ public:
 private:
     CoverageFigures figures_;
     CoverageLayer layer_;
+    std::size_t works_;
 };
 
 }  // namespace
@@ -120,7 +130,11 @@ std::unique_ptr<ModeLayer> makeCoverageMode(const OpenMap& map) {
     for (const LotRing& ring : input.lots) {
         lots.emplace_back(ring.begin(), ring.end());
     }
-    return std::make_unique<CoverageMode>(std::move(coverage), std::move(lots));
+    const std::vector<File*> files = map.files().all();
+    const auto works = std::count_if(files.begin(), files.end(),
+                                     [](const File* file) { return !workLayers(*file).empty(); });
+    return std::make_unique<CoverageMode>(std::move(coverage), std::move(lots),
+                                          static_cast<std::size_t>(works));
 }
 
 }  // namespace campora
