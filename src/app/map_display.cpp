@@ -97,7 +97,7 @@ void MapDisplay::showEmpty() {
 }
 
 bool MapDisplay::recalcGphBound() {
-    const BoundingBox bound = map_.bound();
+    const BoundingBox bound = boundOf(map_);
     if (bound.equals(view_.totalBound)) {
         return false;
     }

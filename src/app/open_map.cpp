@@ -36,9 +36,9 @@ std::vector<Gph*> OpenMap::getGphList() const {
     return all;
 }
 
-BoundingBox OpenMap::bound() const {
+BoundingBox boundOf(const OpenMap& map) {
     BoundingBox bound;
-    for (const File* file : files_.all()) {
+    for (const File* file : map.files().all()) {
         // A file without points has no box, and takes no part in the extent of the map.
         if (const BoundingBox& box = file->File_bound(); box.isSet) {
             bound.addBoundingBox(box);
@@ -47,10 +47,10 @@ BoundingBox OpenMap::bound() const {
     return bound;
 }
 
-void OpenMap::recalcErrorAreas() {
-    for (File* file : files_.all()) {
+void recalcErrorAreas(OpenMap& map) {
+    for (File* file : map.files().all()) {
         if (auto* const group = dynamic_cast<FileGphGroup*>(file)) {
-            group->calcErrorArea(style_, desk_.locale);
+            group->calcErrorArea(map.style(), map.desk().locale);
         }
     }
 }
@@ -157,7 +157,7 @@ void OpenMap::filesChanged() {
     ranges_ = rangesOf(files_.all());
     refreshColorScale();
     if (style_.mode == ColorMode::Error) {
-        recalcErrorAreas();
+        recalcErrorAreas(*this);
     }
 }
 

@@ -78,8 +78,6 @@ public:
     [[nodiscard]] int plotCount() const { return files_.loadedCount(); }
     /// All layers of all open files, first file first.
     [[nodiscard]] std::vector<Gph*> getGphList() const;
-    /// The box around the open files; not set without points.
-    [[nodiscard]] BoundingBox bound() const;
     /// Of the files that are open.
     [[nodiscard]] const ValueRanges& ranges() const { return ranges_; }
     [[nodiscard]] const WorkHistory& history() const { return history_; }
@@ -98,9 +96,6 @@ public:
     [[nodiscard]] bool showModeLayer(ColorMode mode, MakeModeLayer make);
     /// What is drawn in place of the work; null for nothing.
     [[nodiscard]] const ModeLayer* modeLayer() const;
-
-    /// Brings the hectares in error of every file up to date with the error map.
-    void recalcErrorAreas();
 
     /// Opens files by their endings, in order, until the user has enough; says what is wrong with
     /// each that is refused. One that is open already is left out. Answers those that were taken.
@@ -158,6 +153,12 @@ private:
     std::unique_ptr<ModeLayer> modeLayer_;
     ColorMode layeredMode_ = ColorMode::Dose;
 };
+
+/// The box around the open files; not set without points.
+[[nodiscard]] BoundingBox boundOf(const OpenMap& map);
+
+/// Brings the hectares in error of every file up to date with the error map.
+void recalcErrorAreas(OpenMap& map);
 
 /// Lets a dose channel, from 0, colour the work; prescriptions show it. -1 is the total. Files that
 /// lack it are named.

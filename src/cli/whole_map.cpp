@@ -31,7 +31,7 @@ WholeMap::WholeMap(OpenMap& map, MapCanvas& canvas, const Arguments& arguments)
         selectChannel(map, style.selectedChannel);
     }
     map.refreshColorScale();
-    view_.totalBound = map.bound();
+    view_.totalBound = boundOf(map);
     view_.fitView();
     view_.ZoomUno();
 }

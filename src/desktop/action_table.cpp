@@ -32,6 +32,13 @@ std::optional<TextId> whyNoStretch(const MainWindow& window) {
     return isChosen ? std::nullopt : std::optional(TextId::NoStretchChosen);
 }
 
+void playStretch(MainWindow& window) {
+    Session& session = window.session();
+    if (const std::optional<WorkPlace> first = session.timeStrip().stretch()) {
+        session.playFrom(*first);
+    }
+}
+
 // clang-format off
 constexpr ActionRow kActions[] = {
     {.name = "mnuFileOpen", .text = TextId::ActionOpen, .tooltip = TextId::TipOpen, .icon = "open",
@@ -219,7 +226,7 @@ constexpr ActionRow kActions[] = {
      .tooltip = TextId::TipPreviousProblem, .shortcuts = "Shift+F8", .menu = MenuId::View,
      .needs = Needs::Map, .isSlow = true, .run = [](MainWindow& w) { w.stepProblem(false); },
      .whyNot = whyNoProblem},
-    {.name = "mnuViewTimeStrip", .text = TextId::ActionTimeStrip, .tooltip = TextId::TipTimeStrip,
+    {.name = "showTimeStrip", .text = TextId::ActionTimeStrip, .tooltip = TextId::TipTimeStrip,
      .shortcuts = "F7", .menu = MenuId::View,
      .run = [](MainWindow& w) { w.toggleTimeStrip(); },
      .isOn = [](const MainWindow& w) { return w.timeStripWanted(); },
@@ -324,10 +331,10 @@ constexpr ActionRow kActions[] = {
     {.name = "mnuReplayStop", .text = TextId::ActionStop, .tooltip = TextId::TipStop,
      .icon = "stop", .shortcuts = "Ctrl+.", .menu = MenuId::Replay, .needs = Needs::Replay,
      .run = [](MainWindow& w) { w.session().replay().stop(); }},
-    {.name = "mnuReplayStretch", .text = TextId::ActionPlayStretch,
+    {.name = "playStretch", .text = TextId::ActionPlayStretch,
      .tooltip = TextId::TipPlayStretch, .shortcuts = "Shift+Space", .menu = MenuId::Replay,
      .needs = Needs::Replay,
-     .run = [](MainWindow& w) { w.playStretch(); },
+     .run = playStretch,
      .whyNot = whyNoStretch},
     {.name = "mnuHelpKeys", .text = TextId::ActionKeys, .tooltip = TextId::TipKeys,
      .icon = "keys", .shortcuts = "F1", .menu = MenuId::Help,

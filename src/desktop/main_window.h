@@ -76,7 +76,6 @@ public:
     void toggleFullScreen();
     void stepProblem(bool forward);
     void toggleTimeStrip();
-    void playStretch();
     [[nodiscard]] bool timeStripWanted() const { return timeStripWanted_; }
 
     void setTitle(std::string_view title) override;

@@ -153,12 +153,6 @@ void MainWindow::toggleTimeStrip() {
     }
 }
 
-void MainWindow::playStretch() {
-    if (const std::optional<WorkPlace> first = session_->timeStrip().stretch()) {
-        session_->playFrom(*first);
-    }
-}
-
 void MainWindow::connectMenus() {
     session_->prescCommands().chooseChannels = [this] {
         return DoseColumnDialog(session_->map(), services_, this).choose();

@@ -118,7 +118,7 @@ void ColorModeCommands::toggle(ColorMode mode) {
         return;
     }
     if (before == ColorMode::Error && style.mode != ColorMode::Error) {
-        map_.recalcErrorAreas();
+        recalcErrorAreas(map_);
     }
     showNewClasses();
 }
@@ -194,7 +194,7 @@ void ColorModeCommands::showNewClasses() {
     map_.refreshColorScale();
     display_.showLegend();
     if (map_.style().mode == ColorMode::Error) {
-        map_.recalcErrorAreas();
+        recalcErrorAreas(map_);
     }
     display_.showSummary();  // errors, or what a mode computes, stand there
     display_.styleChanged();

@@ -62,7 +62,7 @@ void DrawingCommands::mnuEditTrocha() {
         }
     }
     if (map_.style().mode == ColorMode::Error) {
-        map_.recalcErrorAreas();
+        recalcErrorAreas(map_);
     }
     display_.refresh();  // hectares are others
     display_.redraw();

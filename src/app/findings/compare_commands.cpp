@@ -60,7 +60,7 @@ bool CompareCommands::showMap() {
     const bool hadErrors = map_.style().mode == ColorMode::Error;
     const bool isShown = showDeviation(map_, [this](const File& job) { return planOf(job); });
     if (hadErrors) {
-        map_.recalcErrorAreas();
+        recalcErrorAreas(map_);
     }
     return isShown;
 }

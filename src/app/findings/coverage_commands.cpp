@@ -27,7 +27,7 @@ void CoverageCommands::toggleMap() {
         return;
     }
     if (hadErrors) {
-        map_.recalcErrorAreas();
+        recalcErrorAreas(map_);
     }
     display_.showSummary();
     display_.showLegend();

@@ -137,7 +137,7 @@ void SummaryCommands::backToMeasured() {
 
 void SummaryCommands::show() {
     if (map_.style().mode == ColorMode::Error) {
-        map_.recalcErrorAreas();  // its entry stands in no file
+        recalcErrorAreas(map_);  // its entry stands in no file
     }
     display_.showSummary();
 }

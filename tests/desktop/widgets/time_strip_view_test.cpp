@@ -14,7 +14,7 @@ namespace campora {
 namespace {
 
 TEST_F(WindowTest, TheTimeStripComesUnderTheMap) {
-    QAction* const command = window->findChild<QAction*>("mnuViewTimeStrip");
+    QAction* const command = window->findChild<QAction*>("showTimeStrip");
     auto* const strip = window->findChild<TimeStripView*>();
     EXPECT_FALSE(command->isEnabled());
     EXPECT_TRUE(command->toolTip().contains("No hay ningún trabajo abierto"));
@@ -39,7 +39,7 @@ TEST_F(WindowTest, TheTimeStripComesUnderTheMap) {
         QTest::mouseMove(strip, to);
         QTest::mouseRelease(strip, Qt::LeftButton, {}, to);
     };
-    QAction* const play = window->findChild<QAction*>("mnuReplayStretch");
+    QAction* const play = window->findChild<QAction*>("playStretch");
     EXPECT_FALSE(play->isEnabled());
     drag({300, 60}, {500, 60});
     EXPECT_TRUE(play->isEnabled());
