@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <optional>
 #include <utility>
 
 namespace campora {
@@ -17,19 +16,26 @@ using Tile = CoverageGrid::Tile;
 /// Of what is outlined at least: a pixel of the screen, and as little on paper.
 constexpr std::int32_t kPixelsOutlined = 4;
 
-std::optional<Color> colorOf(std::uint8_t cell) {
+/// What a cell is drawn as; ground that nothing is drawn on comes first.
+enum class Ground : std::uint8_t { Bare, Once, Twice, More, Skipped };
+
+Ground groundOf(std::uint8_t cell) {
     if (CoverageGrid::isLeftOut(cell)) {
-        return coverage_colors::kSkipped;
+        return Ground::Skipped;
     }
-    switch (CoverageGrid::timesCovered(cell)) {
-    case 0:
-        return std::nullopt;
-    case 1:
+    return static_cast<Ground>(std::min(CoverageGrid::timesCovered(cell), 3));
+}
+
+Color colorOf(Ground ground) {
+    switch (ground) {
+    case Ground::Once:
         return coverage_colors::kOnce;
-    case 2:
+    case Ground::Twice:
         return coverage_colors::kTwice;
-    default:
+    case Ground::More:
         return coverage_colors::kMore;
+    default:
+        return coverage_colors::kSkipped;
     }
 }
 
@@ -52,19 +58,18 @@ public:
     RowPainter(MapCanvas& canvas, std::int32_t top, std::int32_t side)
         : canvas_(canvas), top_(top), side_(side) {}
 
-    void pixel(std::int32_t left, std::optional<Color> color) {
-        if (color != color_) {
+    void pixel(std::int32_t left, Ground ground) {
+        if (ground != ground_) {
             finish(left);
-            color_ = color;
+            ground_ = ground;
             from_ = left;
         }
     }
     void finish(std::int32_t left) {
-        if (color_) {
-            canvas_.rectangle({from_, top_}, {left - 1, top_ + side_ - 1}, *color_,
+        if (ground_ != Ground::Bare) {
+            canvas_.rectangle({from_, top_}, {left - 1, top_ + side_ - 1}, colorOf(ground_),
                               RectangleStyle::Filled);
         }
-        color_.reset();
     }
 
 private:
@@ -72,7 +77,7 @@ private:
     std::int32_t top_;
     std::int32_t side_;
     std::int32_t from_ = 0;
-    std::optional<Color> color_;
+    Ground ground_ = Ground::Bare;
 };
 
 }  // namespace
@@ -138,7 +143,7 @@ void CoverageLayer::plotRow(MapContext& context, std::int32_t top, std::int32_t 
     RowPainter painter(context.canvas, top, side);
     const Tile* tile = nullptr;
     for (std::int32_t left = 0, n = 0; left < view.canvas().width; left += side, ++n) {
-        painter.pixel(left, colorOf(cellAt({first.u + n * stepU, first.v + n * stepV}, tile)));
+        painter.pixel(left, groundOf(cellAt({first.u + n * stepU, first.v + n * stepV}, tile)));
     }
     painter.finish(view.canvas().width);
 }
