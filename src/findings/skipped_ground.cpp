@@ -73,7 +73,9 @@ struct Envelope {
 };
 
 void spreadAlong(std::span<float> row, Envelope& envelope) {
-    auto& [roots, starts, values] = envelope;
+    std::vector<std::size_t>& roots = envelope.roots;
+    std::vector<float>& starts = envelope.starts;
+    std::vector<float>& values = envelope.values;
     std::copy(row.begin(), row.end(), values.begin());
     const auto square = [](std::size_t place) { return static_cast<float>(place * place); };
     std::size_t last = 0;
