@@ -45,13 +45,15 @@ bool isNear(LatticePoint point) {
 
 std::span<std::uint8_t> CoverageGrid::Tile::part(std::int32_t cellRow, std::int32_t first,
                                                  std::int32_t count) {
-    return std::span(cells).subspan(static_cast<std::size_t>(cellRow * kTileSide + first),
+    return std::span(cells).subspan(static_cast<std::size_t>(cellRow) * kTileSide +
+                                        static_cast<std::size_t>(first),
                                     static_cast<std::size_t>(count));
 }
 
 std::span<const std::uint8_t> CoverageGrid::Tile::part(std::int32_t cellRow, std::int32_t first,
                                                        std::int32_t count) const {
-    return std::span(cells).subspan(static_cast<std::size_t>(cellRow * kTileSide + first),
+    return std::span(cells).subspan(static_cast<std::size_t>(cellRow) * kTileSide +
+                                        static_cast<std::size_t>(first),
                                     static_cast<std::size_t>(count));
 }
 

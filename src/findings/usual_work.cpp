@@ -18,12 +18,14 @@ namespace campora {
 namespace {
 
 constexpr double kSteps = 5;
+/// km/h: aircraft spray below 300, and what is more was never measured.
+constexpr float kFastest = 400;
 
 /// Seconds by speed, in bins as fine as the records have them.
 class SpeedTable {
 public:
     void add(float speed, double seconds) {
-        const auto bin = static_cast<std::size_t>(speed / kBin + 0.5F);
+        const auto bin = static_cast<std::size_t>(std::lround(speed / kBin));
         if (bin >= seconds_.size()) {
             seconds_.resize(bin + 1);
         }
@@ -60,7 +62,8 @@ void setSpeeds(UsualWork& usual, const WorkWay& way) {
         const double seconds = way.assumedSeconds(i, i + 1);
         // A stop is no speed of the work, however long.
         const double most = usual.longestStep.value_or(seconds);
-        if (record.dosed && record.speed > 0 && !record.endsPass && seconds <= most) {
+        if (record.dosed && record.speed > 0 && record.speed <= kFastest && !record.endsPass &&
+            seconds <= most) {
             table.add(record.speed, seconds);
         }
     }

@@ -42,11 +42,13 @@ Color colorOf(Ground ground) {
 BoundingBox boundOf(const CoverageGrid& grid) {
     BoundingBox bound;
     for (const auto& tile : grid.tiles()) {
-        for (const int corner : {0, 1, 2, 3}) {
-            const LonLat at = grid.lattice().position(
-                {static_cast<double>(tile->column + corner % 2) * CoverageGrid::kTileSide,
-                 static_cast<double>(tile->row + corner / 2) * CoverageGrid::kTileSide});
-            bound.addPoint(at.x, at.y);
+        const double west = static_cast<double>(tile->column) * CoverageGrid::kTileSide;
+        const double south = static_cast<double>(tile->row) * CoverageGrid::kTileSide;
+        for (const double u : {west, west + CoverageGrid::kTileSide}) {
+            for (const double v : {south, south + CoverageGrid::kTileSide}) {
+                const LonLat at = grid.lattice().position({u, v});
+                bound.addPoint(at.x, at.y);
+            }
         }
     }
     return bound;

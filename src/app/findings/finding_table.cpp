@@ -100,7 +100,7 @@ std::string startText(const RecordTime& time, const Desk& desk) {
         return kNothing;
     }
     const auto ofDay = static_cast<int>((time.second % kDay + kDay) % kDay);
-    const std::string clock = timeText({ofDay / 3600, ofDay / 60 % 60, ofDay % 60});
+    std::string clock = timeText({ofDay / 3600, ofDay / 60 % 60, ofDay % 60});
     if (time.clock == RecordClock::TimeOfDay) {
         return clock;
     }
@@ -143,9 +143,9 @@ void FindingTable::addFile(std::string name, const Problems& problems, WorkKind 
     }
 }
 
-void FindingTable::addRow(Row row) {
+void FindingTable::addRow(const Row& row) {
     order_.push_back(rows_.size());
-    rows_.push_back(std::move(row));
+    rows_.push_back(row);
 }
 
 std::span<const FindingColumn> FindingTable::columns() const {

@@ -102,7 +102,7 @@ private:
 
     [[nodiscard]] const Row& at(std::size_t row) const { return rows_[order_[row]]; }
     [[nodiscard]] std::string figureText(const Row& row, std::size_t column) const;
-    void addRow(Row row);
+    void addRow(const Row& row);
 
     Kind kind_;
     Desk desk_;
