@@ -78,9 +78,11 @@ SidePanel::SidePanel(QWidget* parent)
 
 void SidePanel::retranslate(const Texts& texts) {
     filesHeading_->setTitle(toQt(texts(TextId::FilesHeading)));
-    constexpr TextId kTabs[] = {TextId::SummaryHeading, TextId::PassesTab, TextId::ProblemsTab};
-    for (int tab = 0; tab < tables_->count(); ++tab) {
-        tables_->setTabText(tab, toQt(texts(kTabs[tab])));
+    const std::pair<QWidget*, TextId> tabs[] = {{summary_, TextId::SummaryHeading},
+                                                {passes_, TextId::PassesTab},
+                                                {problems_, TextId::ProblemsTab}};
+    for (const auto& [table, name] : tabs) {
+        tables_->setTabText(tables_->indexOf(table), toQt(texts(name)));
     }
     summary_->setAccessibleName(toQt(texts(TextId::SummaryHeading)));
     tables_->setAccessibleName(summary_->accessibleName());
