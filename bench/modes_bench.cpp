@@ -72,7 +72,7 @@ struct OpenWork {
 void changeMode(benchmark::State& state, void (*change)(Session&), int channel) {
     OpenWork work(static_cast<std::size_t>(state.range(0)));
     if (channel >= 0) {
-        work.session.colorModeCommands().mnuColorScaleSelCH(channel);
+        work.session.colours().modes.mnuColorScaleSelCH(channel);
     }
     for (auto _ : state) {
         change(work.session);
@@ -86,15 +86,15 @@ void changeMode(benchmark::State& state, void (*change)(Session&), int channel) 
         ->Arg(100000)                                                                              \
         ->Unit(benchmark::kMillisecond)
 
-CAMPORA_MODE(alarmMap, colorModeCommands().mnuAlarmsPaint, -1);
-CAMPORA_MODE(dateMap, colorModeCommands().mnuColorDateMap, -1);
-CAMPORA_MODE(errorMapOfTotal, colorModeCommands().mnuColorErrorMap, -1);
-CAMPORA_MODE(errorMapOfChannel, colorModeCommands().mnuColorErrorMap, 0);
-CAMPORA_MODE(graduated, colorModeCommands().mnuEditGraduated, -1);
-CAMPORA_MODE(byMinute, colorModeCommands().mnuEditGraduatedByLtsMin, -1);
-CAMPORA_MODE(total, colorModeCommands().mnuColorScaleSelTotal, -1);
-CAMPORA_MODE(onlyWorked, drawingCommands().mnuEditDrawAll, -1);
-CAMPORA_MODE(borders, drawingCommands().mnuEditDrawBorder, -1);
+CAMPORA_MODE(alarmMap, colours().modes.mnuAlarmsPaint, -1);
+CAMPORA_MODE(dateMap, colours().modes.mnuColorDateMap, -1);
+CAMPORA_MODE(errorMapOfTotal, colours().modes.mnuColorErrorMap, -1);
+CAMPORA_MODE(errorMapOfChannel, colours().modes.mnuColorErrorMap, 0);
+CAMPORA_MODE(graduated, colours().modes.mnuEditGraduated, -1);
+CAMPORA_MODE(byMinute, colours().modes.mnuEditGraduatedByLtsMin, -1);
+CAMPORA_MODE(total, colours().modes.mnuColorScaleSelTotal, -1);
+CAMPORA_MODE(onlyWorked, colours().drawing.mnuEditDrawAll, -1);
+CAMPORA_MODE(borders, colours().drawing.mnuEditDrawBorder, -1);
 
 }  // namespace
 

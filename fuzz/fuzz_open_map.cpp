@@ -58,8 +58,8 @@ bool open(WatchedSession& watched, const FileSet& set, const ScratchFolder& fold
 }
 
 void drawInEveryMode(Session& session) {
-    ColorModeCommands& modes = session.colorModeCommands();
-    DrawingCommands& drawing = session.drawingCommands();
+    ColorModeCommands& modes = session.colours().modes;
+    DrawingCommands& drawing = session.colours().drawing;
     drawing.mnuEditDrawAll();
     modes.mnuAlarmsPaint();
     modes.mnuAlarmsAlarm(1);

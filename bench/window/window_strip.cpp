@@ -63,7 +63,8 @@ int main(int argc, char** argv) {
         QCoreApplication::processEvents();
         std::cout << "shown after " << timer.elapsed() << " ms\n";
         for (const int zoom : {1, 5, 15, 20}) {
-            measure(*window.findChild<TimeStripView*>(), window.session().timeStrip(), zoom);
+            measure(*window.findChild<TimeStripView*>(), window.session().findings().timeStrip,
+                    zoom);
         }
         QCoreApplication::quit();
     });

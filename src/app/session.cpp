@@ -24,34 +24,38 @@ Session::Session(MapCanvas& canvas, MainWindowControls& window, const Services& 
                   tools_.hideResult();
                   tools_.cancelDrag();
               }),
-      timeStrip_(map_, display_, tools_),
       fileCommands_(map_, display_, tools_, services_.settings),
       listCommands_(map_, display_),
       summaryCommands_(map_, display_),
-      legendCommands_(map_, display_, services_.settings),
-      colorModeCommands_(map_, display_),
-      drawingCommands_(map_, display_, services_.settings),
-      compareCommands_(map_, display_),
-      coverageCommands_(map_, display_),
+      colours_(map_, display_, services_.settings),
       prescCommands_(map_, display_, tools_, services_.settings),
       lotEditor_(map_, display_, tools_, services_.settings, services_.shell),
       lotCommands_(map_, display_, lotEditor_, services_.settings),
       exportCommands_(map_, display_, tools_, services_),
-      findingCommands_(map_, display_, tools_) {
+      findings_(map_, display_, tools_) {
     map_.onReset = [this] { display_.showEmpty(); };
     display_.beforeDrawing = [this] { replay_.stopReplay(); };
     display_.onDrawn = [this] { tools_.viewChanged(); };
     display_.onFilesChanged = [this] {
-        timeStrip_.filesChanged();
+        findings_.timeStrip.filesChanged();
         replay_.prepareReplay();
-        findingCommands_.filesChanged();
+        findings_.tables.filesChanged();
     };
-    timeStrip_.onGo = [this](const WorkPlace& place) { goToRecord(place); };
-    timeStrip_.onPlay = [this](const WorkPlace& place) { playFrom(place); };
+    findings_.timeStrip.onGo = [this](const WorkPlace& place) {
+        if (const std::optional<std::int32_t> position = replayPosition(map_, place)) {
+            // A seek stops behind its target, at the first element that it shows.
+            replay_.jumpTo(std::max(*position - 1, 0));
+        }
+    };
+    findings_.timeStrip.onPlay = [this](const WorkPlace& place) {
+        if (const std::optional<std::int32_t> position = replayPosition(map_, place)) {
+            replay_.playFrom(*position);
+        }
+    };
     display_.onEmpty = [this] { tools_.reset(); };
     tools_.onDose = [this](LonLat position) { prescCommands_.changeDose(position); };
     tools_.onAsked = [this](const Gph& layer, std::int32_t n) {
-        findingCommands_.selectAt(layer, n);
+        findings_.tables.selectAt(layer, n);
     };
 }
 
@@ -59,7 +63,7 @@ void Session::start() {
     readStyleSettings(services_.settings, map_.style());
     tools_.setCoordType(
         static_cast<CoordType>(readNumber(services_.settings, SettingId::CoordType)));
-    legendCommands_.restoreRamp();
+    colours_.legend.restoreRamp();
     map_.readRegistrations();
     map_.reset();
 }
@@ -77,19 +81,6 @@ void Session::setLanguage(Language language) {
     window.setToolText({});
     tools_.hideResult();
     window.commandsChanged();
-}
-
-void Session::playFrom(const WorkPlace& place) {
-    if (const std::optional<std::int32_t> position = replayPosition(map_, place)) {
-        replay_.playFrom(*position);
-    }
-}
-
-void Session::goToRecord(const WorkPlace& place) {
-    if (const std::optional<std::int32_t> position = replayPosition(map_, place)) {
-        // A seek stops behind its target, at the first element that it shows.
-        replay_.jumpTo(std::max(*position - 1, 0));
-    }
 }
 
 void Session::setCoordType(CoordType type) {

@@ -5,13 +5,8 @@
 
 #include <string>
 
-#include "app/colours/color_mode_commands.h"
-#include "app/colours/drawing_commands.h"
-#include "app/colours/legend_commands.h"
-#include "app/findings/compare_commands.h"
-#include "app/findings/coverage_commands.h"
-#include "app/findings/finding_commands.h"
-#include "app/findings/time_strip.h"
+#include "app/colours/colours.h"
+#include "app/findings/findings.h"
 #include "app/loaded_file_list.h"
 #include "app/lots/lot_commands.h"
 #include "app/lots/lot_editor.h"
@@ -24,7 +19,6 @@
 #include "app/open_map.h"
 #include "app/out/export_commands.h"
 #include "app/presc/presc_commands.h"
-#include "app/work_place.h"
 #include "base/texts.h"
 #include "platform/services.h"
 
@@ -47,30 +41,21 @@ public:
     /// How positions are shown, from now on and at the next start.
     void setCoordType(CoordType type);
 
-    /// Plays from a record on, or puts the replay there: a replay that plays goes on from it.
-    void playFrom(const WorkPlace& place);
-    void goToRecord(const WorkPlace& place);
-
     [[nodiscard]] const Services& services() const { return services_; }
     [[nodiscard]] const Texts& texts() const { return texts_; }
     [[nodiscard]] OpenMap& map() { return map_; }
     [[nodiscard]] MapDisplay& display() { return display_; }
     [[nodiscard]] MapTools& tools() { return tools_; }
     [[nodiscard]] Replay& replay() { return replay_; }
-    [[nodiscard]] TimeStrip& timeStrip() { return timeStrip_; }
     [[nodiscard]] FileCommands& fileCommands() { return fileCommands_; }
     [[nodiscard]] FileListCommands& listCommands() { return listCommands_; }
     [[nodiscard]] SummaryCommands& summaryCommands() { return summaryCommands_; }
-    [[nodiscard]] LegendCommands& legendCommands() { return legendCommands_; }
-    [[nodiscard]] ColorModeCommands& colorModeCommands() { return colorModeCommands_; }
-    [[nodiscard]] DrawingCommands& drawingCommands() { return drawingCommands_; }
-    [[nodiscard]] CompareCommands& compareCommands() { return compareCommands_; }
-    [[nodiscard]] CoverageCommands& coverageCommands() { return coverageCommands_; }
+    [[nodiscard]] Colours& colours() { return colours_; }
     [[nodiscard]] PrescCommands& prescCommands() { return prescCommands_; }
     [[nodiscard]] LotEditor& lotEditor() { return lotEditor_; }
     [[nodiscard]] LotCommands& lotCommands() { return lotCommands_; }
     [[nodiscard]] ExportCommands& exportCommands() { return exportCommands_; }
-    [[nodiscard]] FindingCommands& findingCommands() { return findingCommands_; }
+    [[nodiscard]] Findings& findings() { return findings_; }
 
 private:
     Services services_;
@@ -79,20 +64,15 @@ private:
     MapDisplay display_;
     MapTools tools_;
     Replay replay_;
-    TimeStrip timeStrip_;
     FileCommands fileCommands_;
     FileListCommands listCommands_;
     SummaryCommands summaryCommands_;
-    LegendCommands legendCommands_;
-    ColorModeCommands colorModeCommands_;
-    DrawingCommands drawingCommands_;
-    CompareCommands compareCommands_;
-    CoverageCommands coverageCommands_;
+    Colours colours_;
     PrescCommands prescCommands_;
     LotEditor lotEditor_;
     LotCommands lotCommands_;
     ExportCommands exportCommands_;
-    FindingCommands findingCommands_;
+    Findings findings_;
 };
 
 }  // namespace campora

@@ -98,7 +98,7 @@ MainWindow::MainWindow(const Services& services, Language language,
     session_ = std::make_unique<Session>(mapArea_->map().canvas(), *this, services, language,
                                          programFolder);
     makeLotPanel();
-    timeStrip_->setStrip(session_->timeStrip());
+    timeStrip_->setStrip(session_->findings().timeStrip);
     connectMap();
     connectFileList();
     connectReplay();
@@ -193,8 +193,8 @@ void MainWindow::connectMap() {
 }
 
 void MainWindow::connectFileList() {
-    sidePanel_->legend().setCommands(session_->legendCommands());
-    FindingCommands& findings = session_->findingCommands();
+    sidePanel_->legend().setCommands(session_->colours().legend);
+    FindingCommands& findings = session_->findings().tables;
     sidePanel_->passes().setCommands(findings, services_.clipboard);
     sidePanel_->problems().setCommands(findings, services_.clipboard);
     findings.onSelected = [this](FindingTable::Kind kind) {
@@ -329,8 +329,8 @@ void MainWindow::commandsChanged() {
 void MainWindow::setReplay(const ReplayState& state) {
     replayBar_->setState(state);
     if (session_ != nullptr) {
-        session_->timeStrip().setReplayed(state.position > 0 ? std::optional(state.position)
-                                                             : std::nullopt);
+        session_->findings().timeStrip.setReplayed(
+            state.position > 0 ? std::optional(state.position) : std::nullopt);
     }
 }
 

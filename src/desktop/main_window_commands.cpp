@@ -90,7 +90,8 @@ void MainWindow::goToCoordinate() {
 }
 
 void MainWindow::compareDoses() {
-    CompareDialog(session_->compareCommands(), session_->texts(), services_.clipboard, this).exec();
+    CompareDialog(session_->findings().comparison, session_->texts(), services_.clipboard, this)
+        .exec();
 }
 
 void MainWindow::setUpPage() {
@@ -139,7 +140,7 @@ void MainWindow::toggleFullScreen() {
 
 void MainWindow::stepProblem(bool forward) {
     sidePanel_->openProblems();
-    session_->findingCommands().stepProblem(forward);
+    session_->findings().tables.stepProblem(forward);
 }
 
 void MainWindow::toggleTimeStrip() {
@@ -217,7 +218,7 @@ void MainWindow::fillRecentMenu() {
 void MainWindow::fillChannelMenu() {
     QMenu& menu = actions_->menu(MenuId::Channel);
     menu.clear();
-    ColorModeCommands& modes = session_->colorModeCommands();
+    ColorModeCommands& modes = session_->colours().modes;
     const auto add = [&](const QString& caption, int channel, auto choose) {
         QAction* entry = menu.addAction(caption, this, choose);
         entry->setCheckable(true);
@@ -238,13 +239,13 @@ void MainWindow::fillAlarmMenu() {
     for (QAction* old : std::exchange(alarmActions_, {})) {
         delete old;
     }
-    const std::vector<AlarmEntry> entries = session_->colorModeCommands().alarmEntries();
+    const std::vector<AlarmEntry> entries = session_->colours().modes.alarmEntries();
     for (std::size_t i = 0; i < entries.size(); ++i) {
         if (!entries[i].visible) {
             continue;
         }
         QAction* entry = menu.addAction(toQt(entries[i].caption), this, [this, i] {
-            session_->colorModeCommands().mnuAlarmsAlarm(static_cast<int>(i));
+            session_->colours().modes.mnuAlarmsAlarm(static_cast<int>(i));
         });
         entry->setCheckable(true);
         entry->setChecked(entries[i].checked);

@@ -58,15 +58,15 @@ void MainWindow::showLotPanel() {
 }
 
 void MainWindow::showTimeStrip() {
-    const bool shows = timeStripWanted_ && session_->timeStrip().hasWork();
+    const bool shows = timeStripWanted_ && session_->findings().timeStrip.hasWork();
     if (shows == timeStrip_->isHidden()) {
         session_->display().keepingPlace([this, shows] {
             timeStrip_->setVisible(shows);
             centralWidget()->layout()->activate();
         });
-        session_->timeStrip().setShown(shows);
+        session_->findings().timeStrip.setShown(shows);
     }
-    session_->timeStrip().refresh();
+    session_->findings().timeStrip.refresh();
 }
 
 }  // namespace campora

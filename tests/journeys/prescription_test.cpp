@@ -82,7 +82,7 @@ TEST_F(Prescription, FromTwoMapsToAFileAndBack) {
     clickOnZone(1);
     EXPECT_EQ(legend(), (std::set<std::string>{"0", "65", "80", "100"}));
     answerInput("120");
-    session().legendCommands().askClassValue(3);
+    session().colours().legend.askClassValue(3);
     EXPECT_EQ(legend(), (std::set<std::string>{"0", "65", "80", "120"}));
 
     const std::string target = folder.file("salida.pre");

@@ -44,7 +44,7 @@ TEST_F(WorkDay, OpenZoomInformMeasureColourReplayAndStartAgain) {
 
     QTest::keyClick(&map(), Qt::Key_0, Qt::ControlModifier);
     EXPECT_EQ(session().display().view().scaleX(), wholeScale);
-    session().colorModeCommands().mnuColorScaleSelCH(0);
+    session().colours().modes.mnuColorScaleSelCH(0);
     choose("mnuColorErrorMap");
     EXPECT_EQ(session().map().style().mode, ColorMode::Error);
     EXPECT_TRUE(window().findChild<QAction*>("mnuColorErrorMap")->isChecked());

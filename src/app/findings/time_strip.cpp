@@ -176,6 +176,12 @@ void TimeStrip::go(double column) {
     }
 }
 
+void TimeStrip::playStretch() {
+    if (const std::optional<WorkPlace> first = stretch(); first && onPlay) {
+        onPlay(*first);
+    }
+}
+
 bool TimeStrip::press(Key key, bool brushes) {
     if (!series_) {
         return false;

@@ -97,6 +97,8 @@ public:
     void clearBrush();
     /// Puts the replay there.
     void go(double column);
+    /// Plays from the first record that is brushed on.
+    void playStretch();
     /// A key, perhaps with the one that brushes. False when it means nothing.
     bool press(Key key, bool brushes);
 

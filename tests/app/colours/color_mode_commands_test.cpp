@@ -66,8 +66,8 @@ struct ModesDesk : SessionDesk {
     }
     [[nodiscard]] ColorMode mode() { return session.map().style().mode; }
 
-    ColorModeCommands& modes = session.colorModeCommands();
-    DrawingCommands& drawing = session.drawingCommands();
+    ColorModeCommands& modes = session.colours().modes;
+    DrawingCommands& drawing = session.colours().drawing;
 };
 
 struct ColorModeCommandsTest : testing::Test, ModesDesk {};
@@ -209,7 +209,7 @@ TEST_F(ColorModeCommandsTest, LitresAndUnitsOfSeedHaveAScaleEach) {
     };
     EXPECT_EQ(shown(0), "3000 - 3000.4 unid/hect");
     EXPECT_EQ(shown(1), "100 - 100.4 lt/hect");
-    session.legendCommands().addClass();
+    session.colours().legend.addClass();
     EXPECT_EQ(session.map().scales().of(false).count(), 6);
     forget();
     session.display().redraw();

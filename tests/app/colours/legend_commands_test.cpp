@@ -43,7 +43,7 @@ struct LegendDesk : SessionDesk {
         return found;
     }
 
-    LegendCommands& commands = session.legendCommands();
+    LegendCommands& commands = session.colours().legend;
 };
 
 /// Steps of 10 m, one in 150 with a dose of 3000 and the others from 80 to 89.
@@ -66,8 +66,8 @@ TEST(LegendCommands, ClassesCanBeSpreadOverMostOfTheArea) {
     EXPECT_EQ(legend.remark, "Una clase cubre el 99 % de la superficie trabajada.");
     EXPECT_EQ(legend.offer, "Repartir las clases");
     EXPECT_EQ(desk.session.map().scales().of(false).valueMax(), 3000);
-    desk.session.legendCommands().addClass();
-    desk.session.legendCommands().spreadClasses(true);
+    desk.session.colours().legend.addClass();
+    desk.session.colours().legend.spreadClasses(true);
     const ColorScale& scale = desk.session.map().scales().of(false);
     EXPECT_EQ(scale.valueMin(), 80);
     EXPECT_EQ(scale.valueMax(), 89);
@@ -82,7 +82,7 @@ TEST(LegendCommands, ClassesCanBeSpreadOverMostOfTheArea) {
     next.session.start();
     next.open({creepingReport(next.folder)});
     EXPECT_EQ(next.session.map().scales().of(false).valueMax(), 89) << "it is remembered";
-    next.session.legendCommands().spreadClasses(false);
+    next.session.colours().legend.spreadClasses(false);
     EXPECT_EQ(next.session.map().scales().of(false).valueMax(), 3000);
 }
 
@@ -98,22 +98,22 @@ TEST(LegendCommands, ClassesLieAroundTheDoseThatWasPrescribed) {
         return found;
     };
     desk.dialogs.inputAnswers = {"-5", "85"};
-    desk.session.legendCommands().askTarget();
+    desk.session.colours().legend.askTarget();
     EXPECT_THAT(desk.dialogs.inputs, ElementsAre(testing::EndsWith("|100"))) << "as specified";
     EXPECT_THAT(desk.dialogs.messages, SizeIs(1));
     EXPECT_FALSE(desk.window.legend.aroundTarget);
-    desk.session.legendCommands().askTarget();
+    desk.session.colours().legend.askTarget();
     EXPECT_TRUE(desk.window.legend.aroundTarget);
     EXPECT_THAT(texts(), ElementsAre("0", "0 - 68", "68 - 76.5", "76.5 - 80.8", "80.8 - 89.3",
                                      "89.3 - 93.5", "93.5 - 102", "> 102"));
-    desk.session.legendCommands().useReadyRamp(1);
+    desk.session.colours().legend.useReadyRamp(1);
 
     SessionDesk next;
     next.settings.values = desk.settings.values;
     next.session.start();
     next.open({creepingReport(next.folder)});
     EXPECT_TRUE(next.window.legend.aroundTarget) << "it is remembered";
-    next.session.legendCommands().equalClasses();
+    next.session.colours().legend.equalClasses();
     EXPECT_FALSE(next.window.legend.aroundTarget);
     const ColorScale& scale = next.session.map().scales().of(false);
     EXPECT_EQ(scale.valueMax(), 3000);

@@ -33,7 +33,7 @@ struct CompareCommandsTest : testing::Test, SessionDesk {
         return rowOfZones({"100", "50"}, corner).write(folder, name);
     }
 
-    CompareCommands& commands = session.compareCommands();
+    CompareCommands& commands = session.findings().comparison;
 };
 
 TEST_F(CompareCommandsTest, SaysWhatIsMissing) {

@@ -12,7 +12,7 @@ namespace {
 struct CoverageMap : testing::Test, SessionDesk {
     CoverageMap() { session.start(); }
 
-    [[nodiscard]] CoverageCommands& commands() { return session.coverageCommands(); }
+    [[nodiscard]] CoverageCommands& commands() { return session.findings().coverage; }
     /// "name value", of the figures and of the legend.
     [[nodiscard]] std::vector<std::string> shown() const {
         std::vector<std::string> rows;
@@ -40,7 +40,7 @@ TEST_F(CoverageMap, ShowsWhatWasCoveredUntilAnotherMapIsAsked) {
     session.map().removeFile(session.map().files().currentFile());
     session.display().showChange();
     EXPECT_THAT(shown(), testing::Contains("Una vez: 0.04 ha"));
-    session.colorModeCommands().mnuColorDateMap();
+    session.colours().modes.mnuColorDateMap();
     EXPECT_FALSE(commands().isMapOn());
     EXPECT_THAT(shown(), testing::Not(testing::Contains(testing::HasSubstr("Cobertura"))));
     commands().toggleMap();

@@ -59,7 +59,7 @@ struct FindingCommandsTest : testing::Test, SessionDesk {
     }
 
     std::string path;
-    FindingCommands& commands = session.findingCommands();
+    FindingCommands& commands = session.findings().tables;
 };
 
 TEST_F(FindingCommandsTest, NothingIsLookedForBeforeItIsAskedForNorTwice) {
@@ -70,10 +70,10 @@ TEST_F(FindingCommandsTest, NothingIsLookedForBeforeItIsAskedForNorTwice) {
     EXPECT_EQ(column(Kind::Problems, 1), (Words{"Sin dosis", "Dosis fuera del límite"}));
     EXPECT_EQ(column(Kind::Passes, 4), Words{"590"});
     const FindingTable* const before = &commands.table(Kind::Problems);
-    session.drawingCommands().mnuEditDoted();
+    session.colours().drawing.mnuEditDoted();
     EXPECT_EQ(&commands.table(Kind::Problems), before);
     dialogs.inputAnswers = {"10"};
-    session.drawingCommands().mnuEditTrocha();
+    session.colours().drawing.mnuEditTrocha();
     EXPECT_FALSE(commands.isFound(Kind::Problems)) << "other hectares";
     EXPECT_EQ(column(Kind::Problems, 5), (Words{"0.050", "0.100"}));
     session.map().style().errorLimit = 40;

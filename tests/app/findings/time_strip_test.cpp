@@ -39,7 +39,7 @@ struct StripDesk : SessionDesk {
 
     std::optional<std::size_t> gone;
     std::optional<std::size_t> played;
-    TimeStrip& strip = session.timeStrip();
+    TimeStrip& strip = session.findings().timeStrip;
 };
 
 struct TimeStripTest : testing::Test, StripDesk {};

@@ -25,7 +25,7 @@ struct FileCommandsTest : testing::Test, SessionDesk {
 TEST_F(FileCommandsTest, CancellingAPreviewPutsEverythingBack) {
     open({report("lote.rpt")});
     session.map().style().graduated = false;
-    session.colorModeCommands().mnuColorDateMap();
+    session.colours().modes.mnuColorDateMap();
     session.map().scales().of(false).setClassNumber(3);
     session.display().view().zoomIn();
     const ViewTransform view = session.display().view().transform();
@@ -42,7 +42,7 @@ TEST_F(FileCommandsTest, CancellingAPreviewPutsEverythingBack) {
     EXPECT_EQ(window.title, title);
     EXPECT_EQ(session.map().ranges(), ranges);
     EXPECT_FALSE(session.map().style().graduated);
-    EXPECT_EQ(session.drawingCommands().drawAllCaption(), TextId::OnlySprayed)
+    EXPECT_EQ(session.colours().drawing.drawAllCaption(), TextId::OnlySprayed)
         << "the preview was sown";
     EXPECT_EQ(session.map().style().mode, ColorMode::Date) << "a track has no dates";
     EXPECT_EQ(session.map().scales().of(false).count(), 3);

@@ -70,7 +70,7 @@ TEST_F(PrescCommandsTest, MakesAPrescriptionBesideWhatIsOpenAndClosesIt) {
 
     session.fileCommands().reload();
     EXPECT_EQ(listed(), (Names{"Prescripción", "a.rpt"}));
-    session.colorModeCommands().mnuColorScaleSelCH(1);
+    session.colours().modes.mnuColorScaleSelCH(1);
     EXPECT_EQ(legend(), (Names{"0", "5", "6"}));
 
     session.tools().setTool(ToolId::PrescDosis);

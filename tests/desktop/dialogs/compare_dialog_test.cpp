@@ -21,7 +21,7 @@ TEST(CompareDialog, ShowsTheGuessAndCopiesItsTablesByKey) {
     desk.session.start();
     desk.open({desk.report("a.rpt")});
     desk.open({rowOfZones({"100", "50"}, {0, 0}).write(desk.folder, "zonas")});
-    CompareDialog dialog(desk.session.compareCommands(), desk.session.texts(), desk.clipboard,
+    CompareDialog dialog(desk.session.findings().comparison, desk.session.texts(), desk.clipboard,
                          nullptr);
     auto* const plan = dialog.findChild<QComboBox*>("prescription");
     EXPECT_TRUE(plan->currentText().startsWith("zonas.shp: DOSIS"));

@@ -19,7 +19,7 @@ TEST_F(FindingViewTest, ProblemsAreGoneThroughWithKeys) {
     EXPECT_TRUE(next->toolTip().contains("No hay un trabajo abierto"));
     open({writeReport("lote.rpt")});
     FindingView& problems = window->sidePanel().problems();
-    EXPECT_FALSE(window->session().findingCommands().isFound(FindingTable::Kind::Problems))
+    EXPECT_FALSE(window->session().findings().tables.isFound(FindingTable::Kind::Problems))
         << "not while files are opened";
     ASSERT_TRUE(next->isEnabled());
     next->trigger();

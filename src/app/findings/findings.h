@@ -1,0 +1,28 @@
+// Copyright (c) 2026 The Campora developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "app/findings/compare_commands.h"
+#include "app/findings/coverage_commands.h"
+#include "app/findings/finding_commands.h"
+#include "app/findings/time_strip.h"
+
+namespace campora {
+
+/// What the open work really was: its ground, its prescription, its passes and problems, its time.
+struct Findings {
+    /// All of it outlives them.
+    Findings(OpenMap& map, MapDisplay& display, MapTools& tools)
+        : coverage(map, display),
+          comparison(map, display),
+          tables(map, display, tools),
+          timeStrip(map, display, tools) {}
+
+    CoverageCommands coverage;
+    CompareCommands comparison;
+    FindingCommands tables;
+    TimeStrip timeStrip;
+};
+
+}  // namespace campora
