@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <string>
 #include <utility>
 #include <vector>
@@ -12,22 +11,15 @@
 #include "app/findings/finding_table.h"
 #include "base/dates.h"
 #include "base/numbers.h"
-#include "base/plain_text.h"
 #include "cli/batch_map.h"
 #include "cli/commands.h"
-#include "cli/csv_table.h"
 #include "cli/json_document.h"
+#include "cli/printed_table.h"
 #include "work/vex_alarmas.h"
 
 namespace campora {
 
 namespace {
-
-Json figure(const std::optional<double>& value) {
-    // What a sum of steps has behind the sixth place is its rounding.
-    constexpr double kPlaces = 1e6;
-    return value ? Json(std::round(*value * kPlaces) / kPlaces) : Json();
-}
 
 /// "2025-11-14T08:12:04"; null without a date.
 Json timeJson(const RecordTime& time) {
@@ -45,14 +37,14 @@ Json passJson(const std::string& file, std::size_t number, const Pass& pass) {
     return {{"file", file},
             {"pass", number},
             {"start", timeJson(pass.start)},
-            {"seconds", figure(pass.seconds)},
-            {"metres", figure(pass.metres)},
-            {"hectares", figure(pass.hectares)},
-            {"dose", figure(pass.dose)},
-            {"doseDeviation", figure(pass.doseDeviation)},
-            {"speedKmh", figure(pass.speedKmh)},
-            {"headingDegrees", figure(pass.headingDegrees)},
-            {"largestError", figure(pass.largestError)}};
+            {"seconds", figureJson(pass.seconds)},
+            {"metres", figureJson(pass.metres)},
+            {"hectares", figureJson(pass.hectares)},
+            {"dose", figureJson(pass.dose)},
+            {"doseDeviation", figureJson(pass.doseDeviation)},
+            {"speedKmh", figureJson(pass.speedKmh)},
+            {"headingDegrees", figureJson(pass.headingDegrees)},
+            {"largestError", figureJson(pass.largestError)}};
 }
 
 /// Of an alarm its text; null for other kinds.
@@ -66,12 +58,12 @@ Json problemJson(const std::string& file, const Problem& problem, const Json& al
             {"kind", kKinds[static_cast<std::size_t>(problem.kind)]},
             {"alarm", alarm},
             {"start", timeJson(problem.start)},
-            {"seconds", figure(problem.seconds)},
-            {"metres", figure(problem.metres)},
-            {"hectares", figure(problem.hectares)},
-            {"dose", figure(problem.dose)},
-            {"specified", figure(problem.specified)},
-            {"lost", figure(problem.lost)},
+            {"seconds", figureJson(problem.seconds)},
+            {"metres", figureJson(problem.metres)},
+            {"hectares", figureJson(problem.hectares)},
+            {"dose", figureJson(problem.dose)},
+            {"specified", figureJson(problem.specified)},
+            {"lost", figureJson(problem.lost)},
             {"lon", problem.position.x},
             {"lat", problem.position.y},
             {"firstRecord", problem.firstRecord},
@@ -90,58 +82,16 @@ void sortByStart(Json& rows) {
     });
 }
 
-std::string csvCell(const Json& value, char symbol) {
-    if (value.is_null()) {
-        return {};
-    }
-    if (value.is_string()) {
-        return value.get<std::string>();
-    }
-    return value.is_number_float() ? numberText(value.get<double>(), symbol)
-                                   : numberText(value.get<std::uint64_t>());
-}
-
-/// The members of `form` as headings, and those of the rows under them.
-void printCsv(const Json& rows, const Json& form, char symbol, std::ostream& out) {
-    std::vector<std::string> cells;
-    for (const auto& member : form.items()) {
-        cells.push_back(member.key());
-    }
-    out << csvLine(cells, symbol);
-    for (const Json& row : rows) {
-        std::transform(row.begin(), row.end(), cells.begin(),
-                       [symbol](const Json& value) { return csvCell(value, symbol); });
-        out << csvLine(cells, symbol);
-    }
-}
-
-std::size_t widthOf(const std::string& text) {
-    return static_cast<std::size_t>(std::count_if(
-        text.begin(), text.end(), [](char byte) { return (byte & '\xC0') != '\x80'; }));
-}
-
-/// Columns side by side, figures at their right ends.
-void printTable(const FindingTable& table, std::ostream& out) {
+void printFound(const FindingTable& table, std::ostream& out) {
     const std::size_t columns = table.columns().size();
     std::vector<std::vector<std::string>> lines(table.rowCount() + 1);
-    std::vector<std::size_t> widths(columns);
     for (std::size_t line = 0; line < lines.size(); ++line) {
         for (std::size_t column = 0; column < columns; ++column) {
             lines[line].push_back(line == 0 ? table.heading(column) : table.cell(line - 1, column));
-            widths[column] = std::max(widths[column], widthOf(lines[line].back()));
         }
     }
-    for (const std::vector<std::string>& cells : lines) {
-        std::string line;
-        for (std::size_t column = 0; column < columns; ++column) {
-            const std::string room(widths[column] - widthOf(cells[column]), ' ');
-            const bool isRight = table.isFigure(column);
-            line.append(isRight ? room : "").append(cells[column]).append(isRight ? "" : room);
-            line.append("  ");
-        }
-        line.erase(line.find_last_not_of(' ') + 1);
-        out << line << '\n';
-    }
+    printTable(
+        lines, [&table](std::size_t column) { return table.isFigure(column); }, out);
 }
 
 }  // namespace
@@ -164,7 +114,7 @@ int runPasses(const Arguments& arguments, const Console& console) {
     } else if (arguments.csv) {
         printCsv(rows, passJson({}, 0, {}), arguments.decimalSymbol, console.out);
     } else {
-        printTable(table, console.out);
+        printFound(table, console.out);
     }
     return all ? exit_status::kDone : exit_status::kRefused;
 }
@@ -193,7 +143,7 @@ int runProblems(const Arguments& arguments, const Console& console) {
         if (batch.map().plotCount() > 1) {
             table.sortBy(FindingTable::kStartColumn, false);
         }
-        printTable(table, console.out);
+        printFound(table, console.out);
         console.out << texts.format(TextId::TurnsLeftOut, {numberText(table.turns())}) << '\n';
     }
     return all ? exit_status::kDone : exit_status::kRefused;

@@ -3,6 +3,7 @@
 
 #include "cli/json_document.h"
 
+#include <cmath>
 #include <string>
 #include <string_view>
 
@@ -59,6 +60,11 @@ private:
 
 double asDecimal(float number) {
     return leadingNumber(numberText(number)).value_or(0);
+}
+
+Json figureJson(std::optional<double> value) {
+    constexpr double kPlaces = 1e6;
+    return value ? Json(std::round(*value * kPlaces) / kPlaces) : Json();
 }
 
 void printJson(const Json& document, std::ostream& out) {

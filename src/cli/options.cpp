@@ -321,11 +321,7 @@ constexpr Option kOptions[] = {
     {Command::Compare, "--channel", "N", TextId::CliChannel, setComparedChannel},
     {Command::Compare, "--limit", "P", TextId::CliLimit, setLimit},
     {Command::Compare, "--json", "", TextId::CliJson, setJson},
-    {Command::Compare, "--csv", "", TextId::CliDosesCsv,
-     [](Arguments& a, std::string_view) {
-         a.csv = true;
-         return true;
-     }},
+    {Command::Compare, "--csv", "", TextId::CliDosesCsv, setCsv},
     {Command::Passes, "--json", "", TextId::CliJson, setJson},
     {Command::Passes, "--csv", "", TextId::CliCsv, setCsv},
     {Command::Problems, "--error-limit", "P", TextId::CliErrorLimit, setErrorLimit},

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 
 #include <algorithm>
-#include <cmath>
 #include <cstddef>
 #include <iterator>
 #include <memory>
@@ -20,6 +19,7 @@
 #include "cli/batch_map.h"
 #include "cli/commands.h"
 #include "cli/json_document.h"
+#include "cli/printed_table.h"
 #include "presc/generation.h"
 #include "presc/layer_zones.h"
 #include "presc/load_grid.h"
@@ -119,14 +119,9 @@ std::optional<GridRule> writeGrid(const Arguments& arguments,
                        desk);
 }
 
-/// What a sum of cells has behind the sixth place is its rounding.
-Json figure(const std::optional<double>& value) {
-    constexpr double kPlaces = 1e6;
-    return value ? Json(std::round(*value * kPlaces) / kPlaces) : Json();
-}
-
 Json sumJson(const std::optional<CellSum>& sum) {
-    return sum ? Json{{"hectares", figure(sum->hectares)}, {"product", figure(sum->product)}}
+    return sum ? Json{{"hectares", figureJson(sum->hectares)},
+                      {"product", figureJson(sum->product)}}
                : Json();
 }
 
@@ -144,8 +139,8 @@ Json channelJson(const ChannelCheck& check, const GridLayer& file, int channel,
             {"fullCells", check.full},
             {"cellsBeyondLimits", cellsBeyond(file, channel, limitsOf(wishes, channel))},
             {"rounded", rounded},
-            {"smallestZoneM2", figure(check.smallestZone)},
-            {"tankLoads", figure(tankLoads(check.all.product, wishes))}};
+            {"smallestZoneM2", figureJson(check.smallestZone)},
+            {"tankLoads", figureJson(tankLoads(check.all.product, wishes))}};
 }
 
 Json checkJson(const std::string& path, const PrescriptionCheck& check, const GridLayer& file,
@@ -167,9 +162,7 @@ void printPage(const CheckPage& page, std::ostream& out) {
     for (const std::string& warning : page.warnings) {
         out << warning << '\n';
     }
-    for (const CheckPage::Figure& figure : page.figures) {
-        out << figure.name << ": " << figure.value << '\n';
-    }
+    printFigures(page.figures, out);
 }
 
 /// What a file is to hold.

@@ -5,14 +5,13 @@
 
 #include <map>
 
-#include <QDialogButtonBox>
 #include <QHeaderView>
-#include <QPushButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
 #include "desktop/actions.h"
 #include "desktop/platform/qt_text.h"
+#include "desktop/widgets/close_buttons.h"
 #include "desktop/widgets/lot_keys.h"
 
 namespace campora {
@@ -136,13 +135,10 @@ KeysDialog::KeysDialog(const Texts& texts, QWidget* parent) : QDialog(parent) {
     addOthers(*rows, texts);
     rows->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     rows->setCurrentItem(rows->topLevelItem(0));
-    auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
-    buttons->button(QDialogButtonBox::Close)->setText(toQt(texts(TextId::ButtonClose)));
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     column->addWidget(rows, 1);
-    column->addWidget(buttons);
+    column->addWidget(new CloseButtons(texts, this));
     resize(kSize);
     rows->setFocus();
 }

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "app/named_figure.h"
 #include "findings/compare.h"
 #include "model/file.h"
 #include "platform/desk.h"
@@ -16,12 +17,7 @@ namespace campora {
 
 /// A comparison as a person reads it, in the window and on the console.
 struct ComparisonTexts {
-    struct Figure {
-        std::string name;
-        std::string value;
-    };
-
-    std::vector<Figure> figures;
+    std::vector<NamedFigure> figures;
     /// A row a channel and prescribed dose, under the names of their columns.
     std::vector<std::string> columns;
     std::vector<std::vector<std::string>> rows;

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "app/named_figure.h"
 #include "app/presc/prescription_check.h"
 #include "platform/desk.h"
 
@@ -22,17 +23,12 @@ struct CheckWishes {
 
 /// A check as a person reads it.
 struct CheckPage {
-    struct Figure {
-        std::string name;
-        std::string value;
-    };
-
     /// Whether the file holds what was asked for; none where nothing can be compared.
     std::optional<bool> agrees;
     std::string verdict;
     /// A line each; one that says so when there are none.
     std::vector<std::string> warnings;
-    std::vector<Figure> figures;
+    std::vector<NamedFigure> figures;
 };
 
 /// Of a file that was read back; null: that could not be.

@@ -5,7 +5,6 @@
 
 #include <string>
 
-#include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QIcon>
 #include <QLabel>
@@ -15,6 +14,7 @@
 
 #include "campora_version.h"
 #include "desktop/platform/qt_text.h"
+#include "desktop/widgets/close_buttons.h"
 
 namespace campora {
 
@@ -73,16 +73,9 @@ AboutDialog::AboutDialog(const Texts& texts, Clipboard& clipboard, QWidget* pare
     sentence->setMinimumWidth(kTextWidth);
     auto* const licence =
         line(toQt(texts(TextId::AboutLicence)) + "\n© 2026 The Campora developers", this);
-    auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
-    buttons->button(QDialogButtonBox::Close)->setText(toQt(texts(TextId::ButtonClose)));
-    buttons->button(QDialogButtonBox::Close)->setDefault(true);
-    auto* const copy =
-        buttons->addButton(toQt(texts(TextId::AboutCopy)), QDialogButtonBox::ActionRole);
-    copy->setObjectName("copyVersion");
-    copy->setAutoDefault(false);
-    connect(copy, &QPushButton::clicked, this,
-            [&clipboard] { clipboard.setText(toUtf8(details())); });
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto* const buttons = new CloseButtons(texts, this);
+    buttons->addCopying("copyVersion", toQt(texts(TextId::AboutCopy)),
+                        [&clipboard] { clipboard.setText(toUtf8(details())); });
 
     auto* const grid = new QGridLayout(this);
     grid->setContentsMargins(kMargin, kMargin, kMargin, kMargin);

@@ -5,16 +5,15 @@
 
 #include <utility>
 
-#include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 #include "base/numbers.h"
 #include "desktop/platform/qt_text.h"
+#include "desktop/widgets/close_buttons.h"
 #include "desktop/widgets/copied_table.h"
 
 namespace campora {
@@ -25,14 +24,6 @@ constexpr QSize kSize{720, 600};
 constexpr int kMargin = 16;
 constexpr int kGap = 8;
 
-CopiedTable* makeTable(const char* name, TextId title, const Texts& texts, Clipboard& clipboard,
-                       QWidget* parent) {
-    auto* const table = new CopiedTable(clipboard, parent);
-    table->setObjectName(name);
-    table->setAccessibleName(toQt(texts(title)));
-    return table;
-}
-
 }  // namespace
 
 CheckDialog::CheckDialog(std::unique_ptr<PrescriptionCheckup> checkup, const Texts& texts,
@@ -42,8 +33,8 @@ CheckDialog::CheckDialog(std::unique_ptr<PrescriptionCheckup> checkup, const Tex
       texts_(texts),
       clipboard_(clipboard),
       verdict_(new QLabel(this)),
-      warnings_(makeTable("warnings", TextId::CheckWarnings, texts, clipboard, this)),
-      figures_(makeTable("figures", TextId::CompareFigures, texts, clipboard, this)) {
+      warnings_(new CopiedTable("warnings", toQt(texts(TextId::CheckWarnings)), clipboard, this)),
+      figures_(new CopiedTable("figures", toQt(texts(TextId::CompareFigures)), clipboard, this)) {
     setObjectName("check");
     setWindowTitle(toQt(texts(TextId::CheckTitle)));
     setAttribute(Qt::WA_DeleteOnClose);
@@ -116,16 +107,8 @@ void CheckDialog::arrange() {
     QFont bold = verdict_->font();
     bold.setBold(true);
     verdict_->setFont(bold);
-    auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
-    QPushButton* const close = buttons->button(QDialogButtonBox::Close);
-    close->setText(toQt(texts_(TextId::ButtonClose)));
-    close->setDefault(true);
-    auto* const copy =
-        buttons->addButton(toQt(texts_(TextId::CompareCopy)), QDialogButtonBox::ActionRole);
-    copy->setObjectName("copyAll");
-    copy->setAutoDefault(false);
-    connect(copy, &QPushButton::clicked, this, [this] { copyAll(); });
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto* const buttons = new CloseButtons(texts_, this);
+    buttons->addCopying("copyAll", toQt(texts_(TextId::CompareCopy)), [this] { copyAll(); });
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     column->setSpacing(kGap);
@@ -145,14 +128,7 @@ void CheckDialog::showPage() {
     }
     warnings_->setContent({std::string(texts_(TextId::CheckWarnings))}, warnings, 1);
     warnings_->horizontalHeader()->setStretchLastSection(true);
-    std::vector<std::vector<std::string>> figures;
-    for (const CheckPage::Figure& figure : page.figures) {
-        figures.push_back({figure.name, figure.value});
-    }
-    figures_->setContent(
-        {std::string(texts_(TextId::SummaryProperty)), std::string(texts_(TextId::SummaryValue))},
-        figures, 1);
-    figures_->horizontalHeader()->setStretchLastSection(true);
+    figures_->setFigures(texts_, page.figures);
 }
 
 void CheckDialog::copyAll() {

@@ -4,14 +4,12 @@
 #include "desktop/dialogs/compare_dialog.h"
 
 #include <QComboBox>
-#include <QDialogButtonBox>
 #include <QGridLayout>
-#include <QHeaderView>
 #include <QLabel>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 #include "desktop/platform/qt_text.h"
+#include "desktop/widgets/close_buttons.h"
 #include "desktop/widgets/copied_table.h"
 
 namespace campora {
@@ -31,14 +29,6 @@ QComboBox* makeBox(const char* name, QWidget* parent) {
     return box;
 }
 
-CopiedTable* makeTable(const char* name, TextId title, const Texts& texts, Clipboard& clipboard,
-                       QWidget* parent) {
-    auto* const table = new CopiedTable(clipboard, parent);
-    table->setObjectName(name);
-    table->setAccessibleName(toQt(texts(title)));
-    return table;
-}
-
 }  // namespace
 
 CompareDialog::CompareDialog(CompareCommands& commands, const Texts& texts, Clipboard& clipboard,
@@ -50,8 +40,8 @@ CompareDialog::CompareDialog(CompareCommands& commands, const Texts& texts, Clip
       jobs_(commands.jobs()),
       job_(makeBox("job", this)),
       prescription_(makeBox("prescription", this)),
-      figures_(makeTable("figures", TextId::CompareFigures, texts, clipboard, this)),
-      doses_(makeTable("doses", TextId::CompareDoses, texts, clipboard, this)),
+      figures_(new CopiedTable("figures", toQt(texts(TextId::CompareFigures)), clipboard, this)),
+      doses_(new CopiedTable("doses", toQt(texts(TextId::CompareDoses)), clipboard, this)),
       note_(new QLabel(this)) {
     setObjectName("compare");
     setWindowTitle(toQt(texts(TextId::CompareTitle)));
@@ -92,16 +82,8 @@ void CompareDialog::arrange() {
     note_->setObjectName("note");
     note_->setTextFormat(Qt::PlainText);
     note_->setWordWrap(true);
-    auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
-    QPushButton* const close = buttons->button(QDialogButtonBox::Close);
-    close->setText(toQt(texts_(TextId::ButtonClose)));
-    close->setDefault(true);
-    auto* const copy =
-        buttons->addButton(toQt(texts_(TextId::CompareCopy)), QDialogButtonBox::ActionRole);
-    copy->setObjectName("copyAll");
-    copy->setAutoDefault(false);
-    connect(copy, &QPushButton::clicked, this, [this] { copyAll(); });
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto* const buttons = new CloseButtons(texts_, this);
+    buttons->addCopying("copyAll", toQt(texts_(TextId::CompareCopy)), [this] { copyAll(); });
     auto* const column = new QVBoxLayout(this);
     column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     column->setSpacing(kGap);
@@ -130,14 +112,7 @@ void CompareDialog::showJob() {
 
 void CompareDialog::showComparison() {
     const ComparisonTexts shown = commands_.compare(*job()).value_or(ComparisonTexts());
-    std::vector<std::vector<std::string>> figures;
-    for (const ComparisonTexts::Figure& figure : shown.figures) {
-        figures.push_back({figure.name, figure.value});
-    }
-    figures_->setContent(
-        {std::string(texts_(TextId::SummaryProperty)), std::string(texts_(TextId::SummaryValue))},
-        figures, 1);
-    figures_->horizontalHeader()->setStretchLastSection(true);
+    figures_->setFigures(texts_, shown.figures);
     doses_->setContent(shown.columns, shown.rows, 0);
     note_->setText(toQt(shown.note.empty() ? texts_(TextId::CompareNone) : shown.note));
 }

@@ -10,8 +10,11 @@
 
 namespace campora {
 
-CopiedTable::CopiedTable(Clipboard& clipboard, QWidget* parent)
+CopiedTable::CopiedTable(const char* name, const QString& title, Clipboard& clipboard,
+                         QWidget* parent)
     : QTableWidget(parent), clipboard_(clipboard) {
+    setObjectName(name);
+    setAccessibleName(title);
     setEditTriggers(NoEditTriggers);
     setSelectionBehavior(SelectRows);
     setAlternatingRowColors(true);
@@ -45,6 +48,17 @@ void CopiedTable::setContent(const std::vector<std::string>& columns,
     if (rowCount() > 0) {
         setCurrentCell(0, 0, QItemSelectionModel::NoUpdate);
     }
+}
+
+void CopiedTable::setFigures(const Texts& texts, std::span<const NamedFigure> figures) {
+    std::vector<std::vector<std::string>> rows;
+    for (const NamedFigure& figure : figures) {
+        rows.push_back({figure.name, figure.value});
+    }
+    setContent(
+        {std::string(texts(TextId::SummaryProperty)), std::string(texts(TextId::SummaryValue))},
+        rows, 1);
+    horizontalHeader()->setStretchLastSection(true);
 }
 
 std::string CopiedTable::asText(bool selected) const {

@@ -9,6 +9,8 @@
 
 #include <QTableWidget>
 
+#include "app/named_figure.h"
+#include "base/texts.h"
 #include "platform/clipboard.h"
 
 namespace campora {
@@ -19,12 +21,14 @@ class CopiedTable final : public QTableWidget {
     Q_OBJECT
 
 public:
-    /// `clipboard` outlives it.
-    CopiedTable(Clipboard& clipboard, QWidget* parent);
+    /// `name`: of the object; `title`: for a screen reader. `clipboard` outlives it.
+    CopiedTable(const char* name, const QString& title, Clipboard& clipboard, QWidget* parent);
 
     /// `figuresFrom`: the first of the columns that stand at the right of their cells.
     void setContent(const std::vector<std::string>& columns,
                     std::span<const std::vector<std::string>> rows, int figuresFrom);
+    /// Two columns, the second as wide as there is room.
+    void setFigures(const Texts& texts, std::span<const NamedFigure> figures);
     /// The headings and the rows, tabs between the cells; with `selected`, only selected rows.
     [[nodiscard]] std::string asText(bool selected) const;
 
