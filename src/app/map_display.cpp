@@ -163,9 +163,10 @@ void MapDisplay::showTitle(std::string title) {
 }
 
 std::vector<SummaryRow> MapDisplay::summary() const {
-    std::vector<SummaryRow> rows = summaryRows(map_.files().currentFile(), map_.desk().texts);
+    File* const current = map_.files().currentFile();
+    std::vector<SummaryRow> rows = summaryRows(current, map_.desk().texts);
     if (const ModeLayer* const mode = map_.modeLayer()) {
-        const std::vector<SummaryRow> figures = mode->figures(map_.desk());
+        const std::vector<SummaryRow> figures = mode->figures(current, map_.desk());
         rows.insert(rows.end(), figures.begin(), figures.end());
     }
     return rows;

@@ -5,6 +5,7 @@
 
 #include <vector>
 
+#include "model/file.h"
 #include "model/gph.h"
 #include "platform/desk.h"
 #include "platform/main_window_controls.h"
@@ -19,9 +20,9 @@ public:
 
     [[nodiscard]] virtual const Gph& layer() const = 0;
     [[nodiscard]] virtual LegendContent legend(const Desk& desk) const = 0;
-    /// What it computed, to be shown under the summary.
-    [[nodiscard]] virtual std::vector<SummaryRow> figures(const Desk& desk) const {
-        static_cast<void>(desk);
+    /// What it computed, to be shown under the summary of a file, one of those it was made from.
+    [[nodiscard]] virtual std::vector<SummaryRow> figures(const File* /*current*/,
+                                                          const Desk& /*desk*/) const {
         return {};
     }
 };

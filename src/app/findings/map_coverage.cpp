@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <map>
 #include <optional>
 #include <utility>
 
@@ -46,7 +47,8 @@ public:
     /// `works`: files of which it is the coverage together.
     CoverageMode(Coverage coverage, std::vector<std::vector<LonLat>> lots, std::size_t works)
         : figures_(coverage.figures),
-          layer_(std::move(coverage.grid), std::move(lots)),
+          lots_(std::move(lots)),
+          layer_(std::move(coverage.grid), lots_),
           works_(works) {}
 
     [[nodiscard]] const Gph& layer() const override { return layer_; }
@@ -64,15 +66,14 @@ public:
                           row(coverage_colors::kSkipped, skippedName(figures_), figures_.skipped)};
         return legend;
     }
-    [[nodiscard]] std::vector<SummaryRow> figures(const Desk& desk) const override {
+    [[nodiscard]] std::vector<SummaryRow> figures(const File* current,
+                                                  const Desk& desk) const override {
         std::vector<SummaryRow> rows;
-        if (works_ > 1) {
-            rows.push_back({std::string(desk.texts(TextId::CoverageMap)).append(":"),
-                            std::string(desk.texts(TextId::AllWorkTogether))});
+        if (works_ > 1 && current != nullptr && !workLayers(*current).empty()) {
+            addRows(figuresOf(*current), current->File_name(), desk, rows);
         }
-        for (CoverageRow& row : coverageRows(figures_, desk)) {
-            rows.push_back({std::string(desk.texts(row.name)).append(":"), std::move(row.value)});
-        }
+        addRows(figures_, works_ > 1 ? std::string(desk.texts(TextId::AllWorkTogether)) : "", desk,
+                rows);
         return rows;
     }
 
@@ -81,9 +82,36 @@ public:
     }
 
 private:
+    /// `work`: whose figures these are; empty where there is no other.
+    static void addRows(const CoverageFigures& figures, const std::string& work, const Desk& desk,
+                        std::vector<SummaryRow>& rows) {
+        const auto add = [&](TextId name, std::string value) {
+            rows.push_back({std::string(desk.texts(name)).append(":"), std::move(value)});
+        };
+        if (!work.empty()) {
+            add(TextId::CoverageMap, work);
+        }
+        for (CoverageRow& row : coverageRows(figures, desk)) {
+            add(row.name, std::move(row.value));
+        }
+    }
+
+    [[nodiscard]] const CoverageFigures& figuresOf(const File& file) const {
+        const auto found = ofFiles_.find(&file);
+        if (found != ofFiles_.end()) {
+            return found->second;
+        }
+        const std::vector<LotRing> lots(lots_.begin(), lots_.end());
+        return ofFiles_.emplace(&file, coverGround(workLayers(file), lots).figures).first->second;
+    }
+
     CoverageFigures figures_;
+    std::vector<std::vector<LonLat>> lots_;
     CoverageLayer layer_;
     std::size_t works_;
+    /// Of files that were asked for: a mode is made anew when the files, or what is in them,
+    /// change.
+    mutable std::map<const File*, CoverageFigures> ofFiles_;
 };
 
 }  // namespace
@@ -110,6 +138,8 @@ std::vector<CoverageRow> coverageRows(const CoverageFigures& figures, const Desk
         {TextId::UndosedArea, texts.part(figures.undosed, figures.gross)},
         {TextId::NetCoverage, texts.part(figures.net, figures.dosed)},
         {TextId::Overlap, texts.part(figures.overlap, figures.dosed)},
+        {TextId::CoveredTwice, texts.part(figures.twice, figures.net)},
+        {TextId::CoveredMore, texts.part(figures.more, figures.net)},
         {CoverageMode::skippedName(figures),
          texts.part(figures.skipped,
                     figures.inside.value_or(figures.net) + figures.skipped.value_or(0))}};

@@ -23,8 +23,9 @@ struct CoverageInput {
 /// Of all files.
 [[nodiscard]] CoverageInput coverageInput(const LoadedFileList& files);
 
-/// A figure of the coverage in the user's words. Percentages are of the dosed hectares and, for
-/// what was left out, of the ground that was to be covered.
+/// A figure of the coverage in the user's words. Percentages are of the gross hectares for what was
+/// dosed and what was not, of the dosed ones for net ground and overlap, of the net ones for its
+/// parts, and for what was left out of the ground that was to be covered.
 struct CoverageRow {
     TextId name;
     /// "12.34 ha (5.6 %)", or "–" for one that cannot be told.
@@ -33,8 +34,9 @@ struct CoverageRow {
 [[nodiscard]] std::vector<CoverageRow> coverageRows(const CoverageFigures& figures,
                                                     const Desk& desk);
 
-/// The map of ground covered once, twice, more often and left out. Its rows stand under the
-/// summary. Null without work that applied something.
+/// The map of ground covered once, twice, more often and left out. Under the summary stand the
+/// figures of its file and, of several, those of all together. Null without work that applied
+/// something.
 [[nodiscard]] std::unique_ptr<ModeLayer> makeCoverageMode(const OpenMap& map);
 
 }  // namespace campora

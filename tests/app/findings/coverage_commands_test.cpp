@@ -34,12 +34,16 @@ TEST_F(CoverageMap, ShowsWhatWasCoveredUntilAnotherMapIsAsked) {
     EXPECT_TRUE(commands().isMapOn());
     EXPECT_THAT(shown(),
                 testing::IsSupersetOf(
-                    {"Superficie recorrida: 0.08 ha", "Cobertura neta: 0.04 ha (50.0 %)",
-                     "Superposición: 0.04 ha (50.0 %)", "Dos veces: 0.04 ha", "Una vez: 0.00 ha"}));
+                    {"Cobertura: a.rpt", "Superficie recorrida: 0.04 ha",
+                     "Cobertura neta: 0.04 ha (100.0 %)", "Cobertura: Todos los trabajos juntos",
+                     "Superficie recorrida: 0.08 ha", "Cobertura neta: 0.04 ha (50.0 %)",
+                     "Superposición: 0.04 ha (50.0 %)", "Dos veces: 0.04 ha (100.0 %)",
+                     "Dos veces: 0.04 ha", "Una vez: 0.00 ha"}));
     EXPECT_FALSE(canvas.callsOf("rectangle").empty());
     session.map().removeFile(session.map().files().currentFile());
     session.display().showChange();
     EXPECT_THAT(shown(), testing::Contains("Una vez: 0.04 ha"));
+    EXPECT_THAT(shown(), testing::Contains(testing::HasSubstr("Superficie recorrida")).Times(1));
     session.colours().modes.mnuColorDateMap();
     EXPECT_FALSE(commands().isMapOn());
     EXPECT_THAT(shown(), testing::Not(testing::Contains(testing::HasSubstr("Cobertura"))));
