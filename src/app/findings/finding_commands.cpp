@@ -17,6 +17,8 @@ namespace {
 
 /// Metres of ground around a stretch that fills the map, so that one sees where it is.
 constexpr double kAround = 20;
+/// Canvas units to the edge of the canvas, so that the ends of a halo can be seen.
+constexpr std::int32_t kRim = 10;
 
 BoundingBox boxAround(const std::vector<LonLat>& stretch) {
     BoundingBox box;
@@ -153,22 +155,35 @@ void FindingCommands::stepProblem(bool forward) {
     }
 }
 
-/// Where a part of the stretch is off the canvas its middle comes to the middle of it.
+/// The whole stretch comes into view: at the scale that is shown where it fits, else at a coarser
+/// one.
 void FindingCommands::bringIntoView() {
+    BoundingBox ground;
+    for (const LonLat& point : stretch_) {
+        ground.addPoint(point.x, point.y);
+    }
+    if (!ground.isSet) {
+        return;
+    }
     const ViewTransform view = display_.view().transform();
     const CanvasSize canvas = display_.canvas().size();
-    const auto isOff = [&](const LonLat& point) {
-        const CanvasPoint at = view.mapToScreen(point.x, point.y);
-        return at.x < 0 || at.y < 0 || at.x > canvas.width || at.y > canvas.height;
-    };
-    if (std::any_of(stretch_.begin(), stretch_.end(), isOff)) {
-        display_.view().centreOn(stretch_[stretch_.size() / 2]);
+    const CanvasPoint lower = view.mapToScreen(ground.minX, ground.minY);
+    const CanvasPoint upper = view.mapToScreen(ground.maxX, ground.maxY);
+    const bool isInView = lower.x >= kRim && lower.y <= canvas.height - kRim &&
+                          upper.x <= canvas.width - kRim && upper.y >= kRim;
+    const bool fits = upper.x - lower.x <= canvas.width - 2 * kRim &&
+                      lower.y - upper.y <= canvas.height - 2 * kRim;
+    if (!fits) {
+        display_.view().zoomToBox(boxAround(stretch_));
+    } else if (!isInView) {
+        display_.view().centreOn(
+            {(ground.minX + ground.maxX) / 2, (ground.minY + ground.maxY) / 2});
     }
 }
 
 std::optional<TextId> FindingCommands::whyNoProblem() const {
     if (!hasWork()) {
-        return TextId::NoJobOpen;
+        return TextId::NoWorkOpen;
     }
     const bool isNone = isFound(Kind::Problems) && found(Kind::Problems).table->rowCount() == 0;
     return isNone ? std::optional(TextId::NoProblemsFound) : std::nullopt;
@@ -176,7 +191,7 @@ std::optional<TextId> FindingCommands::whyNoProblem() const {
 
 std::optional<TextId> FindingCommands::whyEmpty(Kind kind) {
     if (!hasWork()) {
-        return TextId::NoJobOpen;
+        return TextId::NoWorkOpen;
     }
     if (table(kind).rowCount() > 0) {
         return std::nullopt;

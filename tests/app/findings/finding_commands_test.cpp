@@ -63,7 +63,7 @@ struct FindingCommandsTest : testing::Test, SessionDesk {
 };
 
 TEST_F(FindingCommandsTest, NothingIsLookedForBeforeItIsAskedForNorTwice) {
-    EXPECT_EQ(commands.whyNoProblem(), TextId::NoJobOpen);
+    EXPECT_EQ(commands.whyNoProblem(), TextId::NoWorkOpen);
     ASSERT_TRUE(open({path}));
     EXPECT_FALSE(commands.isFound(Kind::Problems));
     EXPECT_EQ(commands.whyNoProblem(), std::nullopt) << "nobody has looked";
@@ -100,12 +100,22 @@ TEST_F(FindingCommandsTest, AStretchIsPickedOutOnTheMap) {
     EXPECT_EQ(halo(), " 20 25") << "from the last to the first";
     commands.stepProblem(false);
     EXPECT_EQ(halo(), " 40 50");
-    const float whole = session.display().view().scaleX();
-    commands.zoomTo(Kind::Problems, *commands.selected(Kind::Problems));
-    EXPECT_LT(session.display().view().scaleX(), whole / 2);
+    const auto scale = [this] { return session.display().view().scaleX(); };
+    const auto isInView = [this] {
+        const auto laid = window.laid<HaloLine>();
+        return laid && laid->points.front().x > 0 && laid->points.back().x < 1000;
+    };
+    const float whole = scale();
+    commands.zoomTo(Kind::Problems, 1);
+    const float close = scale();
+    EXPECT_LT(close, whole / 2);
+    commands.stepProblem(true);
+    EXPECT_TRUE(isInView());
+    EXPECT_GT(scale(), close) << "100 m are more than what was shown";
+    const float coarser = scale();
     commands.stepProblem(false);
-    const CanvasPoint middle = window.laid<HaloLine>()->points.front();
-    EXPECT_GE(middle.x, 0) << "brought into view";
+    EXPECT_TRUE(isInView()) << "at the scale at which 50 m fit";
+    EXPECT_EQ(scale(), coarser);
     commands.select(Kind::Problems, std::nullopt);
     EXPECT_EQ(halo(), "");
     commands.select(Kind::Passes, 0);

@@ -16,7 +16,7 @@ TEST_F(FindingViewTest, ProblemsAreGoneThroughWithKeys) {
     QAction* const next = window->findChild<QAction*>("nextProblem");
     ASSERT_NE(next, nullptr);
     EXPECT_FALSE(next->isEnabled());
-    EXPECT_TRUE(next->toolTip().contains("No hay un trabajo abierto"));
+    EXPECT_TRUE(next->toolTip().contains("No hay ningún trabajo abierto"));
     open({writeReport("lote.rpt")});
     FindingView& problems = window->sidePanel().problems();
     EXPECT_FALSE(window->session().findings().tables.isFound(FindingTable::Kind::Problems))
