@@ -194,6 +194,11 @@ private:
 
 }  // namespace
 
+bool isStop(const Problem& problem) {
+    constexpr double kFarthest = 25;  // metres
+    return problem.kind == ProblemKind::Gap && problem.metres <= kFarthest;
+}
+
 Problems findProblems(std::span<const WorkLayer* const> layers, const FindingOptions& options) {
     const WorkWay way(layers, options);
     return ProblemFinder(way, options).find();

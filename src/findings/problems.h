@@ -51,6 +51,10 @@ struct Problem {
     LonLat position;
 };
 
+/// Whether a gap is the time of a stop: its ends are no farther apart than positions of a machine
+/// that stands, so that no way is missing.
+[[nodiscard]] bool isStop(const Problem& problem);
+
 /// The problems of a job, in the order of its records, and how many turns were left out.
 struct Problems {
     std::vector<Problem> rows;

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
 #include "model/measures.h"
 #include "model/swath_geometry.h"
@@ -78,7 +79,49 @@ TimeSeries::TimeSeries(std::span<const WorkLayer* const> passes, int channel) {
     if (!clock_.isUsable()) {
         seconds_ = {};
     }
+    foldHoles();
     build();
+}
+
+void TimeSeries::foldHoles() {
+    std::int64_t leftOut = 0;
+    std::int64_t before = seconds_.empty() ? 0 : seconds_.front();
+    for (std::int64_t& second : seconds_) {
+        const std::int64_t hole = second - before;
+        before = second;
+        if (hole > kLongestHole) {
+            leftOut += hole - kFolded;
+            const std::int64_t to = second - leftOut;
+            folds_.push_back({static_cast<double>(to - kFolded), static_cast<double>(to), leftOut});
+        }
+        second -= leftOut;
+    }
+}
+
+double TimeSeries::secondAt(double position) const {
+    const auto after =
+        std::upper_bound(folds_.begin(), folds_.end(), position,
+                         [](double at, const TimeFold& fold) { return at < fold.from; });
+    if (after == folds_.begin()) {
+        return position;
+    }
+    const TimeFold& fold = *std::prev(after);
+    const auto leftOut = static_cast<double>(fold.leftOut);
+    if (position >= fold.to) {
+        return position + leftOut;
+    }
+    const std::int64_t before =
+        std::prev(after) == folds_.begin() ? 0 : std::prev(after, 2)->leftOut;
+    const double share = (position - fold.from) / (fold.to - fold.from);
+    return position + static_cast<double>(before) +
+           share * static_cast<double>(fold.leftOut - before);
+}
+
+std::optional<std::int64_t> TimeSeries::secondsAfter(std::size_t n) const {
+    if (seconds_.empty() || n + 1 >= size()) {
+        return std::nullopt;
+    }
+    return static_cast<std::int64_t>(secondAt(positionOf(n + 1)) - secondAt(positionOf(n)));
 }
 
 void TimeSeries::addPass(const WorkLayer& pass, int channel) {
@@ -271,7 +314,8 @@ TimeSeries::Totals TimeSeries::totals(std::size_t first, std::size_t last) const
         totals.meanDose = any ? std::optional(*totals.product / totals.hectares) : std::nullopt;
     }
     if (isOverTime()) {
-        totals.seconds = seconds_[last] - seconds_[first];
+        totals.seconds =
+            static_cast<std::int64_t>(secondAt(positionOf(last)) - secondAt(positionOf(first)));
     }
     return totals;
 }

@@ -46,13 +46,27 @@ struct SeriesColumn {
     bool operator==(const SeriesColumn&) const = default;
 };
 
+/// A time without records that takes less of an axis than it lasted. Positions on the axis.
+struct TimeFold {
+    double from = 0;
+    double to = 0;
+    /// Seconds that this one and those before it leave out.
+    std::int64_t leftOut = 0;
+
+    bool operator==(const TimeFold&) const = default;
+};
+
 /// The records of a file over time, or over their numbers where their clocks are missing, differ or
-/// run backwards. Positions on that axis are those of `WorkClock::secondOf`, or numbers from 0.
-/// Keeps copies of what it needs.
+/// run backwards. Positions on that axis are those of `WorkClock::secondOf`, less what folds before
+/// them leave out, or numbers from 0. Keeps copies of what it needs.
 class TimeSeries {
 public:
     /// A hole in the records of a pass that lasts longer than this is left empty.
     static constexpr double kLongestHold = 60;
+    /// Seconds: a hole that lasts longer than the one is folded to the other, so that a night does
+    /// not take the room of the work.
+    static constexpr std::int64_t kLongestHole = 1800;
+    static constexpr std::int64_t kFolded = 120;
 
     /// What was done between two records: hectares as length times width of steps with product.
     struct Totals {
@@ -76,6 +90,14 @@ public:
     /// All that is told of a record.
     [[nodiscard]] SeriesColumn record(std::size_t n) const;
     [[nodiscard]] double positionOf(std::size_t n) const;
+    /// In their order; none over numbers of records.
+    [[nodiscard]] std::span<const TimeFold> folds() const { return folds_; }
+    /// The second of `WorkClock::secondOf` at a position over time.
+    [[nodiscard]] double secondAt(double position) const;
+    /// Seconds from a record to the next; none for the last one and over numbers of records.
+    [[nodiscard]] std::optional<std::int64_t> secondsAfter(std::size_t n) const;
+    /// Whether what a record says holds until the next one.
+    [[nodiscard]] bool goesOn(std::size_t n) const;
     /// The first record at or after a position; `size` when there is none.
     [[nodiscard]] std::size_t firstFrom(double position) const;
     /// The last record at or before a position; the first where there is none. There are records.
@@ -117,12 +139,12 @@ private:
     [[nodiscard]] Sum sumBefore(std::size_t n) const;
     void fold(std::size_t level, std::size_t node, const Window& window) const;
     void hold(const Window& window) const;
-    /// Whether what a record says holds until the next one.
-    [[nodiscard]] bool goesOn(std::size_t n) const;
+    void foldHoles();
 
     WorkClock clock_;
-    std::vector<std::int64_t> seconds_;  // empty over numbers of records
-    std::vector<float> doses_;           // not a number where it cannot be told
+    std::vector<std::int64_t> seconds_;  // on the axis; empty over numbers of records
+    std::vector<TimeFold> folds_;
+    std::vector<float> doses_;  // not a number where it cannot be told
     std::vector<float> specified_;
     std::vector<float> speeds_;
     std::vector<std::uint32_t> alarms_;

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <iterator>
 #include <numeric>
+#include <string_view>
 #include <utility>
 
 #include "base/dates.h"
@@ -88,10 +89,15 @@ std::optional<double> orderOf(const RecordTime& time) {
 
 std::string problemText(const Texts& texts, const Problem& problem, WorkKind machine) {
     if (problem.kind != ProblemKind::Alarm) {
-        return std::string(texts(problemName(problem.kind)));
+        const TextId name = isStop(problem) ? TextId::ProblemPause : problemName(problem.kind);
+        return std::string(texts(name));
     }
-    return texts.format(TextId::ProblemAlarm,
-                        {std::string(alarmText(texts, machine, problem.alarm))});
+    std::string name(alarmText(texts, machine, problem.alarm));
+    // Some are named "alarm of ..." and need no word before them.
+    const std::string_view word = texts(TextId::ProblemAlarm);
+    return name.starts_with(word.substr(0, word.find(':')))
+               ? name
+               : texts.format(TextId::ProblemAlarm, {std::move(name)});
 }
 
 std::string startText(const RecordTime& time, const Desk& desk) {

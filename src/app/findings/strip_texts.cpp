@@ -41,7 +41,7 @@ std::uint32_t StripWords::known(std::uint32_t alarms) const {
 
 std::string positionText(const TimeSeries& series, double position, const StripWords& words) {
     if (series.isOverTime()) {
-        return momentText(static_cast<std::int64_t>(std::floor(position)),
+        return momentText(static_cast<std::int64_t>(std::floor(series.secondAt(position))),
                           series.clock().kind() == RecordClock::DateAndTime, words.locale);
     }
     const auto number = static_cast<std::int64_t>(std::floor(position)) + 1;

@@ -5,7 +5,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
+#include <utility>
 
 #include "app/clock_text.h"
 #include "base/dates.h"
@@ -56,6 +58,79 @@ std::string timeMark(std::int64_t second, std::int64_t step, RecordClock clock,
     return step % kMinute == 0 ? text.substr(0, text.rfind(':')) : text;
 }
 
+/// Puts marks beside each other, from left to right.
+class TickMaker {
+public:
+    TickMaker(const StripWindow& window, RecordClock clock, int leastColumns,
+              const UserLocale& locale)
+        : window_(window),
+          clock_(clock),
+          leastColumns_(leastColumns),
+          locale_(locale),
+          // Records are counted from 1.
+          shift_(isTime() ? 0 : 1) {
+        const double least = std::max(window.perColumn() * leastColumns, 1.0);
+        step_ = isTime() ? timeStep(least) : roundStep(least, 1);
+    }
+
+    /// Round ones between two positions, before which `leftOut` seconds are not on the axis.
+    void addRound(double from, double to, std::int64_t leftOut) {
+        const auto ahead = static_cast<double>(leftOut + shift_);
+        const double end = std::min(to, window_.to());
+        const double first = std::ceil((from + ahead) / static_cast<double>(step_));
+        for (std::int64_t at = static_cast<std::int64_t>(first) * step_;
+             static_cast<double>(at) - ahead < end; at += step_) {
+            const int column = columnOf(static_cast<double>(at) - ahead);
+            if (isFree(column)) {
+                ticks_.push_back(
+                    {column, isTime() ? timeMark(at, step_, clock_, locale_) : numberText(at)});
+            }
+        }
+    }
+
+    /// Where work goes on; round marks make room for it.
+    void addFold(const TimeFold& fold, std::int64_t leftOutBefore) {
+        if (fold.to < window_.from() || fold.to >= window_.to()) {
+            return;
+        }
+        const int column = columnOf(fold.to);
+        while (ticks_.size() > folds_ && !isFree(column)) {
+            ticks_.pop_back();
+        }
+        if (!isFree(column)) {
+            return;
+        }
+        const std::int64_t before = static_cast<std::int64_t>(fold.from) + leftOutBefore;
+        const std::int64_t after = static_cast<std::int64_t>(fold.to) + fold.leftOut;
+        const bool isOtherDay =
+            clock_ == RecordClock::DateAndTime && daySecond(before).day != daySecond(after).day;
+        ticks_.push_back({column, timeMark(isOtherDay ? after - daySecond(after).second : after,
+                                           kMinute, clock_, locale_)});
+        folds_ = ticks_.size();
+    }
+
+    [[nodiscard]] std::vector<StripTick> take() { return std::move(ticks_); }
+
+private:
+    [[nodiscard]] bool isTime() const { return clock_ != RecordClock::None; }
+    [[nodiscard]] int columnOf(double position) const {
+        return roundToInt32(window_.columnOf(position));
+    }
+    [[nodiscard]] bool isFree(int column) const {
+        return ticks_.empty() || column - ticks_.back().column >= leastColumns_;
+    }
+
+    const StripWindow& window_;
+    RecordClock clock_;
+    int leastColumns_;
+    const UserLocale& locale_;
+    std::int64_t shift_;
+    std::int64_t step_ = 1;
+    std::vector<StripTick> ticks_;
+    /// How many marks there are up to that of the last fold.
+    std::size_t folds_ = 0;
+};
+
 }  // namespace
 
 void StripWindow::setWhole(double begin, double end) {
@@ -94,22 +169,20 @@ void StripWindow::reveal(double position) {
     }
 }
 
-std::vector<StripTick> stripTicks(const StripWindow& window, RecordClock clock, int leastColumns,
+std::vector<StripTick> stripTicks(const StripWindow& window, RecordClock clock,
+                                  std::span<const TimeFold> folds, int leastColumns,
                                   const UserLocale& locale) {
-    const bool isTime = clock != RecordClock::None;
-    const double least = std::max(window.perColumn() * leastColumns, 1.0);
-    const std::int64_t step = isTime ? timeStep(least) : roundStep(least, 1);
-    // Records are counted from 1.
-    const std::int64_t shift = isTime ? 0 : 1;
-    const auto first = static_cast<std::int64_t>(
-        std::ceil((window.from() + static_cast<double>(shift)) / static_cast<double>(step)));
-    std::vector<StripTick> ticks;
-    for (std::int64_t at = first * step; static_cast<double>(at - shift) < window.to();
-         at += step) {
-        const auto column = roundToInt32(window.columnOf(static_cast<double>(at - shift)));
-        ticks.push_back({column, isTime ? timeMark(at, step, clock, locale) : numberText(at)});
+    TickMaker maker(window, clock, leastColumns, locale);
+    double begin = window.from();
+    std::int64_t leftOut = 0;
+    for (const TimeFold& fold : folds) {
+        maker.addRound(begin, fold.from, leftOut);
+        maker.addFold(fold, leftOut);
+        begin = std::max(begin, fold.to);
+        leftOut = fold.leftOut;
     }
-    return ticks;
+    maker.addRound(begin, window.to(), leftOut);
+    return maker.take();
 }
 
 }  // namespace campora

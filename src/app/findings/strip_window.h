@@ -3,9 +3,11 @@
 
 #pragma once
 
+#include <span>
 #include <string>
 #include <vector>
 
+#include "findings/time_series.h"
 #include "model/work_record.h"
 #include "platform/user_locale.h"
 
@@ -56,8 +58,10 @@ struct StripTick {
 };
 
 /// Marks at round positions, at least `leastColumns` apart. With a clock they are times of day, and
-/// dates at midnight where there are dates; without, numbers of records from 1.
+/// dates at midnight where there are dates; without, numbers of records from 1. Where a fold ends
+/// there is a mark with the time, or with the date when the day is another one.
 [[nodiscard]] std::vector<StripTick> stripTicks(const StripWindow& window, RecordClock clock,
-                                                int leastColumns, const UserLocale& locale);
+                                                std::span<const TimeFold> folds, int leastColumns,
+                                                const UserLocale& locale);
 
 }  // namespace campora

@@ -93,6 +93,7 @@ void TimeStrip::read(const File& file, bool sameFile) {
     passes_ = workLayers(file);
     units_ = countsUnits(file).value_or(false);
     series_.emplace(passes_, channel_);
+    holes_ = StripHoles(passes_);
     if (series_->size() == 0) {
         series_.reset();
     }
@@ -260,14 +261,27 @@ StripWords TimeStrip::words() const {
 
 std::string TimeStrip::valueText() const {
     if (!pointed_) {
-        return cursor_ ? recordText(*series_, *cursor_, words()) : std::string();
+        return cursor_ ? textOf(*cursor_) : std::string();
     }
     const double position = window_.positionAt(*pointed_);
     std::vector<SeriesColumn> under(1);
     series_->columns(position, position + window_.perColumn(), under);
-    return under[0].lastRecord == SeriesColumn::kNoRecord
-               ? positionText(*series_, position, words()).append("  ·  ").append(kNoFigure)
-               : recordText(*series_, under[0].lastRecord, words());
+    if (under[0].lastRecord != SeriesColumn::kNoRecord) {
+        return textOf(under[0].lastRecord);
+    }
+    const std::string hole = holes_.text(*series_, series_->recordAt(position), words());
+    return positionText(*series_, position, words())
+        .append("  ·  ")
+        .append(hole.empty() ? kNoFigure : hole);
+}
+
+/// Also what comes after it, since a cursor goes from record to record.
+std::string TimeStrip::textOf(std::size_t record) const {
+    const std::string hole = holes_.text(*series_, record, words());
+    std::string text = recordText(*series_, record, words());
+    return hole.empty()
+               ? text
+               : text.append("  ·  ").append(map_.desk().texts.format(TextId::StripThen, {hole}));
 }
 
 StripPicture TimeStrip::picture(int leastTick) const {
@@ -281,7 +295,9 @@ StripPicture TimeStrip::picture(int leastTick) const {
     addMarks(picture);
     const WorkClock& clock = series_->clock();
     picture.ticks = stripTicks(window_, series_->isOverTime() ? clock.kind() : RecordClock::None,
-                               leastTick, map_.desk().locale);
+                               series_->folds(), leastTick, map_.desk().locale);
+    picture.missing = holes_.missing(*series_, window_);
+    picture.folds = foldedSpans(*series_, window_);
     if (!series_->isOverTime()) {
         picture.axisRemark =
             texts(clock.runsBackwards() ? TextId::StripClockBack : TextId::StripNoClock);

@@ -11,6 +11,7 @@
 #include <utility>
 #include <vector>
 
+#include "app/findings/strip_holes.h"
 #include "app/findings/strip_texts.h"
 #include "app/findings/strip_window.h"
 #include "app/map_display.h"
@@ -33,6 +34,9 @@ struct StripPicture {
     std::string doseLabel;
     std::string speedLabel;
     std::vector<StripTick> ticks;
+    /// Where records are missing, and pauses that take less room than they lasted.
+    std::vector<StripHoles::Span> missing;
+    std::vector<StripHoles::Span> folds;
     /// Why the axis counts records; empty over time.
     std::string axisRemark;
     std::optional<std::pair<double, double>> stretch;
@@ -120,6 +124,7 @@ private:
     [[nodiscard]] std::size_t steppedFrom(std::size_t record, double columns) const;
     [[nodiscard]] std::size_t startingPoint() const;
     [[nodiscard]] std::string valueText() const;
+    [[nodiscard]] std::string textOf(std::size_t record) const;
     [[nodiscard]] StripWords words() const;
     void addCurves(StripPicture& picture) const;
     void addMarks(StripPicture& picture) const;
@@ -137,6 +142,7 @@ private:
     bool units_ = false;
     std::vector<const WorkLayer*> passes_;
     std::optional<TimeSeries> series_;
+    StripHoles holes_;
     /// Of the whole file; 0 where it cannot be told.
     double meanDose_ = 0;
     StripWindow window_;

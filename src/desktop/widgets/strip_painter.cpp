@@ -54,7 +54,32 @@ QVector<QLine> curve(const QRect& lane, const StripPicture& picture,
     return lines;
 }
 
+QRect spanOf(const StripHoles::Span& span, const QRect& lanes) {
+    constexpr int kLeast = 3;
+    const int left = lanes.left() + static_cast<int>(std::lround(span.first));
+    const int right = lanes.left() + static_cast<int>(std::lround(span.second));
+    return {left, lanes.top(), std::max(right - left, kLeast), lanes.height()};
+}
+
 }  // namespace
+
+void paintHoles(QPainter& painter, const QRect& lanes, const StripPicture& picture,
+                const QPalette& palette) {
+    QColor shade = palette.color(QPalette::Text);
+    shade.setAlpha(35);
+    painter.setPen(QPen(palette.color(QPalette::Text), 1, Qt::DotLine));
+    for (const StripHoles::Span& fold : picture.folds) {
+        const QRect at = spanOf(fold, lanes);
+        painter.fillRect(at, shade);
+        painter.drawLine(at.topLeft(), at.bottomLeft());
+        painter.drawLine(at.topRight(), at.bottomRight());
+    }
+    QColor ink = palette.color(QPalette::Text);
+    ink.setAlpha(170);
+    for (const StripHoles::Span& gap : picture.missing) {
+        painter.fillRect(spanOf(gap, lanes), QBrush(ink, Qt::BDiagPattern));
+    }
+}
 
 void paintDose(QPainter& painter, const QRect& lane, const StripPicture& picture,
                const QPalette& palette) {

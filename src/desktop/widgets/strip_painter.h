@@ -25,4 +25,9 @@ void paintSpeed(QPainter& painter, const QRect& lane, const StripPicture& pictur
                 const QColor& ink);
 void paintAlarms(QPainter& painter, const QRect& lane, const StripPicture& picture);
 
+/// Behind the curves, hatched where records are missing, grey between dots where a pause takes less
+/// room than it lasted.
+void paintHoles(QPainter& painter, const QRect& lanes, const StripPicture& picture,
+                const QPalette& palette);
+
 }  // namespace campora

@@ -74,8 +74,9 @@ void TimeStripView::setStrip(TimeStrip& strip) {
 void TimeStripView::retranslate(const Texts& texts) {
     title_ = toQt(texts(TextId::ActionTimeStrip)).remove('&');
     const QString gestures = toQt(texts(TextId::StripGestures));
-    setToolTip(gestures);
-    setAccessibleDescription(gestures);
+    const QString help = gestures + '\n' + toQt(texts(TextId::StripSigns));
+    setToolTip(help);
+    setAccessibleDescription(help);
     setAccessibleName(title_);
     update();
 }
@@ -124,6 +125,7 @@ void TimeStripView::paintEvent(QPaintEvent* /*event*/) {
     } else {
         const Lanes at = lanes();
         paintAxis(painter, picture);
+        paintHoles(painter, QRect(at.dose.topLeft(), at.speed.bottomRight()), picture, palette());
         paintDose(painter, at.dose, picture, palette());
         paintSpecified(painter, at.dose, picture, palette().color(QPalette::Text));
         paintSpeed(painter, at.speed, picture, palette().color(QPalette::Text));

@@ -124,6 +124,39 @@ TEST_F(TimeStripTest, KeysMoveBrushAndGo) {
     EXPECT_EQ(played, first);
 }
 
+TEST_F(TimeStripTest, TellsMissingRecordsFromPauses) {
+    // Records two seconds and 10 metres apart; 40 seconds and 200 metres are missing after the
+    // tenth, the machine stands for 100 seconds after the twentieth, and goes on elsewhere in the
+    // morning.
+    RptBytes bytes(1, 0x6002);
+    for (int i = 0; i < 40; ++i) {
+        const int second = 2 * i + (i > 9 ? 40 : 0) + (i > 19 ? 100 : 0);
+        RptBytes::Record record;
+        record.position = fixAt(10.0 * i + (i > 9 ? 200 : 0), i > 29 ? 500 : 0);
+        record.time = {{2018, 3, i > 29 ? 6 : 5}, {i > 29 ? 8 : 10, second / 60, second % 60}};
+        bytes.add(record);
+    }
+    open({folder.write("huecos.rpt", bytes.bytes())}, true);
+    strip.refresh();
+    strip.setWidth(337);  // a column a second, 120 for the night
+    struct Row {
+        double second;
+        const char* value;
+    };
+    const Row rows[] = {{18, "luego, faltan registros: 0:00:42"},
+                        {38, "10:00:38  ·  faltan registros: 0:00:42"},
+                        {120, "05/03/2018 10:02:00  ·  pausa sin registros: 0:01:42"},
+                        {18 + 42 + 18 + 102 + 18 + 60, "pausa sin registros: 22:00:02"}};
+    const StripPicture picture = shown();
+    for (const Row& row : rows) {
+        strip.point(row.second);
+        EXPECT_THAT(strip.spoken(), testing::HasSubstr(row.value));
+    }
+    EXPECT_THAT(picture.missing, testing::ElementsAre(StripHoles::Span{18, 60}));
+    ASSERT_EQ(picture.folds.size(), 1U);
+    EXPECT_THAT(picture.ticks, testing::Contains(testing::Field(&StripTick::text, "06/03/2018")));
+}
+
 TEST_F(TimeStripTest, FollowsTheCurrentFileAndSaysWhyItIsEmpty) {
     NamedFile& other = add("lote virtual");
     strip.brush(20, 60);
