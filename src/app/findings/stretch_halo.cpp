@@ -23,26 +23,6 @@ bool isFar(CanvasPoint a, CanvasPoint b, std::int64_t least) {
     return std::abs(std::int64_t{a.x} - b.x) >= least || std::abs(std::int64_t{a.y} - b.y) >= least;
 }
 
-/// Lines of the part of a pass that may touch the canvas.
-void addLines(std::vector<HaloLine>& lines, const WorkLayer& pass,
-              std::pair<std::int32_t, std::int32_t> records, const ViewTransform& view) {
-    bool isOpen = false;
-    LonLat before = pass.recordN(records.first).position;
-    for (std::int32_t n = records.first; n <= records.second; ++n) {
-        const LonLat at = pass.recordN(n).position;
-        const bool touches = view.mayTouch(before, at, 0);
-        if (touches && !isOpen) {
-            lines.push_back({{view.mapToScreen(before.x, before.y)}});
-        }
-        const CanvasPoint point = touches ? view.mapToScreen(at.x, at.y) : CanvasPoint{};
-        if (touches && (n == records.second || isFar(lines.back().points.back(), point, kFinest))) {
-            lines.back().points.push_back(point);
-        }
-        isOpen = touches;
-        before = at;
-    }
-}
-
 std::size_t pointsOf(const std::vector<HaloLine>& lines) {
     std::size_t points = 0;
     for (const HaloLine& line : lines) {
@@ -61,19 +41,136 @@ void thin(HaloLine& line, std::int32_t least) {
     line.points = std::move(kept);
 }
 
+LonLat positionOf(const WorkLayer& pass, std::size_t record) {
+    return pass.recordN(static_cast<std::int32_t>(record)).position;
+}
+
 }  // namespace
 
-void addHalo(MapOverlay& overlay, std::span<const WorkLayer* const> passes,
-             std::pair<std::size_t, std::size_t> records, const ViewTransform& view) {
+/// Lines of the part of a pass that may touch the canvas.
+class StretchHalo::LineMaker {
+public:
+    LineMaker(const Pass& pass, std::pair<std::size_t, std::size_t> records,
+              const ViewTransform& view, std::vector<HaloLine>& lines)
+        : pass_(pass), records_(records), view_(view), lines_(lines) {}
+
+    void addLines() {
+        if (records_.first == records_.second) {
+            const LonLat at = positionOf(*pass_.layer, records_.first);
+            addStep(at, at, true);
+        } else {
+            visit(pass_.levels.size() - 1, 0, stepsOfTop(pass_.levels.size()));
+        }
+    }
+
+private:
+    static std::size_t stepsOfTop(std::size_t levels) {
+        std::size_t steps = 1;
+        for (std::size_t i = 0; i < levels; ++i) {
+            steps *= kBranch;
+        }
+        return steps;
+    }
+
+    /// `steps`: how many a box of this level holds.
+    void visit(std::size_t level, std::size_t node, std::size_t steps) {
+        const std::size_t first = std::max(node * steps, records_.first);
+        const std::size_t end = std::min((node + 1) * steps, records_.second);
+        if (first >= end) {
+            return;
+        }
+        const Box& box = pass_.levels[level][node];
+        if (!view_.mayTouch(box.least, box.greatest, 0)) {
+            isOpen_ = false;
+        } else if (!isFar(view_.mapToScreen(box.least.x, box.least.y),
+                          view_.mapToScreen(box.greatest.x, box.greatest.y), kFinest)) {
+            addStep(positionOf(*pass_.layer, first), positionOf(*pass_.layer, end),
+                    end == records_.second);
+        } else if (level == 0) {
+            addSteps(first, end);
+        } else {
+            const std::size_t below = pass_.levels[level - 1].size();
+            for (std::size_t i = node * kBranch; i < std::min((node + 1) * kBranch, below); ++i) {
+                visit(level - 1, i, steps / kBranch);
+            }
+        }
+    }
+
+    void addSteps(std::size_t first, std::size_t end) {
+        LonLat before = positionOf(*pass_.layer, first);
+        for (std::size_t n = first + 1; n <= end; ++n) {
+            const LonLat at = positionOf(*pass_.layer, n);
+            addStep(before, at, n == records_.second);
+            before = at;
+        }
+    }
+
+    void addStep(LonLat from, LonLat to, bool isLast) {
+        if (!view_.mayTouch(from, to, 0)) {
+            isOpen_ = false;
+            return;
+        }
+        if (!isOpen_) {
+            lines_.push_back({{view_.mapToScreen(from.x, from.y)}});
+            isOpen_ = true;
+        }
+        const CanvasPoint point = view_.mapToScreen(to.x, to.y);
+        if (isLast || isFar(lines_.back().points.back(), point, kFinest)) {
+            lines_.back().points.push_back(point);
+        }
+    }
+
+    const Pass& pass_;
+    std::pair<std::size_t, std::size_t> records_;
+    const ViewTransform& view_;
+    std::vector<HaloLine>& lines_;
+    bool isOpen_ = false;
+};
+
+StretchHalo::StretchHalo(std::span<const WorkLayer* const> passes) {
+    const auto add = [](Box& box, const Box& other) {
+        box.least = {std::min(box.least.x, other.least.x), std::min(box.least.y, other.least.y)};
+        box.greatest = {std::max(box.greatest.x, other.greatest.x),
+                        std::max(box.greatest.y, other.greatest.y)};
+    };
+    for (const WorkLayer* layer : passes) {
+        Pass& pass = passes_.emplace_back();
+        pass.layer = layer;
+        std::vector<Box> level;
+        const auto count = static_cast<std::size_t>(layer->recordCount());
+        for (std::size_t n = 0; n < count; ++n) {
+            const LonLat at = positionOf(*layer, n);
+            if (n > 0) {
+                add(level.back(), {at, at});  // where the step before it ends
+            }
+            if (n % kBranch == 0) {
+                level.push_back({at, at});
+            }
+        }
+        while (level.size() > 1) {
+            std::vector<Box> above;
+            for (std::size_t i = 0; i < level.size(); ++i) {
+                if (i % kBranch == 0) {
+                    above.push_back(level[i]);
+                }
+                add(above.back(), level[i]);
+            }
+            pass.levels.push_back(std::exchange(level, std::move(above)));
+        }
+        pass.levels.push_back(std::move(level));
+    }
+}
+
+void StretchHalo::addTo(MapOverlay& overlay, std::pair<std::size_t, std::size_t> records,
+                        const ViewTransform& view) const {
     std::vector<HaloLine> lines;
     std::size_t before = 0;
-    for (const WorkLayer* pass : passes) {
-        const auto count = static_cast<std::size_t>(pass->recordCount());
+    for (const Pass& pass : passes_) {
+        const auto count = static_cast<std::size_t>(pass.layer->recordCount());
         if (count > 0 && records.first < before + count && records.second >= before) {
             const std::size_t first = std::max(records.first, before) - before;
             const std::size_t last = std::min(records.second - before, count - 1);
-            addLines(lines, *pass,
-                     {static_cast<std::int32_t>(first), static_cast<std::int32_t>(last)}, view);
+            LineMaker(pass, {first, last}, view, lines).addLines();
         }
         before += count;
     }

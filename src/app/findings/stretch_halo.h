@@ -6,17 +6,43 @@
 #include <cstddef>
 #include <span>
 #include <utility>
+#include <vector>
 
+#include "base/lon_lat.h"
 #include "model/view_transform.h"
 #include "model/work_layer.h"
 #include "platform/map_overlay.h"
 
 namespace campora {
 
-/// Appends the way between two records, counted over all passes of a file: a line for each pass, as
-/// far as it may touch the canvas, no finer than can be seen, and coarser where there is much of
-/// it.
-void addHalo(MapOverlay& overlay, std::span<const WorkLayer* const> passes,
-             std::pair<std::size_t, std::size_t> records, const ViewTransform& view);
+/// The way of the work of a file, of which any part is drawn at once, however many records it has.
+class StretchHalo {
+public:
+    StretchHalo() = default;
+    /// They outlive the halo, and their positions stay.
+    explicit StretchHalo(std::span<const WorkLayer* const> passes);
+
+    /// Appends the way between two records, counted over all passes: a line for each pass, as far
+    /// as it may touch the canvas, no finer than can be seen, and coarser where there is much of
+    /// it.
+    void addTo(MapOverlay& overlay, std::pair<std::size_t, std::size_t> records,
+               const ViewTransform& view) const;
+
+private:
+    struct Box {
+        LonLat least;
+        LonLat greatest;
+    };
+    /// Boxes of `kBranch` steps, of `kBranch` of these boxes, and so on up to a single one.
+    struct Pass {
+        const WorkLayer* layer = nullptr;
+        std::vector<std::vector<Box>> levels;
+    };
+    class LineMaker;
+
+    static constexpr std::size_t kBranch = 16;
+
+    std::vector<Pass> passes_;
+};
 
 }  // namespace campora

@@ -7,7 +7,6 @@
 #include <cmath>
 
 #include "app/clock_text.h"
-#include "app/findings/stretch_halo.h"
 #include "work/color_modes.h"
 
 namespace campora {
@@ -66,6 +65,7 @@ void TimeStrip::setShown(bool shown) {
 void TimeStrip::filesChanged() {
     stale_ = true;
     passes_.clear();
+    halo_ = {};
 }
 
 void TimeStrip::refresh() {
@@ -94,6 +94,7 @@ void TimeStrip::read(const File& file, bool sameFile) {
     units_ = countsUnits(file).value_or(false);
     series_.emplace(passes_, channel_);
     holes_ = StripHoles(passes_);
+    halo_ = StretchHalo(passes_);
     if (series_->size() == 0) {
         series_.reset();
     }
@@ -355,7 +356,7 @@ std::string TimeStrip::spoken() const {
 
 void TimeStrip::addShapes(MapOverlay& overlay) const {
     if (shown_ && stretch_ && !passes_.empty() && map_.files().indexOf(file_)) {
-        addHalo(overlay, passes_, *stretch_, display_.view().transform());
+        halo_.addTo(overlay, *stretch_, display_.view().transform());
     }
 }
 

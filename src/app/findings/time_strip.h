@@ -11,6 +11,7 @@
 #include <utility>
 #include <vector>
 
+#include "app/findings/stretch_halo.h"
 #include "app/findings/strip_holes.h"
 #include "app/findings/strip_texts.h"
 #include "app/findings/strip_window.h"
@@ -143,6 +144,7 @@ private:
     std::vector<const WorkLayer*> passes_;
     std::optional<TimeSeries> series_;
     StripHoles holes_;
+    StretchHalo halo_;
     /// Of the whole file; 0 where it cannot be told.
     double meanDose_ = 0;
     StripWindow window_;
