@@ -12,6 +12,31 @@
 
 namespace campora {
 
+namespace {
+
+void connectStrip(TimeStrip& strip, Replay& replay, const OpenMap& map) {
+    strip.onGo = [&](const WorkPlace& place) {
+        if (const std::optional<std::int32_t> position = replayPosition(map, place)) {
+            // A seek stops behind its target, at the first element that it shows.
+            replay.jumpTo(std::max(*position - 1, 0));
+        }
+    };
+    strip.onPause = [&replay] {
+        const bool isPlaying = replay.state() == Replay::State::Playing;
+        if (isPlaying) {
+            replay.play();
+        }
+        return isPlaying;
+    };
+    strip.onPlay = [&](const WorkPlace& place) {
+        if (const std::optional<std::int32_t> position = replayPosition(map, place)) {
+            replay.playFrom(*position);
+        }
+    };
+}
+
+}  // namespace
+
 Session::Session(MapCanvas& canvas, MainWindowControls& window, const Services& services,
                  Language language, std::string programFolder)
     : services_(services),
@@ -41,17 +66,7 @@ Session::Session(MapCanvas& canvas, MainWindowControls& window, const Services& 
         replay_.prepareReplay();
         findings_.tables.filesChanged();
     };
-    findings_.timeStrip.onGo = [this](const WorkPlace& place) {
-        if (const std::optional<std::int32_t> position = replayPosition(map_, place)) {
-            // A seek stops behind its target, at the first element that it shows.
-            replay_.jumpTo(std::max(*position - 1, 0));
-        }
-    };
-    findings_.timeStrip.onPlay = [this](const WorkPlace& place) {
-        if (const std::optional<std::int32_t> position = replayPosition(map_, place)) {
-            replay_.playFrom(*position);
-        }
-    };
+    connectStrip(findings_.timeStrip, replay_, map_);
     display_.onEmpty = [this] { tools_.reset(); };
     tools_.onDose = [this](LonLat position) { prescCommands_.changeDose(position); };
     tools_.onAsked = [this](const Gph& layer, std::int32_t n) {

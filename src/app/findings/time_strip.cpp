@@ -197,7 +197,7 @@ bool TimeStrip::press(Key key, bool brushes) {
                key == Key::ZoomIn ? 1 : -1);
     } else if (key == Key::Go && onGo) {
         onGo({file_, at});
-    } else if (key == Key::Play && onPlay) {
+    } else if (key == Key::Play && onPlay && !(onPause && onPause())) {
         onPlay(stretch().value_or(WorkPlace{file_, at}));
     } else if (key == Key::Clear) {
         clearBrush();

@@ -77,6 +77,8 @@ public:
     /// The replay is to be put to a record, or to play from it on.
     std::function<void(const WorkPlace&)> onGo;
     std::function<void(const WorkPlace&)> onPlay;
+    /// Pauses the replay; false when it does not play.
+    std::function<bool()> onPause;
     /// What the strip shows has changed.
     std::function<void()> onChanged;
 

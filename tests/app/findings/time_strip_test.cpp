@@ -3,6 +3,8 @@
 
 #include "app/findings/time_strip.h"
 
+#include <utility>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -121,7 +123,10 @@ TEST_F(TimeStripTest, KeysMoveBrushAndGo) {
     strip.brush(100, 150);
     const std::size_t first = strip.stretch()->record;
     strip.press(Key::Play, false);
-    EXPECT_EQ(played, first);
+    EXPECT_EQ(std::exchange(played, std::nullopt), first);
+    strip.onPause = [] { return true; };
+    strip.press(Key::Play, false);
+    EXPECT_FALSE(played) << "it played, and pauses";
 }
 
 TEST_F(TimeStripTest, TellsMissingRecordsFromPauses) {
