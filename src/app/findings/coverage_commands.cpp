@@ -11,10 +11,16 @@
 namespace campora {
 
 std::optional<TextId> CoverageCommands::whyNot() const {
+    if (isMapOn()) {
+        return std::nullopt;  // it can be switched off, whatever has been closed
+    }
     const std::vector<File*> files = map_.files().all();
-    const bool hasWork = std::any_of(files.begin(), files.end(),
-                                     [](const File* file) { return !workLayers(*file).empty(); });
-    return hasWork ? std::nullopt : std::optional(TextId::NoAppliedWork);
+    const bool hasSteps = std::any_of(files.begin(), files.end(), [](const File* file) {
+        const std::vector<const WorkLayer*> work = workLayers(*file);
+        return std::any_of(work.begin(), work.end(),
+                           [](const WorkLayer* layer) { return layer->recordCount() > 1; });
+    });
+    return hasSteps ? std::nullopt : std::optional(TextId::NoAppliedWork);
 }
 
 void CoverageCommands::toggleMap() {

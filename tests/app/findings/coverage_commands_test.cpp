@@ -55,7 +55,9 @@ TEST_F(CoverageMap, ShowsWhatWasCoveredUntilAnotherMapIsAsked) {
 
 TEST_F(CoverageMap, NeedsWorkWithProduct) {
     EXPECT_EQ(commands().whyNot(), TextId::NoAppliedWork);
-    ASSERT_TRUE(open({track("log0001.nbr", 0)}));
+    ASSERT_TRUE(open({track("log0002.nbr", 40, 1)}));
+    EXPECT_EQ(commands().whyNot(), TextId::NoAppliedWork) << "a record covers no ground";
+    ASSERT_TRUE(open({track("log0001.nbr", 0)}, true));
     commands().toggleMap();
     EXPECT_FALSE(commands().isMapOn());
     EXPECT_EQ(dialogs.messages.size(), 1U);
