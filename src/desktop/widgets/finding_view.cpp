@@ -10,6 +10,7 @@
 #include <QPainter>
 #include <QScopedValueRollback>
 
+#include "base/numbers.h"
 #include "desktop/platform/pointer_override.h"
 #include "desktop/platform/qt_text.h"
 #include "desktop/widgets/finding_model.h"
@@ -74,6 +75,10 @@ void FindingView::showWork() {
         load();
     } else if (model_->table() != nullptr) {
         model_->forget();
+        leftOut_.clear();
+        if (onTipChanged) {
+            onTipChanged();
+        }
     }
 }
 
@@ -92,7 +97,14 @@ void FindingView::load() {
     }
     const std::optional<TextId> reason = commands_->whyEmpty(kind_);
     whyEmpty_ = reason ? toQt(model_->table()->texts()(*reason)) : QString();
-    setAccessibleDescription(reason ? whyEmpty_ : tip_);
+    const FindingTable& found = *model_->table();
+    leftOut_ = found.turns() == 0
+                   ? QString()
+                   : toQt(found.texts().format(TextId::TurnsLeftOut, {numberText(found.turns())}));
+    setAccessibleDescription(reason ? whyEmpty_ : tip());
+    if (onTipChanged) {
+        onTipChanged();
+    }
     arrangeColumns();
     showSelected();
 }

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <functional>
+
 #include <QTableView>
 
 #include "app/findings/finding_commands.h"
@@ -28,8 +30,10 @@ public:
     void showWork();
     /// Makes the row that is selected in the commands the current one.
     void showSelected();
-    /// What it shows and how it is used.
-    [[nodiscard]] const QString& tip() const { return tip_; }
+    /// What it shows, how it is used and what was left out.
+    [[nodiscard]] QString tip() const { return leftOut_.isEmpty() ? tip_ : tip_ + ". " + leftOut_; }
+    /// May be empty.
+    std::function<void()> onTipChanged;
 
 protected:
     bool event(QEvent* event) override;
@@ -52,6 +56,8 @@ private:
     /// In place of rows.
     QString whyEmpty_;
     QString tip_;
+    /// How many turns are no problem.
+    QString leftOut_;
     bool selecting_ = false;
 };
 

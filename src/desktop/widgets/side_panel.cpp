@@ -23,6 +23,17 @@ namespace {
 
 constexpr int kSpacing = 4;
 
+/// For a tab, whose tip a screen reader reads out: rich text would break its lines, and be read
+/// with its marks.
+QString inLines(QString text) {
+    constexpr qsizetype kShortest = 60;
+    qsizetype from = 0;
+    for (qsizetype blank = 0; (blank = text.indexOf(' ', from + kShortest)) >= 0; from = blank) {
+        text[blank] = '\n';
+    }
+    return text;
+}
+
 /// A part of the panel: its widgets one below the other, the last one growing.
 QWidget* section(std::initializer_list<QWidget*> widgets) {
     auto* part = new QWidget;
@@ -60,6 +71,9 @@ SidePanel::SidePanel(QWidget* parent)
     for (QWidget* table : std::initializer_list<QWidget*>{summary_, passes_, problems_}) {
         tables_->addTab(table, QString());
     }
+    for (FindingView* table : {passes_, problems_}) {
+        table->onTipChanged = [this, table] { showTip(*table); };
+    }
 
     auto* parts = new QSplitter(Qt::Vertical);
     parts->setChildrenCollapsible(false);
@@ -85,15 +99,20 @@ void SidePanel::retranslate(const Texts& texts) {
         tables_->setTabText(tables_->indexOf(table), toQt(texts(name)));
     }
     summary_->setAccessibleName(toQt(texts(TextId::SummaryHeading)));
-    tables_->setAccessibleName(summary_->accessibleName());
-    tables_->tabBar()->setAccessibleName(summary_->accessibleName());
+    const QString tables = toQt(texts(TextId::WorkTables));
+    tables_->setAccessibleName(tables);
+    tables_->tabBar()->setAccessibleName(tables);
     for (FindingView* table : {passes_, problems_}) {
         table->retranslate(texts);
-        tables_->setTabToolTip(tables_->indexOf(table), plainToolTip(table->tip()));
+        showTip(*table);
     }
     fileTools_->setAccessibleName(toQt(texts(TextId::FileTools)));
     summary_->retranslate(texts);
     legend_->retranslate(texts);
+}
+
+void SidePanel::showTip(FindingView& table) {
+    tables_->setTabToolTip(tables_->indexOf(&table), inLines(table.tip()));
 }
 
 void SidePanel::openProblems() {

@@ -38,6 +38,8 @@ public:
     [[nodiscard]] LegendView& legend() const { return *legend_; }
 
 private:
+    void showTip(FindingView& table);
+
     FileListView* files_;
     QToolBar* fileTools_;
     SummaryTable* summary_;
