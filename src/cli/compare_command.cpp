@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "app/findings/comparison_texts.h"
@@ -20,7 +21,7 @@ namespace {
 
 Json channelJson(const ChannelComparison& sum) {
     return {{"channel", sum.channel.ofJob + 1},
-            {"netHa", figureJson(sum.hectares)},
+            {"netHa", figureJson(sum.netHa)},
             {"prescribedProduct", figureJson(sum.prescribed)},
             {"appliedProduct", figureJson(sum.applied)},
             {"meanDeviation", figureJson(sum.meanDeviation)},
@@ -32,7 +33,7 @@ Json channelJson(const ChannelComparison& sum) {
 Json zoneJson(int channel, const DoseComparison& zone) {
     return {{"channel", channel + 1},
             {"dose", asDecimal(zone.dose)},
-            {"hectares", figureJson(zone.hectares)},
+            {"hectares", figureJson(zone.netHa)},
             {"prescribedProduct", figureJson(zone.prescribed)},
             {"appliedProduct", figureJson(zone.applied)},
             {"within", figureJson(zone.within())}};
@@ -100,7 +101,8 @@ int runCompare(const Arguments& arguments, const Console& console) {
                                : Failure{TextId::CompareNoChannel, {arguments.files.front()}});
         return exit_status::kRefused;
     }
-    const Comparison comparison = compareDoses(work, source, channels, arguments.limit);
+    const Comparison comparison =
+        compareDoses(NetWork(std::move(work)), source, channels, arguments.limit);
     if (arguments.json) {
         printJson(comparisonJson(arguments, paths, comparison), console.out);
     } else if (arguments.csv) {

@@ -24,9 +24,10 @@ std::optional<ReadPrescription> comparedWith(const std::string& plan, BatchMap& 
         return std::nullopt;
     }
     const DoseSource* const source = read->prescription.source;
-    const bool isShown = showDeviation(batch.map(), [source](const File& /*job*/) {
+    const auto plansOf = [source](const File& /*job*/) {
         return OpenPrescription{{}, {}, false, source, nullptr};
-    });
+    };
+    const bool isShown = showDeviation(batch.map(), plansOf, std::make_shared<NetWorks>());
     if (!isShown) {
         batch.desk().tell({TextId::CompareNothingWorked, {}});
         return std::nullopt;

@@ -24,6 +24,12 @@ float appliedIn(const WorkRecord& record, int channel) {
     return channel < record.channels ? record.applied[static_cast<std::size_t>(channel)] : 0;
 }
 
+/// Hectares of a step.
+struct Ground {
+    double net = 0;
+    double driven = 0;
+};
+
 /// Adds up the ground of one channel.
 class ChannelSum {
 public:
@@ -32,32 +38,31 @@ public:
     [[nodiscard]] const ChannelPair& channel() const { return sum_.channel; }
 
     /// `dose`: with a prescribed one.
-    void add(const ComparedDose& dose, double hectares) {
-        const double prescribed = static_cast<double>(*dose.prescribed) * hectares;
-        const double applied = static_cast<double>(dose.applied) * hectares;
-        sum_.hectares += hectares;
-        sum_.prescribed += prescribed;
-        sum_.applied += applied;
-        for (std::size_t i = 0; i < kJudgedLimits.size(); ++i) {
-            sum_.withinHa[i] += dose.isWithin(kJudgedLimits[i]) ? hectares : 0;
-        }
-        if (const std::optional<double> deviation = dose.deviation()) {
-            deviationHa_ += *deviation * hectares;
-            dosedHa_ += hectares;
-        }
+    void add(const ComparedDose& dose, const Ground& ground) {
         DoseComparison& ofDose = doses_[*dose.prescribed];
         ofDose.dose = *dose.prescribed;
-        ofDose.hectares += hectares;
-        ofDose.prescribed += prescribed;
-        ofDose.applied += applied;
-        ofDose.withinHa += dose.isWithin(limit_) ? hectares : 0;
+        ofDose.netHa += ground.net;
+        ofDose.driven += ground.driven;
+        ofDose.prescribed += static_cast<double>(*dose.prescribed) * ground.driven;
+        ofDose.applied += static_cast<double>(dose.applied) * ground.driven;
+        ofDose.withinHa += dose.isWithin(limit_) ? ground.net : 0;
+        for (std::size_t i = 0; i < kJudgedLimits.size(); ++i) {
+            sum_.withinHa[i] += dose.isWithin(kJudgedLimits[i]) ? ground.net : 0;
+        }
+        if (const std::optional<double> deviation = dose.deviation()) {
+            deviationHa_ += *deviation * ground.net;
+            dosedHa_ += ground.net;
+        }
     }
 
     [[nodiscard]] ChannelComparison sum() const {
         ChannelComparison whole = sum_;
         whole.meanDeviation = part(deviationHa_, dosedHa_);
-        for (const auto& [dose, ground] : doses_) {
-            whole.doses.push_back(ground);
+        for (const auto& [dose, ofDose] : doses_) {
+            whole.netHa += ofDose.netHa;
+            whole.prescribed += ofDose.prescribed;
+            whole.applied += ofDose.applied;
+            whole.doses.push_back(ofDose);
         }
         return whole;
     }
@@ -69,6 +74,21 @@ private:
     double dosedHa_ = 0;
     std::map<float, DoseComparison> doses_;
 };
+
+/// Whether anything is prescribed at the middle of the step, for any of the channels.
+bool addStep(std::vector<ChannelSum>& sums, const WorkRecord& record, LonLat middle,
+             const DoseSource& source, const Ground& ground) {
+    bool isInside = false;
+    for (ChannelSum& sum : sums) {
+        const ComparedDose dose{appliedIn(record, sum.channel().ofJob),
+                                source.doseAt(middle, sum.channel().ofSource)};
+        if (dose.prescribed) {
+            isInside = true;
+            sum.add(dose, ground);
+        }
+    }
+    return isInside;
+}
 
 }  // namespace
 
@@ -110,11 +130,15 @@ bool ComparedDose::isWithin(double limit) const {
 }
 
 std::optional<double> DoseComparison::within() const {
-    return part(withinHa, hectares);
+    return part(withinHa, netHa);
+}
+
+std::optional<double> DoseComparison::meanDose() const {
+    return part(applied, driven);
 }
 
 std::optional<double> ChannelComparison::within(std::size_t limit) const {
-    return part(withinHa[limit], hectares);
+    return part(withinHa[limit], netHa);
 }
 
 double stepHectares(const WorkRecord& from, const WorkRecord& to) {
@@ -126,69 +150,54 @@ LonLat stepMiddle(const WorkRecord& from, const WorkRecord& to) {
     return {(from.position.x + to.position.x) / 2, (from.position.y + to.position.y) / 2};
 }
 
-Comparison compareDoses(std::span<const WorkLayer* const> work, const DoseSource& source,
+Comparison compareDoses(const NetWork& work, const DoseSource& source,
                         std::span<const ChannelPair> channels, double limit) {
     Comparison whole;
+    double drivenHa = 0;
     std::vector<ChannelSum> sums;
     for (const ChannelPair& channel : channels) {
         sums.emplace_back(channel, limit);
     }
-    const auto add = [&](const WorkRecord& from, const WorkRecord& to) {
-        const double hectares = stepHectares(from, to);
-        if (!from.worked) {
-            whole.undosedHa += hectares;
+    forEachStep(work, [&](const WorkRecord& from, const WorkRecord& to, double netHa) {
+        const Ground ground{netHa, stepHectares(from, to)};
+        if (!std::isfinite(ground.driven)) {
             return;
         }
-        whole.workedHa += hectares;
-        const LonLat middle = stepMiddle(from, to);
-        bool isInside = false;
-        for (ChannelSum& sum : sums) {
-            const ComparedDose dose{appliedIn(from, sum.channel().ofJob),
-                                    source.doseAt(middle, sum.channel().ofSource)};
-            if (dose.prescribed) {
-                isInside = true;
-                sum.add(dose, hectares);
-            }
+        if (!from.worked) {
+            whole.undosedHa += ground.driven;
+            return;
         }
-        whole.outsideHa += isInside ? 0 : hectares;
-    };
-    for (const WorkLayer* layer : work) {
-        forEachStep(*layer, add);
-    }
+        whole.netHa += ground.net;
+        drivenHa += ground.driven;
+        const bool isInside = addStep(sums, from, stepMiddle(from, to), source, ground);
+        whole.outsideHa += isInside ? 0 : ground.net;
+    });
+    whole.againHa = std::max(drivenHa - whole.netHa, 0.0);
     for (const ChannelSum& sum : sums) {
         whole.channels.push_back(sum.sum());
     }
     return whole;
 }
 
-std::optional<double> commonGround(std::span<const WorkLayer* const> work,
-                                   const DoseSource& source) {
-    constexpr std::int64_t kLooks = 20'000;
-    std::int64_t records = 0;
-    for (const WorkLayer* layer : work) {
-        records += layer->recordCount();
-    }
-    const std::int64_t every = 1 + records / kLooks;
-    std::int64_t step = 0;
-    double worked = 0;
+std::optional<double> commonGround(const NetWork& work, const DoseSource& source) {
+    constexpr std::size_t kLooks = 20'000;
+    const std::size_t every = 1 + work.hectares().size() / kLooks;
+    std::size_t step = 0;
+    double net = 0;
     double common = 0;
-    const auto add = [&](const WorkRecord& from, const WorkRecord& to) {
+    forEachStep(work, [&](const WorkRecord& from, const WorkRecord& to, double netHa) {
         if (step++ % every != 0 || !from.worked) {
             return;
         }
-        const double hectares = stepHectares(from, to);
         const LonLat middle = stepMiddle(from, to);
         bool isDosed = false;
         for (int channel = 0; channel < source.doseChannels() && !isDosed; ++channel) {
             isDosed = source.doseAt(middle, channel).value_or(0) > 0;
         }
-        worked += hectares;
-        common += isDosed ? hectares : 0;
-    };
-    for (const WorkLayer* layer : work) {
-        forEachStep(*layer, add);
-    }
-    return part(common, worked);
+        net += netHa;
+        common += isDosed ? netHa : 0;
+    });
+    return part(common, net);
 }
 
 }  // namespace campora

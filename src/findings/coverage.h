@@ -5,6 +5,7 @@
 
 #include <optional>
 #include <span>
+#include <vector>
 
 #include "findings/coverage_grid.h"
 #include "findings/lot_ground.h"
@@ -42,10 +43,14 @@ struct Coverage {
     CoverageGrid grid;
 };
 
-/// Burns the swaths that got product into a grid and counts. A side of its cells is a thousandth of
-/// the side of a square as large as the job, at most a sixteenth of the mean swath and a metre, at
-/// least 0.1 m; damaged work beyond 50,000 hectares has larger ones. `lots` may be empty.
+/// Burns the swaths that got product into a grid (`latticeFor`) and counts. `lots` may be empty.
 [[nodiscard]] Coverage coverGround(std::span<const WorkLayer* const> passes,
                                    std::span<const LotRing> lots);
+
+/// Hectares of each step that no step before it covered, through all passes in order: ground that
+/// is worked again is that of the step that worked it first. One a step, which is one less than the
+/// records of a pass; 0 for a step without product. Together they are `net` of `coverGround`; where
+/// nothing is covered twice each is the length times the width of its step.
+[[nodiscard]] std::vector<double> newlyCovered(std::span<const WorkLayer* const> passes);
 
 }  // namespace campora

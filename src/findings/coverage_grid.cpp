@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 namespace campora {
@@ -57,10 +58,11 @@ std::span<const std::uint8_t> CoverageGrid::Tile::part(std::int32_t cellRow, std
                                     static_cast<std::size_t>(count));
 }
 
-void CoverageGrid::cover(const std::array<LatticePoint, 4>& figure) {
+CoverageGrid::Covered CoverageGrid::cover(const std::array<LatticePoint, 4>& figure) {
     if (!std::all_of(figure.begin(), figure.end(), isNear)) {
-        return;
+        return {};
     }
+    Covered covered;
     std::array<Side, 4> sides{};
     for (std::size_t i = 0; i < sides.size(); ++i) {
         sides[i] = sideBetween(figure[i], figure[(i + 1) % figure.size()]);
@@ -78,21 +80,28 @@ void CoverageGrid::cover(const std::array<LatticePoint, 4>& figure) {
         }
         if (count == 4) {
             std::sort(met.begin(), met.end());
-            coverRow(row, cellFrom(met[2]), cellFrom(met[3]));
+            coverRow(row, cellFrom(met[2]), cellFrom(met[3]), covered);
         }
         const auto [left, right] = std::minmax(met[0], met[1]);
-        coverRow(row, cellFrom(left), cellFrom(right));
+        coverRow(row, cellFrom(left), cellFrom(right), covered);
     }
+    return covered;
 }
 
-void CoverageGrid::coverRow(std::int32_t row, std::int32_t first, std::int32_t end) {
+void CoverageGrid::coverRow(std::int32_t row, std::int32_t first, std::int32_t end,
+                            Covered& covered) {
+    static_assert(kTileSide <= std::numeric_limits<std::uint8_t>::max());
     while (first < end) {
         Tile& at = tile(tileOf(first), tileOf(row));
         const std::int32_t place = placeInTile(first);
         const std::int32_t count = std::min(end - first, kTileSide - place);
+        std::uint8_t fresh = 0;  // as narrow as a cell, so that many are counted at once
         for (std::uint8_t& cell : at.part(placeInTile(row), place, count)) {
+            fresh = static_cast<std::uint8_t>(fresh + (cell == 0 ? 1 : 0));
             cell = static_cast<std::uint8_t>(cell + (cell != kMostOften ? 1 : 0));
         }
+        covered.fresh += fresh;
+        covered.cells += static_cast<std::uint32_t>(count);
         at.visits += static_cast<std::uint64_t>(count);
         first += count;
     }

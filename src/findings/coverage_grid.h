@@ -39,13 +39,19 @@ public:
                                                          std::int32_t count) const;
     };
 
+    /// Cells that a figure covers, and those of them that nothing had covered before.
+    struct Covered {
+        std::uint32_t cells = 0;
+        std::uint32_t fresh = 0;
+    };
+
     explicit CoverageGrid(const GroundLattice& lattice) : lattice_(lattice) {}
 
     [[nodiscard]] const GroundLattice& lattice() const { return lattice_; }
     /// Covers the cells whose middle lies in the figure, once more; what it goes round twice is
     /// outside. Figures that share a side share no cell and leave none between them. One with a
     /// corner that is no number, or too far away for any field, is left out.
-    void cover(const std::array<LatticePoint, 4>& figure);
+    Covered cover(const std::array<LatticePoint, 4>& figure);
     /// When everything is covered: says of a cell that it was left out; nothing for a covered one.
     void leaveOut(std::int32_t column, std::int32_t row);
 
@@ -75,7 +81,7 @@ private:
 
     [[nodiscard]] static std::uint64_t keyOf(std::int32_t column, std::int32_t row);
     Tile& tile(std::int32_t column, std::int32_t row);
-    void coverRow(std::int32_t row, std::int32_t first, std::int32_t end);
+    void coverRow(std::int32_t row, std::int32_t first, std::int32_t end, Covered& covered);
 
     GroundLattice lattice_;
     std::vector<std::unique_ptr<Tile>> tiles_;

@@ -25,14 +25,16 @@ GphVRT threeCells(int channels = 1) {
     return {"plan.vrt", {{0, 0, 20, 3, 1, channels, "", ""}, doses}, Color{}, '.'};
 }
 
-/// A pass to the east through the middle of the cells: steps of 10 m, 20 m wide, two a cell.
-GphTrack passWith(std::initializer_list<std::int32_t> doses, std::size_t channels = 1) {
+/// A pass to the east through the middle of the cells, or that far north: steps of 10 m, 20 m wide,
+/// two a cell.
+GphTrack passWith(std::initializer_list<std::int32_t> doses, std::size_t channels = 1,
+                  double north = 10) {
     GphTrack track;
     double east = 0;
     const auto add = [&](std::int32_t dose) {
         TrackDataRPT::Fields fields = reportFields(dose);
         fields.channels = static_cast<std::uint8_t>(channels);
-        const LonLat at = atMetres(east, 10);
+        const LonLat at = atMetres(east, north);
         track.addPoint(at.x, at.y, TrackDataRPT(fields));
         east += 10;
     };
@@ -48,15 +50,16 @@ constexpr double kNear = 1e-6;
 TEST(Compare, KnownDosesInKnownCellsGiveTheArithmeticAnswer) {
     const GphVRT plan = threeCells();
     const GphTrack job = passWith({100, 104, 60, 0, 30, 0, 80});
-    const WorkLayer* const work[] = {&job};
-    const auto channels = channelPairs(work, plan, std::nullopt);
+    const NetWork work({&job});
+    const auto channels = channelPairs(work.layers(), plan, std::nullopt);
     ASSERT_EQ(channels.size(), 1U);
     const Comparison whole = compareDoses(work, plan, channels, 10);
-    EXPECT_NEAR(whole.workedHa, 0.10, kNear);
+    EXPECT_NEAR(whole.netHa, 0.10, kNear);
+    EXPECT_NEAR(whole.againHa, 0, kNear);
     EXPECT_NEAR(whole.undosedHa, 0.04, kNear);
     EXPECT_NEAR(whole.outsideHa, 0.02, kNear);
     const ChannelComparison& sum = whole.channels.at(0);
-    EXPECT_NEAR(sum.hectares, 0.08, kNear);
+    EXPECT_NEAR(sum.netHa, 0.08, kNear);
     EXPECT_NEAR(sum.prescribed, 5, kNear);
     EXPECT_NEAR(sum.applied, 4.08 + 1.2 + 0.6, kNear);
     EXPECT_NEAR(sum.meanDeviation.value_or(0), (0 + 4 + 20) / 3.0, kNear);
@@ -72,7 +75,7 @@ TEST(Compare, KnownDosesInKnownCellsGiveTheArithmeticAnswer) {
     for (std::size_t i = 0; i < std::size(rows); ++i) {
         SCOPED_TRACE(rows[i].dose);
         EXPECT_EQ(sum.doses[i].dose, rows[i].dose);
-        EXPECT_NEAR(sum.doses[i].hectares, rows[i].hectares, kNear);
+        EXPECT_NEAR(sum.doses[i].netHa, rows[i].hectares, kNear);
         EXPECT_NEAR(sum.doses[i].prescribed, rows[i].prescribed, kNear);
         EXPECT_NEAR(sum.doses[i].applied, rows[i].applied, kNear);
         EXPECT_NEAR(sum.doses[i].within().value_or(-1), rows[i].within, kNear);
@@ -81,14 +84,46 @@ TEST(Compare, KnownDosesInKnownCellsGiveTheArithmeticAnswer) {
     EXPECT_NEAR(commonGround(work, plan).value_or(0), 0.6, kNear);
 }
 
+TEST(Compare, GroundWorkedAgainCountsOnceAndIsJudgedByItsFirstPass) {
+    const GphVRT plan = threeCells();
+    const GphTrack first = passWith({100, 100, 100, 100});
+    const GphTrack second = passWith({50, 50, 50, 50}, 1, 18);  // 8 m farther: 12 m twice
+    const NetWork work({&first, &second});
+    const Comparison whole =
+        compareDoses(work, plan, channelPairs(work.layers(), plan, std::nullopt), 10);
+    constexpr double kCells = 0.005;
+    const auto isNear = [](double figure, double expected) {
+        EXPECT_NEAR(figure, expected, kCells * expected);
+    };
+    isNear(whole.netHa, 0.08 + 0.032);
+    isNear(whole.againHa, 0.048);
+    const ChannelComparison& sum = whole.channels.at(0);
+    isNear(sum.netHa, 0.112);
+    EXPECT_NEAR(sum.prescribed, 0.08 * 100 + 0.08 * 50, kNear);
+    EXPECT_NEAR(sum.applied, 0.08 * 100 + 0.08 * 50, kNear);
+    isNear(sum.meanDeviation.value_or(0), (0.016 * -50 + 0.04 * 100) / 0.112);
+    isNear(sum.within(1).value_or(0), (0.04 + 0.016) / 0.112);
+    for (const auto& [place, within] : {std::pair(1, 0.04), std::pair(0, 0.016)}) {
+        const DoseComparison& ofDose = sum.doses.at(static_cast<std::size_t>(place));
+        isNear(ofDose.netHa, 0.04 + 0.016);
+        isNear(ofDose.within().value_or(0), within / 0.056);
+        EXPECT_NEAR(ofDose.applied, 6, kNear);
+        EXPECT_NEAR(ofDose.meanDose().value_or(0), 75, kNear);
+    }
+    // Two thirds of the ground are the prescription's, though four fifths of the way are.
+    const GphTrack across = passWith({10, 10, 10, 10, 10, 10});
+    isNear(commonGround(NetWork({&across, &first}), plan).value_or(0), 2.0 / 3);
+}
+
 TEST(Compare, WithoutGroundThereAreNoFigures) {
     const GphVRT plan = threeCells();
     const GphTrack still = passWith({});
     const GphTrack undosed = passWith({0, 0});
     for (const WorkLayer* layer :
          {static_cast<const WorkLayer*>(&still), static_cast<const WorkLayer*>(&undosed)}) {
-        const std::span work(&layer, 1);
-        const Comparison none = compareDoses(work, plan, channelPairs(work, plan, {}), 10);
+        const NetWork work({layer});
+        const auto channels = channelPairs(work.layers(), plan, {});
+        const Comparison none = compareDoses(work, plan, channels, 10);
         ASSERT_EQ(none.channels.size(), 1U);
         EXPECT_FALSE(none.channels[0].meanDeviation);
         EXPECT_FALSE(none.channels[0].within(2));

@@ -5,6 +5,7 @@
 
 #include <cmath>
 #include <numbers>
+#include <numeric>
 
 #include "lots/merge_outlines.h"
 #include "model/geodesy.h"
@@ -57,11 +58,14 @@ public:
             drive({{0, north}, {500, north}});
         }
     }
-    [[nodiscard]] Coverage cover(const std::vector<Line>& lots = {}) const {
+    [[nodiscard]] std::vector<const WorkLayer*> passes() const {
         std::vector<const WorkLayer*> passes;
         for (const GphTrack& track : tracks_) {
             passes.push_back(&track);
         }
+        return passes;
+    }
+    [[nodiscard]] Coverage cover(const std::vector<Line>& lots = {}) const {
         std::vector<std::vector<LonLat>> rings;
         for (const Line& lot : lots) {
             rings.emplace_back();
@@ -69,7 +73,7 @@ public:
                 rings.back().push_back(at(place));
             }
         }
-        return coverGround(passes, std::vector<LotRing>(rings.begin(), rings.end()));
+        return coverGround(passes(), std::vector<LotRing>(rings.begin(), rings.end()));
     }
     [[nodiscard]] const std::vector<GphTrack>& tracks() const { return tracks_; }
 
@@ -103,6 +107,13 @@ TEST_P(AnyDirection, RowsAMetreTooCloseOverlapByAMetre) {
     EXPECT_THAT(figures.twice, IsHectares(0.95));
     EXPECT_DOUBLE_EQ(figures.net + figures.overlap, figures.dosed);
     EXPECT_THAT(figures.skipped, testing::Optional(testing::Lt(0.005)));
+    // The first row is new ground, every other one but for a metre; all steps of a row alike.
+    const std::vector<double> fresh = newlyCovered(job.passes());
+    constexpr std::size_t kSteps = 72;
+    ASSERT_EQ(fresh.size(), 20 * kSteps);
+    EXPECT_NEAR(std::accumulate(fresh.begin(), fresh.end(), 0.0), figures.net, 1e-9);
+    EXPECT_THAT(std::accumulate(fresh.begin(), fresh.begin() + kSteps, 0.0), IsHectares(1));
+    EXPECT_THAT(std::accumulate(fresh.end() - kSteps, fresh.end(), 0.0), IsHectares(0.95));
 }
 
 TEST_P(AnyDirection, AHeadlandDrivenTwiceCountsOnceAndAgain) {

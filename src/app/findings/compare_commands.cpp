@@ -19,18 +19,20 @@ std::optional<int> shownChannel(const MapStyle& style) {
 
 }  // namespace
 
-bool showDeviation(OpenMap& map, const PlanOf& planOf) {
-    return map.showModeLayer(ColorMode::Deviation, [planOf](const OpenMap& open) {
+bool showDeviation(OpenMap& map, const PlanOf& planOf, const std::shared_ptr<NetWorks>& works) {
+    return map.showModeLayer(ColorMode::Deviation, [planOf, works](const OpenMap& open) {
+        std::vector<const WorkLayer*> work;
         std::vector<PlannedJob> jobs;
         std::vector<OpenPrescription> plans;
         for (const File* file : open.files().all()) {
-            std::vector<const WorkLayer*> work = workLayers(*file);
-            if (!work.empty()) {
-                const DoseSource* const source = plans.emplace_back(planOf(*file)).source;
-                jobs.push_back({std::move(work), source});
+            const std::vector<const WorkLayer*> layers = workLayers(*file);
+            if (!layers.empty()) {
+                work.insert(work.end(), layers.begin(), layers.end());
+                jobs.push_back({layers, plans.emplace_back(planOf(*file)).source});
             }
         }
-        return makeDeviationLayer(jobs, shownChannel(open.style()));
+        const std::shared_ptr<const NetWork> net = works->of(std::move(work), open.files());
+        return makeDeviationLayer(jobs, net->hectares(), shownChannel(open.style()));
     });
 }
 
@@ -58,7 +60,8 @@ void CompareCommands::toggleMap() {
 
 bool CompareCommands::showMap() {
     const bool hadErrors = map_.style().mode == ColorMode::Error;
-    const bool isShown = showDeviation(map_, [this](const File& job) { return planOf(job); });
+    const bool isShown = showDeviation(
+        map_, [this](const File& job) { return planOf(job); }, works_);
     if (hadErrors) {
         recalcErrorAreas(map_);
     }
@@ -90,16 +93,20 @@ CompareCommands::currentOf(const File& job, const std::vector<PrescriptionMatch>
     return guessedPrescription(matches);
 }
 
+std::shared_ptr<const NetWork> CompareCommands::netWork(const File& job) const {
+    return works_->of(workLayers(job), map_.files());
+}
+
 OpenPrescription CompareCommands::planOf(const File& job) const {
     std::vector<OpenPrescription> open = openPrescriptions(map_.files());
-    const auto current = currentOf(job, matchPrescriptions(workLayers(job), open));
+    const auto current = currentOf(job, matchPrescriptions(*netWork(job), open));
     return current ? std::move(open[*current]) : OpenPrescription();
 }
 
 CompareCommands::Choices CompareCommands::choices(const File& job) const {
     constexpr double kPerCent = 100;
     const std::vector<OpenPrescription> open = openPrescriptions(map_.files());
-    const auto matches = matchPrescriptions(workLayers(job), open);
+    const auto matches = matchPrescriptions(*netWork(job), open);
     const std::optional<std::size_t> guessed = guessedPrescription(matches);
     Choices choices;
     choices.current = currentOf(job, matches);
@@ -128,10 +135,10 @@ std::optional<ComparisonTexts> CompareCommands::compare(const File& job) const {
     if (plan.source == nullptr) {
         return std::nullopt;
     }
-    const std::vector<const WorkLayer*> work = workLayers(job);
-    const auto channels = channelPairs(work, *plan.source, shownChannel(map_.style()));
+    const std::shared_ptr<const NetWork> work = netWork(job);
+    const auto channels = channelPairs(work->layers(), *plan.source, shownChannel(map_.style()));
     const File* const jobs[] = {&job};
-    return comparisonTexts(compareDoses(work, *plan.source, channels, kUsualLimit), kUsualLimit,
+    return comparisonTexts(compareDoses(*work, *plan.source, channels, kUsualLimit), kUsualLimit,
                            productUnit(jobs, map_.desk().texts), map_.desk());
 }
 

@@ -5,11 +5,13 @@
 
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "app/findings/comparison_texts.h"
+#include "app/findings/net_works.h"
 #include "app/findings/open_prescriptions.h"
 #include "app/map_display.h"
 #include "app/open_map.h"
@@ -19,12 +21,10 @@ namespace campora {
 /// Answers what was prescribed for a job; without a source where nothing was.
 using PlanOf = std::function<OpenPrescription(const File& job)>;
 
-/// Puts the map into the mode of what was applied against what was prescribed. False when there is
-/// no recorded work.
-[[nodiscard]] bool showDeviation(OpenMap& map, const PlanOf& planOf);
-
-/// Per cent: how far the dose of a job may be off where nobody says otherwise.
-inline constexpr double kUsualLimit = 10;
+/// Puts the map into the mode of what was applied against what was prescribed; `works` stays with
+/// it. False when there is no recorded work.
+[[nodiscard]] bool showDeviation(OpenMap& map, const PlanOf& planOf,
+                                 const std::shared_ptr<NetWorks>& works);
 
 /// What was applied in the open jobs beside what the open prescriptions say. Which prescription is
 /// for which job follows from the ground until the user says otherwise.
@@ -64,10 +64,13 @@ private:
     [[nodiscard]] OpenPrescription planOf(const File& job) const;
     [[nodiscard]] std::optional<std::size_t>
     currentOf(const File& job, const std::vector<PrescriptionMatch>& matches) const;
+    [[nodiscard]] std::shared_ptr<const NetWork> netWork(const File& job) const;
     [[nodiscard]] bool showMap();
 
     OpenMap& map_;
     MapDisplay& display_;
+    /// Shared with the mode of the map.
+    std::shared_ptr<NetWorks> works_ = std::make_shared<NetWorks>();
     /// Keys of prescriptions by paths of jobs.
     std::map<std::string, std::string> chosen_;
 };

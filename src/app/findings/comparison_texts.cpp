@@ -35,12 +35,13 @@ public:
     [[nodiscard]] std::string hectares(double value) const { return number(value, 2) + " ha"; }
 
     void addGround(ComparisonTexts& texts, const Comparison& comparison) const {
-        add(texts, TextId::CompareWorked, hectares(comparison.workedHa));
+        add(texts, TextId::NetCoverage, hectares(comparison.netHa));
+        add(texts, TextId::Overlap, hectares(comparison.againHa));
         add(texts, TextId::CompareOutside, hectares(comparison.outsideHa));
         add(texts, TextId::CompareUndosed, hectares(comparison.undosedHa));
     }
     void addChannel(ComparisonTexts& texts, const ChannelComparison& sum) const {
-        addOf(texts, sum, TextId::CompareArea, hectares(sum.hectares));
+        addOf(texts, sum, TextId::CompareArea, hectares(sum.netHa));
         addOf(texts, sum, TextId::ComparePrescribed, number(sum.prescribed, 1) + " " + unit_);
         addOf(texts, sum, TextId::CompareApplied, number(sum.applied, 1) + " " + unit_);
         addOf(texts, sum, TextId::CompareMeanDeviation,
@@ -58,7 +59,7 @@ public:
         for (const DoseComparison& ofDose : sum.doses) {
             texts.rows.push_back({numberText(sum.channel.ofJob + 1),
                                   numberToType(ofDose.dose, desk_.decimalSymbol()),
-                                  number(ofDose.hectares, 2), number(ofDose.prescribed, 1),
+                                  number(ofDose.netHa, 2), number(ofDose.prescribed, 1),
                                   number(ofDose.applied, 1), meanDose(ofDose),
                                   percent(ofDose.within())});
         }
@@ -89,8 +90,8 @@ private:
                                   {numberText(sum.channel.ofJob + 1), name});
     }
     [[nodiscard]] std::string meanDose(const DoseComparison& ofDose) const {
-        return ofDose.hectares > 0 ? number(ofDose.applied / ofDose.hectares, 1)
-                                   : std::string(kNone);
+        const std::optional<double> dose = ofDose.meanDose();
+        return dose ? number(*dose, 1) : std::string(kNone);
     }
 
     double limit_;

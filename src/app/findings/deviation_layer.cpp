@@ -148,12 +148,13 @@ private:
 
 class DeviationLayer final : public StillLayer, public ModeLayer {
 public:
-    void add(const PlannedJob& job, std::optional<int> channel) {
+    /// `netHa`: of the steps of this job and of those behind it, which are left.
+    void add(const PlannedJob& job, std::optional<int> channel, std::span<const double>& netHa) {
         const std::vector<ChannelPair> channels =
             job.source == nullptr ? std::vector<ChannelPair>{}
                                   : channelPairs(job.work, *job.source, channel);
         for (const WorkLayer* layer : job.work) {
-            add(*layer, job.source, channels);
+            add(*layer, job.source, channels, netHa);
         }
     }
     [[nodiscard]] bool isEmpty() const { return passes_.empty(); }
@@ -191,7 +192,7 @@ private:
         }
     }
     void add(const WorkLayer& layer, const DoseSource* source,
-             std::span<const ChannelPair> channels) {
+             std::span<const ChannelPair> channels, std::span<const double>& netHa) {
         ClassedPass pass;
         forEachStep(layer, [&](const WorkRecord& from, const WorkRecord& to) {
             if (pass.points.empty()) {
@@ -205,7 +206,8 @@ private:
             pass.classes.push_back(ofStep);
             pass.swaths.push_back(from.swath);
             pass.widest = std::max(pass.widest, std::abs(from.swath));
-            hectares_[ofStep] += stepHectares(from, to);
+            hectares_[ofStep] += from.worked ? netHa.front() : stepHectares(from, to);
+            netHa = netHa.subspan(1);
         });
         if (!pass.classes.empty()) {
             steps_ += static_cast<std::int32_t>(pass.classes.size());
@@ -258,10 +260,11 @@ LegendContent DeviationLayer::legend(const Desk& desk) const {
 }  // namespace
 
 std::unique_ptr<ModeLayer> makeDeviationLayer(std::span<const PlannedJob> jobs,
+                                              std::span<const double> netHa,
                                               std::optional<int> channel) {
     auto made = std::make_unique<DeviationLayer>();
     for (const PlannedJob& job : jobs) {
-        made->add(job, channel);
+        made->add(job, channel, netHa);
     }
     return made->isEmpty() ? nullptr : std::move(made);
 }

@@ -22,9 +22,12 @@ struct PlannedJob {
 };
 
 /// The steps of the jobs, coloured by how far the applied dose is from the prescribed one; what was
-/// driven without a dose and what lies outside the prescription have colours of their own.
-/// `channel`: of the jobs, from 0; none: the total of the channels that both have.
+/// driven without a dose and what lies outside the prescription have colours of their own. The
+/// legend tells `netHa`, those of the steps of all jobs one after the other (`NetWork`), and of
+/// what was driven without a dose length times width. `channel`: of the jobs, from 0; none: the
+/// total of the channels that both have.
 [[nodiscard]] std::unique_ptr<ModeLayer> makeDeviationLayer(std::span<const PlannedJob> jobs,
+                                                            std::span<const double> netHa,
                                                             std::optional<int> channel);
 
 }  // namespace campora

@@ -13,6 +13,7 @@
 #include "base/file_endings.h"
 #include "base/text.h"
 #include "findings/compare.h"
+#include "model/work_layer.h"
 #include "presc/load_grid.h"
 
 namespace campora {
@@ -140,7 +141,7 @@ std::optional<ReadPrescription> readPrescription(const std::string& word, const 
     return read;
 }
 
-std::vector<PrescriptionMatch> matchPrescriptions(std::span<const WorkLayer* const> work,
+std::vector<PrescriptionMatch> matchPrescriptions(const NetWork& work,
                                                   std::span<const OpenPrescription> prescriptions) {
     std::vector<PrescriptionMatch> matches;
     for (const OpenPrescription& prescription : prescriptions) {

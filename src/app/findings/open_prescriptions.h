@@ -11,9 +11,9 @@
 #include <vector>
 
 #include "app/loaded_file_list.h"
+#include "findings/net_work.h"
 #include "model/dose_source.h"
 #include "model/file.h"
-#include "model/work_layer.h"
 #include "platform/desk.h"
 
 namespace campora {
@@ -52,14 +52,13 @@ struct ReadPrescription {
 /// What the ground says of one prescription for a job.
 struct PrescriptionMatch {
     const OpenPrescription* prescription = nullptr;
-    /// Part of the worked ground, from 0 to 1.
+    /// Part of the net ground of the job, from 0 to 1.
     double common = 0;
 };
 
 /// In the order of `prescriptions`.
 [[nodiscard]] std::vector<PrescriptionMatch>
-matchPrescriptions(std::span<const WorkLayer* const> work,
-                   std::span<const OpenPrescription> prescriptions);
+matchPrescriptions(const NetWork& work, std::span<const OpenPrescription> prescriptions);
 /// The place of the one that has most ground in common with the job, the first of those with as
 /// much; none where none has `kLeastCommonGround`.
 [[nodiscard]] std::optional<std::size_t>

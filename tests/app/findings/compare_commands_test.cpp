@@ -59,6 +59,21 @@ TEST_F(CompareCommandsTest, TheMapShowsHowFarOffEachStepIs) {
     EXPECT_EQ(session.map().style().mode, ColorMode::Dose);
 }
 
+TEST_F(CompareCommandsTest, NetGroundIsCountedAgainOnlyWhenTheWorkIsAnother) {
+    ASSERT_TRUE(open({report("a.rpt")}, true));
+    const LoadedFileList& files = session.map().files();
+    NetWorks works;
+    const auto ofJob = [&] { return works.of(workLayers(files.file(0)), files); };
+    const std::shared_ptr<const NetWork> counted = ofJob();
+    EXPECT_EQ(ofJob(), counted);
+    for (Gph* layer : session.map().getGphList()) {
+        dynamic_cast<WorkLayer&>(*layer).trocha(30);
+    }
+    const std::shared_ptr<const NetWork> wider = ofJob();
+    ASSERT_NE(wider, counted);
+    EXPECT_NEAR(wider->hectares()[0], counted->hectares()[0] * 1.5, 1e-6);
+}
+
 TEST_F(CompareCommandsTest, GuessesByGroundUntilTheUserChooses) {
     ASSERT_TRUE(open({report("a.rpt"), zonesAt({-60, -33}, "lejos")}));
     const File& job = *commands.jobs().at(0);
