@@ -57,7 +57,7 @@ Session::Session(MapCanvas& canvas, MainWindowControls& window, const Services& 
       lotEditor_(map_, display_, tools_, services_.settings, services_.shell),
       lotCommands_(map_, display_, lotEditor_, services_.settings),
       exportCommands_(map_, display_, tools_, services_),
-      findings_(map_, display_, tools_) {
+      findings_(map_, display_, tools_, services_.settings) {
     map_.onReset = [this] { display_.showEmpty(); };
     display_.beforeDrawing = [this] { replay_.stopReplay(); };
     display_.onDrawn = [this] { tools_.viewChanged(); };

@@ -14,6 +14,7 @@
 #include "base/numbers.h"
 #include "base/text.h"
 #include "base/typed_number.h"
+#include "findings/compare.h"
 
 namespace campora {
 
@@ -91,6 +92,8 @@ constexpr std::array kRows = {
     // Of the ready ramps; 0: that of new scales.
     number(SettingId::ScaleRamp, "scaleRamp", 0, 0, 63),
     onOff(SettingId::TimeStrip, "timeStrip", false),
+    number(SettingId::CompareLimit, "compareLimit", static_cast<std::int32_t>(kUsualLimit), 0,
+           kMostCompareLimit),
 };
 
 constexpr bool rowsAreInOrder() {

@@ -60,7 +60,11 @@ enum class SettingId {
     TargetDose,
     ScaleRamp,
     TimeStrip,
+    CompareLimit,
 };
+
+/// Per cent.
+inline constexpr std::int32_t kMostCompareLimit = 100;
 
 enum class SettingType { Number, Color, Switch, Text };
 

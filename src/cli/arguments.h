@@ -13,6 +13,7 @@
 #include "app/presc/check_page.h"
 #include "base/lon_lat.h"
 #include "base/texts.h"
+#include "findings/compare.h"
 #include "model/map_style.h"
 #include "model/number_column.h"
 #include "platform/dialogs.h"
@@ -117,7 +118,7 @@ struct Arguments {
     /// The channel of the jobs that is compared, from 0; none: all.
     std::optional<int> comparedChannel;
     /// Per cent: the deviation that is allowed.
-    double limit = 10;
+    double limit = kUsualLimit;
     /// What a picture of deviations compares the jobs with.
     std::string plan;
 

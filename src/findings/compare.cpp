@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
+#include <numeric>
 
 #include "model/measures.h"
 #include "model/swath_geometry.h"
@@ -139,6 +140,12 @@ std::optional<double> DoseComparison::meanDose() const {
 
 std::optional<double> ChannelComparison::within(std::size_t limit) const {
     return part(withinHa[limit], netHa);
+}
+
+double ChannelComparison::withinAskedHa() const {
+    return std::accumulate(
+        doses.begin(), doses.end(), 0.0,
+        [](double sum, const DoseComparison& ofDose) { return sum + ofDose.withinHa; });
 }
 
 double stepHectares(const WorkRecord& from, const WorkRecord& to) {

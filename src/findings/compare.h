@@ -79,6 +79,8 @@ struct ChannelComparison {
 
     /// From 0 to 1; none without ground.
     [[nodiscard]] std::optional<double> within(std::size_t limit) const;
+    /// Of `netHa`, within the limit that was asked for.
+    [[nodiscard]] double withinAskedHa() const;
 };
 
 struct Comparison {

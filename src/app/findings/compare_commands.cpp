@@ -130,6 +130,10 @@ void CompareCommands::choose(const File& job, const std::string& key) {
     }
 }
 
+void CompareCommands::setLimit(int percent) {
+    writeNumber(settings_, SettingId::CompareLimit, std::clamp(percent, 0, kMostCompareLimit));
+}
+
 std::optional<ComparisonTexts> CompareCommands::compare(const File& job) const {
     const OpenPrescription plan = planOf(job);
     if (plan.source == nullptr) {
@@ -138,7 +142,7 @@ std::optional<ComparisonTexts> CompareCommands::compare(const File& job) const {
     const std::shared_ptr<const NetWork> work = netWork(job);
     const auto channels = channelPairs(work->layers(), *plan.source, shownChannel(map_.style()));
     const File* const jobs[] = {&job};
-    return comparisonTexts(compareDoses(*work, *plan.source, channels, kUsualLimit), kUsualLimit,
+    return comparisonTexts(compareDoses(*work, *plan.source, channels, limit()), limit(),
                            productUnit(jobs, map_.desk().texts), map_.desk());
 }
 

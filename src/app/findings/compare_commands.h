@@ -15,6 +15,8 @@
 #include "app/findings/open_prescriptions.h"
 #include "app/map_display.h"
 #include "app/open_map.h"
+#include "app/settings.h"
+#include "platform/settings_store.h"
 
 namespace campora {
 
@@ -42,8 +44,9 @@ public:
         std::optional<std::size_t> current;
     };
 
-    /// Both outlive this.
-    CompareCommands(OpenMap& map, MapDisplay& display) : map_(map), display_(display) {}
+    /// All of it outlives this.
+    CompareCommands(OpenMap& map, MapDisplay& display, SettingsStore& settings)
+        : map_(map), display_(display), settings_(settings) {}
 
     /// Why nothing can be compared; none when it can, or when the map does so.
     [[nodiscard]] std::optional<TextId> whyNot() const;
@@ -56,6 +59,10 @@ public:
     [[nodiscard]] Choices choices(const File& job) const;
     /// From now on that prescription is for the job, on the map too.
     void choose(const File& job, const std::string& key);
+    /// Per cent: how far a dose may be off, from now on and at the next start. What is out of range
+    /// becomes the nearest that is not.
+    void setLimit(int percent);
+    [[nodiscard]] int limit() const { return readNumber(settings_, SettingId::CompareLimit); }
     /// None where nothing was prescribed for the job. Channel by channel as the map shows them.
     [[nodiscard]] std::optional<ComparisonTexts> compare(const File& job) const;
 
@@ -69,6 +76,7 @@ private:
 
     OpenMap& map_;
     MapDisplay& display_;
+    SettingsStore& settings_;
     /// Shared with the mode of the map.
     std::shared_ptr<NetWorks> works_ = std::make_shared<NetWorks>();
     /// Keys of prescriptions by paths of jobs.

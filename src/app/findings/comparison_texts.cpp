@@ -3,6 +3,7 @@
 
 #include "app/findings/comparison_texts.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <optional>
 
@@ -47,14 +48,10 @@ public:
         addOf(texts, sum, TextId::CompareMeanDeviation,
               sum.meanDeviation ? number(*sum.meanDeviation, 1) + " %" : std::string(kNone));
         for (std::size_t i = 0; i < kJudgedLimits.size(); ++i) {
-            const std::optional<double> within = sum.within(i);
-            const Texts& words = desk_.texts;
-            texts.figures.push_back(
-                {ofChannel(sum,
-                           words.format(TextId::CompareWithin, {numberText(kJudgedLimits[i])})),
-                 within ? words.format(TextId::CompareShare,
-                                       {percent(within), number(sum.withinHa[i], 2)})
-                        : std::string(kNone)});
+            addWithin(texts, sum, kJudgedLimits[i], sum.withinHa[i]);
+        }
+        if (std::find(kJudgedLimits.begin(), kJudgedLimits.end(), limit_) == kJudgedLimits.end()) {
+            addWithin(texts, sum, limit_, sum.withinAskedHa());
         }
         for (const DoseComparison& ofDose : sum.doses) {
             texts.rows.push_back({numberText(sum.channel.ofJob + 1),
@@ -83,6 +80,17 @@ private:
     void addOf(ComparisonTexts& texts, const ChannelComparison& sum, TextId name,
                std::string value) const {
         texts.figures.push_back({ofChannel(sum, std::string(desk_.texts(name))), std::move(value)});
+    }
+    void addWithin(ComparisonTexts& texts, const ChannelComparison& sum, double limit,
+                   double hectares) const {
+        const Texts& words = desk_.texts;
+        const std::string name =
+            words.format(TextId::CompareWithin, {numberToType(limit, desk_.decimalSymbol())});
+        texts.figures.push_back(
+            {ofChannel(sum, name),
+             sum.netHa > 0 ? words.format(TextId::CompareShare,
+                                          {percent(hectares / sum.netHa), number(hectares, 2)})
+                           : std::string(kNone)});
     }
     [[nodiscard]] std::string ofChannel(const ChannelComparison& sum,
                                         const std::string& name) const {

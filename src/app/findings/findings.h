@@ -13,9 +13,9 @@ namespace campora {
 /// What the open work really was: its ground, its prescription, its passes and problems, its time.
 struct Findings {
     /// All of it outlives them.
-    Findings(OpenMap& map, MapDisplay& display, MapTools& tools)
+    Findings(OpenMap& map, MapDisplay& display, MapTools& tools, SettingsStore& settings)
         : coverage(map, display),
-          comparison(map, display),
+          comparison(map, display, settings),
           tables(map, display, tools),
           timeStrip(map, display, tools) {}
 

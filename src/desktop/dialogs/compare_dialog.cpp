@@ -5,7 +5,9 @@
 
 #include <QComboBox>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QSpinBox>
 #include <QVBoxLayout>
 
 #include "desktop/platform/qt_text.h"
@@ -29,6 +31,19 @@ QComboBox* makeBox(const char* name, QWidget* parent) {
     return box;
 }
 
+QSpinBox* makeLimit(int percent, QWidget* parent) {
+    auto* const box = new QSpinBox(parent);
+    box->setObjectName("limit");
+    box->setRange(0, kMostCompareLimit);
+    box->setSuffix(" %");
+    box->setValue(percent);
+    // A number is looked at when it has been typed, not digit by digit.
+    box->setKeyboardTracking(false);
+    // The toolkit's menu speaks another language, and the arrows say the same.
+    box->setContextMenuPolicy(Qt::PreventContextMenu);
+    return box;
+}
+
 }  // namespace
 
 CompareDialog::CompareDialog(CompareCommands& commands, const Texts& texts, Clipboard& clipboard,
@@ -40,6 +55,7 @@ CompareDialog::CompareDialog(CompareCommands& commands, const Texts& texts, Clip
       jobs_(commands.jobs()),
       job_(makeBox("job", this)),
       prescription_(makeBox("prescription", this)),
+      limit_(makeLimit(commands.limit(), this)),
       figures_(new CopiedTable("figures", toQt(texts(TextId::CompareFigures)), clipboard, this)),
       doses_(new CopiedTable("doses", toQt(texts(TextId::CompareDoses)), clipboard, this)),
       note_(new QLabel(this)) {
@@ -57,8 +73,19 @@ CompareDialog::CompareDialog(CompareCommands& commands, const Texts& texts, Clip
         }
         showComparison();
     });
+    connect(limit_, &QSpinBox::valueChanged, this, [this](int percent) {
+        commands_.setLimit(percent);
+        showComparison();
+    });
     showJob();
     resize(kSize);
+}
+
+void CompareDialog::keyPressEvent(QKeyEvent* event) {
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!isReturn || !limit_->hasFocus()) {
+        QDialog::keyPressEvent(event);
+    }
 }
 
 QGridLayout* CompareDialog::choices() {
@@ -66,8 +93,10 @@ QGridLayout* CompareDialog::choices() {
     grid->setSpacing(kGap);
     grid->setColumnStretch(1, 1);
     int row = 0;
-    for (const auto& [box, text] : {std::pair(job_, TextId::CompareJob),
-                                    std::pair(prescription_, TextId::ComparePrescription)}) {
+    for (const auto& [box, text] :
+         {std::pair<QWidget*, TextId>(job_, TextId::CompareJob),
+          std::pair<QWidget*, TextId>(prescription_, TextId::ComparePrescription),
+          std::pair<QWidget*, TextId>(limit_, TextId::CompareLimit)}) {
         auto* const label = new QLabel(toQt(texts_(text)), this);
         label->setBuddy(box);
         box->setAccessibleName(toQt(texts_(text)).remove('&'));

@@ -13,13 +13,14 @@
 class QComboBox;
 class QGridLayout;
 class QLabel;
+class QSpinBox;
 
 namespace campora {
 
 class CopiedTable;
 
-/// What a job applied beside what was prescribed: the figures, the table by dose, and which
-/// prescription is for which job.
+/// What a job applied beside what was prescribed: the figures, the table by dose, which
+/// prescription is for which job, and how far a dose may be off.
 class CompareDialog final : public QDialog {
     Q_OBJECT
 
@@ -27,6 +28,10 @@ public:
     /// All of it outlives the dialog.
     CompareDialog(CompareCommands& commands, const Texts& texts, Clipboard& clipboard,
                   QWidget* parent);
+
+protected:
+    /// Return ends the typing of a limit and closes nothing then.
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void arrange();
@@ -42,6 +47,7 @@ private:
     std::vector<const File*> jobs_;
     QComboBox* job_;
     QComboBox* prescription_;
+    QSpinBox* limit_;
     CopiedTable* figures_;
     CopiedTable* doses_;
     QLabel* note_;

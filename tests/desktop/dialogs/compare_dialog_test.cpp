@@ -5,6 +5,7 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QSpinBox>
 #include <QTest>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -29,7 +30,14 @@ TEST(CompareDialog, ShowsTheGuessAndCopiesItsTablesByKey) {
     ASSERT_EQ(doses->rowCount(), 1);
     QTest::keyClick(doses, Qt::Key_C, Qt::ControlModifier);
     EXPECT_THAT(desk.clipboard.text, testing::HasSubstr("\n1\t100\t0.04\t4.0\t4.0\t"));
-    for (const QWidget* named : {static_cast<QWidget*>(doses), static_cast<QWidget*>(plan)}) {
+    auto* const limit = dialog.findChild<QSpinBox*>("limit");
+    EXPECT_EQ(limit->value(), 10);
+    limit->setValue(0);  // one step has 100 where 100 was prescribed, the other 101
+    EXPECT_EQ(doses->horizontalHeaderItem(6)->text(), "Dentro de ±0 % (%)");
+    EXPECT_EQ(doses->item(0, 6)->text(), "50.0");
+    EXPECT_EQ(desk.session.findings().comparison.limit(), 0);
+    for (const QWidget* named : {static_cast<QWidget*>(doses), static_cast<QWidget*>(plan),
+                                 static_cast<QWidget*>(limit)}) {
         EXPECT_FALSE(named->accessibleName().isEmpty());
     }
 }
