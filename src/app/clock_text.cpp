@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "app/figure_text.h"
 #include "base/dates.h"
 
 namespace campora {

@@ -6,14 +6,10 @@
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <string_view>
 
 #include "platform/user_locale.h"
 
 namespace campora {
-
-/// Stands for a figure that cannot be told.
-inline constexpr std::string_view kNoFigure = "–";
 
 /// "29/11/2016 14:03:10" in the user's form of dates, or "14:03:10". `second`: since 30 December
 /// 1899, or since a midnight.

@@ -7,9 +7,8 @@
 #include <cstddef>
 #include <optional>
 
-#include "base/number_forms.h"
+#include "app/figure_text.h"
 #include "base/numbers.h"
-#include "base/text.h"
 #include "base/typed_number.h"
 #include "work/color_modes.h"
 
@@ -17,36 +16,26 @@ namespace campora {
 
 namespace {
 
-constexpr double kPerCent = 100;
-constexpr std::string_view kNone = "–";
-
 /// Puts the figures of one comparison into words.
 class Writer {
 public:
     Writer(double limit, std::string_view unit, const Desk& desk)
-        : limit_(limit), unit_(unit), desk_(desk) {}
-
-    [[nodiscard]] std::string number(double value, int decimals) const {
-        return replaceAll(fixedNumberText(value, decimals), ".",
-                          std::string(1, desk_.decimalSymbol()));
-    }
-    [[nodiscard]] std::string percent(std::optional<double> share) const {
-        return share ? number(*share * kPerCent, 1) : std::string(kNone);
-    }
-    [[nodiscard]] std::string hectares(double value) const { return number(value, 2) + " ha"; }
+        : limit_(limit), unit_(unit), desk_(desk), figure_(desk.locale) {}
 
     void addGround(ComparisonTexts& texts, const Comparison& comparison) const {
-        add(texts, TextId::NetCoverage, hectares(comparison.netHa));
-        add(texts, TextId::Overlap, hectares(comparison.againHa));
-        add(texts, TextId::CompareOutside, hectares(comparison.outsideHa));
-        add(texts, TextId::CompareUndosed, hectares(comparison.undosedHa));
+        add(texts, TextId::NetCoverage, figure_.hectares(comparison.netHa));
+        add(texts, TextId::Overlap, figure_.hectares(comparison.againHa));
+        add(texts, TextId::CompareOutside, figure_.hectares(comparison.outsideHa));
+        add(texts, TextId::CompareUndosed, figure_.hectares(comparison.undosedHa));
     }
     void addChannel(ComparisonTexts& texts, const ChannelComparison& sum) const {
-        addOf(texts, sum, TextId::CompareArea, hectares(sum.netHa));
-        addOf(texts, sum, TextId::ComparePrescribed, number(sum.prescribed, 1) + " " + unit_);
-        addOf(texts, sum, TextId::CompareApplied, number(sum.applied, 1) + " " + unit_);
+        addOf(texts, sum, TextId::CompareArea, figure_.hectares(sum.netHa));
+        addOf(texts, sum, TextId::ComparePrescribed,
+              figure_.number(sum.prescribed, 1) + " " + unit_);
+        addOf(texts, sum, TextId::CompareApplied, figure_.number(sum.applied, 1) + " " + unit_);
         addOf(texts, sum, TextId::CompareMeanDeviation,
-              sum.meanDeviation ? number(*sum.meanDeviation, 1) + " %" : std::string(kNone));
+              sum.meanDeviation ? figure_.number(*sum.meanDeviation, 1) + " %"
+                                : std::string(kNoFigure));
         for (std::size_t i = 0; i < kJudgedLimits.size(); ++i) {
             addWithin(texts, sum, kJudgedLimits[i], sum.withinHa[i]);
         }
@@ -54,11 +43,11 @@ public:
             addWithin(texts, sum, limit_, sum.withinAskedHa());
         }
         for (const DoseComparison& ofDose : sum.doses) {
-            texts.rows.push_back({numberText(sum.channel.ofJob + 1),
-                                  numberToType(ofDose.dose, desk_.decimalSymbol()),
-                                  number(ofDose.netHa, 2), number(ofDose.prescribed, 1),
-                                  number(ofDose.applied, 1), meanDose(ofDose),
-                                  percent(ofDose.within())});
+            texts.rows.push_back(
+                {numberText(sum.channel.ofJob + 1),
+                 numberToType(ofDose.dose, desk_.decimalSymbol()), figure_.number(ofDose.netHa, 2),
+                 figure_.number(ofDose.prescribed, 1), figure_.number(ofDose.applied, 1),
+                 figure_.number(ofDose.meanDose(), 1), figure_.percent(ofDose.within())});
         }
     }
     [[nodiscard]] std::vector<std::string> columns() const {
@@ -88,23 +77,20 @@ private:
             words.format(TextId::CompareWithin, {numberToType(limit, desk_.decimalSymbol())});
         texts.figures.push_back(
             {ofChannel(sum, name),
-             sum.netHa > 0 ? words.format(TextId::CompareShare,
-                                          {percent(hectares / sum.netHa), number(hectares, 2)})
-                           : std::string(kNone)});
+             sum.netHa > 0
+                 ? words.format(TextId::CompareShare, {figure_.percent(hectares / sum.netHa),
+                                                       figure_.number(hectares, 2)})
+                 : std::string(kNoFigure)});
     }
     [[nodiscard]] std::string ofChannel(const ChannelComparison& sum,
                                         const std::string& name) const {
         return desk_.texts.format(TextId::CompareChannel,
                                   {numberText(sum.channel.ofJob + 1), name});
     }
-    [[nodiscard]] std::string meanDose(const DoseComparison& ofDose) const {
-        const std::optional<double> dose = ofDose.meanDose();
-        return dose ? number(*dose, 1) : std::string(kNone);
-    }
-
     double limit_;
     std::string unit_;
     const Desk& desk_;
+    FigureText figure_;
 };
 
 }  // namespace

@@ -9,18 +9,16 @@
 #include <string_view>
 #include <utility>
 
-#include "base/dates.h"
-#include "base/number_forms.h"
+#include "app/clock_text.h"
+#include "app/figure_text.h"
 #include "base/numbers.h"
 #include "base/plain_text.h"
-#include "base/text.h"
 #include "work/vex_alarmas.h"
 
 namespace campora {
 
 namespace {
 
-constexpr const char* kNothing = "–";
 constexpr double kPerCent = 100;
 
 constexpr FindingColumn kPassColumns[] = {
@@ -63,26 +61,13 @@ TextId problemName(ProblemKind kind) {
     return TextId::ProblemSwath;
 }
 
-std::string fixedText(double value, int decimals, char symbol) {
-    return decimals == 0 ? numberText(roundHalfEven(value))
-                         : replaceAll(fixedNumberText(value, decimals), ".", {&symbol, 1});
-}
-
-/// "1:02:03" or "2:03".
-std::string durationText(double seconds) {
-    const auto whole = static_cast<std::int64_t>(roundHalfEven(seconds));
-    const auto twoDigits = [](std::int64_t number) {
-        return (number < 10 ? ":0" : ":") + numberText(number);
-    };
-    const std::int64_t minutes = whole / 60;
-    return (minutes < 60 ? numberText(minutes)
-                         : numberText(minutes / 60) + twoDigits(minutes % 60)) +
-           twoDigits(whole % 60);
+std::optional<std::int64_t> secondOf(const RecordTime& time) {
+    return time.clock == RecordClock::None ? std::nullopt : std::optional(time.second);
 }
 
 std::optional<double> orderOf(const RecordTime& time) {
-    return time.clock == RecordClock::None ? std::nullopt
-                                           : std::optional(static_cast<double>(time.second));
+    const std::optional<std::int64_t> second = secondOf(time);
+    return second ? std::optional(static_cast<double>(*second)) : std::nullopt;
 }
 
 }  // namespace
@@ -98,20 +83,6 @@ std::string problemText(const Texts& texts, const Problem& problem, WorkKind mac
     return name.starts_with(word.substr(0, word.find(':')))
                ? name
                : texts.format(TextId::ProblemAlarm, {std::move(name)});
-}
-
-std::string startText(const RecordTime& time, const Desk& desk) {
-    constexpr std::int64_t kDay = 86400;
-    if (time.clock == RecordClock::None) {
-        return kNothing;
-    }
-    const auto ofDay = static_cast<int>((time.second % kDay + kDay) % kDay);
-    std::string clock = timeText({ofDay / 3600, ofDay / 60 % 60, ofDay % 60});
-    if (time.clock == RecordClock::TimeOfDay) {
-        return clock;
-    }
-    const auto day = static_cast<std::int32_t>((time.second - ofDay) / kDay);
-    return dateText(dateOfDayNumber(day), desk.locale.shortDateForm()) + " " + clock;
 }
 
 void FindingTable::addFile(std::string name, std::span<const Pass> passes) {
@@ -169,28 +140,29 @@ bool FindingTable::isFigure(std::size_t column) const {
 
 std::string FindingTable::figureText(const Row& row, std::size_t column) const {
     const std::optional<double>& figure = row.figures[column];
-    if (!figure) {
-        return kNothing;
-    }
     const FindingColumn& form = columns()[column];
-    return form.form == FigureForm::Duration
-               ? durationText(*figure)
-               : fixedText(*figure * form.factor, form.decimals, desk_.decimalSymbol());
+    if (figure && form.form == FigureForm::Duration) {
+        return durationText(static_cast<std::int64_t>(roundHalfEven(*figure)));
+    }
+    return FigureText(desk_.locale)
+        .number(figure ? std::optional(*figure * form.factor) : std::nullopt, form.decimals);
 }
 
 std::string FindingTable::cell(std::size_t row, std::size_t column) const {
     constexpr int kPlaces = 6;
     const Row& shown = at(row);
+    const FigureText figure(desk_.locale);
     switch (columns()[column].form) {
     case FigureForm::File:
         return plainLine(files_[shown.stretch.file]);
     case FigureForm::Problem:
         return shown.problem ? problemText(desk_.texts, *shown.problem, shown.machine) : "";
     case FigureForm::Start:
-        return startText(shown.start, desk_);
+        return momentText(secondOf(shown.start), shown.start.clock == RecordClock::DateAndTime,
+                          desk_.locale);
     case FigureForm::Position:
-        return fixedText(shown.position.y, kPlaces, desk_.decimalSymbol()) + "; " +
-               fixedText(shown.position.x, kPlaces, desk_.decimalSymbol());
+        return figure.number(shown.position.y, kPlaces) + "; " +
+               figure.number(shown.position.x, kPlaces);
     case FigureForm::Duration:
     case FigureForm::Number:
         break;

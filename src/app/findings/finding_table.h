@@ -45,9 +45,6 @@ struct FindingColumn {
 /// What was wrong on a stretch, in words; `machine`: whose alarms they are.
 [[nodiscard]] std::string problemText(const Texts& texts, const Problem& problem, WorkKind machine);
 
-/// "14/11/2025 08:12:04", or the time of day alone, or "–".
-[[nodiscard]] std::string startText(const RecordTime& time, const Desk& desk);
-
 /// What was found in files, row by row, as a person reads it. One kind of findings a table.
 class FindingTable {
 public:

@@ -9,38 +9,13 @@
 #include <optional>
 #include <utility>
 
+#include "app/figure_text.h"
 #include "app/findings/coverage_layer.h"
-#include "base/number_forms.h"
-#include "base/text.h"
 #include "lots/gph_lote.h"
 
 namespace campora {
 
 namespace {
-
-constexpr const char* kNoFigure = "–";
-
-class FigureTexts {
-public:
-    explicit FigureTexts(const Desk& desk) : symbol_(1, desk.locale.decimalSymbol()) {}
-
-    [[nodiscard]] std::string hectares(double value) const { return number(value, 2) + " ha"; }
-    /// With its part of `whole`, when that is more than nothing.
-    [[nodiscard]] std::string part(std::optional<double> value, double whole) const {
-        if (!value) {
-            return kNoFigure;
-        }
-        const std::string text = hectares(*value);
-        return whole > 0 ? text + " (" + number(*value / whole * 100, 1) + " %)" : text;
-    }
-
-private:
-    [[nodiscard]] std::string number(double value, int decimals) const {
-        return replaceAll(fixedNumberText(value, decimals), ".", symbol_);
-    }
-
-    std::string symbol_;
-};
 
 class CoverageMode final : public ModeLayer {
 public:
@@ -53,10 +28,10 @@ public:
 
     [[nodiscard]] const Gph& layer() const override { return layer_; }
     [[nodiscard]] LegendContent legend(const Desk& desk) const override {
-        const FigureTexts texts(desk);
+        const FigureText figure(desk.locale);
         const auto row = [&](Color color, TextId name, std::optional<double> value) {
             return LegendRow{color,
-                             std::string(desk.texts(name)).append(": ") + texts.part(value, 0)};
+                             std::string(desk.texts(name)).append(": ") + figure.hectares(value)};
         };
         LegendContent legend;
         legend.unit = desk.texts(TextId::CoverageMap);
@@ -131,21 +106,21 @@ CoverageInput coverageInput(const LoadedFileList& files) {
 }
 
 std::vector<CoverageRow> coverageRows(const CoverageFigures& figures, const Desk& desk) {
-    const FigureTexts texts(desk);
+    const FigureText figure(desk.locale);
     std::vector<CoverageRow> rows{
-        {TextId::GrossArea, texts.hectares(figures.gross)},
-        {TextId::DosedArea, texts.part(figures.dosed, figures.gross)},
-        {TextId::UndosedArea, texts.part(figures.undosed, figures.gross)},
-        {TextId::NetCoverage, texts.part(figures.net, figures.dosed)},
-        {TextId::Overlap, texts.part(figures.overlap, figures.dosed)},
-        {TextId::CoveredTwice, texts.part(figures.twice, figures.net)},
-        {TextId::CoveredMore, texts.part(figures.more, figures.net)},
+        {TextId::GrossArea, figure.hectares(figures.gross)},
+        {TextId::DosedArea, figure.hectaresOf(figures.dosed, figures.gross)},
+        {TextId::UndosedArea, figure.hectaresOf(figures.undosed, figures.gross)},
+        {TextId::NetCoverage, figure.hectaresOf(figures.net, figures.dosed)},
+        {TextId::Overlap, figure.hectaresOf(figures.overlap, figures.dosed)},
+        {TextId::CoveredTwice, figure.hectaresOf(figures.twice, figures.net)},
+        {TextId::CoveredMore, figure.hectaresOf(figures.more, figures.net)},
         {CoverageMode::skippedName(figures),
-         texts.part(figures.skipped,
-                    figures.inside.value_or(figures.net) + figures.skipped.value_or(0))}};
+         figure.hectaresOf(figures.skipped,
+                           figures.inside.value_or(figures.net) + figures.skipped.value_or(0))}};
     if (figures.inside) {
-        rows.push_back({TextId::InsideLot, texts.part(figures.inside, figures.net)});
-        rows.push_back({TextId::OutsideLot, texts.part(figures.outside, figures.net)});
+        rows.push_back({TextId::InsideLot, figure.hectaresOf(figures.inside, figures.net)});
+        rows.push_back({TextId::OutsideLot, figure.hectaresOf(figures.outside, figures.net)});
     }
     return rows;
 }

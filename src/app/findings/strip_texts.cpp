@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "app/clock_text.h"
+#include "app/figure_text.h"
 #include "base/numbers.h"
 #include "model/shown_number.h"
 #include "work/vex_alarmas.h"

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "app/clock_text.h"
+#include "app/figure_text.h"
 #include "work/color_modes.h"
 
 namespace campora {

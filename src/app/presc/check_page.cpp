@@ -6,23 +6,20 @@
 #include <cmath>
 #include <cstddef>
 
-#include "base/number_forms.h"
+#include "app/figure_text.h"
 #include "base/numbers.h"
-#include "base/text.h"
 #include "base/typed_number.h"
 
 namespace campora {
 
 namespace {
 
-constexpr std::string_view kNone = "–";
-
 /// Puts one check into words.
 class Writer {
 public:
     Writer(const PrescriptionCheck& check, const GridLayer& file, const CheckWishes& wishes,
            const Desk& desk)
-        : check_(check), file_(file), wishes_(wishes), desk_(desk) {}
+        : check_(check), file_(file), wishes_(wishes), desk_(desk), figure_(desk.locale) {}
 
     [[nodiscard]] std::string verdict() const {
         if (!check_.isSameGrid) {
@@ -43,31 +40,27 @@ public:
         addFigure(page, channel, TextId::CheckInZones, sum(check.zones));
         addFigure(page, channel, TextId::CheckByFallback, sum(check.fallback));
         const std::optional<double> loads = tankLoads(check.all.product, wishes_);
-        addFigure(page, channel, TextId::CheckLoads,
-                  loads ? desk_.texts.format(TextId::CheckLoadsValue,
-                                             {numberText(std::ceil(*loads)), number(*loads, 2),
-                                              shown(wishes_.tank.value_or(0))})
-                        : std::string(kNone));
+        addFigure(
+            page, channel, TextId::CheckLoads,
+            loads ? desk_.texts.format(TextId::CheckLoadsValue,
+                                       {numberText(std::ceil(*loads)), figure_.number(*loads, 2),
+                                        shown(wishes_.tank.value_or(0))})
+                  : std::string(kNoFigure));
         addFigure(page, channel, TextId::CheckSmallest,
-                  check.smallestZone ? number(*check.smallestZone, 0) + " m²" : std::string(kNone));
+                  check.smallestZone ? figure_.number(check.smallestZone, 0) + " m²"
+                                     : std::string(kNoFigure));
         addWarnings(page, channel, check);
     }
 
 private:
-    [[nodiscard]] std::string number(double value, int decimals) const {
-        if (decimals == 0) {
-            return numberText(roundHalfEven(value));
-        }
-        return replaceAll(fixedNumberText(value, decimals), ".",
-                          std::string(1, desk_.decimalSymbol()));
-    }
     [[nodiscard]] std::string shown(double value) const {
         return numberToType(value, desk_.decimalSymbol());
     }
     [[nodiscard]] std::string sum(const std::optional<CellSum>& cells) const {
-        return cells ? desk_.texts.format(TextId::CheckProductValue,
-                                          {number(cells->product, 1), number(cells->hectares, 2)})
-                     : std::string(kNone);
+        return cells ? desk_.texts.format(
+                           TextId::CheckProductValue,
+                           {figure_.number(cells->product, 1), figure_.number(cells->hectares, 2)})
+                     : std::string(kNoFigure);
     }
     void addFigure(CheckPage& page, int channel, TextId name, std::string value) const {
         page.figures.push_back(
@@ -92,7 +85,7 @@ private:
         const double square = check_.cellMetres * check_.cellMetres;
         if (check.smallestZone && *check.smallestZone < square) {
             warn(TextId::CheckNarrow,
-                 {number, this->number(*check.smallestZone, 0), this->number(square, 0)});
+                 {number, figure_.number(*check.smallestZone, 0), figure_.number(square, 0)});
         }
         const DoseLimits limits = limitsOf(wishes_, channel);
         const std::int64_t beyond =
@@ -103,13 +96,14 @@ private:
         }
     }
     [[nodiscard]] std::string bound(const std::optional<double>& limit) const {
-        return limit ? shown(*limit) : std::string(kNone);
+        return limit ? shown(*limit) : std::string(kNoFigure);
     }
 
     const PrescriptionCheck& check_;
     const GridLayer& file_;
     const CheckWishes& wishes_;
     const Desk& desk_;
+    FigureText figure_;
 };
 
 }  // namespace

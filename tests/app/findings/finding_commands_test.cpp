@@ -147,10 +147,11 @@ TEST_F(FindingCommandsTest, WhatTheInformationToolIsAskedAboutIsSelected) {
 
 TEST_F(FindingCommandsTest, ATableIsCopiedWithItsHeadings) {
     ASSERT_TRUE(open({path}));
-    EXPECT_EQ(commands.table(Kind::Passes).asText(),
-              "Archivo\tPasada\tInicio\tDuración\tLargo (m)\tHa aplicadas\tDosis/ha\t"
-              "Desvío de la dosis\tVelocidad (km/h)\tRumbo (°)\tMayor error (%)\n"
-              "lote.rpt\t1\t05/03/2018 10:00:00\t1:58\t590\t1.08\t105.6\t11.7\t12.0\t90\t30.0\n");
+    EXPECT_EQ(
+        commands.table(Kind::Passes).asText(),
+        "Archivo\tPasada\tInicio\tDuración\tLargo (m)\tHa aplicadas\tDosis/ha\t"
+        "Desvío de la dosis\tVelocidad (km/h)\tRumbo (°)\tMayor error (%)\n"
+        "lote.rpt\t1\t05/03/2018 10:00:00\t0:01:58\t590\t1.08\t105.6\t11.7\t12.0\t90\t30.0\n");
 }
 
 }  // namespace
