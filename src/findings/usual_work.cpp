@@ -18,8 +18,8 @@ namespace campora {
 namespace {
 
 constexpr double kSteps = 5;
-/// km/h: aircraft spray below 300, and what is more was never measured.
-constexpr float kFastest = 400;
+/// km/h: aircraft spray below 300, so that what is more was not driven while working.
+constexpr float kFastestAtWork = 400;
 
 /// Seconds by speed, in bins as fine as the records have them.
 class SpeedTable {
@@ -62,8 +62,8 @@ void setSpeeds(UsualWork& usual, const WorkWay& way) {
         const double seconds = way.assumedSeconds(i, i + 1);
         // A stop is no speed of the work, however long.
         const double most = usual.longestStep.value_or(seconds);
-        if (record.dosed && record.speed > 0 && record.speed <= kFastest && !record.endsPass &&
-            seconds <= most) {
+        if (record.dosed && record.speed > 0 && record.speed <= kFastestAtWork &&
+            !record.endsPass && seconds <= most) {
             table.add(record.speed, seconds);
         }
     }

@@ -49,13 +49,13 @@ float sound(float value, double most) {
 }
 
 WayRecord wayRecord(const WorkRecord& record, const FindingOptions& options) {
-    constexpr double kFastest = 2000;  // km/h, faster than any aircraft
+    constexpr double kFastestRecorded = 2000;  // km/h: more is a damaged record
     WayRecord way;
     way.position = record.position;
     way.second = record.second;
     way.clock = record.clock;
     way.swath = sound(record.swath, kWidestSwath);
-    way.speed = sound(record.speed, kFastest);
+    way.speed = sound(record.speed, kFastestRecorded);
     way.dose = doseOf(record, options.channel);
     way.specified = specifiedOf(record, options.channel);
     way.dosed = record.worked && !(way.dose <= 0);
