@@ -27,8 +27,8 @@ std::optional<ReadPrescription> comparedWith(const std::string& plan, BatchMap& 
     const auto plansOf = [source](const File& /*job*/) {
         return OpenPrescription{{}, {}, false, source, nullptr};
     };
-    const bool isShown = showDeviation(batch.map(), plansOf, std::make_shared<NetWorks>());
-    if (!isShown) {
+    if (!batch.map().showModeLayer(ColorMode::Deviation,
+                                   deviationMode(plansOf, std::make_shared<NetWorks>()))) {
         batch.desk().tell({TextId::CompareNothingWorked, {}});
         return std::nullopt;
     }

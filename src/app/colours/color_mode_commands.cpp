@@ -9,6 +9,7 @@
 #include <optional>
 #include <variant>
 
+#include "app/mode_switch.h"
 #include "base/numbers.h"
 #include "base/text.h"
 #include "base/typed_number.h"
@@ -117,10 +118,8 @@ void ColorModeCommands::toggle(ColorMode mode) {
         showAgain();  // the alarm map had the classes of the dose
         return;
     }
-    if (before == ColorMode::Error && style.mode != ColorMode::Error) {
-        recalcErrorAreas(map_);
-    }
-    showNewClasses();
+    map_.refreshColorScale();
+    showMode(map_, display_, before);
 }
 
 void ColorModeCommands::mnuColorErrorMapMin() {
@@ -192,12 +191,7 @@ void ColorModeCommands::mnuColorScaleSelCH(int index) {
 
 void ColorModeCommands::showNewClasses() {
     map_.refreshColorScale();
-    display_.showLegend();
-    if (map_.style().mode == ColorMode::Error) {
-        recalcErrorAreas(map_);
-    }
-    display_.showSummary();  // errors, or what a mode computes, stand there
-    display_.styleChanged();
+    showMode(map_, display_, map_.style().mode);
 }
 
 void ColorModeCommands::showAgain() {

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "app/findings/deviation_layer.h"
+#include "app/mode_switch.h"
 #include "base/numbers.h"
 
 namespace campora {
@@ -19,8 +20,8 @@ std::optional<int> shownChannel(const MapStyle& style) {
 
 }  // namespace
 
-bool showDeviation(OpenMap& map, const PlanOf& planOf, const std::shared_ptr<NetWorks>& works) {
-    return map.showModeLayer(ColorMode::Deviation, [planOf, works](const OpenMap& open) {
+OpenMap::MakeModeLayer deviationMode(PlanOf planOf, std::shared_ptr<NetWorks> works) {
+    return [planOf = std::move(planOf), works = std::move(works)](const OpenMap& open) {
         std::vector<const WorkLayer*> work;
         std::vector<PlannedJob> jobs;
         std::vector<OpenPrescription> plans;
@@ -33,7 +34,7 @@ bool showDeviation(OpenMap& map, const PlanOf& planOf, const std::shared_ptr<Net
         }
         const std::shared_ptr<const NetWork> net = works->of(std::move(work), open.files());
         return makeDeviationLayer(jobs, net->hectares(), shownChannel(open.style()));
-    });
+    };
 }
 
 std::optional<TextId> CompareCommands::whyNot() const {
@@ -47,25 +48,10 @@ std::optional<TextId> CompareCommands::whyNot() const {
 }
 
 void CompareCommands::toggleMap() {
-    if (isMapOn()) {
-        map_.style().mode = ColorMode::Dose;
-        map_.refreshColorScale();
-    } else if (whyNot() || !showMap()) {
-        return;
+    if (!whyNot()) {
+        toggleModeLayer(map_, display_, ColorMode::Deviation,
+                        deviationMode([this](const File& job) { return planOf(job); }, works_));
     }
-    display_.showSummary();  // what another mode computed stood there
-    display_.showLegend();
-    display_.styleChanged();
-}
-
-bool CompareCommands::showMap() {
-    const bool hadErrors = map_.style().mode == ColorMode::Error;
-    const bool isShown = showDeviation(
-        map_, [this](const File& job) { return planOf(job); }, works_);
-    if (hadErrors) {
-        recalcErrorAreas(map_);
-    }
-    return isShown;
 }
 
 std::vector<const File*> CompareCommands::jobs() const {

@@ -23,10 +23,9 @@ namespace campora {
 /// Answers what was prescribed for a job; without a source where nothing was.
 using PlanOf = std::function<OpenPrescription(const File& job)>;
 
-/// Puts the map into the mode of what was applied against what was prescribed; `works` stays with
-/// it. False when there is no recorded work.
-[[nodiscard]] bool showDeviation(OpenMap& map, const PlanOf& planOf,
-                                 const std::shared_ptr<NetWorks>& works);
+/// The mode of the map that shows what was applied against what was prescribed, which has no layer
+/// without recorded work. Keeps net ground in `works`.
+[[nodiscard]] OpenMap::MakeModeLayer deviationMode(PlanOf planOf, std::shared_ptr<NetWorks> works);
 
 /// What was applied in the open jobs beside what the open prescriptions say. Which prescription is
 /// for which job follows from the ground until the user says otherwise.
@@ -72,7 +71,6 @@ private:
     [[nodiscard]] std::optional<std::size_t>
     currentOf(const File& job, const std::vector<PrescriptionMatch>& matches) const;
     [[nodiscard]] std::shared_ptr<const NetWork> netWork(const File& job) const;
-    [[nodiscard]] bool showMap();
 
     OpenMap& map_;
     MapDisplay& display_;

@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "app/findings/map_coverage.h"
+#include "app/mode_switch.h"
 #include "model/work_layer.h"
 
 namespace campora {
@@ -24,20 +25,9 @@ std::optional<TextId> CoverageCommands::whyNot() const {
 }
 
 void CoverageCommands::toggleMap() {
-    const bool hadErrors = map_.style().mode == ColorMode::Error;
-    if (isMapOn()) {
-        map_.style().mode = ColorMode::Dose;
-        map_.refreshColorScale();
-    } else if (!map_.showModeLayer(ColorMode::Coverage, makeCoverageMode)) {
+    if (!toggleModeLayer(map_, display_, ColorMode::Coverage, makeCoverageMode)) {
         map_.desk().tell({TextId::NoAppliedWork, {}});
-        return;
     }
-    if (hadErrors) {
-        recalcErrorAreas(map_);
-    }
-    display_.showSummary();
-    display_.showLegend();
-    display_.styleChanged();
 }
 
 }  // namespace campora

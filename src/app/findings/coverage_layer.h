@@ -5,8 +5,8 @@
 
 #include <vector>
 
+#include "app/findings/unasked_layer.h"
 #include "findings/coverage_grid.h"
-#include "model/still_layer.h"
 
 namespace campora {
 
@@ -20,7 +20,7 @@ inline constexpr Color kSkipped{0x7A0F4B};  // dark violet
 
 /// Draws how often ground was covered, and lots as ground that was to be. Pixel by pixel: what a
 /// picture costs does not depend on the size of the job.
-class CoverageLayer final : public StillLayer {
+class CoverageLayer final : public UnaskedLayer {
 public:
     CoverageLayer(CoverageGrid grid, std::vector<std::vector<LonLat>> lots);
 
@@ -29,15 +29,6 @@ public:
     /// Of the covered ground.
     [[nodiscard]] const BoundingBox& Gph_bound() const override { return bound_; }
     void Gph_plot(MapContext& context) const override;
-    [[nodiscard]] std::int32_t Gph_mouseOver(const ViewTransform& /*view*/,
-                                             const MapStyle& /*style*/, LonLat /*position*/,
-                                             std::int32_t /*start*/) const override {
-        return -1;
-    }
-    [[nodiscard]] std::string Gph_getInfo(const InfoContext& /*context*/,
-                                          std::int32_t /*n*/) const override {
-        return {};
-    }
 
 private:
     void plotLots(MapContext& context) const;

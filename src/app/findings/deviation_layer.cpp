@@ -11,12 +11,11 @@
 #include <string>
 #include <utility>
 
-#include "base/number_forms.h"
+#include "app/figure_text.h"
+#include "app/findings/unasked_layer.h"
 #include "base/numbers.h"
-#include "base/text.h"
 #include "findings/compare.h"
 #include "model/outline_rule.h"
-#include "model/still_layer.h"
 #include "model/swath_geometry.h"
 
 namespace campora {
@@ -146,7 +145,7 @@ private:
     std::vector<CanvasPoint> right_;
 };
 
-class DeviationLayer final : public StillLayer, public ModeLayer {
+class DeviationLayer final : public UnaskedLayer, public ModeLayer {
 public:
     /// `netHa`: of the steps of this job and of those behind it, which are left.
     void add(const PlannedJob& job, std::optional<int> channel, std::span<const double>& netHa) {
@@ -168,15 +167,6 @@ public:
             plot(context, true);
         }
         plot(context, false);
-    }
-    [[nodiscard]] std::int32_t Gph_mouseOver(const ViewTransform& /*view*/,
-                                             const MapStyle& /*style*/, LonLat /*position*/,
-                                             std::int32_t /*start*/) const override {
-        return -1;
-    }
-    [[nodiscard]] std::string Gph_getInfo(const InfoContext& /*context*/,
-                                          std::int32_t /*n*/) const override {
-        return {};
     }
 
     [[nodiscard]] const Gph& layer() const override { return *this; }
@@ -232,10 +222,8 @@ std::string signedText(double percent) {
 }
 
 LegendContent DeviationLayer::legend(const Desk& desk) const {
-    const auto hectares = [&](std::size_t ofClass) {
-        return replaceAll(fixedNumberText(hectares_[ofClass], 2), ".",
-                          std::string(1, desk.decimalSymbol()));
-    };
+    const FigureText figure(desk.locale);
+    const auto hectares = [&](std::size_t ofClass) { return figure.number(hectares_[ofClass], 2); };
     const Texts& texts = desk.texts;
     LegendContent legend;
     legend.unit = texts(TextId::DeviationUnit);
