@@ -23,7 +23,7 @@ constexpr std::size_t kTurnRecords = 12;
 
 /// Up and down a field with turns on the headland, five records a second by a clock that counts in
 /// twos; some doses are off, some missing, some records have alarms.
-GphTrack drivenTrack(std::size_t records) {
+GphTrack drivenTrack(std::size_t records, std::uint8_t channels = 1) {
     GphTrack track;
     track.reserve(records);
     double east = 0;
@@ -38,6 +38,11 @@ GphTrack drivenTrack(std::size_t records) {
         TrackDataRPT::Fields fields;
         fields.real[0] = turns || i % 977 < 20 ? 0 : 95 + static_cast<std::int32_t>(i * 7919 % 21);
         fields.spec[0] = 100;
+        fields.channels = channels;
+        for (std::size_t channel = 1; channel < channels; ++channel) {
+            fields.real[channel] = fields.real[0];
+            fields.spec[channel] = fields.spec[0];
+        }
         fields.swath = 28;
         fields.speed = 18;
         fields.alarms = i % 1009 < 40 ? 0b11 : 0;
@@ -64,7 +69,8 @@ void passesOfJob(benchmark::State& state) {
 BENCHMARK(passesOfJob)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
 
 void problemsOfJob(benchmark::State& state) {
-    const GphTrack track = drivenTrack(static_cast<std::size_t>(state.range(0)));
+    const GphTrack track = drivenTrack(static_cast<std::size_t>(state.range(0)),
+                                       static_cast<std::uint8_t>(state.range(1)));
     const WorkLayer* const layers[] = {&track};
     std::size_t rows = 0;
     for (auto _ : state) {
@@ -72,7 +78,10 @@ void problemsOfJob(benchmark::State& state) {
     }
     state.counters["rows"] = static_cast<double>(rows);
 }
-BENCHMARK(problemsOfJob)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
+BENCHMARK(problemsOfJob)
+    ->ArgsProduct({{100'000, 1'000'000}, {1, 3}})
+    ->ArgNames({"records", "channels"})
+    ->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

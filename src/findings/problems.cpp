@@ -29,6 +29,34 @@ constexpr Faults faultOf(ProblemKind kind) {
     return Faults{1} << (kAlarmBits + static_cast<int>(kind));
 }
 
+/// Adds up what a stretch got and was to get.
+class DoseSum {
+public:
+    template <typename Dosed>
+    void add(const Dosed& record, double ground) {
+        dose_.add(static_cast<double>(record.dose), ground);
+        if (record.specified > 0 && std::isfinite(record.dose)) {
+            specified_.add(static_cast<double>(record.specified), ground);
+            lost_ += ground * deviationOf(record);
+        }
+    }
+    /// By more than its rounding.
+    [[nodiscard]] bool losesMoreThan(const DoseSum& other) const {
+        constexpr double kRounding = 1e-6;
+        return lost_ > other.lost_ * (1 + kRounding);
+    }
+    void putInto(Problem& problem) const {
+        problem.dose = dose_.mean();
+        problem.specified = specified_.mean();
+        problem.lost = problem.specified ? std::optional(lost_) : std::nullopt;
+    }
+
+private:
+    DoseMean dose_;
+    DoseMean specified_;
+    double lost_ = 0;
+};
+
 /// Looks for the stretches of every kind at once.
 class ProblemFinder {
 public:
@@ -87,13 +115,21 @@ private:
         const WayRecord& record = way_.records()[step];
         Faults faults = record.alarms;
         if (record.specified > 0) {
-            faults |= !record.dosed                  ? faultOf(ProblemKind::NoDose)
-                      : deviationOf(record) > limit_ ? faultOf(ProblemKind::OffDose)
-                                                     : 0;
+            faults |= !record.dosed     ? faultOf(ProblemKind::NoDose)
+                      : isOffDose(step) ? faultOf(ProblemKind::OffDose)
+                                        : 0;
         }
         faults |= isOddSpeed(record) ? faultOf(ProblemKind::Speed) : 0;
         faults |= isOtherSwath(record.swath, usual_.swath) ? faultOf(ProblemKind::Swath) : 0;
         return faults;
+    }
+
+    [[nodiscard]] bool isOffDose(std::size_t step) const {
+        const auto isOff = [this](const auto& dose) {
+            return dose.specified > 0 && deviationOf(dose) > limit_;
+        };
+        const auto channels = way_.channels(step);
+        return isOff(way_.records()[step]) || std::any_of(channels.begin(), channels.end(), isOff);
     }
 
     [[nodiscard]] bool isGap(std::size_t step) const {
@@ -163,25 +199,29 @@ private:
 
     void addGround(Problem& problem, const Stretch& stretch) const {
         double hectares = 0;
-        double lost = 0;
-        DoseMean dose;
-        DoseMean specified;
+        DoseSum all;
+        std::array<DoseSum, WorkRecord::kMostChannels> channels;
         for (std::size_t i = stretch.first; i <= stretch.last; ++i) {
-            const WayRecord& record = way_.records()[i];
             const double ground = way_.squareMetres(i) / kSquareMetresPerHectare;
             hectares += ground;
-            dose.add(static_cast<double>(record.dose), ground);
-            if (record.specified > 0 && std::isfinite(record.dose)) {
-                specified.add(static_cast<double>(record.specified), ground);
-                lost += ground * deviationOf(record);
+            all.add(way_.records()[i], ground);
+            std::size_t channel = 0;
+            for (const ChannelDose& dose : way_.channels(i)) {
+                channels[channel++].add(dose, ground);
             }
         }
         problem.hectares = hectares;
-        if (problem.kind != ProblemKind::Gap) {
-            problem.dose = dose.mean();
-            problem.specified = specified.mean();
-            problem.lost = problem.specified ? std::optional(lost) : std::nullopt;
+        if (problem.kind == ProblemKind::Gap) {
+            return;
         }
+        const DoseSum* shown = &all;
+        for (std::size_t i = 0; problem.kind == ProblemKind::OffDose && i < channels.size(); ++i) {
+            if (channels[i].losesMoreThan(*shown)) {
+                shown = &channels[i];
+                problem.channel = static_cast<int>(i);
+            }
+        }
+        shown->putInto(problem);
     }
 
     const WorkWay& way_;

@@ -17,12 +17,14 @@ namespace campora {
 
 /// What went wrong on a stretch of work. By `UsualWork` the last three.
 enum class ProblemKind : std::uint8_t {
-    NoDose,   ///< no product although a dose was specified
-    OffDose,  ///< product came out, farther from the specified dose than the error limit
-    Alarm,    ///< one alarm
-    Gap,      ///< no records for a time or a way
-    Speed,    ///< dosed at a speed outside the job's usual range
-    Swath,    ///< a swath other than that of the job
+    NoDose,  ///< no product although a dose was specified
+    /// Product came out, in all channels together or in one of them farther from the specified dose
+    /// than the error limit.
+    OffDose,
+    Alarm,  ///< one alarm
+    Gap,    ///< no records for a time or a way
+    Speed,  ///< dosed at a speed outside the job's usual range
+    Swath,  ///< a swath other than that of the job
 };
 
 /// A stretch of work on which one thing was wrong.
@@ -30,6 +32,9 @@ struct Problem {
     ProblemKind kind = ProblemKind::NoDose;
     /// The bit of the alarm; -1 for other kinds.
     int alarm = -1;
+    /// Of a dose that is off: the channel, from 0, that loses more than all of them together and
+    /// most of them; `dose`, `specified` and `lost` are of it then. -1: of all together.
+    int channel = -1;
     /// Counted from 0 through all layers of the file in their order. The stretch goes on to the
     /// record after the last one, as what a record says holds until the next; a gap lies between
     /// its two.

@@ -34,6 +34,21 @@ float doseOf(const WorkRecord& record, int channel) {
                : 0;
 }
 
+ChannelDose channelDose(const WorkRecord& record, std::size_t channel) {
+    return {record.worked ? std::max(record.applied[channel], 0.0F) : 0,
+            std::max(record.specified[channel], 0.0F)};
+}
+
+std::size_t mostChannels(std::span<const WorkLayer* const> layers) {
+    std::size_t most = 0;
+    for (const WorkLayer* layer : layers) {
+        if (layer->recordCount() > 0) {
+            most = std::max<std::size_t>(most, layer->recordN(0).channels);
+        }
+    }
+    return most;
+}
+
 float specifiedOf(const WorkRecord& record, int channel) {
     if (channel < 0) {
         return std::max(record.specifiedTotal(), 0.0F);
@@ -102,6 +117,9 @@ std::optional<double> medianOf(std::vector<double> values) {
 
 WorkWay::WorkWay(std::span<const WorkLayer* const> layers, const FindingOptions& options) {
     read(layers, options);
+    if (options.channel < 0) {
+        readChannels(layers);
+    }
     dropClockThatStands();
     measure();
 }
@@ -121,6 +139,29 @@ void WorkWay::read(std::span<const WorkLayer* const> layers, const FindingOption
             records_.back().endsPass = true;
         }
     }
+}
+
+void WorkWay::readChannels(std::span<const WorkLayer* const> layers) {
+    channelCount_ = mostChannels(layers);
+    if (channelCount_ < 2) {
+        channelCount_ = 0;
+        return;
+    }
+    channels_.reserve(records_.size() * channelCount_);
+    for (const WorkLayer* layer : layers) {
+        for (std::int32_t n = 0; n < layer->recordCount(); ++n) {
+            const WorkRecord record = layer->recordN(n);
+            for (std::size_t channel = 0; channel < channelCount_; ++channel) {
+                channels_.push_back(channelDose(record, channel));
+            }
+        }
+    }
+}
+
+std::span<const ChannelDose> WorkWay::channels(std::size_t record) const {
+    return std::isfinite(records_[record].dose)
+               ? std::span(channels_).subspan(record * channelCount_, channelCount_)
+               : std::span<const ChannelDose>();
 }
 
 /// A clock that was never set tells no time.

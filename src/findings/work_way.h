@@ -19,8 +19,8 @@ namespace campora {
 struct FindingOptions {
     /// Per cent; a dose that is farther from the specified one is off.
     float errorLimit = 10;
-    /// Of the doses; -1: all channels together, as the error map has them by default. Then too much
-    /// of one can hide too little of another: ask for each channel apart where that matters.
+    /// Of the doses; -1: all channels together, as the error map has them by default, and for what
+    /// is off its dose each of them too.
     int channel = -1;
     /// The alarms that mean something on the machine of the job, a bit each; others are no alarm.
     std::uint32_t knownAlarms = 0;
@@ -53,8 +53,15 @@ struct WayRecord {
     bool endsPass = false;
 };
 
+/// What one channel of a record got and was to get, where 0 is none.
+struct ChannelDose {
+    float dose = 0;
+    float specified = 0;
+};
+
 /// How far the dose of a record is from the specified one, as a share of that; the record has one.
-[[nodiscard]] inline double deviationOf(const WayRecord& record) {
+template <typename Dosed>
+[[nodiscard]] double deviationOf(const Dosed& record) {
     const auto specified = static_cast<double>(record.specified);
     return std::abs(static_cast<double>(record.dose) - specified) / specified;
 }
@@ -66,6 +73,9 @@ public:
     WorkWay(std::span<const WorkLayer* const> layers, const FindingOptions& options);
 
     [[nodiscard]] std::span<const WayRecord> records() const { return records_; }
+    /// Channel by channel; nothing where all of the job have one, where one alone was asked for and
+    /// where the dose of the record cannot be told.
+    [[nodiscard]] std::span<const ChannelDose> channels(std::size_t record) const;
     /// One less than the records.
     [[nodiscard]] std::size_t steps() const { return records_.empty() ? 0 : records_.size() - 1; }
     [[nodiscard]] double metres(std::size_t from, std::size_t to) const {
@@ -95,12 +105,16 @@ public:
 
 private:
     void read(std::span<const WorkLayer* const> layers, const FindingOptions& options);
+    void readChannels(std::span<const WorkLayer* const> layers);
     void dropClockThatStands();
     void measure();
     [[nodiscard]] std::vector<double> clockSteps() const;
     void shareSeconds(std::vector<double>& seconds) const;
 
     std::vector<WayRecord> records_;
+    /// `channelCount_` a record.
+    std::vector<ChannelDose> channels_;
+    std::size_t channelCount_ = 0;
     // From the first record to each.
     std::vector<double> metres_;
     std::vector<double> assumed_;

@@ -158,26 +158,43 @@ TEST(Problems, AreFoundByKind) {
 }
 
 TEST(Problems, HaveTheirFigures) {
-    MadeJob job;
-    job.now.channels = 2;
-    job.now.spec = {100, 60};
-    job.now.real = {100, 60};
-    job.go(0, 10, 10);
-    job.now.real = {150, 10};
-    job.go(0, 10, 6);  // 60 m, 0.12 ha
-    job.now.real = {100, 60};
-    job.go(0, 10, 10);
-    EXPECT_TRUE(findProblems(job.layers(), kOptions).rows.empty()) << "the sum is right";
-    const Problems found = findProblems(job.layers(), {10, 0, 0});
-    ASSERT_EQ(found.rows.size(), 1U);
-    const Problem& problem = found.rows[0];
-    EXPECT_NEAR(*problem.hectares, 0.12, 1e-9);
-    EXPECT_NEAR(*problem.dose, 150, 1e-9);
-    EXPECT_NEAR(*problem.specified, 100, 1e-9);
-    EXPECT_NEAR(*problem.lost, 0.06, 1e-9);
-    EXPECT_NEAR(problem.position.y, atMetres(0, 130).y, 1e-9);
-    EXPECT_EQ(positionsOf(job.layers(), 10, 12),
-              (std::vector{atMetres(0, 100), atMetres(0, 110), atMetres(0, 120)}));
+    struct Row {
+        const char* name;
+        TrackDataRPT::Doses real;
+        int asked;
+        int channel;
+        double dose, specified, lost;
+    };
+    const Row rows[] = {
+        {"the channel that was asked for", {150, 10}, 0, -1, 150, 100, 0.06},
+        {"a right sum, the second channel farther off", {150, 10}, -1, 1, 10, 60, 0.1},
+        {"the first channel alone", {120, 60}, -1, 0, 120, 100, 0.024},
+        {"all channels alike", {120, 72}, -1, -1, 192, 160, 0.024},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        MadeJob job;
+        job.now.channels = 2;
+        job.now.spec = {100, 60};
+        job.now.real = {100, 60};
+        job.go(0, 10, 10);
+        job.now.real = row.real;
+        job.go(0, 10, 6);  // 60 m, 0.12 ha
+        job.now.real = {100, 60};
+        job.go(0, 10, 10);
+        const Problems found = findProblems(job.layers(), {10, row.asked, 0});
+        ASSERT_EQ(found.rows.size(), 1U);
+        const Problem& problem = found.rows[0];
+        EXPECT_EQ(problem.kind, ProblemKind::OffDose);
+        EXPECT_EQ(problem.channel, row.channel);
+        EXPECT_NEAR(*problem.hectares, 0.12, 1e-9);
+        EXPECT_NEAR(*problem.dose, row.dose, 1e-9);
+        EXPECT_NEAR(*problem.specified, row.specified, 1e-9);
+        EXPECT_NEAR(*problem.lost, row.lost, 1e-9);
+        EXPECT_NEAR(problem.position.y, atMetres(0, 130).y, 1e-9);
+        EXPECT_EQ(positionsOf(job.layers(), 10, 12),
+                  (std::vector{atMetres(0, 100), atMetres(0, 110), atMetres(0, 120)}));
+    }
 }
 
 TEST(Problems, NeedNoClockNoSpeedAndNoSoundValues) {

@@ -74,8 +74,11 @@ std::optional<double> orderOf(const RecordTime& time) {
 
 std::string problemText(const Texts& texts, const Problem& problem, WorkKind machine) {
     if (problem.kind != ProblemKind::Alarm) {
-        const TextId name = isStop(problem) ? TextId::ProblemPause : problemName(problem.kind);
-        return std::string(texts(name));
+        const TextId kind = isStop(problem) ? TextId::ProblemPause : problemName(problem.kind);
+        std::string name(texts(kind));
+        return problem.channel < 0
+                   ? name
+                   : texts.format(TextId::CompareChannel, {numberText(problem.channel + 1), name});
     }
     std::string name(alarmText(texts, machine, problem.alarm));
     // Some are named "alarm of ..." and need no word before them.
