@@ -13,6 +13,7 @@
 #include "app/figure_text.h"
 #include "base/numbers.h"
 #include "base/plain_text.h"
+#include "base/text.h"
 #include "work/vex_alarmas.h"
 
 namespace campora {
@@ -81,9 +82,10 @@ std::string problemText(const Texts& texts, const Problem& problem, WorkKind mac
                    : texts.format(TextId::CompareChannel, {numberText(problem.channel + 1), name});
     }
     std::string name(alarmText(texts, machine, problem.alarm));
-    // Some are named "alarm of ..." and need no word before them.
-    const std::string_view word = texts(TextId::ProblemAlarm);
-    return name.starts_with(word.substr(0, word.find(':')))
+    // Some have the word in their name, as "speed alarm", and need none before it.
+    const std::string_view form = texts(TextId::ProblemAlarm);
+    const std::string word = lowerCase(form.substr(0, form.find(':')));
+    return lowerCase(name).find(word) != std::string::npos
                ? name
                : texts.format(TextId::ProblemAlarm, {std::move(name)});
 }
