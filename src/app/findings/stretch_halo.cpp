@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
+#include <limits>
 #include <utility>
 #include <vector>
 
@@ -16,29 +17,11 @@ namespace {
 /// Canvas units between two points of a line, where there are few of them.
 constexpr std::int32_t kFinest = 30;
 constexpr std::int32_t kCoarsest = 960;
-/// Points that are painted in no time.
+/// Points that are painted in no time, beside those of the coarsest lines.
 constexpr std::size_t kMostPoints = 4000;
 
 bool isFar(CanvasPoint a, CanvasPoint b, std::int64_t least) {
     return std::abs(std::int64_t{a.x} - b.x) >= least || std::abs(std::int64_t{a.y} - b.y) >= least;
-}
-
-std::size_t pointsOf(const std::vector<HaloLine>& lines) {
-    std::size_t points = 0;
-    for (const HaloLine& line : lines) {
-        points += line.points.size();
-    }
-    return points;
-}
-
-void thin(HaloLine& line, std::int32_t least) {
-    std::vector<CanvasPoint> kept{line.points.front()};
-    for (std::size_t i = 1; i < line.points.size(); ++i) {
-        if (i + 1 == line.points.size() || isFar(kept.back(), line.points[i], least)) {
-            kept.push_back(line.points[i]);
-        }
-    }
-    line.points = std::move(kept);
 }
 
 LonLat positionOf(const WorkLayer& pass, std::size_t record) {
@@ -47,21 +30,27 @@ LonLat positionOf(const WorkLayer& pass, std::size_t record) {
 
 }  // namespace
 
-/// Lines of the part of a pass that may touch the canvas.
+/// Lines of parts of passes, as far as they may touch the canvas. `least`: canvas units between two
+/// points of a line.
 class StretchHalo::LineMaker {
 public:
-    LineMaker(const Pass& pass, std::pair<std::size_t, std::size_t> records,
-              const ViewTransform& view, std::vector<HaloLine>& lines)
-        : pass_(pass), records_(records), view_(view), lines_(lines) {}
+    LineMaker(const ViewTransform& view, std::int32_t least, std::size_t mostPoints)
+        : view_(view), least_(least), mostPoints_(mostPoints) {}
 
-    void addLines() {
-        if (records_.first == records_.second) {
-            const LonLat at = positionOf(*pass_.layer, records_.first);
+    void addLines(const Pass& pass, std::pair<std::size_t, std::size_t> records) {
+        pass_ = &pass;
+        records_ = records;
+        isOpen_ = false;
+        if (records.first == records.second) {
+            const LonLat at = positionOf(*pass.layer, records.first);
             addStep(at, at, true);
         } else {
-            visit(pass_.levels.size() - 1, 0, stepsOfTop(pass_.levels.size()));
+            visit(pass.levels.size() - 1, 0, stepsOfTop(pass.levels.size()));
         }
     }
+    [[nodiscard]] std::size_t points() const { return points_; }
+    [[nodiscard]] bool isFull() const { return points_ > mostPoints_; }
+    [[nodiscard]] std::vector<HaloLine> take() { return std::move(lines_); }
 
 private:
     static std::size_t stepsOfTop(std::size_t levels) {
@@ -76,20 +65,20 @@ private:
     void visit(std::size_t level, std::size_t node, std::size_t steps) {
         const std::size_t first = std::max(node * steps, records_.first);
         const std::size_t end = std::min((node + 1) * steps, records_.second);
-        if (first >= end) {
+        if (first >= end || isFull()) {
             return;
         }
-        const Box& box = pass_.levels[level][node];
+        const Box& box = pass_->levels[level][node];
         if (!view_.mayTouch(box.least, box.greatest, 0)) {
             isOpen_ = false;
         } else if (!isFar(view_.mapToScreen(box.least.x, box.least.y),
-                          view_.mapToScreen(box.greatest.x, box.greatest.y), kFinest)) {
-            addStep(positionOf(*pass_.layer, first), positionOf(*pass_.layer, end),
+                          view_.mapToScreen(box.greatest.x, box.greatest.y), least_)) {
+            addStep(positionOf(*pass_->layer, first), positionOf(*pass_->layer, end),
                     end == records_.second);
         } else if (level == 0) {
             addSteps(first, end);
         } else {
-            const std::size_t below = pass_.levels[level - 1].size();
+            const std::size_t below = pass_->levels[level - 1].size();
             for (std::size_t i = node * kBranch; i < std::min((node + 1) * kBranch, below); ++i) {
                 visit(level - 1, i, steps / kBranch);
             }
@@ -97,9 +86,9 @@ private:
     }
 
     void addSteps(std::size_t first, std::size_t end) {
-        LonLat before = positionOf(*pass_.layer, first);
+        LonLat before = positionOf(*pass_->layer, first);
         for (std::size_t n = first + 1; n <= end; ++n) {
-            const LonLat at = positionOf(*pass_.layer, n);
+            const LonLat at = positionOf(*pass_->layer, n);
             addStep(before, at, n == records_.second);
             before = at;
         }
@@ -113,17 +102,22 @@ private:
         if (!isOpen_) {
             lines_.push_back({{view_.mapToScreen(from.x, from.y)}});
             isOpen_ = true;
+            ++points_;
         }
         const CanvasPoint point = view_.mapToScreen(to.x, to.y);
-        if (isLast || isFar(lines_.back().points.back(), point, kFinest)) {
+        if (isLast || isFar(lines_.back().points.back(), point, least_)) {
             lines_.back().points.push_back(point);
+            ++points_;
         }
     }
 
-    const Pass& pass_;
-    std::pair<std::size_t, std::size_t> records_;
     const ViewTransform& view_;
-    std::vector<HaloLine>& lines_;
+    std::int32_t least_;
+    std::size_t mostPoints_;
+    const Pass* pass_ = nullptr;
+    std::pair<std::size_t, std::size_t> records_;
+    std::vector<HaloLine> lines_;
+    std::size_t points_ = 0;
     bool isOpen_ = false;
 };
 
@@ -163,25 +157,33 @@ StretchHalo::StretchHalo(std::span<const WorkLayer* const> passes) {
 
 void StretchHalo::addTo(MapOverlay& overlay, std::pair<std::size_t, std::size_t> records,
                         const ViewTransform& view) const {
-    std::vector<HaloLine> lines;
+    LineMaker coarsest(view, kCoarsest, std::numeric_limits<std::size_t>::max());
+    addLines(coarsest, records);
+    const std::size_t most = coarsest.points() + kMostPoints;
+    std::vector<HaloLine> lines = coarsest.take();
+    for (std::int32_t least = kCoarsest / 2; least >= kFinest; least /= 2) {
+        LineMaker finer(view, least, most);
+        addLines(finer, records);
+        if (finer.isFull()) {
+            break;
+        }
+        lines = finer.take();
+    }
+    for (HaloLine& line : lines) {
+        overlay.emplace_back(std::move(line));
+    }
+}
+
+void StretchHalo::addLines(LineMaker& maker, std::pair<std::size_t, std::size_t> records) const {
     std::size_t before = 0;
     for (const Pass& pass : passes_) {
         const auto count = static_cast<std::size_t>(pass.layer->recordCount());
         if (count > 0 && records.first < before + count && records.second >= before) {
             const std::size_t first = std::max(records.first, before) - before;
             const std::size_t last = std::min(records.second - before, count - 1);
-            LineMaker(pass, {first, last}, view, lines).addLines();
+            maker.addLines(pass, {first, last});
         }
         before += count;
-    }
-    for (std::int32_t least = 2 * kFinest; least <= kCoarsest && pointsOf(lines) > kMostPoints;
-         least *= 2) {
-        for (HaloLine& line : lines) {
-            thin(line, least);
-        }
-    }
-    for (HaloLine& line : lines) {
-        overlay.emplace_back(std::move(line));
     }
 }
 

@@ -40,6 +40,8 @@ private:
     };
     class LineMaker;
 
+    void addLines(LineMaker& maker, std::pair<std::size_t, std::size_t> records) const;
+
     static constexpr std::size_t kBranch = 16;
 
     std::vector<Pass> passes_;
