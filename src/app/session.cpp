@@ -67,6 +67,10 @@ Session::Session(MapCanvas& canvas, MainWindowControls& window, const Services& 
         findings_.tables.filesChanged();
     };
     connectStrip(findings_.timeStrip, replay_, map_);
+    findings_.timeStrip.onBrushed = [this] { findings_.tables.hideStretch(); };
+    findings_.tables.onShown = [this](const WorkPlace& first, std::size_t last) {
+        findings_.timeStrip.show(first, last);
+    };
     display_.onEmpty = [this] { tools_.reset(); };
     tools_.onDose = [this](LonLat position) { prescCommands_.changeDose(position); };
     tools_.onAsked = [this](const Gph& layer, std::int32_t n) {

@@ -28,7 +28,7 @@ std::optional<TextId> whyNoTimeStrip(const MainWindow& window) {
 }
 
 std::optional<TextId> whyNoStretch(const MainWindow& window) {
-    const bool isChosen = window.session().findings().timeStrip.stretch().has_value();
+    const bool isChosen = window.session().findings().chosenStretch().has_value();
     return isChosen ? std::nullopt : std::optional(TextId::NoStretchChosen);
 }
 
@@ -327,7 +327,7 @@ constexpr ActionRow kActions[] = {
     {.name = "playStretch", .text = TextId::ActionPlayStretch,
      .tooltip = TextId::TipPlayStretch, .shortcuts = "Shift+Space", .menu = MenuId::Replay,
      .needs = Needs::Replay,
-     .run = [](MainWindow& w) { w.session().findings().timeStrip.playStretch(); },
+     .run = [](MainWindow& w) { w.session().findings().playStretch(); },
      .whyNot = whyNoStretch},
     {.name = "mnuHelpKeys", .text = TextId::ActionKeys, .tooltip = TextId::TipKeys,
      .icon = "keys", .shortcuts = "F1", .menu = MenuId::Help,

@@ -128,9 +128,16 @@ void FindingCommands::showStretch(const FoundStretch& stretch) {
     const File& file = map_.files().file(static_cast<int>(stretch.file));
     stretch_ = positionsOf(workLayers(file), stretch.firstRecord, stretch.endRecord);
     tools_.showOverlay();
+    if (!std::exchange(shown_, WorkPlace{&file, stretch.firstRecord})) {
+        display_.window().commandsChanged();
+    }
+    if (onShown) {
+        onShown(*shown_, stretch.endRecord);
+    }
 }
 
 void FindingCommands::hideStretch() {
+    shown_.reset();
     if (!stretch_.empty()) {
         stretch_.clear();
         tools_.showOverlay();

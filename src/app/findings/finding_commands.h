@@ -15,6 +15,7 @@
 #include "app/map_display.h"
 #include "app/map_tools.h"
 #include "app/open_map.h"
+#include "app/work_place.h"
 #include "model/gph.h"
 
 namespace campora {
@@ -31,6 +32,8 @@ public:
 
     /// Another row was selected here, not by who shows the table; may be empty.
     std::function<void(Kind kind)> onSelected;
+    /// The stretch of a row is shown on the map, from a record to another of a file; may be empty.
+    std::function<void(const WorkPlace& first, std::size_t last)> onShown;
 
     /// Of the work as it is now. Tables that are found anew have no selected row.
     [[nodiscard]] const FindingTable& table(Kind kind) { return *sharedTable(kind); }
@@ -45,6 +48,8 @@ public:
     [[nodiscard]] std::optional<std::size_t> selected(Kind kind) const;
     /// Selects a row and shows its stretch on the map; none: no row.
     void select(Kind kind, std::optional<std::size_t> row);
+    /// Where the stretch begins that is shown on the map; none without one.
+    [[nodiscard]] std::optional<WorkPlace> shown() const { return shown_; }
     /// Shows no stretch on the map any more; rows stay selected.
     void hideStretch();
     /// The whole map for the stretch of a row.
@@ -93,6 +98,7 @@ private:
     std::array<Found, 2> found_;
     /// Of the stretch that is shown on the map.
     std::vector<LonLat> stretch_;
+    std::optional<WorkPlace> shown_;
 };
 
 }  // namespace campora

@@ -19,6 +19,18 @@ struct Findings {
           tables(map, display, tools),
           timeStrip(map, display, tools) {}
 
+    /// Where the stretch begins that is brushed in the strip, or shown for a row of the tables.
+    [[nodiscard]] std::optional<WorkPlace> chosenStretch() const {
+        const std::optional<WorkPlace> brushed = timeStrip.stretch();
+        return brushed ? brushed : tables.shown();
+    }
+    /// Replays from there on.
+    void playStretch() const {
+        if (const std::optional<WorkPlace> first = chosenStretch(); first && timeStrip.onPlay) {
+            timeStrip.onPlay(*first);
+        }
+    }
+
     CoverageCommands coverage;
     CompareCommands comparison;
     FindingCommands tables;

@@ -149,6 +149,7 @@ void TimeStrip::brush(double from, double to) {
     }
     const std::size_t last = series_->recordAt(window_.positionAt(std::max(from, to)));
     const std::size_t first = series_->firstFrom(window_.positionAt(std::min(from, to)));
+    tellBrushed();
     setStretch(Records{std::min(first, last), last});
     cursor_ = last;
     anchor_ = std::min(first, last);
@@ -178,9 +179,22 @@ void TimeStrip::go(double column) {
     }
 }
 
-void TimeStrip::playStretch() {
-    if (const std::optional<WorkPlace> first = stretch(); first && onPlay) {
-        onPlay(*first);
+void TimeStrip::show(const WorkPlace& first, std::size_t last) {
+    if (!shown_ || stale_ || !series_ || first.file != file_ || last >= series_->size()) {
+        clearBrush();
+        return;
+    }
+    setStretch(Records{first.record, last});
+    cursor_ = anchor_ = first.record;
+    pointed_.reset();
+    window_.reveal(series_->positionOf(last));
+    window_.reveal(series_->positionOf(first.record));
+    changed();
+}
+
+void TimeStrip::tellBrushed() const {
+    if (onBrushed) {
+        onBrushed();
     }
 }
 
@@ -200,6 +214,7 @@ bool TimeStrip::press(Key key, bool brushes) {
     } else if (key == Key::Play && onPlay && !(onPause && onPause())) {
         onPlay(stretch().value_or(WorkPlace{file_, at}));
     } else if (key == Key::Clear) {
+        tellBrushed();
         clearBrush();
     }
     return true;
@@ -241,6 +256,7 @@ void TimeStrip::moveTo(std::size_t record, bool brushes) {
     if (brushes) {
         const std::size_t anchor = anchor_.value_or(startingPoint());
         anchor_ = anchor;
+        tellBrushed();
         setStretch(Records{std::min(anchor, record), std::max(anchor, record)});
     } else {
         anchor_.reset();

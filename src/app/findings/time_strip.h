@@ -79,6 +79,8 @@ public:
     std::function<void(const WorkPlace&)> onPlay;
     /// Pauses the replay; false when it does not play.
     std::function<bool()> onPause;
+    /// Something else is brushed here, or nothing any more.
+    std::function<void()> onBrushed;
     /// What the strip shows has changed.
     std::function<void()> onChanged;
 
@@ -102,10 +104,11 @@ public:
     void point(std::optional<double> column);
     void brush(double from, double to);
     void clearBrush();
+    /// Brushes up to a record what another part of the window picks out; clears the brush when it
+    /// is of another file.
+    void show(const WorkPlace& first, std::size_t last);
     /// Puts the replay there.
     void go(double column);
-    /// Plays from the first record that is brushed on.
-    void playStretch();
     /// A key, perhaps with the one that brushes. False when it means nothing.
     bool press(Key key, bool brushes);
 
@@ -121,6 +124,7 @@ private:
 
     void read(const File& file, bool sameFile);
     void setStretch(std::optional<Records> records);
+    void tellBrushed() const;
     void moveTo(std::size_t record, bool brushes);
     /// Where a key moves the cursor; none for one that does not.
     [[nodiscard]] std::optional<std::size_t> targetOf(Key key, std::size_t at) const;

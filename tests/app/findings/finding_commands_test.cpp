@@ -88,8 +88,13 @@ TEST_F(FindingCommandsTest, NothingIsLookedForBeforeItIsAskedForNorTwice) {
 TEST_F(FindingCommandsTest, AStretchIsPickedOutOnTheMap) {
     ASSERT_TRUE(open({path}));
     EXPECT_EQ(halo(), "");
+    TimeStrip& strip = session.findings().timeStrip;
+    strip.setShown(true);
     commands.stepProblem(true);
     EXPECT_EQ(halo(), " 20 25");
+    EXPECT_EQ(strip.stretch()->record, 20U) << "the strip shows when it was";
+    strip.setShown(false);
+    EXPECT_EQ(session.findings().chosenStretch()->record, 20U) << "and can be played from there";
     commands.sortBy(Kind::Problems, 8, true);
     EXPECT_EQ(column(Kind::Problems, 8), (Words{"0.100", "0.060"})) << "by what was lost";
     commands.sortBy(Kind::Problems, 8, false);
