@@ -58,7 +58,7 @@ void CopiedTable::setFigures(const Texts& texts, std::span<const NamedFigure> fi
     setContent(
         {std::string(texts(TextId::SummaryProperty)), std::string(texts(TextId::SummaryValue))},
         rows, 1);
-    horizontalHeader()->setStretchLastSection(true);
+    horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
 }
 
 std::string CopiedTable::asText(bool selected) const {
