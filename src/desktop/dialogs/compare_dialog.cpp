@@ -18,7 +18,7 @@ namespace campora {
 
 namespace {
 
-constexpr QSize kSize{760, 620};
+constexpr QSize kSize{880, 640};
 constexpr int kMargin = 16;
 constexpr int kGap = 8;
 
