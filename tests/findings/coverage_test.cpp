@@ -7,6 +7,9 @@
 #include <numbers>
 #include <numeric>
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
 #include "lots/merge_outlines.h"
 #include "model/geodesy.h"
 #include "model/measures.h"
