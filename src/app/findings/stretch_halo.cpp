@@ -18,7 +18,7 @@ namespace {
 constexpr std::int32_t kFinest = 30;
 constexpr std::int32_t kCoarsest = 960;
 /// Points that are painted in no time, beside those of the coarsest lines.
-constexpr std::size_t kMostPoints = 4000;
+constexpr std::size_t kMostPoints = 1500;
 
 bool isFar(CanvasPoint a, CanvasPoint b, std::int64_t least) {
     return std::abs(std::int64_t{a.x} - b.x) >= least || std::abs(std::int64_t{a.y} - b.y) >= least;
@@ -41,9 +41,9 @@ public:
         pass_ = &pass;
         records_ = records;
         isOpen_ = false;
+        at_ = positionOf(*pass.layer, records.first);
         if (records.first == records.second) {
-            const LonLat at = positionOf(*pass.layer, records.first);
-            addStep(at, at, true);
+            addStep(at_, true);
         } else {
             visit(pass.levels.size() - 1, 0, stepsOfTop(pass.levels.size()));
         }
@@ -54,8 +54,8 @@ public:
 
 private:
     static std::size_t stepsOfTop(std::size_t levels) {
-        std::size_t steps = 1;
-        for (std::size_t i = 0; i < levels; ++i) {
+        std::size_t steps = kLeaf;
+        for (std::size_t i = 1; i < levels; ++i) {
             steps *= kBranch;
         }
         return steps;
@@ -69,14 +69,18 @@ private:
             return;
         }
         const Box& box = pass_->levels[level][node];
-        if (!view_.mayTouch(box.least, box.greatest, 0)) {
-            isOpen_ = false;
-        } else if (!isFar(view_.mapToScreen(box.least.x, box.least.y),
-                          view_.mapToScreen(box.greatest.x, box.greatest.y), least_)) {
-            addStep(positionOf(*pass_->layer, first), positionOf(*pass_->layer, end),
-                    end == records_.second);
+        const bool touches = view_.mayTouch(box.least, box.greatest, 0);
+        if (!touches || isSmall(box)) {
+            const LonLat to = end == (node + 1) * steps ? box.end : positionOf(*pass_->layer, end);
+            if (touches) {
+                addStep(to, end == records_.second);
+            }
+            isOpen_ = isOpen_ && touches;
+            at_ = to;
         } else if (level == 0) {
-            addSteps(first, end);
+            for (std::size_t n = first + 1; n <= end; ++n) {
+                addStep(positionOf(*pass_->layer, n), n == records_.second);
+            }
         } else {
             const std::size_t below = pass_->levels[level - 1].size();
             for (std::size_t i = node * kBranch; i < std::min((node + 1) * kBranch, below); ++i) {
@@ -85,16 +89,13 @@ private:
         }
     }
 
-    void addSteps(std::size_t first, std::size_t end) {
-        LonLat before = positionOf(*pass_->layer, first);
-        for (std::size_t n = first + 1; n <= end; ++n) {
-            const LonLat at = positionOf(*pass_->layer, n);
-            addStep(before, at, n == records_.second);
-            before = at;
-        }
+    [[nodiscard]] bool isSmall(const Box& box) const {
+        return !isFar(view_.mapToScreen(box.least.x, box.least.y),
+                      view_.mapToScreen(box.greatest.x, box.greatest.y), least_);
     }
 
-    void addStep(LonLat from, LonLat to, bool isLast) {
+    void addStep(LonLat to, bool isLast) {
+        const LonLat from = std::exchange(at_, to);
         if (!view_.mayTouch(from, to, 0)) {
             isOpen_ = false;
             return;
@@ -116,43 +117,50 @@ private:
     std::size_t mostPoints_;
     const Pass* pass_ = nullptr;
     std::pair<std::size_t, std::size_t> records_;
+    /// Where the way has come to.
+    LonLat at_;
     std::vector<HaloLine> lines_;
     std::size_t points_ = 0;
     bool isOpen_ = false;
 };
 
 StretchHalo::StretchHalo(std::span<const WorkLayer* const> passes) {
+    for (const WorkLayer* layer : passes) {
+        passes_.push_back(passOf(*layer));
+    }
+}
+
+StretchHalo::Pass StretchHalo::passOf(const WorkLayer& layer) {
     const auto add = [](Box& box, const Box& other) {
         box.least = {std::min(box.least.x, other.least.x), std::min(box.least.y, other.least.y)};
         box.greatest = {std::max(box.greatest.x, other.greatest.x),
                         std::max(box.greatest.y, other.greatest.y)};
+        box.end = other.end;
     };
-    for (const WorkLayer* layer : passes) {
-        Pass& pass = passes_.emplace_back();
-        pass.layer = layer;
-        std::vector<Box> level;
-        const auto count = static_cast<std::size_t>(layer->recordCount());
-        for (std::size_t n = 0; n < count; ++n) {
-            const LonLat at = positionOf(*layer, n);
-            if (n > 0) {
-                add(level.back(), {at, at});  // where the step before it ends
-            }
-            if (n % kBranch == 0) {
-                level.push_back({at, at});
-            }
+    Pass pass{&layer, {}};
+    std::vector<Box> level;
+    const auto count = static_cast<std::size_t>(layer.recordCount());
+    for (std::size_t n = 0; n < count; ++n) {
+        const LonLat at = positionOf(layer, n);
+        if (n > 0) {
+            add(level.back(), {at, at, at});  // where the step before it ends
         }
-        while (level.size() > 1) {
-            std::vector<Box> above;
-            for (std::size_t i = 0; i < level.size(); ++i) {
-                if (i % kBranch == 0) {
-                    above.push_back(level[i]);
-                }
-                add(above.back(), level[i]);
-            }
-            pass.levels.push_back(std::exchange(level, std::move(above)));
+        if (n % kLeaf == 0) {
+            level.push_back({at, at, at});
         }
-        pass.levels.push_back(std::move(level));
     }
+    while (level.size() > 1) {
+        std::vector<Box> above;
+        for (std::size_t i = 0; i < level.size(); ++i) {
+            if (i % kBranch == 0) {
+                above.push_back(level[i]);
+            }
+            add(above.back(), level[i]);
+        }
+        pass.levels.push_back(std::exchange(level, std::move(above)));
+    }
+    pass.levels.push_back(std::move(level));
+    return pass;
 }
 
 void StretchHalo::addTo(MapOverlay& overlay, std::pair<std::size_t, std::size_t> records,
@@ -161,12 +169,15 @@ void StretchHalo::addTo(MapOverlay& overlay, std::pair<std::size_t, std::size_t>
     addLines(coarsest, records);
     const std::size_t most = coarsest.points() + kMostPoints;
     std::vector<HaloLine> lines = coarsest.take();
-    for (std::int32_t least = kCoarsest / 2; least >= kFinest; least /= 2) {
+    std::size_t points = coarsest.points();
+    // Finer ones have about twice the points.
+    for (std::int32_t least = kCoarsest / 2; least >= kFinest && 2 * points <= most; least /= 2) {
         LineMaker finer(view, least, most);
         addLines(finer, records);
         if (finer.isFull()) {
             break;
         }
+        points = finer.points();
         lines = finer.take();
     }
     for (HaloLine& line : lines) {

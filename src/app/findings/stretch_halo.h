@@ -29,11 +29,14 @@ public:
                const ViewTransform& view) const;
 
 private:
+    /// Around some steps that follow each other.
     struct Box {
         LonLat least;
         LonLat greatest;
+        /// Where they end.
+        LonLat end;
     };
-    /// Boxes of `kBranch` steps, of `kBranch` of these boxes, and so on up to a single one.
+    /// Boxes of `kLeaf` steps, of `kBranch` of these boxes, and so on up to a single one.
     struct Pass {
         const WorkLayer* layer = nullptr;
         std::vector<std::vector<Box>> levels;
@@ -42,7 +45,10 @@ private:
 
     void addLines(LineMaker& maker, std::pair<std::size_t, std::size_t> records) const;
 
-    static constexpr std::size_t kBranch = 16;
+    static constexpr std::size_t kLeaf = 16;
+    static constexpr std::size_t kBranch = 4;
+
+    static Pass passOf(const WorkLayer& layer);
 
     std::vector<Pass> passes_;
 };
