@@ -10,15 +10,14 @@
 
 namespace campora {
 
-/// Parallel passes of 1 km, a record every two metres and two seconds, doses that differ. At most
-/// a million records: one month.
-inline std::string largeReport(int records) {
-    constexpr int kPerPass = 500;
+/// Parallel passes, usually of 1 km, a record every two metres and two seconds, doses that differ.
+/// At most a million records: one month.
+inline std::string largeReport(int records, int perPass = 500) {
     RptBytes report(1);
     report.reserve(static_cast<std::size_t>(records));
     for (int i = 0; i < records; ++i) {
-        const int pass = i / kPerPass;
-        const int along = pass % 2 == 0 ? i % kPerPass : kPerPass - 1 - i % kPerPass;
+        const int pass = i / perPass;
+        const int along = pass % 2 == 0 ? i % perPass : perPass - 1 - i % perPass;
         RptBytes::Record record;
         record.position = fixAt(2.0 * along, 20.0 * pass);
         record.realTenths[0] = 900 + i % 13 * 20;

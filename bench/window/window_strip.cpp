@@ -1,9 +1,10 @@
 // Copyright (c) 2026 The Campora developers
 // SPDX-License-Identifier: MIT
 //
-// How many times a second the time strip of a large job is scrolled and painted. On the screen of
-// DISPLAY where there is one, else off the screen.
+// How many times a second the time strip of a large job is scrolled and painted, and how long a
+// move of the brush takes. On the screen of DISPLAY where there is one, else off the screen.
 
+#include <algorithm>
 #include <iostream>
 
 #include <QApplication>
@@ -12,6 +13,7 @@
 
 #include "desktop/main_window.h"
 #include "desktop/widgets/look.h"
+#include "desktop/widgets/side_panel.h"
 #include "desktop/widgets/time_strip_view.h"
 #include "desktop/window_program.h"
 #include "support/temp_folder.h"
@@ -41,6 +43,25 @@ void measure(TimeStripView& view, TimeStrip& strip, int zoom) {
               << " frames a second, the longest " << static_cast<double>(longest) / 1e6 << " ms\n";
 }
 
+/// Brushes ever more of the job, as a drag does, and asks for the commands anew after each move.
+void measureBrush(TimeStripView& view, TimeStrip& strip) {
+    constexpr int kMoves = 100;
+    strip.zoomAt(0, -100);
+    qint64 whole = 0;
+    qint64 longest = 0;
+    for (int move = 1; move <= kMoves; ++move) {
+        QElapsedTimer one;
+        one.start();
+        strip.brush(0, static_cast<double>(view.width()) * move / kMoves);
+        view.repaint();
+        QCoreApplication::processEvents();
+        whole += one.nsecsElapsed();
+        longest = std::max(longest, one.nsecsElapsed());
+    }
+    std::cout << "a move of the brush: " << static_cast<double>(whole) / kMoves / 1e6
+              << " ms, the longest " << static_cast<double>(longest) / 1e6 << " ms\n";
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -66,6 +87,12 @@ int main(int argc, char** argv) {
             measure(*window.findChild<TimeStripView*>(), window.session().findings().timeStrip,
                     zoom);
         }
+        TimeStrip& strip = window.session().findings().timeStrip;
+        measureBrush(*window.findChild<TimeStripView*>(), strip);
+        window.sidePanel().openProblems();
+        QCoreApplication::processEvents();
+        std::cout << "with the problems beside it, ";
+        measureBrush(*window.findChild<TimeStripView*>(), strip);
         QCoreApplication::quit();
     });
     return QApplication::exec();
