@@ -3,6 +3,7 @@
 
 #include "app/presc/check_page.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 
@@ -28,11 +29,11 @@ public:
         if (!*check_.isSameGrid) {
             return std::string(desk_.texts(TextId::CheckOtherGrid));
         }
-        const std::int64_t different = check_.different.value_or(0);
-        return different == 0
-                   ? desk_.texts.format(TextId::CheckAgrees, {numberText(check_.cells)})
-                   : desk_.texts.format(TextId::CheckDiffers,
-                                        {numberText(different), numberText(check_.cells)});
+        const std::string cells = numberText(check_.cells);
+        if (const std::int64_t different = check_.different.value_or(0); different != 0) {
+            return desk_.texts.format(TextId::CheckDiffers, {numberText(different), cells});
+        }
+        return desk_.texts.format(wasMade() ? TextId::CheckAgrees : TextId::CheckAsOpen, {cells});
     }
     void addChannel(CheckPage& page, int channel) const {
         const ChannelCheck& check = check_.channels[static_cast<std::size_t>(channel)];
@@ -53,6 +54,11 @@ public:
     }
 
 private:
+    /// Whether the file stands beside the maps that it was made of, not only beside itself.
+    [[nodiscard]] bool wasMade() const {
+        return std::any_of(check_.channels.begin(), check_.channels.end(),
+                           [](const ChannelCheck& channel) { return channel.zones.has_value(); });
+    }
     [[nodiscard]] std::string shown(double value) const {
         return numberToType(value, desk_.decimalSymbol());
     }

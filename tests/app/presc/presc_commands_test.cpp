@@ -128,6 +128,7 @@ TEST_F(PrescCommandsTest, WhatWasSavedIsReadBackAndJudged) {
     ASSERT_TRUE(open({path}));
     commands.check();
     EXPECT_EQ(shown.at(2)->page().agrees, std::optional(true)) << "the open grid is the file's";
+    EXPECT_NE(shown.at(2)->page().verdict, shown.at(0)->page().verdict) << "of what was asked for";
 }
 
 TEST_F(PrescCommandsTest, TheDoseToolChangesAZoneOfTheCurrentChannel) {
