@@ -38,11 +38,6 @@ void GphPolyLine::Gph_plot(MapContext& context) const {
     }
 }
 
-std::int32_t GphPolyLine::Gph_mouseOver(const ViewTransform& /*view*/, const MapStyle& /*style*/,
-                                        LonLat /*position*/, std::int32_t /*start*/) const {
-    return -1;
-}
-
 std::string GphPolyLine::Gph_getInfo(const InfoContext& context, std::int32_t n) const {
     const std::unique_ptr<TrackData>& record = records_.at(static_cast<std::size_t>(n));
     return record ? record->resumen(context) : std::string();

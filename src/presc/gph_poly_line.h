@@ -27,8 +27,6 @@ public:
     [[nodiscard]] std::int32_t Gph_count() const override;
     [[nodiscard]] const BoundingBox& Gph_bound() const override { return bound_; }
     void Gph_plot(MapContext& context) const override;
-    [[nodiscard]] std::int32_t Gph_mouseOver(const ViewTransform& view, const MapStyle& style,
-                                             LonLat position, std::int32_t start) const override;
     /// What the record of point n says; empty for a point without one. Throws `std::out_of_range`
     /// for a bad index.
     [[nodiscard]] std::string Gph_getInfo(const InfoContext& context,

@@ -67,10 +67,6 @@ bool GphPolygon::holds(LonLat position) const {
            position.y >= bound_.minY && position.y <= bound_.maxY && pointInRing(points_, position);
 }
 
-std::string GphPolygon::Gph_getInfo(const InfoContext& /*context*/, std::int32_t /*n*/) const {
-    return {};
-}
-
 std::int32_t GphPolygon::ExportablePolygon_polygonNCount(const MapStyle& /*style*/,
                                                          std::int32_t polygon) const {
     return polygon == 0 ? static_cast<std::int32_t>(points_.size()) + 1 : 0;

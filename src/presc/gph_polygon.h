@@ -48,8 +48,6 @@ public:
     /// 0 when the position lies inside the ring.
     [[nodiscard]] std::int32_t Gph_mouseOver(const ViewTransform& view, const MapStyle& style,
                                              LonLat position, std::int32_t start) const override;
-    [[nodiscard]] std::string Gph_getInfo(const InfoContext& context,
-                                          std::int32_t n) const override;
 
     [[nodiscard]] std::int32_t ExportablePolygon_polygonCount() const override { return 1; }
     /// One more than the points, because the ring is closed on export.

@@ -147,8 +147,4 @@ std::int32_t GphPolygonMulti::Gph_mouseOver(const ViewTransform& /*view*/,
     return ringAt(position);
 }
 
-std::string GphPolygonMulti::Gph_getInfo(const InfoContext& /*context*/, std::int32_t /*n*/) const {
-    return {};
-}
-
 }  // namespace campora

@@ -49,8 +49,6 @@ public:
     void Gph_plot(MapContext& context) const override;
     [[nodiscard]] std::int32_t Gph_mouseOver(const ViewTransform& view, const MapStyle& style,
                                              LonLat position, std::int32_t start) const override;
-    [[nodiscard]] std::string Gph_getInfo(const InfoContext& context,
-                                          std::int32_t n) const override;
 
 private:
     void plotOpen(MapContext& context) const;

@@ -25,15 +25,6 @@ public:
     void Gph_plot(MapContext& context) const override {
         context.canvas.text({}, name_, TextAnchor::TopLeft, false);
     }
-    [[nodiscard]] std::int32_t Gph_mouseOver(const ViewTransform& /*view*/,
-                                             const MapStyle& /*style*/, LonLat /*position*/,
-                                             std::int32_t /*start*/) const override {
-        return -1;
-    }
-    [[nodiscard]] std::string Gph_getInfo(const InfoContext& /*context*/,
-                                          std::int32_t /*n*/) const override {
-        return {};
-    }
 
 private:
     std::string name_;

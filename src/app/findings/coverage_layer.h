@@ -5,8 +5,8 @@
 
 #include <vector>
 
-#include "app/findings/unasked_layer.h"
 #include "findings/coverage_grid.h"
+#include "model/still_layer.h"
 
 namespace campora {
 
@@ -20,7 +20,7 @@ inline constexpr Color kSkipped{0x7A0F4B};  // dark violet
 
 /// Draws how often ground was covered, and lots as ground that was to be. Pixel by pixel: what a
 /// picture costs does not depend on the size of the job.
-class CoverageLayer final : public UnaskedLayer {
+class CoverageLayer final : public StillLayer {
 public:
     CoverageLayer(CoverageGrid grid, std::vector<std::vector<LonLat>> lots);
 

@@ -12,10 +12,10 @@
 #include <utility>
 
 #include "app/figure_text.h"
-#include "app/findings/unasked_layer.h"
 #include "base/numbers.h"
 #include "findings/compare.h"
 #include "model/outline_rule.h"
+#include "model/still_layer.h"
 #include "model/swath_geometry.h"
 
 namespace campora {
@@ -145,7 +145,7 @@ private:
     std::vector<CanvasPoint> right_;
 };
 
-class DeviationLayer final : public UnaskedLayer, public ModeLayer {
+class DeviationLayer final : public StillLayer, public ModeLayer {
 public:
     /// `netHa`: of the steps of this job and of those behind it, which are left.
     void add(const PlannedJob& job, std::optional<int> channel, std::span<const double>& netHa) {
