@@ -23,6 +23,8 @@ SummaryTable::SummaryTable(QWidget* parent) : QTreeWidget(parent) {
 }
 
 void SummaryTable::setRows(std::span<const SummaryRow> rows) {
+    const int before = topLevelItemCount();
+    const bool goesOn = before > 0 && startsWithShown(rows);
     clear();
     const QSize roomy(0, fontMetrics().height() + 6);
     for (const SummaryRow& row : rows) {
@@ -42,6 +44,23 @@ void SummaryTable::setRows(std::span<const SummaryRow> rows) {
             item->setFont(1, font);
         }
     }
+    if (goesOn && before < topLevelItemCount()) {
+        scrollToItem(topLevelItem(before), PositionAtTop);
+    }
+}
+
+bool SummaryTable::startsWithShown(std::span<const SummaryRow> rows) const {
+    if (static_cast<int>(rows.size()) < topLevelItemCount()) {
+        return false;
+    }
+    for (int i = 0; i < topLevelItemCount(); ++i) {
+        const SummaryRow& row = rows[static_cast<std::size_t>(i)];
+        const QTreeWidgetItem& shown = *topLevelItem(i);
+        if (shown.text(0) != shownName(row.property) || shown.text(1) != shownName(row.value)) {
+            return false;
+        }
+    }
+    return true;
 }
 
 void SummaryTable::contextMenuEvent(QContextMenuEvent* event) {

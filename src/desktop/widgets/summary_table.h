@@ -19,6 +19,7 @@ class SummaryTable final : public QTreeWidget {
 public:
     explicit SummaryTable(QWidget* parent = nullptr);
 
+    /// Rows that come below those that stood there are brought into view.
     void setRows(std::span<const SummaryRow> rows);
     void retranslate(const Texts& texts);
 
@@ -28,6 +29,9 @@ signals:
 
 protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
+
+private:
+    [[nodiscard]] bool startsWithShown(std::span<const SummaryRow> rows) const;
 };
 
 }  // namespace campora
