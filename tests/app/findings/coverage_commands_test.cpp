@@ -3,6 +3,9 @@
 
 #include "app/findings/coverage_commands.h"
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
 #include "support/lot_files.h"
 #include "support/session_desk.h"
 
