@@ -8,14 +8,10 @@
 #include <iostream>
 #include <vector>
 
-#include <QApplication>
 #include <QElapsedTimer>
-#include <QTimer>
 
-#include "desktop/widgets/look.h"
-#include "desktop/window_program.h"
-#include "support/temp_folder.h"
 #include "window/large_report.h"
+#include "window/measured_window.h"
 
 namespace {
 
@@ -41,20 +37,6 @@ void measure(Session& session) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("DISPLAY")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
-    const TempFolder folder;
-    qputenv("XDG_CONFIG_HOME", folder.path().c_str());
-    qputenv("XDG_DATA_HOME", folder.path().c_str());
-    QApplication application(argc, argv);
-    applyLook();
-    WindowProgram program;
-    MainWindow& window = program.window();
-    QTimer::singleShot(500, &window, [&] {
-        window.openPaths({folder.write("lote.rpt", largeReport(kRecords))}, true);
-        measure(window.session());
-        QCoreApplication::quit();
-    });
-    return QApplication::exec();
+    return measureWindow(argc, argv, largeReport(kRecords),
+                         [](MainWindow& window) { measure(window.session()); });
 }

@@ -7,17 +7,12 @@
 #include <algorithm>
 #include <iostream>
 
-#include <QApplication>
 #include <QElapsedTimer>
-#include <QTimer>
 
-#include "desktop/main_window.h"
-#include "desktop/widgets/look.h"
 #include "desktop/widgets/side_panel.h"
 #include "desktop/widgets/time_strip_view.h"
-#include "desktop/window_program.h"
-#include "support/temp_folder.h"
 #include "window/large_report.h"
+#include "window/measured_window.h"
 
 namespace {
 
@@ -65,19 +60,9 @@ void measureBrush(TimeStripView& view, TimeStrip& strip) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("DISPLAY")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
-    const TempFolder folder;
-    qputenv("XDG_CONFIG_HOME", folder.path().c_str());
-    qputenv("XDG_DATA_HOME", folder.path().c_str());
-    QApplication application(argc, argv);
-    applyLook();
-    WindowProgram program;
-    MainWindow& window = program.window();
-    window.resize(1366, 768);
-    QTimer::singleShot(500, &window, [&] {
-        window.openPaths({folder.write("lote.rpt", largeReport(kRecords))}, true);
+    return measureWindow(argc, argv, largeReport(kRecords), [](MainWindow& window) {
+        window.resize(1366, 768);
+        QCoreApplication::processEvents();
         QElapsedTimer timer;
         timer.start();
         window.toggleTimeStrip();
@@ -93,7 +78,5 @@ int main(int argc, char** argv) {
         QCoreApplication::processEvents();
         std::cout << "with the problems beside it, ";
         measureBrush(*window.findChild<TimeStripView*>(), strip);
-        QCoreApplication::quit();
     });
-    return QApplication::exec();
 }

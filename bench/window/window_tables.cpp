@@ -8,18 +8,13 @@
 #include <iostream>
 #include <utility>
 
-#include <QApplication>
 #include <QElapsedTimer>
 #include <QTabWidget>
-#include <QTimer>
 
-#include "desktop/main_window.h"
 #include "desktop/widgets/finding_view.h"
-#include "desktop/widgets/look.h"
 #include "desktop/widgets/side_panel.h"
-#include "desktop/window_program.h"
-#include "support/temp_folder.h"
 #include "window/large_report.h"
+#include "window/measured_window.h"
 
 namespace {
 
@@ -61,24 +56,12 @@ void measure(MainWindow& window, FindingView& table, const char* name, FindingTa
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("DISPLAY")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
-    const TempFolder folder;
-    qputenv("XDG_CONFIG_HOME", folder.path().c_str());
-    qputenv("XDG_DATA_HOME", folder.path().c_str());
-    QApplication application(argc, argv);
-    applyLook();
-    WindowProgram program;
-    MainWindow& window = program.window();
-    window.resize(1366, 768);
-    QTimer::singleShot(500, &window, [&] {
-        window.openPaths({folder.write("lote.rpt", largeReport(kPasses * kPerPass, kPerPass))},
-                         true);
-        QCoreApplication::processEvents();
-        measure(window, window.sidePanel().passes(), "passes", FindingTable::Kind::Passes);
-        measure(window, window.sidePanel().problems(), "problems", FindingTable::Kind::Problems);
-        QCoreApplication::quit();
-    });
-    return QApplication::exec();
+    return measureWindow(
+        argc, argv, largeReport(kPasses * kPerPass, kPerPass), [](MainWindow& window) {
+            window.resize(1366, 768);
+            QCoreApplication::processEvents();
+            measure(window, window.sidePanel().passes(), "passes", FindingTable::Kind::Passes);
+            measure(window, window.sidePanel().problems(), "problems",
+                    FindingTable::Kind::Problems);
+        });
 }
