@@ -61,6 +61,9 @@ void DrawingCommands::mnuEditTrocha() {
             work->trocha(swath);
         }
     }
+    if (map_.modeLayer() != nullptr) {
+        map_.refreshColorScale();
+    }
     if (map_.style().mode == ColorMode::Error) {
         recalcErrorAreas(map_);
     }

@@ -47,6 +47,9 @@ TEST_F(CoverageMap, ShowsWhatWasCoveredUntilAnotherMapIsAsked) {
     session.display().showChange();
     EXPECT_THAT(shown(), testing::Contains("Una vez: 0.04 ha"));
     EXPECT_THAT(shown(), testing::Contains(testing::HasSubstr("Superficie recorrida")).Times(1));
+    dialogs.inputAnswers = {"10"};
+    session.colours().drawing.mnuEditTrocha();
+    EXPECT_THAT(shown(), testing::Contains("Una vez: 0.02 ha"));
     session.colours().modes.mnuColorDateMap();
     EXPECT_FALSE(commands().isMapOn());
     EXPECT_THAT(shown(), testing::Not(testing::Contains(testing::HasSubstr("Cobertura"))));
