@@ -76,13 +76,18 @@ double hectaresInside(const CoverageGrid& grid, const LotGround& lots) {
     return hectares(inside);
 }
 
-/// By what counted cells are multiplied to take out what they miss by chance: all visits together
-/// are the dosed area.
-double correctionOf(const SwathSurvey& survey, const CoverageGrid& grid) {
+double visitedSquareMetres(const CoverageGrid& grid) {
     double visited = 0;
     for (const auto& tile : grid.tiles()) {
         visited += static_cast<double>(tile->visits) * grid.cellSquareMetres(*tile);
     }
+    return visited;
+}
+
+/// By what counted cells are multiplied to take out what they miss by chance: all visits together
+/// are the dosed area.
+double correctionOf(const SwathSurvey& survey, const CoverageGrid& grid) {
+    const double visited = visitedSquareMetres(grid);
     const double factor = visited > 0 ? survey.dosedSquareMetres / visited : 1;
     return std::abs(factor - 1) <= kChance ? factor : 1;
 }
@@ -99,8 +104,8 @@ CoverageFigures figuresOf(const SwathSurvey& survey, const CoverageGrid& grid, d
     figures.dosed = hectares(survey.dosedSquareMetres);
     figures.undosed = hectares(survey.undosedSquareMetres);
     figures.gross = figures.dosed + figures.undosed;
-    figures.net = std::min(figures.once + figures.twice + figures.more, figures.dosed);
-    figures.overlap = figures.dosed - figures.net;
+    figures.net = figures.once + figures.twice + figures.more;
+    figures.overlap = std::max(hectares(visitedSquareMetres(grid)) * correction - figures.net, 0.0);
     return figures;
 }
 

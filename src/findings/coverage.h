@@ -21,9 +21,11 @@ struct CoverageFigures {
     double gross = 0;
     double dosed = 0;
     double undosed = 0;
-    /// Ground that got product once or more. With `overlap` it makes up `dosed`.
+    /// Ground that got product once or more. With `overlap` it makes up `dosed`, but for tight
+    /// turns, whose outer side is longer than the way.
     double net = 0;
-    /// Ground as often as it got product again.
+    /// Ground as often as it got product again; where the swaths of a tight turn lie over each
+    /// other is no overlap.
     double overlap = 0;
     /// The parts of `net`.
     double once = 0;

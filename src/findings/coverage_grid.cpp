@@ -33,6 +33,16 @@ Side sideBetween(LatticePoint a, LatticePoint b) {
     return {low.u, low.v, high.v, rise > 0 ? (high.u - low.u) / rise : 0};
 }
 
+/// Answers how many had not been covered.
+std::uint8_t coverOnceMore(std::span<std::uint8_t> cells) {
+    std::uint8_t fresh = 0;  // as narrow as a cell, so that many are counted at once
+    for (std::uint8_t& cell : cells) {
+        fresh = static_cast<std::uint8_t>(fresh + (cell == 0 ? 1 : 0));
+        cell = static_cast<std::uint8_t>(cell + (cell != CoverageGrid::kMostOften ? 1 : 0));
+    }
+    return fresh;
+}
+
 /// The first cell whose middle is not before `place`.
 std::int32_t cellFrom(double place) {
     return static_cast<std::int32_t>(std::ceil(place - 0.5));
@@ -95,16 +105,37 @@ void CoverageGrid::coverRow(std::int32_t row, std::int32_t first, std::int32_t e
         Tile& at = tile(tileOf(first), tileOf(row));
         const std::int32_t place = placeInTile(first);
         const std::int32_t count = std::min(end - first, kTileSide - place);
-        std::uint8_t fresh = 0;  // as narrow as a cell, so that many are counted at once
-        for (std::uint8_t& cell : at.part(placeInTile(row), place, count)) {
-            fresh = static_cast<std::uint8_t>(fresh + (cell == 0 ? 1 : 0));
-            cell = static_cast<std::uint8_t>(cell + (cell != kMostOften ? 1 : 0));
-        }
-        covered.fresh += fresh;
+        const std::span<std::uint8_t> cells = at.part(placeInTile(row), place, count);
         covered.cells += static_cast<std::uint32_t>(count);
-        at.visits += static_cast<std::uint64_t>(count);
+        if (folds_) {
+            coverInFold(cells, at, covered);
+        } else {
+            covered.fresh += coverOnceMore(cells);
+            at.visits += static_cast<std::uint64_t>(count);
+        }
         first += count;
     }
+}
+
+void CoverageGrid::coverInFold(std::span<std::uint8_t> cells, Tile& tile, Covered& covered) {
+    folded_.push_back(cells);
+    for (std::uint8_t& cell : cells) {
+        if ((cell & kFolded) == 0) {
+            covered.fresh += coverOnceMore({&cell, 1});
+            cell |= kFolded;
+            ++tile.visits;
+        }
+    }
+}
+
+void CoverageGrid::endFold() {
+    for (const std::span<std::uint8_t> cells : folded_) {
+        for (std::uint8_t& cell : cells) {
+            cell &= kMostOften;
+        }
+    }
+    folded_.clear();
+    folds_ = false;
 }
 
 void CoverageGrid::leaveOut(std::int32_t column, std::int32_t row) {

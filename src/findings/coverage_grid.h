@@ -52,6 +52,9 @@ public:
     /// outside. Figures that share a side share no cell and leave none between them. One with a
     /// corner that is no number, or too far away for any field, is left out.
     Covered cover(const std::array<LatticePoint, 4>& figure);
+    /// Between these two calls a cell is covered once, however often a figure lies on it.
+    void beginFold() { folds_ = true; }
+    void endFold();
     /// When everything is covered: says of a cell that it was left out; nothing for a covered one.
     void leaveOut(std::int32_t column, std::int32_t row);
 
@@ -76,14 +79,20 @@ private:
     static constexpr int kTileBits = 7;
     static_assert(1 << kTileBits == kTileSide);
     static constexpr std::uint8_t kLeftOut = 0x80;
+    /// While a fold is open: covered in it.
+    static constexpr std::uint8_t kFolded = 0x80;
     /// Along a side of the square of tiles of which the last used are at hand.
     static constexpr std::uint32_t kRecent = 8;
 
     [[nodiscard]] static std::uint64_t keyOf(std::int32_t column, std::int32_t row);
     Tile& tile(std::int32_t column, std::int32_t row);
     void coverRow(std::int32_t row, std::int32_t first, std::int32_t end, Covered& covered);
+    void coverInFold(std::span<std::uint8_t> cells, Tile& tile, Covered& covered);
 
     GroundLattice lattice_;
+    bool folds_ = false;
+    /// What was covered in the open fold.
+    std::vector<std::span<std::uint8_t>> folded_;
     std::vector<std::unique_ptr<Tile>> tiles_;
     std::unordered_map<std::uint64_t, Tile*> byPlace_;
     std::array<Tile*, std::size_t{kRecent} * kRecent> recent_{};

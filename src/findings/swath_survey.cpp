@@ -47,6 +47,68 @@ void addStep(SwathSurvey& survey, const WorkRecord& record, LonLat to) {
     }
 }
 
+/// From one point to the next, in metres, as far as directions and lengths on a field need it.
+struct Way {
+    double east = 0;
+    double north = 0;
+
+    [[nodiscard]] double length() const { return std::hypot(east, north); }
+};
+
+/// Radians between the borders of a step, each of which halves the turn at its point.
+double turnOver(const std::vector<Way>& steps, std::size_t step) {
+    const Way& before = steps[step > 0 ? step - 1 : 0];
+    const Way& after = steps[std::min(step + 1, steps.size() - 1)];
+    const double sine = before.east * after.north - before.north * after.east;
+    const double cosine = before.east * after.east + before.north * after.north;
+    return std::abs(std::atan2(sine, cosine)) / 2;
+}
+
+/// Marks a step, from an end of the strip on, when it folds or lies less than half a width behind
+/// one that does, which is as far as a swath reaches over.
+class FoldMarker {
+public:
+    FoldMarker(SwathStrip& strip, const std::vector<Way>& steps) : strip_(strip), steps_(steps) {}
+
+    void mark(std::size_t step) {
+        const double metres = steps_[step].length();
+        const auto width = static_cast<double>(strip_.widths[step]);
+        // On the inner side the swath goes back where the borders turn faster than it goes on.
+        if (metres < width / 2 * turnOver(steps_, step)) {
+            left_ = width / 2;
+        }
+        if (left_ > 0) {
+            strip_.folds[step] = true;
+            left_ -= metres;
+        }
+    }
+
+private:
+    SwathStrip& strip_;
+    const std::vector<Way>& steps_;
+    double left_ = 0;
+};
+
+void markFolds(SwathStrip& strip) {
+    const std::size_t count = strip.widths.size();
+    strip.folds.assign(count, false);
+    std::vector<Way> steps(count);
+    for (std::size_t i = 0; i < count; ++i) {
+        const LonLat from = strip.points[i];
+        const LonLat to = strip.points[i + 1];
+        steps[i] = {(to.x - from.x) * metresPerDegreeEast(to.y),
+                    (to.y - from.y) * METERS_PER_DEGREE};
+    }
+    FoldMarker forwards(strip, steps);
+    for (std::size_t i = 0; i < count; ++i) {
+        forwards.mark(i);
+    }
+    FoldMarker backwards(strip, steps);
+    for (std::size_t i = count; i > 0; --i) {
+        backwards.mark(i - 1);
+    }
+}
+
 }  // namespace
 
 SwathSurvey surveySwaths(std::span<const WorkLayer* const> passes) {
@@ -62,6 +124,7 @@ SwathSurvey surveySwaths(std::span<const WorkLayer* const> passes) {
             survey.strips.back().points.push_back(record.position);
             before = record;
         }
+        markFolds(survey.strips.back());
     }
     return survey;
 }

@@ -20,6 +20,8 @@ struct SwathStrip {
     std::vector<LonLat> points;
     /// Metres of every step; 0 where nothing came out.
     std::vector<float> widths;
+    /// Of every step: whether it belongs to a turn so tight that swaths of it lie over each other.
+    std::vector<bool> folds;
 };
 
 /// All strips of a job with what is known of them before anything is counted.
@@ -45,7 +47,8 @@ struct SwathSurvey {
 [[nodiscard]] GroundLattice latticeFor(const SwathSurvey& survey);
 
 /// Covers the ground of the steps of a strip that got product, in order, and calls
-/// `take(step, covered)` with the number of each and what it covered.
+/// `take(step, covered)` with the number of each and what it covered. In a turn that folds, ground
+/// is covered once.
 template <typename Take>
 void burn(const SwathStrip& strip, CoverageGrid& grid, Take take) {
     const GroundLattice& lattice = grid.lattice();
@@ -60,14 +63,22 @@ void burn(const SwathStrip& strip, CoverageGrid& grid, Take take) {
     };
     Edge end;
     float lastWidth = 0;
+    bool isFold = false;
     for (std::size_t i = 0; i < strip.widths.size(); ++i) {
         const float width = strip.widths[i];
+        if (strip.folds[i] != isFold) {
+            isFold = !isFold;
+            isFold ? grid.beginFold() : grid.endFold();
+        }
         if (width > 0) {
             const Edge start = width == lastWidth ? end : edgeAt(i, width);
             end = edgeAt(i + 1, width);
             take(i, grid.cover({start.left, end.left, end.right, start.right}));
         }
         lastWidth = width;
+    }
+    if (isFold) {
+        grid.endFold();
     }
 }
 

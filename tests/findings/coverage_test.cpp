@@ -131,6 +131,18 @@ TEST_P(AnyDirection, AHeadlandDrivenTwiceCountsOnceAndAgain) {
     EXPECT_THAT(figures.twice + figures.more, IsHectares(2));
 }
 
+TEST_P(AnyDirection, ATightTurnIsNoOverlap) {
+    Job job(GetParam());
+    job.drive({{0, 0}, {100, 0}, {100, 100}, {40, 100}}, 100, 1);
+    // 260 metres of 20, less what the inner side of a corner covers a second time.
+    const CoverageFigures figures = job.cover().figures;
+    EXPECT_NEAR(figures.net, 0.52, 0.01);
+    EXPECT_LT(figures.overlap, 0.0005);
+    EXPECT_LT(figures.twice + figures.more, 0.0005);
+    job.drive({{100, 20}, {100, 80}});
+    EXPECT_THAT(job.cover().figures.overlap, IsHectares(0.12)) << "another pass";
+}
+
 TEST_P(AnyDirection, ARowLeftOutIsSkippedWithAndWithoutALot) {
     Job job(GetParam());
     job.rows({0, 20, 40, 60, 100, 120, 140});
